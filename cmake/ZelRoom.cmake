@@ -1,0 +1,25 @@
+# The flags that all code is built with, and the one way to declare a room.
+
+add_library(zel_flags INTERFACE)
+target_compile_options(zel_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wduplicated-branches
+  -Wlogical-op -Wformat=2 -Wimplicit-fallthrough -Werror)
+target_compile_definitions(zel_flags INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+  QT_MESSAGELOGCONTEXT ZEL_VERSION="${PROJECT_VERSION}")
+if(ZEL_SANITIZE)
+  target_compile_options(zel_flags INTERFACE -fsanitize=${ZEL_SANITIZE} -fno-omit-frame-pointer
+    -fno-sanitize-recover=all)
+  target_link_options(zel_flags INTERFACE -fsanitize=${ZEL_SANITIZE})
+endif()
+
+# zel_room(NAME SOURCES file... DOORS library...): the room's library zel_NAME.
+# DOORS are the only rooms and libraries that its code may use; tests/walls checks the includes as well.
+function(zel_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;DOORS" ${ARGN})
+  add_library(zel_${name} STATIC ${ROOM_SOURCES})
+  set_target_properties(zel_${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(zel_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(zel_${name} PUBLIC ${ROOM_DOORS} PRIVATE zel_flags)
+endfunction()

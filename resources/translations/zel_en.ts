@@ -1,0 +1,285 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
+<context>
+    <name>store</name>
+    <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
+    <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
+    <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
+    <message id="StoreNoSuchRecord"><translation>There is no patient with the ID “%1”.</translation></message>
+    <message id="StoreNotParsed"><translation>The data file %1 is damaged or is no data file of this program. It is left as it is, and nothing can be saved until it is readable again: repair it, put a copy in its place, or move it away to start with a new one.</translation></message>
+    <message id="StoreNotReadable"><translation>The data file %1 cannot be read. It is left as it is, and nothing can be saved until it is readable again.</translation></message>
+    <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
+    <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
+    <message id="Warning"><translation>Warning</translation></message>
+    <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
+    <message id="XmlBytesNotInEncoding"><translation>It holds bytes that are not in its encoding, %1.</translation></message>
+    <message id="XmlEncodingUnknown"><translation>Its encoding, %1, is not known.</translation></message>
+    <message id="XmlEntityNotTaken"><translation>It refers to an entity; only the five of XML itself are taken.</translation></message>
+    <message id="XmlErrorNearLine"><translation>Near line %1: %2</translation></message>
+    <message id="XmlNoRoot"><translation>It holds no element.</translation></message>
+    <message id="XmlNotWritable"><translation>The data file cannot be written: changes and downloaded readings cannot be saved. Please check the permissions of the file and of its folder.</translation></message>
+    <message id="XmlNulByte"><translation>It holds a NUL character.</translation></message>
+    <message id="XmlSeveralRoots"><translation>It holds more than one root element.</translation></message>
+    <message id="XmlTextOutsideRoot"><translation>It holds text outside its root element.</translation></message>
+    <message id="XmlWrongRoot"><translation>Its root element is “%1”, not “ZEL”.</translation></message>
+</context>
+<context>
+    <name>monitor</name>
+    <message id="monitorAccessDenied"><translation>A monitor is connected, but this program may not use it: another program is using it, or permission for the USB device is missing.</translation></message>
+    <message id="monitorBadCheckField"><translation>The monitor's answer arrived damaged and was not used. Please try again.</translation></message>
+    <message id="monitorBadFixedContent"><translation>The monitor's answer could not be understood and was not used. Please try again.</translation></message>
+    <message id="monitorInterrupted"><translation>The exchange with the monitor was stopped before it was complete.</translation></message>
+    <message id="monitorNoAcknowledgement"><translation>The monitor did not accept the command. Please switch it off and on and try again.</translation></message>
+    <message id="monitorNoDevice"><translation>No monitor is connected. Please plug it in and try again.</translation></message>
+    <message id="monitorReadFailed"><translation>The connection to the monitor broke off. Please check the cable and try again.</translation></message>
+    <message id="monitorSuccess"><translation>The monitor did what it was asked.</translation></message>
+    <message id="monitorTimeOut"><translation>The monitor did not answer in time. Please check that it is switched on and try again.</translation></message>
+    <message id="monitorUnfitID"><translation>The monitor cannot keep this ID, so nothing was sent. An ID for the monitor has 1 to 11 letters, digits or signs without accents.</translation></message>
+    <message id="monitorWriteFailed"><translation>The monitor does not take what is sent to it. Please unplug it, plug it in again and try once more.</translation></message>
+    <message id="simulatedMissing"><translation>The value of “%1” is missing.</translation></message>
+    <message id="simulatedNoPlan"><translation>It must hold one JSON object.</translation></message>
+    <message id="simulatedNotAllowed"><translation>The value of “%1” must be one of these: %2</translation></message>
+    <message id="simulatedNotJson"><translation>It is no valid JSON: near character %1, %2.</translation></message>
+    <message id="simulatedNotList"><translation>The value of “%1” must be a list.</translation></message>
+    <message id="simulatedNotObject"><translation>The value of “%1” must be an object.</translation></message>
+    <message id="simulatedNotText"><translation>The value of “%1” must be a text.</translation></message>
+    <message id="simulatedNotTime"><translation>The value of “%1” must be a time such as 2026-11-01T07:12, in the years 2000 to 2099, or the word undated.</translation></message>
+    <message id="simulatedNotWhole"><translation>The value of “%1” must be a whole number in the range %2.</translation></message>
+    <message id="simulatedRefused"><translation>The simulated monitor's file %1 cannot be used: %2</translation></message>
+    <message id="simulatedTooMany"><translation>The list “%1” must have at most %2 entries.</translation></message>
+    <message id="simulatedUnencodable"><translation>The value of “%1” has characters that the monitor does not know.</translation></message>
+    <message id="simulatedUnknownKey"><translation>The key “%1” is not known.</translation></message>
+    <message id="simulatedUnreadable"><translation>The simulated monitor's file %1 cannot be read: %2</translation></message>
+    <message id="simulatedWrongLength"><translation>The value of “%1” must have this number of characters: %2</translation></message>
+</context>
+<context>
+    <name>app</name>
+    <message id="afib"><translation>AFib</translation></message>
+    <message id="AP_Title"><translation>ZEL – blood pressure readings</translation></message>
+    <message id="argumentUnknown"><translation>unexpected argument “%1”; see zel --help</translation></message>
+    <message id="argumentWithoutFile"><translation>%1= needs the name of a file; see zel --help</translation></message>
+    <message id="cancel"><translation>Cancel</translation></message>
+    <message id="chartLater"><translation>The chart comes with a later version</translation></message>
+    <message id="chartLaterAdvice"><translation>It will draw these readings over time. Until then the Readings page (Ctrl+3) lists every one of them.</translation></message>
+    <message id="clockAhead"><translation>%1 ahead of this computer</translation></message>
+    <message id="clockBehind"><translation>%1 behind this computer</translation></message>
+    <message id="clockDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
+    <message id="clockHours" numerus="yes"><translation><numerusform>%n hour</numerusform><numerusform>%n hours</numerusform></translation></message>
+    <message id="clockMinutes" numerus="yes"><translation><numerusform>%n minute</numerusform><numerusform>%n minutes</numerusform></translation></message>
+    <message id="clockRight"><translation>In step with this computer</translation></message>
+    <message id="columnDate"><translation>Date</translation></message>
+    <message id="columnDia"><translation>DIA
+mmHg</translation></message>
+    <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPulse"><translation>Pulse
+1/min</translation></message>
+    <message id="columnSys"><translation>SYS
+mmHg</translation></message>
+    <message id="columnTime"><translation>Time</translation></message>
+    <message id="confirmSendID"><translation>Write the ID %1 into the monitor? From then on its readings belong to this patient.</translation></message>
+    <message id="dataFile"><translation>Data file</translation></message>
+    <message id="dataFileUnreadable"><translation>The data file cannot be used</translation></message>
+    <message id="dataPanel"><translation>Data</translation></message>
+    <message id="download"><translation>Download readings</translation></message>
+    <message id="downloadAdvice"><translation>Please leave the monitor connected. Its readings are stored when all of them have arrived.</translation></message>
+    <message id="downloadButton"><translation>&amp;Download</translation></message>
+    <message id="downloadCancel"><translation>Cancel the download</translation></message>
+    <message id="downloadCancelled"><translation>Download cancelled. Nothing was stored; the readings are still in the monitor.</translation></message>
+    <message id="downloadEmpty"><translation>The monitor holds no readings.</translation></message>
+    <message id="downloadFailed"><translation>The readings could not be downloaded, and nothing was stored. They are still in the monitor. %1</translation></message>
+    <message id="downloadFetched" numerus="yes"><translation><numerusform>%n reading downloaded</numerusform><numerusform>%n readings downloaded</numerusform></translation></message>
+    <message id="downloadHint"><translation>Fetch the readings from the monitor (Ctrl+D). The monitor must be connected and hold this patient’s ID.</translation></message>
+    <message id="downloadNew" numerus="yes"><translation><numerusform>%1, %n new</numerusform><numerusform>%1, %n new</numerusform></translation></message>
+    <message id="downloadNothingNew"><translation>%1, none new: all of them were stored before</translation></message>
+    <message id="downloadNotStored"><translation>The readings could not be stored. They are still in the monitor. %1</translation></message>
+    <message id="downloadOtherMonitor"><translation>The readings in the monitor belong to another ID than this patient’s, so nothing was stored. Please connect this patient’s monitor and try again.</translation></message>
+    <message id="downloadProgress"><translation>Download progress</translation></message>
+    <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
+    <message id="downloadStopping"><translation>Stopping …</translation></message>
+    <message id="eraseFailed"><translation>%1. The readings are safely stored, but the monitor could not be emptied: it still holds them. %2</translation></message>
+    <message id="IDNotForMonitor"><translation>The ID “%1” does not fit the monitor. A monitor keeps IDs of 1 to 11 plain letters, digits and signs, without accents and without blanks at the ends.</translation></message>
+    <message id="ihd"><translation>IHD</translation></message>
+    <message id="lastDownload"><translation>Last download</translation></message>
+    <message id="map"><translation>MAP
+mmHg</translation></message>
+    <message id="monitorClock"><translation>Clock</translation></message>
+    <message id="monitorConnected"><translation>Monitor connected</translation></message>
+    <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Choose this patient and press Download to fetch the readings.</translation></message>
+    <message id="monitorCounting"><translation>Asking the monitor for its readings. This can take up to 20 seconds …</translation></message>
+    <message id="monitorDownloading"><translation>Downloading readings …</translation></message>
+    <message id="monitorErasing"><translation>Emptying the monitor …</translation></message>
+    <message id="monitorGreeting"><translation>Reading the monitor’s clock and ID …</translation></message>
+    <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorNotConnected"><translation>Not connected. Attach the monitor to a USB port.</translation></message>
+    <message id="monitorPanel"><translation>Monitor</translation></message>
+    <message id="monitorReady"><translation>Connected</translation></message>
+    <message id="monitorSendingID"><translation>Writing the ID into the monitor …</translation></message>
+    <message id="monitorState"><translation>State</translation></message>
+    <message id="monitorTrouble"><translation>Connected, but the last exchange failed and is being tried again. %1</translation></message>
+    <message id="monitorWithoutID"><translation>The connected monitor holds no ID. Choose a patient and press “Send ID” to make it this patient’s monitor.</translation></message>
+    <message id="newIDFromDevice"><translation>The monitor holds the ID %1, which belongs to no patient here. Add a patient with this ID, or choose a patient and press “Send ID”.</translation></message>
+    <message id="no"><translation>&amp;No</translation></message>
+    <message id="NoData"><translation>No readings yet</translation></message>
+    <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
+    <message id="noDisplay"><translation>there is no display to open a window on. Start zel in a desktop session, or use its commands that need no window: see zel --help</translation></message>
+    <message id="noID"><translation>none</translation></message>
+    <message id="none"><translation>none</translation></message>
+    <message id="noPatients"><translation>No patients yet</translation></message>
+    <message id="noPatientsAdvice"><translation>Add the first one on the command line:
+zel patients --add --id ID --family-name NAME --given-names NAMES
+and start ZEL again.</translation></message>
+    <message id="noPatientSelected"><translation>No patient selected</translation></message>
+    <message id="notKnown"><translation>–</translation></message>
+    <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="pad"><translation>PAD</translation></message>
+    <message id="pageChart"><translation>Chart</translation></message>
+    <message id="pagePatients"><translation>Patients</translation></message>
+    <message id="pageReadings"><translation>Readings</translation></message>
+    <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
+    <message id="patientID"><translation>ID</translation></message>
+    <message id="patientList"><translation>List of patients</translation></message>
+    <message id="patientName"><translation>Name</translation></message>
+    <message id="patientsDetail"><translation>Choose the patient whose readings you want to see or download.</translation></message>
+    <message id="patientTotal"><translation>Patients</translation></message>
+    <message id="pp"><translation>PP
+mmHg</translation></message>
+    <message id="programName"><translation>ZEL</translation></message>
+    <message id="programPurpose"><translation>Blood pressure readings, from the monitor to your records</translation></message>
+    <message id="programVersion"><translation>Version %1</translation></message>
+    <message id="ProgressPatientInfo"><translation>%1 %2 (ID %3)</translation></message>
+    <message id="ProgressProcessInfo"><translation>%1 of %2 readings</translation></message>
+    <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="readingList"><translation>List of readings</translation></message>
+    <message id="readingsFromTo"><translation>%1, from %2 to %3</translation></message>
+    <message id="readingsOn"><translation>%1, on %2</translation></message>
+    <message id="readingTotal"><translation>Readings of this patient</translation></message>
+    <message id="sendID"><translation>Send ID to the monitor</translation></message>
+    <message id="sendIDButton"><translation>&amp;Send ID</translation></message>
+    <message id="SendIDDataMsg" numerus="yes"><translation><numerusform>The monitor still holds %n reading. Keep it in the monitor? “Yes” keeps it for this patient, “No” deletes it from the monitor for good.</numerusform><numerusform>The monitor still holds %n readings. Keep them in the monitor? “Yes” keeps them for this patient, “No” deletes them from the monitor for good.</numerusform></translation></message>
+    <message id="SendIDDataTitle"><translation>Readings in the monitor</translation></message>
+    <message id="sendIDFailed"><translation>The ID was not sent to the monitor. %1</translation></message>
+    <message id="sendIDHint"><translation>Write this patient’s ID into the connected monitor, which holds another one.</translation></message>
+    <message id="sideColumn"><translation>Monitor and data</translation></message>
+    <message id="statusConnected"><translation>Monitor connected</translation></message>
+    <message id="statusNotConnected"><translation>No monitor</translation></message>
+    <message id="Synchronization"><translation>Set the monitor’s clock?</translation></message>
+    <message id="synctimeAsk"><translation>The monitor’s clock is %1. Set it to this computer’s time, so that new readings get the right date and time?</translation></message>
+    <message id="tabChart"><translation>&amp;Chart</translation></message>
+    <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
+    <message id="tabPatients"><translation>&amp;Patients</translation></message>
+    <message id="tabReadings"><translation>&amp;Readings</translation></message>
+    <message id="tabShown"><translation>shown now</translation></message>
+    <message id="yes"><translation>&amp;Yes</translation></message>
+</context>
+<context>
+    <name>cli</name>
+    <message id="CliAddMissing"><translation>--id, --family-name and --given-names go with --add.</translation></message>
+    <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
+    <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
+    <message id="CliBadWait"><translation>--wait needs a whole number of seconds from 0 to %1.</translation></message>
+    <message id="CliClockUnread"><translation>The monitor's clock could not be read. %1</translation></message>
+    <message id="CliClockUnset"><translation>The monitor's clock could not be set. %1</translation></message>
+    <message id="CliCountUnread"><translation>The number of readings in the monitor could not be read. %1</translation></message>
+    <message id="CliDownloadFailed"><translation>The readings could not be downloaded, and nothing was stored. %1 They are still in the monitor: please try again.</translation></message>
+    <message id="CliDownloadUnsaved"><translation>The downloaded readings could not be stored. %1 They are still in the monitor.</translation></message>
+    <message id="CliEraseAfterFailed"><translation>The readings are safely stored, but the monitor's memory could not be erased afterwards. %1 You can erase it with 'zel monitor --erase --yes'.</translation></message>
+    <message id="CliEraseFailed"><translation>The monitor's memory could not be erased. %1</translation></message>
+    <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
+    <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
+    <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]]
+       zel COMMAND [OPTION]...
+
+Keeps the readings of automatic blood-pressure monitors, patient by patient.
+Without a command a window opens. The commands do the same jobs without one, on the same data file:
+
+  monitor    show the attached monitor, or set its clock or ID, or erase its memory
+  patients   list the patients, or add one
+  download   store the monitor's readings for a patient
+  readings   print a patient's readings
+
+Options:
+  --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
+  -h, --help                   show this text; 'zel COMMAND --help' tells about a command
+  --version                    show the version
+
+Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage.</translation></message>
+    <message id="CliHelpDownload"><translation>Usage: zel download --patient ID [--any-monitor] [OPTION]...
+
+Downloads the monitor's readings, stores those that are not stored yet, and prints how many were
+downloaded and how many of them are new. Progress goes to standard error. The monitor's memory is erased
+only if the settings say so, and only when the readings are safely stored.
+
+Options:
+  --patient ID                 the patient to store them for
+  --any-monitor                download even if the monitor holds another ID than the patient's
+  --wait SECONDS               how long to wait for the monitor (5 unless told)
+  --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpMonitor"><translation>Usage: zel monitor [OPTION]...
+       zel monitor --set-clock [OPTION]...
+       zel monitor --send-id ID [OPTION]...
+       zel monitor --erase --yes [OPTION]...
+
+Prints the attached monitor's model, arrhythmia detection (pad, afib or none), ID, clock and number of
+readings, one 'key: value' a line. Counting the readings may take up to 20 s.
+
+Options:
+  --set-clock                  set the monitor's clock to this computer's, and print it
+  --send-id ID                 write an ID of 1 to 11 plain characters into the monitor, and print it;
+                               the readings in its memory stay there
+  --erase                      remove all readings from the monitor's memory, and print how many are left
+  --yes                        confirms --erase
+  --wait SECONDS               how long to wait for the monitor (5 unless told)
+  --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpPatients"><translation>Usage: zel patients
+       zel patients --add --id ID --family-name NAME --given-names NAMES
+
+Lists the patients as CSV with the header id,family-name,given-names, or adds one.
+
+Options:
+  --add                        add a patient; the ID must be a new one
+  --id ID                      the patient's ID, as the monitor holds it
+  --family-name NAME           the family name
+  --given-names NAMES          the given names
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY]
+
+Prints a patient's readings as CSV, the oldest first, with the header
+date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Pressures are in mmHg, the pulse in beats per minute.
+A reading that the monitor stored without a date has n.a and --:-- instead; it is left out when a period
+is given.
+
+Options:
+  --patient ID                 whose readings
+  --from DAY                   only from this day on (yyyy-MM-dd)
+  --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
+    <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
+    <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
+    <message id="CliMonitorDenied"><translation>%1 Reading it needs a permission: install packaging/70-zel.rules in /etc/udev/rules.d, run 'udevadm control --reload', and attach the monitor again.</translation></message>
+    <message id="CliMonitorSilent"><translation>A monitor is attached, but it did not answer within %1 s. %2</translation></message>
+    <message id="CliMonitorWithoutID"><translation>The monitor holds no ID, so its readings may not be those of patient '%1'. Write the ID with 'zel monitor --send-id', or use --any-monitor to download all the same.</translation></message>
+    <message id="CliNoCommand"><translation>A command is missing.</translation></message>
+    <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
+    <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
+    <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
+    <message id="CliOneJob"><translation>Only one of --set-clock, --send-id and --erase can be done at a time.</translation></message>
+    <message id="CliOptionMissing"><translation>--%1 is missing, or its value is empty.</translation></message>
+    <message id="CliOptionTwice"><translation>--%1 is given more than once.</translation></message>
+    <message id="CliOtherMonitor"><translation>The monitor holds the ID '%1', not '%2', so its readings may be another patient's. Use --any-monitor to download them all the same.</translation></message>
+    <message id="CliOutputFailed"><translation>The output could not be written.</translation></message>
+    <message id="CliPatientKnown"><translation>There is a patient with the ID '%1' already.</translation></message>
+    <message id="CliProgress"><translation>Received %1 of %2 readings</translation></message>
+    <message id="CliTryHelp"><translation>Try '%1'.</translation></message>
+    <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>
+    <message id="CliUnknownCommand"><translation>There is no command '%1'.</translation></message>
+    <message id="CliYesAlone"><translation>--yes goes with --erase.</translation></message>
+</context>
+</TS>

@@ -1,0 +1,105 @@
+#include "app/AppController.h"
+
+#include "app/GraphViewController.h"
+#include "app/Log.h"
+#include "app/PatientViewController.h"
+#include "app/ProgressWindowController.h"
+#include "app/SplashWindow.h"
+#include "app/TableViewController.h"
+#include "app/WindowPlacement.h"
+
+#include <QApplication>
+
+namespace zel {
+
+AppController::AppController(const Parts& needed, const Timing& times)
+    : parts(needed), timing(times), window(needed.store, needed.session),
+      watch({needed.monitor, needed.session, needed.store, needed.panel, needed.clock}, times.polling),
+      patientPage(new PatientViewController(needed.store, needed.session, needed.monitor, needed.panel)),
+      graphPage(new GraphViewController(needed.store)),
+      tablePage(new TableViewController(needed.store, needed.session)),
+      pages{patientPage, graphPage, tablePage} {
+    for (PageController* page : pages) window.addPage(*page);
+    connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
+    connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
+    connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
+    connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
+    connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
+    connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
+}
+
+AppController::~AppController() { parts.monitor.stop(); }
+
+void AppController::awakeFromNib(const StoreResult& loaded) {
+    // A file that could not even be read gets its own message once the window is there.
+    if (loaded) parts.store.checkXmlWritable(parts.panel);
+    AdjustWindowFitToScreen(window, false);
+    window.setPatientPanelsVisible(true);
+    enable2Tabs(!parts.store.getPatientArray().empty());
+    displayViewController(*pages[0], 0);
+    qCInfo(lcApp, "monitorBPM 2 .... %i", iSelectedTab);
+    watch.monitorBPM();
+    patientPage->UpdateUIBySetting();
+    setHWButtons(false);
+    window.setWindowTitle(qtTrId("AP_Title"));
+    window.setMinimumSize(640, 480);
+}
+
+void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
+    window.show();
+    if (!loaded) parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
+    splash = new SplashWindow(&window);
+    connect(splash, &SplashWindow::splashClosed, this, [this] {
+        watch.setSplashClosed();
+        window.activateWindow();
+    });
+    splash->showSplash(timing.splash);
+}
+
+void AppController::changeTab(int tabTag) {
+    iSelectedTab = tabTag;
+    window.setPatientPanelsVisible(tabTag == 0);
+    displayViewController(*pages.at(static_cast<std::size_t>(tabTag)), tabTag);
+}
+
+void AppController::displayViewController(PageController& controller, int tabTag) {
+    window.setShownTab(tabTag);
+    if (!window.makeFirstResponder()) return QApplication::beep();
+    window.showPage(controller);
+    controller.LoadData();
+}
+
+void AppController::enable2Tabs(bool enabled) { window.enable2Tabs(enabled); }
+
+void AppController::setHWButtons(bool connected) {
+    for (PageController* page : pages) page->setHWButtons(connected);
+}
+
+void AppController::dataTransfer() {
+    if (parts.session.isBusy()) return;
+    if (!progressWindow) {
+        progressWindow =
+            new ProgressWindowController({parts.store, parts.session, parts.monitor}, &window);
+        connect(progressWindow, &ProgressWindowController::finished, this, &AppController::transferFinished);
+    }
+    window.showOutcome({});
+    progressWindow->showProgress();
+}
+
+void AppController::transferFinished(const DownloadOutcome& outcome) {
+    displayAfterDataTransfer();
+    window.showOutcome(describe(outcome));
+    if (!outcome.failure.isEmpty()) parts.panel.ShowMessage(outcome.failure, qtTrId("Warning"));
+}
+
+void AppController::displayAfterDataTransfer() {
+    changeTab(1);
+    graphPage->switchToGraph();
+}
+
+void AppController::closeApplicaiton() {
+    parts.monitor.stop();
+    emit closed();
+}
+
+} // namespace zel

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "app/MainWindow.h"
+#include "app/MonitorSession.h"
+#include "app/MonitorWatch.h"
+#include "app/MonitorWorker.h"
+#include "store/DataStore.h"
+
+#include <array>
+#include <chrono>
+
+namespace zel {
+
+class GraphViewController;
+class PatientViewController;
+class ProgressWindowController;
+class SplashWindow;
+class TableViewController;
+struct DownloadOutcome;
+
+/// The main window's controller: start-up, the switch between the pages, the download, quitting.
+class AppController final : public QObject {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        MonitorSession& session;
+        MonitorWorker& monitor;
+        MessagePanel& panel;
+        const Clock& clock;
+    };
+    struct Timing {
+        std::chrono::milliseconds polling{2000};
+        std::chrono::milliseconds splash{2000};
+    };
+    AppController(const Parts& parts, const Timing& timing);
+    ~AppController() override;
+
+    [[nodiscard]] MainWindow& mainWndow() { return window; } // spelled so in the interface
+    [[nodiscard]] int selectedTab() const { return iSelectedTab; }
+
+    /// Sets the window up and starts the polling. \p loaded is how the data file was loaded at start.
+    void awakeFromNib(const StoreResult& loaded);
+    /// Shows the window, says what is wrong with the data file, if anything, and shows the splash screen.
+    void applicationDidFinishLaunching(const StoreResult& loaded);
+
+    void changeTab(int tabTag);
+    void displayViewController(PageController& controller, int tabTag);
+    void enable2Tabs(bool enabled);
+    void setHWButtons(bool connected);
+    void dataTransfer();
+    void displayAfterDataTransfer();
+    void closeApplicaiton(); // spelled so in the interface
+
+signals:
+    void closed(); ///< the monitor's thread has ended; nothing is left to do
+
+private:
+    void transferFinished(const DownloadOutcome& outcome);
+
+    Parts parts;
+    Timing timing;
+    MainWindow window;
+    MonitorWatch watch;
+    PatientViewController* patientPage; ///< the window owns the pages
+    GraphViewController* graphPage;
+    TableViewController* tablePage;
+    std::array<PageController*, MainWindow::tabTotal> pages;
+    ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
+    SplashWindow* splash = nullptr;
+    int iSelectedTab = 0;
+};
+
+} // namespace zel

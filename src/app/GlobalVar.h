@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/AppController.h"
+#include "app/MessageBoxPanel.h"
+#include "app/MonitorSession.h"
+#include "app/MonitorWorker.h"
+#include "store/DataStore.h"
+
+#include <memory>
+
+namespace zel {
+
+/// The composition root: made once, owns one object for each duty and hands them to those who need them.
+class GlobalVar {
+public:
+    GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock)
+        : port(std::move(monitorPort)), store(std::move(paths), clock), loaded(store.load()),
+          monitor(*port, clock), appController({store, session, monitor, panel, clock}, {}) {
+        panel.setWindow(&appController.mainWndow());
+    }
+
+    std::unique_ptr<MonitorPort> port;
+    DataStore store;
+    StoreResult loaded; ///< how the data file was loaded at start
+    MonitorSession session;
+    MonitorWorker monitor;
+    MessageBoxPanel panel;
+    AppController appController;
+};
+
+} // namespace zel

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/MonitorSession.h"
+#include "app/TabButton.h"
+#include "store/DataStore.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QStackedWidget>
+
+#include <array>
+
+namespace zel {
+
+class PageController;
+
+/// The one window: tabs at the top, the content box with the page in view, the panels that stand beside the
+/// roster, and a line at the bottom for what has happened and for the monitor.
+class MainWindow final : public QMainWindow {
+    Q_OBJECT
+public:
+    MainWindow(const DataStore& store, const MonitorSession& monitorSession);
+
+    static constexpr int tabTotal = 3;
+    void addPage(PageController& page);
+    void showPage(PageController& page);
+    void setShownTab(int tabTag);
+    void setPatientPanelsVisible(bool visible);
+    /// Enables or disables the chart's and the table's tab.
+    void enable2Tabs(bool enabled);
+    void showOutcome(const QString& text);
+    /// Ends the editing of any field. \return false if one holds an entry that does not validate
+    [[nodiscard]] bool makeFirstResponder();
+
+signals:
+    void tabWanted(int tabTag);
+    void closeWanted();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QWidget* makeTabBar();
+    QWidget* makeSideColumn(const DataStore& store);
+    void makeStatusLine();
+    void makeShortcuts();
+    void showMonitor();
+
+    const MonitorSession& session;
+    std::array<TabButton*, tabTotal> tabs;
+    QStackedWidget* contentBox;
+    QWidget* sideColumn = nullptr;
+    QLabel* lblOutcome;
+    QLabel* lblMonitor;
+};
+
+} // namespace zel

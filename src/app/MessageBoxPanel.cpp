@@ -1,0 +1,58 @@
+#include "app/MessageBoxPanel.h"
+
+#include "app/PageHeading.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The title stands in the box as well, where not every desktop shows a title bar.
+void fill(QMessageBox& box, const QString& text, const QString& title) {
+    box.setObjectName(u"messagePanel"_s);
+    box.setWindowTitle(title);
+    box.setText(title);
+    box.setInformativeText(text);
+    box.setTextFormat(Qt::PlainText); // IDs and file names come from outside
+    box.setAccessibleName(title);
+    box.setAccessibleDescription(text);
+    if (auto* heading = box.findChild<QLabel*>(u"qt_msgbox_label"_s))
+        heading->setFont(scaledFont(box.font(), 1.1, true));
+    // The box is as wide as its heading otherwise, however long the text.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(box.fontMetrics().averageCharWidth() * 60, 0), grid->rowCount(), 0, 1,
+                      grid->columnCount());
+}
+
+} // namespace
+
+void MessageBoxPanel::ShowMessage(const QString& text, const QString& title) {
+    QMessageBox box(window);
+    fill(box, text, title);
+    box.setIcon(title == qtTrId("Warning") ? QMessageBox::Warning : QMessageBox::Information);
+    QPushButton* ok = box.addButton(qtTrId("ok"), QMessageBox::AcceptRole);
+    ok->setObjectName(u"btnOK"_s);
+    box.exec();
+}
+
+bool MessageBoxPanel::AskMessage(const QString& text, const QString& title) {
+    QMessageBox box(window);
+    fill(box, text, title);
+    box.setIcon(QMessageBox::Question);
+    QPushButton* yes = box.addButton(qtTrId("yes"), QMessageBox::YesRole);
+    yes->setObjectName(u"btnYes"_s);
+    // Not the role of a "no", which Esc would press: one question's "no" empties the monitor.
+    QPushButton* no = box.addButton(qtTrId("no"), QMessageBox::ActionRole);
+    no->setObjectName(u"btnNo"_s);
+    box.setDefaultButton(yes);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+} // namespace zel

@@ -1,0 +1,156 @@
+#include "app/MonitorWatch.h"
+
+#include <cstdlib>
+
+namespace zel {
+
+struct MonitorWatch::Answer {
+    bool isConnected = false;
+    bool isAFib = false;
+    MonitorResult result = MonitorResult::success;
+};
+
+namespace {
+
+/// Whole seconds by which the monitor's clock was ahead when it was asked.
+MonitorExpected<std::int64_t> readSecondsAhead(BPMModel& monitor, const Clock& clock) {
+    const auto asked = std::chrono::floor<std::chrono::seconds>(clock.now());
+    return monitor.readBPMDate().map([asked](Instant date) { return SecondDiff(asked, date); });
+}
+
+} // namespace
+
+MonitorWatch::MonitorWatch(const Parts& needed, std::chrono::milliseconds interval) : parts(needed) {
+    timer.setSingleShot(true);
+    timer.setInterval(interval);
+    connect(&timer, &QTimer::timeout, this, &MonitorWatch::askMonitor);
+}
+
+void MonitorWatch::monitorBPM() { scheduleNext(); }
+
+void MonitorWatch::askMonitor() {
+    if (!isSplashClosed || parts.session.isBusy()) return scheduleNext();
+    const auto ask = [](BPMModel& monitor) {
+        Answer answer;
+        answer.isConnected = monitor.checkIsConnected();
+        answer.isAFib = monitor.isAFib();
+        answer.result = monitor.lastResult();
+        return answer;
+    };
+    parts.monitor.submit(this, ask, [this](const Answer& answer) { monitorAsked(answer); });
+}
+
+void MonitorWatch::monitorAsked(const Answer& answer) {
+    // What the user started meanwhile goes first; the next cycle notices whatever has changed.
+    if (parts.session.isBusy()) return scheduleNext();
+    const bool changed = answer.isConnected != parts.session.state().isConnected;
+    if (changed) forgetMonitor();
+    parts.session.update([&](MonitorState& next) {
+        next.isConnected = answer.isConnected;
+        next.isAFib = answer.isAFib;
+        if (changed || !answer.isConnected) next.trouble = answer.result;
+    });
+    if (!answer.isConnected) {
+        if (changed) emit setHWButtons(false);
+        scheduleNext();
+    } else if (!clockChecked || !IDAnnounced) {
+        greet([this] { scheduleNext(); });
+    } else {
+        checkHWSwitchUser();
+    }
+}
+
+void MonitorWatch::forgetMonitor() {
+    clockChecked = false;
+    IDAnnounced = false;
+    parts.session.update([](MonitorState& next) {
+        next.IDOnDevice = QString();
+        next.secondsAhead.reset();
+    });
+}
+
+void MonitorWatch::updateUI() {
+    clockChecked = false;
+    IDAnnounced = false;
+    if (parts.session.state().isConnected) return greet([] {});
+    emit setHWButtons(false);
+}
+
+/// Does what a newly connected monitor still lacks; what fails is tried again in the next cycle.
+void MonitorWatch::greet(const Step& next) {
+    setTrouble(MonitorResult::success);
+    parts.session.setActivity(MonitorActivity::greeting);
+    checkClock([this, next] { announceID(next); });
+}
+
+void MonitorWatch::checkClock(const Step& next) {
+    if (clockChecked) return next();
+    const auto read = [&clock = parts.clock](BPMModel& monitor) { return readSecondsAhead(monitor, clock); };
+    parts.monitor.submit(this, read, [this, next](const MonitorExpected<std::int64_t>& secondsAhead) {
+        if (secondsAhead) return clockRead(*secondsAhead, next);
+        setTrouble(secondsAhead.error());
+        next();
+    });
+}
+
+void MonitorWatch::clockRead(std::int64_t secondsAhead, const Step& next) {
+    clockChecked = true;
+    parts.session.update([=](MonitorState& state) { state.secondsAhead = secondsAhead; });
+    if (std::abs(secondsAhead) < clockToleranceSeconds
+        || !parts.panel.AskMessage(qtTrId("synctimeAsk").arg(describeClock(parts.session.state())),
+                                   qtTrId("Synchronization")))
+        return next();
+    const auto set = [](BPMModel& monitor) { return monitor.setBPMDate(); };
+    parts.monitor.submit(this, set, [this, next](MonitorResult result) {
+        setTrouble(result);
+        clockChecked = result == MonitorResult::success;
+        if (clockChecked) parts.session.update([](MonitorState& state) { state.secondsAhead = 0; });
+        next();
+    });
+}
+
+void MonitorWatch::announceID(const Step& next) {
+    if (IDAnnounced) {
+        parts.session.setActivity(MonitorActivity::none);
+        return next();
+    }
+    const auto read = [](BPMModel& monitor) { return monitor.getBPMID(); };
+    parts.monitor.submit(this, read, [this, next](const MonitorExpected<QString>& ID) {
+        IDAnnounced = ID.has_value();
+        parts.session.setActivity(MonitorActivity::none);
+        if (ID) showIDInfo(*ID, true, true);
+        else setTrouble(ID.error());
+        next();
+    });
+}
+
+/// Another monitor, or a new ID in this one, is taken over silently.
+void MonitorWatch::checkHWSwitchUser() {
+    const auto read = [](BPMModel& monitor) { return monitor.getBPMID(); };
+    parts.monitor.submit(this, read, [this](const MonitorExpected<QString>& ID) {
+        if (!parts.session.isBusy()) {
+            setTrouble(ID ? MonitorResult::success : ID.error());
+            if (ID && *ID != parts.session.state().IDOnDevice) showIDInfo(*ID, true, false);
+        }
+        scheduleNext();
+    });
+}
+
+void MonitorWatch::showIDInfo(const QString& ID, bool isHWExist, bool showDlg) {
+    parts.session.update([&](MonitorState& next) {
+        next.IDOnDevice = ID.isNull() ? QLatin1String("") : ID;
+        next.isConnected = isHWExist;
+    });
+    emit setHWButtons(isHWExist);
+    if (!showDlg) return;
+    if (parts.store.validIDinXML(ID))
+        parts.panel.ShowMessage(qtTrId("monitorConnectedID").arg(ID), qtTrId("monitorConnected"));
+    else if (ID.isEmpty()) parts.panel.ShowMessage(qtTrId("monitorWithoutID"), qtTrId("Warning"));
+    else parts.panel.ShowMessage(qtTrId("newIDFromDevice").arg(ID), qtTrId("Warning"));
+}
+
+void MonitorWatch::setTrouble(MonitorResult result) {
+    parts.session.update([result](MonitorState& next) { next.trouble = result; });
+}
+
+} // namespace zel

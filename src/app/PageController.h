@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QWidget>
+
+namespace zel {
+
+/// One of the main window's three pages.
+class PageController : public QWidget {
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+    /// Called each time the page comes into view.
+    virtual void LoadData() = 0;
+    /// The settings may have changed.
+    virtual void UpdateUIBySetting() = 0;
+    /// A monitor was connected, changed its ID or was pulled out.
+    virtual void setHWButtons(bool connected) = 0;
+};
+
+} // namespace zel

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "store/DataStore.h"
+
+#include <QAbstractTableModel>
+
+namespace zel {
+
+/// The roster by name and ID, in the store's order.
+class PatientTableModel final : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit PatientTableModel(const DataStore& patients, QObject* parent = nullptr);
+
+    enum Column { name, ID, columnTotal };
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// The roster was read anew.
+    void reload();
+    [[nodiscard]] QString IDAt(int row) const;
+    [[nodiscard]] int rowOf(const QString& patientID) const; ///< -1 if there is none
+
+private:
+    const DataStore& store;
+};
+
+} // namespace zel

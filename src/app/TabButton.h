@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QAbstractButton>
+
+namespace zel {
+
+/// One of the tabs at the window's top. Its images are resources named <name>.ActiveImg, .PressedImg (the
+/// page that is shown, or the button held down) and .InactiveImg.
+class TabButton final : public QAbstractButton {
+    Q_OBJECT
+public:
+    TabButton(const QString& name, const QString& text, QWidget* parent);
+    /// Its page is the one in view.
+    void setShown(bool isShown);
+    [[nodiscard]] bool isShown() const { return shown; }
+    [[nodiscard]] QString imageName() const;
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool shown = false;
+};
+
+} // namespace zel

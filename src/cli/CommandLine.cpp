@@ -1,0 +1,68 @@
+#include "cli/CommandLine.h"
+
+#include "cli/Commands.h"
+#include "cli/Usage.h"
+#include "monitor/HidPort.h"
+#include "monitor/SimulatedMonitor.h"
+#include "store/SystemLog.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QTranslator>
+
+#include <iostream>
+#include <unistd.h>
+
+namespace zel::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += QString::fromUtf8(argv[i]);
+    return arguments;
+}
+
+AttachedMonitor attachMonitor(const std::optional<QString>& simulated, const Clock& clock) {
+    if (simulated) return makeSimulatedMonitor(*simulated, clock);
+    return std::make_unique<HidPort>();
+}
+
+/// A script reads the results; it wants words about what went wrong, not about what went well.
+void quietLog() {
+    installSystemLog();
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        QLoggingCategory::setFilterRules(u"*.info=false\n*.debug=false"_s);
+}
+
+} // namespace
+
+bool isCommand(int argc, char** argv) {
+    const QString word = takeSimulatedMonitor(argumentsOf(argc, argv)).words.value(0);
+    if (word.isEmpty()) return false;
+    return !word.startsWith(u'-') || word == "--help"_L1 || word == "-h"_L1 || word == "--version"_L1;
+}
+
+int run(int argc, char** argv) {
+    // The same output in every environment; Qt, too, wants a UTF-8 locale and would speak up about another.
+    qputenv("LC_ALL", "C.UTF-8");
+    const QCoreApplication application(argc, argv);
+    quietLog();
+    QTranslator texts;
+    if (texts.load(u":/zel_en.qm"_s)) QCoreApplication::installTranslator(&texts);
+    SystemClock clock;
+    Surroundings around{.out = std::cout,
+                        .err = std::cerr,
+                        .errIsTerminal = isatty(STDERR_FILENO) == 1,
+                        .clock = clock,
+                        .paths = {.home = qEnvironmentVariable("HOME"),
+                                  .applicationFolder = QCoreApplication::applicationDirPath(),
+                                  .templateFolder = u":/templates"_s},
+                        .attach = [&](const auto& simulated) { return attachMonitor(simulated, clock); }};
+    return run(argumentsOf(argc, argv), around);
+}
+
+} // namespace zel::cli

@@ -1,0 +1,69 @@
+#include "cli/Commands.h"
+
+#include "cli/Usage.h"
+
+#include <algorithm>
+
+namespace zel::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void tell(Surroundings& around, const QString& program, const Failure& failure) {
+    if (!failure.words.isEmpty()) printLine(around.err, program + u": "_s + failure.words);
+    if (failure.status == ExitStatus::wrongUsage)
+        printLine(around.err, qtTrId("CliTryHelp").arg(program + u" --help"_s));
+}
+
+CommandResult runCommand(const Command& command, const Arguments& arguments, Surroundings& around) {
+    const auto options = parseOptions(command, arguments.words.mid(1));
+    if (!options) return tl::unexpected(options.error());
+    if ((*options)->isSet(u"help"_s)) {
+        printLine(around.out, command.help());
+        return {};
+    }
+    return command.run({**options, arguments.simulatedMonitor}, around);
+}
+
+CommandResult runGlobal(const Arguments& arguments, Surroundings& around) {
+    const QString word = arguments.words.value(0);
+    if (word == "--help"_L1 || word == "-h"_L1)
+        printLine(around.out, qtTrId("CliHelp"));
+    else if (word == "--version"_L1)
+        printLine(around.out, u"zel "_s + QStringLiteral(ZEL_VERSION));
+    else if (word.isEmpty())
+        return wrongUsage(qtTrId("CliNoCommand"));
+    else
+        return wrongUsage(qtTrId("CliUnknownCommand").arg(word));
+    return {};
+}
+
+} // namespace
+
+void printLine(std::ostream& stream, const QString& text) {
+    stream << text.toStdString() << '\n' << std::flush;
+}
+
+std::array<Command, 4> commands() {
+    return {monitorCommand(), patientsCommand(), downloadCommand(), readingsCommand()};
+}
+
+std::optional<Command> commandByName(const QString& name) {
+    const auto table = commands();
+    const auto* found = std::ranges::find_if(
+        table, [&](const Command& command) { return name == QLatin1String(command.name); });
+    return found == table.end() ? std::nullopt : std::optional(*found);
+}
+
+int run(const QStringList& given, Surroundings& around) {
+    const Arguments arguments = takeSimulatedMonitor(given);
+    const auto command = commandByName(arguments.words.value(0));
+    const QString program = command ? u"zel "_s + QLatin1String(command->name) : u"zel"_s;
+    CommandResult result = command ? runCommand(*command, arguments, around) : runGlobal(arguments, around);
+    if (result && !around.out.flush()) result = failed(qtTrId("CliOutputFailed"));
+    if (!result) tell(around, program, result.error());
+    return static_cast<int>(result ? ExitStatus::done : result.error().status);
+}
+
+} // namespace zel::cli

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "cli/Command.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+namespace zel::cli {
+
+[[nodiscard]] Command downloadCommand();
+[[nodiscard]] Command monitorCommand();
+[[nodiscard]] Command patientsCommand();
+[[nodiscard]] Command readingsCommand();
+
+/// Every command, in the order in which the help lists them.
+[[nodiscard]] std::array<Command, 4> commands();
+[[nodiscard]] std::optional<Command> commandByName(const QString& name);
+
+/// Does what \p arguments (without the program's name) ask for. \return the exit status
+[[nodiscard]] int run(const QStringList& arguments, Surroundings& around);
+
+} // namespace zel::cli

@@ -1,0 +1,75 @@
+#include "cli/Commands.h"
+#include "cli/MonitorSession.h"
+#include "cli/OpenStore.h"
+#include "cli/ProgressLine.h"
+#include "cli/Usage.h"
+
+namespace zel::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another patient's readings must not get into this one's list unnoticed. \return the monitor's ID
+tl::expected<QString, Failure> checkMonitorID(BPMModel& model, const Request& request,
+                                              const QString& patientID) {
+    const auto ID = model.getBPMID();
+    if (!ID) return failed(qtTrId("CliIDUnread").arg(describe(ID.error())));
+    if (*ID == patientID || request.options.isSet(u"any-monitor"_s)) return *ID;
+    if (ID->isEmpty()) return failed(qtTrId("CliMonitorWithoutID").arg(patientID));
+    return failed(qtTrId("CliOtherMonitor").arg(*ID, patientID));
+}
+
+tl::expected<ReadingList, Failure> receive(BPMModel& model, Surroundings& around) {
+    ProgressLine progress(around);
+    auto readings = model.getBPMCycleData([&](int total, int done) { progress.show(total, done); });
+    if (!readings) return failed(qtTrId("CliDownloadFailed").arg(describe(readings.error())));
+    return std::move(*readings);
+}
+
+/// With the monitor's own ID, so that --any-monitor does not make it the patient's.
+CommandResult emptyMonitor(BPMModel& model, const QString& monitorID, const QString& patientID) {
+    const MonitorResult result = model.eraseData(monitorID.isEmpty() ? patientID : monitorID);
+    if (result != MonitorResult::success) return failed(qtTrId("CliEraseAfterFailed").arg(describe(result)));
+    return {};
+}
+
+CommandResult transfer(BPMModel& model, DataStore& store, const QString& monitorID, Surroundings& around) {
+    auto readings = receive(model, around);
+    if (!readings) return tl::unexpected(readings.error());
+    const std::size_t downloaded = readings->size();
+    const auto added = store.newDataTransfer(std::move(*readings));
+    if (!added) return failed(qtTrId("CliDownloadUnsaved").arg(describe(added.error())));
+    printLine(around.out, u"downloaded: "_s + QString::number(downloaded));
+    printLine(around.out, u"new: "_s + QString::number(*added));
+    if (downloaded == 0 || store.getSetting().eraseRecAfterReading != 1) return {};
+    return emptyMonitor(model, monitorID, store.getCurrentID());
+}
+
+CommandResult runDownload(const Request& request, Surroundings& around) {
+    const auto ID = requiredValue(request, u"patient"_s);
+    if (!ID) return tl::unexpected(ID.error());
+    const auto wait = waitTime(request);
+    if (!wait) return tl::unexpected(wait.error());
+    const OpenedStore store = openStoreForWriting(around);
+    if (!store) return tl::unexpected(store.error());
+    if (CommandResult known = checkPatient(**store, *ID); !known) return known;
+    const auto session = waitForMonitor(request, *wait, around);
+    if (!session) return tl::unexpected(session.error());
+    const auto monitorID = checkMonitorID(*session->model, request, *ID);
+    if (!monitorID) return tl::unexpected(monitorID.error());
+    (*store)->setCurrentID(*ID);
+    return transfer(*session->model, **store, *monitorID, around);
+}
+
+} // namespace
+
+Command downloadCommand() {
+    return {"download", [] { return qtTrId("CliHelpDownload"); },
+            [] {
+                return QList{valued(u"patient"_s), flag(u"any-monitor"_s), waitOption()};
+            },
+            runDownload};
+}
+
+} // namespace zel::cli

@@ -1,0 +1,45 @@
+#include "cli/Usage.h"
+
+namespace zel::cli {
+
+using namespace Qt::StringLiterals;
+
+Arguments takeSimulatedMonitor(const QStringList& arguments) {
+    const auto option = "--simulated-monitor"_L1;
+    Arguments taken;
+    for (const QString& word : arguments) {
+        if (word == option)
+            taken.simulatedMonitor = u""_s;
+        else if (word.startsWith(option + u'='))
+            taken.simulatedMonitor = word.mid(option.size() + 1);
+        else
+            taken.words += word;
+    }
+    return taken;
+}
+
+tl::expected<std::unique_ptr<QCommandLineParser>, Failure> parseOptions(const Command& command,
+                                                                        const QStringList& words) {
+    auto parser = std::make_unique<QCommandLineParser>();
+    parser->setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser->addOption(QCommandLineOption(QStringList{u"h"_s, u"help"_s}));
+    parser->addOptions(command.options());
+    if (!parser->parse(QStringList(u"zel"_s) + words)) return wrongUsage(parser->errorText());
+    if (const QStringList extra = parser->positionalArguments(); !extra.isEmpty())
+        return wrongUsage(qtTrId("CliUnexpectedWord").arg(extra.constFirst()));
+    for (const QCommandLineOption& option : command.options())
+        if (const QString name = option.names().constFirst(); parser->values(name).size() > 1)
+            return wrongUsage(qtTrId("CliOptionTwice").arg(name));
+    return parser;
+}
+
+tl::expected<QString, Failure> requiredValue(const Request& request, const QString& option) {
+    if (const QString value = request.options.value(option); !value.isEmpty()) return value;
+    return wrongUsage(qtTrId("CliOptionMissing").arg(option));
+}
+
+QCommandLineOption flag(const QString& name) { return QCommandLineOption(name); }
+
+QCommandLineOption valued(const QString& name) { return {name, QString(), u"value"_s}; }
+
+} // namespace zel::cli

@@ -1,0 +1,3 @@
+#include "monitor/Log.h"
+
+Q_LOGGING_CATEGORY(lcMonitor, "zel.monitor", QtInfoMsg)

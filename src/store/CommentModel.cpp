@@ -1,0 +1,39 @@
+#include "store/CommentModel.h"
+
+#include "store/RecordXml.h"
+
+#include <array>
+
+namespace zel {
+
+namespace {
+
+using C = CommentModel;
+constexpr std::array children{
+    xml::text<C, &C::ID>("ID"),           xml::text<C, &C::CommentID>("CommentID"),
+    xml::number<C, &C::degree>("Degree"), xml::date<C, &C::beginDate>("BeginDate"),
+    xml::date<C, &C::endDate>("EndDate"), xml::text<C, &C::comment>("Comment"),
+};
+constexpr std::span<const XmlChild<C>> table{children};
+
+} // namespace
+
+CommentModel CommentModel::initWithXMLNode(pugi::xml_node element, const LocalZone& zone) {
+    CommentModel comment;
+    readChildren(comment, element, table, zone);
+    comment.beginDay = zone.day(comment.beginDate);
+    comment.endDay = zone.day(comment.endDate);
+    return comment;
+}
+
+pugi::xml_node CommentModel::makeXmlNode(pugi::xml_node root) {
+    const pugi::xml_node element = root.append_child("Comment");
+    addMissingChildren(element, table);
+    return element;
+}
+
+void CommentModel::addMissingXmlChildren(pugi::xml_node element) { addMissingChildren(element, table); }
+
+void CommentModel::updateXMLNode(pugi::xml_node element) const { writeChildren(*this, element, table); }
+
+} // namespace zel

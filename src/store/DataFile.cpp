@@ -1,0 +1,125 @@
+#include "store/DataFile.h"
+
+#include "store/AtomicFile.h"
+#include "store/Log.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+
+#include <string_view>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int longestWaitForOthers = 3000; // ms; another program's write takes a fraction of it
+
+QString targetFile(const StorePaths& paths) { return paths.applicationFolder + u"/.target"_s; }
+
+StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
+    const auto bytes = document.serialise();
+    if (!bytes) return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, bytes.error()}};
+    return replaceFile(path, *bytes);
+}
+
+} // namespace
+
+DataFile::DataFile(StorePaths storePaths) : paths{std::move(storePaths)} {}
+
+QString DataFile::folder() const { return paths.home + u"/Library/Application Support/ZELMac"_s; }
+
+QString DataFile::getZELXMLPath() const {
+    qCDebug(lcStore, "XML folder:%s", qUtf8Printable(paths.home));
+    return folder() + u"/ZEL.xml"_s;
+}
+
+QString DataFile::getZELXMLPath_Old() const { return paths.applicationFolder + u"/ZEL.xml"_s; }
+
+QString DataFile::getTargetString() const {
+    QFile file{targetFile(paths)};
+    if (!file.open(QIODevice::ReadOnly)) return u"pad"_s;
+    return QString::fromUtf8(file.readLine()).trimmed();
+}
+
+void DataFile::checkAndMakeTargetFile() const {
+    const QString path = targetFile(paths);
+    if (QFileInfo::exists(path)) return;
+    if (const auto result = replaceFile(path, "pad"); result) {
+        QFile::setPermissions(path,
+                              QFile::permissions(path) | QFileDevice::ReadGroup | QFileDevice::ReadOther);
+        qCInfo(lcStore, "File successfully written to %s", qUtf8Printable(path));
+    } else {
+        qCInfo(lcStore, "Error writing file: %s", qUtf8Printable(result.error().detail));
+    }
+}
+
+void DataFile::checkXMLFileExist() const {
+    const QString path = getZELXMLPath();
+    const bool exists = QFileInfo::exists(path);
+    qCInfo(lcStore, "%s  file %s exists", qUtf8Printable(path), exists ? " does " : " does not ");
+    if (exists) return;
+    QDir{}.mkpath(folder());
+    QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    moveOldXml();
+    // Tried after a move as well: the copy then fails, since the file is there, and the moved file is kept.
+    const QString source = paths.templateFolder + u"/ZEL_"_s + getTargetString() + u".xml"_s;
+    const bool copied = QFile::copy(source, path);
+    if (copied) QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    qCInfo(lcStore, "copy from %s to %s %s", qUtf8Printable(source), qUtf8Printable(path),
+           copied ? "success" : "fail");
+}
+
+void DataFile::moveOldXml() const {
+    const QString old = getZELXMLPath_Old();
+    if (!QFileInfo::exists(getZELXMLPath()) && QFileInfo::exists(old)) QFile::rename(old, getZELXMLPath());
+}
+
+bool DataFile::isWritable() const {
+    return QFileInfo{getZELXMLPath()}.isWritable() && QFileInfo{folder()}.isWritable();
+}
+
+tl::expected<XmlDocument, StoreError> DataFile::readDocument(const QString& path) {
+    auto content = readFile(path);
+    if (!content) return tl::unexpected{content.error()};
+    const auto refused = [&path](const QString& why) {
+        return tl::unexpected{StoreError{StoreErrorCode::notParsed, path, why}};
+    };
+    auto document = XmlDocument::parse(std::move(*content));
+    if (!document) return refused(document.error());
+    const std::string_view root{document->root().name()};
+    if (root != "ZEL") return refused(qtTrId("XmlWrongRoot").arg(QString::fromUtf8(root.data())));
+    return std::move(*document);
+}
+
+tl::expected<XmlDocument, StoreError> DataFile::read() const {
+    const QString path = getZELXMLPath();
+    auto document = readDocument(path);
+    if (document) qCInfo(lcStore, "xml data loaded from filepath:%s", qUtf8Printable(path));
+    return document;
+}
+
+StoreResult DataFile::edit(const Change& change) const {
+    const QString path = getZELXMLPath();
+    QLockFile lock{path + u".lock"_s};
+    if (!lock.tryLock(longestWaitForOthers)) {
+        const bool isHeld = lock.error() == QLockFile::LockFailedError;
+        const auto code = isHeld ? StoreErrorCode::busy : StoreErrorCode::notWritable;
+        return tl::unexpected{StoreError{code, path, {}}};
+    }
+    auto document = read();
+    if (!document) return tl::unexpected{document.error()};
+    auto result = change(document->root());
+    if (result) result = replaceDocument(*document, path);
+    if (result) {
+        qCInfo(lcStore, "write document out...");
+    } else {
+        qCWarning(lcStore, "Could not write document out...");
+    }
+    return result;
+}
+
+} // namespace zel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "store/StoreError.h"
+#include "store/XmlDocument.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace zel {
+
+/// Where the store finds its files.
+struct StorePaths {
+    QString home;              ///< the user's home folder; the data file lives below it
+    QString applicationFolder; ///< the executable's folder: ".target" and the data file of older versions
+    QString templateFolder;    ///< holds ZEL_<target>.xml
+};
+
+/// The data file on disk: the only class that knows its place and how it is created, read and replaced.
+class DataFile {
+public:
+    explicit DataFile(StorePaths paths);
+
+    [[nodiscard]] QString getZELXMLPath() const;
+    [[nodiscard]] QString getZELXMLPath_Old() const;
+    /// First line of ".target" beside the program, "pad" when there is none: the model family.
+    [[nodiscard]] QString getTargetString() const;
+    /// Writes ".target" with "pad" if it is missing. A program in a read-only folder just keeps "pad".
+    void checkAndMakeTargetFile() const;
+    /// Makes sure that the data file exists: moves an older version's file into place, else copies the
+    /// template.
+    void checkXMLFileExist() const;
+    /// Both the file and its folder, since a write replaces the file.
+    [[nodiscard]] bool isWritable() const;
+
+    /// The document, checked to be well-formed with the root ZEL.
+    [[nodiscard]] tl::expected<XmlDocument, StoreError> read() const;
+    /// Reads the file, lets \p change edit it and replaces it. Nothing is written if any step fails.
+    using Change = std::function<StoreResult(pugi::xml_node root)>;
+    [[nodiscard]] StoreResult edit(const Change& change) const;
+
+    /// Reads and checks any document of this kind, such as an older one or one to be imported.
+    [[nodiscard]] static tl::expected<XmlDocument, StoreError> readDocument(const QString& path);
+
+private:
+    [[nodiscard]] QString folder() const;
+    void moveOldXml() const;
+    StorePaths paths;
+};
+
+} // namespace zel

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "store/Clock.h"
+#include "store/DataFile.h"
+#include "store/MessagePanel.h"
+#include "store/Records.h"
+#include "store/StoreError.h"
+
+#include <QObject>
+#include <QString>
+
+#include <cstddef>
+#include <vector>
+
+namespace zel {
+
+/// The one XML file that holds everything, and the records read from it. Every change is written to the file
+/// first, by reading it, editing it and replacing it; the lists are then read again. Main thread only.
+class DataStore : public QObject {
+    Q_OBJECT
+public:
+    /// \p clock must outlive the store.
+    DataStore(StorePaths paths, const Clock& clock);
+
+    /// Start-up: makes sure that ".target" and the data file exist, then loads.
+    StoreResult load();
+    /// Reads the whole file. On an error all lists are empty, and every write is refused until the file can
+    /// be read again. Emits reloaded() in any case.
+    StoreResult loadXML();
+
+    [[nodiscard]] QString getZELXMLPath() const;
+    [[nodiscard]] QString getZELXMLPath_Old() const;
+    [[nodiscard]] QString getTargetString() const;
+    /// Number of patients in the document at \p path; 0 on any failure.
+    [[nodiscard]] static int getPatientCount(const QString& path);
+    /// \return false, after telling the user, if the data file may not be written
+    bool checkXmlWritable(MessagePanel& panel) const;
+
+    /// Writes one patient, replacing the one with its ID or adding a new one; does not reload.
+    [[nodiscard]] StoreResult saveXMLPatient(const PatientModel& patient);
+    /// Removes the patient, its readings and comments; its download log stays. Does not reload.
+    [[nodiscard]] StoreResult deleteXMLPatient(const QString& ID);
+    /// Writes getSetting().
+    [[nodiscard]] StoreResult saveSetting();
+
+    /// Stores what a download brought for the current patient, in the monitor's order, leaving out what is
+    /// stored already, with one log entry if anything is new; reloads.
+    /// \return how many readings were new; on an error nothing was stored
+    [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(ReadingList downloaded);
+    [[nodiscard]] StoreResult saveXMLDataTransfer(const DataTransferLogModel& log,
+                                                  const ReadingList& readings);
+
+    enum class Counter { dataLog = 0, reading = 1, comment = 2 };
+    /// The next free record number: the largest in use, at least the counter's floor, plus 1.
+    [[nodiscard]] QString getMaxID(Counter kind) const;
+
+    [[nodiscard]] StoreResult addCommentForCurID(CommentModel comment);
+    [[nodiscard]] StoreResult addCommentToXML(const CommentModel& comment);
+    [[nodiscard]] StoreResult saveCommentToXML(const CommentModel& comment);
+    [[nodiscard]] StoreResult deleteSelectedCommentToXML();
+    void setSelectedComment(const QString& commentID); ///< null text: none
+    [[nodiscard]] const CommentModel* getSelectedComment() const;
+
+    void setCurrentID(const QString& ID); ///< emits currentIDChanged() on a change
+    [[nodiscard]] const QString& getCurrentID() const;
+    [[nodiscard]] const ReadingList& getReadingForCurID() const;
+    [[nodiscard]] const CommentList& getCommentForCurID() const;
+    [[nodiscard]] const DataLogList& getTrasferLogForCurID() const; // spelled so in the interface
+    /// Sorted by DisplayName. Valid until the next load.
+    [[nodiscard]] const std::vector<PatientModel>& getPatientArray() const;
+    [[nodiscard]] const PatientModel* getPatientByID(const QString& ID) const; ///< null if there is none
+    [[nodiscard]] bool validIDinXML(const QString& ID) const;
+
+    [[nodiscard]] SettingModel& getSetting();
+    [[nodiscard]] const SettingModel& getSetting() const;
+
+signals:
+    void reloaded();
+    void currentIDChanged();
+
+private:
+    StoreResult readRecords();
+    [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
+    [[nodiscard]] ReadingList newReadings(ReadingList downloaded) const;
+    [[nodiscard]] DataTransferLogModel newDataLog(std::size_t count) const;
+    void keepSelectedComment();
+
+    DataFile file;
+    const Clock& clock;
+    Records records;
+    QString currentID;
+    QString selectedCommentID;
+};
+
+} // namespace zel

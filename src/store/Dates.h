@@ -1,0 +1,98 @@
+#pragma once
+// Dates: instants in time, read and written with Unicode date patterns in the computer's time zone, and the
+// calendar-day arithmetic that readings are grouped and filtered by. The calendar is the Gregorian one
+// throughout, also before its introduction.
+
+#include <QString>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace zel {
+
+using Instant = std::chrono::sys_time<std::chrono::milliseconds>;
+/// A date, or none where the file or the user gave none.
+using Date = std::optional<Instant>;
+
+/// Locales by number: 1 "en_US_POSIX", 0 "en_US", any other none.
+[[nodiscard]] const char* getLocale(int number);
+
+/// Reads the whole of \p text with a Unicode date pattern; none if it does not match exactly.
+[[nodiscard]] Date StrToDate(const QString& text, const QString& pattern);
+/// Local time, locale en_US_POSIX; a null text for no date.
+[[nodiscard]] QString DateToStr(const Date& date, const QString& pattern);
+/// As DateToStr, in UTC.
+[[nodiscard]] QString DateToStr_EN(const Date& date, const QString& pattern);
+/// Weekday name, in UTC.
+[[nodiscard]] QString DateToWeekDayStr(const Date& date);
+[[nodiscard]] QString getEnglishMonthStr(const Date& date);
+[[nodiscard]] QString getEnglishYearMonthStr(const Date& date);
+
+/// The file's form, 2019-03-22T14:05:00+01:00; no date gives getEmptyDateStr().
+[[nodiscard]] QString XMLDateToStr(const Date& date);
+
+/// 0001-01-01 00:00 local time: an unknown date of birth, a comment's date that is not set.
+[[nodiscard]] Instant getNilDate();
+/// 2000-01-01 00:00 local time: a reading that the monitor stored without a valid clock.
+[[nodiscard]] Instant getNilReadingDate();
+/// "0001-01-01T00:00:00+08:00", whatever the time zone: the file format's text for no date.
+[[nodiscard]] QString getEmptyDateStr();
+/// True for no date and for any date in year 0001, of either era.
+[[nodiscard]] bool isNilDate(const Date& date);
+/// True for no date and for any time on 2000-01-01.
+[[nodiscard]] bool isNilReadingDate(const Date& date);
+/// 1 January, 00:00 local time, of the year of \p now.
+[[nodiscard]] Instant FirstDayOfThisYear(Instant now);
+
+/// First (\p begin) or last second of the date's day.
+[[nodiscard]] Instant DateToDayBoundary(Instant date, bool begin);
+/// Whole calendar days from a to b, daylight-saving changes aside.
+[[nodiscard]] std::int64_t DayDiff(Instant a, Instant b);
+/// Whole seconds from a to b, truncated toward zero.
+[[nodiscard]] std::int64_t SecondDiff(Instant a, Instant b);
+[[nodiscard]] Instant getDateMonthAgo(Instant date, int months);
+/// a <= d <= b, to the instant.
+[[nodiscard]] bool isBetweenDate(Instant d, Instant a, Instant b);
+[[nodiscard]] bool greaterInDay(Instant a, Instant b);
+[[nodiscard]] bool greaterOrEqualInDay(Instant a, Instant b);
+/// Whole years; a birthday on 29 February is reached on 1 March in other years.
+[[nodiscard]] int GetAge(Instant birth, Instant today);
+
+/// Calendar day, counted from 1970-01-01 in local time; noDay for no date. Days compare as their dates do.
+using DayNumber = std::int32_t;
+inline constexpr DayNumber noDay = INT32_MIN;
+
+/// The time zone of one pass over many dates: reads and places them without asking the system each time.
+class LocalZone {
+public:
+    LocalZone(); ///< the computer's time zone as it is now
+    ~LocalZone();
+    LocalZone(LocalZone&&) noexcept;
+    LocalZone& operator=(LocalZone&&) noexcept;
+
+    /// A date in the file's form, with or without milliseconds; none if it is none.
+    [[nodiscard]] Date XMLStrToDate(std::string_view text) const;
+    [[nodiscard]] DayNumber day(const Date& date) const;
+    /// Day and minute of the day, 0 to 1439, at once; noDay and 0 for no date.
+    struct DayMinute {
+        DayNumber day = noDay;
+        int minute = 0;
+    };
+    [[nodiscard]] DayMinute dayMinute(const Date& date) const;
+
+private:
+    struct Zone;
+    std::unique_ptr<Zone> zone;
+};
+
+/// noDay and 2000-01-01.
+[[nodiscard]] bool isNilReadingDay(DayNumber day);
+/// The day as "yyyy/MM/dd"; empty for noDay.
+[[nodiscard]] QString dayText(DayNumber day);
+/// The day in a pattern made of yyyy, MM, dd and other characters; empty for noDay.
+[[nodiscard]] QString dayText(DayNumber day, const QString& pattern);
+
+} // namespace zel

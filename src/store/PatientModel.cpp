@@ -1,0 +1,132 @@
+#include "store/PatientModel.h"
+
+#include "store/Log.h"
+#include "store/RecordXml.h"
+#include "store/Text.h"
+
+#include <QStringList>
+
+#include <array>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using P = PatientModel;
+
+template <auto Member>
+constexpr XmlChild<P> measure(const char* name) {
+    return {
+        name,
+        [](P& p, std::string_view t, const LocalZone&) { p.*Member = static_cast<float>(leadingNumber(t)); },
+        [](const P& p) { return QString::asprintf("%f", static_cast<double>(p.*Member)); }};
+}
+
+template <auto Member>
+constexpr XmlChild<P> choice(const char* name) {
+    return {name, [](P& p, std::string_view t, const LocalZone&) { p.*Member = toSigned(t); },
+            [](const P& p) { return QString::number(p.*Member); }};
+}
+
+constexpr std::array children{
+    xml::text<P, &P::ID>("ID"),
+    xml::text<P, &P::FamilyName>("FamilyName"),
+    xml::text<P, &P::GivenNames>("GivenNames"),
+    xml::text<P, &P::Address>("Address"),
+    xml::text<P, &P::PhoneEmail>("PhoneEmail"),
+    xml::date<P, &P::DateOfBirth>("DateOfBirth"),
+    measure<&P::Weight>("Weight"),
+    measure<&P::Height>("Height"),
+    choice<&P::Sex>("Sex"),
+    choice<&P::Smoker>("Smoker"),
+    choice<&P::Diabetic>("Diabetic"),
+    measure<&P::Cholestrol>("Cholestrol"),
+    xml::text<P, &P::FamilyHistory>("FamilyHistory"),
+    xml::text<P, &P::PatientNotes>("PatientNotes"),
+};
+constexpr std::span<const XmlChild<P>> table{children};
+
+constexpr double poundsPerKilogram = 2.20462262185;
+constexpr double centimetresPerInch = 2.54;
+
+QString oneDecimal(double value) { return value == 0 ? u""_s : QString::asprintf("%.1f", value); }
+
+float numberIn(const QString& text) { return static_cast<float>(leadingNumber(text.toStdString())); }
+
+} // namespace
+
+PatientModel PatientModel::initWithXMLNode(pugi::xml_node element, const LocalZone& zone) {
+    PatientModel patient;
+    readChildren(patient, element, table, zone);
+    patient.makeUpDisplayName();
+    return patient;
+}
+
+pugi::xml_node PatientModel::makeXmlNode(pugi::xml_node root) {
+    const pugi::xml_node element = root.append_child("Patient");
+    addMissingChildren(element, table);
+    return element;
+}
+
+void PatientModel::updateXMLNode(pugi::xml_node element, bool copyPrimary) const {
+    writeChildren(*this, element, copyPrimary ? table : table.subspan(1)); // the ID stands first
+}
+
+void PatientModel::makeUpDisplayName() { DisplayName = FamilyName + u',' + GivenNames; }
+
+QString PatientModel::getWeightStr(const SettingModel& settings) const {
+    const double kilograms = static_cast<double>(Weight);
+    return oneDecimal(settings.isMetric() ? kilograms : kilograms * poundsPerKilogram);
+}
+
+QString PatientModel::getHeightStr(const SettingModel& settings) const {
+    if (settings.isMetric() || Height == 0) return oneDecimal(static_cast<double>(Height));
+    const int inches = static_cast<int>(static_cast<double>(Height) / centimetresPerInch);
+    return QString::asprintf("%d/%d", inches / 12, inches % 12);
+}
+
+QString PatientModel::getCholestrolStr() const { return oneDecimal(static_cast<double>(Cholestrol)); }
+
+void PatientModel::convertAndSetWeight(const QString& text, const SettingModel& settings) {
+    const double value = static_cast<double>(numberIn(text));
+    Weight = static_cast<float>(settings.isMetric() ? value : value / poundsPerKilogram);
+}
+
+bool PatientModel::convertAndSetHeight(const QString& text, const SettingModel& settings) {
+    if (settings.isMetric()) {
+        Height = numberIn(text);
+        return true;
+    }
+    const QStringList parts = text.split(u'/');
+    if (parts.size() < 2) {
+        qCDebug(lcStore, "convertAndSetHeight parameter error");
+        return false;
+    }
+    const double inches =
+        static_cast<double>(numberIn(parts[0])) * 12 + static_cast<double>(numberIn(parts[1]));
+    Height = static_cast<float>(inches * centimetresPerInch);
+    return true;
+}
+
+bool StrModified(const QString& a, const QString& b) {
+    if (a.isNull() != b.isNull()) return false;
+    return a.isNull() || a != b;
+}
+
+bool DateModified(const Date& a, const Date& b) {
+    if (a.has_value() != b.has_value()) return false;
+    return !a || std::chrono::abs(*a - *b) >= std::chrono::days{1};
+}
+
+bool PatientModel::isTheSanme(const PatientModel& other) const {
+    return !StrModified(ID, other.ID) && !StrModified(FamilyName, other.FamilyName)
+           && !StrModified(GivenNames, other.GivenNames) && !StrModified(Address, other.Address)
+           && !StrModified(PhoneEmail, other.PhoneEmail) && !DateModified(DateOfBirth, other.DateOfBirth)
+           && Sex == other.Sex && Smoker == other.Smoker && Diabetic == other.Diabetic
+           && !StrModified(FamilyHistory, other.FamilyHistory)
+           && !StrModified(PatientNotes, other.PatientNotes);
+}
+
+} // namespace zel

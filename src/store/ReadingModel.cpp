@@ -1,0 +1,108 @@
+#include "store/ReadingModel.h"
+
+#include "store/RecordXml.h"
+
+#include <array>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr XmlChild<ReadingModel> notMade(XmlChild<ReadingModel> child) {
+    child.made = false;
+    return child;
+}
+
+using R = ReadingModel;
+constexpr std::array children{
+    xml::text<R, &R::ID>("ID"),
+    xml::text<R, &R::RecID>("RecID"),
+    xml::number<R, &R::mam>("MAM"),
+    xml::number<R, &R::Arrhythmia>("Arrhythmia"),
+    xml::date<R, &R::ReadingDate>("ReadingDate"),
+    xml::number<R, &R::sys>("Sys"),
+    xml::number<R, &R::dia>("Dia"),
+    xml::number<R, &R::map>("Map"),
+    xml::number<R, &R::pp>("PP"),
+    xml::number<R, &R::pulse>("Pulse"),
+    XmlChild<R>{"Error"},
+    notMade(xml::number<R, &R::erorr>("Erorr")),
+};
+constexpr std::span<const XmlChild<R>> table{children};
+
+/// The day that the display shows: undated readings all show the same, and so do all others when the
+/// settings hold no known date format.
+std::pair<bool, DayNumber> shownDay(const ReadingModel& reading, const SettingModel& settings) {
+    const bool isUndated = isNilReadingDay(reading.day);
+    return {isUndated, isUndated || settings.getDateFormat().isNull() ? noDay : reading.day};
+}
+
+QString twoDigits(int value) { return u"%1"_s.arg(value, 2, 10, QLatin1Char{'0'}); }
+
+} // namespace
+
+ReadingModel ReadingModel::initNA(Instant date) {
+    ReadingModel reading;
+    reading.isNA = true;
+    reading.ReadingDate = date;
+    return reading;
+}
+
+ReadingModel ReadingModel::initWithXMLNode(pugi::xml_node element, const LocalZone& zone) {
+    ReadingModel reading;
+    readChildren(reading, element, table, zone);
+    return reading;
+}
+
+pugi::xml_node ReadingModel::makeXmlNode(pugi::xml_node root) {
+    const pugi::xml_node element = root.append_child("MeasureRec");
+    addMissingChildren(element, table);
+    return element;
+}
+
+void ReadingModel::addMissingXmlChildren(pugi::xml_node element) { addMissingChildren(element, table); }
+
+void ReadingModel::updateXMLNode(pugi::xml_node element) const { writeChildren(*this, element, table); }
+
+bool ReadingModel::isSame(const ReadingModel& other) const {
+    return ReadingDate == other.ReadingDate && Arrhythmia == other.Arrhythmia && pulse == other.pulse
+           && dia == other.dia && sys == other.sys && map == other.map && pp == other.pp && mam == other.mam;
+}
+
+bool ReadingModel::isPad() const { return Arrhythmia == 1 || Arrhythmia == 2; }
+
+bool ReadingModel::isAFib() const { return Arrhythmia == 4 || Arrhythmia == 5; }
+
+QString ReadingModel::getPadStr() const {
+    if (!isPad() && !isAFib()) return u"N/A"_s;
+    return Arrhythmia == 2 || Arrhythmia == 5 ? u"Yes"_s : u"No"_s;
+}
+
+QString ReadingModel::getMamStr() const { return mam == 1 ? u"Yes"_s : u"No"_s; }
+
+void ReadingModel::postInit(const ReadingModel* previous, const SettingModel& settings,
+                            const LocalZone& zone) {
+    const auto local = zone.dayMinute(ReadingDate);
+    day = local.day;
+    minuteOfDay = static_cast<std::uint16_t>(local.minute);
+    isPMData = minuteOfDay >= 12 * 60;
+    bYellowBackground = previous && previous->day == day && previous->bYellowBackground;
+    bDrawTopLine = previous && shownDay(*previous, settings) != shownDay(*this, settings);
+}
+
+QString ReadingModel::strDisplayDate(const SettingModel& settings) const {
+    return isNilReadingDay(day) ? u"n.a"_s : dayText(day, settings.getDateFormat());
+}
+
+QString ReadingModel::strDisplayTime(const SettingModel& settings) const {
+    if (isNilReadingDay(day)) return u"--:--"_s;
+    const int hour = minuteOfDay / 60;
+    const QString minute = twoDigits(minuteOfDay % 60);
+    if (!settings.is12Hours()) return twoDigits(hour) + u':' + minute;
+    const int hourOnDial = hour % 12 == 0 ? 12 : hour % 12;
+    return twoDigits(hourOnDial) + u':' + minute + (isPMData ? u" P"_s : u" A"_s);
+}
+
+} // namespace zel

@@ -1,0 +1,121 @@
+#include "store/Records.h"
+
+#include "store/Log.h"
+#include "store/Text.h"
+
+#include <QCollator>
+
+#include <algorithm>
+#include <string_view>
+
+namespace zel {
+
+namespace {
+
+/// The words for one kind of record in the log.
+struct Kind {
+    const char* name;
+    const char* newListEnd = "";
+};
+
+template <class List>
+List* listFor(std::unordered_map<QString, List>& index, const QString& ID, const Kind& kind) {
+    if (IsEmptyID(ID)) {
+        qCWarning(lcStore, "error: add %s for empty ID", kind.name);
+        return nullptr;
+    }
+    const auto [entry, isNew] = index.try_emplace(ID);
+    if (isNew)
+        qCDebug(lcStore, "new Mutable Array %s for ID %s%s", kind.name, qUtf8Printable(ID), kind.newListEnd);
+    return &entry->second;
+}
+
+void sortByName(std::vector<PatientModel>& patients) {
+    QCollator collator;
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::ranges::stable_sort(patients, [&collator](const PatientModel& a, const PatientModel& b) {
+        const int order = collator.compare(a.DisplayName, b.DisplayName);
+        return order < 0 || (order == 0 && a.ID < b.ID);
+    });
+}
+
+void sortByBegin(CommentList& comments) {
+    std::ranges::stable_sort(comments, {}, [](const auto& comment) { return comment->beginDate; });
+}
+
+/// One record by its element's name; elements that are none of these are left alone.
+void readRecord(Records& records, pugi::xml_node element, const LocalZone& zone) {
+    const std::string_view name{element.name()};
+    if (name == "MeasureRec") {
+        records.addReading(ReadingModel::initWithXMLNode(element, zone), zone);
+    } else if (name == "Patient") {
+        records.gaPatient.push_back(PatientModel::initWithXMLNode(element, zone));
+    } else if (name == "Comment") {
+        records.addComment(CommentModel::initWithXMLNode(element, zone));
+    } else if (name == "DataTransferLog") {
+        records.addDataLog(DataTransferLogModel::initWithXMLNode(element, zone));
+    }
+}
+
+void logCounts(const Records& records) {
+    std::size_t count = 0;
+    for (const auto& [ID, list] : records.mdReading)
+        count += list.size();
+    qCDebug(lcStore, "itemNodes = %zu", records.gaPatient.size());
+    qCInfo(lcStore, "reading itemNodes count = %zu", count);
+}
+
+void linkAll(Records& records) {
+    for (auto& [ID, comments] : records.mdComment) {
+        sortByBegin(comments);
+        if (const auto found = records.mdReading.find(ID); found != records.mdReading.end()) {
+            setCommentInReading(comments, found->second);
+        }
+    }
+    for (const auto& [ID, log] : records.mdDataLog) {
+        if (const auto found = records.mdReading.find(ID); found != records.mdReading.end()) {
+            setDataLogInReading(log, found->second);
+        }
+    }
+}
+
+} // namespace
+
+Records Records::read(pugi::xml_node root, const LocalZone& zone) {
+    Records records;
+    // Readings are placed by the settings, wherever in the file these stand.
+    if (const pugi::xml_node setting = root.child("SystemSetting")) {
+        records.gSettingModel = SettingModel::initWithXMLNode(setting);
+        records.hasSetting = true;
+    }
+    for (pugi::xml_node element = root.first_child(); element; element = element.next_sibling()) {
+        readRecord(records, element, zone);
+    }
+    sortByName(records.gaPatient);
+    for (auto& [ID, list] : records.mdReading)
+        list.shrink_to_fit();
+    logCounts(records);
+    linkAll(records);
+    return records;
+}
+
+void Records::addReading(ReadingModel reading, const LocalZone& zone) {
+    ReadingList* list = listFor(mdReading, reading.ID, {"reading", " "});
+    if (!list) return;
+    // One text for all of a patient's readings.
+    if (!list->empty()) reading.ID = list->back().ID;
+    reading.postInit(list->empty() ? nullptr : &list->back(), gSettingModel, zone);
+    list->push_back(std::move(reading));
+}
+
+void Records::addComment(CommentModel comment) {
+    CommentList* list = listFor(mdComment, comment.ID, {"comment"});
+    if (list) list->push_back(std::make_unique<CommentModel>(std::move(comment)));
+}
+
+void Records::addDataLog(DataTransferLogModel entry) {
+    DataLogList* list = listFor(mdDataLog, entry.ID, {"data log"});
+    if (list) list->push_back(std::move(entry));
+}
+
+} // namespace zel

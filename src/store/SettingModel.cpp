@@ -1,0 +1,70 @@
+#include "store/SettingModel.h"
+
+#include "store/RecordXml.h"
+
+#include <array>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using S = SettingModel;
+constexpr std::array children{
+    xml::text<S, &S::dateFormat>("DateFormat"),
+    xml::text<S, &S::timeFormat>("TimeFormat"),
+    xml::text<S, &S::metricFormat>("MetricFormat"),
+    xml::number<S, &S::eraseRecAfterReading>("EraseRecAfterReading"),
+    xml::number<S, &S::showPPorMap>("ShowPPorMap"),
+    xml::number<S, &S::userWhoStandard>("UserWhoStandard"),
+    xml::number<S, &S::sysStandard>("SysStandard"),
+    xml::number<S, &S::diaStandard>("DiaStandard"),
+    xml::text<S, &S::physicianAddress>("PhysicianAddress"),
+};
+constexpr std::span<const XmlChild<S>> table{children};
+
+} // namespace
+
+SettingModel SettingModel::initWithDefault() {
+    return {.dateFormat = u"dd mm yyyy"_s,
+            .timeFormat = u"12-hours"_s,
+            .metricFormat = u"kg / cm"_s,
+            .eraseRecAfterReading = 1,
+            .showPPorMap = 0,
+            .userWhoStandard = 1,
+            .sysStandard = 140,
+            .diaStandard = 90,
+            .physicianAddress = u"Practitioner (Physician)\nPractice\nStreet address\nZip Code and City\n"
+                                "Phone\nEmail Address"_s};
+}
+
+SettingModel SettingModel::initWithXMLNode(pugi::xml_node element) {
+    SettingModel setting;
+    readChildren(setting, element, table, LocalZone{});
+    return setting;
+}
+
+pugi::xml_node SettingModel::makeXmlNode(pugi::xml_node root) {
+    const pugi::xml_node element = root.append_child("SystemSetting");
+    addMissingChildren(element, table);
+    SettingModel defaults = initWithDefault();
+    defaults.metricFormat = u"lb / in"_s;
+    defaults.updateXMLNode(element);
+    return element;
+}
+
+void SettingModel::updateXMLNode(pugi::xml_node element) const { writeChildren(*this, element, table); }
+
+QString SettingModel::getDateFormat() const {
+    if (dateFormat == "dd mm yyyy"_L1) return u"dd/MM/yyyy"_s;
+    if (dateFormat == "mm dd yyyy"_L1) return u"MM/dd/yyyy"_s;
+    if (dateFormat == "yyyy mm dd"_L1) return u"yyyy/MM/dd"_s;
+    return {};
+}
+
+bool SettingModel::isMetric() const { return metricFormat == "kg / cm"_L1; }
+
+bool SettingModel::is12Hours() const { return timeFormat == "12-hours"_L1; }
+
+} // namespace zel

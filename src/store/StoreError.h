@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include <tl/expected.hpp>
+
+namespace zel {
+
+enum class StoreErrorCode {
+    notReadable,   ///< the file is not there or may not be read
+    notParsed,     ///< its content is no well-formed XML, or its root is not ZEL
+    notWritable,   ///< the file or its folder may not be written
+    writeFailed,   ///< writing began and failed; the file is as it was before
+    busy,          ///< another program holds the file
+    noSuchRecord,  ///< no record with the given ID
+    alreadyKnown,  ///< a record with the given ID exists
+    invalidRecord, ///< the record lacks what it needs to be stored
+};
+
+/// Why the store could not do what it was asked. Nothing was changed.
+struct StoreError {
+    StoreErrorCode code;
+    QString path;   ///< the file concerned, or the ID for the record codes
+    QString detail; ///< the parser's or the system's own words; may be empty
+
+    bool operator==(const StoreError&) const = default;
+};
+
+using StoreResult = tl::expected<void, StoreError>;
+
+/// The error in plain words for the user, from the translation table.
+[[nodiscard]] QString describe(const StoreError& error);
+
+} // namespace zel

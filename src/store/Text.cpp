@@ -1,0 +1,81 @@
+#include "store/Text.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::string_view withoutLeadingBlanks(std::string_view text) {
+    constexpr std::string_view blanks = " \t\r\n\v\f";
+    while (!text.empty() && blanks.find(text.front()) != blanks.npos)
+        text.remove_prefix(1);
+    return text;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+} // namespace
+
+QString TrimStr(const QString& text) { return text.trimmed(); }
+
+QString getStrAfter(const QString& text, const QString& separator) {
+    const auto position = text.indexOf(separator);
+    return position < 0 || separator.isEmpty() ? u""_s : text.sliced(position + 1);
+}
+
+std::uint32_t HexStrToInt(std::string_view text) {
+    std::uint32_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
+    return error == std::errc::result_out_of_range ? std::numeric_limits<std::uint32_t>::max() : value;
+}
+
+bool isDecimalString(const QString& text) {
+    return std::ranges::all_of(text, [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; });
+}
+
+bool IsEmptyID(const QString& text) { return text.isEmpty() || text == "-"_L1; }
+
+QString IncreaseID(const QString& number) {
+    constexpr auto most = std::numeric_limits<std::int64_t>::max();
+    const std::int64_t value = leadingInteger(number.toStdString());
+    return QString::number(value < most ? value + 1 : most);
+}
+
+QString TruncateLines(const QString& text, int lines) {
+    if (lines <= 0) return u""_s;
+    QString unix = text;
+    unix.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+    return unix.split(u'\n').first(std::min<qsizetype>(lines, unix.count(u'\n') + 1)).join("\r\n"_L1);
+}
+
+std::int64_t leadingInteger(std::string_view text) {
+    text = withoutLeadingBlanks(text);
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) text.remove_prefix(1);
+    if (text.empty() || !isDigit(text.front())) return 0;
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error == std::errc::result_out_of_range) value = std::numeric_limits<std::int64_t>::max();
+    return isNegative ? -value : value;
+}
+
+double leadingNumber(std::string_view text) {
+    text = withoutLeadingBlanks(text);
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) text.remove_prefix(1);
+    // Only digits and a point begin a number; from_chars would take "inf" and "nan" as well.
+    if (text.empty() || (!isDigit(text.front()) && text.front() != '.')) return 0;
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{}) return 0;
+    return isNegative ? -value : value;
+}
+
+} // namespace zel

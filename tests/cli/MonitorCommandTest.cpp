@@ -1,0 +1,110 @@
+#include "cli/CliTest.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+/// The monitor of the plan with one fault.
+QByteArray faulty(const char* fault) {
+    return QByteArray(planM1).chopped(1) + R"(, "faults": [)" + fault + "]}";
+}
+
+TEST_F(CliTest, MonitorPrintsWhatItHolds) {
+    const Outcome outcome = zelWith(planM1, {u"monitor"_s});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.out, StartsWith("model: 41\narrhythmia: afib\nid: M1\nclock: 2026-11-21 09:00:3"));
+    EXPECT_THAT(outcome.out, testing::EndsWith("\nreadings: 4\n"));
+    EXPECT_EQ(outcome.err, "");
+
+    const std::pair<const char*, const char*> models[] = {{"3a", "pad"}, {"37", "none"}, {"40", "none"}};
+    for (const auto& [model, arrhythmia] : models)
+        EXPECT_THAT(zelWith(QByteArray(planM1).replace("41", model), {u"monitor"_s}).out,
+                    HasSubstr(std::string("\narrhythmia: ") + arrhythmia + "\n"));
+}
+
+TEST_F(CliTest, MonitorIsChangedAsTold) {
+    plug(planM1);
+    EXPECT_THAT(zel({u"monitor"_s, u"--set-clock"_s}).out, StartsWith("clock: 2026-11-21 09:00:0"));
+    EXPECT_EQ(zel({u"monitor"_s, u"--send-id"_s, u"NEW 7"_s}).out, "id: NEW 7\n");
+    EXPECT_THAT(zel({u"monitor"_s}).out, testing::EndsWith("\nreadings: 4\n"));
+    EXPECT_EQ(zel({u"monitor"_s, u"--erase"_s}).status, 2);
+    EXPECT_THAT(zel({u"monitor"_s}).out, testing::EndsWith("\nreadings: 4\n"));
+    EXPECT_EQ(zel({u"monitor"_s, u"--erase"_s, u"--yes"_s}).out, "readings: 0\n");
+    EXPECT_THAT(zel({u"monitor"_s}).out, HasSubstr("\nid: NEW 7\n"));
+}
+
+TEST_F(CliTest, MonitorIsWaitedFor) {
+    const auto waited = [this](const QStringList& arguments, auto least, auto most) {
+        const WallTime begin = clock.now();
+        const Outcome outcome = zel(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_GE(clock.now() - begin, least);
+        EXPECT_LE(clock.now() - begin, most);
+        return outcome.err;
+    };
+    EXPECT_THAT(waited({u"monitor"_s}, 5s, 6s), HasSubstr("No monitor was found within 5 s"));
+    EXPECT_THAT(waited({u"monitor"_s, u"--wait=60"_s}, 60s, 61s), HasSubstr("within 60 s"));
+    whenUnplugged = PortOpen::denied;
+    EXPECT_THAT(waited({u"monitor"_s}, 5s, 6s), HasSubstr("70-zel.rules"));
+    plug(faulty(R"({"kind": "noAnswer", "command": ">"})"));
+    EXPECT_THAT(waited({u"monitor"_s}, 5s, 15s), HasSubstr("did not answer"));
+
+    plug(faulty(R"({"kind": "absent", "command": "open", "times": 9})"));
+    EXPECT_EQ(zel({u"monitor"_s}).status, 0);
+    plug(planM1); // the first query only probes, so even no waiting at all means two
+    EXPECT_EQ(zel({u"monitor"_s, u"--wait"_s, u"0"_s}).status, 0);
+}
+
+TEST_F(CliTest, MonitorThatStopsAnsweringFailsAfterWhatIsKnown) {
+    struct Case {
+        const char* fault;
+        const char* lastLine;
+        const char* reason;
+    };
+    const Case cases[] = {
+        {R"({"kind": "badCheckField", "command": "$"})", "arrhythmia: afib\n", "ID could not be read"},
+        {R"({"kind": "noAnswer", "command": "&"})", "id: M1\n", "clock could not be read"},
+        {R"({"kind": "unplug", "command": "\""})", "\nclock: 2026", "number of readings"},
+    };
+    for (const Case& broken : cases) {
+        SCOPED_TRACE(broken.fault);
+        const Outcome outcome = zelWith(faulty(broken.fault), {u"monitor"_s});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(outcome.out, HasSubstr(broken.lastLine));
+        EXPECT_THAT(outcome.out, testing::Not(HasSubstr("readings")));
+        EXPECT_THAT(outcome.err, HasSubstr(broken.reason));
+    }
+}
+
+TEST_F(CliTest, MonitorChangeThatFailsIsTold) {
+    plug(faulty(R"({"kind": "wrongAcknowledgement", "command": "#"},
+                   {"kind": "wrongAcknowledgement", "command": "'"})"));
+    const std::pair<QStringList, const char*> cases[] = {
+        {{u"monitor"_s, u"--set-clock"_s}, "clock could not be set"},
+        {{u"monitor"_s, u"--send-id"_s, u"X"_s}, "could not be written into the monitor"},
+        {{u"monitor"_s, u"--erase"_s, u"--yes"_s}, "could not be erased"},
+    };
+    for (const auto& [arguments, reason] : cases) {
+        const Outcome outcome = zel(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(outcome.err, HasSubstr(reason));
+    }
+    plug(QByteArray(planM1).replace("\"M1\"", "\"\""));
+    EXPECT_THAT(zel({u"monitor"_s, u"--erase"_s, u"--yes"_s}).err, HasSubstr("--send-id"));
+}
+
+TEST_F(CliTest, SimulatedMonitorsBadPlanIsTold) {
+    const Outcome outcome = zelWith("{", {u"monitor"_s});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.err, HasSubstr("plan.json"));
+}
+
+} // namespace
+
+} // namespace zel

@@ -1,0 +1,78 @@
+#include "cli/CliTest.h"
+#include "cli/Commands.h"
+#include "cli/ProgressLine.h"
+
+#include <sstream>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+using testing::HasSubstr;
+
+namespace {
+
+TEST_F(CliTest, PatientsAreListedByNameAsCsv) {
+    const auto add = [this](const QString& ID, const QString& family, const QString& given) {
+        return zel({u"patients"_s, u"--add"_s, u"--id"_s, ID, u"--family-name"_s, family, u"--given-names"_s,
+                    given});
+    };
+    EXPECT_EQ(zel({u"patients"_s}).out, "id,family-name,given-names\n");
+    EXPECT_EQ(add(u"2"_s, u"Müller"_s, u"Jörg, \"Jo\""_s).status, 0);
+    EXPECT_EQ(add(u"an ID longer than the monitor keeps"_s, u"Adams"_s, u"日本 😀"_s).status, 0);
+    EXPECT_EQ(zel({u"patients"_s}).out, "id,family-name,given-names\n"
+                                        "an ID longer than the monitor keeps,Adams,日本 😀\n"
+                                        "2,Müller,\"Jörg, \"\"Jo\"\"\"\n");
+
+    const QByteArray before = data();
+    const Outcome again = add(u"2"_s, u"Other"_s, u"Name"_s);
+    EXPECT_EQ(again.status, 1);
+    EXPECT_THAT(again.err, HasSubstr("'2'"));
+    EXPECT_EQ(data(), before);
+}
+
+TEST_F(CliTest, UnknownPatientIsNoEmptyList) {
+    for (const QString& command : {u"readings"_s, u"download"_s}) {
+        const Outcome outcome = zel({command, u"--patient"_s, u"nobody"_s});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, HasSubstr("'nobody'"));
+    }
+}
+
+TEST_F(CliTest, SurroundingsThatFailAreTold) {
+    std::ostringstream out;
+    std::ostringstream err;
+    cli::Surroundings around{.out = out, .err = err, .clock = clock, .paths = {}, .attach = {}};
+    EXPECT_EQ(cli::run({u"patients"_s}, around), 1);
+    EXPECT_THAT(err.str(), HasSubstr("HOME"));
+
+    around.out.setstate(std::ios::badbit); // as a full disk sets it
+    EXPECT_EQ(cli::run({u"--help"_s}, around), 1);
+    EXPECT_THAT(err.str(), HasSubstr("could not be written"));
+}
+
+TEST_F(CliTest, ProgressIsSparseAndNeverGoesBack) {
+    const auto shown = [this](bool terminal) {
+        std::ostringstream err;
+        cli::Surroundings around{
+            .out = err, .err = err, .errIsTerminal = terminal, .clock = clock, .paths = {}, .attach = {}};
+        {
+            cli::ProgressLine progress(around);
+            for (int done = 0; done <= 60; ++done)
+                progress.show(100, done);
+            for (int done = 0; done <= 100; ++done)
+                progress.show(100, done);
+        }
+        return QString::fromStdString(err.str());
+    };
+    EXPECT_EQ(shown(false),
+              u"Received 0 of 100 readings\nReceived 20 of 100 readings\nReceived 40 of 100 readings\n"
+              "Received 60 of 100 readings\nReceived 80 of 100 readings\n"
+              "Received 100 of 100 readings\n"_s);
+    EXPECT_EQ(shown(true).count(u'\r'), 101);
+    EXPECT_EQ(shown(true).count(u'\n'), 1);
+}
+
+} // namespace
+
+} // namespace zel

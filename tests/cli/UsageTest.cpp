@@ -1,0 +1,109 @@
+#include "cli/CliTest.h"
+#include "cli/CommandLine.h"
+#include "cli/Commands.h"
+
+#include <QByteArrayList>
+#include <QFile>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+using testing::HasSubstr;
+
+namespace {
+
+QStringList words(const char* line) { return QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts); }
+
+TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"frobnicate", "no command 'frobnicate'"},
+        {"", "command is missing"},
+        {"monitor --frobnicate", "frobnicate"},
+        {"monitor extra", "'extra' is not expected"},
+        {"monitor --erase", "--yes"},
+        {"monitor --yes", "--erase"},
+        {"monitor --set-clock --erase --yes", "at a time"},
+        {"monitor --set-clock --send-id A", "at a time"},
+        {"monitor --send-id", "send-id"},
+        {"monitor --send-id ABCDEFGHIJKL", "1 to 11"},
+        {"monitor --send-id Ä1", "1 to 11"},
+        {"monitor --wait", "wait"},
+        {"monitor --wait 1.5", "whole number"},
+        {"monitor --wait -1", "whole number"},
+        {"monitor --wait 5 --wait 6", "more than once"},
+        {"patients --id A", "--add"},
+        {"patients --add --family-name F --given-names G", "--id is missing"},
+        {"patients --add --id A --given-names G", "--family-name is missing"},
+        {"patients --add --id A --family-name F", "--given-names is missing"},
+        {"patients --add --id - --family-name F --given-names G", "--id must not"},
+        {"patients --add --id A --family-name - --given-names G", "--family-name must not"},
+        {"patients --add --id A --family-name F --given-names \tG", "--given-names must not"},
+        {"patients --add --id A\u0085B --family-name F --given-names G", "--id must not"},
+        {"patients --wait 5", "wait"},
+        {"download", "--patient is missing"},
+        {"download --patient=", "--patient is missing"},
+        {"download --patient A --patient B", "more than once"},
+        {"download --patient A --yes", "yes"},
+        {"download --patient A --wait soon", "whole number"},
+        {"readings", "--patient is missing"},
+        {"readings --patient A --from 2026-02-30", "'2026-02-30'"},
+        {"readings --patient A --to 2026-2-3", "'2026-2-3'"},
+        {"readings --patient A --to yesterday", "'yesterday'"},
+        {"readings --patient A --from 2026-03-02 --to 2026-03-01", "after"},
+    };
+    for (const auto& [line, reason] : cases) {
+        SCOPED_TRACE(line);
+        const Outcome outcome = zel(words(line));
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, HasSubstr(reason));
+        EXPECT_THAT(outcome.err, HasSubstr("--help'"));
+    }
+    EXPECT_FALSE(QFile::exists(dataFile()));
+}
+
+TEST_F(CliTest, HelpTellsOfEveryCommandAndOption) {
+    const Outcome overall = zel({u"--help"_s});
+    EXPECT_EQ(overall.status, 0);
+    for (const cli::Command& command : cli::commands()) {
+        SCOPED_TRACE(command.name);
+        EXPECT_THAT(overall.out, HasSubstr(command.name));
+        const Outcome own = zel({QString::fromLatin1(command.name), u"--help"_s});
+        EXPECT_EQ(own.status, 0);
+        for (const QCommandLineOption& option : command.options())
+            EXPECT_THAT(own.out, HasSubstr("  --" + option.names().constFirst().toStdString() + " "));
+    }
+    EXPECT_EQ(zel({u"--version"_s}).out, "zel " ZEL_VERSION "\n");
+}
+
+TEST(CommandLine, OpensTheWindowUnlessThereIsACommandOrAnUnknownWord) {
+    const std::pair<const char*, bool> cases[] = {
+        {"", false},
+        {"--simulated-monitor", false},
+        {"--simulated-monitor=plan.json", false},
+        {"-platform offscreen", false},
+        {"monitor", true},
+        {"readings --patient A", true},
+        {"--simulated-monitor=plan.json monitor", true},
+        {"--simulated-monitor download --patient A", true},
+        {"--help", true},
+        {"-h", true},
+        {"--version", true},
+        {"frobnicate", true},
+    };
+    for (const auto& [line, isCommand] : cases) {
+        SCOPED_TRACE(line);
+        QByteArrayList texts{"zel"};
+        for (const QString& word : words(line))
+            texts += word.toUtf8();
+        std::vector<char*> arguments(static_cast<std::size_t>(texts.size()));
+        std::ranges::transform(texts, arguments.begin(), [](QByteArray& text) { return text.data(); });
+        EXPECT_EQ(cli::isCommand(static_cast<int>(arguments.size()), arguments.data()), isCommand);
+    }
+}
+
+} // namespace
+
+} // namespace zel

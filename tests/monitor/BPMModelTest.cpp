@@ -1,0 +1,116 @@
+#include "monitor/BPMModel.h"
+
+#include "Outcome.h"
+#include "ScriptedPort.h"
+#include "monitor/SimulatedMonitor.h"
+#include "monitor/SimulatedMonitorPlan.h"
+#include "support/ManualClock.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+TEST(BPMModel, CapabilityByModelCode) {
+    for (const auto code : {"41"_L1, "42"_L1, "43"_L1, "44"_L1})
+        EXPECT_EQ(BPMModel::capability(code), (ModelCapability{.isAFib = true})) << code.data();
+    for (const auto code : {"31"_L1, "32"_L1, "35"_L1, "36"_L1, "39"_L1, "3A"_L1, "3B"_L1, "3C"_L1})
+        EXPECT_EQ(BPMModel::capability(code), (ModelCapability{.isPAD = true})) << code.data();
+    for (const auto code : {"33"_L1, "34"_L1, "37"_L1, "38"_L1, "40"_L1, "3a"_L1, ""_L1})
+        EXPECT_EQ(BPMModel::capability(code), ModelCapability{}) << code.data();
+}
+
+TEST(BPMModel, WhatFitsTheMonitor) {
+    for (const auto& good : {u"A"_s, u"ABCDEFGHIJK"_s, u"a b-~!"_s})
+        EXPECT_TRUE(BPMModel::fitsMonitor(good));
+    for (const auto& bad : {u""_s, u"ABCDEFGHIJKL"_s, u" A"_s, u"A "_s, u"\u00C4"_s, u"A\tB"_s})
+        EXPECT_FALSE(BPMModel::fitsMonitor(bad));
+}
+
+TEST(BPMModel, LowerCaseModelCodeIsKeyedInUpperCase) {
+    ScriptedPort port;
+    ManualClock clock;
+    BPMModel model(port, clock);
+    EXPECT_FALSE(model.checkIsConnected()); // the probe
+    EXPECT_EQ(model.lastResult(), MonitorResult::timeOut);
+    port.answers = {reply(checked("3035303a31")), reply(checked("3035304031"))};
+    EXPECT_TRUE(model.checkIsConnected());
+    EXPECT_TRUE(model.isPAD());
+    EXPECT_TRUE(model.checkIsConnected()); // a model that is not known
+    EXPECT_FALSE(model.isPAD() || model.isAFib());
+    port.opening = PortOpen::denied;
+    port.failReads = true;
+    EXPECT_FALSE(model.checkIsConnected());
+    EXPECT_EQ(model.lastResult(), MonitorResult::accessDenied);
+    EXPECT_EQ(outcome(model.getBPMID()), MonitorResult::accessDenied);
+}
+
+class BPMModelTest : public testing::Test {
+protected:
+    void SetUp() override { std::ignore = model.checkIsConnected(); }
+
+    ManualClock clock;
+    SimulatedMonitor port{builtInPlan(clock.now()), clock};
+    BPMModel model{port, clock};
+};
+
+TEST_F(BPMModelTest, WritesAndReadsBackTheID) {
+    for (const auto& ID : {u"Z"_s, u"/:;<=>?[]{~"_s, u"J. O'Neil"_s}) {
+        EXPECT_EQ(model.sendID(ID, false), MonitorResult::success);
+        EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), ID);
+    }
+    EXPECT_EQ(model.sendID(u"TWELVE CHARS"_s, false), MonitorResult::unfitID);
+    EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"J. O'Neil"_s);
+    EXPECT_GT(model.getBPMCycleDataCount().value_or(0), 0);
+    EXPECT_EQ(model.eraseData(u"A1"_s), MonitorResult::success);
+    EXPECT_EQ(model.getBPMCycleDataCount().value_or(-1), 0);
+    EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"A1"_s);
+}
+
+TEST_F(BPMModelTest, SetsTheMonitorsClock) {
+    SimulatedMonitorPlan plan;
+    plan.clockOffset = -3661s;
+    SimulatedMonitor late(plan, clock);
+    BPMModel lateModel(late, clock);
+    std::ignore = lateModel.checkIsConnected();
+    const auto lag = [&] { return clock.now() - lateModel.readBPMDate().value(); };
+    EXPECT_NEAR(seconds(lag()), 3661, 1);
+    EXPECT_EQ(lateModel.setBPMDate(), MonitorResult::success);
+    EXPECT_NEAR(seconds(lag()), 1, 1); // the frame takes 1.2 s
+    clock.advance(40 * 24h);
+    EXPECT_NEAR(seconds(lag()), 1, 1);
+}
+
+TEST_F(BPMModelTest, ClockThatSaysNoDate) {
+    ScriptedPort scripted;
+    BPMModel other(scripted, clock);
+    std::ignore = other.checkIsConnected();
+    const std::string settings(70, '0');
+    scripted.answers = {
+        reply(checked("13321920140509" + settings)), {}, {}, reply(checked("03221920140509" + settings))};
+    EXPECT_EQ(outcome(other.readBPMDate()), MonitorResult::badFixedContent);
+    const auto third = other.readBPMDate();
+    EXPECT_EQ(DateToStr(third.value(), u"yyyy-MM-dd HH:mm:ss"_s), u"2019-03-22 14:05:09"_s);
+}
+
+TEST(BPMModelThreads, InterruptFromAnotherThreadEndsTheExchange) {
+    SystemClock clock;
+    SimulatedMonitorPlan plan;
+    plan.faults = {{.kind = SimulatedFault::Kind::halfAnswer, .command = Command::records}};
+    plan.records.assign(255, std::string(32, '0'));
+    SimulatedMonitor port(plan, clock);
+    BPMModel model(port, clock);
+    auto result = MonitorResult::success;
+    std::thread worker([&] { result = outcome(model.getBPMCycleData([](int, int) {})); });
+    model.interrupt(); // before, in or after its first wait: the answer never gets complete by itself
+    worker.join();
+    EXPECT_EQ(result, MonitorResult::interrupted);
+}
+
+} // namespace
+} // namespace zel

@@ -1,0 +1,195 @@
+#include "Outcome.h"
+#include "ScriptedPort.h"
+#include "monitor/MonitorCommands.h"
+#include "support/ManualClock.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+using namespace std::chrono_literals;
+
+const std::string goodVersion = checked("3035304131");
+const std::string goodID = checked("44454D4F31000000000000,05.00\r\n");
+
+class MonitorTransportTest : public testing::Test {
+protected:
+    void SetUp() override { // the first query of all only probes
+        std::ignore = commands.getBPMVersion();
+        port.written.clear();
+        port.reads = 0;
+        begin = clock.now();
+    }
+    [[nodiscard]] std::chrono::microseconds elapsed() const { return clock.now() - begin; }
+    MonitorResult version() { return outcome(commands.getBPMVersion()); }
+
+    ScriptedPort port;
+    ManualClock clock;
+    MonitorTransport transport{port, clock};
+    MonitorCommands commands{transport};
+    WallTime begin;
+};
+
+TEST_F(MonitorTransportTest, ReplyIsTheSameWhateverItsSplit) {
+    for (std::size_t size = 1; size <= reportCapacity; ++size) {
+        port.answers = {reply(goodID, size), reply(goodVersion, size)};
+        EXPECT_EQ(commands.getBPMID().value_or("failed"), "DEMO1") << size;
+        EXPECT_EQ(commands.getBPMVersion().value_or("failed"), goodVersion) << size;
+    }
+}
+
+TEST_F(MonitorTransportTest, OneGoodReplySpoiledOnce) {
+    struct Case {
+        const char* name;
+        std::function<void(std::vector<Report>&)> spoil;
+        MonitorResult result;
+    };
+    const auto with = [](const std::string& text) {
+        return [text](std::vector<Report>& reports) { reports = reply(checked(text), 5); };
+    };
+    const Case cases[] = {
+        {"nothing", [](auto&) {}, MonitorResult::success},
+        {"refused", [](auto& r) { r[0][1] = 0x15; }, MonitorResult::noAcknowledgement},
+        {"report without data", [](auto& r) { r[0] = {0x0F}; }, MonitorResult::noAcknowledgement},
+        {"check field", [](auto& r) { r.back().back() ^= 1; }, MonitorResult::badCheckField},
+        {"content", [](auto& r) { r[1][2] ^= 1; }, MonitorResult::badCheckField},
+        {"one too many",
+         [](auto& r) {
+             r.back()[0] = 0x54;
+             r.back().push_back('0');
+         },
+         MonitorResult::badCheckField},
+        {"prefix", with("3035314131"), MonitorResult::badFixedContent},
+        {"suffix", with("3035304132"), MonitorResult::badFixedContent},
+        {"half", [](auto& r) { r.pop_back(); }, MonitorResult::timeOut},
+        {"count beyond the report",
+         [](auto& r) {
+             r.back() = {0x0F, '4'};
+         },
+         MonitorResult::timeOut},
+        {"nothing at all", [](auto& r) { r.clear(); }, MonitorResult::timeOut},
+    };
+    for (const Case& sample : cases) {
+        std::vector<Report> reports = reply(goodVersion, 5);
+        sample.spoil(reports);
+        port.answers = {reports};
+        EXPECT_EQ(version(), sample.result) << sample.name;
+    }
+    port.answers = {reply(checked("44454D4F31000000000000,05.01\r\n"))};
+    EXPECT_EQ(outcome(commands.getBPMID()), MonitorResult::badFixedContent);
+}
+
+TEST_F(MonitorTransportTest, CheckFieldMismatchIsLoggedAsItAlwaysWas) {
+    static QStringList lines; // a message handler takes no context
+    lines.clear();
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& line) { lines << line; });
+    port.answers = {reply("303530413100")};
+    const MonitorResult result = version();
+    qInstallMessageHandler(previous);
+    EXPECT_EQ(result, MonitorResult::badCheckField);
+    EXPECT_TRUE(lines.contains(QStringLiteral("checkSum error res2:F  res1:0  daat2:7  data1:0\n")))
+        << lines.join(u'|').toStdString();
+}
+
+TEST_F(MonitorTransportTest, FirstQueryAfterAFailedOpenOnlyProbes) {
+    port.failWrites = true;
+    EXPECT_EQ(version(), MonitorResult::writeFailed);
+    port.failWrites = false;
+    port.opening = PortOpen::absent;
+    EXPECT_EQ(version(), MonitorResult::noDevice);
+    port.opening = PortOpen::denied;
+    EXPECT_EQ(version(), MonitorResult::accessDenied);
+    port.opening = PortOpen::opened;
+    port.reads = 0;
+    begin = clock.now();
+    EXPECT_EQ(version(), MonitorResult::timeOut);
+    EXPECT_EQ(port.reads, 1);
+    EXPECT_EQ(elapsed(), MonitorTransport::iSleepTime);
+    port.queued.assign({{0x02, 0x06, 'X'}}); // what the probe asked for arrives too late
+    port.answers = {reply(goodVersion)};
+    EXPECT_EQ(version(), MonitorResult::success);
+}
+
+TEST_F(MonitorTransportTest, StaleHandleIsReplacedAndALiveOneKept) {
+    port.answers = {reply(goodVersion), reply(goodVersion), reply(goodVersion)};
+    EXPECT_EQ(version(), MonitorResult::success);
+    EXPECT_EQ(port.opens, 1);
+    port.failReads = true; // pulled while nothing was asked
+    port.opening = PortOpen::absent;
+    EXPECT_EQ(version(), MonitorResult::noDevice);
+    EXPECT_EQ(port.opens, 2);
+}
+
+TEST_F(MonitorTransportTest, ReadErrorEndsTheWait) {
+    port.onRead = [this] { port.failReads = !port.written.empty(); };
+    EXPECT_EQ(version(), MonitorResult::readFailed);
+}
+
+TEST_F(MonitorTransportTest, WaitsEndInTime) {
+    EXPECT_EQ(version(), MonitorResult::timeOut); // one second without a report
+    EXPECT_EQ(elapsed(), 1001ms);
+
+    port.onRead = [this] { // a report without data, often enough never to be silent
+        if (elapsed() / 900ms > (elapsed() - MonitorTransport::iSleepTime) / 900ms)
+            port.queued.push_back({0x00, 0x06});
+    };
+    begin = clock.now();
+    EXPECT_EQ(version(), MonitorResult::timeOut);
+    EXPECT_EQ(elapsed(), 12'001ms);
+
+    port.onRead = [] {};
+    begin = clock.now();
+    EXPECT_EQ(commands.sendID("A", false), MonitorResult::timeOut);
+    EXPECT_EQ(elapsed(), 4001ms);
+    EXPECT_EQ(port.written.size(), 3U); // command frames only
+}
+
+TEST_F(MonitorTransportTest, ClockThatIsSetBackDoesNotMakeAWaitLast) {
+    port.onRead = [this, reads = 0]() mutable {
+        if (++reads == 500) clock.advance(-24h);
+    };
+    EXPECT_EQ(version(), MonitorResult::timeOut);
+    EXPECT_LT(clock.slept(), 1600ms);
+    begin = clock.now();
+    port.onRead = [this, reads = 0]() mutable {
+        if (++reads == 500) clock.advance(-24h);
+    };
+    transport.clear_buffer(3s);
+    EXPECT_LT(elapsed() + 24h, 3600ms);
+}
+
+TEST_F(MonitorTransportTest, InterruptEndsEveryWaitAtOnce) {
+    port.onRead = [this, reads = 0]() mutable {
+        if (++reads == 10) transport.interrupt();
+    };
+    EXPECT_EQ(version(), MonitorResult::interrupted);
+    EXPECT_LE(elapsed(), 12ms);
+    const int reads = port.reads;
+    EXPECT_EQ(version(), MonitorResult::interrupted);
+    EXPECT_EQ(commands.setBPMDate("20190322140509"), MonitorResult::interrupted);
+    transport.clear_buffer(3s);
+    EXPECT_EQ(port.reads, reads);
+    transport.resume();
+    port.answers = {reply(goodVersion)};
+    EXPECT_EQ(version(), MonitorResult::success);
+}
+
+TEST_F(MonitorTransportTest, FramesFollowTheirAcknowledgement) {
+    port.answers = {reply(""), reportsOf("\x15", 1), reply("")};
+    EXPECT_EQ(commands.sendID("AZ", true), MonitorResult::success);
+    EXPECT_EQ(port.written.size(), 11U);
+    EXPECT_EQ(elapsed(), 1000ms);
+    EXPECT_EQ(port.written[1], (Report{0xFF, 0xF7, '0', '0', '0', '0', '0', '0', '0'}));
+    EXPECT_EQ(commands.sendID("AZ", true), MonitorResult::noAcknowledgement);
+    EXPECT_EQ(port.written.size(), 12U);
+    EXPECT_EQ(commands.setBPMDate("20190322140509"), MonitorResult::success);
+    EXPECT_EQ(port.written.size(), 25U);
+}
+
+} // namespace
+} // namespace zel

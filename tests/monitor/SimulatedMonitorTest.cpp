@@ -1,0 +1,235 @@
+#include "monitor/SimulatedMonitor.h"
+
+#include "Outcome.h"
+#include "monitor/BPMModel.h"
+#include "monitor/SimulatedMonitorPlan.h"
+#include "support/ManualClock.h"
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Kind = SimulatedFault::Kind;
+
+const DownloadProgress noProgress = [](int, int) {};
+
+class SimulatedMonitorTest : public testing::Test {
+protected:
+    /// A model that has seen the monitor's first, probing query.
+    std::unique_ptr<BPMModel> attach(const QByteArray& json) {
+        auto plan = readPlan(json);
+        EXPECT_TRUE(plan) << plan.error().key.toStdString() << " " << int(plan.error().code);
+        port = std::make_unique<SimulatedMonitor>(plan.value_or(SimulatedMonitorPlan{}), clock);
+        auto model = std::make_unique<BPMModel>(*port, clock);
+        std::ignore = model->checkIsConnected();
+        return model;
+    }
+    std::string answer(Command command) {
+        std::ignore = port->open();
+        EXPECT_TRUE(port->write(commandFrame(command)));
+        std::string text;
+        std::array<std::uint8_t, 256> report{};
+        for (bool first = true; port->read(report) > 0; first = false)
+            text += reportPayload(report, first);
+        return text;
+    }
+
+    ManualClock clock;
+    std::unique_ptr<SimulatedMonitor> port;
+};
+
+TEST_F(SimulatedMonitorTest, AnswersByteForByte) {
+    attach(R"({"model": "3A", "id": "AZ", "clockOffsetSeconds": 61, "reportSizes": [1, 4, 15], "records": [
+        {"time": "2019-03-22T14:05", "sys": 120, "dia": 83, "pulse": 72, "flag": 2}]})");
+    EXPECT_EQ(answer(Command::version), "3035303A3106");
+    EXPECT_EQ(answer(Command::id), "415A000000000000000000,05.00\r\n71");
+    EXPECT_EQ(answer(Command::date).substr(0, 84),
+              "11212620090101"
+              "0000011803010007000000000000FF3296F01496FA0A01010101010004000000000000"); // +1 h: Berlin
+    const std::string records = "00010000"
+                                "415A000000000000000000"
+                                "00"
+                                "1903221405\x02"
+                                "000000"
+                                "48"
+                                "14C"
+                                "78"
+                                "00000000";
+    EXPECT_EQ(answer(Command::records).substr(0, 64), records);
+    EXPECT_TRUE(checkSum(answer(Command::records)));
+    EXPECT_EQ(answer(static_cast<Command>('?')), "");
+}
+
+TEST_F(SimulatedMonitorTest, DownloadsWhatThePlanSaysInEverySplit) {
+    for (int size = 1; size <= 15; ++size) {
+        const auto model = attach(uR"({"model": "41", "id": "A", "reportSizes": [%1], "records": [
+            {"time": "2026-11-01T07:12", "sys": 255, "dia": 1023, "pulse": 0, "flag": "A"},
+            {"time": "undated", "sys": 120, "dia": 80, "pulse": 60, "flag": 1},
+            {"raw": "1903221405z      4814078000000\u0000\u00ff"}]})"_s.arg(size)
+                                      .toUtf8());
+        ASSERT_TRUE(model->checkIsConnected());
+        const auto readings = model->getBPMCycleData(noProgress).value();
+        ASSERT_EQ(readings.size(), 3U);
+        EXPECT_EQ(DateToStr(readings[0].ReadingDate, u"yyyy-MM-dd HH:mm"_s), u"2026-11-01 07:12"_s);
+        EXPECT_EQ(readings[0].sys, 255U);
+        EXPECT_EQ(readings[0].dia, 1023U);
+        EXPECT_EQ(readings[0].Arrhythmia, 4U);
+        EXPECT_TRUE(isNilReadingDate(readings[1].ReadingDate));
+        EXPECT_EQ(readings[1].Arrhythmia, 5U);
+        EXPECT_EQ(readings[1].mam, 1U);
+        EXPECT_EQ(readings[2].sys, 120U);
+    }
+}
+
+TEST_F(SimulatedMonitorTest, FrameWithAWrongCheckFieldIsNotTakenOver) {
+    const auto model = attach(R"({"model": "41", "id": "OLD"})");
+    ASSERT_TRUE(port->write(commandFrame(Command::sendID)));
+    std::string frame = idFrame("NEW", true);
+    frame.back() ^= 1;
+    for (const Report& chunk : dataChunks(frame))
+        ASSERT_TRUE(port->write(chunk));
+    EXPECT_EQ(model->getBPMID().value(), u"OLD"_s);
+}
+
+TEST_F(SimulatedMonitorTest, FaultsShowAsTheirResultCodes) {
+    struct Case {
+        const char* fault;
+        MonitorResult version;
+        MonitorResult next; ///< the same question again
+    };
+    const auto ok = MonitorResult::success;
+    const Case cases[] = {
+        {R"("kind": "noAnswer", "times": 1)", MonitorResult::timeOut, ok},
+        {R"("kind": "wrongAcknowledgement", "times": 1)", MonitorResult::noAcknowledgement, ok},
+        {R"("kind": "badCheckField")", MonitorResult::badCheckField, MonitorResult::badCheckField},
+        {R"("kind": "badFixedContent", "times": 1)", MonitorResult::badFixedContent, ok},
+        {R"("kind": "halfAnswer", "times": 1)", MonitorResult::timeOut, ok},
+        {R"("kind": "late", "delayMs": 900)", ok, ok},
+        {R"("kind": "late", "delayMs": 1100, "times": 1)", MonitorResult::timeOut, ok},
+        {R"("kind": "readError", "afterReports": 1, "times": 1)", MonitorResult::readFailed, ok},
+        {R"("kind": "writeError", "times": 1)", MonitorResult::writeFailed, ok},
+        {R"("kind": "unplug", "times": 1)", MonitorResult::readFailed, MonitorResult::noDevice},
+        {R"("kind": "unplug", "times": 1, "replugAfterOpens": 0)", MonitorResult::readFailed, ok},
+        {R"("kind": "unplug", "times": 1, "replugAfterMs": 1)", MonitorResult::readFailed,
+         MonitorResult::noDevice},
+    };
+    for (const auto& [fault, first, second] : cases) {
+        const auto model = attach(R"({"model": "41", "id": "A", "reportSizes": [5]})");
+        auto plan = readPlan(
+            QByteArray(R"({"model": "41", "id": "A", "reportSizes": [5], "faults": [{"command": "$", )")
+            + fault + "}]}");
+        ASSERT_TRUE(plan) << fault;
+        SimulatedMonitor faulty(*plan, clock);
+        BPMModel asked(faulty, clock);
+        std::ignore = asked.checkIsConnected();
+        EXPECT_EQ(outcome(asked.getBPMID()), first) << fault;
+        EXPECT_EQ(outcome(asked.getBPMID()), second) << fault;
+    }
+}
+
+TEST_F(SimulatedMonitorTest, UnplugInTheMiddleOfADownloadAndBack) {
+    const auto model = attach(R"({"model": "41", "id": "A", "records": [
+        {"time": "undated", "sys": 1, "dia": 2, "pulse": 3}, {"time": "undated", "sys": 1, "dia": 2, "pulse": 3}],
+        "faults": [{"command": "\"", "kind": "unplug", "afterReports": 4, "replugAfterOpens": 2, "times": 1},
+                   {"command": "open", "kind": "denied", "times": 1}]})");
+    EXPECT_EQ(model->lastResult(), MonitorResult::accessDenied);
+    EXPECT_EQ(outcome(model->getBPMCycleData(noProgress)), MonitorResult::noDevice);
+    EXPECT_EQ(model->getBPMCycleData(noProgress).value().size(), 2U);
+}
+
+TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
+    struct Case {
+        const char* members; ///< after a good model and ID
+        PlanError::Code code;
+        const char* key;
+    };
+    using Code = PlanError::Code;
+    const Case cases[] = {
+        {R"("records": [{"time": "2026-11-01T07:12", "sys": 256, "dia": 1, "pulse": 1}])", Code::notWhole,
+         "records[0].sys"},
+        {R"("records": [{"time": "2026-11-01T07:12", "sys": 1.5, "dia": 1, "pulse": 1}])", Code::notWhole,
+         "records[0].sys"},
+        {R"("records": [{"time": "2026-11-01T07:12", "sys": 1, "dia": 1024, "pulse": 1}])", Code::notWhole,
+         "records[0].dia"},
+        {R"("records": [{"time": "2026-11-01T07:12", "sys": 1, "dia": 1}])", Code::missing,
+         "records[0].pulse"},
+        {R"("records": [{"time": "2026-13-01T07:12", "sys": 1, "dia": 1, "pulse": 1}])", Code::notTime,
+         "records[0].time"},
+        {R"("records": [{"time": "1999-11-01T07:12", "sys": 1, "dia": 1, "pulse": 1}])", Code::notTime,
+         "records[0].time"},
+        {R"("records": [{"time": "undated", "sys": 1, "dia": 1, "pulse": 1, "flag": 3}])", Code::notAllowed,
+         "records[0].flag"},
+        {R"("records": [{"raw": "short"}])", Code::wrongLength, "records[0].raw"},
+        {R"("records": [{"raw": "12345678901234567890123456789012", "sys": 1}])", Code::unknownKey,
+         "records[0].sys"},
+        {R"("records": [7])", Code::notObject, "records[0]"},
+        {R"("records": {})", Code::notList, "records"},
+        {R"("reportSizes": [15, 16])", Code::notWhole, "reportSizes[1]"},
+        {R"("reportSizes": [0])", Code::notWhole, "reportSizes[0]"},
+        {R"("reportSizes": [])", Code::missing, "reportSizes[0]"},
+        {R"("clockOffsetSeconds": "1")", Code::notWhole, "clockOffsetSeconds"},
+        {R"("Id": "A")", Code::unknownKey, "Id"},
+        {R"("faults": [{"command": ">", "kind": "boom"}])", Code::notAllowed, "faults[0].kind"},
+        {R"("faults": [{"command": "\"", "kind": "badFixedContent"}])", Code::notAllowed,
+         "faults[0].command"},
+        {R"("faults": [{"command": "open", "kind": "noAnswer"}])", Code::notAllowed, "faults[0].command"},
+        {R"("faults": [{"command": ">", "kind": "noAnswer", "times": 0}])", Code::notWhole,
+         "faults[0].times"},
+        {R"("faults": [{"command": ">", "kind": "noAnswer", "afterReports": 1}])", Code::unknownKey,
+         "faults[0].afterReports"},
+    };
+    for (const auto& [members, code, key] : cases) {
+        const auto plan = readPlan(QByteArray(R"({"model": "41", "id": "A", )") + members + "}");
+        ASSERT_FALSE(plan) << members;
+        EXPECT_EQ(plan.error().key.toStdString(), key);
+        EXPECT_EQ(plan.error().code, code) << key;
+    }
+    const std::pair<const char*, Code> whole[] = {
+        {"", Code::notJson},
+        {"{", Code::notJson},
+        {"[]", Code::notObject},
+        {"{}", Code::missing},
+        {R"({"model": "411", "id": "A"})", Code::wrongLength},
+        {R"({"model": 41, "id": "A"})", Code::notText},
+        {R"({"model": "41", "id": "ABCDEFGHIJKL"})", Code::wrongLength},
+        {R"({"model": "41", "id": "\u20ac"})", Code::unencodable}};
+    for (const auto& [json, code] : whole) {
+        const auto plan = readPlan(json);
+        ASSERT_FALSE(plan) << json;
+        EXPECT_EQ(plan.error().code, code) << json;
+    }
+    const QByteArray record = R"({"time": "undated", "sys": 1, "dia": 2, "pulse": 3},)";
+    const QByteArray tooMany =
+        R"({"model": "41", "id": "A", "records": [)" + record.repeated(256).chopped(1) + "]}";
+    EXPECT_EQ(readPlan(tooMany).error().code, Code::tooMany);
+}
+
+TEST_F(SimulatedMonitorTest, BuiltInMonthIsPlausible) {
+    auto demo = makeSimulatedMonitor({}, clock).value();
+    BPMModel model(*demo, clock);
+    std::ignore = model.checkIsConnected();
+    ASSERT_TRUE(model.checkIsConnected());
+    const auto readings = model.getBPMCycleData(noProgress).value();
+    EXPECT_GE(readings.size(), 50U);
+    std::size_t undated = 0, averaged = 0, findings = 0;
+    for (const ReadingModel& reading : readings) {
+        EXPECT_TRUE(reading.sys > 100 && reading.sys < 160 && reading.dia > 60 && reading.dia < 105)
+            << reading.sys;
+        EXPECT_TRUE(reading.pulse > 50 && reading.pulse < 90);
+        ASSERT_TRUE(reading.ReadingDate);
+        undated += isNilReadingDate(reading.ReadingDate);
+        averaged += reading.mam;
+        findings += reading.Arrhythmia == 5;
+        EXPECT_LE(*reading.ReadingDate, clock.now());
+    }
+    EXPECT_TRUE(undated >= 1 && undated <= 3) << undated;
+    EXPECT_GT(averaged, 5U);
+    EXPECT_TRUE(findings >= 2 && findings <= 6) << findings;
+    EXPECT_FALSE(makeSimulatedMonitor(u"no such file"_s, clock));
+}
+
+} // namespace
+} // namespace zel

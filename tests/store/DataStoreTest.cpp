@@ -1,0 +1,234 @@
+#include "store/DataStore.h"
+
+#include "store/AtomicFile.h"
+#include "support/ManualClock.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct ScriptedPanel final : MessagePanel {
+    int shown = 0;
+    void ShowMessage(const QString&, const QString&) override { ++shown; }
+    bool AskMessage(const QString&, const QString&) override { return false; }
+};
+
+const QByteArray templateFile =
+    "<ZEL>\n    <SystemSetting>\n        <DateFormat>yyyy mm dd</DateFormat>\n    </SystemSetting>\n</ZEL>\n";
+
+/// A home without a data file, and a program folder with the template.
+struct DataStoreTest : testing::Test {
+    QTemporaryDir home;
+    QTemporaryDir program;
+    ManualClock clock;
+    DataStore store{{home.path(), program.path(), program.path()}, clock};
+    QString path = store.getZELXMLPath();
+
+    DataStoreTest() { write(program.filePath(u"ZEL_pad.xml"_s), templateFile); }
+
+    static void write(const QString& file, const QByteArray& content) {
+        QDir{}.mkpath(QFileInfo{file}.path());
+        ASSERT_TRUE(replaceFile(file, content));
+    }
+    void dataFile(const QByteArray& records) { write(path, "<ZEL>\n" + records + "</ZEL>\n"); }
+    [[nodiscard]] QByteArray content() const { return readFile(path).value_or(QByteArray{}); }
+
+    /// The names of the root's children with their ID or CommentID, in order.
+    [[nodiscard]] std::string order() const {
+        const auto document = XmlDocument::parse(content());
+        std::string names;
+        for (const pugi::xml_node node : document->root().children()) {
+            names += std::string{names.empty() ? "" : " "} + node.name() + ':' + node.child_value("ID")
+                     + node.child_value("RecID") + node.child_value("CommentID");
+        }
+        return names;
+    }
+
+    static PatientModel patient(const QString& ID, const QString& family) {
+        PatientModel made;
+        made.ID = ID;
+        made.FamilyName = family;
+        made.GivenNames = u"Given"_s;
+        return made;
+    }
+    static ReadingModel reading(std::uint32_t sys) {
+        ReadingModel made;
+        made.ReadingDate = getNilReadingDate() + std::chrono::hours{1000};
+        made.sys = sys;
+        return made;
+    }
+};
+
+TEST_F(DataStoreTest, FirstStartCopiesTheTemplateForTheOwnerAlone) {
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(content(), templateFile);
+    EXPECT_EQ(QFile::permissions(path) & QFileDevice::Permissions{0x0077}, QFileDevice::Permissions{});
+    EXPECT_EQ(QFile::permissions(QFileInfo{path}.path()) & QFileDevice::Permissions{0x0077},
+              QFileDevice::Permissions{});
+    EXPECT_EQ(store.getSetting().dateFormat, u"yyyy mm dd"_s);
+    EXPECT_EQ(readFile(program.filePath(u".target"_s)).value(), "pad");
+}
+
+TEST_F(DataStoreTest, TargetFileChoosesTheTemplate) {
+    write(program.filePath(u".target"_s), "ihd\nmore");
+    write(program.filePath(u"ZEL_ihd.xml"_s),
+          "<ZEL><SystemSetting><SysStandard>7</SysStandard></SystemSetting></ZEL>");
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(store.getSetting().sysStandard, 7U);
+    EXPECT_EQ(readFile(program.filePath(u".target"_s)).value(), "ihd\nmore");
+}
+
+TEST_F(DataStoreTest, TemplateThatIsMissingIsReportedAndNothingIsWritten) {
+    write(program.filePath(u".target"_s), "none");
+    const auto result = store.load();
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().code, StoreErrorCode::notReadable);
+    EXPECT_FALSE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(DataStoreTest, OlderVersionsFileIsMovedAndKept) {
+    const QByteArray old = "<ZEL><Patient><ID>old</ID></Patient><SystemSetting/></ZEL>";
+    write(store.getZELXMLPath_Old(), old);
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(content(), old);
+    EXPECT_FALSE(QFile::exists(store.getZELXMLPath_Old()));
+    EXPECT_TRUE(store.validIDinXML(u"old"_s));
+}
+
+TEST_F(DataStoreTest, FileWithoutSettingsGainsThem) {
+    dataFile("<Own/>");
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(order(), "Own: SystemSetting:");
+    EXPECT_EQ(store.getSetting().metricFormat, u"lb / in"_s);
+}
+
+TEST_F(DataStoreTest, DamagedFileIsNeverWrittenOver) {
+    for (const QByteArray& damaged :
+         {QByteArray{}, QByteArray{"<ZEL><Patient>"}, QByteArray{"<OTHER/>"}, QByteArray{"<ZEL/><ZEL/>"}}) {
+        write(path, damaged);
+        EXPECT_EQ(store.load().error().code, StoreErrorCode::notParsed);
+        EXPECT_TRUE(store.getPatientArray().empty());
+        EXPECT_FALSE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+        EXPECT_FALSE(store.deleteXMLPatient(u"A"_s));
+        EXPECT_FALSE(store.saveSetting());
+        EXPECT_FALSE(store.addCommentForCurID({}));
+        EXPECT_FALSE(store.saveCommentToXML({}));
+        EXPECT_FALSE(store.newDataTransfer({reading(120)}));
+        EXPECT_EQ(content(), damaged);
+    }
+    dataFile("<SystemSetting/>");
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s))); // readable again
+}
+
+TEST_F(DataStoreTest, PatientsAreInsertedAfterTheLastAndUpdatedInPlace) {
+    dataFile("<Patient><ID>A</ID><FamilyName>Zett</FamilyName><Own>kept</Own></Patient><SystemSetting/"
+             "><MeasureRec/>");
+    ASSERT_TRUE(store.saveXMLPatient(patient(u"B"_s, u"Älpler"_s)));
+    EXPECT_EQ(order(), "Patient:A Patient:B SystemSetting: MeasureRec:");
+    ASSERT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+    EXPECT_TRUE(content().contains("<FamilyName>Abel</FamilyName>\n        <Own>kept</Own>\n"));
+    EXPECT_FALSE(
+        content().contains("Given</GivenNames>\n        <Own>")); // no child is added to an old element
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(store.getPatientArray().at(1).DisplayName, u"Älpler,Given"_s);
+    EXPECT_EQ(store.saveXMLPatient(patient(u"-"_s, u"Abel"_s)).error().code, StoreErrorCode::invalidRecord);
+    EXPECT_EQ(DataStore::getPatientCount(path), 2);
+    EXPECT_EQ(DataStore::getPatientCount(home.path()), 0);
+}
+
+TEST_F(DataStoreTest, DeletingAPatientLeavesItsDownloadLog) {
+    dataFile("<Patient><ID>A</ID></Patient><SystemSetting/><MeasureRec><ID>A</ID></"
+             "MeasureRec><MeasureRec><ID>B</ID></MeasureRec>"
+             "<MeasureRec><ID>A</ID></MeasureRec><Comment><ID>A</ID></Comment><DataTransferLog><ID>A</ID></"
+             "DataTransferLog>");
+    ASSERT_TRUE(store.deleteXMLPatient(u"A"_s));
+    EXPECT_EQ(order(), "SystemSetting: MeasureRec:B DataTransferLog:A");
+}
+
+TEST_F(DataStoreTest, DownloadNumbersStoresAndLogsOnlyWhatIsNew) {
+    dataFile("<SystemSetting/><MeasureRec><ID>A</ID><RecID>1000041</RecID></MeasureRec><MeasureRec><ID>B</"
+             "ID><RecID>7</RecID></MeasureRec>");
+    ASSERT_TRUE(store.load());
+    store.setCurrentID(u"A"_s);
+    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121), reading(120)}).value(),
+              3U); // equal ones of one download are kept
+    EXPECT_EQ(
+        order(),
+        "SystemSetting: MeasureRec:A1000041 MeasureRec:A1000042 MeasureRec:A1000043 MeasureRec:A1000044 "
+        "MeasureRec:B7 DataTransferLog:A100001");
+    ASSERT_EQ(store.getReadingForCurID().size(), 4U);
+    EXPECT_TRUE(
+        store.getReadingForCurID()[2].isSame(reading(121))); // the copied element had no children of its own
+    const auto& log = store.getTrasferLogForCurID().at(0);
+    EXPECT_EQ(log.numofRecord, 3U);
+    EXPECT_EQ(log.transferDate, std::chrono::floor<std::chrono::seconds>(clock.now()));
+
+    const QByteArray before = content();
+    EXPECT_EQ(store.newDataTransfer({reading(121), reading(120)}).value(), 0U);
+    EXPECT_EQ(content(), before);
+
+    store.setCurrentID(u"new"_s);
+    EXPECT_EQ(store.newDataTransfer({reading(121)}).value(), 1U);
+    EXPECT_TRUE(QString::fromStdString(order()).endsWith(
+        u"MeasureRec:B7 MeasureRec:new1000045 DataTransferLog:A100001 DataTransferLog:new100002"_s));
+}
+
+TEST_F(DataStoreTest, DownloadSeesWhatAnotherProgramStored) {
+    dataFile("<SystemSetting/>");
+    ASSERT_TRUE(store.load());
+    DataStore other{{home.path(), program.path(), program.path()}, clock};
+    ASSERT_TRUE(other.load());
+    other.setCurrentID(u"A"_s);
+    store.setCurrentID(u"A"_s);
+    EXPECT_EQ(other.newDataTransfer({reading(120)}).value(), 1U);
+    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121)}).value(), 1U);
+    EXPECT_EQ(store.getReadingForCurID().at(0).RecID, u"1000001"_s);
+    EXPECT_EQ(store.getReadingForCurID().at(1).RecID, u"1000002"_s);
+}
+
+TEST_F(DataStoreTest, CommentsAreAddedChangedAndRemoved) {
+    dataFile("<SystemSetting/><MeasureRec><ID>A</ID><RecID>1</RecID><ReadingDate>2019-03-22T08:00:00+01:00</"
+             "ReadingDate></MeasureRec>");
+    ASSERT_TRUE(store.load());
+    store.setCurrentID(u"A"_s);
+    CommentModel comment;
+    comment.CommentID = store.getMaxID(DataStore::Counter::comment);
+    comment.beginDate = comment.endDate = store.getReadingForCurID().at(0).ReadingDate;
+    comment.comment = u"first"_s;
+    ASSERT_TRUE(store.addCommentForCurID(comment));
+    EXPECT_EQ(store.getReadingForCurID().at(0).comment->comment, u"first"_s);
+    store.setSelectedComment(u"10001"_s);
+    comment.ID = u"A"_s;
+    comment.comment = u"second"_s;
+    ASSERT_TRUE(store.saveCommentToXML(comment));
+    ASSERT_NE(store.getSelectedComment(), nullptr); // kept over the reload
+    EXPECT_EQ(store.getSelectedComment()->comment, u"second"_s);
+    comment.CommentID = u"10002"_s; // not in the file yet
+    ASSERT_TRUE(store.saveCommentToXML(comment));
+    EXPECT_EQ(order(), "SystemSetting: MeasureRec:A1 Comment:A10001 Comment:A10002");
+    ASSERT_TRUE(store.deleteSelectedCommentToXML());
+    EXPECT_EQ(order(), "SystemSetting: MeasureRec:A1 Comment:A10002");
+    EXPECT_EQ(store.getSelectedComment(), nullptr);
+}
+
+TEST_F(DataStoreTest, FileHeldByAnotherProgramOrReadOnlyIsTold) {
+    ScriptedPanel panel;
+    dataFile("<SystemSetting/>");
+    EXPECT_TRUE(store.checkXmlWritable(panel));
+    EXPECT_EQ(panel.shown, 0);
+    QFile::remove(path);
+    EXPECT_FALSE(store.checkXmlWritable(panel));
+    EXPECT_EQ(panel.shown, 1);
+}
+
+} // namespace
+} // namespace zel

@@ -1,0 +1,132 @@
+#include "store/Dates.h"
+
+#include <gtest/gtest.h>
+#include <unicode/timezone.h>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// The computer's time zone for the length of a test.
+class InZone {
+public:
+    explicit InZone(const char* name) { icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(name)); }
+    ~InZone() { icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone("Europe/Berlin")); }
+    InZone(const InZone&) = delete;
+    InZone& operator=(const InZone&) = delete;
+};
+
+Instant local(const QString& text) { return StrToDate(text, u"yyyy-MM-dd HH:mm:ss"_s).value(); }
+
+struct XmlDateCase {
+    const char* text;
+    const char* utc; ///< empty: no date
+};
+
+TEST(Dates, ReadTheFilesForm) {
+    const LocalZone zone;
+    for (const auto& [text, utc] : {
+             XmlDateCase{"2019-03-22T14:05:00+08:00", "2019-03-22 06:05:00.000"},
+             XmlDateCase{"2019-03-22T14:05:00.123+08:00", "2019-03-22 06:05:00.123"},
+             XmlDateCase{"2019-03-22T14:05:00-03:30", "2019-03-22 17:35:00.000"},
+             XmlDateCase{"2020-02-29T00:00:00+00:00", "2020-02-29 00:00:00.000"},
+             XmlDateCase{"2019-02-29T00:00:00+00:00", ""},
+             XmlDateCase{"2019-02-30T00:00:00.000+00:00", ""},
+             XmlDateCase{"2019-13-01T00:00:00+00:00", ""},
+             XmlDateCase{"2019-03-22T24:05:00+01:00", ""},
+             XmlDateCase{"2019-03-22T14:05:00+01:00x", ""},
+             XmlDateCase{"2019-03-22T14:05:00+0100", ""}, // the last colon is taken out, wherever it stands
+             XmlDateCase{"2019-03-22T14:05:00Z", ""},
+             XmlDateCase{"2019-03-22", ""},
+             XmlDateCase{"", ""},
+             XmlDateCase{":", ""},
+         }) {
+        const Date date = zone.XMLStrToDate(text);
+        EXPECT_EQ(date ? DateToStr_EN(date, u"yyyy-MM-dd HH:mm:ss.SSS"_s).toStdString() : "", utc) << text;
+    }
+}
+
+TEST(Dates, WriteTheFilesFormAndReadItBack) {
+    const LocalZone zone;
+    EXPECT_EQ(XMLDateToStr(local(u"2019-03-22 14:05:00"_s)), u"2019-03-22T14:05:00+01:00"_s);
+    EXPECT_EQ(XMLDateToStr(local(u"2019-07-22 14:05:00"_s)), u"2019-07-22T14:05:00+02:00"_s);
+    EXPECT_EQ(XMLDateToStr({}), u"0001-01-01T00:00:00+08:00"_s);
+    EXPECT_EQ(zone.XMLStrToDate("0001-01-01T00:00:00+08:00"), getNilDate());
+}
+
+TEST(Dates, EmptyDateStaysEmptyInEveryZone) {
+    for (const char* name : {"Europe/Berlin", "America/New_York", "Asia/Shanghai", "Pacific/Apia", "UTC"}) {
+        const InZone zone{name};
+        const QString text = XMLDateToStr(getNilDate());
+        EXPECT_EQ(text.size(), 25) << text.toStdString(); // no seconds in the offset of times before zones
+        EXPECT_TRUE(isNilDate(LocalZone{}.XMLStrToDate(text.toStdString()))) << text.toStdString();
+        EXPECT_TRUE(isNilReadingDate(getNilReadingDate())) << name;
+    }
+    EXPECT_TRUE(isNilDate({}));
+    EXPECT_FALSE(isNilDate(local(u"0002-01-01 00:00:00"_s)));
+}
+
+TEST(Dates, UndatedIsTheWholeFirstDayOf2000) {
+    EXPECT_TRUE(isNilReadingDate({}));
+    EXPECT_TRUE(isNilReadingDate(local(u"2000-01-01 23:59:59"_s)));
+    EXPECT_FALSE(isNilReadingDate(local(u"2000-01-02 00:00:00"_s)));
+    EXPECT_FALSE(isNilReadingDate(local(u"1999-12-31 23:59:59"_s)));
+}
+
+TEST(Dates, PatternsMustMatchWhole) {
+    EXPECT_EQ(DateToStr(StrToDate(u"201903221405"_s, u"yyyyMMddHHmm"_s), u"yyyy/MM/dd HH:mm"_s),
+              u"2019/03/22 14:05"_s);
+    for (const char* text : {"2019032214", "201913221405", "20190322140x", "201903221405 ", ""}) {
+        EXPECT_FALSE(StrToDate(QString::fromLatin1(text), u"yyyyMMddHHmm"_s)) << text;
+    }
+    EXPECT_TRUE(DateToStr({}, u"yyyy"_s).isNull());
+}
+
+TEST(Dates, TimeThatDaylightSavingSkipsKeepsItsDate) {
+    EXPECT_EQ(XMLDateToStr(local(u"2019-03-31 02:30:00"_s)), u"2019-03-31T03:30:00+02:00"_s);
+}
+
+struct DayDiffCase {
+    QString a;
+    QString b;
+    std::int64_t days;
+};
+
+TEST(Dates, DaysAndSecondsApart) {
+    for (const auto& [a, b, days] : {
+             DayDiffCase{u"2019-03-22 23:59:00"_s, u"2019-03-23 00:01:00"_s, 1},
+             DayDiffCase{u"2019-03-22 00:01:00"_s, u"2019-03-22 23:59:00"_s, 0},
+             DayDiffCase{u"2019-03-30 12:00:00"_s, u"2019-04-01 12:00:00"_s, 2},  // a day of 23 hours
+             DayDiffCase{u"2019-10-26 12:00:00"_s, u"2019-10-28 12:00:00"_s, 2},  // a day of 25 hours
+             DayDiffCase{u"2019-03-23 12:00:00"_s, u"2019-03-20 12:00:00"_s, -2}, // truncated, hour added
+         }) {
+        EXPECT_EQ(DayDiff(local(a), local(b)), days) << a.toStdString();
+    }
+    const Instant noon = local(u"2019-03-22 12:00:00"_s);
+    EXPECT_EQ(SecondDiff(noon, noon + 60999ms), 60);
+    EXPECT_EQ(SecondDiff(noon + 60999ms, noon), -60);
+    EXPECT_EQ(XMLDateToStr(DateToDayBoundary(noon, false)), u"2019-03-22T23:59:59+01:00"_s);
+    EXPECT_EQ(getDateMonthAgo(local(u"2019-05-31 12:00:00"_s), 3), local(u"2019-02-28 12:00:00"_s));
+    EXPECT_EQ(FirstDayOfThisYear(noon), local(u"2019-01-01 00:00:00"_s));
+}
+
+TEST(Dates, AgeCountsBirthdaysReached) {
+    const Instant leapDay = local(u"1960-02-29 08:00:00"_s);
+    EXPECT_EQ(GetAge(leapDay, local(u"2019-02-28 12:00:00"_s)), 58);
+    EXPECT_EQ(GetAge(leapDay, local(u"2019-03-01 00:00:00"_s)), 59);
+    EXPECT_EQ(GetAge(local(u"1960-05-05 23:00:00"_s), local(u"2019-05-05 01:00:00"_s)), 59);
+}
+
+TEST(Dates, LocalDayAndMinuteFollowTheZone) {
+    const auto place = [](const char* text) { return LocalZone{}.dayMinute(LocalZone{}.XMLStrToDate(text)); };
+    EXPECT_EQ(dayText(place("2019-03-31T23:30:00+00:00").day), u"2019/04/01"_s);
+    EXPECT_EQ(place("2019-03-31T23:30:00+00:00").minute, 90);
+    EXPECT_EQ(dayText(place("1969-12-31T22:59:00+00:00").day), u"1969/12/31"_s);
+    EXPECT_EQ(place("1969-12-31T22:59:00+00:00").minute, 23 * 60 + 59);
+    EXPECT_EQ(dayText(LocalZone{}.day({})), QString{});
+}
+
+} // namespace
+} // namespace zel

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdlib>
+
+namespace zel {
+
+/// One time zone, one locale and no display, wherever the tests are started from. First thing in main().
+inline void setTestEnvironment() {
+    setenv("TZ", "Europe/Berlin", 1);
+    setenv("LC_ALL", "C.UTF-8", 1);
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+}
+
+} // namespace zel

@@ -1,0 +1,98 @@
+"""The checks of this folder find what is planted in an otherwise clean tree, and nothing else."""
+import os
+import sys
+import tempfile
+
+import rooms
+import texts
+
+CLEAN = {
+    "src/main.cpp": '#include "app/Window.h"\n#include "cli/CommandLine.h"\n',
+    "src/store/File.h": "#pragma once\n#include <QString>\n#include <pugixml.hpp>\n#include <vector>\n",
+    "src/store/CMakeLists.txt": "zel_room(store DOORS Qt6::Core pugixml::pugixml)\n",
+    "src/monitor/Port.cpp": '#include "monitor/Port.h"\n#include "store/File.h"\n#include <hidapi.h>\n',
+    "src/monitor/Port.h": "#pragma once\n",
+    "src/monitor/CMakeLists.txt": "zel_room(monitor DOORS zel_store PkgConfig::HIDAPI) # not zel_app\n",
+    "src/app/Window.h": '#include "monitor/Port.h"\n#include <QWidget>\n#include <QtGui/QPainter>\n',
+    "src/app/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n',
+    "src/cli/CommandLine.h": '#include "store/File.h"\n',
+    "texts.ts": '<context><name>app</name><message id="Title"><translation>T</translation></message>\n'
+    '<message id="Word" numerus="yes"><translation><numerusform>W</numerusform></translation></message></context>\n',
+}
+
+# What is added to which file, and the words of the one finding that it must give.
+ROOM_PLANTS = (
+    ("src/store/File.h", '#include "monitor/Port.h"', "through the wall to monitor"),
+    ("src/monitor/Port.h", '#  include "app/Window.h"', "through the wall to app"),
+    ("src/app/Window.h", '#include "cli/CommandLine.h"', "through the wall to cli"),
+    ("src/cli/CommandLine.h", '#include "app/Window.h"', "through the wall to app"),
+    ("src/monitor/Port.h", '#include "../app/Window.h"', "not given from the source root"),
+    ("src/monitor/Port.h", '#include "Port.h"', "not given from the source root"),
+    ("src/cli/CommandLine.h", "#include <store/File.h>", "in angle brackets"),
+    ("src/cli/CommandLine.h", "#include <hidapi/hidapi.h>", "hidapi is not for this room"),
+    ("src/monitor/Port.h", "#include <pugixml.hpp>", "pugixml is not for this room"),
+    ("src/app/Window.h", "#include <unicode/ucal.h>", "ICU is not for this room"),
+    ("src/cli/CommandLine.h", "#include <QWidget>", "Qt Widgets is not for this room"),
+    ("src/monitor/Port.h", "#include <QtWidgets/QLabel>", "Qt Widgets is not for this room"),
+    ("src/store/File.h", "#include <QPainter>", "Qt Gui is not for this room"),
+    ("src/store/CMakeLists.txt", "target_link_libraries(zel_store PUBLIC zel_monitor)", "links zel_monitor"),
+    ("src/monitor/CMakeLists.txt", "target_link_libraries(zel_monitor PUBLIC Qt6::Widgets)", "links Qt6::Widgets"),
+    ("src/store/CMakeLists.txt", "target_link_libraries(zel_store PUBLIC PkgConfig::HIDAPI)", "links PkgConfig::HIDAPI"),
+    ("src/attic/Old.h", "", "does not know"),
+)
+TEXT_PLANTS = (
+    ("src/store/File.h", 'auto t = qtTrId("NoWords");', "no words for the key NoWords"),
+    ("src/store/File.h", "auto t = qtTrId(key);", "no literal"),
+    ("texts.ts", '<message id="Zebra"><translation>Z</translation></message>', "nothing asks for the key Zebra"),
+    ("texts.ts", '<message id="Word"><translation>W</translation></message>', "Word stands in the table twice"),
+    ("texts.ts", '<context><name>cli</name><message id="b"/></context>type="unfinished"', "unfinished"),
+)
+# Spoiled words: what is replaced by what.
+TEXT_SPOILS = (
+    (">T<", "> <", "no words for the key Title"),
+    ('"Title"', '"Xitle"', "no words for the key Title"),
+)
+
+
+def write(root, files):
+    for name, content in files.items():
+        path = os.path.join(root, name)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(content)
+
+
+def found_in(files, check):
+    with tempfile.TemporaryDirectory() as root:
+        write(root, files)
+        return list(check(root))
+
+
+def expect(wanted, found, what):
+    """One finding with the wanted words among those found; none when nothing is wanted."""
+    if (any(wanted in line for line in found)) if wanted else not found:
+        return 0
+    print(f"{what}: wanted '{wanted}', found {found}")
+    return 1
+
+
+def plant(check, plants):
+    wrong = expect("", found_in(CLEAN, check), "the clean tree")
+    for name, added, wanted in plants:
+        files = CLEAN | {name: CLEAN.get(name, "") + added + "\n"}
+        wrong += expect(wanted, found_in(files, check), f"{added} in {name}")
+    return wrong
+
+
+def main(qt_headers):
+    in_rooms = lambda root: rooms.findings(os.path.join(root, "src"), qt_headers)
+    in_texts = lambda root: texts.findings(os.path.join(root, "src"), os.path.join(root, "texts.ts"))
+    wrong = plant(in_rooms, ROOM_PLANTS) + plant(in_texts, TEXT_PLANTS)
+    for old, new, wanted in TEXT_SPOILS:
+        files = CLEAN | {"texts.ts": CLEAN["texts.ts"].replace(old, new)}
+        wrong += expect(wanted, found_in(files, in_texts), f"{old} made {new}")
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))
