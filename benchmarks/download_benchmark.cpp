@@ -48,3 +48,5 @@ BENCHMARK(downloadOf255Records)->Iterations(5)->Unit(benchmark::kMillisecond)->U
 
 } // namespace
 } // namespace zel
+
+BENCHMARK_MAIN();

@@ -17,11 +17,13 @@ AppController::AppController(const Parts& needed, const Timing& times)
       watch({needed.monitor, needed.session, needed.store, needed.panel, needed.clock}, times.polling),
       patientPage(new PatientViewController(needed.store, needed.session, needed.monitor, needed.panel)),
       graphPage(new GraphViewController(needed.store)),
-      tablePage(new TableViewController(needed.store, needed.session)),
-      pages{patientPage, graphPage, tablePage} {
-    for (PageController* page : pages) window.addPage(*page);
+      tablePage(new TableViewController(needed.store, needed.session)), pages{patientPage, graphPage,
+                                                                              tablePage} {
+    for (PageController* page : pages)
+        window.addPage(*page);
     connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
+    connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
@@ -72,14 +74,14 @@ void AppController::displayViewController(PageController& controller, int tabTag
 void AppController::enable2Tabs(bool enabled) { window.enable2Tabs(enabled); }
 
 void AppController::setHWButtons(bool connected) {
-    for (PageController* page : pages) page->setHWButtons(connected);
+    for (PageController* page : pages)
+        page->setHWButtons(connected);
 }
 
 void AppController::dataTransfer() {
     if (parts.session.isBusy()) return;
     if (!progressWindow) {
-        progressWindow =
-            new ProgressWindowController({parts.store, parts.session, parts.monitor}, &window);
+        progressWindow = new ProgressWindowController({parts.store, parts.session, parts.monitor}, &window);
         connect(progressWindow, &ProgressWindowController::finished, this, &AppController::transferFinished);
     }
     window.showOutcome({});
@@ -87,6 +89,7 @@ void AppController::dataTransfer() {
 }
 
 void AppController::transferFinished(const DownloadOutcome& outcome) {
+    window.activateWindow();
     displayAfterDataTransfer();
     window.showOutcome(describe(outcome));
     if (!outcome.failure.isEmpty()) parts.panel.ShowMessage(outcome.failure, qtTrId("Warning"));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include "app/PageHeading.h"
 
 namespace zel {
 
@@ -13,7 +13,7 @@ public:
 
 private:
     QLabel* lblHeading;
-    QLabel* lblAdvice;
+    QuietLabel* lblAdvice;
 };
 
 } // namespace zel

@@ -2,7 +2,6 @@
 
 #include "app/PageHeading.h"
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -25,9 +24,8 @@ void fill(QMessageBox& box, const QString& text, const QString& title) {
     if (auto* heading = box.findChild<QLabel*>(u"qt_msgbox_label"_s))
         heading->setFont(scaledFont(box.font(), 1.1, true));
     // The box is as wide as its heading otherwise, however long the text.
-    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
-        grid->addItem(new QSpacerItem(box.fontMetrics().averageCharWidth() * 60, 0), grid->rowCount(), 0, 1,
-                      grid->columnCount());
+    if (auto* words = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
+        words->setMinimumWidth(words->fontMetrics().averageCharWidth() * 56);
 }
 
 } // namespace

@@ -15,10 +15,9 @@ MonitorPanel::MonitorPanel(const MonitorSession& monitorSession, QWidget* parent
 
 void MonitorPanel::showState() {
     const MonitorState& state = session.state();
-    const bool known = state.isConnected && !state.IDOnDevice.isNull();
     lblState->setText(describe(state));
-    lblID->setText(!known ? qtTrId("notKnown")
-                          : (state.IDOnDevice.isEmpty() ? qtTrId("noID") : state.IDOnDevice));
+    const QString ID = state.IDOnDevice.value_or(qtTrId("notKnown"));
+    lblID->setText(ID.isEmpty() ? qtTrId("noID") : ID);
     lblClock->setText(describeClock(state));
 }
 

@@ -16,9 +16,9 @@ enum class MonitorActivity { none, greeting, counting, erasing, sendingID, downl
 /// What is known of the attached monitor.
 struct MonitorState {
     bool isConnected = false;
-    bool isAFib = false;                       ///< the attached model reports atrial fibrillation
-    QString IDOnDevice;                        ///< null while none was read; empty when the monitor holds none
-    std::optional<std::int64_t> secondsAhead;  ///< of the monitor's clock, against the computer's
+    bool isAFib = false;                      ///< the attached model reports atrial fibrillation
+    std::optional<QString> IDOnDevice;        ///< once it was read; empty when the monitor holds none
+    std::optional<std::int64_t> secondsAhead; ///< of the monitor's clock, against the computer's
     MonitorActivity activity = MonitorActivity::none;
     MonitorResult trouble = MonitorResult::success; ///< what went wrong last and was not mended since
 

@@ -64,7 +64,7 @@ void MonitorWatch::forgetMonitor() {
     clockChecked = false;
     IDAnnounced = false;
     parts.session.update([](MonitorState& next) {
-        next.IDOnDevice = QString();
+        next.IDOnDevice.reset();
         next.secondsAhead.reset();
     });
 }
@@ -118,8 +118,10 @@ void MonitorWatch::announceID(const Step& next) {
     parts.monitor.submit(this, read, [this, next](const MonitorExpected<QString>& ID) {
         IDAnnounced = ID.has_value();
         parts.session.setActivity(MonitorActivity::none);
-        if (ID) showIDInfo(*ID, true, true);
-        else setTrouble(ID.error());
+        if (ID)
+            showIDInfo(*ID, true, true);
+        else
+            setTrouble(ID.error());
         next();
     });
 }
@@ -138,15 +140,17 @@ void MonitorWatch::checkHWSwitchUser() {
 
 void MonitorWatch::showIDInfo(const QString& ID, bool isHWExist, bool showDlg) {
     parts.session.update([&](MonitorState& next) {
-        next.IDOnDevice = ID.isNull() ? QLatin1String("") : ID;
+        next.IDOnDevice = ID;
         next.isConnected = isHWExist;
     });
     emit setHWButtons(isHWExist);
     if (!showDlg) return;
     if (parts.store.validIDinXML(ID))
         parts.panel.ShowMessage(qtTrId("monitorConnectedID").arg(ID), qtTrId("monitorConnected"));
-    else if (ID.isEmpty()) parts.panel.ShowMessage(qtTrId("monitorWithoutID"), qtTrId("Warning"));
-    else parts.panel.ShowMessage(qtTrId("newIDFromDevice").arg(ID), qtTrId("Warning"));
+    else if (ID.isEmpty())
+        parts.panel.ShowMessage(qtTrId("monitorWithoutID"), qtTrId("Warning"));
+    else
+        parts.panel.ShowMessage(qtTrId("newIDFromDevice").arg(ID), qtTrId("Warning"));
 }
 
 void MonitorWatch::setTrouble(MonitorResult result) {

@@ -22,9 +22,9 @@ public:
     /// \p context has died or the worker was stopped by then. Jobs and results keep their order.
     template <class Job, class Then>
     void submit(QObject* context, Job job, Then then) {
-        run([this, home = QPointer<QObject>(context), job = std::move(job), then = std::move(then)]() mutable {
-            hand(home,
-                 [result = job(model), then = std::move(then)]() mutable { then(std::move(result)); });
+        run([this, home = QPointer<QObject>(context), job = std::move(job),
+             then = std::move(then)]() mutable {
+            hand(home, [result = job(model), then = std::move(then)]() mutable { then(std::move(result)); });
         });
     }
     /// For jobs that tell of their progress: runs \p call on the main thread, under submit()'s conditions.

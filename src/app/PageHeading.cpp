@@ -1,5 +1,7 @@
 #include "app/PageHeading.h"
 
+#include <QEvent>
+#include <QGuiApplication>
 #include <QVBoxLayout>
 
 namespace zel {
@@ -7,15 +9,15 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 PageHeading::PageHeading(QWidget* parent)
-    : QWidget(parent), lblHeading(new QLabel(this)), lblDetail(new QLabel(this)) {
+    : QWidget(parent), lblHeading(new QLabel(this)), lblDetail(new QuietLabel({}, this)) {
     lblHeading->setObjectName(u"lblHeading"_s);
     lblHeading->setFont(scaledFont(font(), 1.5, true));
     lblHeading->setTextFormat(Qt::PlainText);
     lblHeading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblDetail->setObjectName(u"lblDetail"_s);
     lblDetail->setTextFormat(Qt::PlainText);
+    lblDetail->setWordWrap(true);
     lblDetail->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    makeQuiet(*lblDetail);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
@@ -38,6 +40,20 @@ QFont scaledFont(const QFont& font, double factor, bool bold) {
     return scaled;
 }
 
-void makeQuiet(QLabel& label) { label.setForegroundRole(QPalette::PlaceholderText); }
+QuietLabel::QuietLabel(const QString& text, QWidget* parent) : QLabel(text, parent) { dim(); }
+
+void QuietLabel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) dim();
+}
+
+void QuietLabel::dim() {
+    QPalette dimmed = QGuiApplication::palette();
+    QColor faint = dimmed.color(QPalette::WindowText);
+    faint.setAlphaF(0.65F);
+    dimmed.setColor(QPalette::WindowText, faint);
+    dimmed.setColor(QPalette::Text, faint); // its role on the panels' background
+    setPalette(dimmed);
+}
 
 } // namespace zel

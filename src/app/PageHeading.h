@@ -4,6 +4,19 @@
 
 namespace zel {
 
+/// A label for what is said in passing, in a fainter shade of the palette's text colour.
+class QuietLabel final : public QLabel {
+    Q_OBJECT
+public:
+    explicit QuietLabel(const QString& text, QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void dim();
+};
+
 /// The large line at the top of a page, over a smaller line that says more.
 class PageHeading final : public QWidget {
     Q_OBJECT
@@ -13,12 +26,10 @@ public:
 
 private:
     QLabel* lblHeading;
-    QLabel* lblDetail;
+    QuietLabel* lblDetail;
 };
 
 /// The font of a control, \p factor times as large.
 [[nodiscard]] QFont scaledFont(const QFont& font, double factor, bool bold = false);
-/// A label for what is said in passing: in the palette's quieter text colour.
-void makeQuiet(QLabel& label);
 
 } // namespace zel

@@ -28,7 +28,7 @@ QString patientHeading(const DataStore& store) {
 
 QString readingSummary(const DataStore& store) {
     const ReadingList& readings = store.getReadingForCurID();
-    const QString count = qtTrId("readingCount", static_cast<int>(readings.size()));
+    QString count = qtTrId("readingCount", static_cast<int>(readings.size()));
     const auto [first, last] = datedSpan(readings);
     if (!first) return count;
     const SettingModel& settings = store.getSetting();

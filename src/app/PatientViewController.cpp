@@ -87,8 +87,10 @@ void PatientViewController::reload() {
     roster->reload();
     const bool hasPatients = roster->rowCount() > 0;
     listOrAdvice->setCurrentWidget(hasPatients ? static_cast<QWidget*>(tblPatients) : noPatients);
-    if (hasPatients) select(std::max(roster->rowOf(kept), 0));
-    else store.setCurrentID({});
+    if (hasPatients)
+        select(std::max(roster->rowOf(kept), 0));
+    else
+        store.setCurrentID({});
     enableButtons();
     emit rosterChanged(hasPatients);
 }
@@ -105,15 +107,17 @@ void PatientViewController::selected(int row) {
 }
 
 bool PatientViewController::CanDataTransfer() const {
-    const MonitorState& state = session.state();
-    return state.isConnected && !session.isBusy() && !store.getCurrentID().isEmpty()
-           && !state.IDOnDevice.isNull() && store.getCurrentID() == state.IDOnDevice;
+    return isMonitorFree() && store.getCurrentID() == session.state().IDOnDevice;
+}
+
+/// Connected, its ID known, nothing under way, and a patient to do something for.
+bool PatientViewController::isMonitorFree() const {
+    return session.state().isConnected && session.state().IDOnDevice && !session.isBusy()
+           && !store.getCurrentID().isEmpty();
 }
 
 bool PatientViewController::canSendID() const {
-    const MonitorState& state = session.state();
-    return state.isConnected && !session.isBusy() && !store.getCurrentID().isEmpty()
-           && !state.IDOnDevice.isNull() && store.getCurrentID() != state.IDOnDevice;
+    return isMonitorFree() && store.getCurrentID() != session.state().IDOnDevice;
 }
 
 void PatientViewController::enableButtons() {
@@ -129,8 +133,10 @@ void PatientViewController::sendID() {
     session.setActivity(MonitorActivity::counting);
     const auto count = [](BPMModel& model) { return model.getBPMCycleDataCount(); };
     monitor.submit(this, count, [this, ID](const MonitorExpected<int>& readings) {
-        if (readings) readingsCounted(ID, *readings);
-        else giveUp(readings.error());
+        if (readings)
+            readingsCounted(ID, *readings);
+        else
+            giveUp(readings.error());
     });
 }
 
@@ -140,8 +146,10 @@ void PatientViewController::readingsCounted(const QString& ID, int count) {
     session.setActivity(MonitorActivity::erasing);
     const auto erase = [ID](BPMModel& model) { return model.eraseData(ID); };
     monitor.submit(this, erase, [this, ID](MonitorResult result) {
-        if (result == MonitorResult::success) writeID(ID);
-        else giveUp(result);
+        if (result == MonitorResult::success)
+            writeID(ID);
+        else
+            giveUp(result);
     });
 }
 

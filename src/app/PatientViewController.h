@@ -41,6 +41,7 @@ private:
     void select(int row);
     void selected(int row);
     void enableButtons();
+    [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
     void readingsCounted(const QString& ID, int count);
     void writeID(const QString& ID);

@@ -47,9 +47,8 @@ void ProgressWindowController::build() {
     barProgress->setRange(0, 100);
     btnCancel->setObjectName(u"btnCancel"_s);
     btnCancel->setAccessibleName(qtTrId("downloadCancel"));
-    auto* advice = new QLabel(qtTrId("downloadAdvice"), this);
+    auto* advice = new QuietLabel(qtTrId("downloadAdvice"), this);
     advice->setWordWrap(true);
-    makeQuiet(*advice);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(24, 20, 24, 20);
@@ -125,8 +124,10 @@ void ProgressWindowController::storeReadings(ReadingList readings) {
     const auto added = parts.store.newDataTransfer(std::move(readings));
     if (!added) return finish({.failure = qtTrId("downloadNotStored").arg(describe(added.error()))});
     outcome.added = *added;
-    if (std::as_const(parts.store).getSetting().eraseRecAfterReading == 1) eraseMonitor(outcome);
-    else finish(outcome);
+    if (std::as_const(parts.store).getSetting().eraseRecAfterReading == 1)
+        eraseMonitor(outcome);
+    else
+        finish(outcome);
 }
 
 /// Only reached when all that the monitor held is in the data file.

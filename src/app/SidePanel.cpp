@@ -21,8 +21,6 @@ SidePanel::SidePanel(const QString& name, const QString& title, QWidget* parent)
 }
 
 QLabel* SidePanel::addValue(const QString& name, const QString& title) {
-    auto* label = new QLabel(title, this);
-    makeQuiet(*label);
     auto* value = new QLabel(this);
     value->setObjectName(name);
     value->setAccessibleName(title);
@@ -30,7 +28,7 @@ QLabel* SidePanel::addValue(const QString& name, const QString& title) {
     value->setWordWrap(true);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     column->addSpacing(6);
-    column->addWidget(label);
+    column->addWidget(new QuietLabel(title, this));
     column->addWidget(value);
     return value;
 }

@@ -24,12 +24,12 @@ SplashWindow::SplashWindow(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::F
     auto* name = new QLabel(qtTrId("programName"), this);
     name->setFont(scaledFont(font(), 2.8, true));
     auto* purpose = new QLabel(qtTrId("programPurpose"), this);
-    auto* version = new QLabel(qtTrId("programVersion").arg(QLatin1String(ZEL_VERSION)), this);
-    makeQuiet(*version);
+    auto* version = new QuietLabel(qtTrId("programVersion").arg(QLatin1String(ZEL_VERSION)), this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(40, 32, 40, 24);
     column->setSpacing(6);
-    for (QLabel* label : {picture, name, purpose, version}) column->addWidget(label, 0, Qt::AlignHCenter);
+    for (QLabel* label : {picture, name, purpose, static_cast<QLabel*>(version)})
+        column->addWidget(label, 0, Qt::AlignHCenter);
     column->insertStretch(3, 1);
     setFixedSize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * 60, 280}));
 }

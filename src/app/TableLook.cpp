@@ -13,7 +13,8 @@ void dressTable(QTableView& table) {
     table.setShowGrid(false);
     table.setAlternatingRowColors(true);
     table.setWordWrap(false);
-    table.setStyleSheet(u"QTableView::item { padding: 0 8px; } QHeaderView::section { padding: 5px 8px; }"_s);
+    table.setStyleSheet(
+        u"QTableView::item { border: 0; padding: 0 8px; } QHeaderView::section { padding: 5px 8px; }"_s);
     table.verticalHeader()->hide();
     // Rows of one fixed height: nothing is measured, whatever their number.
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -6,6 +6,7 @@
 #include "app/ReadingTableModel.h"
 #include "app/TableLook.h"
 
+#include <QHeaderView>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -33,6 +34,10 @@ void TableViewController::build() {
     tblReadings->setAccessibleName(qtTrId("readingList"));
     tblReadings->setModel(readingModelArray);
     dressTable(*tblReadings);
+    // Measured once: measuring the rows themselves takes as long as there are many.
+    QHeaderView* columns = tblReadings->horizontalHeader();
+    columns->setSectionResizeMode(ReadingTableModel::date, QHeaderView::Fixed);
+    columns->resizeSection(ReadingTableModel::date, tblReadings->fontMetrics().averageCharWidth() * 16);
     listOrAdvice->addWidget(tblReadings);
     listOrAdvice->addWidget(noReadings);
     setFocusProxy(tblReadings);
@@ -70,8 +75,10 @@ void TableViewController::setPadTitle() {
     const bool monitorDecides = !readingModelArray->isAFib() && !readingModelArray->isPad();
     if (readingModelArray->isAFib() || (monitorDecides && session.state().isAFib))
         readingModelArray->setMarkTitle(qtTrId("afib"));
-    else if (store.getTargetString().startsWith("pad"_L1)) readingModelArray->setMarkTitle(qtTrId("pad"));
-    else readingModelArray->setMarkTitle(qtTrId("ihd"));
+    else if (store.getTargetString().startsWith("pad"_L1))
+        readingModelArray->setMarkTitle(qtTrId("pad"));
+    else
+        readingModelArray->setMarkTitle(qtTrId("ihd"));
 }
 
 } // namespace zel

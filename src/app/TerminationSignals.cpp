@@ -3,7 +3,6 @@
 #include <QSocketNotifier>
 
 #include <csignal>
-
 #include <sys/signalfd.h>
 #include <unistd.h>
 

@@ -80,9 +80,11 @@ std::uint8_t AsciiToInt(char digit) {
 std::string convertAsciiArray(std::string_view digits) {
     std::string bytes;
     for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
-        const int byte = (AsciiToInt(digits[i]) << 4U) | (AsciiToInt(digits[i + 1]) & 0x0FU);
-        if ((byte & 0xFF) == 0) break;
-        bytes.push_back(static_cast<char>(byte & 0xFF));
+        const unsigned high = AsciiToInt(digits[i]);
+        const unsigned low = AsciiToInt(digits[i + 1]) & 0x0FU;
+        const auto byte = static_cast<char>((high << 4U | low) & 0xFFU);
+        if (byte == '\0') break;
+        bytes.push_back(byte);
     }
     return bytes;
 }

@@ -46,7 +46,8 @@ HidPort::~HidPort() = default;
 PortOpen HidPort::open() {
     device->ghandle.reset();
     device->failed = false;
-    // A fresh look at the bus: where no udev runs, libusb's list of devices stays as it was when it was started.
+    // A fresh look at the bus: where no udev runs, libusb's list of devices stays as it was when it was
+    // started.
     device->library.reset();
     device->library.emplace();
     device->ghandle.reset(hid_open(vendorID, productID, nullptr));

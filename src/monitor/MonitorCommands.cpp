@@ -44,7 +44,7 @@ std::chrono::seconds drainTime(std::size_t rest) {
 MonitorCommands::MonitorCommands(MonitorTransport& link) : transport(link) {}
 
 MonitorExpected<std::string> MonitorCommands::getBPMID() {
-    const auto reply = transport.getBPMData(Command::id, identityReplyLength, identityUnits);
+    auto reply = transport.getBPMData(Command::id, identityReplyLength, identityUnits);
     if (!reply) return reply;
     if (!checkFixed(*reply, identityFixedOffset, identityFixed))
         return tl::unexpected(MonitorResult::badFixedContent);

@@ -19,6 +19,8 @@ constexpr auto acknowledgementLimit = 4s;
 constexpr auto chunkPause = 100ms;
 /// A whole download in reports of one byte, the most that one exchange can leave behind.
 constexpr int mostQueuedReports = 32 + 255 * 32 + 2 + 1;
+/// Empty reads in a row that make a line quiet.
+constexpr int quietReads = 4;
 
 bool verify(std::string_view payload) {
     if (checkSum(payload)) return true;
@@ -46,11 +48,16 @@ bool MonitorTransport::isInterrupted() const { return interruption; }
 bool MonitorTransport::isUsable() const { return port.isOpen() && !port.disconnected(); }
 
 /// The answer to a probe arrives after the probe has ended, as does the rest of an exchange that was given
-/// up; either would be taken for the answer to the next command. An unplugged device shows here as well.
+/// up; either would be taken for the answer to the next command. An unplugged device shows here as well. One
+/// empty read says little: over USB a report that came long ago may show only at a later look.
 void MonitorTransport::discardQueued() {
+    int emptyReads = 0;
     for (int i = 0; i < mostQueuedReports; ++i) {
         const auto report = readReport();
-        if (!report || report->empty()) return;
+        if (!report) return;
+        emptyReads = report->empty() ? emptyReads + 1 : 0;
+        if (emptyReads == quietReads) return;
+        if (emptyReads > 0) clock.sleep(iSleepTime);
     }
 }
 

@@ -66,7 +66,8 @@ SimulatedMonitorPlan builtInPlan(WallTime now) {
         const QString date = DateToStr(day, u"yyMMdd"_s);
         for (const bool evening : {false, true}) {
             const int minute = 30 + sequence.around(29);
-            const QString time = date + (evening ? u"20"_s : u"07"_s) + u"%1"_s.arg(minute, 2, 10, QLatin1Char('0'));
+            const QString time =
+                date + (evening ? u"20"_s : u"07"_s) + u"%1"_s.arg(minute, 2, 10, QLatin1Char('0'));
             plan.records.push_back(encode(made(time, evening, number++, sequence)));
         }
     }

@@ -58,7 +58,7 @@ public:
 
     QString text(const QString& key, int shortest, int longest) {
         const QJsonValue value = take(key);
-        const QString text = value.toString();
+        QString text = value.toString();
         if (!value.isString()) fail(Code::notText, key);
         if (text.size() < shortest || text.size() > longest)
             fail(Code::wrongLength, key,

@@ -141,70 +141,52 @@ TEST_F(SimulatedMonitorTest, UnplugInTheMiddleOfADownloadAndBack) {
 }
 
 TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
-    struct Case {
-        const char* members; ///< after a good model and ID
-        PlanError::Code code;
-        const char* key;
-    };
     using Code = PlanError::Code;
-    const Case cases[] = {
-        {R"("records": [{"time": "2026-11-01T07:12", "sys": 256, "dia": 1, "pulse": 1}])", Code::notWhole,
-         "records[0].sys"},
-        {R"("records": [{"time": "2026-11-01T07:12", "sys": 1.5, "dia": 1, "pulse": 1}])", Code::notWhole,
-         "records[0].sys"},
-        {R"("records": [{"time": "2026-11-01T07:12", "sys": 1, "dia": 1024, "pulse": 1}])", Code::notWhole,
-         "records[0].dia"},
-        {R"("records": [{"time": "2026-11-01T07:12", "sys": 1, "dia": 1}])", Code::missing,
-         "records[0].pulse"},
-        {R"("records": [{"time": "2026-13-01T07:12", "sys": 1, "dia": 1, "pulse": 1}])", Code::notTime,
-         "records[0].time"},
-        {R"("records": [{"time": "1999-11-01T07:12", "sys": 1, "dia": 1, "pulse": 1}])", Code::notTime,
-         "records[0].time"},
-        {R"("records": [{"time": "undated", "sys": 1, "dia": 1, "pulse": 1, "flag": 3}])", Code::notAllowed,
-         "records[0].flag"},
-        {R"("records": [{"raw": "short"}])", Code::wrongLength, "records[0].raw"},
-        {R"("records": [{"raw": "12345678901234567890123456789012", "sys": 1}])", Code::unknownKey,
-         "records[0].sys"},
-        {R"("records": [7])", Code::notObject, "records[0]"},
-        {R"("records": {})", Code::notList, "records"},
-        {R"("reportSizes": [15, 16])", Code::notWhole, "reportSizes[1]"},
-        {R"("reportSizes": [0])", Code::notWhole, "reportSizes[0]"},
-        {R"("reportSizes": [])", Code::missing, "reportSizes[0]"},
-        {R"("clockOffsetSeconds": "1")", Code::notWhole, "clockOffsetSeconds"},
-        {R"("Id": "A")", Code::unknownKey, "Id"},
-        {R"("faults": [{"command": ">", "kind": "boom"}])", Code::notAllowed, "faults[0].kind"},
-        {R"("faults": [{"command": "\"", "kind": "badFixedContent"}])", Code::notAllowed,
-         "faults[0].command"},
-        {R"("faults": [{"command": "open", "kind": "noAnswer"}])", Code::notAllowed, "faults[0].command"},
-        {R"("faults": [{"command": ">", "kind": "noAnswer", "times": 0}])", Code::notWhole,
-         "faults[0].times"},
-        {R"("faults": [{"command": ">", "kind": "noAnswer", "afterReports": 1}])", Code::unknownKey,
-         "faults[0].afterReports"},
-    };
-    for (const auto& [members, code, key] : cases) {
-        const auto plan = readPlan(QByteArray(R"({"model": "41", "id": "A", )") + members + "}");
-        ASSERT_FALSE(plan) << members;
-        EXPECT_EQ(plan.error().key.toStdString(), key);
-        EXPECT_EQ(plan.error().code, code) << key;
-    }
-    const std::pair<const char*, Code> whole[] = {
-        {"", Code::notJson},
-        {"{", Code::notJson},
-        {"[]", Code::notObject},
-        {"{}", Code::missing},
-        {R"({"model": "411", "id": "A"})", Code::wrongLength},
-        {R"({"model": 41, "id": "A"})", Code::notText},
-        {R"({"model": "41", "id": "ABCDEFGHIJKL"})", Code::wrongLength},
-        {R"({"model": "41", "id": "\u20ac"})", Code::unencodable}};
-    for (const auto& [json, code] : whole) {
+    const auto refusal = [](const QByteArray& json) {
         const auto plan = readPlan(json);
-        ASSERT_FALSE(plan) << json;
-        EXPECT_EQ(plan.error().code, code) << json;
-    }
-    const QByteArray record = R"({"time": "undated", "sys": 1, "dia": 2, "pulse": 3},)";
-    const QByteArray tooMany =
-        R"({"model": "41", "id": "A", "records": [)" + record.repeated(256).chopped(1) + "]}";
-    EXPECT_EQ(readPlan(tooMany).error().code, Code::tooMany);
+        return plan ? std::pair(QString{}, Code::missing) : std::pair(plan.error().key, plan.error().code);
+    };
+    const auto expect = [&](const QByteArray& members, const QString& key, Code code) {
+        const QByteArray good = R"({"model": "41", "id": "A", )";
+        EXPECT_EQ(refusal(good + members + "}"), std::pair(key, code)) << members.data();
+    };
+    const auto expectMember = [&](const char* good, const char* bad, const QString& key, Code code) {
+        const QByteArray record = R"("records": [{"time": "undated", "sys": 1, "dia": 2, "pulse": 3}])";
+        expect(QByteArray(record).replace(good, bad), u"records[0]"_s + key, code);
+    };
+    expectMember("1", "256", u".sys"_s, Code::notWhole);
+    expectMember("1", "1.5", u".sys"_s, Code::notWhole);
+    expectMember("2", "1024", u".dia"_s, Code::notWhole);
+    expectMember(R"("dia": 2, )", "", u".dia"_s, Code::missing);
+    expectMember("undated", "2026-13-01T07:12", u".time"_s, Code::notTime);
+    expectMember("undated", "1999-11-01T07:12", u".time"_s, Code::notTime);
+    expectMember("3", R"(3, "flag": 3)", u".flag"_s, Code::notAllowed);
+    expectMember("3", R"(3, "Flag": 2)", u".Flag"_s, Code::unknownKey);
+    expect(R"("records": [{"raw": "short"}])", u"records[0].raw"_s, Code::wrongLength);
+    expect(R"("records": [7])", u"records[0]"_s, Code::notObject);
+    expect(R"("records": {})", u"records"_s, Code::notList);
+    expect(R"("reportSizes": [15, 16])", u"reportSizes[1]"_s, Code::notWhole);
+    expect(R"("reportSizes": [])", u"reportSizes[0]"_s, Code::missing);
+    expect(R"("clockOffsetSeconds": "1")", u"clockOffsetSeconds"_s, Code::notWhole);
+    expect(R"("Id": "A")", u"Id"_s, Code::unknownKey);
+
+    const auto expectFault = [&](const char* fault, const QString& key, Code code) {
+        expect(R"("faults": [{)" + QByteArray(fault) + "}]", u"faults[0]."_s + key, code);
+    };
+    expectFault(R"("command": ">", "kind": "boom")", u"kind"_s, Code::notAllowed);
+    expectFault(R"("command": "\"", "kind": "badFixedContent")", u"command"_s, Code::notAllowed);
+    expectFault(R"("command": "open", "kind": "noAnswer")", u"command"_s, Code::notAllowed);
+    expectFault(R"("command": ">", "kind": "noAnswer", "times": 0)", u"times"_s, Code::notWhole);
+    expectFault(R"("command": ">", "kind": "noAnswer", "delayMs": 1)", u"delayMs"_s, Code::unknownKey);
+
+    EXPECT_EQ(refusal("{").second, Code::notJson);
+    EXPECT_EQ(refusal("[]").second, Code::notObject);
+    EXPECT_EQ(refusal("{}"), std::pair(u"model"_s, Code::missing));
+    EXPECT_EQ(refusal(R"({"model": "411", "id": "A"})"), std::pair(u"model"_s, Code::wrongLength));
+    EXPECT_EQ(refusal(R"({"model": 41, "id": "A"})"), std::pair(u"model"_s, Code::notText));
+    EXPECT_EQ(refusal(R"({"model": "41", "id": "\u20ac"})"), std::pair(u"id"_s, Code::unencodable));
+    const QByteArray records = QByteArray(R"({"raw": "short"},)").repeated(256).chopped(1);
+    expect(R"("records": [)" + records + "]", u"records"_s, Code::tooMany);
 }
 
 TEST_F(SimulatedMonitorTest, BuiltInMonthIsPlausible) {

@@ -16,6 +16,7 @@ CLEAN = {
     "src/app/Window.h": '#include "monitor/Port.h"\n#include <QWidget>\n#include <QtGui/QPainter>\n',
     "src/app/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n',
     "src/cli/CommandLine.h": '#include "store/File.h"\n',
+    "tests/monitor/PortTest.cpp": '#include "monitor/Port.h"\n#include "support/Clock.h"\n#include <pugixml.hpp>\n',
     "texts.ts": '<context><name>app</name><message id="Title"><translation>T</translation></message>\n'
     '<message id="Word" numerus="yes"><translation><numerusform>W</numerusform></translation></message></context>\n',
 }
@@ -38,6 +39,7 @@ ROOM_PLANTS = (
     ("src/store/CMakeLists.txt", "target_link_libraries(zel_store PUBLIC zel_monitor)", "links zel_monitor"),
     ("src/monitor/CMakeLists.txt", "target_link_libraries(zel_monitor PUBLIC Qt6::Widgets)", "links Qt6::Widgets"),
     ("src/store/CMakeLists.txt", "target_link_libraries(zel_store PUBLIC PkgConfig::HIDAPI)", "links PkgConfig::HIDAPI"),
+    ("tests/monitor/PortTest.cpp", '#include "app/Window.h"', "not of this room"),
     ("src/attic/Old.h", "", "does not know"),
 )
 TEXT_PLANTS = (
@@ -85,8 +87,12 @@ def plant(check, plants):
 
 
 def main(qt_headers):
-    in_rooms = lambda root: rooms.findings(os.path.join(root, "src"), qt_headers)
-    in_texts = lambda root: texts.findings(os.path.join(root, "src"), os.path.join(root, "texts.ts"))
+    def in_rooms(root):
+        return [*rooms.findings(os.path.join(root, "src"), qt_headers), *rooms.test_findings(os.path.join(root, "tests"))]
+
+    def in_texts(root):
+        return texts.findings(os.path.join(root, "src"), os.path.join(root, "texts.ts"))
+
     wrong = plant(in_rooms, ROOM_PLANTS) + plant(in_texts, TEXT_PLANTS)
     for old, new, wanted in TEXT_SPOILS:
         files = CLEAN | {"texts.ts": CLEAN["texts.ts"].replace(old, new)}

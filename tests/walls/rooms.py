@@ -106,7 +106,21 @@ def findings(source, qt_headers):
                 yield from link_findings(room, path)
 
 
+def test_findings(tests):
+    """The tests of a room see what the room sees; libraries are theirs to choose."""
+    for room in DOORS:
+        for folder, _, names in sorted(os.walk(os.path.join(tests, room))):
+            for name in sorted(n for n in names if n.endswith((".h", ".cpp"))):
+                path = os.path.join(folder, name)
+                with open(path, encoding="utf-8") as file:
+                    for number, line in enumerate(file, 1):
+                        found = INCLUDE.match(line)
+                        if found and room_wrong(room, found[2].split("/")[0]):
+                            yield f"{path}:{number}: {found[2]} is not of this room or behind its doors"
+
+
 if __name__ == "__main__":
-    found = list(findings(sys.argv[1], sys.argv[2]))
+    source, tests, qt_headers = sys.argv[1:]
+    found = [*findings(source, qt_headers), *test_findings(tests)]
     print("\n".join(found))
     sys.exit(1 if found else 0)
