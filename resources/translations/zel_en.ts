@@ -16,8 +16,9 @@
     <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>It holds bytes that are not in its encoding, %1.</translation></message>
     <message id="XmlEncodingUnknown"><translation>Its encoding, %1, is not known.</translation></message>
-    <message id="XmlEntityNotTaken"><translation>It refers to an entity; only the five of XML itself are taken.</translation></message>
+    <message id="XmlEntityNotTaken"><translation>It refers to an entity or a character that is not taken; only the five of XML itself and its characters are.</translation></message>
     <message id="XmlErrorNearLine"><translation>Near line %1: %2</translation></message>
+    <message id="XmlMisplacedDeclaration"><translation>A declaration stands where none may be.</translation></message>
     <message id="XmlNoRoot"><translation>It holds no element.</translation></message>
     <message id="XmlNotWritable"><translation>The data file cannot be written: changes and downloaded readings cannot be saved. Please check the permissions of the file and of its folder.</translation></message>
     <message id="XmlNulByte"><translation>It holds a NUL character.</translation></message>
@@ -124,6 +125,7 @@ mmHg</translation></message>
     <message id="NoData"><translation>No readings yet</translation></message>
     <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
     <message id="noDisplay"><translation>there is no display to open a window on. Start zel in a desktop session, or use its commands that need no window: see zel --help</translation></message>
+    <message id="noHome"><translation>the environment variable HOME is not set, so there is no place for the data.</translation></message>
     <message id="noID"><translation>none</translation></message>
     <message id="none"><translation>none</translation></message>
     <message id="noPatients"><translation>No patients yet</translation></message>

@@ -4,6 +4,7 @@
 #include "app/TerminationSignals.h"
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
+#include "store/SystemLog.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -71,6 +72,7 @@ tl::expected<Options, int> prepare(int argc, char** argv) {
     installTexts(translator);
     const auto options = parse(QCoreApplication::arguments());
     if (!options) return tl::unexpected(complain(wrongUsage, options.error()));
+    if (qEnvironmentVariableIsEmpty("HOME")) return tl::unexpected(complain(failed, qtTrId("noHome")));
     if (!hasDisplay()) return tl::unexpected(complain(failed, qtTrId("noDisplay")));
     return *options;
 }
@@ -84,6 +86,7 @@ tl::expected<std::unique_ptr<MonitorPort>, QString> makePort(const Options& opti
 
 int runApplication(int argc, char** argv) {
     name();
+    installSystemLog();
     const auto options = prepare(argc, argv);
     if (!options) return options.error();
 

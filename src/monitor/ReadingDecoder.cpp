@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t flagOffset = 10;
 constexpr unsigned char lastRawFlag = 2;
-const QString logPattern = u"yyyyMMddHHmmss"_s;
+const QString logPattern = u"yyyyMMddHHmm"_s;
 
 unsigned char flagOf(std::string_view record) {
     return record.size() > flagOffset ? static_cast<unsigned char>(record[flagOffset]) : 0;

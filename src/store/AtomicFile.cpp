@@ -1,5 +1,7 @@
 #include "store/AtomicFile.h"
 
+#include "store/Log.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -30,7 +32,7 @@ int flushFolder(const QString& folder) {
 /// file that was cut short.
 bool writeWhole(QSaveFile& file, const QByteArray& content) {
     return file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError
-           && file.size() == content.size();
+           && file.size() == content.size() && ::fsync(file.handle()) == 0;
 }
 
 } // namespace
@@ -44,13 +46,14 @@ StoreResult replaceFile(const QString& path, const QByteArray& content) {
         return failed(StoreErrorCode::notWritable, path, file.errorString());
     if (!info.exists()) file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     if (!writeWhole(file, content)) {
-        const QString detail = file.errorString();
         file.cancelWriting();
-        return failed(StoreErrorCode::writeFailed, path, detail);
+        return failed(StoreErrorCode::writeFailed, path, {});
     }
     if (!file.commit()) return failed(StoreErrorCode::writeFailed, path, file.errorString());
+    // The new content is in its place already; not being able to say when it is there for good is no failure.
     if (const int error = flushFolder(QFileInfo{target}.absolutePath())) {
-        return failed(StoreErrorCode::writeFailed, path, QString::fromLocal8Bit(std::strerror(error)));
+        qCWarning(lcStore, "The folder of %s could not be flushed: %s", qUtf8Printable(target),
+                  std::strerror(error));
     }
     return {};
 }

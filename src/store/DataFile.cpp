@@ -16,9 +16,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longestWaitForOthers = 3000; // ms; another program's write takes a fraction of it
+// Another program's write takes a fraction of it.
+constexpr std::chrono::seconds longestWaitForOthers{3};
+constexpr std::chrono::milliseconds pauseWhileWaiting{20};
 
 QString targetFile(const StorePaths& paths) { return paths.applicationFolder + u"/.target"_s; }
+
+tl::unexpected<StoreError> refused(StoreErrorCode code, const QString& path) {
+    return tl::unexpected{StoreError{code, path, {}}};
+}
 
 StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
     const auto bytes = document.serialise();
@@ -28,7 +34,8 @@ StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
 
 } // namespace
 
-DataFile::DataFile(StorePaths storePaths) : paths{std::move(storePaths)} {}
+DataFile::DataFile(StorePaths storePaths, Clock& wallClock)
+    : paths{std::move(storePaths)}, clock{wallClock} {}
 
 QString DataFile::folder() const { return paths.home + u"/Library/Application Support/ZELMac"_s; }
 
@@ -42,7 +49,8 @@ QString DataFile::getZELXMLPath_Old() const { return paths.applicationFolder + u
 QString DataFile::getTargetString() const {
     QFile file{targetFile(paths)};
     if (!file.open(QIODevice::ReadOnly)) return u"pad"_s;
-    return QString::fromUtf8(file.readLine()).trimmed();
+    const QString target = QString::fromUtf8(file.readLine()).trimmed();
+    return target.isEmpty() ? u"pad"_s : target;
 }
 
 void DataFile::checkAndMakeTargetFile() const {
@@ -75,11 +83,16 @@ void DataFile::checkXMLFileExist() const {
 
 void DataFile::moveOldXml() const {
     const QString old = getZELXMLPath_Old();
-    if (!QFileInfo::exists(getZELXMLPath()) && QFileInfo::exists(old)) QFile::rename(old, getZELXMLPath());
+    if (QFileInfo::exists(getZELXMLPath()) || !QFileInfo::exists(old)) return;
+    if (!QFile::rename(old, getZELXMLPath())) {
+        qCWarning(lcStore, "The data file of an older version, %s, could not be moved", qUtf8Printable(old));
+    }
 }
 
 bool DataFile::isWritable() const {
-    return QFileInfo{getZELXMLPath()}.isWritable() && QFileInfo{folder()}.isWritable();
+    const QFileInfo file{getZELXMLPath()};
+    const QFileInfo target{file.isSymLink() ? file.canonicalFilePath() : file.filePath()};
+    return target.isWritable() && QFileInfo{target.path()}.isWritable();
 }
 
 tl::expected<XmlDocument, StoreError> DataFile::readDocument(const QString& path) {
@@ -102,23 +115,32 @@ tl::expected<XmlDocument, StoreError> DataFile::read() const {
     return document;
 }
 
-StoreResult DataFile::edit(const Change& change) const {
+StoreResult DataFile::takeTurn(QLockFile& lock) const {
+    const WallTime start = clock.now();
+    while (!lock.tryLock(0)) {
+        if (lock.error() != QLockFile::LockFailedError)
+            return refused(StoreErrorCode::notWritable, getZELXMLPath());
+        if (clock.now() - start > longestWaitForOthers) return refused(StoreErrorCode::busy, getZELXMLPath());
+        clock.sleep(pauseWhileWaiting);
+    }
+    return {};
+}
+
+StoreResult DataFile::editInTurn(const Change& change) const {
     const QString path = getZELXMLPath();
     QLockFile lock{path + u".lock"_s};
-    if (!lock.tryLock(longestWaitForOthers)) {
-        const bool isHeld = lock.error() == QLockFile::LockFailedError;
-        const auto code = isHeld ? StoreErrorCode::busy : StoreErrorCode::notWritable;
-        return tl::unexpected{StoreError{code, path, {}}};
-    }
+    if (StoreResult turn = takeTurn(lock); !turn) return turn;
     auto document = read();
     if (!document) return tl::unexpected{document.error()};
-    auto result = change(document->root());
-    if (result) result = replaceDocument(*document, path);
-    if (result) {
-        qCInfo(lcStore, "write document out...");
-    } else {
-        qCWarning(lcStore, "Could not write document out...");
-    }
+    if (change(document->root()) == Edit::unchanged) return {};
+    StoreResult written = replaceDocument(*document, path);
+    if (written) qCInfo(lcStore, "write document out...");
+    return written;
+}
+
+StoreResult DataFile::edit(const Change& change) const {
+    StoreResult result = editInTurn(change);
+    if (!result) qCWarning(lcStore, "Could not write document out...");
     return result;
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "store/Clock.h"
 #include "store/StoreError.h"
 #include "store/XmlDocument.h"
 
 #include <QString>
+
+class QLockFile;
 
 #include <functional>
 
@@ -19,7 +22,8 @@ struct StorePaths {
 /// The data file on disk: the only class that knows its place and how it is created, read and replaced.
 class DataFile {
 public:
-    explicit DataFile(StorePaths paths);
+    /// \p clock must outlive the file; it waits for other programs that hold it.
+    DataFile(StorePaths paths, Clock& clock);
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getZELXMLPath_Old() const;
@@ -35,8 +39,10 @@ public:
 
     /// The document, checked to be well-formed with the root ZEL.
     [[nodiscard]] tl::expected<XmlDocument, StoreError> read() const;
-    /// Reads the file, lets \p change edit it and replaces it. Nothing is written if any step fails.
-    using Change = std::function<StoreResult(pugi::xml_node root)>;
+    enum class Edit { changed, unchanged };
+    using Change = std::function<Edit(pugi::xml_node root)>;
+    /// Reads the file, lets \p change edit it and, if it did, replaces it; other programs' edits wait
+    /// meanwhile. Nothing is written if any step fails.
     [[nodiscard]] StoreResult edit(const Change& change) const;
 
     /// Reads and checks any document of this kind, such as an older one or one to be imported.
@@ -45,7 +51,10 @@ public:
 private:
     [[nodiscard]] QString folder() const;
     void moveOldXml() const;
+    [[nodiscard]] StoreResult takeTurn(QLockFile& lock) const;
+    [[nodiscard]] StoreResult editInTurn(const Change& change) const;
     StorePaths paths;
+    Clock& clock;
 };
 
 } // namespace zel

@@ -1,5 +1,6 @@
 #include "store/DataStore.h"
 
+#include "store/DocumentElements.h"
 #include "store/Log.h"
 #include "store/Text.h"
 
@@ -20,7 +21,8 @@ const List& listOf(const std::unordered_map<QString, List>& index, const QString
 
 } // namespace
 
-DataStore::DataStore(StorePaths paths, const Clock& wallClock) : file{std::move(paths)}, clock{wallClock} {}
+DataStore::DataStore(StorePaths paths, Clock& wallClock)
+    : file{std::move(paths), wallClock}, clock{wallClock} {}
 
 StoreResult DataStore::load() {
     file.checkAndMakeTargetFile();
@@ -72,8 +74,8 @@ QString DataStore::getTargetString() const { return file.getTargetString(); }
 int DataStore::getPatientCount(const QString& path) {
     const auto document = DataFile::readDocument(path);
     if (!document) return 0;
-    const auto patients = document->root().children("Patient");
-    return static_cast<int>(std::distance(patients.begin(), patients.end()));
+    return static_cast<int>(std::ranges::count_if(
+        document->root().children(), [](pugi::xml_node node) { return isElement(node, "Patient"); }));
 }
 
 bool DataStore::checkXmlWritable(MessagePanel& panel) const {
@@ -82,37 +84,7 @@ bool DataStore::checkXmlWritable(MessagePanel& panel) const {
     return false;
 }
 
-QString DataStore::getMaxID(Counter kind) const {
-    std::int64_t most = 0;
-    const auto count = [&most](const QString& number) {
-        if (number.isEmpty()) {
-            qCInfo(lcStore, "error no RecID\n");
-        } else {
-            most = std::max(most, leadingInteger(number.toStdString()));
-        }
-    };
-    const auto countAll = [&count](const auto& index, const auto& number) {
-        for (const auto& [ID, list] : index) {
-            for (const auto& record : list)
-                count(number(record));
-        }
-    };
-    switch (kind) {
-    case Counter::dataLog:
-        most = 100000;
-        countAll(records.mdDataLog, [](const DataTransferLogModel& entry) { return entry.RecID; });
-        break;
-    case Counter::reading:
-        most = 1000000;
-        countAll(records.mdReading, [](const ReadingModel& reading) { return reading.RecID; });
-        break;
-    case Counter::comment:
-        most = 10000;
-        countAll(records.mdComment, [](const auto& comment) { return comment->CommentID; });
-        break;
-    }
-    return IncreaseID(QString::number(most));
-}
+QString DataStore::getMaxID(Counter kind) const { return records.getMaxID(kind); }
 
 void DataStore::setSelectedComment(const QString& commentID) {
     selectedCommentID = commentID;
@@ -134,7 +106,7 @@ void DataStore::setCurrentID(const QString& ID) {
 
 const QString& DataStore::getCurrentID() const { return currentID; }
 
-const ReadingList& DataStore::getReadingForCurID() const { return listOf(records.mdReading, currentID); }
+const ReadingList& DataStore::getReadingForCurID() const { return records.readingsOf(currentID); }
 const CommentList& DataStore::getCommentForCurID() const { return listOf(records.mdComment, currentID); }
 const DataLogList& DataStore::getTrasferLogForCurID() const { return listOf(records.mdDataLog, currentID); }
 

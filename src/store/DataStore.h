@@ -20,7 +20,7 @@ class DataStore : public QObject {
     Q_OBJECT
 public:
     /// \p clock must outlive the store.
-    DataStore(StorePaths paths, const Clock& clock);
+    DataStore(StorePaths paths, Clock& clock);
 
     /// Start-up: makes sure that ".target" and the data file exist, then loads.
     StoreResult load();
@@ -47,10 +47,8 @@ public:
     /// stored already, with one log entry if anything is new; reloads.
     /// \return how many readings were new; on an error nothing was stored
     [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(ReadingList downloaded);
-    [[nodiscard]] StoreResult saveXMLDataTransfer(const DataTransferLogModel& log,
-                                                  const ReadingList& readings);
 
-    enum class Counter { dataLog = 0, reading = 1, comment = 2 };
+    using Counter = Records::Counter;
     /// The next free record number: the largest in use, at least the counter's floor, plus 1.
     [[nodiscard]] QString getMaxID(Counter kind) const;
 
@@ -81,12 +79,11 @@ signals:
 private:
     StoreResult readRecords();
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
-    [[nodiscard]] ReadingList newReadings(ReadingList downloaded) const;
-    [[nodiscard]] DataTransferLogModel newDataLog(std::size_t count) const;
+    [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, std::size_t count) const;
     void keepSelectedComment();
 
     DataFile file;
-    const Clock& clock;
+    Clock& clock;
     Records records;
     QString currentID;
     QString selectedCommentID;

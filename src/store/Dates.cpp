@@ -2,13 +2,15 @@
 
 #include "store/Log.h"
 
+#include <unicode/basictz.h>
 #include <unicode/gregocal.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace zel {
 
@@ -21,6 +23,7 @@ using std::chrono::seconds;
 namespace {
 
 constexpr milliseconds oneDay = days{1};
+constexpr std::string_view emptyDateText = "0001-01-01T00:00:00+08:00";
 
 icu::UnicodeString toIcu(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::int32_t>(text.size())};
@@ -91,7 +94,20 @@ DayNumber dayOf(Instant wall) { return static_cast<DayNumber>(floor<days>(wall).
 
 DayNumber localDay(Instant date) { return dayOf(date + offsetAt(*systemZone(), date, false)); }
 
-Instant startOfDay(DayNumber day) { return localToInstant(Instant{oneDay * day}, *systemZone()); }
+/// The first of the instants that the clocks show as \p wall.
+Instant firstLocalToInstant(Instant wall, const icu::TimeZone& zone) {
+    const auto* rules = dynamic_cast<const icu::BasicTimeZone*>(&zone);
+    if (!rules) return localToInstant(wall, zone);
+    UErrorCode status = U_ZERO_ERROR;
+    std::int32_t standard = 0;
+    std::int32_t saving = 0;
+    rules->getOffsetFromLocal(toUDate(wall), UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, standard, saving,
+                              status);
+    return wall - milliseconds{standard + saving};
+}
+
+/// Clocks that go back across midnight show 00:00 twice; the day starts with the first.
+Instant startOfDay(DayNumber day) { return firstLocalToInstant(Instant{oneDay * day}, *systemZone()); }
 
 std::chrono::year_month_day civil(DayNumber day) {
     return std::chrono::year_month_day{std::chrono::sys_days{days{day}}};
@@ -107,38 +123,53 @@ constexpr DayNumber dayNumber(int year, unsigned month, unsigned day) {
 
 constexpr DayNumber nilReadingDay = dayNumber(2000, 1, 1);
 
-/// \return -1 unless all of the text is digits
-int digits(std::string_view text) {
-    int value = 0;
-    for (const char c : text) {
-        if (c < '0' || c > '9') return -1;
-        value = value * 10 + (c - '0');
-    }
-    return value;
+/// The same as \p shape, with any digits where that has zeros.
+bool hasShape(std::string_view text, std::string_view shape) {
+    return std::ranges::equal(
+        text, shape, [](char c, char shown) { return shown == '0' ? c >= '0' && c <= '9' : c == shown; });
 }
 
-/// Exactly "yyyy-MM-ddTHH:mm:ss+hh:mm", the form that this program writes; none for any other, which is left
-/// to the formatter. A whole file of dates is read this way, a hundred times faster.
+/// The number in a text of nothing but digits.
+int digits(std::string_view text) {
+    return std::accumulate(text.begin(), text.end(), 0,
+                           [](int value, char c) { return value * 10 + (c - '0'); });
+}
+
+/// Exactly "yyyy-MM-ddTHH:mm:ss+hh:mm", the form that this program writes, or the same with milliseconds;
+/// none for any other, which is left to the formatter. A whole file of dates is read this way, a hundred
+/// times faster.
 Date parseUsualForm(std::string_view text) {
-    if (text.size() != 25 || text[4] != '-' || text[7] != '-' || text[10] != 'T' || text[13] != ':'
-        || text[16] != ':' || text[22] != ':' || (text[19] != '+' && text[19] != '-')) {
+    constexpr std::string_view shape = "0000-00-00T00:00:00";
+    constexpr std::string_view millisecondsShape = ".000";
+    constexpr std::string_view zoneShape = "+00:00";
+    const bool hasMilliseconds = text.size() == shape.size() + millisecondsShape.size() + zoneShape.size();
+    if (!hasMilliseconds && text.size() != shape.size() + zoneShape.size()) return {};
+    const std::string_view zone = text.substr(text.size() - zoneShape.size());
+    const std::string_view fraction =
+        text.substr(shape.size(), hasMilliseconds ? millisecondsShape.size() : 0);
+    if (!hasShape(text.substr(0, shape.size()), shape)
+        || !hasShape(zone, zone.starts_with('-') ? "-00:00" : zoneShape)
+        || (hasMilliseconds && !hasShape(fraction, millisecondsShape))) {
         return {};
     }
-    constexpr std::array<std::array<std::size_t, 2>, 8> fields{
-        {{0, 4}, {5, 2}, {8, 2}, {11, 2}, {14, 2}, {17, 2}, {20, 2}, {23, 2}}};
-    constexpr std::array<int, 8> most{9999, 12, 31, 23, 59, 59, 23, 59};
-    std::array<int, 8> value{};
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        value.at(i) = digits(text.substr(fields.at(i)[0], fields.at(i)[1]));
-        if (value.at(i) < 0 || value.at(i) > most.at(i)) return {};
+    const auto number = [text](std::size_t at, std::size_t length) {
+        return digits(text.substr(at, length));
+    };
+    const int hour = number(11, 2);
+    const int minute = number(14, 2);
+    const int second = number(17, 2);
+    const int zoneHour = digits(zone.substr(1, 2));
+    const int zoneMinute = digits(zone.substr(4, 2));
+    const std::chrono::year_month_day date{std::chrono::year{number(0, 4)},
+                                           std::chrono::month{static_cast<unsigned>(number(5, 2))},
+                                           std::chrono::day{static_cast<unsigned>(number(8, 2))}};
+    if (!date.ok() || date.year() < std::chrono::year{1} || hour > 23 || minute > 59 || second > 59
+        || zoneHour > 23 || zoneMinute > 59) {
+        return {};
     }
-    const auto [year, month, day, hour, minute, second, zoneHour, zoneMinute] = value;
-    const std::chrono::year_month_day date{std::chrono::year{year},
-                                           std::chrono::month{static_cast<unsigned>(month)},
-                                           std::chrono::day{static_cast<unsigned>(day)}};
-    if (year < 1 || !date.ok()) return {};
-    const int offset = (zoneHour * 60 + zoneMinute) * (text[19] == '-' ? -1 : 1);
-    return Instant{std::chrono::sys_days{date}} + seconds{(hour * 60 + minute - offset) * 60 + second};
+    const int offset = (zoneHour * 60 + zoneMinute) * (zone.starts_with('-') ? -1 : 1);
+    return Instant{std::chrono::sys_days{date}} + seconds{(hour * 60 + minute - offset) * 60 + second}
+           + milliseconds{hasMilliseconds ? digits(fraction.substr(1)) : 0};
 }
 
 /// Any form that the rule of the file format takes: the last colon belongs to the zone, a point to
@@ -146,7 +177,7 @@ Date parseUsualForm(std::string_view text) {
 Date parseAnyForm(const QString& text) {
     const auto colon = text.lastIndexOf(u':');
     if (colon < 0) {
-        qCWarning(lcStore, "XML data error: %s", qUtf8Printable(text));
+        qCDebug(lcStore, "XML data error: %s", qUtf8Printable(text));
         return {};
     }
     const bool hasMilliseconds = text.contains(u'.');
@@ -190,18 +221,20 @@ QString getEnglishYearMonthStr(const Date& date) {
 
 QString XMLDateToStr(const Date& date) {
     if (!date) return getEmptyDateStr();
-    QString text = format(date, u"yyyy-MM-dd'T'HH:mm:ssZZZ"_s, getLocale(0), systemZone());
-    // Before time zones the offset has seconds as well; the file's form has none.
-    constexpr qsizetype lengthWithMinutes = 24;
-    text.truncate(lengthWithMinutes);
-    return text.insert(text.size() - 2, u':');
+    // Offsets of the times before time zones have seconds, which the file's form has not. Rounded down they
+    // keep the date on its day when it is read back.
+    const auto offset = floor<std::chrono::minutes>(offsetAt(*systemZone(), *date, false));
+    const auto minutes = std::abs(offset.count());
+    return format(date, u"yyyy-MM-dd'T'HH:mm:ss"_s, getLocale(0), systemZone())
+           + QString::asprintf("%c%02d:%02d", offset.count() < 0 ? '-' : '+', static_cast<int>(minutes / 60),
+                               static_cast<int>(minutes % 60));
 }
 
 Instant getNilDate() { return startOfDay(dayNumber(1, 1, 1)); }
 
 Instant getNilReadingDate() { return startOfDay(nilReadingDay); }
 
-QString getEmptyDateStr() { return u"0001-01-01T00:00:00+08:00"_s; }
+QString getEmptyDateStr() { return QString::fromLatin1(emptyDateText.data(), emptyDateText.size()); }
 
 bool isNilDate(const Date& date) {
     if (!date) return true;
@@ -216,8 +249,8 @@ Instant FirstDayOfThisYear(Instant now) {
 }
 
 Instant DateToDayBoundary(Instant date, bool begin) {
-    const Instant wall{oneDay * localDay(date)};
-    return localToInstant(begin ? wall : wall + oneDay - seconds{1}, *systemZone());
+    const DayNumber day = localDay(date);
+    return begin ? startOfDay(day) : localToInstant(Instant{oneDay * (day + 1)} - seconds{1}, *systemZone());
 }
 
 std::int64_t DayDiff(Instant a, Instant b) {
@@ -267,11 +300,9 @@ LocalZone::LocalZone(LocalZone&&) noexcept = default;
 LocalZone& LocalZone::operator=(LocalZone&&) noexcept = default;
 
 Date LocalZone::XMLStrToDate(std::string_view text) const {
-    if (const Date usual = parseUsualForm(text); usual && *usual >= Instant{oneDay * dayNumber(2, 1, 1)}) {
-        return usual;
-    }
-    const QString whole = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    return whole == getEmptyDateStr() ? Date{getNilDate()} : parseAnyForm(whole);
+    if (text == emptyDateText) return getNilDate();
+    if (const Date usual = parseUsualForm(text)) return usual;
+    return parseAnyForm(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 DayNumber LocalZone::day(const Date& date) const { return dayMinute(date).day; }

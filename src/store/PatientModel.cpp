@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 
 namespace zel {
@@ -83,7 +84,8 @@ QString PatientModel::getWeightStr(const SettingModel& settings) const {
 
 QString PatientModel::getHeightStr(const SettingModel& settings) const {
     if (settings.isMetric() || Height == 0) return oneDecimal(static_cast<double>(Height));
-    const int inches = static_cast<int>(static_cast<double>(Height) / centimetresPerInch);
+    constexpr double tallest = 1e6; // whatever a damaged file says
+    const int inches = static_cast<int>(std::min(static_cast<double>(Height) / centimetresPerInch, tallest));
     return QString::asprintf("%d/%d", inches / 12, inches % 12);
 }
 

@@ -1,5 +1,6 @@
 #include "store/Records.h"
 
+#include "store/DocumentElements.h"
 #include "store/Log.h"
 #include "store/Text.h"
 
@@ -45,6 +46,7 @@ void sortByBegin(CommentList& comments) {
 
 /// One record by its element's name; elements that are none of these are left alone.
 void readRecord(Records& records, pugi::xml_node element, const LocalZone& zone) {
+    if (element.type() != pugi::node_element) return;
     const std::string_view name{element.name()};
     if (name == "MeasureRec") {
         records.addReading(ReadingModel::initWithXMLNode(element, zone), zone);
@@ -84,7 +86,7 @@ void linkAll(Records& records) {
 Records Records::read(pugi::xml_node root, const LocalZone& zone) {
     Records records;
     // Readings are placed by the settings, wherever in the file these stand.
-    if (const pugi::xml_node setting = root.child("SystemSetting")) {
+    if (const pugi::xml_node setting = firstElement(root, "SystemSetting")) {
         records.gSettingModel = SettingModel::initWithXMLNode(setting);
         records.hasSetting = true;
     }
@@ -99,7 +101,30 @@ Records Records::read(pugi::xml_node root, const LocalZone& zone) {
     return records;
 }
 
+QString Records::getMaxID(Counter kind) const {
+    return IncreaseID(QString::number(largestID.at(static_cast<std::size_t>(kind))));
+}
+
+void Records::countID(Counter kind, const QString& number) {
+    // Larger ones are no counter's, and counting on from them would soon end.
+    constexpr std::int64_t largestTaken = std::int64_t{1} << 53;
+    if (number.isEmpty()) {
+        qCDebug(lcStore, "error no RecID\n");
+        return;
+    }
+    const std::int64_t value = leadingInteger(number);
+    std::int64_t& largest = largestID.at(static_cast<std::size_t>(kind));
+    if (value < largestTaken) largest = std::max(largest, value);
+}
+
+const ReadingList& Records::readingsOf(const QString& ID) const {
+    static const ReadingList none;
+    const auto found = mdReading.find(ID);
+    return found == mdReading.end() ? none : found->second;
+}
+
 void Records::addReading(ReadingModel reading, const LocalZone& zone) {
+    countID(Counter::reading, reading.RecID);
     ReadingList* list = listFor(mdReading, reading.ID, {"reading", " "});
     if (!list) return;
     // One text for all of a patient's readings.
@@ -109,11 +134,13 @@ void Records::addReading(ReadingModel reading, const LocalZone& zone) {
 }
 
 void Records::addComment(CommentModel comment) {
+    countID(Counter::comment, comment.CommentID);
     CommentList* list = listFor(mdComment, comment.ID, {"comment"});
     if (list) list->push_back(std::make_unique<CommentModel>(std::move(comment)));
 }
 
 void Records::addDataLog(DataTransferLogModel entry) {
+    countID(Counter::dataLog, entry.RecID);
     DataLogList* list = listFor(mdDataLog, entry.ID, {"data log"});
     if (list) list->push_back(std::move(entry));
 }

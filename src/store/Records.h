@@ -9,6 +9,8 @@
 
 #include <pugixml.hpp>
 
+#include <array>
+#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
@@ -23,6 +25,13 @@ struct Records {
     SettingModel gSettingModel = SettingModel::initWithDefault();
     bool hasSetting = false; ///< the document held a SystemSetting element
 
+    /// Record numbers count apart by kind, from a floor of their own.
+    enum class Counter { dataLog = 0, reading = 1, comment = 2 };
+    /// The largest number in use, also by records that are not in the indexes.
+    std::array<std::int64_t, 3> largestID{100000, 1000000, 10000};
+    /// The next free record number.
+    [[nodiscard]] QString getMaxID(Counter kind) const;
+
     /// Reads all records below the root element ZEL and links them. \p zone is the computer's.
     [[nodiscard]] static Records read(pugi::xml_node root, const LocalZone& zone);
 
@@ -31,6 +40,11 @@ struct Records {
     void addReading(ReadingModel reading, const LocalZone& zone);
     void addComment(CommentModel comment);
     void addDataLog(DataTransferLogModel entry);
+
+    [[nodiscard]] const ReadingList& readingsOf(const QString& ID) const;
+
+private:
+    void countID(Counter kind, const QString& number);
 };
 
 } // namespace zel

@@ -27,6 +27,7 @@ namespace zel {
 /// Leading integer: blanks, a sign, digits up to the first other character; 0 when there are none, the
 /// nearest 64-bit number for one out of range.
 [[nodiscard]] std::int64_t leadingInteger(std::string_view text);
+[[nodiscard]] std::int64_t leadingInteger(const QString& text);
 /// Leading decimal number with a point, whatever the locale; 0 when there is none.
 [[nodiscard]] double leadingNumber(std::string_view text);
 

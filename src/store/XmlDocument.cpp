@@ -1,8 +1,11 @@
 #include "store/XmlDocument.h"
 
-#include <QXmlStreamReader>
+#include <QUtf8StringView>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 
@@ -17,6 +20,8 @@ namespace {
 constexpr unsigned parseFlags =
     pugi::parse_full | pugi::parse_ws_pcdata_single | pugi::parse_fragment | pugi::parse_embed_pcdata;
 
+constexpr std::size_t longestReference = 12; // "&#1114111;" with room for leading zeros
+
 struct ByteWriter final : pugi::xml_writer {
     QByteArray bytes;
     void write(const void* data, std::size_t size) override {
@@ -24,10 +29,26 @@ struct ByteWriter final : pugi::xml_writer {
     }
 };
 
-/// Attributes are rare in these files, and looking for them in the text is quicker than in the tree.
-bool mayHaveAttributes(std::string_view text) {
-    const auto declarationEnd = text.starts_with("<?xml") ? text.find("?>") : 0;
-    return text.find('=', declarationEnd) != text.npos;
+/// Which characters that call for a closer look the text holds. Such files are rare, and the parser's tree
+/// would have to be walked for them.
+struct Survey {
+    bool hasNul = false;
+    bool hasAmpersand = false;
+    bool hasEqualsSign = false; ///< after the declaration: perhaps an attribute's
+};
+
+Survey survey(std::string_view text) {
+    Survey seen;
+    if (text.starts_with("<?xml")) text.remove_prefix(std::min(text.find("?>"), text.size()));
+    // Block by block, so that a large file goes through memory once and not three times.
+    constexpr std::size_t blockSize = 64 * 1024;
+    for (; !text.empty(); text.remove_prefix(std::min(blockSize, text.size()))) {
+        const std::string_view block = text.substr(0, blockSize);
+        seen.hasNul = seen.hasNul || block.find('\0') != block.npos;
+        seen.hasAmpersand = seen.hasAmpersand || block.find('&') != block.npos;
+        seen.hasEqualsSign = seen.hasEqualsSign || block.find('=') != block.npos;
+    }
+    return seen;
 }
 
 struct DoubleAttributeSearch final : pugi::xml_tree_walker {
@@ -48,31 +69,58 @@ bool hasDoubleAttribute(pugi::xml_document& tree) {
     return search.found;
 }
 
-bool isPredefined(std::string_view name) {
-    return name == "amp" || name == "lt" || name == "gt" || name == "quot" || name == "apos"
-           || (name.starts_with('#') && name.size() > 1);
+bool isXmlCharacter(std::uint32_t code) {
+    return code == '\t' || code == '\n' || code == '\r' || (code >= 0x20 && code <= 0xD7FF)
+           || (code >= 0xE000 && code <= 0xFFFD) || (code >= 0x10000 && code <= 0x10FFFF);
 }
 
-/// True when every "&" begins a reference that needs no definition. The parser leaves others as they stand,
-/// and writing them back would change what they mean.
+/// "#228" or "#xE4", of a character that XML may hold.
+bool isCharacterReference(std::string_view name) {
+    if (!name.starts_with('#')) return false;
+    const bool isHexadecimal = name.starts_with("#x");
+    name.remove_prefix(isHexadecimal ? 2 : 1);
+    std::uint32_t code = 0;
+    const auto [end, error] =
+        std::from_chars(name.data(), name.data() + name.size(), code, isHexadecimal ? 16 : 10);
+    return error == std::errc{} && end == name.data() + name.size() && isXmlCharacter(code);
+}
+
+/// The text after "&" begins a reference that needs no definition.
+bool isSafeReference(std::string_view text) {
+    const auto end = text.substr(0, longestReference).find(';');
+    const std::string_view name = text.substr(0, end);
+    return end != text.npos
+           && (name == "amp" || name == "lt" || name == "gt" || name == "quot" || name == "apos"
+               || isCharacterReference(name));
+}
+
+/// Where what begins here and is no markup or text to be read ends: a comment, a CDATA section or a
+/// processing instruction; 0 for anything else.
+std::size_t unreadLength(std::string_view text) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kinds{
+        {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
+    for (const auto& [begin, end] : kinds) {
+        if (text.starts_with(begin)) return std::min(text.find(end, begin.size()), text.size());
+    }
+    return 0;
+}
+
+/// The parser leaves references that it does not know as they stand, and writing them back would change what
+/// they mean; others make text of what XML may not hold. Neither is taken.
 bool referencesAreSafe(std::string_view text) {
-    for (auto at = text.find('&'); at != text.npos; at = text.find('&', at + 1)) {
-        const auto end = text.find_first_of(";<&", at + 1);
-        if (end == text.npos || text[end] != ';' || !isPredefined(text.substr(at + 1, end - at - 1)))
+    bool isSafe = true;
+    for (auto at = text.find('&'); isSafe && at != text.npos; at = text.find('&', at + 1)) {
+        isSafe = isSafeReference(text.substr(at + 1));
+    }
+    if (isSafe) return true;
+    // Rarely needed: again, passing over the parts in which "&" means nothing.
+    for (auto at = text.find_first_of("<&"); at != text.npos; at = text.find_first_of("<&", at + 1)) {
+        if (text[at] == '<')
+            at += unreadLength(text.substr(at));
+        else if (!isSafeReference(text.substr(at + 1)))
             return false;
     }
     return true;
-}
-
-/// The judgement of a strict but slow reader, for the few files that need one: what is wrong, or an empty
-/// text.
-QString strictJudgement(const QByteArray& utf8) {
-    QXmlStreamReader reader{QString::fromUtf8(utf8)};
-    while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::EntityReference) return qtTrId("XmlEntityNotTaken");
-    }
-    if (!reader.hasError()) return {};
-    return qtTrId("XmlErrorNearLine").arg(reader.lineNumber()).arg(reader.errorString());
 }
 
 QString parserWords(const pugi::xml_parse_result& result, const QByteArray& utf8) {
@@ -85,9 +133,12 @@ QString parserWords(const pugi::xml_parse_result& result, const QByteArray& utf8
 QString documentFault(const pugi::xml_document& tree) {
     qsizetype roots = 0;
     for (const pugi::xml_node node : tree.children()) {
-        if (node.type() == pugi::node_element) ++roots;
-        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
-            return qtTrId("XmlTextOutsideRoot");
+        const auto type = node.type();
+        if (type == pugi::node_element) ++roots;
+        if (type == pugi::node_pcdata || type == pugi::node_cdata) return qtTrId("XmlTextOutsideRoot");
+        const bool isMisplaced = (type == pugi::node_declaration && node != tree.first_child())
+                                 || (type == pugi::node_doctype && roots > 0);
+        if (isMisplaced) return qtTrId("XmlMisplacedDeclaration");
     }
     if (roots == 0) return qtTrId("XmlNoRoot");
     return roots > 1 ? qtTrId("XmlSeveralRoots") : QString{};
@@ -103,17 +154,14 @@ tl::expected<XmlDocument, QString> XmlDocument::parse(QByteArray file) {
     document.buffer = std::move(*utf8);
     const std::string_view text{document.buffer.constData(),
                                 static_cast<std::size_t>(document.buffer.size())};
-    if (text.find('\0') != text.npos) return tl::unexpected{qtTrId("XmlNulByte")};
-    if (!referencesAreSafe(text)) {
-        if (const QString fault = strictJudgement(document.buffer); !fault.isNull())
-            return tl::unexpected{fault};
-    }
-    const bool hasAttributes = mayHaveAttributes(text);
+    const Survey seen = survey(text);
+    if (seen.hasNul) return tl::unexpected{qtTrId("XmlNulByte")};
+    if (seen.hasAmpersand && !referencesAreSafe(text)) return tl::unexpected{qtTrId("XmlEntityNotTaken")};
     const auto result = document.tree.load_buffer_inplace(document.buffer.data(), text.size(), parseFlags,
                                                           pugi::encoding_utf8);
     if (!result) return tl::unexpected{parserWords(result, document.buffer)};
     if (const QString fault = documentFault(document.tree); !fault.isEmpty()) return tl::unexpected{fault};
-    if (hasAttributes && hasDoubleAttribute(document.tree))
+    if (seen.hasEqualsSign && hasDoubleAttribute(document.tree))
         return tl::unexpected{qtTrId("XmlAttributeTwice")};
     return document;
 }
@@ -124,7 +172,9 @@ tl::expected<QByteArray, QString> XmlDocument::serialise() const {
     const bool isDeclared = tree.first_child().type() == pugi::node_declaration;
     const unsigned flags = pugi::format_indent | (isDeclared ? 0U : pugi::format_no_declaration);
     tree.save(writer, "    ", flags, pugi::encoding_utf8);
-    return encodeXml(writer.bytes, encoding);
+    // A line end that the user typed on another system would be read back as a plain one.
+    if (writer.bytes.contains('\r')) writer.bytes.replace("\r", "&#13;");
+    return encodeXml(std::move(writer.bytes), encoding);
 }
 
 } // namespace zel

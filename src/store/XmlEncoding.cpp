@@ -99,8 +99,8 @@ tl::expected<QByteArray, QString> decodeXml(QByteArray file, const XmlEncoding& 
     return QByteArray::fromStdString(utf8);
 }
 
-tl::expected<QByteArray, QString> encodeXml(const QByteArray& utf8, const XmlEncoding& encoding) {
-    if (isUtf8(encoding)) return encoding.mark + utf8;
+tl::expected<QByteArray, QString> encodeXml(QByteArray utf8, const XmlEncoding& encoding) {
+    if (isUtf8(encoding)) return encoding.mark.isEmpty() ? std::move(utf8) : encoding.mark + utf8;
     const Converter converter = openConverter(encoding);
     if (!converter) return wrong(qtTrId("XmlEncodingUnknown"), encoding);
     UErrorCode status = U_ZERO_ERROR;

@@ -19,7 +19,6 @@ struct XmlEncoding {
 [[nodiscard]] tl::expected<QByteArray, QString> decodeXml(QByteArray file, const XmlEncoding& encoding);
 
 /// The mark and \p utf8 in the encoding; characters that it lacks become character references.
-[[nodiscard]] tl::expected<QByteArray, QString> encodeXml(const QByteArray& utf8,
-                                                          const XmlEncoding& encoding);
+[[nodiscard]] tl::expected<QByteArray, QString> encodeXml(QByteArray utf8, const XmlEncoding& encoding);
 
 } // namespace zel

@@ -1,11 +1,13 @@
 #include "store/DataStore.h"
 
 #include "store/AtomicFile.h"
+#include "support/FullDisk.h"
 #include "support/ManualClock.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -129,6 +131,20 @@ TEST_F(DataStoreTest, DamagedFileIsNeverWrittenOver) {
     EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s))); // readable again
 }
 
+TEST_F(DataStoreTest, SettingsAreWrittenAndOutliveAnUnreadableFile) {
+    int announced = 0;
+    QObject::connect(&store, &DataStore::reloaded, [&announced] { ++announced; });
+    ASSERT_TRUE(store.load());
+    store.getSetting().dateFormat = u"mm dd yyyy"_s;
+    ASSERT_TRUE(store.saveSetting());
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(store.getSetting().dateFormat, u"mm dd yyyy"_s);
+    write(path, "<ZEL>");
+    EXPECT_FALSE(store.loadXML());
+    EXPECT_EQ(store.getSetting().dateFormat, u"mm dd yyyy"_s);
+    EXPECT_EQ(announced, 3);
+}
+
 TEST_F(DataStoreTest, PatientsAreInsertedAfterTheLastAndUpdatedInPlace) {
     dataFile("<Patient><ID>A</ID><FamilyName>Zett</FamilyName><Own>kept</Own></Patient><SystemSetting/"
              "><MeasureRec/>");
@@ -140,7 +156,9 @@ TEST_F(DataStoreTest, PatientsAreInsertedAfterTheLastAndUpdatedInPlace) {
         content().contains("Given</GivenNames>\n        <Own>")); // no child is added to an old element
     ASSERT_TRUE(store.load());
     EXPECT_EQ(store.getPatientArray().at(1).DisplayName, u"Älpler,Given"_s);
-    EXPECT_EQ(store.saveXMLPatient(patient(u"-"_s, u"Abel"_s)).error().code, StoreErrorCode::invalidRecord);
+    for (const QString& ID : {u"-"_s, u""_s, u"A\x01"_s, u"A\r"_s, QString{QChar{0xD800}}}) {
+        EXPECT_EQ(store.saveXMLPatient(patient(ID, u"Abel"_s)).error().code, StoreErrorCode::invalidRecord);
+    }
     EXPECT_EQ(DataStore::getPatientCount(path), 2);
     EXPECT_EQ(DataStore::getPatientCount(home.path()), 0);
 }
@@ -205,6 +223,7 @@ TEST_F(DataStoreTest, CommentsAreAddedChangedAndRemoved) {
     comment.beginDate = comment.endDate = store.getReadingForCurID().at(0).ReadingDate;
     comment.comment = u"first"_s;
     ASSERT_TRUE(store.addCommentForCurID(comment));
+    ASSERT_NE(store.getReadingForCurID().at(0).comment, nullptr);
     EXPECT_EQ(store.getReadingForCurID().at(0).comment->comment, u"first"_s);
     store.setSelectedComment(u"10001"_s);
     comment.ID = u"A"_s;
@@ -220,7 +239,48 @@ TEST_F(DataStoreTest, CommentsAreAddedChangedAndRemoved) {
     EXPECT_EQ(store.getSelectedComment(), nullptr);
 }
 
-TEST_F(DataStoreTest, FileHeldByAnotherProgramOrReadOnlyIsTold) {
+TEST_F(DataStoreTest, FailedWriteStoresNothingAndSaysSo) {
+    dataFile("<SystemSetting/>");
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::invalidRecord); // nobody's
+    store.setCurrentID(u"A"_s);
+    const QByteArray before = content();
+    {
+        const FullDisk full{static_cast<rlim_t>(before.size() + 100)};
+        EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::writeFailed);
+    }
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(store.newDataTransfer({reading(120)}).value(), 1U);
+}
+
+TEST_F(DataStoreTest, WaitsItsTurnWhileAnotherProgramHoldsTheFile) {
+    dataFile("<SystemSetting/>");
+    const QByteArray before = content();
+    QLockFile other{path + u".lock"_s};
+    ASSERT_TRUE(other.tryLock(0));
+    EXPECT_EQ(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)).error().code, StoreErrorCode::busy);
+    EXPECT_GE(clock.slept(), std::chrono::seconds{3});
+    EXPECT_EQ(content(), before);
+    other.unlock();
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+}
+
+TEST_F(DataStoreTest, NumbersOfRecordsWithoutAPatientAreTakenToo) {
+    dataFile("<SystemSetting/><Comment><CommentID>10001</CommentID><Comment>orphan</Comment></Comment>"
+             "<Comment><ID>A</ID><CommentID>99999999999999999999</CommentID></Comment><?Comment instruction?>"
+             "<MeasureRec><ID>A</ID><RecID>1000050</RecID></MeasureRec><MeasureRec><RecID>1000007</RecID></"
+             "MeasureRec>");
+    ASSERT_TRUE(store.load());
+    store.setCurrentID(u"A"_s);
+    EXPECT_EQ(store.getMaxID(DataStore::Counter::comment), u"10002"_s);
+    EXPECT_EQ(store.getMaxID(DataStore::Counter::reading), u"1000051"_s);
+    CommentModel comment;
+    comment.CommentID = u"10002"_s;
+    ASSERT_TRUE(store.addCommentForCurID(comment)); // not a copy of the instruction
+    EXPECT_EQ(store.getCommentForCurID().size(), 2U);
+}
+
+TEST_F(DataStoreTest, MissingFileIsToldAsNotWritable) {
     ScriptedPanel panel;
     dataFile("<SystemSetting/>");
     EXPECT_TRUE(store.checkXmlWritable(panel));

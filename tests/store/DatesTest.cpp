@@ -36,6 +36,7 @@ TEST(Dates, ReadTheFilesForm) {
              XmlDateCase{"2019-02-30T00:00:00.000+00:00", ""},
              XmlDateCase{"2019-13-01T00:00:00+00:00", ""},
              XmlDateCase{"2019-03-22T24:05:00+01:00", ""},
+             XmlDateCase{"2019-03-22T14:05:00x01:00", ""},
              XmlDateCase{"2019-03-22T14:05:00+01:00x", ""},
              XmlDateCase{"2019-03-22T14:05:00+0100", ""}, // the last colon is taken out, wherever it stands
              XmlDateCase{"2019-03-22T14:05:00Z", ""},
@@ -59,6 +60,7 @@ TEST(Dates, WriteTheFilesFormAndReadItBack) {
 TEST(Dates, EmptyDateStaysEmptyInEveryZone) {
     for (const char* name : {"Europe/Berlin", "America/New_York", "Asia/Shanghai", "Pacific/Apia", "UTC"}) {
         const InZone zone{name};
+        ASSERT_TRUE(isNilDate(getNilDate())) << name;
         const QString text = XMLDateToStr(getNilDate());
         EXPECT_EQ(text.size(), 25) << text.toStdString(); // no seconds in the offset of times before zones
         EXPECT_TRUE(isNilDate(LocalZone{}.XMLStrToDate(text.toStdString()))) << text.toStdString();
@@ -66,6 +68,20 @@ TEST(Dates, EmptyDateStaysEmptyInEveryZone) {
     }
     EXPECT_TRUE(isNilDate({}));
     EXPECT_FALSE(isNilDate(local(u"0002-01-01 00:00:00"_s)));
+}
+
+TEST(Dates, DaySurvivesOffsetsWithSeconds) {
+    const InZone zone{"Africa/Monrovia"}; // 44 minutes and 30 seconds behind until 1972
+    const QString text = XMLDateToStr(local(u"1970-06-02 00:00:00"_s));
+    EXPECT_EQ(text, u"1970-06-02T00:00:00-00:45"_s);
+    EXPECT_EQ(dayText(LocalZone{}.day(LocalZone{}.XMLStrToDate(text.toStdString()))), u"1970/06/02"_s);
+}
+
+TEST(Dates, DayStartsWithTheFirstOfTwoMidnights) {
+    const InZone zone{"America/Havana"}; // clocks go back from 01:00 to 00:00
+    const Instant halfPast = LocalZone{}.XMLStrToDate("2019-11-03T00:30:00-04:00").value();
+    EXPECT_EQ(XMLDateToStr(DateToDayBoundary(halfPast, true)), u"2019-11-03T00:00:00-04:00"_s);
+    EXPECT_EQ(XMLDateToStr(DateToDayBoundary(halfPast, false)), u"2019-11-03T23:59:59-05:00"_s);
 }
 
 TEST(Dates, UndatedIsTheWholeFirstDayOf2000) {

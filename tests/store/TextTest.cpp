@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 TEST(Text, LeadingNumbers) {
     struct Case {
-        const char* text;
+        std::string_view text;
         std::int64_t integer;
         double number;
     };
@@ -31,9 +31,12 @@ TEST(Text, LeadingNumbers) {
              Case{"1e400", 1, 0},
          }) {
         EXPECT_EQ(leadingInteger(text), integer) << text;
+        EXPECT_EQ(leadingInteger(QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()))),
+                  integer)
+            << text;
         EXPECT_DOUBLE_EQ(leadingNumber(text), number) << text;
     }
-    EXPECT_EQ(leadingInteger("99999999999999999999"), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(leadingInteger(u"99999999999999999999"_s), std::numeric_limits<std::int64_t>::max());
 }
 
 TEST(Text, HexadecimalNumbersStopAtTheFirstOtherCharacter) {

@@ -42,8 +42,12 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
                                 "B"),
              spoiled("A&amp;B", "A\xC3"),
              spoiled("A&amp;B", std::string{"A\0B", 3}),
-             spoiled("<!-- first -->", "<!DOCTYPE ZEL [<!ENTITY e \"x\">]>")
-                 .replace(good.find("A&amp;B") + 19, 7, "&e;"),
+             "<!DOCTYPE ZEL [<!ENTITY e \"x\">]>" + spoiled("A&amp;B", "&e;").substr(22),
+             spoiled("A&amp;B", "A&#0;B"),
+             spoiled("A&amp;B", "A&#xD800;B"),
+             spoiled("A&amp;B", "A&#x99999999;B"),
+             spoiled("A&amp;B", "A&#xyz;B"),
+             spoiled("<!-- first -->", "<?xml version=\"1.0\"?>"),
              spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"no-such\""),
          }) {
         const auto result = XmlDocument::parse(QByteArray::fromStdString(bad));
@@ -55,6 +59,7 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
 TEST(XmlDocument, KeepsEverythingItDoesNotKnow) {
     auto document = XmlDocument::parse(QByteArray::fromStdString(good));
     ASSERT_TRUE(document);
+    setElementText(document->root().child("Note"), u"a & b"_s); // what is so already is not rewritten
     setElementText(document->root().child("Patient").child("ID"), u"Ä<\"\U0001F600\x01\xD800\n"_s);
     const QByteArray saved = document->serialise().value();
     EXPECT_EQ(saved, QByteArray::fromStdString(
@@ -71,14 +76,14 @@ TEST(XmlDocument, ChangedTextReplacesAllPiecesAndKeepsWhatIsBetween) {
     EXPECT_EQ(elementText(root.child("A")), u"onetwothree"_s);
     setElementText(root.child("A"), u"new"_s);
     setElementText(root.child("C"), u""_s);
-    setElementText(root.child("D"), u"]]>"_s);
+    setElementText(root.child("D"), u"]]>\r\n\r"_s);
     EXPECT_EQ(elementText(root.child("A")), u"new"_s);
     const auto saved = XmlDocument::parse(document->serialise().value());
     ASSERT_TRUE(saved);
     EXPECT_EQ(elementText(saved->root().child("A")), u"new"_s);
     EXPECT_TRUE(saved->root().child("A").child("B"));
     EXPECT_EQ(elementText(saved->root().child("C")), u""_s);
-    EXPECT_EQ(elementText(saved->root().child("D")), u"]]>"_s);
+    EXPECT_EQ(elementText(saved->root().child("D")), u"]]>\r\n\r"_s);
 }
 
 struct EncodingCase {
