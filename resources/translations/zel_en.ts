@@ -8,6 +8,7 @@
     <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
     <message id="StoreNoSuchRecord"><translation>There is no patient with the ID “%1”.</translation></message>
+    <message id="StoreNotCreated"><translation>There is no data file yet, and %1 could not be made. Please check that its folder may be written and the disk is not full, then start the program again.</translation></message>
     <message id="StoreNotParsed"><translation>The data file %1 is damaged or is no data file of this program. It is left as it is, and nothing can be saved until it is readable again: repair it, put a copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreNotReadable"><translation>The data file %1 cannot be read. It is left as it is, and nothing can be saved until it is readable again.</translation></message>
     <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
@@ -69,6 +70,7 @@
     <message id="clockDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
     <message id="clockHours" numerus="yes"><translation><numerusform>%n hour</numerusform><numerusform>%n hours</numerusform></translation></message>
     <message id="clockMinutes" numerus="yes"><translation><numerusform>%n minute</numerusform><numerusform>%n minutes</numerusform></translation></message>
+    <message id="clockNotSet"><translation>The clock of the monitor could not be set. %1</translation></message>
     <message id="clockRight"><translation>In step with this computer</translation></message>
     <message id="columnDate"><translation>Date</translation></message>
     <message id="columnDia"><translation>DIA
@@ -125,7 +127,7 @@ mmHg</translation></message>
     <message id="NoData"><translation>No readings yet</translation></message>
     <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
     <message id="noDisplay"><translation>there is no display to open a window on. Start zel in a desktop session, or use its commands that need no window: see zel --help</translation></message>
-    <message id="noHome"><translation>the environment variable HOME is not set, so there is no place for the data.</translation></message>
+    <message id="noHome"><translation>the environment variable HOME names no folder (an absolute path), so there is no place for the data.</translation></message>
     <message id="noID"><translation>none</translation></message>
     <message id="none"><translation>none</translation></message>
     <message id="noPatients"><translation>No patients yet</translation></message>
@@ -265,6 +267,7 @@ Options:
     <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
     <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
     <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
+    <message id="CliMonitorChanged"><translation>The readings that arrived come from another monitor than the one that was asked. Nothing was stored; please try again.</translation></message>
     <message id="CliMonitorDenied"><translation>%1 Reading it needs a permission: install packaging/70-zel.rules in /etc/udev/rules.d, run 'udevadm control --reload', and attach the monitor again.</translation></message>
     <message id="CliMonitorSilent"><translation>A monitor is attached, but it did not answer within %1 s. %2</translation></message>
     <message id="CliMonitorWithoutID"><translation>The monitor holds no ID, so its readings may not be those of patient '%1'. Write the ID with 'zel monitor --send-id', or use --any-monitor to download all the same.</translation></message>
@@ -278,6 +281,7 @@ Options:
     <message id="CliOtherMonitor"><translation>The monitor holds the ID '%1', not '%2', so its readings may be another patient's. Use --any-monitor to download them all the same.</translation></message>
     <message id="CliOutputFailed"><translation>The output could not be written.</translation></message>
     <message id="CliPatientKnown"><translation>There is a patient with the ID '%1' already.</translation></message>
+    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= needs the name of a file behind it; alone, without '=', it is the built-in monitor.</translation></message>
     <message id="CliProgress"><translation>Received %1 of %2 readings</translation></message>
     <message id="CliTryHelp"><translation>Try '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>

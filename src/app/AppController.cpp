@@ -48,8 +48,10 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
 }
 
 void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
+    if (isClosing) return;
     window.show();
     if (!loaded) parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
+    if (isClosing) return;
     splash = new SplashWindow(&window);
     connect(splash, &SplashWindow::splashClosed, this, [this] {
         watch.setSplashClosed();
@@ -101,6 +103,7 @@ void AppController::displayAfterDataTransfer() {
 }
 
 void AppController::closeApplicaiton() {
+    isClosing = true;
     parts.monitor.stop();
     emit closed();
 }

@@ -69,6 +69,7 @@ private:
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
+    bool isClosing = false;
 };
 
 } // namespace zel

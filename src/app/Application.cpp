@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
+#include <QTimer>
 #include <QTranslator>
 
 #include <array>
@@ -72,7 +74,8 @@ tl::expected<Options, int> prepare(int argc, char** argv) {
     installTexts(translator);
     const auto options = parse(QCoreApplication::arguments());
     if (!options) return tl::unexpected(complain(wrongUsage, options.error()));
-    if (qEnvironmentVariableIsEmpty("HOME")) return tl::unexpected(complain(failed, qtTrId("noHome")));
+    if (QDir::isRelativePath(qEnvironmentVariable("HOME")))
+        return tl::unexpected(complain(failed, qtTrId("noHome")));
     if (!hasDisplay()) return tl::unexpected(complain(failed, qtTrId("noDisplay")));
     return *options;
 }
@@ -98,7 +101,7 @@ int runApplication(int argc, char** argv) {
     installTexts(translator);
     SystemClock clock;
     auto port = makePort(*options, clock);
-    if (!port) return complain(wrongUsage, port.error());
+    if (!port) return complain(failed, port.error());
 
     GlobalVar global({.home = qEnvironmentVariable("HOME"),
                       .applicationFolder = QCoreApplication::applicationDirPath(),
@@ -108,8 +111,11 @@ int runApplication(int argc, char** argv) {
     QObject::connect(&controller, &AppController::closed, &application, [] { QCoreApplication::exit(0); });
     QObject::connect(&termination, &TerminationSignals::terminated, &controller,
                      &AppController::closeApplicaiton);
-    controller.awakeFromNib(global.loaded);
-    controller.applicationDidFinishLaunching(global.loaded);
+    // Inside the event loop, so that a quit also ends it while one of their messages is open.
+    QTimer::singleShot(0, &controller, [&] {
+        controller.awakeFromNib(global.loaded);
+        controller.applicationDidFinishLaunching(global.loaded);
+    });
     return QApplication::exec();
 }
 

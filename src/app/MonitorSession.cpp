@@ -9,6 +9,7 @@ namespace {
 QString activityText(MonitorActivity activity) {
     switch (activity) {
     case MonitorActivity::greeting: return qtTrId("monitorGreeting");
+    case MonitorActivity::asking: return qtTrId("monitorReady");
     case MonitorActivity::counting: return qtTrId("monitorCounting");
     case MonitorActivity::erasing: return qtTrId("monitorErasing");
     case MonitorActivity::sendingID: return qtTrId("monitorSendingID");

@@ -53,7 +53,7 @@ void MonitorWatch::monitorAsked(const Answer& answer) {
     if (!answer.isConnected) {
         if (changed) emit setHWButtons(false);
         scheduleNext();
-    } else if (!clockChecked || !IDAnnounced) {
+    } else if (!IDAnnounced) {
         greet([this] { scheduleNext(); });
     } else {
         checkHWSwitchUser();
@@ -62,6 +62,7 @@ void MonitorWatch::monitorAsked(const Answer& answer) {
 
 void MonitorWatch::forgetMonitor() {
     clockChecked = false;
+    clockFailures = 0;
     IDAnnounced = false;
     parts.session.update([](MonitorState& next) {
         next.IDOnDevice.reset();
@@ -71,6 +72,7 @@ void MonitorWatch::forgetMonitor() {
 
 void MonitorWatch::updateUI() {
     clockChecked = false;
+    clockFailures = 0;
     IDAnnounced = false;
     if (parts.session.state().isConnected) return greet([] {});
     emit setHWButtons(false);
@@ -88,7 +90,20 @@ void MonitorWatch::checkClock(const Step& next) {
     const auto read = [&clock = parts.clock](BPMModel& monitor) { return readSecondsAhead(monitor, clock); };
     parts.monitor.submit(this, read, [this, next](const MonitorExpected<std::int64_t>& secondsAhead) {
         if (secondsAhead) return clockRead(*secondsAhead, next);
+        ++clockFailures;
         setTrouble(secondsAhead.error());
+        next();
+    });
+}
+
+/// A clock that could not be read when the monitor came is tried a few times more, behind all that matters
+/// more.
+void MonitorWatch::checkClockAgain(const Step& next) {
+    constexpr int mostFailures = 3;
+    if (clockChecked || clockFailures >= mostFailures || parts.session.isBusy()) return next();
+    parts.session.setActivity(MonitorActivity::greeting);
+    checkClock([this, next] {
+        parts.session.setActivity(MonitorActivity::none);
         next();
     });
 }
@@ -103,8 +118,10 @@ void MonitorWatch::clockRead(std::int64_t secondsAhead, const Step& next) {
     const auto set = [](BPMModel& monitor) { return monitor.setBPMDate(); };
     parts.monitor.submit(this, set, [this, next](MonitorResult result) {
         setTrouble(result);
-        clockChecked = result == MonitorResult::success;
-        if (clockChecked) parts.session.update([](MonitorState& state) { state.secondsAhead = 0; });
+        if (result == MonitorResult::success)
+            parts.session.update([](MonitorState& state) { state.secondsAhead = 0; });
+        else
+            parts.panel.ShowMessage(qtTrId("clockNotSet").arg(describe(result)), qtTrId("Warning"));
         next();
     });
 }
@@ -134,7 +151,7 @@ void MonitorWatch::checkHWSwitchUser() {
             setTrouble(ID ? MonitorResult::success : ID.error());
             if (ID && *ID != parts.session.state().IDOnDevice) showIDInfo(*ID, true, false);
         }
-        scheduleNext();
+        checkClockAgain([this] { scheduleNext(); });
     });
 }
 

@@ -43,6 +43,7 @@ private:
     void forgetMonitor();
     void greet(const Step& next);
     void checkClock(const Step& next);
+    void checkClockAgain(const Step& next);
     void clockRead(std::int64_t secondsAhead, const Step& next);
     void announceID(const Step& next);
     void checkHWSwitchUser();
@@ -53,7 +54,9 @@ private:
     Parts parts;
     QTimer timer;
     bool isSplashClosed = false;
-    bool clockChecked = false; ///< since the monitor was plugged in
+    // Since the monitor was plugged in:
+    bool clockChecked = false;
+    int clockFailures = 0;
     bool IDAnnounced = false;
 };
 

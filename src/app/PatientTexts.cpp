@@ -9,9 +9,8 @@ namespace {
 /// The earliest and the latest dated reading; null when no reading is dated.
 std::pair<const ReadingModel*, const ReadingModel*> datedSpan(const ReadingList& readings) {
     std::pair<const ReadingModel*, const ReadingModel*> span{nullptr, nullptr};
-    const auto undatedBefore = getNilReadingDate() + std::chrono::days(1);
     for (const ReadingModel& reading : readings) {
-        if (!reading.ReadingDate || *reading.ReadingDate < undatedBefore) continue;
+        if (reading.isUndated()) continue;
         if (!span.first || *reading.ReadingDate < *span.first->ReadingDate) span.first = &reading;
         if (!span.second || *reading.ReadingDate >= *span.second->ReadingDate) span.second = &reading;
     }

@@ -40,7 +40,6 @@ void PatientViewController::build() {
     tblPatients->setModel(roster);
     dressTable(*tblPatients);
     tblPatients->setSelectionMode(QAbstractItemView::SingleSelection);
-    noPatients->setTexts(qtTrId("noPatients"), qtTrId("noPatientsAdvice"));
     listOrAdvice->addWidget(tblPatients);
     listOrAdvice->addWidget(noPatients);
     setFocusProxy(tblPatients);
@@ -86,6 +85,10 @@ void PatientViewController::reload() {
     const QString kept = store.getCurrentID();
     roster->reload();
     const bool hasPatients = roster->rowCount() > 0;
+    if (const StoreResult& loaded = store.lastLoad(); loaded)
+        noPatients->setTexts(qtTrId("noPatients"), qtTrId("noPatientsAdvice"));
+    else
+        noPatients->setTexts(qtTrId("dataFileUnreadable"), describe(loaded.error()));
     listOrAdvice->setCurrentWidget(hasPatients ? static_cast<QWidget*>(tblPatients) : noPatients);
     if (hasPatients)
         select(std::max(roster->rowOf(kept), 0));
@@ -129,7 +132,10 @@ void PatientViewController::sendID() {
     const QString ID = store.getCurrentID();
     if (!BPMModel::fitsMonitor(ID))
         return panel.ShowMessage(qtTrId("IDNotForMonitor").arg(ID), qtTrId("Warning"));
-    if (!panel.AskMessage(qtTrId("confirmSendID").arg(ID), qtTrId("sendID"))) return;
+    // Busy from the question on, so that nothing else is begun with the monitor behind it.
+    session.setActivity(MonitorActivity::asking);
+    if (!panel.AskMessage(qtTrId("confirmSendID").arg(ID), qtTrId("sendID")))
+        return session.setActivity(MonitorActivity::none);
     session.setActivity(MonitorActivity::counting);
     const auto count = [](BPMModel& model) { return model.getBPMCycleDataCount(); };
     monitor.submit(this, count, [this, ID](const MonitorExpected<int>& readings) {

@@ -111,12 +111,20 @@ void ProgressWindowController::reject() {
 
 void ProgressWindowController::downloaded(MonitorExpected<ReadingList> readings) {
     btnCancel->setEnabled(false);
-    if (cancelled) return finish({.cancelled = true});
+    if (cancelled) return quietMonitor();
     if (!readings) return finish({.failure = qtTrId("downloadFailed").arg(describe(readings.error()))});
     const auto isOthers = [this](const ReadingModel& reading) { return TrimStr(reading.ID) != patientID; };
     if (std::ranges::any_of(*readings, isOthers)) return finish({.failure = qtTrId("downloadOtherMonitor")});
     if (readings->empty()) return finish({});
     storeReadings(std::move(*readings));
+}
+
+void ProgressWindowController::quietMonitor() {
+    const auto quiet = [](BPMModel& monitor) {
+        monitor.quietLine();
+        return true;
+    };
+    parts.monitor.submit(this, quiet, [this](bool) { finish({.cancelled = true}); });
 }
 
 void ProgressWindowController::storeReadings(ReadingList readings) {

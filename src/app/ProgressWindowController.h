@@ -50,6 +50,7 @@ private:
     void build();
     void dataTransfer();
     void downloaded(MonitorExpected<ReadingList> readings);
+    void quietMonitor();
     void storeReadings(ReadingList readings);
     void eraseMonitor(const DownloadOutcome& stored);
     void finish(const DownloadOutcome& outcome);

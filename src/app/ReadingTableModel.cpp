@@ -1,5 +1,7 @@
 #include "app/ReadingTableModel.h"
 
+#include "store/RecordXml.h"
+
 #include <algorithm>
 
 namespace zel {
@@ -62,10 +64,10 @@ QString ReadingTableModel::text(const ReadingModel& reading, Column column) cons
     switch (column) {
     case date: return reading.strDisplayDate(store.getSetting());
     case time: return reading.strDisplayTime(store.getSetting());
-    case sys: return QString::number(reading.sys);
-    case dia: return QString::number(reading.dia);
-    case pulse: return QString::number(reading.pulse);
-    case mapOrPP: return QString::number(store.getSetting().showPPorMap == 0 ? reading.pp : reading.map);
+    case sys: return toDecimal(reading.sys);
+    case dia: return toDecimal(reading.dia);
+    case pulse: return toDecimal(reading.pulse);
+    case mapOrPP: return toDecimal(store.getSetting().showPPorMap == 0 ? reading.pp : reading.map);
     case mam: return dot(reading.mam == 1);
     case mark: return findingMark(reading.Arrhythmia);
     case columnTotal: break;

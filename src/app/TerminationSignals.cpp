@@ -15,6 +15,7 @@ sigset_t terminating() {
     sigemptyset(&blocked);
     sigaddset(&blocked, SIGINT);
     sigaddset(&blocked, SIGTERM);
+    sigaddset(&blocked, SIGHUP);
     return blocked;
 }
 

@@ -17,6 +17,8 @@ void tell(Surroundings& around, const QString& program, const Failure& failure) 
 }
 
 CommandResult runCommand(const Command& command, const Arguments& arguments, Surroundings& around) {
+    // Not the built-in monitor: a script whose file name came out empty must not store made-up readings.
+    if (arguments.hasEmptyPlan) return wrongUsage(qtTrId("CliPlanWithoutFile"));
     const auto options = parseOptions(command, arguments.words.mid(1));
     if (!options) return tl::unexpected(options.error());
     if ((*options)->isSet(u"help"_s)) {

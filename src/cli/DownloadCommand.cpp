@@ -3,6 +3,9 @@
 #include "cli/OpenStore.h"
 #include "cli/ProgressLine.h"
 #include "cli/Usage.h"
+#include "store/Text.h"
+
+#include <algorithm>
 
 namespace zel::cli {
 
@@ -29,7 +32,7 @@ tl::expected<ReadingList, Failure> receive(BPMModel& model, Surroundings& around
 
 /// With the monitor's own ID, so that --any-monitor does not make it the patient's.
 CommandResult emptyMonitor(BPMModel& model, const QString& monitorID, const QString& patientID) {
-    const MonitorResult result = model.eraseData(monitorID.isEmpty() ? patientID : monitorID);
+    const MonitorResult result = model.eraseData(BPMModel::fitsMonitor(monitorID) ? monitorID : patientID);
     if (result != MonitorResult::success) return failed(qtTrId("CliEraseAfterFailed").arg(describe(result)));
     return {};
 }
@@ -37,6 +40,9 @@ CommandResult emptyMonitor(BPMModel& model, const QString& monitorID, const QStr
 CommandResult transfer(BPMModel& model, DataStore& store, const QString& monitorID, Surroundings& around) {
     auto readings = receive(model, around);
     if (!readings) return tl::unexpected(readings.error());
+    // The tries of a download open the device anew: it may be another one by now.
+    const auto isOthers = [&](const ReadingModel& reading) { return TrimStr(reading.ID) != monitorID; };
+    if (std::ranges::any_of(*readings, isOthers)) return failed(qtTrId("CliMonitorChanged"));
     const std::size_t downloaded = readings->size();
     const auto added = store.newDataTransfer(std::move(*readings));
     if (!added) return failed(qtTrId("CliDownloadUnsaved").arg(describe(added.error())));

@@ -2,6 +2,8 @@
 
 #include "cli/ConsolePanel.h"
 
+#include <QDir>
+
 namespace zel::cli {
 
 namespace {
@@ -16,7 +18,7 @@ bool leavesRecordsUnread(const StoreError& error) {
 } // namespace
 
 OpenedStore openStore(Surroundings& around) {
-    if (around.paths.home.isEmpty()) return failed(qtTrId("CliNoHome"));
+    if (QDir::isRelativePath(around.paths.home)) return failed(qtTrId("CliNoHome"));
     auto store = std::make_unique<DataStore>(around.paths, around.clock);
     const StoreResult loaded = store->load();
     if (!loaded && leavesRecordsUnread(loaded.error())) return failed(describe(loaded.error()));

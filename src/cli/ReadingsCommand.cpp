@@ -2,6 +2,7 @@
 #include "cli/Csv.h"
 #include "cli/OpenStore.h"
 #include "cli/Usage.h"
+#include "store/RecordXml.h"
 
 #include <QDate>
 
@@ -39,17 +40,17 @@ tl::expected<Period, Failure> periodOf(const Request& request) {
 /// A reading without a date belongs to no period; it is listed when none is asked for.
 bool isIn(const Period& period, const ReadingModel& reading) {
     if (!period.from && !period.to) return true;
-    if (isNilReadingDate(reading.ReadingDate)) return false;
+    if (reading.isUndated()) return false;
     const QDate day = QDate(1970, 1, 1).addDays(reading.day);
     return (!period.from || *period.from <= day) && (!period.to || day <= *period.to);
 }
 
 QString line(const ReadingModel& reading) {
-    const bool undated = isNilReadingDate(reading.ReadingDate);
+    const bool undated = reading.isUndated();
     QStringList fields{undated ? u"n.a"_s : DateToStr(reading.ReadingDate, u"yyyy-MM-dd"_s),
                        undated ? u"--:--"_s : DateToStr(reading.ReadingDate, u"HH:mm"_s)};
     for (const std::uint32_t number : {reading.sys, reading.dia, reading.pulse, reading.map, reading.pp})
-        fields += QString::number(number);
+        fields += toDecimal(number);
     return csvLine(fields << reading.getMamStr() << reading.getPadStr());
 }
 

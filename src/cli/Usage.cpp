@@ -11,7 +11,7 @@ Arguments takeSimulatedMonitor(const QStringList& arguments) {
         if (word == option)
             taken.simulatedMonitor = u""_s;
         else if (word.startsWith(option + u'='))
-            taken.simulatedMonitor = word.mid(option.size() + 1);
+            taken.simulatedMonitor = word.mid(option.size() + 1), taken.hasEmptyPlan = word.endsWith(u'=');
         else
             taken.words += word;
     }

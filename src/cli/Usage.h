@@ -16,6 +16,7 @@ namespace zel::cli {
 struct Arguments {
     QStringList words;
     std::optional<QString> simulatedMonitor;
+    bool hasEmptyPlan = false; ///< "--simulated-monitor=" with nothing behind it
 };
 [[nodiscard]] Arguments takeSimulatedMonitor(const QStringList& arguments);
 

@@ -163,6 +163,11 @@ MonitorResult BPMModel::setBPMDate() {
     return link->commands.setBPMDate(now.toLatin1().toStdString());
 }
 
+void BPMModel::quietLine() {
+    const auto lock = link->transport.exchange();
+    link->transport.clearAndClose();
+}
+
 void BPMModel::interrupt() { link->transport.interrupt(); }
 void BPMModel::resume() { link->transport.resume(); }
 

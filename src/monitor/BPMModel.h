@@ -50,6 +50,10 @@ public:
     /// Sets the monitor's clock to the computer's local time.
     MonitorResult setBPMDate();
 
+    /// Discards for 3 s what the monitor still sends of a download that was given up, so that the next
+    /// command starts on a quiet line.
+    void quietLine();
+
     /// Makes the exchange that is under way, and every later one until resume(), end with `interrupted`
     /// within one read. From any thread.
     void interrupt();

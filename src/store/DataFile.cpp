@@ -65,11 +65,11 @@ void DataFile::checkAndMakeTargetFile() const {
     }
 }
 
-void DataFile::checkXMLFileExist() const {
+StoreResult DataFile::checkXMLFileExist() const {
     const QString path = getZELXMLPath();
     const bool exists = QFileInfo::exists(path);
     qCInfo(lcStore, "%s  file %s exists", qUtf8Printable(path), exists ? " does " : " does not ");
-    if (exists) return;
+    if (exists) return {};
     QDir{}.mkpath(folder());
     QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     moveOldXml();
@@ -79,6 +79,8 @@ void DataFile::checkXMLFileExist() const {
     if (copied) QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     qCInfo(lcStore, "copy from %s to %s %s", qUtf8Printable(source), qUtf8Printable(path),
            copied ? "success" : "fail");
+    if (!QFileInfo::exists(path)) return refused(StoreErrorCode::notCreated, path);
+    return {};
 }
 
 void DataFile::moveOldXml() const {

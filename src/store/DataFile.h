@@ -33,7 +33,7 @@ public:
     void checkAndMakeTargetFile() const;
     /// Makes sure that the data file exists: moves an older version's file into place, else copies the
     /// template.
-    void checkXMLFileExist() const;
+    [[nodiscard]] StoreResult checkXMLFileExist() const;
     /// Both the file and its folder, since a write replaces the file.
     [[nodiscard]] bool isWritable() const;
 

@@ -30,14 +30,13 @@ StoreResult DataStore::load() {
 }
 
 StoreResult DataStore::loadXML() {
-    StoreResult result = readRecords();
+    loaded = readRecords();
     emit reloaded();
-    return result;
+    return loaded;
 }
 
 StoreResult DataStore::readRecords() {
-    file.checkXMLFileExist();
-    const auto document = file.read();
+    const auto document = file.checkXMLFileExist().and_then([this] { return file.read(); });
     if (!document) {
         qCWarning(lcStore, "nodesForXPath failed %s", qUtf8Printable(document.error().detail));
         const SettingModel settings = records.gSettingModel;

@@ -27,6 +27,8 @@ public:
     /// Reads the whole file. On an error all lists are empty, and every write is refused until the file can
     /// be read again. Emits reloaded() in any case.
     StoreResult loadXML();
+    /// How the last load went.
+    [[nodiscard]] const StoreResult& lastLoad() const { return loaded; }
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getZELXMLPath_Old() const;
@@ -85,6 +87,7 @@ private:
     DataFile file;
     Clock& clock;
     Records records;
+    StoreResult loaded;
     QString currentID;
     QString selectedCommentID;
 };

@@ -314,7 +314,7 @@ LocalZone::DayMinute LocalZone::dayMinute(const Date& date) const {
     return {dayOf(wall), static_cast<int>(sinceMidnight / std::chrono::minutes{1})};
 }
 
-bool isNilReadingDay(DayNumber day) { return day == noDay || day == nilReadingDay; }
+bool isUndatedDay(DayNumber day) { return day == nilReadingDay || day < dayNumber(2, 1, 1); }
 
 QString dayText(DayNumber day) { return dayText(day, u"yyyy/MM/dd"_s); }
 

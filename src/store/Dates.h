@@ -88,8 +88,8 @@ private:
     std::unique_ptr<Zone> zone;
 };
 
-/// noDay and 2000-01-01.
-[[nodiscard]] bool isNilReadingDay(DayNumber day);
+/// noDay, 2000-01-01, and whatever isNilDate() takes for no date.
+[[nodiscard]] bool isUndatedDay(DayNumber day);
 /// The day as "yyyy/MM/dd"; empty for noDay.
 [[nodiscard]] QString dayText(DayNumber day);
 /// The day in a pattern made of yyyy, MM, dd and other characters; empty for noDay.

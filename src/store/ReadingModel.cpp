@@ -35,7 +35,7 @@ constexpr std::span<const XmlChild<R>> table{children};
 /// The day that the display shows: undated readings all show the same, and so do all others when the
 /// settings hold no known date format.
 std::pair<bool, DayNumber> shownDay(const ReadingModel& reading, const SettingModel& settings) {
-    const bool isUndated = isNilReadingDay(reading.day);
+    const bool isUndated = reading.isUndated();
     return {isUndated, isUndated || settings.getDateFormat().isNull() ? noDay : reading.day};
 }
 
@@ -71,6 +71,8 @@ bool ReadingModel::isSame(const ReadingModel& other) const {
            && dia == other.dia && sys == other.sys && map == other.map && pp == other.pp && mam == other.mam;
 }
 
+bool ReadingModel::isUndated() const { return isUndatedDay(day); }
+
 bool ReadingModel::isPad() const { return Arrhythmia == 1 || Arrhythmia == 2; }
 
 bool ReadingModel::isAFib() const { return Arrhythmia == 4 || Arrhythmia == 5; }
@@ -93,11 +95,11 @@ void ReadingModel::postInit(const ReadingModel* previous, const SettingModel& se
 }
 
 QString ReadingModel::strDisplayDate(const SettingModel& settings) const {
-    return isNilReadingDay(day) ? u"n.a"_s : dayText(day, settings.getDateFormat());
+    return isUndated() ? u"n.a"_s : dayText(day, settings.getDateFormat());
 }
 
 QString ReadingModel::strDisplayTime(const SettingModel& settings) const {
-    if (isNilReadingDay(day)) return u"--:--"_s;
+    if (isUndated()) return u"--:--"_s;
     const int hour = minuteOfDay / 60;
     const QString minute = twoDigits(minuteOfDay % 60);
     if (!settings.is12Hours()) return twoDigits(hour) + u':' + minute;

@@ -49,6 +49,8 @@ struct ReadingModel {
 
     /// Equal in date and every measured value; ID, RecID and display state are not compared.
     [[nodiscard]] bool isSame(const ReadingModel& other) const;
+    /// Without a usable date: none, the monitor's marker, or year 1, which the file writes for none.
+    [[nodiscard]] bool isUndated() const;
     [[nodiscard]] bool isPad() const;
     [[nodiscard]] bool isAFib() const;
     [[nodiscard]] QString getPadStr() const; ///< "Yes", "No" or "N/A", as in exported files

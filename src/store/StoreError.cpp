@@ -7,6 +7,7 @@ namespace {
 QString sentence(StoreErrorCode code) {
     switch (code) {
     case StoreErrorCode::notReadable: return qtTrId("StoreNotReadable");
+    case StoreErrorCode::notCreated: return qtTrId("StoreNotCreated");
     case StoreErrorCode::notParsed: return qtTrId("StoreNotParsed");
     case StoreErrorCode::notWritable: return qtTrId("StoreNotWritable");
     case StoreErrorCode::writeFailed: return qtTrId("StoreWriteFailed");

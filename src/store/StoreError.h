@@ -8,6 +8,7 @@ namespace zel {
 
 enum class StoreErrorCode {
     notReadable,   ///< the file is not there or may not be read
+    notCreated,    ///< there is none yet, and it could not be made
     notParsed,     ///< its content is no well-formed XML, or its root is not ZEL
     notWritable,   ///< the file or its folder may not be written
     writeFailed,   ///< writing began and failed; the file is as it was before

@@ -41,7 +41,7 @@ Survey survey(std::string_view text) {
     Survey seen;
     if (text.starts_with("<?xml")) text.remove_prefix(std::min(text.find("?>"), text.size()));
     // Block by block, so that a large file goes through memory once and not three times.
-    constexpr std::size_t blockSize = 64 * 1024;
+    constexpr std::size_t blockSize = 65536;
     for (; !text.empty(); text.remove_prefix(std::min(blockSize, text.size()))) {
         const std::string_view block = text.substr(0, blockSize);
         seen.hasNul = seen.hasNul || block.find('\0') != block.npos;

@@ -8,6 +8,7 @@ using namespace Qt::StringLiterals;
 
 void ScriptedPanel::ShowMessage(const QString& text, const QString& title) {
     messages += title + u": "_s + text;
+    whenShown();
 }
 
 bool ScriptedPanel::AskMessage(const QString&, const QString& title) {
@@ -48,7 +49,7 @@ void AppTest::addPatient(const QString& ID, const QString& familyName) {
     ASSERT_TRUE(store.loadXML());
 }
 
-void AppTest::start() {
+void AppTest::launch() {
     worker.reset(); // of an earlier start
     device = std::make_unique<SimulatedMonitor>(plan, clock);
     port = std::make_unique<PluggedPort>(*device);
@@ -59,6 +60,10 @@ void AppTest::start() {
                                           AppController::Timing{.polling = 1ms, .splash = 1ms});
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
+}
+
+void AppTest::start() {
+    launch();
     waitFor([this] { return !find<QWidget>("splash").isVisible(); });
     app->mainWndow().activateWindow();
 }

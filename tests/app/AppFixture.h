@@ -26,6 +26,7 @@ public:
     QStringList questions;        ///< titles only
     QHash<QString, bool> answers; ///< by title; yes when not told
     std::function<void()> whenAsked = [] {};
+    std::function<void()> whenShown = [] {};
 };
 
 /// A clock whose sleeps take no time, or that stands still, so that no deadline is ever reached.
@@ -63,6 +64,8 @@ protected:
     ~AppTest() override;
 
     void addPatient(const QString& ID, const QString& familyName);
+    /// Starts the program.
+    void launch();
     /// Starts the program and waits until the splash screen has gone.
     void start();
     /// Starts it and waits until the monitor's ID has been announced.

@@ -24,7 +24,7 @@ protected:
     }
     /// A download whose answer never comes, caught while it waits.
     void startEndlessDownload() {
-        plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::records}};
+        plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::records, .times = 1}};
         startConnected();
         clock.stands = true;
         click("btnDataTransfer");
@@ -151,12 +151,15 @@ TEST_F(DownloadTest, endsWhenTheUserCancelsIt) {
     startEndlessDownload();
     const QByteArray before = dataFile();
     press(Qt::Key_Escape);
+    clock.stands = false;
     waitFor([this] { return !progress().isVisible(); });
     EXPECT_EQ(text("lblOutcome"), qtTrId("downloadCancelled"));
     EXPECT_EQ(dataFile(), before);
-    clock.stands = false;
     EXPECT_TRUE(session.state().isConnected);
+    app->changeTab(0);
     waitFor([this] { return find<QPushButton>("btnDataTransfer").isEnabled(); });
+    download();
+    EXPECT_EQ(store.getReadingForCurID().size(), 12U) << "the next attempt works";
 }
 
 TEST_F(DownloadTest, doesNotHoldUpTheProgramsEnd) {

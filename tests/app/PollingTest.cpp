@@ -43,6 +43,26 @@ TEST_F(PollingTest, leavesTheClockAloneWhenTheUserSaysNo) {
     EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockAhead").arg(qtTrId("clockHours", 3)));
 }
 
+TEST_F(PollingTest, asksOnceWhenTheClockCannotBeSet) {
+    plan.clockOffset = -std::chrono::seconds(90);
+    plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::setDate}};
+    start();
+    waitFor([this] { return panel.messages.size() == 2 && !session.isBusy(); });
+    EXPECT_TRUE(panel.messages.first().contains(qtTrId("clockNotSet").arg(describe(MonitorResult::timeOut))));
+    EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockBehind").arg(qtTrId("clockMinutes", 1)));
+    letPollingRun();
+    EXPECT_EQ(panel.questions.size(), 1);
+}
+
+TEST_F(PollingTest, looksForAnotherIDAlsoWhenTheClockCannotBeRead) {
+    plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::date}};
+    startConnected();
+    worker->submit(
+        app.get(), [](BPMModel& monitor) { return monitor.sendID(u"P2"_s, false); }, [](MonitorResult) {});
+    waitFor([&] { return session.state().IDOnDevice == u"P2"; });
+    EXPECT_EQ(panel.messages.size(), 1);
+}
+
 TEST_F(PollingTest, asksForTheClockBeforeItAnnouncesTheID) {
     plan.clockOffset = std::chrono::hours(3);
     panel.whenAsked = [this] { EXPECT_TRUE(panel.messages.empty()); };

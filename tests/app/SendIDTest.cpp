@@ -40,6 +40,7 @@ protected:
 
 TEST_F(SendIDTest, stopsWhenTheUserSaysNo) {
     panel.answers[qtTrId("sendID")] = false;
+    panel.whenAsked = [this] { EXPECT_TRUE(session.isBusy()) << "nothing else begins behind the question"; };
     sendID();
     EXPECT_FALSE(session.isBusy());
     EXPECT_EQ(monitorHolds(), std::pair(u"OLD"_s, 12));

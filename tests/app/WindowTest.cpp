@@ -142,4 +142,24 @@ TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {
     EXPECT_EQ(dataFile(), "<ZEL><Patient>");
 }
 
+TEST_F(WindowTest, damagedFileIsToldAndNoEmptyRosterIsPretended) {
+    replaceDataFile("<ZEL>");
+    loaded = store.loadXML();
+    start();
+    ASSERT_EQ(panel.messages.size(), 1);
+    EXPECT_TRUE(panel.messages.first().contains(describe(loaded.error())));
+    EXPECT_TRUE(find<QWidget>("noPatients").isVisible());
+    EXPECT_FALSE(find<QWidget>("noPatients").findChildren<QLabel*>().isEmpty());
+    for (const QLabel* label : find<QWidget>("noPatients").findChildren<QLabel*>())
+        EXPECT_NE(label->text(), qtTrId("noPatients"));
+}
+
+TEST_F(WindowTest, quitDuringAMessageAtStartShowsNothingMore) {
+    replaceDataFile("<ZEL>");
+    loaded = store.loadXML();
+    panel.whenShown = [this] { app->closeApplicaiton(); };
+    launch();
+    EXPECT_EQ(app->mainWndow().findChild<QWidget*>(u"splash"_s), nullptr);
+}
+
 } // namespace zel

@@ -59,13 +59,15 @@ Outcome CliTest::zelWith(const QByteArray& plan, const QStringList& arguments) {
     return zel(QStringList{u"--simulated-monitor="_s + write(plan)} + arguments);
 }
 
-void CliTest::plug(const QByteArray& plan) {
-    plugged = plan.isNull() ? nullptr : std::move(*makeSimulatedMonitor(write(plan), clock));
-}
+void CliTest::plug(const QByteArray& plan) { plugged = plan.isNull() ? nullptr : monitor(plan); }
 
 cli::AttachedMonitor CliTest::attach(const std::optional<QString>& simulated) {
     if (simulated) return makeSimulatedMonitor(*simulated, clock);
     return std::make_unique<Cable>(plugged.get(), whenUnplugged);
+}
+
+std::unique_ptr<MonitorPort> CliTest::monitor(const QByteArray& plan) const {
+    return std::move(*makeSimulatedMonitor(write(plan), clock));
 }
 
 QString CliTest::write(const QByteArray& plan) const {

@@ -31,6 +31,8 @@ protected:
     Outcome zelWith(const QByteArray& plan, const QStringList& arguments);
     /// Plugs in a monitor that keeps its state from one command to the next; a null one unplugs it.
     void plug(const QByteArray& plan);
+    void plug(std::unique_ptr<MonitorPort> port) { plugged = std::move(port); }
+    [[nodiscard]] std::unique_ptr<MonitorPort> monitor(const QByteArray& plan) const;
 
     void addPatient(const QString& ID);
     [[nodiscard]] QString dataFile() const;

@@ -12,6 +12,49 @@ namespace {
 const QStringList downloadM1{u"download"_s, u"--patient"_s, u"M1"_s};
 const QStringList readingsM1{u"readings"_s, u"--patient"_s, u"M1"_s};
 
+/// One monitor that is pulled out when its readings are asked for, and another in its place.
+class SwappedPort final : public MonitorPort {
+public:
+    SwappedPort(std::unique_ptr<MonitorPort> one, std::unique_ptr<MonitorPort> other)
+        : port(std::move(one)), next(std::move(other)) {}
+    PortOpen open() override {
+        if (pulled && next) port = std::move(next);
+        pulled = false;
+        return port->open();
+    }
+    bool isOpen() const override { return port->isOpen(); }
+    bool disconnected() const override { return pulled || port->disconnected(); }
+    bool write(std::span<const std::uint8_t> report) override {
+        pulled = next && report.back() == '"';
+        return !pulled && port->write(report);
+    }
+    int read(std::span<std::uint8_t> report) override { return pulled ? -1 : port->read(report); }
+
+private:
+    std::unique_ptr<MonitorPort> port;
+    std::unique_ptr<MonitorPort> next;
+    bool pulled = false;
+};
+
+TEST_F(CliTest, MonitorSwappedDuringTheDownloadIsRefused) {
+    addPatient(u"M1"_s);
+    const QByteArray before = data();
+    plug(std::make_unique<SwappedPort>(monitor(planM1), monitor(QByteArray(planM1).replace("M1", "M2"))));
+    const Outcome outcome = zel(downloadM1);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.err, HasSubstr("another monitor"));
+    EXPECT_EQ(data(), before);
+}
+
+TEST_F(CliTest, ReadingsWhoseDateIsNoneAreUndated) {
+    addPatient(u"M1"_s);
+    const QByteArray plan =
+        R"({"model": "37", "id": "M1", "records": [{"raw": "zz13450000c000000481407800000000"}]})";
+    ASSERT_EQ(zelWith(plan, downloadM1).out, "downloaded: 1\nnew: 1\n");
+    EXPECT_THAT(zel(readingsM1).out, HasSubstr("\nn.a,--:--,120,"));
+    EXPECT_THAT(zel(readingsM1 + QStringList{u"--to=2026-11-03"_s}).out, testing::Not(HasSubstr("n.a")));
+}
+
 TEST_F(CliTest, WholeJobFromMonitorToReadings) {
     addPatient(u"M1"_s);
     const Outcome download = zelWith(planM1, downloadM1);

@@ -33,6 +33,7 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"monitor --wait 1.5", "whole number"},
         {"monitor --wait -1", "whole number"},
         {"monitor --wait 5 --wait 6", "more than once"},
+        {"--simulated-monitor= monitor", "name of a file"},
         {"patients --id A", "--add"},
         {"patients --add --family-name F --given-names G", "--id is missing"},
         {"patients --add --id A --given-names G", "--family-name is missing"},

@@ -3,6 +3,8 @@
 #include "monitor/BPMModel.h"
 #include "support/ManualClock.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace zel {
@@ -18,8 +20,7 @@ const std::string record = "1903221405"
                            "78"
                            "00000000";
 
-std::string header(int count, const std::string& hexCount) {
-    std::ignore = count;
+std::string header(const std::string& hexCount) {
     return "00" + hexCount + "0000" + "44454D4F31000000000000" + "00";
 }
 
@@ -28,7 +29,7 @@ std::vector<Report> download(int count, const std::string& hexCount, std::size_t
     std::string records;
     for (int i = 0; i < count; ++i)
         records += record;
-    const std::string all = checked(header(count, hexCount) + records);
+    const std::string all = checked(header(hexCount) + records);
     std::vector<Report> reports = reply(all.substr(0, 32), size);
     for (Report& report : reportsOf(all.substr(32), size))
         reports.push_back(std::move(report));
@@ -72,6 +73,21 @@ TEST_F(DownloadTest, NoneOneAndAllRecords) {
     EXPECT_EQ(steps.back(), std::pair(255, 255));
 }
 
+TEST_F(DownloadTest, LogsItsStepsInTheSameWordsAsEver) {
+    static QStringList lines; // a message handler takes no context
+    lines.clear();
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& line) { lines << line; });
+    port.answers = {download(1, "01"), download(0, "00")};
+    std::ignore = model.getBPMCycleData(progress);
+    std::ignore = model.getBPMCycleData(progress);
+    qInstallMessageHandler(previous);
+    EXPECT_EQ(
+        lines.join(u'|').toStdString(),
+        "getBPMCycleData|[data begin]|read bytes iRead 32\n|test log 1|Cycle Data return 64 bytes data:\n|"
+        "get Cycle Data -->  OK|getBPMCycleData|[data begin]|get Cycle Data -->  no data");
+}
+
 TEST_F(DownloadTest, DeadlinesGrowWithTheAttemptAndTheSize) {
     for (int attempt = 1; attempt <= 3; ++attempt) {
         EXPECT_EQ(tryOnce(attempt), MonitorResult::timeOut); // no header: 24 s, then 3 s of draining
@@ -89,7 +105,7 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
         std::function<void(std::vector<Report>&)> spoil;
         MonitorResult result;
     };
-    const auto all = checked(header(3, "03") + record + record + record);
+    const auto all = checked(header("03") + record + record + record);
     const Case cases[] = {
         {"nothing", [](auto&) {}, MonitorResult::success},
         {"surplus in the last report",

@@ -115,6 +115,16 @@ TEST_F(MonitorTransportTest, FirstQueryAfterAFailedOpenOnlyProbes) {
     EXPECT_EQ(version(), MonitorResult::success);
 }
 
+TEST_F(MonitorTransportTest, LateAnswerIsNotTakenForTheNextOne) {
+    port.answers = {reply(goodVersion), reply(goodVersion)};
+    EXPECT_EQ(version(), MonitorResult::success);
+    port.reads = 0;
+    port.onRead = [this] { // a device's queue may read as empty before it does not
+        if (port.reads == 3) port.queued.push_back({0x02, 0x06, 'X'});
+    };
+    EXPECT_EQ(version(), MonitorResult::success);
+}
+
 TEST_F(MonitorTransportTest, StaleHandleIsReplacedAndALiveOneKept) {
     port.answers = {reply(goodVersion), reply(goodVersion), reply(goodVersion)};
     EXPECT_EQ(version(), MonitorResult::success);

@@ -92,7 +92,7 @@ TEST_F(DataStoreTest, TemplateThatIsMissingIsReportedAndNothingIsWritten) {
     write(program.filePath(u".target"_s), "none");
     const auto result = store.load();
     ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().code, StoreErrorCode::notReadable);
+    EXPECT_EQ(result.error().code, StoreErrorCode::notCreated);
     EXPECT_FALSE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
     EXPECT_FALSE(QFile::exists(path));
 }
