@@ -97,6 +97,36 @@ void changeComment(benchmark::State& state) {
         });
 }
 
+/// At most 3: one file for each patient, all on the disk at the end, beside reading and writing the data file
+/// once and writing the same files plainly.
+void exportAll(benchmark::State& state) {
+    Home home;
+    const QString folder = home.folder.path();
+    const std::string copy = home.path + ".copy";
+    const auto exportTo = [&home](const QString& place) {
+        const auto all = home.store.beginExport();
+        if (!all || all->patients().size() != patients) std::abort();
+        for (const QString& ID : all->patients())
+            if (!all->writeXml(ID, place, Replace::yes)) std::abort();
+        if (!all->finish()) std::abort();
+    };
+    exportTo(folder);
+    std::vector<std::pair<QString, QByteArray>> files;
+    for (const QString& name : QDir{folder}.entryList({QStringLiteral("*.xml")}, QDir::Files))
+        files.emplace_back(folder + u'/' + name, *readFile(folder + u'/' + name));
+    reportRatio(
+        state, [&] { exportTo(folder); },
+        [&] {
+            pugi::xml_document document;
+            document.load_file(home.path.c_str());
+            document.save_file(copy.c_str(), "    ");
+            for (const auto& [path, content] : files) {
+                QFile file{path};
+                if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) std::abort();
+            }
+        });
+}
+
 /// At most 256 bytes.
 void keptPerReading(benchmark::State& state) {
     Home home;
@@ -113,6 +143,7 @@ void keptPerReading(benchmark::State& state) {
 BENCHMARK(keptPerReading)->Iterations(1);
 BENCHMARK(loadXML)->Unit(benchmark::kMillisecond)->Iterations(15);
 BENCHMARK(changeComment)->Unit(benchmark::kMillisecond)->Iterations(15);
+BENCHMARK(exportAll)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace
 

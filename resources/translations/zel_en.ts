@@ -4,6 +4,22 @@
 <!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
 <context>
     <name>store</name>
+    <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
+    <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>
+    <message id="ExportNotWritten"><translation>The file %1 could not be written. Please check that the folder is there, that you may write in it, and that the disk is not full.</translation></message>
+    <message id="Female"><translation>Female</translation></message>
+    <message id="ImportAlreadyKnown"><translation>%1: a patient with the ID “%2” is already in the list. Patients are never overwritten, so nothing was taken from the file.</translation></message>
+    <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
+    <message id="ImportNoID"><translation>%1: a patient in the file has no ID. Nothing was taken from it.</translation></message>
+    <message id="ImportNoPatient"><translation>%1: there is no patient in the file. Nothing was taken from it.</translation></message>
+    <message id="ImportNotReadable"><translation>%1: the file cannot be read, or is none that this program has exported. Nothing was taken from it.</translation></message>
+    <message id="ImportNotStored"><translation>%1: what the file holds could not be stored. Nothing was taken from it.</translation></message>
+    <message id="ImportSameIDTwice"><translation>%1: two patients in the file have the same ID, “%2”. Nothing was taken from it.</translation></message>
+    <message id="ImportTooLarge"><translation>%1: the file is larger than 1 GiB. Nothing was taken from it.</translation></message>
+    <message id="Male"><translation>Male</translation></message>
+    <message id="SettingLimit"><translation>a whole number from 0 to %1</translation></message>
+    <message id="SettingOneOf"><translation>one of %1</translation></message>
+    <message id="SettingText"><translation>any text without control characters</translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
@@ -59,32 +75,58 @@
 <context>
     <name>app</name>
     <message id="afib"><translation>AFib</translation></message>
+    <message id="age"><translation>Age %1</translation></message>
+    <message id="answerNo"><translation>No</translation></message>
+    <message id="answerYes"><translation>Yes</translation></message>
     <message id="AP_Title"><translation>ZEL – blood pressure readings</translation></message>
     <message id="argumentUnknown"><translation>unexpected argument “%1”; see zel --help</translation></message>
     <message id="argumentWithoutFile"><translation>%1= needs the name of a file; see zel --help</translation></message>
+    <message id="birthDateIncomplete"><translation>Please give year, month and day, or none of the three.</translation></message>
+    <message id="birthDateInFuture"><translation>This day is still to come.</translation></message>
+    <message id="birthDateTooOld"><translation>This is more than %1 years ago.</translation></message>
+    <message id="birthDay"><translation>Day of birth</translation></message>
+    <message id="birthDayNone"><translation>Day</translation></message>
+    <message id="birthDayRefused"><translation>This month has no day %1.</translation></message>
+    <message id="birthMonth"><translation>Month of birth</translation></message>
+    <message id="birthMonthNone"><translation>Month</translation></message>
+    <message id="birthYear"><translation>Year of birth</translation></message>
+    <message id="birthYearNone"><translation>Year</translation></message>
+    <message id="birthYearRefused"><translation>Please give the year in four digits, such as 1956.</translation></message>
     <message id="cancel"><translation>Cancel</translation></message>
     <message id="chartLater"><translation>The chart comes with a later version</translation></message>
     <message id="chartLaterAdvice"><translation>It will draw these readings over time. Until then the Readings page (Ctrl+3) lists every one of them.</translation></message>
+    <message id="cholestrolRefused"><translation>Please give a number of 10 to 5000 mg/dL, such as 200. 1 mmol/L is about 38.7 mg/dL.</translation></message>
     <message id="clockAhead"><translation>%1 ahead of this computer</translation></message>
     <message id="clockBehind"><translation>%1 behind this computer</translation></message>
     <message id="clockDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
     <message id="clockHours" numerus="yes"><translation><numerusform>%n hour</numerusform><numerusform>%n hours</numerusform></translation></message>
     <message id="clockMinutes" numerus="yes"><translation><numerusform>%n minute</numerusform><numerusform>%n minutes</numerusform></translation></message>
-    <message id="clockNotSet"><translation>The clock of the monitor could not be set. %1</translation></message>
+    <message id="clockNotSet"><translation>that did not work, and it may still be wrong. %1</translation></message>
+    <message id="clockNotSetAtGreeting"><translation>The clock of the monitor could not be set. %1</translation></message>
     <message id="clockRight"><translation>In step with this computer</translation></message>
+    <message id="clockSet"><translation>done. It shows this computer’s time now.</translation></message>
+    <message id="columnComments"><translation>Comments</translation></message>
     <message id="columnDate"><translation>Date</translation></message>
     <message id="columnDia"><translation>DIA
 mmHg</translation></message>
+    <message id="columnFile"><translation>File</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
     <message id="columnPulse"><translation>Pulse
 1/min</translation></message>
+    <message id="columnReadings"><translation>Readings</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Time</translation></message>
+    <message id="commentCount" numerus="yes"><translation><numerusform>%n comment</numerusform><numerusform>%n comments</numerusform></translation></message>
+    <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? This cannot be undone.</translation></message>
     <message id="confirmSendID"><translation>Write the ID %1 into the monitor? From then on its readings belong to this patient.</translation></message>
+    <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
     <message id="dataFile"><translation>Data file</translation></message>
     <message id="dataFileUnreadable"><translation>The data file cannot be used</translation></message>
     <message id="dataPanel"><translation>Data</translation></message>
+    <message id="DeletePatient"><translation>Delete patient</translation></message>
+    <message id="deletePatientButton"><translation>De&amp;lete</translation></message>
+    <message id="deletePatientHint"><translation>Delete this patient with all readings and comments, after a question.</translation></message>
     <message id="download"><translation>Download readings</translation></message>
     <message id="downloadAdvice"><translation>Please leave the monitor connected. Its readings are stored when all of them have arrived.</translation></message>
     <message id="downloadButton"><translation>&amp;Download</translation></message>
@@ -101,9 +143,67 @@ mmHg</translation></message>
     <message id="downloadProgress"><translation>Download progress</translation></message>
     <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
     <message id="downloadStopping"><translation>Stopping …</translation></message>
+    <message id="DupNewPatient"><translation>There is a new patient already that is not saved yet: the first one of the list. Please save or delete it first.</translation></message>
     <message id="eraseFailed"><translation>%1. The readings are safely stored, but the monitor could not be emptied: it still holds them. %2</translation></message>
+    <message id="exportAll"><translation>Export all patients as XML files</translation></message>
+    <message id="exportAlsoFailed"><translation>The same happened to: %1</translation></message>
+    <message id="exportButton"><translation>&amp;Export all …</translation></message>
+    <message id="exportCancelled"><translation>Then the export was cancelled; the other patients were not exported.</translation></message>
+    <message id="exportCSV"><translation>Export the current patient’s readings as a CSV file</translation></message>
+    <message id="exportCSVButton"><translation>Export CS&amp;V …</translation></message>
+    <message id="exportCSVFolder"><translation>Choose the folder for the CSV file</translation></message>
+    <message id="exportCSVHint"><translation>Writes the current patient and the readings as a table, for a spreadsheet.</translation></message>
+    <message id="exportFailed" numerus="yes"><translation><numerusform>%n file could not be written:</numerusform><numerusform>%n files could not be written:</numerusform></translation></message>
+    <message id="exportFolder"><translation>Choose the folder for the patients’ files</translation></message>
+    <message id="exportHint"><translation>Writes a file for each patient, which this program can import again.</translation></message>
+    <message id="exporting"><translation>Exporting patients</translation></message>
+    <message id="exportKept" numerus="yes"><translation><numerusform>%n file that was there already was left as it was.</numerusform><numerusform>%n files that were there already were left as they were.</numerusform></translation></message>
+    <message id="ExportMsg" numerus="yes"><translation><numerusform>%n file was written to the folder %1.</numerusform><numerusform>%n files were written to the folder %1.</numerusform></translation></message>
+    <message id="exportReplace" numerus="yes"><translation><numerusform>The folder %1 already holds the file %2. Replace it? With “No” it stays as it is.</numerusform><numerusform>The folder %1 already holds %n of the files (%2). Replace them? With “No” they stay as they are, and only the others are written.</numerusform></translation></message>
+    <message id="exportReplaceTitle"><translation>Replace files?</translation></message>
+    <message id="ExportTitle"><translation>Export</translation></message>
+    <message id="fieldAddress"><translation>Address</translation></message>
+    <message id="fieldCholestrol"><translation>Cholesterol (mg/dL)</translation></message>
+    <message id="fieldDateOfBirth"><translation>Date of birth</translation></message>
+    <message id="fieldDiabetic"><translation>Diabetic</translation></message>
+    <message id="fieldFamilyHistory"><translation>Family history</translation></message>
+    <message id="fieldFamilyName"><translation>Family name</translation></message>
+    <message id="fieldGivenNames"><translation>Given name(s)</translation></message>
+    <message id="fieldHeightCm"><translation>Height (cm)</translation></message>
+    <message id="fieldHeightFtIn"><translation>Height (feet/inches)</translation></message>
+    <message id="fieldID"><translation>ID</translation></message>
+    <message id="fieldMissing"><translation>Please fill in this field.</translation></message>
+    <message id="fieldPatientNotes"><translation>Notes on this patient</translation></message>
+    <message id="fieldPhoneEmail"><translation>Phone / e-mail</translation></message>
+    <message id="fieldSex"><translation>Sex</translation></message>
+    <message id="fieldSmoker"><translation>Smoker</translation></message>
+    <message id="fieldWeightKg"><translation>Weight (kg)</translation></message>
+    <message id="fieldWeightLb"><translation>Weight (lb)</translation></message>
+    <message id="fileBeingRead"><translation>reading …</translation></message>
+    <message id="fileNotReadable"><translation>not readable</translation></message>
+    <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>
+    <message id="heightRefusedFtIn"><translation>Please give feet and inches with a stroke between them, such as 5/9. Inches go up to 11.</translation></message>
     <message id="IDNotForMonitor"><translation>The ID “%1” does not fit the monitor. A monitor keeps IDs of 1 to 11 plain letters, digits and signs, without accents and without blanks at the ends.</translation></message>
+    <message id="IDRefused"><translation>An ID has 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
+    <message id="IDStays"><translation>The ID cannot be changed: the readings and comments belong to it.</translation></message>
     <message id="ihd"><translation>IHD</translation></message>
+    <message id="importAll"><translation>&amp;All</translation></message>
+    <message id="importAllFiles"><translation>Choose all files</translation></message>
+    <message id="importButton"><translation>&amp;Import</translation></message>
+    <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Import %n file</numerusform><numerusform>&amp;Import %n files</numerusform></translation></message>
+    <message id="importCancelled" numerus="yes"><translation><numerusform>Then the import was cancelled; %n file was not read.</numerusform><numerusform>Then the import was cancelled; %n files were not read.</numerusform></translation></message>
+    <message id="importedFiles" numerus="yes"><translation><numerusform>%n file was imported:</numerusform><numerusform>%n files were imported:</numerusform></translation></message>
+    <message id="importFilesButton"><translation>&amp;Import …</translation></message>
+    <message id="importFolder"><translation>Choose the folder to import from</translation></message>
+    <message id="importFolderButton"><translation>Choose &amp;folder …</translation></message>
+    <message id="importFrom"><translation>Files in %1</translation></message>
+    <message id="importHint"><translation>Brings in patients from XML files that were exported before.</translation></message>
+    <message id="importing"><translation>Importing patients</translation></message>
+    <message id="importList"><translation>List of XML files</translation></message>
+    <message id="importNone"><translation>No file was imported.</translation></message>
+    <message id="importRefused" numerus="yes"><translation><numerusform>%n file was not imported:</numerusform><numerusform>%n files were not imported:</numerusform></translation></message>
+    <message id="importTaken"><translation>%1: %2, %3, %4</translation></message>
+    <message id="importTitle"><translation>Import patients</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
     <message id="map"><translation>MAP
 mmHg</translation></message>
@@ -119,34 +219,51 @@ mmHg</translation></message>
     <message id="monitorPanel"><translation>Monitor</translation></message>
     <message id="monitorReady"><translation>Connected</translation></message>
     <message id="monitorSendingID"><translation>Writing the ID into the monitor …</translation></message>
+    <message id="monitorSettingClock"><translation>Setting the monitor’s clock …</translation></message>
     <message id="monitorState"><translation>State</translation></message>
     <message id="monitorTrouble"><translation>Connected, but the last exchange failed and is being tried again. %1</translation></message>
     <message id="monitorWithoutID"><translation>The connected monitor holds no ID. Choose a patient and press “Send ID” to make it this patient’s monitor.</translation></message>
     <message id="newIDFromDevice"><translation>The monitor holds the ID %1, which belongs to no patient here. Add a patient with this ID, or choose a patient and press “Send ID”.</translation></message>
+    <message id="NewPatient"><translation>New patient</translation></message>
+    <message id="newPatientButton"><translation>&amp;New</translation></message>
+    <message id="newPatientHint"><translation>Enter a new patient (Ctrl+N).</translation></message>
     <message id="no"><translation>&amp;No</translation></message>
     <message id="NoData"><translation>No readings yet</translation></message>
     <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
     <message id="noDisplay"><translation>there is no display to open a window on. Start zel in a desktop session, or use its commands that need no window: see zel --help</translation></message>
+    <message id="noFiles"><translation>No XML files in this folder</translation></message>
+    <message id="noFilesAdvice"><translation>Choose the folder that the patients were exported to.</translation></message>
     <message id="noHome"><translation>the environment variable HOME names no folder (an absolute path), so there is no place for the data.</translation></message>
     <message id="noID"><translation>none</translation></message>
     <message id="none"><translation>none</translation></message>
+    <message id="noPatientFound"><translation>No patient found</translation></message>
+    <message id="noPatientFoundAdvice"><translation>No name and no ID holds what is searched for.</translation></message>
     <message id="noPatients"><translation>No patients yet</translation></message>
-    <message id="noPatientsAdvice"><translation>Add the first one on the command line:
-zel patients --add --id ID --family-name NAME --given-names NAMES
-and start ZEL again.</translation></message>
+    <message id="noPatientsAdvice"><translation>Press New to enter the first one.</translation></message>
     <message id="noPatientSelected"><translation>No patient selected</translation></message>
+    <message id="notes"><translation>Notes</translation></message>
     <message id="notKnown"><translation>–</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
     <message id="pad"><translation>PAD</translation></message>
     <message id="pageChart"><translation>Chart</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
     <message id="pageReadings"><translation>Readings</translation></message>
+    <message id="patientCount" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
+    <message id="patientDeleted"><translation>%1 has been deleted.</translation></message>
+    <message id="patientEditor"><translation>Data of the patient</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDTwice"><translation>The data file holds more than one patient with the ID %1. They cannot be told apart, so none of them is changed or deleted.</translation></message>
     <message id="patientList"><translation>List of patients</translation></message>
     <message id="patientName"><translation>Name</translation></message>
-    <message id="patientsDetail"><translation>Choose the patient whose readings you want to see or download.</translation></message>
+    <message id="patientPartlySaved"><translation>Not all of the data of %1 could be stored: the data file has no place for some of it. The fields show what is stored.</translation></message>
+    <message id="patientRefused"><translation>Nothing was saved yet. Please correct what is marked:
+%1</translation></message>
+    <message id="patientSaved"><translation>%1 has been saved.</translation></message>
+    <message id="patientsDetail"><translation>Choose a patient, or enter a new one.</translation></message>
+    <message id="patientsInputFields"><translation>Family name, given name and ID are needed. Nothing was saved yet; please fill in what is marked.</translation></message>
     <message id="patientTotal"><translation>Patients</translation></message>
+    <message id="personalData"><translation>Personal data</translation></message>
     <message id="pp"><translation>PP
 mmHg</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
@@ -159,15 +276,60 @@ mmHg</translation></message>
     <message id="readingsFromTo"><translation>%1, from %2 to %3</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
+    <message id="riskFactors"><translation>Risk factors</translation></message>
+    <message id="sameID"><translation>The ID %1 belongs to another patient of the list. Nothing was saved yet; please choose another ID.</translation></message>
+    <message id="sameIDTitle"><translation>ID taken</translation></message>
+    <message id="SavePatient"><translation>Save patient</translation></message>
+    <message id="savePatientButton"><translation>Sa&amp;ve</translation></message>
+    <message id="savePatientHint"><translation>Save what was typed (Ctrl+S).</translation></message>
+    <message id="searchPatients"><translation>Search name or ID</translation></message>
+    <message id="searchPatientsHint"><translation>Show only the patients whose name or ID holds this (Ctrl+F).</translation></message>
+    <message id="sendClock"><translation>Set the monitor’s clock to this computer’s time</translation></message>
+    <message id="sendClockBusy"><translation>Setting the clock …</translation></message>
+    <message id="sendClockButton"><translation>Set the &amp;clock</translation></message>
     <message id="sendID"><translation>Send ID to the monitor</translation></message>
     <message id="sendIDButton"><translation>&amp;Send ID</translation></message>
     <message id="SendIDDataMsg" numerus="yes"><translation><numerusform>The monitor still holds %n reading. Keep it in the monitor? “Yes” keeps it for this patient, “No” deletes it from the monitor for good.</numerusform><numerusform>The monitor still holds %n readings. Keep them in the monitor? “Yes” keeps them for this patient, “No” deletes them from the monitor for good.</numerusform></translation></message>
     <message id="SendIDDataTitle"><translation>Readings in the monitor</translation></message>
     <message id="sendIDFailed"><translation>The ID was not sent to the monitor. %1</translation></message>
     <message id="sendIDHint"><translation>Write this patient’s ID into the connected monitor, which holds another one.</translation></message>
+    <message id="settingCancel"><translation>Close without saving</translation></message>
+    <message id="settingData"><translation>Patient data</translation></message>
+    <message id="settingDate"><translation>Date format</translation></message>
+    <message id="settingDateLabel"><translation>&amp;Date format</translation></message>
+    <message id="settingDia"><translation>Diastolic limit in mmHg</translation></message>
+    <message id="settingDiaLabel"><translation>Di&amp;astolic</translation></message>
+    <message id="settingDisplay"><translation>Display</translation></message>
+    <message id="settingErase"><translation>Empty the monitor after each download</translation></message>
+    <message id="settingEraseButton"><translation>Empt&amp;y the monitor after a download</translation></message>
+    <message id="settingEraseHint"><translation>Its readings are deleted from the monitor once all of them are safely stored here.</translation></message>
+    <message id="settingLimits"><translation>Blood pressure limits</translation></message>
+    <message id="settingMAP"><translation>Show the mean arterial pressure</translation></message>
+    <message id="settingMAPButton"><translation>&amp;Mean arterial pressure (MAP)</translation></message>
+    <message id="settingOK"><translation>Save the settings</translation></message>
+    <message id="settingPhysician"><translation>Practitioner, for the head of printed reports</translation></message>
+    <message id="settingPhysicianTitle"><translation>Practitioner</translation></message>
+    <message id="settingPhysicianUse"><translation>Stands at the head of printed reports.</translation></message>
+    <message id="settingPP"><translation>Show the pulse pressure</translation></message>
+    <message id="settingPPButton"><translation>&amp;Pulse pressure (PP)</translation></message>
+    <message id="settingPPorMAP"><translation>Show with each reading</translation></message>
+    <message id="settings"><translation>Settings</translation></message>
+    <message id="settingsButton"><translation>Settings</translation></message>
+    <message id="settingsHint"><translation>Settings, export and import (Ctrl+,)</translation></message>
+    <message id="settingsNotSaved"><translation>The settings were not saved. %1</translation></message>
+    <message id="settingSys"><translation>Systolic limit in mmHg</translation></message>
+    <message id="settingSysLabel"><translation>&amp;Systolic</translation></message>
+    <message id="settingTime"><translation>Time format</translation></message>
+    <message id="settingTimeLabel"><translation>&amp;Time format</translation></message>
+    <message id="settingUnits"><translation>Units of weight and height</translation></message>
+    <message id="settingUnitsLabel"><translation>&amp;Units</translation></message>
+    <message id="settingWHO"><translation>Use the limits of the World Health Organization</translation></message>
+    <message id="settingWHOButton"><translation>&amp;WHO limits (140/90)</translation></message>
+    <message id="settingWHOHint"><translation>Sets both limits to those of the World Health Organization: 140 and 90 mmHg.</translation></message>
     <message id="sideColumn"><translation>Monitor and data</translation></message>
     <message id="statusConnected"><translation>Monitor connected</translation></message>
     <message id="statusNotConnected"><translation>No monitor</translation></message>
+    <message id="stepProgress"><translation>%1 of %2 files</translation></message>
     <message id="Synchronization"><translation>Set the monitor’s clock?</translation></message>
     <message id="synctimeAsk"><translation>The monitor’s clock is %1. Set it to this computer’s time, so that new readings get the right date and time?</translation></message>
     <message id="tabChart"><translation>&amp;Chart</translation></message>
@@ -175,6 +337,11 @@ mmHg</translation></message>
     <message id="tabPatients"><translation>&amp;Patients</translation></message>
     <message id="tabReadings"><translation>&amp;Readings</translation></message>
     <message id="tabShown"><translation>shown now</translation></message>
+    <message id="TimeSync"><translation>Monitor’s clock</translation></message>
+    <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
+    <message id="unitMmHg"><translation>mmHg</translation></message>
+    <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
+    <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
 </context>
 <context>
@@ -192,6 +359,9 @@ mmHg</translation></message>
     <message id="CliEraseFailed"><translation>The monitor's memory could not be erased. %1</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
+    <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
+    <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
+    <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
     <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]]
        zel COMMAND [OPTION]...
@@ -203,6 +373,10 @@ Without a command a window opens. The commands do the same jobs without one, on 
   patients   list the patients, or add one
   download   store the monitor's readings for a patient
   readings   print a patient's readings
+  export-xml export all patients, or one, as XML files
+  export-csv export a patient and the readings as a CSV file
+  import     take in patients from exported XML files
+  settings   show the settings, or change some
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
@@ -221,6 +395,37 @@ Options:
   --any-monitor                download even if the monitor holds another ID than the patient's
   --wait SECONDS               how long to wait for the monitor (5 unless told)
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpExportCsv"><translation>Usage: zel export-csv DIR --patient ID [--force]
+
+Writes a patient's data and readings as a CSV file, named after the patient's ID, into the folder DIR, and
+prints 'written: FILE'. Dates and measures are in the form that the settings ask for.
+
+Options:
+  --patient ID                 whose file
+  --force                      replace the file if it is there already
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpExportXml"><translation>Usage: zel export-xml DIR [--patient ID] [--force]
+
+Writes each patient, with readings and comments, as an XML file of its own into the folder DIR, and prints
+a line 'written: FILE' for each. The files are named after the patients' IDs; 'zel import' takes them in
+again. A file that cannot be written is named on standard error, and the others are still written.
+
+Options:
+  --patient ID                 only this patient
+  --force                      replace files that are there already, instead of leaving them as they are
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpImport"><translation>Usage: zel import FILE...
+
+Takes in the patients of XML files that were exported, with their readings and comments. A file is taken
+as a whole or not at all: not if one of its patients is in the list already. Files that are not taken are
+named on standard error, with the reason. Prints how many files were taken and refused, and how many
+patients, readings and comments they brought, one 'key: value' a line.
+
+Options:
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpMonitor"><translation>Usage: zel monitor [OPTION]...
        zel monitor --set-clock [OPTION]...
@@ -264,6 +469,26 @@ Options:
   --to DAY                     only up to the end of this day (yyyy-MM-dd)
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
+    <message id="CliHelpSettings"><translation>Usage: zel settings
+       zel settings --set KEY=VALUE [--set KEY=VALUE]...
+
+Prints the settings, one 'key: value' a line, or changes some of them and prints those. If one of the
+values is refused, none is changed. In texts, \n stands for a line end and \\ for a backslash.
+
+  DateFormat                   dd mm yyyy, mm dd yyyy or yyyy mm dd
+  TimeFormat                   12-hours or 24-hours
+  MetricFormat                 kg / cm or lb / in
+  EraseRecAfterReading         1: erase the monitor's memory after a download that is safely stored; else 0
+  ShowPPorMap                  0: show pulse pressure; 1: show mean arterial pressure
+  UserWhoStandard              1: the settings dialog shows the limits as those of the WHO; else 0
+  SysStandard                  systolic limit, 0 to 999 mmHg
+  DiaStandard                  diastolic limit, 0 to 999 mmHg
+  PhysicianAddress             the practitioner's lines on printed reports
+
+Options:
+  --set KEY=VALUE              change a setting; may be given several times
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
     <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
     <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
     <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
@@ -272,6 +497,7 @@ Options:
     <message id="CliMonitorSilent"><translation>A monitor is attached, but it did not answer within %1 s. %2</translation></message>
     <message id="CliMonitorWithoutID"><translation>The monitor holds no ID, so its readings may not be those of patient '%1'. Write the ID with 'zel monitor --send-id', or use --any-monitor to download all the same.</translation></message>
     <message id="CliNoCommand"><translation>A command is missing.</translation></message>
+    <message id="CliNoFolder"><translation>There is no folder '%1'.</translation></message>
     <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
     <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
@@ -283,6 +509,11 @@ Options:
     <message id="CliPatientKnown"><translation>There is a patient with the ID '%1' already.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= needs the name of a file behind it; alone, without '=', it is the built-in monitor.</translation></message>
     <message id="CliProgress"><translation>Received %1 of %2 readings</translation></message>
+    <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
+    <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>
+    <message id="CliSettingTwice"><translation>The setting %1 is given more than once.</translation></message>
+    <message id="CliSettingUnknown"><translation>There is no setting '%1'. These are: %2.</translation></message>
+    <message id="CliSettingValue"><translation>%1 takes %2, not '%3'.</translation></message>
     <message id="CliTryHelp"><translation>Try '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>
     <message id="CliUnknownCommand"><translation>There is no command '%1'.</translation></message>

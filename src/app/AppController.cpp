@@ -4,30 +4,37 @@
 #include "app/Log.h"
 #include "app/PatientViewController.h"
 #include "app/ProgressWindowController.h"
+#include "app/SettingController.h"
 #include "app/SplashWindow.h"
 #include "app/TableViewController.h"
 #include "app/WindowPlacement.h"
 
 #include <QApplication>
+#include <QShortcut>
 
 namespace zel {
 
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.session),
       watch({needed.monitor, needed.session, needed.store, needed.panel, needed.clock}, times.polling),
-      patientPage(new PatientViewController(needed.store, needed.session, needed.monitor, needed.panel)),
+      patientPage(new PatientViewController(
+          {needed.store, needed.session, needed.monitor, needed.panel, needed.clock})),
       graphPage(new GraphViewController(needed.store)),
       tablePage(new TableViewController(needed.store, needed.session)), pages{patientPage, graphPage,
                                                                               tablePage} {
     for (PageController* page : pages)
         window.addPage(*page);
     connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
+    connect(&window, &MainWindow::settingWanted, this, &AppController::showSetting);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
+    connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
+    connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
+            &AppController::savePatient);
 }
 
 AppController::~AppController() { parts.monitor.stop(); }
@@ -68,9 +75,24 @@ void AppController::changeTab(int tabTag) {
 
 void AppController::displayViewController(PageController& controller, int tabTag) {
     window.setShownTab(tabTag);
-    if (!window.makeFirstResponder()) return QApplication::beep();
+    if (!window.makeFirstResponder()) {
+        QApplication::beep();
+        return showPageInView();
+    }
+    PageController& left = *pages.at(static_cast<std::size_t>(window.pageInView()));
+    if (&left != &controller && !left.leave()) return showPageInView();
     window.showPage(controller);
     controller.LoadData();
+}
+
+/// The tabs and panels of the page that stays in view, as it is not to be left.
+void AppController::showPageInView() {
+    window.setShownTab(window.pageInView());
+    window.setPatientPanelsVisible(window.pageInView() == 0);
+}
+
+void AppController::savePatient() {
+    if (patientPage->isVisible()) patientPage->btnSavePatient();
 }
 
 void AppController::enable2Tabs(bool enabled) { window.enable2Tabs(enabled); }
@@ -102,7 +124,35 @@ void AppController::displayAfterDataTransfer() {
     graphPage->switchToGraph();
 }
 
+void AppController::showSetting() {
+    if (!settings) {
+        settings = new SettingController(
+            {parts.store, parts.session, parts.monitor, parts.panel, parts.chooser}, &window);
+        connect(settings, &SettingController::finished, this, &AppController::UpdateUIBySetting);
+        connect(settings, &SettingController::imported, this, &AppController::reload);
+    }
+    settings->showSetting();
+}
+
+void AppController::reload() {
+    if (const StoreResult read = parts.store.loadXML(); !read)
+        parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+}
+
+/// All pages, not only the one in view: none shows old settings when its tab is pressed.
+void AppController::UpdateUIBySetting() {
+    for (PageController* page : pages) {
+        page->update();
+        page->UpdateUIBySetting();
+    }
+    window.UpdateUIBySetting();
+}
+
 void AppController::closeApplicaiton() {
+    if (patientPage->leave()) terminate();
+}
+
+void AppController::terminate() {
     isClosing = true;
     parts.monitor.stop();
     emit closed();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FileChooser.h"
 #include "app/MainWindow.h"
 #include "app/MonitorSession.h"
 #include "app/MonitorWatch.h"
@@ -14,6 +15,7 @@ namespace zel {
 class GraphViewController;
 class PatientViewController;
 class ProgressWindowController;
+class SettingController;
 class SplashWindow;
 class TableViewController;
 struct DownloadOutcome;
@@ -28,6 +30,7 @@ public:
         MonitorWorker& monitor;
         MessagePanel& panel;
         const Clock& clock;
+        FileChooser& chooser;
     };
     struct Timing {
         std::chrono::milliseconds polling{2000};
@@ -50,12 +53,19 @@ public:
     void setHWButtons(bool connected);
     void dataTransfer();
     void displayAfterDataTransfer();
+    void showSetting();
+    void savePatient();
+    /// Quits, unless what was typed is to be saved and cannot be.
     void closeApplicaiton(); // spelled so in the interface
+    void terminate();        ///< quits without a question
 
 signals:
     void closed(); ///< the monitor's thread has ended; nothing is left to do
 
 private:
+    void showPageInView();
+    void UpdateUIBySetting();
+    void reload();
     void transferFinished(const DownloadOutcome& outcome);
 
     Parts parts;
@@ -67,6 +77,7 @@ private:
     TableViewController* tablePage;
     std::array<PageController*, MainWindow::tabTotal> pages;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
+    SettingController* settings = nullptr;              ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     bool isClosing = false;

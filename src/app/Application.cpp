@@ -109,8 +109,7 @@ int runApplication(int argc, char** argv) {
                      std::move(*port), clock);
     AppController& controller = global.appController;
     QObject::connect(&controller, &AppController::closed, &application, [] { QCoreApplication::exit(0); });
-    QObject::connect(&termination, &TerminationSignals::terminated, &controller,
-                     &AppController::closeApplicaiton);
+    QObject::connect(&termination, &TerminationSignals::terminated, &controller, &AppController::terminate);
     // Inside the event loop, so that a quit also ends it while one of their messages is open.
     QTimer::singleShot(0, &controller, [&] {
         controller.awakeFromNib(global.loaded);

@@ -10,12 +10,12 @@ class DataPanel final : public SidePanel {
     Q_OBJECT
 public:
     DataPanel(const DataStore& dataStore, QWidget* parent);
+    void showState();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void showState();
     void showPath();
 
     const DataStore& store;

@@ -4,6 +4,7 @@
 #include "app/MessageBoxPanel.h"
 #include "app/MonitorSession.h"
 #include "app/MonitorWorker.h"
+#include "app/SelectFolderController.h"
 #include "store/DataStore.h"
 
 #include <memory>
@@ -15,7 +16,7 @@ class GlobalVar {
 public:
     GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock)
         : port(std::move(monitorPort)), store(std::move(paths), clock), loaded(store.load()),
-          monitor(*port, clock), appController({store, session, monitor, panel, clock}, {}) {
+          monitor(*port, clock), appController({store, session, monitor, panel, clock, chooser}, {}) {
         panel.setWindow(&appController.mainWndow());
     }
 
@@ -25,6 +26,7 @@ public:
     MonitorSession session;
     MonitorWorker monitor;
     MessageBoxPanel panel;
+    SelectFolderController chooser;
     AppController appController;
 };
 

@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -57,6 +58,7 @@ QWidget* MainWindow::makeTabBar() {
         row->addWidget(tab);
     }
     row->addStretch(1);
+    row->addWidget(makeSettingButton());
     auto* line = new QFrame(bar);
     line->setFrameShape(QFrame::HLine);
     line->setForegroundRole(QPalette::Mid);
@@ -69,13 +71,32 @@ QWidget* MainWindow::makeTabBar() {
     return bar;
 }
 
+QWidget* MainWindow::makeSettingButton() {
+    auto* button = new QToolButton(this);
+    button->setObjectName(u"settingBtn"_s);
+    button->setText(qtTrId("settingsButton"));
+    button->setAccessibleName(qtTrId("settings"));
+    button->setToolTip(qtTrId("settingsHint"));
+    button->setIcon(QIcon(u":/icons/settingBtn.svg"_s));
+    button->setIconSize({20, 20});
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setCursor(Qt::PointingHandCursor);
+    connect(button, &QToolButton::clicked, this, &MainWindow::settingWanted);
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma), this), &QShortcut::activated, this,
+            &MainWindow::settingWanted);
+    return button;
+}
+
 QWidget* MainWindow::makeSideColumn(const DataStore& store) {
     auto* panels = new QWidget;
     auto* column = new QVBoxLayout(panels);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
     column->addWidget(new MonitorPanel(session, panels));
-    column->addWidget(new DataPanel(store, panels));
+    dataPanel = new DataPanel(store, panels);
+    column->addWidget(dataPanel);
     column->addStretch(1);
     auto* scroll = new QScrollArea(this);
     scroll->setObjectName(u"sideColumn"_s);
@@ -87,7 +108,6 @@ QWidget* MainWindow::makeSideColumn(const DataStore& store) {
     scroll->setWidget(panels);
     scroll->viewport()->setAutoFillBackground(false);
     panels->setAutoFillBackground(false);
-    scroll->setFixedWidth(fontMetrics().averageCharWidth() * 34);
     sideColumn = scroll;
     return scroll;
 }
@@ -122,6 +142,8 @@ void MainWindow::showMonitor() {
     lblMonitor->setAccessibleName(lblMonitor->text());
 }
 
+void MainWindow::UpdateUIBySetting() { dataPanel->showState(); }
+
 void MainWindow::showOutcome(const QString& text) {
     lblOutcome->setText(text);
     lblOutcome->setToolTip(text);
@@ -147,16 +169,27 @@ void MainWindow::enable2Tabs(bool enabled) {
     tabs[2]->setEnabled(enabled);
 }
 
+int MainWindow::pageInView() const { return contentBox->currentIndex(); }
+
 bool MainWindow::makeFirstResponder() {
+    setFocus(); // a field that has the focus ends its editing
     const auto fields = contentBox->currentWidget()->findChildren<QLineEdit*>();
     const auto isInvalid = [](const QLineEdit* field) { return !field->hasAcceptableInput(); };
-    if (std::ranges::any_of(fields, isInvalid)) return false;
-    setFocus(); // a field that has the focus ends its editing
-    return true;
+    const auto invalid = std::ranges::find_if(fields, isInvalid);
+    if (invalid == fields.end()) return true;
+    (*invalid)->setFocus();
+    return false;
+}
+
+/// The page beside them keeps the room that it needs.
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    const int letter = fontMetrics().averageCharWidth();
+    sideColumn->setFixedWidth(letter * (width() < letter * 130 ? 22 : 34));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    event->accept();
+    event->ignore(); // whoever quits the program closes it
     emit closeWanted();
 }
 

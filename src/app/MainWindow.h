@@ -12,6 +12,7 @@
 
 namespace zel {
 
+class DataPanel;
 class PageController;
 
 /// The one window: tabs at the top, the content box with the page in view, the panels that stand beside the
@@ -28,19 +29,26 @@ public:
     void setPatientPanelsVisible(bool visible);
     /// Enables or disables the chart's and the table's tab.
     void enable2Tabs(bool enabled);
+    /// The settings may have changed.
+    void UpdateUIBySetting();
     void showOutcome(const QString& text);
-    /// Ends the editing of any field. \return false if one holds an entry that does not validate
+    [[nodiscard]] int pageInView() const;
+    /// Ends the editing of any field. \return false if one holds an entry that does not validate; it then has
+    /// the focus
     [[nodiscard]] bool makeFirstResponder();
 
 signals:
     void tabWanted(int tabTag);
+    void settingWanted();
     void closeWanted();
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     QWidget* makeTabBar();
+    QWidget* makeSettingButton();
     QWidget* makeSideColumn(const DataStore& store);
     void makeStatusLine();
     void makeShortcuts();
@@ -50,6 +58,7 @@ private:
     std::array<TabButton*, tabTotal> tabs;
     QStackedWidget* contentBox;
     QWidget* sideColumn = nullptr;
+    DataPanel* dataPanel = nullptr;
     QLabel* lblOutcome;
     QLabel* lblMonitor;
 };

@@ -2,9 +2,14 @@
 
 #include "app/PageHeading.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace zel {
 
@@ -28,19 +33,41 @@ void fill(QMessageBox& box, const QString& text, const QString& title) {
         words->setMinimumWidth(words->fontMetrics().averageCharWidth() * 56);
 }
 
+/// A long list must not make the box higher than the screen, with its button out of reach.
+void keepOnScreen(QMessageBox& box) {
+    auto* words = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s);
+    const int room = box.screen()->availableSize().height() / 2;
+    if (!words || words->heightForWidth(words->minimumWidth()) <= room) return;
+    auto* scroll = new QScrollArea(&box);
+    scroll->setObjectName(u"longText"_s);
+    scroll->setAccessibleName(box.informativeText());
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    delete box.layout()->replaceWidget(words, scroll);
+    scroll->setMinimumSize(words->minimumWidth() + scroll->verticalScrollBar()->sizeHint().width(), room);
+    scroll->setWidget(words);
+}
+
+/// A message belongs to the dialog that is open, where there is one.
+QWidget* ownerOver(QWidget* window) {
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : window;
+}
+
 } // namespace
 
 void MessageBoxPanel::ShowMessage(const QString& text, const QString& title) {
-    QMessageBox box(window);
+    QMessageBox box(ownerOver(window));
     fill(box, text, title);
     box.setIcon(title == qtTrId("Warning") ? QMessageBox::Warning : QMessageBox::Information);
     QPushButton* ok = box.addButton(qtTrId("ok"), QMessageBox::AcceptRole);
     ok->setObjectName(u"btnOK"_s);
+    keepOnScreen(box);
     box.exec();
 }
 
 bool MessageBoxPanel::AskMessage(const QString& text, const QString& title) {
-    QMessageBox box(window);
+    QMessageBox box(ownerOver(window));
     fill(box, text, title);
     box.setIcon(QMessageBox::Question);
     QPushButton* yes = box.addButton(qtTrId("yes"), QMessageBox::YesRole);
@@ -49,6 +76,7 @@ bool MessageBoxPanel::AskMessage(const QString& text, const QString& title) {
     QPushButton* no = box.addButton(qtTrId("no"), QMessageBox::ActionRole);
     no->setObjectName(u"btnNo"_s);
     box.setDefaultButton(yes);
+    keepOnScreen(box);
     box.exec();
     return box.clickedButton() == yes;
 }

@@ -14,6 +14,7 @@ QString activityText(MonitorActivity activity) {
     case MonitorActivity::erasing: return qtTrId("monitorErasing");
     case MonitorActivity::sendingID: return qtTrId("monitorSendingID");
     case MonitorActivity::downloading: return qtTrId("monitorDownloading");
+    case MonitorActivity::settingClock: return qtTrId("monitorSettingClock");
     case MonitorActivity::none: break;
     }
     return {};

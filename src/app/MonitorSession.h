@@ -11,7 +11,16 @@
 namespace zel {
 
 /// What the program is doing with the monitor beyond looking whether it is still there.
-enum class MonitorActivity { none, greeting, asking, counting, erasing, sendingID, downloading };
+enum class MonitorActivity {
+    none,
+    greeting,
+    asking,
+    counting,
+    erasing,
+    sendingID,
+    downloading,
+    settingClock
+};
 
 /// What is known of the attached monitor.
 struct MonitorState {

@@ -121,7 +121,7 @@ void MonitorWatch::clockRead(std::int64_t secondsAhead, const Step& next) {
         if (result == MonitorResult::success)
             parts.session.update([](MonitorState& state) { state.secondsAhead = 0; });
         else
-            parts.panel.ShowMessage(qtTrId("clockNotSet").arg(describe(result)), qtTrId("Warning"));
+            parts.panel.ShowMessage(qtTrId("clockNotSetAtGreeting").arg(describe(result)), qtTrId("Warning"));
         next();
     });
 }

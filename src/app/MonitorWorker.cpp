@@ -6,24 +6,20 @@ using namespace Qt::StringLiterals;
 
 MonitorWorker::MonitorWorker(MonitorPort& port, Clock& clock) : model(port, clock) {
     thread.setObjectName(u"monitor"_s);
-    executor.moveToThread(&thread);
+    jobs.moveToThread(&thread);
     thread.start();
 }
 
 MonitorWorker::~MonitorWorker() { stop(); }
 
 void MonitorWorker::run(std::function<void()> work) {
-    if (stopped) return;
-    QMetaObject::invokeMethod(&executor, std::move(work), Qt::QueuedConnection);
+    if (!stopped) jobs.post(std::move(work));
 }
 
 void MonitorWorker::hand(const QPointer<QObject>& context, std::function<void()> call) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, context, call = std::move(call)] {
-            if (context && !stopped) call();
-        },
-        Qt::QueuedConnection);
+    results.post([this, context, call = std::move(call)] {
+        if (context && !stopped) call();
+    });
 }
 
 void MonitorWorker::stop() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/CallQueue.h"
 #include "monitor/BPMModel.h"
 
 #include <QObject>
@@ -40,7 +41,8 @@ private:
     void run(std::function<void()> work);
 
     BPMModel model;
-    QObject executor; ///< lives on the thread and receives the jobs
+    CallQueue jobs;    ///< lives on the thread
+    CallQueue results; ///< lives on the main thread
     QThread thread;
     bool stopped = false;
 };

@@ -15,6 +15,8 @@ public:
     virtual void UpdateUIBySetting() = 0;
     /// A monitor was connected, changed its ID or was pulled out.
     virtual void setHWButtons(bool connected) = 0;
+    /// Settles what has been typed on the page. \return false if it is not to be left
+    [[nodiscard]] virtual bool leave() { return true; }
 };
 
 } // namespace zel

@@ -6,7 +6,7 @@
 
 namespace zel {
 
-/// The roster by name and ID, in the store's order.
+/// The roster by name and ID, in the store's order, below a new patient that is not saved yet.
 class PatientTableModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -18,13 +18,18 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// The roster was read anew.
-    void reload();
+    /// The roster was read anew, or a new patient came or went.
+    void reload(bool withNewPatient);
+    [[nodiscard]] bool isNewPatient(int row) const { return hasNewPatient && row == 0; }
     [[nodiscard]] QString IDAt(int row) const;
     [[nodiscard]] int rowOf(const QString& patientID) const; ///< -1 if there is none
 
 private:
+    [[nodiscard]] const PatientModel& patientAt(int row) const;
+
     const DataStore& store;
+    PatientModel newPatient;
+    bool hasNewPatient = false;
 };
 
 } // namespace zel

@@ -1,5 +1,7 @@
 #include "app/PatientTexts.h"
 
+#include "store/Text.h"
+
 #include <algorithm>
 
 namespace zel {
@@ -23,6 +25,15 @@ QString patientHeading(const DataStore& store) {
     const PatientModel* patient = store.getPatientByID(store.getCurrentID());
     if (!patient) return qtTrId("noPatientSelected");
     return qtTrId("patientHeading").arg(patient->GivenNames, patient->FamilyName, patient->ID);
+}
+
+QString shortText(const QString& text, int longest) {
+    return text.size() <= longest ? text : text.first(longest) + u'\u2026';
+}
+
+QString shortName(const PatientModel& patient) {
+    const QString name = TrimStr(shortText(patient.GivenNames) + u' ' + shortText(patient.FamilyName));
+    return name.isEmpty() ? qtTrId("NewPatient") : name;
 }
 
 QString readingSummary(const DataStore& store) {

@@ -2,47 +2,58 @@
 
 #include "app/EmptyState.h"
 #include "app/PageHeading.h"
-#include "app/PatientTableModel.h"
-#include "app/TableLook.h"
+#include "app/PatientEditor.h"
+#include "app/PatientIDSender.h"
+#include "app/PatientRoster.h"
+#include "app/PatientTexts.h"
+#include "store/Text.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSplitter>
 #include <QStackedWidget>
-#include <QTableView>
+
+#include <algorithm>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
-PatientViewController::PatientViewController(DataStore& patients, MonitorSession& monitorSession,
-                                             MonitorWorker& monitorWorker, MessagePanel& messagePanel)
-    : store(patients), session(monitorSession), monitor(monitorWorker), panel(messagePanel),
-      roster(new PatientTableModel(patients, this)), tblPatients(new QTableView(this)),
+PatientViewController::PatientViewController(const Parts& needed)
+    : parts(needed), store(needed.store),
+      sender(new PatientIDSender(needed.session, needed.monitor, needed.panel, this)),
+      roster(new PatientRoster(needed.store, this)), editor(new PatientEditor(needed.clock, this)),
       noPatients(new EmptyState(u"noPatients"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
-      listOrAdvice(new QStackedWidget(this)), btnSendID(new QPushButton(this)),
-      btnDataTransfer(new QPushButton(this)) {
+      rosterOrAdvice(new QStackedWidget(this)) {
     setObjectName(u"PatientViewController"_s);
     setAccessibleName(qtTrId("pagePatients"));
     build();
     connect(&store, &DataStore::reloaded, this, &PatientViewController::reload);
-    connect(&session, &MonitorSession::changed, this, &PatientViewController::enableButtons);
-    connect(tblPatients->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& now) { selected(now.row()); });
-    connect(btnSendID, &QPushButton::clicked, this, &PatientViewController::sendID);
-    connect(btnDataTransfer, &QPushButton::clicked, this, &PatientViewController::dataTransferWanted);
+    connect(&parts.session, &MonitorSession::changed, this, &PatientViewController::enableButtons);
+    connect(sender, &PatientIDSender::sent, this, &PatientViewController::updateUIWanted);
+    // A question is asked when the click or key that chose the patient is over, not in its midst.
+    connect(roster, &PatientRoster::wanted, this, [this] {
+        const auto go = [this] { goTo(roster->selectedID()); };
+        if (editor->isChanged())
+            QMetaObject::invokeMethod(this, go, Qt::QueuedConnection);
+        else
+            go();
+    });
     reload();
 }
 
 void PatientViewController::build() {
-    tblPatients->setObjectName(u"tblPatients"_s);
-    tblPatients->setAccessibleName(qtTrId("patientList"));
-    tblPatients->setModel(roster);
-    dressTable(*tblPatients);
-    tblPatients->setSelectionMode(QAbstractItemView::SingleSelection);
-    listOrAdvice->addWidget(tblPatients);
-    listOrAdvice->addWidget(noPatients);
-    setFocusProxy(tblPatients);
+    auto* sides = new QSplitter(this);
+    sides->setChildrenCollapsible(false);
+    sides->setHandleWidth(12);
+    sides->addWidget(roster);
+    sides->addWidget(editor);
+    sides->setStretchFactor(0, 2);
+    sides->setStretchFactor(1, 3);
+    rosterOrAdvice->addWidget(sides);
+    rosterOrAdvice->addWidget(noPatients);
+    setFocusProxy(roster);
 
     auto* heading = new PageHeading(this);
     heading->setTexts(qtTrId("pagePatients"), qtTrId("patientsDetail"));
@@ -50,128 +61,245 @@ void PatientViewController::build() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
     column->addWidget(heading);
-    column->addWidget(listOrAdvice, 1);
+    column->addWidget(rosterOrAdvice, 1);
     column->addWidget(makeButtons());
 }
 
 QWidget* PatientViewController::makeButtons() {
-    btnSendID->setObjectName(u"btnSendID"_s);
-    btnSendID->setText(qtTrId("sendIDButton"));
-    btnSendID->setAccessibleName(qtTrId("sendID"));
-    btnSendID->setToolTip(qtTrId("sendIDHint"));
-    btnDataTransfer->setObjectName(u"btnDataTransfer"_s);
-    btnDataTransfer->setText(qtTrId("downloadButton"));
-    btnDataTransfer->setAccessibleName(qtTrId("download"));
-    btnDataTransfer->setToolTip(qtTrId("downloadHint"));
-    auto* download = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), this);
-    connect(download, &QShortcut::activated, btnDataTransfer, [this] { btnDataTransfer->click(); });
-
     auto* buttons = new QWidget(this);
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
+    const auto* newButton =
+        addButton(*row, u"btnNewPatient"_s, qtTrId("newPatientButton"), qtTrId("newPatientHint"));
+    deleteButton =
+        addButton(*row, u"btnDeletePatient"_s, qtTrId("deletePatientButton"), qtTrId("deletePatientHint"));
     row->addStretch(1);
-    row->addWidget(btnSendID);
-    row->addWidget(btnDataTransfer);
+    saveButton = addButton(*row, u"btnSavePatient"_s, qtTrId("savePatientButton"), qtTrId("savePatientHint"));
+    sendIDButton = addButton(*row, u"btnSendID"_s, qtTrId("sendIDButton"), qtTrId("sendIDHint"));
+    downloadButton = addButton(*row, u"btnDataTransfer"_s, qtTrId("downloadButton"), qtTrId("downloadHint"));
+    connect(newButton, &QPushButton::clicked, this, &PatientViewController::btnNewPatient);
+    connect(deleteButton, &QPushButton::clicked, this, &PatientViewController::btnDeletePatient);
+    connect(saveButton, &QPushButton::clicked, this, &PatientViewController::btnSavePatient);
+    connect(sendIDButton, &QPushButton::clicked, this, &PatientViewController::sendID);
+    connect(downloadButton, &QPushButton::clicked, this, [this] {
+        if (leave()) emit dataTransferWanted();
+    });
+    const auto press = [this](int key, const QPushButton* button) {
+        connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, button,
+                &QPushButton::click);
+    };
+    press(Qt::Key_N, newButton);
+    press(Qt::Key_D, downloadButton);
     return buttons;
+}
+
+QPushButton* PatientViewController::addButton(QHBoxLayout& row, const QString& name, const QString& text,
+                                              const QString& hint) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAccessibleName(QString(text).remove(u'&'));
+    button->setToolTip(hint);
+    row.addWidget(button);
+    return button;
 }
 
 void PatientViewController::LoadData() { enableButtons(); }
 
+void PatientViewController::UpdateUIBySetting() { showRecord(store.getCurrentID()); }
+
 void PatientViewController::setHWButtons(bool) { enableButtons(); }
+
+bool PatientViewController::isNewOne(const QString& ID) const { return newPatient && ID == "-"_L1; }
+
+bool PatientViewController::isThere(const QString& ID) const {
+    return isNewOne(ID) || store.validIDinXML(ID);
+}
+
+PatientForm PatientViewController::formOf(const QString& ID) const {
+    const PatientModel* patient = isNewOne(ID) ? nullptr : store.getPatientByID(ID);
+    return {patient ? *patient : PatientForm::newPatient(), store.getSetting(), !patient};
+}
 
 /// Keeps the selection by the patient's ID; a patient that is gone gives way to the first.
 void PatientViewController::reload() {
-    const QString kept = store.getCurrentID();
-    roster->reload();
-    const bool hasPatients = roster->rowCount() > 0;
     if (const StoreResult& loaded = store.lastLoad(); loaded)
         noPatients->setTexts(qtTrId("noPatients"), qtTrId("noPatientsAdvice"));
     else
         noPatients->setTexts(qtTrId("dataFileUnreadable"), describe(loaded.error()));
-    listOrAdvice->setCurrentWidget(hasPatients ? static_cast<QWidget*>(tblPatients) : noPatients);
-    if (hasPatients)
-        select(std::max(roster->rowOf(kept), 0));
+    roster->reload(newPatient.has_value());
+    const auto& patients = store.getPatientArray();
+    const QString first = patients.empty() ? QString() : patients.front().ID;
+    const QString instead = newPatient ? u"-"_s : first;
+    open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
+    emit rosterChanged(!patients.empty());
+}
+
+void PatientViewController::open(const QString& ID) {
+    store.setCurrentID(ID);
+    const bool isAnyone = isThere(ID);
+    rosterOrAdvice->setCurrentIndex(isAnyone ? 0 : 1);
+    roster->select(ID);
+    showRecord(ID);
+    enableButtons();
+}
+
+/// What was typed over the same record stays over what the record is now.
+void PatientViewController::showRecord(const QString& ID) {
+    const PatientForm form = formOf(ID);
+    const PatientForm& before = editor->shownForm();
+    const bool isSame = before.isNew() == form.isNew() && before.patient().ID == form.patient().ID;
+    if (isSame)
+        editor->showPatient(form, editor->typedOver(form));
     else
-        store.setCurrentID({});
-    enableButtons();
-    emit rosterChanged(hasPatients);
+        editor->showPatient(form, isNewOne(ID) ? newPatient->form.inUnitsOf(form.units(), newPatient->entry)
+                                               : form.entryOf());
 }
 
-void PatientViewController::select(int row) {
-    tblPatients->selectRow(row);
-    selected(row);
+void PatientViewController::goTo(const QString& ID) {
+    if (!ID.isNull() && ID != store.getCurrentID() && leave() && isThere(ID)) return open(ID);
+    roster->select(store.getCurrentID());
 }
 
-void PatientViewController::selected(int row) {
-    if (row < 0) return;
-    store.setCurrentID(roster->IDAt(row));
-    enableButtons();
+bool PatientViewController::leave() {
+    const QString ID = store.getCurrentID();
+    if (!isThere(ID)) return true;
+    if (editor->isChanged() && isSaveWanted()) return btnSavePatient();
+    // What was typed for a new patient can be gone on with.
+    if (isNewOne(ID))
+        newPatient = {editor->shownForm(), editor->entry()};
+    else
+        editor->showPatient(formOf(ID));
+    return true;
+}
+
+bool PatientViewController::isSaveWanted() {
+    const QString name = shortName(editor->shownForm().record(editor->entry()));
+    return parts.panel.AskMessage(qtTrId("confirmSendSave").arg(name), qtTrId("SavePatient"));
+}
+
+void PatientViewController::btnNewPatient() {
+    if (newPatient) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    if (!leave()) return;
+    const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
+    newPatient = {blank, blank.entryOf()};
+    roster->showAll();
+    roster->reload(true);
+    open(u"-"_s);
+    editor->beginTyping();
+}
+
+bool PatientViewController::btnSavePatient() {
+    if (!isThere(store.getCurrentID()) || !isUnique(store.getCurrentID())) return false;
+    const auto found = problems();
+    editor->mark(found);
+    if (!found.empty()) {
+        tell(found);
+        return false;
+    }
+    const PatientModel record = editor->shownForm().record(editor->entry());
+    const bool isNew = editor->shownForm().isNew();
+    if (const StoreResult written = isNew ? store.addXMLPatient(record) : store.saveXMLPatient(record);
+        !written) {
+        parts.panel.ShowMessage(describe(written.error()), qtTrId("Warning"));
+        return false;
+    }
+    saved(record);
+    return true;
+}
+
+/// Records of the same ID cannot be told apart in the file: a change might go to the wrong one.
+bool PatientViewController::isUnique(const QString& ID) {
+    if (std::ranges::count(store.getPatientArray(), ID, &PatientModel::ID) < 2) return true;
+    parts.panel.ShowMessage(qtTrId("patientIDTwice").arg(ID), qtTrId("Warning"));
+    return false;
+}
+
+std::vector<PatientProblem> PatientViewController::problems() const {
+    auto found = editor->problems();
+    const PatientForm& form = editor->shownForm();
+    const QString ID = form.record(editor->entry()).ID;
+    if (form.isNew() && !IsEmptyID(ID) && store.validIDinXML(ID))
+        found.push_back({PatientField::ID, PatientProblem::Kind::sameID, qtTrId("sameID").arg(ID)});
+    return found;
+}
+
+/// One message, for what stands first in the order of the checks; each field says the rest.
+void PatientViewController::tell(const std::vector<PatientProblem>& found) {
+    const auto& first = *std::ranges::min_element(found, {}, &PatientProblem::kind);
+    if (first.kind == PatientProblem::Kind::missing)
+        return parts.panel.ShowMessage(qtTrId("patientsInputFields"), qtTrId("Warning"));
+    if (first.kind == PatientProblem::Kind::sameID)
+        return parts.panel.ShowMessage(first.text, qtTrId("sameIDTitle"));
+    QStringList texts;
+    for (const PatientProblem& problem : found)
+        texts += problem.text;
+    parts.panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
+}
+
+/// A record of the file that lacks an element has no place for that field, and the user has to know.
+void PatientViewController::saved(const PatientModel& record) {
+    if (editor->shownForm().isNew()) newPatient.reset();
+    editor->settle();
+    loadAnew(record.ID);
+    const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
+    if (store.validIDinXML(record.ID) && formOf(record.ID).entryOf() != wanted)
+        parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
+    else
+        emit said(qtTrId("patientSaved").arg(shortName(record)));
+}
+
+void PatientViewController::loadAnew(const QString& ID) {
+    store.setCurrentID(ID);
+    if (const StoreResult loaded = store.loadXML(); !loaded)
+        parts.panel.ShowMessage(describe(loaded.error()), qtTrId("Warning"));
+}
+
+void PatientViewController::btnDeletePatient() {
+    const QString ID = store.getCurrentID();
+    if (!isThere(ID) || !isUnique(ID)) return;
+    const QString next = roster->neighbourOf(ID);
+    if (isNewOne(ID)) return dropNewPatient(next);
+    const PatientModel patient = *store.getPatientByID(ID);
+    const QString question =
+        qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
+    if (!parts.panel.AskMessage(question, qtTrId("DeletePatient"))) return;
+    if (const StoreResult deleted = store.deleteXMLPatient(ID); !deleted)
+        return parts.panel.ShowMessage(describe(deleted.error()), qtTrId("Warning"));
+    loadAnew(next);
+    emit said(qtTrId("patientDeleted").arg(shortName(patient)));
+}
+
+void PatientViewController::dropNewPatient(const QString& next) {
+    newPatient.reset();
+    editor->settle();
+    store.setCurrentID(next);
+    reload();
 }
 
 bool PatientViewController::CanDataTransfer() const {
-    return isMonitorFree() && store.getCurrentID() == session.state().IDOnDevice;
+    return isMonitorFree() && store.getCurrentID() == parts.session.state().IDOnDevice;
 }
 
 /// Connected, its ID known, nothing under way, and a patient to do something for.
 bool PatientViewController::isMonitorFree() const {
-    return session.state().isConnected && session.state().IDOnDevice && !session.isBusy()
-           && !store.getCurrentID().isEmpty();
+    const MonitorState& state = parts.session.state();
+    return state.isConnected && state.IDOnDevice && !parts.session.isBusy()
+           && store.validIDinXML(store.getCurrentID()) && !IsEmptyID(store.getCurrentID());
 }
 
 bool PatientViewController::canSendID() const {
-    return isMonitorFree() && store.getCurrentID() != session.state().IDOnDevice;
+    return isMonitorFree() && store.getCurrentID() != parts.session.state().IDOnDevice;
 }
 
 void PatientViewController::enableButtons() {
-    btnDataTransfer->setEnabled(CanDataTransfer());
-    btnSendID->setEnabled(canSendID());
+    const bool isAnyone = isThere(store.getCurrentID());
+    saveButton->setEnabled(isAnyone);
+    deleteButton->setEnabled(isAnyone);
+    downloadButton->setEnabled(CanDataTransfer());
+    sendIDButton->setEnabled(canSendID());
 }
 
-void PatientViewController::sendID() {
-    const QString ID = store.getCurrentID();
-    if (!BPMModel::fitsMonitor(ID))
-        return panel.ShowMessage(qtTrId("IDNotForMonitor").arg(ID), qtTrId("Warning"));
-    // Busy from the question on, so that nothing else is begun with the monitor behind it.
-    session.setActivity(MonitorActivity::asking);
-    if (!panel.AskMessage(qtTrId("confirmSendID").arg(ID), qtTrId("sendID")))
-        return session.setActivity(MonitorActivity::none);
-    session.setActivity(MonitorActivity::counting);
-    const auto count = [](BPMModel& model) { return model.getBPMCycleDataCount(); };
-    monitor.submit(this, count, [this, ID](const MonitorExpected<int>& readings) {
-        if (readings)
-            readingsCounted(ID, *readings);
-        else
-            giveUp(readings.error());
-    });
-}
-
-void PatientViewController::readingsCounted(const QString& ID, int count) {
-    if (count == 0 || panel.AskMessage(qtTrId("SendIDDataMsg", count), qtTrId("SendIDDataTitle")))
-        return writeID(ID);
-    session.setActivity(MonitorActivity::erasing);
-    const auto erase = [ID](BPMModel& model) { return model.eraseData(ID); };
-    monitor.submit(this, erase, [this, ID](MonitorResult result) {
-        if (result == MonitorResult::success)
-            writeID(ID);
-        else
-            giveUp(result);
-    });
-}
-
-void PatientViewController::writeID(const QString& ID) {
-    session.setActivity(MonitorActivity::sendingID);
-    const auto write = [ID](BPMModel& model) { return model.sendID(ID, false); };
-    monitor.submit(this, write, [this](MonitorResult result) {
-        if (result != MonitorResult::success) return giveUp(result);
-        session.setActivity(MonitorActivity::none);
-        emit updateUIWanted();
-    });
-}
-
-void PatientViewController::giveUp(MonitorResult result) {
-    session.setActivity(MonitorActivity::none);
-    panel.ShowMessage(qtTrId("sendIDFailed").arg(describe(result)), qtTrId("Warning"));
-}
+void PatientViewController::sendID() { sender->sendID(store.getCurrentID()); }
 
 } // namespace zel

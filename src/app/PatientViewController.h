@@ -3,29 +3,48 @@
 #include "app/MonitorSession.h"
 #include "app/MonitorWorker.h"
 #include "app/PageController.h"
+#include "app/PatientForm.h"
 #include "store/DataStore.h"
 
+#include <optional>
+
+class QHBoxLayout;
 class QPushButton;
 class QStackedWidget;
-class QTableView;
 
 namespace zel {
 
 class EmptyState;
-class PatientTableModel;
+class PatientEditor;
+class PatientIDSender;
+class PatientRoster;
 
-/// The roster page: choosing the patient whose data the program shows, and the monitor's commands.
+/// The roster page: choosing the patient whose data the program shows, entering, changing and deleting
+/// patients, and the monitor's commands.
 class PatientViewController final : public PageController {
     Q_OBJECT
 public:
-    PatientViewController(DataStore& patients, MonitorSession& monitorSession, MonitorWorker& monitorWorker,
-                          MessagePanel& messagePanel);
+    struct Parts {
+        DataStore& store;
+        MonitorSession& session;
+        MonitorWorker& monitor;
+        MessagePanel& panel;
+        const Clock& clock;
+    };
+    explicit PatientViewController(const Parts& needed);
 
     void LoadData() override;
-    void UpdateUIBySetting() override {}
+    void UpdateUIBySetting() override;
     void setHWButtons(bool connected) override;
+    [[nodiscard]] bool leave() override;
     /// A monitor is connected and holds the selected patient's ID.
     [[nodiscard]] bool CanDataTransfer() const;
+
+    void btnNewPatient();
+    /// Checks the entry and writes it. \return false if it was not saved; the user knows why, and nothing
+    /// typed is lost
+    bool btnSavePatient();
+    void btnDeletePatient();
     /// Writes the selected patient's ID into the monitor, after asking.
     void sendID();
 
@@ -33,30 +52,46 @@ signals:
     void dataTransferWanted();
     void updateUIWanted(); ///< the monitor's ID has been changed
     void rosterChanged(bool hasPatients);
+    void said(const QString& text); ///< what has been done
 
 private:
     void build();
     QWidget* makeButtons();
+    QPushButton* addButton(QHBoxLayout& row, const QString& name, const QString& text, const QString& hint);
     void reload();
-    void select(int row);
-    void selected(int row);
+    void open(const QString& ID);
+    void showRecord(const QString& ID);
+    void goTo(const QString& ID);
     void enableButtons();
+    [[nodiscard]] bool isThere(const QString& ID) const;
+    [[nodiscard]] bool isNewOne(const QString& ID) const;
+    [[nodiscard]] PatientForm formOf(const QString& ID) const;
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
-    void readingsCounted(const QString& ID, int count);
-    void writeID(const QString& ID);
-    void giveUp(MonitorResult result);
+    [[nodiscard]] std::vector<PatientProblem> problems() const;
+    void tell(const std::vector<PatientProblem>& found);
+    [[nodiscard]] bool isSaveWanted();
+    [[nodiscard]] bool isUnique(const QString& ID);
+    void saved(const PatientModel& record);
+    void dropNewPatient(const QString& next);
+    void loadAnew(const QString& ID);
 
+    Parts parts;
     DataStore& store;
-    MonitorSession& session;
-    MonitorWorker& monitor;
-    MessagePanel& panel;
-    PatientTableModel* roster;
-    QTableView* tblPatients;
+    PatientIDSender* sender;
+    PatientRoster* roster;
+    PatientEditor* editor;
     EmptyState* noPatients;
-    QStackedWidget* listOrAdvice;
-    QPushButton* btnSendID;
-    QPushButton* btnDataTransfer;
+    QStackedWidget* rosterOrAdvice;
+    QPushButton* deleteButton = nullptr;
+    QPushButton* saveButton = nullptr;
+    QPushButton* sendIDButton = nullptr;
+    QPushButton* downloadButton = nullptr;
+    struct Unsaved {
+        PatientForm form;
+        PatientEntry entry;
+    };
+    std::optional<Unsaved> newPatient; ///< the one that is not saved yet, as it was left
 };
 
 } // namespace zel

@@ -28,7 +28,9 @@ QLabel* SidePanel::addValue(const QString& name, const QString& title) {
     value->setWordWrap(true);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     column->addSpacing(6);
-    column->addWidget(new QuietLabel(title, this));
+    auto* caption = new QuietLabel(title, this);
+    caption->setWordWrap(true);
+    column->addWidget(caption);
     column->addWidget(value);
     return value;
 }

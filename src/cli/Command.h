@@ -42,6 +42,8 @@ struct Command {
     QString (*help)();
     QList<QCommandLineOption> (*options)(); ///< --help and --simulated-monitor aside, which all have
     CommandResult (*run)(const Request& request, Surroundings& around);
+    int mostWords = 0;           ///< how many words it takes besides its options
+    const char* repeatable = ""; ///< the option that may be given several times
 };
 
 } // namespace zel::cli

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void tell(Surroundings& around, const QString& program, const Failure& failure) {
-    if (!failure.words.isEmpty()) printLine(around.err, program + u": "_s + failure.words);
+    if (!failure.words.isEmpty()) complain(around, program, failure.words);
     if (failure.status == ExitStatus::wrongUsage)
         printLine(around.err, qtTrId("CliTryHelp").arg(program + u" --help"_s));
 }
@@ -47,8 +47,9 @@ void printLine(std::ostream& stream, const QString& text) {
     stream << text.toStdString() << '\n' << std::flush;
 }
 
-std::array<Command, 4> commands() {
-    return {monitorCommand(), patientsCommand(), downloadCommand(), readingsCommand()};
+std::array<Command, 8> commands() {
+    return {monitorCommand(),   patientsCommand(),  downloadCommand(), readingsCommand(),
+            exportXmlCommand(), exportCsvCommand(), importCommand(),   settingsCommand()};
 }
 
 std::optional<Command> commandByName(const QString& name) {

@@ -10,12 +10,16 @@
 namespace zel::cli {
 
 [[nodiscard]] Command downloadCommand();
+[[nodiscard]] Command exportCsvCommand();
+[[nodiscard]] Command exportXmlCommand();
+[[nodiscard]] Command importCommand();
 [[nodiscard]] Command monitorCommand();
 [[nodiscard]] Command patientsCommand();
 [[nodiscard]] Command readingsCommand();
+[[nodiscard]] Command settingsCommand();
 
 /// Every command, in the order in which the help lists them.
-[[nodiscard]] std::array<Command, 4> commands();
+[[nodiscard]] std::array<Command, 8> commands();
 [[nodiscard]] std::optional<Command> commandByName(const QString& name);
 
 /// Does what \p arguments (without the program's name) ask for. \return the exit status

@@ -25,12 +25,18 @@ tl::expected<std::unique_ptr<QCommandLineParser>, Failure> parseOptions(const Co
     parser->addOption(QCommandLineOption(QStringList{u"h"_s, u"help"_s}));
     parser->addOptions(command.options());
     if (!parser->parse(QStringList(u"zel"_s) + words)) return wrongUsage(parser->errorText());
-    if (const QStringList extra = parser->positionalArguments(); !extra.isEmpty())
+    if (const QStringList extra = parser->positionalArguments().mid(command.mostWords); !extra.isEmpty())
         return wrongUsage(qtTrId("CliUnexpectedWord").arg(extra.constFirst()));
-    for (const QCommandLineOption& option : command.options())
-        if (const QString name = option.names().constFirst(); parser->values(name).size() > 1)
+    for (const QCommandLineOption& option : command.options()) {
+        const QString name = option.names().constFirst();
+        if (parser->values(name).size() > 1 && name != QLatin1StringView{command.repeatable})
             return wrongUsage(qtTrId("CliOptionTwice").arg(name));
+    }
     return parser;
+}
+
+void complain(Surroundings& around, const QString& program, const QString& words) {
+    printLine(around.err, program + u": "_s + words);
 }
 
 tl::expected<QString, Failure> requiredValue(const Request& request, const QString& option) {

@@ -24,6 +24,9 @@ struct Arguments {
 [[nodiscard]] tl::expected<std::unique_ptr<QCommandLineParser>, Failure>
 parseOptions(const Command& command, const QStringList& words);
 
+/// Says on standard error what went wrong; \p program as the user called it, with its command.
+void complain(Surroundings& around, const QString& program, const QString& words);
+
 /// The value of an option that must be given.
 [[nodiscard]] tl::expected<QString, Failure> requiredValue(const Request& request, const QString& option);
 

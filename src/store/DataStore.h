@@ -3,6 +3,8 @@
 #include "store/Clock.h"
 #include "store/DataFile.h"
 #include "store/MessagePanel.h"
+#include "store/PatientExport.h"
+#include "store/PatientImport.h"
 #include "store/Records.h"
 #include "store/StoreError.h"
 
@@ -40,6 +42,8 @@ public:
 
     /// Writes one patient, replacing the one with its ID or adding a new one; does not reload.
     [[nodiscard]] StoreResult saveXMLPatient(const PatientModel& patient);
+    /// Writes a new patient; alreadyKnown if the file holds one of that ID by now. Does not reload.
+    [[nodiscard]] StoreResult addXMLPatient(const PatientModel& patient);
     /// Removes the patient, its readings and comments; its download log stays. Does not reload.
     [[nodiscard]] StoreResult deleteXMLPatient(const QString& ID);
     /// Writes getSetting().
@@ -49,6 +53,14 @@ public:
     /// stored already, with one log entry if anything is new; reloads.
     /// \return how many readings were new; on an error nothing was stored
     [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(ReadingList downloaded);
+
+    /// Reads the data file for an export of its patients.
+    [[nodiscard]] tl::expected<PatientExport, StoreError> beginExport() const;
+    /// Writes the patient and its readings as exportPath(folder, ID, ".csv").
+    /// \return noSuchRecord for an ID that is not in the list; see PatientExport::writeXml() for others
+    [[nodiscard]] StoreResult exportCSV(const QString& folder, const QString& ID, Replace replace) const;
+    /// Takes the patients of the file with their readings and comments, all or none. Does not reload.
+    [[nodiscard]] tl::expected<ImportCounts, ImportRefusal> importXml(const QString& path);
 
     using Counter = Records::Counter;
     /// The next free record number: the largest in use, at least the counter's floor, plus 1.

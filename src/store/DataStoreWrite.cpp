@@ -33,6 +33,13 @@ bool canBeID(const QString& ID) {
            && ID.isValidUtf16();
 }
 
+void insertPatient(pugi::xml_node root, const PatientModel& patient) {
+    const pugi::xml_node last = lastElement(root, "Patient");
+    pugi::xml_node element = PatientModel::makeXmlNode(root);
+    if (last) element = root.insert_move_after(element, last);
+    patient.updateXMLNode(element, true);
+}
+
 void insertComment(pugi::xml_node root, const CommentModel& comment) {
     comment.updateXMLNode(insertElement<CommentModel>(root, lastElement(root, "Comment")));
 }
@@ -86,12 +93,21 @@ StoreResult DataStore::saveXMLPatient(const PatientModel& patient) {
             patient.updateXMLNode(known, false);
             return Edit::changed;
         }
-        const pugi::xml_node last = lastElement(root, "Patient");
-        pugi::xml_node element = PatientModel::makeXmlNode(root);
-        if (last) element = root.insert_move_after(element, last);
-        patient.updateXMLNode(element, true);
+        insertPatient(root, patient);
         return Edit::changed;
     });
+}
+
+StoreResult DataStore::addXMLPatient(const PatientModel& patient) {
+    if (!canBeID(patient.ID)) return refused(patient.ID);
+    bool isKnown = false;
+    StoreResult added = file.edit([&](pugi::xml_node root) {
+        isKnown = static_cast<bool>(findElement(root, "Patient", "ID", patient.ID));
+        if (!isKnown) insertPatient(root, patient);
+        return isKnown ? Edit::unchanged : Edit::changed;
+    });
+    if (isKnown) return tl::unexpected{StoreError{StoreErrorCode::alreadyKnown, patient.ID, {}}};
+    return added;
 }
 
 StoreResult DataStore::deleteXMLPatient(const QString& ID) {

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
 
 namespace zel {
 
@@ -17,12 +19,20 @@ namespace {
 
 using P = PatientModel;
 
+/// As the pattern "%.*f" writes it. Qt's own would round a half up, not to the even digit.
+QString fixedDecimals(double value, int decimals) {
+    std::array<char, 64> text; // the largest float has 39 digits
+    const auto [end, error] =
+        std::to_chars(text.begin(), text.end(), value, std::chars_format::fixed, decimals);
+    return error == std::errc{} ? QString::fromLatin1(text.data(), end - text.data()) : QString{};
+}
+
 template <auto Member>
 constexpr XmlChild<P> measure(const char* name) {
     return {
         name,
         [](P& p, std::string_view t, const LocalZone&) { p.*Member = static_cast<float>(leadingNumber(t)); },
-        [](const P& p) { return QString::asprintf("%f", static_cast<double>(p.*Member)); }};
+        [](const P& p) { return fixedDecimals(static_cast<double>(p.*Member), 6); }};
 }
 
 template <auto Member>
@@ -52,7 +62,10 @@ constexpr std::span<const XmlChild<P>> table{children};
 constexpr double poundsPerKilogram = 2.20462262185;
 constexpr double centimetresPerInch = 2.54;
 
-QString oneDecimal(double value) { return value == 0 ? u""_s : QString::asprintf("%.1f", value); }
+/// A damaged file may hold a number too large for its field.
+QString oneDecimal(double value) {
+    return value == 0 || !std::isfinite(value) ? u""_s : fixedDecimals(value, 1);
+}
 
 float numberIn(const QString& text) { return static_cast<float>(leadingNumber(text.toStdString())); }
 
@@ -110,6 +123,32 @@ bool PatientModel::convertAndSetHeight(const QString& text, const SettingModel& 
         static_cast<double>(numberIn(parts[0])) * 12 + static_cast<double>(numberIn(parts[1]));
     Height = static_cast<float>(inches * centimetresPerInch);
     return true;
+}
+
+QString PatientModel::exportCSV(const SettingModel& settings) const {
+    const auto plain = [](const char* title, const QString& value) {
+        return QLatin1StringView{title} + u',' + value + u",\n"_s;
+    };
+    const auto quoted = [&plain](const char* title, const QString& value) {
+        return plain(title, u'"' + toDoubleQuote(value) + u'"');
+    };
+    const QString birth = isNilDate(DateOfBirth) ? QString{} : DateToStr(DateOfBirth, u"yyyy/M/d"_s);
+    return plain("ID", ID) + plain("Family Name", FamilyName) + plain("Given Name(s)", GivenNames)
+           + quoted("Address", Address) + quoted("Phone / E-Mail", PhoneEmail) + plain("Date of Birth", birth)
+           + plain("Weight", getWeightStr(settings) + (settings.isMetric() ? u"(kg)"_s : u"(lb)"_s))
+           + plain("Height", getHeightStr(settings) + (settings.isMetric() ? u"(cm)"_s : u"(ft/in)"_s))
+           + plain("Sex", Sex == 1 ? qtTrId("Male") : qtTrId("Female")) + plain("Smoker", toYesNo(Smoker))
+           + plain("Diabetic", toYesNo(Diabetic)) + plain("Cholesterol", getCholestrolStr() + u"(mg/dL)"_s)
+           + quoted("Family history", FamilyHistory) + quoted("Patient Notes", PatientNotes);
+}
+
+QString toYesNo(std::int32_t value) { return value == 1 ? u"Yes"_s : u"No"_s; }
+
+QString toDoubleQuote(const QString& text) {
+    QString doubled = text;
+    doubled.replace(u'"', "\"\""_L1);
+    qCDebug(lcStore, "before: %s after: %s", qUtf8Printable(text), qUtf8Printable(doubled));
+    return doubled;
 }
 
 bool StrModified(const QString& a, const QString& b) {

@@ -45,11 +45,18 @@ struct PatientModel {
     /// \return false, changing nothing, for an imperial height without its "/"
     bool convertAndSetHeight(const QString& text, const SettingModel& settings);
 
+    /// The patient's fourteen lines in an exported CSV file, each with its end. What is not given is empty.
+    [[nodiscard]] QString exportCSV(const SettingModel& settings) const;
+
     /// Equal in everything but Weight, Height and Cholestrol, which the editor compares as their texts. Two
     /// texts that are both absent count as different, one absent as equal; the rule is given so.
     [[nodiscard]] bool isTheSanme(const PatientModel& other) const; // spelled so in the interface
 };
 
+/// "Yes" for 1, else "No", as in exported files.
+[[nodiscard]] QString toYesNo(std::int32_t value);
+/// Every double quote doubled, as in exported files.
+[[nodiscard]] QString toDoubleQuote(const QString& text);
 /// For two texts: absent both true, absent one false, else whether they differ.
 [[nodiscard]] bool StrModified(const QString& a, const QString& b);
 /// For two dates: absent both true, absent one false, else whether they are a day or more apart.

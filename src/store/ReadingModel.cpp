@@ -39,6 +39,11 @@ std::pair<bool, DayNumber> shownDay(const ReadingModel& reading, const SettingMo
     return {isUndated, isUndated || settings.getDateFormat().isNull() ? noDay : reading.day};
 }
 
+int hourOnDial(int minuteOfDay) {
+    const int hour = minuteOfDay / 60 % 12;
+    return hour == 0 ? 12 : hour;
+}
+
 QString twoDigits(int value) { return u"%1"_s.arg(value, 2, 10, QLatin1Char{'0'}); }
 
 } // namespace
@@ -84,6 +89,19 @@ QString ReadingModel::getPadStr() const {
 
 QString ReadingModel::getMamStr() const { return mam == 1 ? u"Yes"_s : u"No"_s; }
 
+QString ReadingModel::exportCSV(const SettingModel& settings) const {
+    QString date = u","_s;
+    if (!isUndated()) {
+        date = dayText(day, settings.getDateFormat()) + u','
+               + QString::asprintf("%d:%d %s", hourOnDial(minuteOfDay), minuteOfDay % 60,
+                                   isPMData ? "PM" : "AM");
+    }
+    QString line = date + u',';
+    for (const std::uint32_t value : {sys, dia, pulse, map})
+        line += toDecimal(value) + u',';
+    return line + getMamStr() + u',' + getPadStr() + u",\n"_s;
+}
+
 void ReadingModel::postInit(const ReadingModel* previous, const SettingModel& settings,
                             const LocalZone& zone) {
     const auto local = zone.dayMinute(ReadingDate);
@@ -103,8 +121,7 @@ QString ReadingModel::strDisplayTime(const SettingModel& settings) const {
     const int hour = minuteOfDay / 60;
     const QString minute = twoDigits(minuteOfDay % 60);
     if (!settings.is12Hours()) return twoDigits(hour) + u':' + minute;
-    const int hourOnDial = hour % 12 == 0 ? 12 : hour % 12;
-    return twoDigits(hourOnDial) + u':' + minute + (isPMData ? u" P"_s : u" A"_s);
+    return twoDigits(hourOnDial(minuteOfDay)) + u':' + minute + (isPMData ? u" P"_s : u" A"_s);
 }
 
 } // namespace zel

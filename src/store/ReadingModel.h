@@ -56,6 +56,9 @@ struct ReadingModel {
     [[nodiscard]] QString getPadStr() const; ///< "Yes", "No" or "N/A", as in exported files
     [[nodiscard]] QString getMamStr() const; ///< "Yes" or "No", as in exported files
 
+    /// The reading's line in an exported CSV file, with its end; date and time are empty when undated.
+    [[nodiscard]] QString exportCSV(const SettingModel& settings) const;
+
     /// Places the reading in its local day and after the reading listed before it (or none).
     void postInit(const ReadingModel* previous, const SettingModel& settings, const LocalZone& zone);
 

@@ -31,6 +31,8 @@ struct Records {
     std::array<std::int64_t, 3> largestID{100000, 1000000, 10000};
     /// The next free record number.
     [[nodiscard]] QString getMaxID(Counter kind) const;
+    /// Notes a number that is in use.
+    void countID(Counter kind, const QString& number);
 
     /// Reads all records below the root element ZEL and links them. \p zone is the computer's.
     [[nodiscard]] static Records read(pugi::xml_node root, const LocalZone& zone);
@@ -42,9 +44,6 @@ struct Records {
     void addDataLog(DataTransferLogModel entry);
 
     [[nodiscard]] const ReadingList& readingsOf(const QString& ID) const;
-
-private:
-    void countID(Counter kind, const QString& number);
 };
 
 } // namespace zel

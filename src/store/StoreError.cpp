@@ -15,15 +15,24 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::noSuchRecord: return qtTrId("StoreNoSuchRecord");
     case StoreErrorCode::alreadyKnown: return qtTrId("StoreAlreadyKnown");
     case StoreErrorCode::invalidRecord: return qtTrId("StoreInvalidRecord");
+    case StoreErrorCode::alreadyExists: return qtTrId("ExportAlreadyExists");
+    case StoreErrorCode::isDataFile: return qtTrId("ExportIsDataFile");
     }
     return {};
 }
 
+QString withDetail(const QString& text, const StoreError& error) {
+    return error.detail.isEmpty() ? text : text + u'\n' + error.detail;
+}
+
 } // namespace
 
-QString describe(const StoreError& error) {
-    const QString text = sentence(error.code).arg(error.path);
-    return error.detail.isEmpty() ? text : text + u'\n' + error.detail;
+QString describe(const StoreError& error) { return withDetail(sentence(error.code).arg(error.path), error); }
+
+QString describeExport(const StoreError& error) {
+    const bool isWriting =
+        error.code == StoreErrorCode::notWritable || error.code == StoreErrorCode::writeFailed;
+    return isWriting ? withDetail(qtTrId("ExportNotWritten").arg(error.path), error) : describe(error);
 }
 
 } // namespace zel

@@ -16,6 +16,8 @@ enum class StoreErrorCode {
     noSuchRecord,  ///< no record with the given ID
     alreadyKnown,  ///< a record with the given ID exists
     invalidRecord, ///< the record lacks what it needs to be stored
+    alreadyExists, ///< the file to write is there and may not be replaced
+    isDataFile,    ///< the file to write is the data file itself
 };
 
 /// Why the store could not do what it was asked. Nothing was changed.
@@ -31,5 +33,7 @@ using StoreResult = tl::expected<void, StoreError>;
 
 /// The error in plain words for the user, from the translation table.
 [[nodiscard]] QString describe(const StoreError& error);
+/// As describe(), of a file that patients were to be exported to.
+[[nodiscard]] QString describeExport(const StoreError& error);
 
 } // namespace zel

@@ -41,7 +41,7 @@ Survey survey(std::string_view text) {
     Survey seen;
     if (text.starts_with("<?xml")) text.remove_prefix(std::min(text.find("?>"), text.size()));
     // Block by block, so that a large file goes through memory once and not three times.
-    constexpr std::size_t blockSize = 65536;
+    constexpr std::size_t blockSize = std::size_t{64} * 1024;
     for (; !text.empty(); text.remove_prefix(std::min(blockSize, text.size()))) {
         const std::string_view block = text.substr(0, blockSize);
         seen.hasNul = seen.hasNul || block.find('\0') != block.npos;
@@ -164,6 +164,24 @@ tl::expected<XmlDocument, QString> XmlDocument::parse(QByteArray file) {
     if (seen.hasEqualsSign && hasDoubleAttribute(document.tree))
         return tl::unexpected{qtTrId("XmlAttributeTwice")};
     return document;
+}
+
+XmlDocument XmlDocument::withChildren(std::span<const pugi::xml_node> kept) const {
+    XmlDocument copy;
+    copy.encoding = encoding;
+    for (const pugi::xml_node part : tree.children()) {
+        if (part != root()) {
+            copy.tree.append_copy(part);
+            continue;
+        }
+        pugi::xml_node element = copy.tree.append_child(part.name());
+        for (const pugi::xml_attribute attribute : part.attributes())
+            element.append_copy(attribute);
+        if (*part.value() != '\0') element.text().set(part.value()); // the parser puts the first text there
+        for (const pugi::xml_node child : kept)
+            element.append_copy(child);
+    }
+    return copy;
 }
 
 tl::expected<QByteArray, QString> XmlDocument::serialise() const {

@@ -8,6 +8,8 @@
 #include <pugixml.hpp>
 #include <tl/expected.hpp>
 
+#include <span>
+
 namespace zel {
 
 /// A parsed document with what is needed to write it back in its own encoding. Everything in it is kept:
@@ -21,6 +23,8 @@ public:
     [[nodiscard]] static tl::expected<XmlDocument, QString> parse(QByteArray file);
 
     [[nodiscard]] pugi::xml_node root() const { return tree.document_element(); }
+    /// A copy whose root holds copies of only these of its children, and its text.
+    [[nodiscard]] XmlDocument withChildren(std::span<const pugi::xml_node> kept) const;
     /// Pretty-printed, one element a line, in the document's encoding.
     [[nodiscard]] tl::expected<QByteArray, QString> serialise() const;
 

@@ -17,6 +17,16 @@ bool ScriptedPanel::AskMessage(const QString&, const QString& title) {
     return answers.value(title, true);
 }
 
+QString ScriptedChooser::chooseFolder(QWidget*, const QString& title) {
+    asked += title;
+    return folder;
+}
+
+QStringList ScriptedChooser::chooseFiles(QWidget*) {
+    asked += u"files"_s;
+    return files;
+}
+
 void TestClock::sleep(std::chrono::microseconds duration) {
     if (stands)
         QThread::msleep(1);
@@ -56,8 +66,9 @@ void AppTest::launch() {
     port->plugged = startsPlugged;
     worker = std::make_unique<MonitorWorker>(*port, clock);
     using namespace std::chrono_literals;
-    app = std::make_unique<AppController>(AppController::Parts{store, session, *worker, panel, clock},
-                                          AppController::Timing{.polling = 1ms, .splash = 1ms});
+    app =
+        std::make_unique<AppController>(AppController::Parts{store, session, *worker, panel, clock, chooser},
+                                        AppController::Timing{.polling = 1ms, .splash = 1ms});
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
 }

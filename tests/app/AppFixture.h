@@ -29,6 +29,17 @@ public:
     std::function<void()> whenShown = [] {};
 };
 
+/// Picks the folder and the files that it was told, and keeps what it was asked for.
+class ScriptedChooser final : public FileChooser {
+public:
+    QString chooseFolder(QWidget* owner, const QString& title) override;
+    QStringList chooseFiles(QWidget* owner) override;
+
+    QString folder;
+    QStringList files;
+    QStringList asked; ///< titles; "files" for files
+};
+
 /// A clock whose sleeps take no time, or that stands still, so that no deadline is ever reached.
 class TestClock final : public Clock {
 public:
@@ -90,6 +101,7 @@ protected:
     TestClock clock;
     SimulatedMonitorPlan plan;
     ScriptedPanel panel;
+    ScriptedChooser chooser;
     DataStore store;
     MonitorSession session;
     std::unique_ptr<SimulatedMonitor> device;

@@ -48,7 +48,8 @@ TEST_F(PollingTest, asksOnceWhenTheClockCannotBeSet) {
     plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::setDate}};
     start();
     waitFor([this] { return panel.messages.size() == 2 && !session.isBusy(); });
-    EXPECT_TRUE(panel.messages.first().contains(qtTrId("clockNotSet").arg(describe(MonitorResult::timeOut))));
+    EXPECT_TRUE(panel.messages.first().contains(
+        qtTrId("clockNotSetAtGreeting").arg(describe(MonitorResult::timeOut))));
     EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockBehind").arg(qtTrId("clockMinutes", 1)));
     letPollingRun();
     EXPECT_EQ(panel.questions.size(), 1);

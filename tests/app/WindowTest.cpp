@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QIntValidator>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSignalSpy>
 
 namespace zel {
@@ -38,8 +39,9 @@ TEST_F(WindowTest, startsInOrderAndAsksTheMonitorNothingBeforeTheSplashHasGone) 
     port = std::make_unique<PluggedPort>(*device);
     worker = std::make_unique<MonitorWorker>(*port, clock);
     using namespace std::chrono_literals;
-    app = std::make_unique<AppController>(AppController::Parts{store, session, *worker, panel, clock},
-                                          AppController::Timing{.polling = 0ms, .splash = 50ms});
+    app =
+        std::make_unique<AppController>(AppController::Parts{store, session, *worker, panel, clock, chooser},
+                                        AppController::Timing{.polling = 0ms, .splash = 50ms});
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
     int openedUnderSplash = -1;
@@ -128,6 +130,17 @@ TEST(MessageBoxPanelTest, takesNoAnswerFromEsc) {
     EXPECT_FALSE(panel.AskMessage(u"text"_s, u"title"_s));
     answerWith("btnYes");
     EXPECT_TRUE(panel.AskMessage(u"text"_s, u"title"_s));
+}
+
+TEST(MessageBoxPanelTest, keepsTheButtonOfALongMessageOnTheScreen) {
+    MessageBoxPanel panel;
+    QTimer::singleShot(0, qApp, [] {
+        QWidget* box = QApplication::activeModalWidget();
+        EXPECT_LT(box->height(), box->screen()->availableSize().height());
+        EXPECT_TRUE(box->findChild<QWidget*>(u"longText"_s)->isVisible());
+        QTest::mouseClick(box->findChild<QWidget*>(u"btnOK"_s), Qt::LeftButton);
+    });
+    panel.ShowMessage(u"One file of many, each on its line\n"_s.repeated(200), u"title"_s);
 }
 
 TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {

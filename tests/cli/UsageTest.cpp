@@ -53,6 +53,14 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"readings --patient A --to 2026-2-3", "'2026-2-3'"},
         {"readings --patient A --to yesterday", "'yesterday'"},
         {"readings --patient A --from 2026-03-02 --to 2026-03-01", "after"},
+        {"export-xml", "folder to export to is missing"},
+        {"export-xml / extra", "'extra' is not expected"},
+        {"export-xml / --patient=", "--patient is missing"},
+        {"export-csv /", "--patient is missing"},
+        {"export-csv / --patient A --patient B", "more than once"},
+        {"import", "file to import is missing"},
+        {"import --force a.xml", "force"},
+        {"settings SysStandard=1", "not expected"},
     };
     for (const auto& [line, reason] : cases) {
         SCOPED_TRACE(line);
@@ -87,6 +95,7 @@ TEST(CommandLine, OpensTheWindowUnlessThereIsACommandOrAnUnknownWord) {
         {"-platform offscreen", false},
         {"monitor", true},
         {"readings --patient A", true},
+        {"export-xml DIR", true},
         {"--simulated-monitor=plan.json monitor", true},
         {"--simulated-monitor download --patient A", true},
         {"--help", true},

@@ -159,6 +159,8 @@ TEST_F(DataStoreTest, PatientsAreInsertedAfterTheLastAndUpdatedInPlace) {
     for (const QString& ID : {u"-"_s, u""_s, u"A\x01"_s, u"A\r"_s, QString{QChar{0xD800}}}) {
         EXPECT_EQ(store.saveXMLPatient(patient(ID, u"Abel"_s)).error().code, StoreErrorCode::invalidRecord);
     }
+    EXPECT_EQ(store.addXMLPatient(patient(u"A"_s, u"Other"_s)).error().code, StoreErrorCode::alreadyKnown);
+    EXPECT_FALSE(content().contains("Other"));
     EXPECT_EQ(DataStore::getPatientCount(path), 2);
     EXPECT_EQ(DataStore::getPatientCount(home.path()), 0);
 }

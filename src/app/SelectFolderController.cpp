@@ -1,0 +1,28 @@
+#include "app/SelectFolderController.h"
+
+#include "app/ImportFileDialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QStandardPaths>
+
+namespace zel {
+
+SelectFolderController::SelectFolderController()
+    : folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {}
+
+QString SelectFolderController::chooseFolder(QWidget* owner, const QString& title) {
+    if (!QDir(folder).exists()) folder = QDir::homePath();
+    // Files are shown too: the user sees what is there already.
+    QString chosen = QFileDialog::getExistingDirectory(owner, title, folder, {});
+    if (!chosen.isEmpty()) folder = chosen;
+    return chosen;
+}
+
+QStringList SelectFolderController::chooseFiles(QWidget* owner) {
+    if (!QDir(folder).exists()) folder = QDir::homePath();
+    ImportFileDialog dialog(*this, folder, owner);
+    return dialog.exec() == QDialog::Accepted ? dialog.chosenFiles() : QStringList();
+}
+
+} // namespace zel

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "store/SettingModel.h"
+
+#include <QWidget>
+
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QVBoxLayout;
+class QValidator;
+
+namespace zel {
+
+/// The controls that are each bound to one setting, and nothing of what is done with them.
+class SettingForm final : public QWidget {
+    Q_OBJECT
+public:
+    explicit SettingForm(QWidget* parent = nullptr);
+
+    /// Shows \p setting in every control.
+    void fill(const SettingModel& setting);
+    /// Takes every control over into \p setting.
+    void store(SettingModel& setting) const;
+    /// Has the first control take the keys.
+    void begin();
+
+    /// Selects the first entry that reads \p text.
+    /// \return its index; -1, and the selection stays as it was, when there is none
+    static int setSelectItem(QComboBox& list, const QString& text);
+
+    /// Where what else belongs to the monitor is placed.
+    [[nodiscard]] QVBoxLayout& monitorColumn() { return *monitorBox; }
+
+private:
+    void build();
+    QGroupBox* makeDisplayGroup();
+    QWidget* makeDisplayPPorMAP();
+    QGroupBox* makeLimitGroup();
+    QGroupBox* makeMonitorGroup();
+    QGroupBox* makePhysicianGroup();
+    void standardCheckChanged(bool checked);
+    void standardChaged(); // spelled so in the interface
+
+    QComboBox* dateFormate; // these three are spelled so in the interface
+    QComboBox* timeFormate;
+    QComboBox* metricFormate;
+    QCheckBox* eraseMeasures;
+    QButtonGroup* displayPPorMAP;
+    QCheckBox* useWHOStandard;
+    QLineEdit* sys;
+    QLineEdit* dia;
+    QPlainTextEdit* physisian;  // spelled so in the interface
+    QValidator* numberFormater; // spelled so in the interface
+    QVBoxLayout* monitorBox = nullptr;
+};
+
+} // namespace zel

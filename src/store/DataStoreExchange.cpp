@@ -1,0 +1,69 @@
+// Patients out of the data file and into it.
+
+#include "store/DataStore.h"
+#include "store/Log.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString csvText(const PatientModel& patient, const ReadingList& readings, const SettingModel& settings,
+                const QString& target) {
+    QString text = u'\n' + patient.exportCSV(settings) + u'\n';
+    text += u"date,time,sys(mmHg),dia(mmHg),pulse(P/min),map,mam,%1,\n"_s.arg(target);
+    for (const ReadingModel& reading : readings)
+        text += reading.exportCSV(settings);
+    return text + u'\n';
+}
+
+/// The data file itself is at fault, not a record in it.
+bool isReadingError(const StoreError& error) {
+    return error.code == StoreErrorCode::notReadable || error.code == StoreErrorCode::notParsed;
+}
+
+} // namespace
+
+tl::expected<PatientExport, StoreError> DataStore::beginExport() const {
+    auto document = file.read();
+    if (!document) {
+        qCWarning(lcStore, "_export  create xml doc failed");
+        return tl::unexpected{document.error()};
+    }
+    return PatientExport{std::move(*document), file.getZELXMLPath()};
+}
+
+StoreResult DataStore::exportCSV(const QString& folder, const QString& ID, Replace replace) const {
+    const PatientModel* patient = getPatientByID(ID);
+    if (!patient) return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
+    const QString text =
+        csvText(*patient, records.readingsOf(ID), records.gSettingModel, file.getTargetString());
+    return writeExport(exportPath(folder, ID, u".csv"_s), text.toUtf8(), replace, file.getZELXMLPath())
+        .and_then([&folder] { return flushExports(folder); });
+}
+
+tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& path) {
+    const auto imported = readImport(path);
+    if (!imported) return tl::unexpected{imported.error()};
+    if (const auto fault = importFault(imported->root(), path)) return tl::unexpected{*fault};
+    ImportCounts counts;
+    QString known;
+    // Checked against the file as it is at the write: another program may have added the patient.
+    const StoreResult stored = file.edit([&](pugi::xml_node root) {
+        known = knownPatient(root, imported->root());
+        if (!known.isNull()) return DataFile::Edit::unchanged;
+        counts = importRecords(root, imported->root());
+        return DataFile::Edit::changed;
+    });
+    if (!stored) {
+        if (isReadingError(stored.error())) qCWarning(lcStore, "import  create xml doc failed");
+        return tl::unexpected{
+            ImportRefusal{ImportRefusalCode::notStored, path, {}, describe(stored.error())}};
+    }
+    if (!known.isNull())
+        return tl::unexpected{ImportRefusal{ImportRefusalCode::alreadyKnown, path, known, {}}};
+    return counts;
+}
+
+} // namespace zel

@@ -1,0 +1,118 @@
+#include "store/ExportFile.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestName = 255; // bytes, of every common file system
+
+bool isHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F'); }
+
+/// "%" stays as it is unless what follows would make an escape, or the mark of a digest, of it.
+bool beginsEscape(QByteArrayView text) {
+    return text.size() > 1
+           && (text[1] == '~' || (text.size() > 2 && isHexDigit(text[1]) && isHexDigit(text[2])));
+}
+
+bool cannotStand(QByteArrayView text) {
+    const char c = text.front();
+    return c == '/' || (c >= 0 && c < ' ') || c == '\x7F' || (c == '%' && beginsEscape(text));
+}
+
+QByteArray escaped(char c) { return '%' + QByteArray{1, c}.toHex().toUpper(); }
+
+QByteArray escapedName(const QByteArray& ID) {
+    if (ID.isEmpty()) return "%";
+    if (ID == "." || ID == "..") return escaped('.').repeated(ID.size());
+    QByteArray name;
+    for (qsizetype i = 0; i < ID.size(); ++i)
+        name += cannotStand(QByteArrayView{ID}.sliced(i)) ? escaped(ID[i]) : ID.sliced(i, 1);
+    return name;
+}
+
+/// The beginning, up to a whole character, and a digest of the ID.
+QByteArray shortened(QByteArray name, const QByteArray& ID, qsizetype longest) {
+    const QByteArray digest = "%~" + QCryptographicHash::hash(ID, QCryptographicHash::Sha256).toHex();
+    qsizetype length = longest - digest.size();
+    while (length > 0 && (static_cast<unsigned char>(name[length]) & 0xC0) == 0x80)
+        --length;
+    return name.left(length) + digest;
+}
+
+bool isSameFile(const QFileInfo& one, const QFileInfo& other) {
+    return one.exists() && one.canonicalFilePath() == other.canonicalFilePath();
+}
+
+tl::unexpected<StoreError> refused(StoreErrorCode code, const QString& path, const QString& detail = {}) {
+    return tl::unexpected{StoreError{code, path, detail}};
+}
+
+tl::unexpected<StoreError> systemRefused(StoreErrorCode code, const QString& path) {
+    return refused(code, path, QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+bool writeWhole(QTemporaryFile& file, const QByteArray& content) {
+    return file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError
+           && file.size() == content.size();
+}
+
+/// Written beside its place and renamed, which replaces what is there at once. The temporary name is short,
+/// since the file's own may be as long as a name can be.
+StoreResult place(const QString& path, const QByteArray& content) {
+    QTemporaryFile file{QFileInfo{path}.path() + u"/.zel-XXXXXX"_s};
+    if (!file.open()) return refused(StoreErrorCode::notWritable, path, file.errorString());
+    if (!writeWhole(file, content)) return refused(StoreErrorCode::writeFailed, path);
+    const QByteArray from = QFile::encodeName(file.fileName());
+    if (std::rename(from.constData(), QFile::encodeName(path).constData()) != 0)
+        return systemRefused(StoreErrorCode::writeFailed, path);
+    file.setAutoRemove(false);
+    return {};
+}
+
+} // namespace
+
+QString exportFileName(const QString& ID, const QString& extension) {
+    const QByteArray bytes = ID.toUtf8();
+    const qsizetype longest = longestName - extension.toUtf8().size();
+    QByteArray name = escapedName(bytes);
+    if (name.size() > longest) name = shortened(std::move(name), bytes, longest);
+    return QString::fromUtf8(name) + extension;
+}
+
+QString exportPath(const QString& folder, const QString& ID, const QString& extension) {
+    return folder + u'/' + exportFileName(ID, extension);
+}
+
+StoreResult writeExport(const QString& path, const QByteArray& content, Replace replace,
+                        const QString& dataFile) {
+    const QFileInfo file{path};
+    if (isSameFile(file, QFileInfo{dataFile})) return refused(StoreErrorCode::isDataFile, path);
+    const bool isThere = file.exists() || file.isSymLink();
+    if (isThere && replace == Replace::no) return refused(StoreErrorCode::alreadyExists, path);
+    return place(path, content);
+}
+
+StoreResult flushExports(const QString& folder) {
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return systemRefused(StoreErrorCode::writeFailed, folder);
+    const bool isFlushed = ::syncfs(handle) == 0;
+    StoreResult result;
+    if (!isFlushed) result = systemRefused(StoreErrorCode::writeFailed, folder);
+    ::close(handle);
+    return result;
+}
+
+} // namespace zel

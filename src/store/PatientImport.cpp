@@ -1,0 +1,132 @@
+#include "store/PatientImport.h"
+
+#include "store/DataFile.h"
+#include "store/DocumentElements.h"
+#include "store/Log.h"
+#include "store/Records.h"
+#include "store/Text.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+#include <array>
+
+namespace zel {
+
+namespace {
+
+constexpr std::array personalKinds{"Patient", "Comment", "MeasureRec"};
+
+tl::unexpected<ImportRefusal> refused(ImportRefusalCode code, const QString& path,
+                                      const QString& detail = {}) {
+    return tl::unexpected{ImportRefusal{code, path, {}, detail}};
+}
+
+QString sentence(ImportRefusalCode code) {
+    switch (code) {
+    case ImportRefusalCode::notReadable: return qtTrId("ImportNotReadable");
+    case ImportRefusalCode::tooLarge: return qtTrId("ImportTooLarge");
+    case ImportRefusalCode::noPatient: return qtTrId("ImportNoPatient");
+    case ImportRefusalCode::noID: return qtTrId("ImportNoID");
+    case ImportRefusalCode::sameIDTwice: return qtTrId("ImportSameIDTwice");
+    case ImportRefusalCode::alreadyKnown: return qtTrId("ImportAlreadyKnown");
+    case ImportRefusalCode::notStored: return qtTrId("ImportNotStored");
+    }
+    return {};
+}
+
+/// Copies all elements of one kind behind the last of their kind, or to the end where there is none.
+/// \return the copies
+std::vector<pugi::xml_node> importNodes(const char* kind, pugi::xml_node data, pugi::xml_node imported) {
+    std::vector<pugi::xml_node> copies;
+    pugi::xml_node last = lastElement(data, kind);
+    for (const pugi::xml_node node : imported.children()) {
+        if (!isElement(node, kind)) continue;
+        last = last ? data.insert_copy_after(node, last) : data.append_copy(node);
+        copies.push_back(last);
+    }
+    return copies;
+}
+
+/// Gives those of the \p copies a number of their own that have another comment's.
+void renumber(const std::vector<pugi::xml_node>& copies, QSet<QString> taken) {
+    constexpr auto kind = Records::Counter::comment;
+    Records counters;
+    for (const QString& number : taken)
+        counters.countID(kind, number);
+    for (const pugi::xml_node copy : copies)
+        counters.countID(kind, elementText(copy.child("CommentID")));
+    for (const pugi::xml_node copy : copies) {
+        QString number = elementText(copy.child("CommentID"));
+        if (taken.contains(number)) {
+            number = counters.getMaxID(kind);
+            counters.countID(kind, number);
+            setElementText(copy.child("CommentID"), number);
+        }
+        taken.insert(number);
+    }
+}
+
+QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) {
+    QSet<QString> texts;
+    for (const pugi::xml_node node : root.children())
+        if (isElement(node, kind)) texts.insert(elementText(node.child(child)));
+    return texts;
+}
+
+} // namespace
+
+QString describe(const ImportRefusal& refusal) {
+    const bool namesPatient = !refusal.ID.isNull();
+    const QString words = sentence(refusal.code);
+    const QString text = namesPatient ? words.arg(refusal.path, refusal.ID) : words.arg(refusal.path);
+    return refusal.detail.isEmpty() ? text : text + u'\n' + refusal.detail;
+}
+
+tl::expected<XmlDocument, ImportRefusal> readImport(const QString& path) {
+    const QFileInfo file{path};
+    // A pipe or a device has no end to wait for.
+    if (file.exists() && !file.isFile())
+        return refused(ImportRefusalCode::notReadable, path, qtTrId("ImportNoFile"));
+    if (file.size() > largestImport) return refused(ImportRefusalCode::tooLarge, path);
+    auto document = DataFile::readDocument(path);
+    if (document) return std::move(*document);
+    qCDebug(lcStore, "load xml for %s error", qUtf8Printable(path));
+    return refused(ImportRefusalCode::notReadable, path, document.error().detail);
+}
+
+std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString& path) {
+    QSet<QString> IDs;
+    for (const pugi::xml_node node : imported.children()) {
+        if (!isElement(node, "Patient")) continue;
+        const QString ID = elementText(node.child("ID"));
+        if (IsEmptyID(ID)) return ImportRefusal{ImportRefusalCode::noID, path, {}, {}};
+        if (IDs.contains(ID)) return ImportRefusal{ImportRefusalCode::sameIDTwice, path, ID, {}};
+        IDs.insert(ID);
+    }
+    qCDebug(lcStore, "itemNodes = %lld", static_cast<long long>(IDs.size()));
+    if (IDs.isEmpty()) return ImportRefusal{ImportRefusalCode::noPatient, path, {}, {}};
+    return std::nullopt;
+}
+
+QString knownPatient(pugi::xml_node data, pugi::xml_node imported) {
+    const QSet<QString> known = textsOf(data, "Patient", "ID");
+    for (const char* kind : personalKinds) {
+        for (const QString& ID : textsOf(imported, kind, "ID"))
+            if (known.contains(ID)) return ID;
+    }
+    return {};
+}
+
+ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported) {
+    const QSet<QString> commentNumbers = textsOf(data, "Comment", "CommentID");
+    ImportCounts counts;
+    counts.patients = importNodes("Patient", data, imported).size();
+    const auto comments = importNodes("Comment", data, imported);
+    renumber(comments, commentNumbers);
+    counts.comments = comments.size();
+    counts.readings = importNodes("MeasureRec", data, imported).size();
+    return counts;
+}
+
+} // namespace zel

@@ -1,0 +1,64 @@
+#pragma once
+// Patients from an exported file into the data file.
+
+#include "store/StoreError.h"
+#include "store/XmlDocument.h"
+
+#include <QString>
+
+#include <tl/expected.hpp>
+
+#include <cstddef>
+#include <optional>
+
+namespace zel {
+
+enum class ImportRefusalCode {
+    notReadable,  ///< the file cannot be read, or is no XML of this program; detail says why
+    tooLarge,     ///< above largestImport
+    noPatient,    ///< there is no patient in it
+    noID,         ///< a patient in it has no ID
+    sameIDTwice,  ///< two patients in it have the same ID
+    alreadyKnown, ///< a patient of the list has the ID
+    notStored,    ///< the data file could not be read or written; detail says why
+};
+
+/// Why a file was not imported. Nothing of it was taken.
+struct ImportRefusal {
+    ImportRefusalCode code;
+    QString path;   ///< the file
+    QString ID;     ///< the patient's, for sameIDTwice and alreadyKnown
+    QString detail; ///< words for the user; may be empty
+
+    bool operator==(const ImportRefusal&) const = default;
+};
+
+/// The refusal in plain words for the user, from the translation table; names the file.
+[[nodiscard]] QString describe(const ImportRefusal& refusal);
+
+/// How much of each kind was taken.
+struct ImportCounts {
+    std::size_t patients = 0;
+    std::size_t readings = 0;
+    std::size_t comments = 0;
+};
+
+/// The largest file that is read, in bytes.
+inline constexpr qint64 largestImport = qint64{1} << 30;
+
+// The steps of DataStore::importXml().
+
+[[nodiscard]] tl::expected<XmlDocument, ImportRefusal> readImport(const QString& path);
+
+/// What is wrong with the patients of the document read from \p path, if anything.
+[[nodiscard]] std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString& path);
+
+/// An ID of the \p imported records, also of readings and comments without their patient, that a patient of
+/// \p data has; null if there is none.
+[[nodiscard]] QString knownPatient(pugi::xml_node data, pugi::xml_node imported);
+
+/// Copies patients, comments and readings, each kind after the last of its kind. They stay as they are, but
+/// that a comment whose number is taken gets a new one, since comments are found by their numbers.
+ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported);
+
+} // namespace zel

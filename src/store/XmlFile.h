@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+namespace zel {
+
+/// A file as the chooser of files to import lists it.
+struct XmlFile {
+    QString FullPath;
+    QString sFileName;            ///< last part of the path
+    std::uint32_t measureRec = 0; ///< how many readings are in it
+    std::uint32_t comment = 0;    ///< how many comments are in it
+    /// The day on which it was made, or last changed where the file system does not tell, as "yyyy/MM/dd".
+    QString backupTime;
+
+    /// Reads the file if its name ends in ".xml", in this case. One that is not read, is damaged, or is too
+    /// large to be imported has its names only.
+    [[nodiscard]] static XmlFile read(const QString& path);
+    [[nodiscard]] bool isRead() const { return !backupTime.isEmpty(); }
+};
+
+} // namespace zel

@@ -1,0 +1,130 @@
+#include "cli/CliTest.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+/// Two patients, one with a reading, in a file that has a place for every setting.
+struct CliExchangeTest : CliTest {
+    QString out = folder.filePath(u"out"_s);
+
+    CliExchangeTest() {
+        QDir().mkdir(out);
+        addPatient(u"A1"_s);
+        addPatient(u"B/2"_s);
+        plug(planM1);
+        EXPECT_EQ(zel({u"download"_s, u"--patient"_s, u"A1"_s, u"--any-monitor"_s}).status, 0);
+    }
+    [[nodiscard]] std::string line(const QString& name) const {
+        return (u"written: "_s + out + u'/' + name + u'\n').toStdString();
+    }
+};
+
+TEST_F(CliExchangeTest, PatientsGoOutAndComeBack) {
+    const Outcome exported = zel({u"export-xml"_s, out});
+    EXPECT_EQ(exported.status, 0);
+    EXPECT_EQ(exported.out, line(u"A1.xml"_s) + line(u"B%2F2.xml"_s));
+    const std::string readings = zel({u"readings"_s, u"--patient"_s, u"A1"_s}).out;
+    EXPECT_THAT(readings, HasSubstr("\n2026-11-02,19:30,120,80,"));
+
+    const QStringList import{u"import"_s, out + u"/A1.xml"_s, out + u"/B%2F2.xml"_s, u"nowhere.xml"_s};
+    const QByteArray before = data();
+    const Outcome known = zel(import);
+    EXPECT_EQ(known.status, 1);
+    EXPECT_EQ(known.out, "taken: 0\nrefused: 3\npatients: 0\nreadings: 0\ncomments: 0\n");
+    EXPECT_THAT(known.err, HasSubstr("A1.xml: a patient with the ID “A1” is already"));
+    EXPECT_THAT(known.err, HasSubstr("“B/2”"));
+    EXPECT_THAT(known.err, HasSubstr("nowhere.xml: the file cannot be read"));
+    EXPECT_EQ(data(), before);
+
+    QFile::remove(dataFile());
+    const Outcome taken = zel(import);
+    EXPECT_EQ(taken.status, 1);
+    EXPECT_EQ(taken.out, "taken: 2\nrefused: 1\npatients: 2\nreadings: 4\ncomments: 0\n");
+    EXPECT_EQ(zel({u"readings"_s, u"--patient"_s, u"A1"_s}).out, readings);
+}
+
+TEST_F(CliExchangeTest, FilesThatAreThereAreKeptUnlessForced) {
+    QFile old(out + u"/A1.xml"_s);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    const Outcome kept = zel({u"export-xml"_s, out});
+    EXPECT_EQ(kept.status, 1);
+    EXPECT_EQ(kept.out, line(u"B%2F2.xml"_s));
+    EXPECT_THAT(kept.err, StartsWith("zel export-xml: There is a file " + old.fileName().toStdString()));
+    EXPECT_THAT(kept.err, HasSubstr("--force"));
+    EXPECT_EQ(old.size(), 0);
+
+    const Outcome forced = zel({u"export-xml"_s, out, u"--patient"_s, u"A1"_s, u"--force"_s});
+    EXPECT_EQ(forced.out, line(u"A1.xml"_s));
+    EXPECT_GT(QFile(old.fileName()).size(), 0);
+
+    const QStringList csv{u"export-csv"_s, out, u"--patient"_s, u"A1"_s};
+    EXPECT_EQ(zel(csv).out, line(u"A1.csv"_s));
+    EXPECT_EQ(zel(csv).status, 1);
+    EXPECT_EQ(zel(csv + QStringList(u"--force"_s)).status, 0);
+}
+
+TEST_F(CliExchangeTest, ExportNeedsAPatientAndAFolder) {
+    for (const QString& command : {u"export-xml"_s, u"export-csv"_s}) {
+        const Outcome patient = zel({command, out, u"--patient"_s, u"nobody"_s});
+        EXPECT_EQ(patient.status, 1);
+        EXPECT_THAT(patient.err, HasSubstr("'nobody'"));
+        const Outcome place = zel({command, out + u"/none"_s, u"--patient"_s, u"A1"_s});
+        EXPECT_EQ(place.status, 1);
+        EXPECT_THAT(place.err, HasSubstr("no folder"));
+    }
+    EXPECT_TRUE(QDir(out).isEmpty());
+}
+
+TEST_F(CliExchangeTest, SettingsAreShownAndChangedAllOrNone) {
+    const Outcome before = zel({u"settings"_s});
+    EXPECT_EQ(before.out, "DateFormat: dd mm yyyy\nTimeFormat: 12-hours\nMetricFormat: lb / in\n"
+                          "EraseRecAfterReading: 1\nShowPPorMap: 0\nUserWhoStandard: 1\nSysStandard: 140\n"
+                          "DiaStandard: 90\nPhysicianAddress: Practitioner (Physician)\\nPractice\\n"
+                          "Street address\\nZip Code and City\\nPhone\\nEmail Address\n");
+    const auto set = [this](const QStringList& values) {
+        QStringList words{u"settings"_s};
+        for (const QString& value : values)
+            words += {u"--set"_s, value};
+        return zel(words);
+    };
+    const std::pair<QStringList, const char*> refused[] = {
+        {{u"SysStandard=120"_s, u"DiaStandard=1000"_s}, "DiaStandard takes a whole number from 0 to 999"},
+        {{u"MetricFormat=stone"_s}, "“kg / cm”, “lb / in”, not 'stone'"},
+        {{u"sysStandard=120"_s}, "no setting 'sysStandard'"},
+        {{u"SysStandard"_s}, "KEY=VALUE"},
+        {{u"SysStandard=120"_s, u"SysStandard=130"_s}, "more than once"},
+    };
+    for (const auto& [values, reason] : refused) {
+        const Outcome outcome = set(values);
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_THAT(outcome.err, HasSubstr(reason));
+    }
+    EXPECT_EQ(zel({u"settings"_s}).out, before.out);
+
+    EXPECT_EQ(set({u"SysStandard=007"_s, u"PhysicianAddress=A=B\\\\C\\nD\\x"_s}).out,
+              "SysStandard: 7\nPhysicianAddress: A=B\\\\C\\nD\\\\x\n");
+    EXPECT_TRUE(data().contains("A=B\\C\nD\\x<"));
+}
+
+TEST_F(CliExchangeTest, SettingThatTheFileHasNoPlaceForIsToldAndNoneIsChanged) {
+    const QByteArray old = "<ZEL>\n    <SystemSetting>\n        <SysStandard>150</SysStandard>\n"
+                           "    </SystemSetting>\n</ZEL>\n";
+    setData(old);
+    const Outcome outcome =
+        zel({u"settings"_s, u"--set"_s, u"SysStandard=130"_s, u"--set"_s, u"DiaStandard=80"_s});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.err, HasSubstr("no place for the setting DiaStandard"));
+    EXPECT_EQ(data(), old);
+}
+
+} // namespace
+
+} // namespace zel

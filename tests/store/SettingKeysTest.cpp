@@ -1,0 +1,46 @@
+#include "store/SettingKeys.h"
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(SettingKeys, TakeWhatAControlCouldStore) {
+    struct Case {
+        const char* key;
+        QStringList taken;
+        QStringList refused;
+    };
+    const Case cases[] = {
+        {"DateFormat", {u"dd mm yyyy"_s, u"mm dd yyyy"_s, u"yyyy mm dd"_s}, {u"yyyy dd mm"_s, u""_s}},
+        {"TimeFormat", {u"12-hours"_s, u"24-hours"_s}, {u"24"_s}},
+        {"MetricFormat", {u"kg / cm"_s, u"lb / in"_s}, {u"kg/cm"_s}},
+        {"EraseRecAfterReading", {u"0"_s, u"1"_s}, {u"2"_s, u"-1"_s, u"yes"_s, u""_s}},
+        {"ShowPPorMap", {u"0"_s, u"1"_s}, {u"2"_s}},
+        {"UserWhoStandard", {u"0"_s, u"1"_s}, {u"2"_s}},
+        {"SysStandard", {u"0"_s, u"999"_s}, {u"1000"_s, u"-1"_s, u"+1"_s, u" 1"_s, u"1.5"_s, u"١"_s, u""_s}},
+        {"DiaStandard", {u"0"_s, u"999"_s}, {u"1000"_s, u"9 9"_s}},
+        {"PhysicianAddress", {u""_s, u" Dr. A\n\tB \"C\" 😀\n"_s}, {u"a\rb"_s, u"a\x1B[m"_s}},
+    };
+    ASSERT_EQ(settingKeys().size(), std::size(cases));
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.key);
+        const SettingKey* key = settingKey(QString::fromLatin1(one.key));
+        ASSERT_TRUE(key);
+        SettingModel setting = SettingModel::initWithDefault();
+        for (const QString& text : one.taken) {
+            EXPECT_TRUE(key->set(setting, text)) << text.toStdString();
+            EXPECT_EQ(key->text(setting), text);
+        }
+        const SettingModel before = setting;
+        for (const QString& text : one.refused)
+            EXPECT_FALSE(key->set(setting, text)) << text.toStdString();
+        EXPECT_EQ(setting, before);
+    }
+    EXPECT_FALSE(settingKey(u"dateFormat"_s));
+}
+
+} // namespace
+} // namespace zel
