@@ -7,6 +7,7 @@
     <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
     <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>
     <message id="ExportNotWritten"><translation>The file %1 could not be written. Please check that the folder is there, that you may write in it, and that the disk is not full.</translation></message>
+    <message id="ExportSameFileName"><translation>The file %1 was not written: this disk takes its name for the one of the file just written for the patient below. Please export to a disk that tells capital letters from small ones.</translation></message>
     <message id="Female"><translation>Female</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: a patient with the ID “%2” is already in the list. Patients are never overwritten, so nothing was taken from the file.</translation></message>
     <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
@@ -159,6 +160,7 @@ mmHg</translation></message>
     <message id="exporting"><translation>Exporting patients</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n file that was there already was left as it was.</numerusform><numerusform>%n files that were there already were left as they were.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>%n file was written to the folder %1.</numerusform><numerusform>%n files were written to the folder %1.</numerusform></translation></message>
+    <message id="exportNobody"><translation>There is no patient to export yet. Add a patient or import one first.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>The folder %1 already holds the file %2. Replace it? With “No” it stays as it is.</numerusform><numerusform>The folder %1 already holds %n of the files (%2). Replace them? With “No” they stay as they are, and only the others are written.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Replace files?</translation></message>
     <message id="ExportTitle"><translation>Export</translation></message>

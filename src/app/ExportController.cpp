@@ -49,6 +49,8 @@ ExportController::ExportController(const Parts& needed, QWidget* over)
     : QObject(over), parts(needed), window(over), progress(new StepProgress(u"exportProgress"_s, over)) {}
 
 void ExportController::exportFiles() {
+    if (parts.store.getPatientArray().empty())
+        return parts.panel.ShowMessage(qtTrId("exportNobody"), qtTrId("ExportTitle"));
     const QString folder = parts.chooser.chooseFolder(window, qtTrId("exportFolder"));
     if (folder.isEmpty()) return;
     auto patients = parts.store.beginExport();

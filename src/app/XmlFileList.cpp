@@ -1,41 +1,15 @@
 #include "app/XmlFileList.h"
 
 #include <QDir>
-#include <QPromise>
-#include <QThreadPool>
-
-#include <memory>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The last part of the work is to end the promise, so nothing of it outlives its reader for long.
-void readFiles(QPromise<XmlFile>& promise, const QStringList& paths) {
-    promise.start();
-    for (const QString& path : paths) {
-        if (promise.isCanceled()) break;
-        promise.addResult(XmlFile::read(path));
-    }
-    promise.finish();
-}
-
-} // namespace
-
-XmlFileList::XmlFileList(QObject* parent) : QAbstractTableModel(parent) {
-    connect(&reader, &QFutureWatcherBase::resultReadyAt, this, &XmlFileList::fileRead);
-    connect(&reader, &QFutureWatcherBase::finished, this, [this] {
-        reading = false;
-        emit allRead();
-    });
-}
-
-XmlFileList::~XmlFileList() { reader.cancel(); }
+XmlFileList::XmlFileList(QObject* parent) : QAbstractTableModel(parent) {}
 
 void XmlFileList::setFolder(const QString& folder) {
-    reader.cancel();
+    reader.reset();
     beginResetModel();
     rows.clear();
     QStringList paths;
@@ -53,15 +27,21 @@ void XmlFileList::setFolder(const QString& folder) {
 }
 
 void XmlFileList::read(const QStringList& paths) {
-    auto promise = std::make_shared<QPromise<XmlFile>>();
     reading = true;
-    reader.setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, paths] { readFiles(*promise, paths); });
+    reader = std::make_unique<Reader>();
+    reader->thread = std::jthread([this, &calls = reader->calls, paths](const std::stop_token& stop) {
+        for (int row = 0; row < paths.size() && !stop.stop_requested(); ++row)
+            calls.post([this, row, file = XmlFile::read(paths.at(row))] { fileRead(row, file); });
+        calls.post([this] {
+            reading = false;
+            emit allRead();
+        });
+    });
 }
 
-void XmlFileList::fileRead(int row) {
+void XmlFileList::fileRead(int row, const XmlFile& file) {
     Row& changed = rows.at(static_cast<std::size_t>(row));
-    changed.file = reader.resultAt(row);
+    changed.file = file;
     changed.isRead = true;
     emit dataChanged(index(row, 0), index(row, columnTotal - 1));
 }

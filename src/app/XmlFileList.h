@@ -1,10 +1,12 @@
 #pragma once
 
+#include "app/CallQueue.h"
 #include "store/XmlFile.h"
 
 #include <QAbstractTableModel>
-#include <QFutureWatcher>
 
+#include <memory>
+#include <thread>
 #include <vector>
 
 namespace zel {
@@ -15,7 +17,6 @@ class XmlFileList final : public QAbstractTableModel {
     Q_OBJECT
 public:
     explicit XmlFileList(QObject* parent = nullptr);
-    ~XmlFileList() override;
 
     /// Lists the files of another folder, none of them chosen.
     void setFolder(const QString& folder);
@@ -43,13 +44,19 @@ private:
         bool isRead = false; ///< its turn has come, whether or not the file could be read
         bool isChosen = false;
     };
+    /// Reads one folder's files. When it goes, it first waits for the file in its hands; what it handed over
+    /// and was not taken goes with it.
+    struct Reader {
+        CallQueue calls;
+        std::jthread thread;
+    };
     void read(const QStringList& paths);
-    void fileRead(int row);
+    void fileRead(int row, const XmlFile& file);
     [[nodiscard]] QString text(const Row& row, Column column) const;
 
     std::vector<Row> rows;
-    QFutureWatcher<XmlFile> reader;
     bool reading = false;
+    std::unique_ptr<Reader> reader;
 };
 
 } // namespace zel

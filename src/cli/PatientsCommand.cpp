@@ -60,10 +60,10 @@ CommandResult add(const Request& request, Surroundings& around) {
     if (!patient) return tl::unexpected(patient.error());
     const OpenedStore store = openStoreForWriting(around);
     if (!store) return tl::unexpected(store.error());
-    if ((*store)->validIDinXML(patient->ID)) return failed(qtTrId("CliPatientKnown").arg(patient->ID));
-    if (const StoreResult saved = (*store)->saveXMLPatient(*patient); !saved)
-        return failed(describe(saved.error()));
-    return {};
+    const StoreResult added = (*store)->addXMLPatient(*patient);
+    if (added) return {};
+    const bool isKnown = added.error().code == StoreErrorCode::alreadyKnown;
+    return failed(isKnown ? qtTrId("CliPatientKnown").arg(patient->ID) : describe(added.error()));
 }
 
 CommandResult runPatients(const Request& request, Surroundings& around) {

@@ -25,8 +25,9 @@ public:
 
     /// Writes the data file's whole content without other patients' Patient, Comment and MeasureRec elements
     /// as exportPath(folder, ID, ".xml"). Settings and the log of downloads stay, also other patients'.
-    /// \return noSuchRecord for an ID that is not in the file; alreadyExists, isDataFile, notWritable or
-    /// writeFailed with the file's path
+    /// Never replaces a file of this export: IDs that differ in their case only have one file on some disks.
+    /// \return noSuchRecord for an ID that is not in the file; alreadyExists, isDataFile, sameFileName,
+    /// notWritable or writeFailed with the file's path
     [[nodiscard]] StoreResult writeXml(const QString& ID, const QString& folder, Replace replace) const;
 
     /// Waits until all that was written is on the disk. Done at the latest when the export goes; only here is
@@ -48,11 +49,20 @@ private:
         Unflushed& operator=(const Unflushed&) = delete;
         StoreResult flush();
     };
+    /// The files of this export and whose they are, by a name that is alike on every disk that takes them for
+    /// one.
+    struct WrittenFile {
+        QString ID;
+        QString path;
+    };
+    using Written = std::unordered_map<QString, WrittenFile>;
     void sort(const Child& child);
     [[nodiscard]] std::vector<pugi::xml_node> childrenFor(const std::vector<Child>& own) const;
+    [[nodiscard]] StoreResult checkName(const QString& ID, const QString& path) const;
 
     std::unique_ptr<const XmlDocument> document;
     std::unique_ptr<Unflushed> unflushed = std::make_unique<Unflushed>();
+    std::unique_ptr<Written> written = std::make_unique<Written>();
     QString dataFile;
     QStringList IDs;
     std::vector<Child> common;                                ///< in every patient's file

@@ -17,6 +17,7 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::invalidRecord: return qtTrId("StoreInvalidRecord");
     case StoreErrorCode::alreadyExists: return qtTrId("ExportAlreadyExists");
     case StoreErrorCode::isDataFile: return qtTrId("ExportIsDataFile");
+    case StoreErrorCode::sameFileName: return qtTrId("ExportSameFileName");
     }
     return {};
 }

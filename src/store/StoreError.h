@@ -18,13 +18,14 @@ enum class StoreErrorCode {
     invalidRecord, ///< the record lacks what it needs to be stored
     alreadyExists, ///< the file to write is there and may not be replaced
     isDataFile,    ///< the file to write is the data file itself
+    sameFileName,  ///< the disk takes the file for the one just written for the patient in detail
 };
 
 /// Why the store could not do what it was asked. Nothing was changed.
 struct StoreError {
     StoreErrorCode code;
     QString path;   ///< the file concerned, or the ID for the record codes
-    QString detail; ///< the parser's or the system's own words; may be empty
+    QString detail; ///< the parser's or the system's own words, or an ID; may be empty
 
     bool operator==(const StoreError&) const = default;
 };

@@ -1,10 +1,12 @@
 #include "AppFixture.h"
 
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 namespace zel {
@@ -32,6 +34,39 @@ protected:
     template <class W>
     W& exportWindow(const char* name) {
         return *find<QWidget>("exportProgress").findChild<W*>(QLatin1String(name));
+    }
+    /// One with a value of its own in every field.
+    void typePatient() {
+        click("btnNewPatient");
+        for (const auto& [field, text] : {std::pair("FamilyName", u"O'Neil \"Jo\" & <Co>"_s),
+                                          {"GivenNames", u"Zoë"_s},
+                                          {"ID", u"R 1"_s},
+                                          {"BirthYear", u"1956"_s},
+                                          {"Weight", u"160.5"_s},
+                                          {"Height", u"5'9\""_s},
+                                          {"Address", u"Street 1\nTown"_s},
+                                          {"PhoneEmail", u"+49 1 a@b"_s},
+                                          {"Cholestrol", u"201,5"_s},
+                                          {"FamilyHistory", u"none, \"really\""_s},
+                                          {"PatientNotes", u"a\n\nb"_s}}) {
+            QGuiApplication::clipboard()->setText(text); // also for what no key types here
+            page(field).setFocus();
+            press(Qt::Key_V, Qt::ControlModifier);
+        }
+        for (const char* list : {"Sex", "BirthMonth", "BirthDay", "Smoker", "Diabetic"})
+            QTest::keyClick(&page(list), Qt::Key_Down);
+        click("btnSavePatient");
+        ASSERT_TRUE(panel.messages.empty()) << qPrintable(panel.messages.join(u'|'));
+    }
+    /// The patients, readings and comments of the data file, each as it stands there; the patients last.
+    QStringList records() const {
+        const QRegularExpression record(u"\n    <(Patient|MeasureRec|Comment)>.*?\n    </\\1>"_s,
+                                        QRegularExpression::DotMatchesEverythingOption);
+        QStringList found;
+        for (const auto& match : record.globalMatch(QString::fromUtf8(dataFile())))
+            found += match.captured();
+        found.sort();
+        return found;
     }
     QString path(const QString& name) const { return outside.filePath(name); }
     void put(const QString& name, const QByteArray& content) const {
@@ -67,7 +102,12 @@ TEST_F(ExportTest, writesAFileForEachPatientAndSaysWhere) {
     EXPECT_TRUE(panel.questions.empty());
 }
 
-TEST_F(ExportTest, withoutAFolderDoesNothing) {
+TEST_F(ExportTest, withoutAPatientOrAFolderDoesNothing) {
+    open();
+    click("exportButton");
+    EXPECT_EQ(message(), qtTrId("ExportTitle") + u": "_s + qtTrId("exportNobody"));
+    EXPECT_TRUE(chooser.asked.isEmpty());
+    app.reset();
     addPatients(1);
     chooser.folder.clear();
     open();
@@ -163,6 +203,37 @@ TEST_F(ExportTest, importTellsOfEachFileAndReloadsOnce) {
     EXPECT_TRUE(told.contains(qtTrId("importedFiles", 1) + u"\nnew.xml"_s)) << qPrintable(told);
     EXPECT_TRUE(told.contains(qtTrId("importRefused", 2))) << qPrintable(told);
     EXPECT_TRUE(told.contains(u"known.xml"_s) && told.contains(u"broken.xml"_s)) << qPrintable(told);
+}
+
+TEST_F(ExportTest, aPatientTypedInExportedAndDeletedComesBackEqual) {
+    start();
+    typePatient();
+    ReadingList taken(3);
+    for (std::uint32_t i = 0; i < taken.size(); ++i) {
+        taken[i].sys = 121 + i;
+        taken[i].ReadingDate = StrToDate(u"202603011234"_s, u"yyyyMMddHHmm"_s);
+    }
+    ASSERT_EQ(store.newDataTransfer(taken).value_or(0), 3U);
+    for (const auto& words : {u"<\"one\">"_s, u"two\nlines &c"_s}) {
+        CommentModel comment;
+        comment.beginDate = comment.endDate = taken[0].ReadingDate;
+        comment.CommentID = QString::number(10001 + records().size());
+        comment.comment = words;
+        ASSERT_TRUE(store.addCommentForCurID(comment));
+    }
+    const QStringList before = records();
+    ASSERT_EQ(before.size(), 1 + 3 + 2);
+    EXPECT_FALSE(before.last().contains(QRegularExpression(u"/>|></|>0"_s))) << "every field was typed in";
+
+    click("settingBtn");
+    click("exportButton");
+    click("cancelButton");
+    click("btnDeletePatient");
+    ASSERT_TRUE(records().isEmpty());
+    chooser.files = {path(u"R 1.xml"_s)};
+    click("settingBtn");
+    click("importButton");
+    EXPECT_EQ(records().join(u'|').toStdString(), before.join(u'|').toStdString());
 }
 
 TEST_F(ExportTest, importOfNothingReloadsNothing) {

@@ -200,6 +200,7 @@ TEST(PatientFormTest, textsAreCleanedOfWhatCannotBeMeant) {
     const QString longName(10000, u'x');
     for (const auto& [field, typed, taken, text] : std::initializer_list<Case>{
              {ID, u"  P7\t"_s, u"P7"_s, &PatientModel::ID},
+             {ID, u"\"O'N\""_s, u"\"O'N\""_s, &PatientModel::ID},
              {FamilyName, u"van\nder\r\nBerg"_s, u"van der Berg"_s, &PatientModel::FamilyName},
              {FamilyName, u"A\u2028B"_s, u"A B"_s, &PatientModel::FamilyName},
              {GivenNames, u"\x07Kim\x00\x1B"_s, u"Kim"_s, &PatientModel::GivenNames},

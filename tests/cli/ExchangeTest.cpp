@@ -71,14 +71,21 @@ TEST_F(CliExchangeTest, FilesThatAreThereAreKeptUnlessForced) {
     EXPECT_EQ(zel(csv + QStringList(u"--force"_s)).status, 0);
 }
 
-TEST_F(CliExchangeTest, ExportNeedsAPatientAndAFolder) {
-    for (const QString& command : {u"export-xml"_s, u"export-csv"_s}) {
-        const Outcome patient = zel({command, out, u"--patient"_s, u"nobody"_s});
-        EXPECT_EQ(patient.status, 1);
-        EXPECT_THAT(patient.err, HasSubstr("'nobody'"));
-        const Outcome place = zel({command, out + u"/none"_s, u"--patient"_s, u"A1"_s});
-        EXPECT_EQ(place.status, 1);
-        EXPECT_THAT(place.err, HasSubstr("no folder"));
+TEST_F(CliExchangeTest, UnknownPatientOrFolderIsTold) {
+    const QString none = out + u"/none"_s;
+    const std::pair<QStringList, const char*> cases[] = {
+        {{u"readings"_s, u"--patient"_s, u"nobody"_s}, "'nobody'"},
+        {{u"download"_s, u"--patient"_s, u"nobody"_s}, "'nobody'"},
+        {{u"export-xml"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},
+        {{u"export-csv"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},
+        {{u"export-xml"_s, none, u"--patient"_s, u"A1"_s}, "no folder"},
+        {{u"export-csv"_s, none, u"--patient"_s, u"A1"_s}, "no folder"},
+    };
+    for (const auto& [command, reason] : cases) {
+        const Outcome outcome = zel(command);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, HasSubstr(reason));
     }
     EXPECT_TRUE(QDir(out).isEmpty());
 }

@@ -12,6 +12,21 @@ namespace {
 const QStringList downloadM1{u"download"_s, u"--patient"_s, u"M1"_s};
 const QStringList readingsM1{u"readings"_s, u"--patient"_s, u"M1"_s};
 
+/// With the patient whose ID the monitor holds.
+struct JobTest : CliTest {
+    JobTest() {
+        addPatient(u"M1"_s);
+        before = data();
+    }
+    void expectRefused(const Outcome& outcome, const char* reason) const {
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, HasSubstr(reason));
+        EXPECT_EQ(data(), before);
+    }
+    QByteArray before;
+};
+
 /// One monitor that is pulled out when its readings are asked for, and another in its place.
 class SwappedPort final : public MonitorPort {
 public:
@@ -36,18 +51,12 @@ private:
     bool pulled = false;
 };
 
-TEST_F(CliTest, MonitorSwappedDuringTheDownloadIsRefused) {
-    addPatient(u"M1"_s);
-    const QByteArray before = data();
+TEST_F(JobTest, MonitorSwappedDuringTheDownloadIsRefused) {
     plug(std::make_unique<SwappedPort>(monitor(planM1), monitor(QByteArray(planM1).replace("M1", "M2"))));
-    const Outcome outcome = zel(downloadM1);
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_THAT(outcome.err, HasSubstr("another monitor"));
-    EXPECT_EQ(data(), before);
+    expectRefused(zel(downloadM1), "another monitor");
 }
 
-TEST_F(CliTest, ReadingsWhoseDateIsNoneAreUndated) {
-    addPatient(u"M1"_s);
+TEST_F(JobTest, ReadingsWhoseDateIsNoneAreUndated) {
     const QByteArray plan =
         R"({"model": "37", "id": "M1", "records": [{"raw": "zz13450000c000000481407800000000"}]})";
     ASSERT_EQ(zelWith(plan, downloadM1).out, "downloaded: 1\nnew: 1\n");
@@ -55,8 +64,7 @@ TEST_F(CliTest, ReadingsWhoseDateIsNoneAreUndated) {
     EXPECT_THAT(zel(readingsM1 + QStringList{u"--to=2026-11-03"_s}).out, testing::Not(HasSubstr("n.a")));
 }
 
-TEST_F(CliTest, WholeJobFromMonitorToReadings) {
-    addPatient(u"M1"_s);
+TEST_F(JobTest, WholeJobFromMonitorToReadings) {
     const Outcome download = zelWith(planM1, downloadM1);
     EXPECT_EQ(download.status, 0) << download.err;
     EXPECT_EQ(download.out, "downloaded: 4\nnew: 4\n");
@@ -67,52 +75,49 @@ TEST_F(CliTest, WholeJobFromMonitorToReadings) {
                                    "2026-11-02,19:30,120,80,66,93,40,No,No\n"
                                    "2026-11-03,06:59,99,60,102,73,39,No,No\n");
 
-    const QByteArray before = data();
+    before = data();
     EXPECT_EQ(zelWith(planM1, downloadM1).out, "downloaded: 4\nnew: 0\n");
     EXPECT_EQ(data(), before);
 }
 
-TEST_F(CliTest, ReadingsOfAPeriodAreSortedByTheirDates) {
-    addPatient(u"M1"_s);
+TEST_F(JobTest, ReadingsOfAPeriodAreSortedByTheirDates) {
     const QByteArray later =
         R"({"model": "37", "id": "M1", "records": [{"time": "2026-11-05T10:00", "sys": 130, "dia": 70, "pulse": 50}]})";
     ASSERT_EQ(zelWith(later, downloadM1).out, "downloaded: 1\nnew: 1\n");
     ASSERT_EQ(zelWith(planM1, downloadM1).out, "downloaded: 4\nnew: 4\n");
-    const auto days = [this](const QStringList& period) {
+    const std::pair<QStringList, const char*> cases[] = {
+        {{}, ".a 02 02 03 05"},
+        {{u"--from"_s, u"2026-11-03"_s}, "03 05"},
+        {{u"--to"_s, u"2026-11-03"_s}, "02 02 03"},
+        {{u"--from=2026-11-03"_s, u"--to=2026-11-03"_s}, "03"},
+        {{u"--from=2027-01-01"_s}, ""},
+    };
+    for (const auto& [period, days] : cases) {
         QStringList found;
         for (const QString& line :
              QString::fromStdString(zel(readingsM1 + period).out).split(u'\n', Qt::SkipEmptyParts).mid(1))
             found += line.section(u',', 0, 0).right(2);
-        return found.join(u' ').toStdString();
-    };
-    EXPECT_EQ(days({}), ".a 02 02 03 05");
-    EXPECT_EQ(days({u"--from"_s, u"2026-11-03"_s}), "03 05");
-    EXPECT_EQ(days({u"--to"_s, u"2026-11-03"_s}), "02 02 03");
-    EXPECT_EQ(days({u"--from=2026-11-03"_s, u"--to=2026-11-03"_s}), "03");
-    EXPECT_EQ(days({u"--from=2027-01-01"_s}), "");
+        EXPECT_EQ(found.join(u' ').toStdString(), days);
+    }
 }
 
-TEST_F(CliTest, AnotherPatientsMonitorIsRefusedUnlessAskedFor) {
+TEST_F(JobTest, AnotherPatientsMonitorIsRefusedUnlessAskedFor) {
     addPatient(u"P9"_s);
+    before = data();
     plug(planM1);
-    const QByteArray before = data();
-    const Outcome refused = zel({u"download"_s, u"--patient"_s, u"P9"_s});
-    EXPECT_EQ(refused.status, 1);
-    EXPECT_THAT(refused.err,
-                testing::AllOf(HasSubstr("'M1'"), HasSubstr("'P9'"), HasSubstr("--any-monitor")));
-    EXPECT_EQ(data(), before);
+    const QStringList download{u"download"_s, u"--patient"_s, u"P9"_s};
+    for (const char* word : {"'M1'", "'P9'", "--any-monitor"})
+        expectRefused(zel(download), word);
 
-    EXPECT_EQ(zel({u"download"_s, u"--patient"_s, u"P9"_s, u"--any-monitor"_s}).out,
-              "downloaded: 4\nnew: 4\n");
+    EXPECT_EQ(zel(download + QStringList(u"--any-monitor"_s)).out, "downloaded: 4\nnew: 4\n");
     EXPECT_THAT(zel({u"monitor"_s}).out, testing::AllOf(HasSubstr("id: M1\n"), HasSubstr("readings: 0\n")))
         << "emptied, and still the other's";
 
     plug(QByteArray(planM1).replace("\"M1\"", "\"\""));
-    EXPECT_THAT(zel({u"download"_s, u"--patient"_s, u"P9"_s}).err, HasSubstr("holds no ID"));
+    EXPECT_THAT(zel(download).err, HasSubstr("holds no ID"));
 }
 
-TEST_F(CliTest, MonitorIsEmptiedOnlyWhenTheSettingsSaySo) {
-    addPatient(u"M1"_s);
+TEST_F(JobTest, MonitorIsEmptiedOnlyWhenTheSettingsSaySo) {
     plug(planM1);
     QByteArray kept = data();
     ASSERT_NE(kept.indexOf("<EraseRecAfterReading>1<"), -1);
@@ -124,8 +129,7 @@ TEST_F(CliTest, MonitorIsEmptiedOnlyWhenTheSettingsSaySo) {
     EXPECT_THAT(zel({u"monitor"_s}).out, HasSubstr("readings: 0\n"));
 }
 
-TEST_F(CliTest, FailedEraseIsToldAndTheReadingsAreKept) {
-    addPatient(u"M1"_s);
+TEST_F(JobTest, FailedEraseIsToldAndTheReadingsAreKept) {
     const QByteArray plan =
         planM1.chopped(1) + R"(, "faults": [{"kind": "wrongAcknowledgement", "command": "#"}]})";
     const Outcome outcome = zelWith(plan, downloadM1);
@@ -135,9 +139,7 @@ TEST_F(CliTest, FailedEraseIsToldAndTheReadingsAreKept) {
     EXPECT_THAT(zel(readingsM1).out, HasSubstr("2026-11-03,06:59"));
 }
 
-TEST_F(CliTest, DownloadThatBreaksOffLeavesFileAndMonitorAsTheyWere) {
-    addPatient(u"M1"_s);
-    const QByteArray before = data();
+TEST_F(JobTest, DownloadThatBreaksOffLeavesFileAndMonitorAsTheyWere) {
     const char* faults[] = {
         R"({"kind": "unplug", "command": "\"", "afterReports": 6})",
         R"({"kind": "badCheckField", "command": "\"", "times": 3})",
@@ -146,18 +148,12 @@ TEST_F(CliTest, DownloadThatBreaksOffLeavesFileAndMonitorAsTheyWere) {
     for (const char* fault : faults) {
         SCOPED_TRACE(fault);
         plug(planM1.chopped(1) + R"(, "faults": [)" + fault + "]}");
-        const Outcome outcome = zel(downloadM1);
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.out, "");
-        EXPECT_THAT(outcome.err, HasSubstr("nothing was stored"));
-        EXPECT_EQ(data(), before);
+        expectRefused(zel(downloadM1), "nothing was stored");
     }
     EXPECT_THAT(zel({u"monitor"_s}).out, HasSubstr("readings: 4\n")) << "after the last fault has shown";
 }
 
-TEST_F(CliTest, EmptyMonitorAddsNothingAndIsNotErased) {
-    addPatient(u"M1"_s);
-    const QByteArray before = data();
+TEST_F(JobTest, EmptyMonitorAddsNothingAndIsNotErased) {
     const QByteArray empty =
         R"({"model": "41", "id": "M1", "faults": [{"kind": "noAnswer", "command": "#"}]})";
     const Outcome outcome = zelWith(empty, downloadM1);
@@ -166,11 +162,9 @@ TEST_F(CliTest, EmptyMonitorAddsNothingAndIsNotErased) {
     EXPECT_EQ(data(), before);
 }
 
-TEST_F(CliTest, UnreadableDataFileFailsEveryCommandAndIsLeftAlone) {
-    addPatient(u"M1"_s);
-    const QByteArray good = data();
-    const QByteArray spoiled[] = {good.left(good.size() / 2), "", "no XML at all",
-                                  QByteArray(good).replace("ZEL>", "LEZ>"), good + "<ZEL/>"};
+TEST_F(JobTest, UnreadableDataFileFailsEveryCommandAndIsLeftAlone) {
+    const QByteArray spoiled[] = {before.left(before.size() / 2), "", "no XML at all",
+                                  QByteArray(before).replace("ZEL>", "LEZ>"), before + "<ZEL/>"};
     const QStringList commands[] = {
         {u"patients"_s},
         {u"patients"_s, u"--add"_s, u"--id=X"_s, u"--family-name=F"_s, u"--given-names=G"_s},
@@ -180,12 +174,8 @@ TEST_F(CliTest, UnreadableDataFileFailsEveryCommandAndIsLeftAlone) {
     for (const QByteArray& content : spoiled) {
         for (const QStringList& command : commands) {
             SCOPED_TRACE(content.left(30).toStdString() + " " + command.join(u' ').toStdString());
-            setData(content);
-            const Outcome outcome = zelWith(planM1, command);
-            EXPECT_EQ(outcome.status, 1);
-            EXPECT_EQ(outcome.out, "");
-            EXPECT_THAT(outcome.err, HasSubstr("ZEL.xml"));
-            EXPECT_EQ(data(), content);
+            setData(before = content);
+            expectRefused(zelWith(planM1, command), "ZEL.xml");
         }
     }
 }

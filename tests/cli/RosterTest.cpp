@@ -30,15 +30,6 @@ TEST_F(CliTest, PatientsAreListedByNameAsCsv) {
     EXPECT_EQ(data(), before);
 }
 
-TEST_F(CliTest, UnknownPatientIsNoEmptyList) {
-    for (const QString& command : {u"readings"_s, u"download"_s}) {
-        const Outcome outcome = zel({command, u"--patient"_s, u"nobody"_s});
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.out, "");
-        EXPECT_THAT(outcome.err, HasSubstr("'nobody'"));
-    }
-}
-
 TEST_F(CliTest, SurroundingsThatFailAreTold) {
     std::ostringstream out;
     std::ostringstream err;

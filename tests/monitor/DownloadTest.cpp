@@ -3,8 +3,6 @@
 #include "monitor/BPMModel.h"
 #include "support/ManualClock.h"
 
-#include <QStringList>
-
 #include <gtest/gtest.h>
 
 namespace zel {
@@ -74,16 +72,12 @@ TEST_F(DownloadTest, NoneOneAndAllRecords) {
 }
 
 TEST_F(DownloadTest, LogsItsStepsInTheSameWordsAsEver) {
-    static QStringList lines; // a message handler takes no context
-    lines.clear();
-    const auto previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& line) { lines << line; });
     port.answers = {download(1, "01"), download(0, "00")};
-    std::ignore = model.getBPMCycleData(progress);
-    std::ignore = model.getBPMCycleData(progress);
-    qInstallMessageHandler(previous);
     EXPECT_EQ(
-        lines.join(u'|').toStdString(),
+        logOf([this] {
+            std::ignore = model.getBPMCycleData(progress);
+            std::ignore = model.getBPMCycleData(progress);
+        }),
         "getBPMCycleData|[data begin]|read bytes iRead 32\n|test log 1|Cycle Data return 64 bytes data:\n|"
         "get Cycle Data -->  OK|getBPMCycleData|[data begin]|get Cycle Data -->  no data");
 }

@@ -117,16 +117,11 @@ TEST_F(SimulatedMonitorTest, FaultsShowAsTheirResultCodes) {
          MonitorResult::noDevice},
     };
     for (const auto& [fault, first, second] : cases) {
-        const auto model = attach(R"({"model": "41", "id": "A", "reportSizes": [5]})");
-        auto plan = readPlan(
-            QByteArray(R"({"model": "41", "id": "A", "reportSizes": [5], "faults": [{"command": "$", )")
-            + fault + "}]}");
-        ASSERT_TRUE(plan) << fault;
-        SimulatedMonitor faulty(*plan, clock);
-        BPMModel asked(faulty, clock);
-        std::ignore = asked.checkIsConnected();
-        EXPECT_EQ(outcome(asked.getBPMID()), first) << fault;
-        EXPECT_EQ(outcome(asked.getBPMID()), second) << fault;
+        const QByteArray plan =
+            R"({"model": "41", "id": "A", "reportSizes": [5], "faults": [{"command": "$", )";
+        const auto model = attach(plan + fault + "}]}");
+        EXPECT_EQ(outcome(model->getBPMID()), first) << fault;
+        EXPECT_EQ(outcome(model->getBPMID()), second) << fault;
     }
 }
 

@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace zel {
 namespace {
 
@@ -188,6 +190,25 @@ TEST_F(ExchangeTest, ExistingFilesAreReplacedOnlyWhenToldAndLinksAreNotFollowed)
         EXPECT_EQ(readFile(elsewhere).value_or("none"), isThere ? "other" : "none");
         QFile::remove(elsewhere);
     }
+}
+
+TEST_F(ExchangeTest, FileOfTheSameExportIsNeverReplaced) {
+    setData("<ZEL><Patient><ID>a1</ID></Patient><Patient><ID>A1</ID></Patient></ZEL>");
+    for (int time = 1; time <= 2; ++time) { // on a disk that tells them apart, both are there in the end
+        const auto both = store.beginExport();
+        EXPECT_TRUE(both->writeXml(u"a1"_s, out.path(), Replace::yes));
+        EXPECT_TRUE(both->writeXml(u"A1"_s, out.path(), Replace::yes));
+    }
+    const auto both = store.beginExport();
+    ASSERT_TRUE(both->writeXml(u"a1"_s, out.path(), Replace::yes));
+    const QString other = out.filePath(u"A1.xml"_s);
+    ASSERT_TRUE(QFile::remove(other));
+    std::filesystem::create_hard_link(out.filePath(u"a1.xml"_s).toStdString(), other.toStdString());
+    for (const Replace replace : {Replace::no, Replace::yes})
+        EXPECT_EQ(both->writeXml(u"A1"_s, out.path(), replace).error(),
+                  (StoreError{Code::sameFileName, other, u"a1"_s}));
+    EXPECT_TRUE(exported(u"a1.xml"_s).contains("<ID>a1</ID>"));
+    EXPECT_TRUE(both->writeXml(u"a1"_s, out.path(), Replace::yes)) << "its own is not another's";
 }
 
 TEST_F(ExchangeTest, DataFileIsNeverExportedOver) {
