@@ -253,12 +253,13 @@ mmHg</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1 has been deleted.</translation></message>
     <message id="patientEditor"><translation>Data of the patient</translation></message>
+    <message id="patientGone"><translation>%1 is no longer in the data file: another program removed this patient. What you typed is still here, and Save adds the patient again.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
     <message id="patientIDTwice"><translation>The data file holds more than one patient with the ID %1. They cannot be told apart, so none of them is changed or deleted.</translation></message>
     <message id="patientList"><translation>List of patients</translation></message>
     <message id="patientName"><translation>Name</translation></message>
-    <message id="patientPartlySaved"><translation>Not all of the data of %1 could be stored: the data file has no place for some of it. The fields show what is stored.</translation></message>
+    <message id="patientPartlySaved"><translation>Not all of the data of %1 could be stored: the data file has no place for some of it. What could not be stored still stands in the fields.</translation></message>
     <message id="patientRefused"><translation>Nothing was saved yet. Please correct what is marked:
 %1</translation></message>
     <message id="patientSaved"><translation>%1 has been saved.</translation></message>
@@ -319,6 +320,7 @@ mmHg</translation></message>
     <message id="settingsButton"><translation>Settings</translation></message>
     <message id="settingsHint"><translation>Settings, export and import (Ctrl+,)</translation></message>
     <message id="settingsNotSaved"><translation>The settings were not saved. %1</translation></message>
+    <message id="settingsPartlySaved"><translation>Not all of the settings could be stored: the data file has no place for some of them.</translation></message>
     <message id="settingSys"><translation>Systolic limit in mmHg</translation></message>
     <message id="settingSysLabel"><translation>&amp;Systolic</translation></message>
     <message id="settingTime"><translation>Time format</translation></message>

@@ -149,7 +149,8 @@ void AppController::UpdateUIBySetting() {
 }
 
 void AppController::closeApplicaiton() {
-    if (patientPage->leave()) terminate();
+    if (patientPage->settle()) return terminate();
+    if (!patientPage->isVisible()) changeTab(0); // what is still to be settled is there
 }
 
 void AppController::terminate() {

@@ -104,7 +104,7 @@ bool ExportController::askToReplace(const QStringList& names) const {
     QString listed = names.mid(0, namesInQuestion).join(", "_L1);
     if (names.size() > namesInQuestion) listed += u", …"_s;
     const QString folder = QDir::toNativeSeparators(outcome.folder);
-    return parts.panel.AskMessage(qtTrId("exportReplace", static_cast<int>(names.size())).arg(folder, listed),
+    return parts.panel.AskToErase(qtTrId("exportReplace", static_cast<int>(names.size())).arg(folder, listed),
                                   qtTrId("exportReplaceTitle"));
 }
 

@@ -67,6 +67,14 @@ void MessageBoxPanel::ShowMessage(const QString& text, const QString& title) {
 }
 
 bool MessageBoxPanel::AskMessage(const QString& text, const QString& title) {
+    return ask(text, title, Preset::yes);
+}
+
+bool MessageBoxPanel::AskToErase(const QString& text, const QString& title) {
+    return ask(text, title, Preset::no);
+}
+
+bool MessageBoxPanel::ask(const QString& text, const QString& title, Preset preset) {
     QMessageBox box(ownerOver(window));
     fill(box, text, title);
     box.setIcon(QMessageBox::Question);
@@ -75,7 +83,7 @@ bool MessageBoxPanel::AskMessage(const QString& text, const QString& title) {
     // Not the role of a "no", which Esc would press: one question's "no" empties the monitor.
     QPushButton* no = box.addButton(qtTrId("no"), QMessageBox::ActionRole);
     no->setObjectName(u"btnNo"_s);
-    box.setDefaultButton(yes);
+    box.setDefaultButton(preset == Preset::yes ? yes : no);
     keepOnScreen(box);
     box.exec();
     return box.clickedButton() == yes;

@@ -61,6 +61,18 @@ QString cleaned(const QString& typed, bool hasLines) {
     return hasLines && !TrimStr(text).isEmpty() ? text : TrimStr(text);
 }
 
+/// A bare number with its unit.
+QString withUnit(const QString& typed, const QString& unit) {
+    const QString text = TrimStr(typed);
+    return !text.isEmpty() && text.back().isDigit() ? text + u' ' + unit : typed;
+}
+
+/// 5/9 as 5 ft 9 in, which cannot be mistaken for anything else.
+QString withFeet(const QString& typed) {
+    const QStringList parts = TrimStr(typed).split(u'/');
+    return parts.size() == 2 ? u"%1 ft %2 in"_s.arg(TrimStr(parts[0]), TrimStr(parts[1])) : typed;
+}
+
 bool isYear(const QString& text) {
     return text.size() == 4 && std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
@@ -141,9 +153,9 @@ QString PatientForm::refusal(PatientField field, const PatientEntry& entry, Inst
         const QString typed = cleaned(entry[ID], false);
         return IsEmptyID(typed) || BPMModel::fitsMonitor(typed) ? QString() : qtTrId("IDRefused");
     }
-    if (field == Weight && !weightText(entry[Weight], settings))
+    if (field == Weight && !weightInKg(entry[Weight], settings))
         return settings.isMetric() ? qtTrId("weightRefusedKg") : qtTrId("weightRefusedLb");
-    if (field == Height && !heightText(entry[Height], settings))
+    if (field == Height && !heightInCm(entry[Height], settings))
         return settings.isMetric() ? qtTrId("heightRefusedCm") : qtTrId("heightRefusedFtIn");
     if (field == Cholestrol && !cholestrolText(entry[Cholestrol])) return qtTrId("cholestrolRefused");
     return {};
@@ -183,15 +195,10 @@ void PatientForm::setTexts(PatientModel& patient, const PatientEntry& entry) con
 }
 
 void PatientForm::setMeasures(PatientModel& patient, const PatientEntry& entry) const {
-    const auto weight = weightText(entry[Weight], settings);
-    if (weight && isEdited(Weight, entry)) patient.convertAndSetWeight(*weight, settings);
-    const auto height = heightText(entry[Height], settings);
-    if (height && isEdited(Height, entry)) {
-        if (height->isEmpty())
-            patient.Height = 0;
-        else
-            std::ignore = patient.convertAndSetHeight(*height, settings);
-    }
+    const auto weight = weightInKg(entry[Weight], settings);
+    if (weight && isEdited(Weight, entry)) patient.Weight = *weight;
+    const auto height = heightInCm(entry[Height], settings);
+    if (height && isEdited(Height, entry)) patient.Height = *height;
     const auto cholestrol = cholestrolText(entry[Cholestrol]);
     if (cholestrol && isEdited(Cholestrol, entry)) patient.Cholestrol = cholestrol->toFloat();
 }
@@ -207,9 +214,16 @@ bool PatientForm::isChanged(const PatientEntry& entry, Instant today) const {
 
 PatientEntry PatientForm::inUnitsOf(const SettingModel& other, PatientEntry entry) const {
     if (other.isMetric() == settings.isMetric()) return entry;
-    const PatientModel patient = record(entry);
-    if (weightText(entry[Weight], settings)) entry[Weight] = patient.getWeightStr(other);
-    if (heightText(entry[Height], settings)) entry[Height] = patient.getHeightStr(other);
+    // What was typed keeps its own unit: shown in another one it would be rounded.
+    const bool isMetric = settings.isMetric();
+    if (isEdited(Weight, entry))
+        entry[Weight] = withUnit(entry[Weight], isMetric ? u"kg"_s : u"lb"_s);
+    else
+        entry[Weight] = stored.getWeightStr(other);
+    if (isEdited(Height, entry))
+        entry[Height] = isMetric ? withUnit(entry[Height], u"cm"_s) : withFeet(entry[Height]);
+    else
+        entry[Height] = stored.getHeightStr(other);
     return entry;
 }
 

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] PatientModel record(const PatientEntry& entry) const;
     /// The user has changed something that leaving would lose.
     [[nodiscard]] bool isChanged(const PatientEntry& entry, Instant today) const;
-    /// The entry in the units of other settings.
+    /// The entry as it stands under other settings; measures that were typed keep their unit, written out.
     [[nodiscard]] PatientEntry inUnitsOf(const SettingModel& other, PatientEntry entry) const;
 
     /// The day that the three fields name; none if they name none.

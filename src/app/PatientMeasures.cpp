@@ -4,6 +4,9 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <tuple>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -44,6 +47,27 @@ std::optional<QString> inRange(const std::optional<QString>& text, float value, 
     return value == 0 ? std::optional(u""_s) : std::nullopt;
 }
 
+SettingModel otherUnits(SettingModel settings) {
+    settings.metricFormat = settings.isMetric() ? u"lb / in"_s : u"kg / cm"_s;
+    return settings;
+}
+
+/// Says which unit is meant, as "cm" or 5'9" do.
+bool hasUnit(const QString& typed) {
+    return std::ranges::any_of(typed, [](QChar c) {
+        return c.isLetter() || QStringView(u"'\"\u2018\u2019\u2032\u2033").contains(c);
+    });
+}
+
+template <class Read, class Convert>
+std::optional<float> valueOf(const QString& typed, const SettingModel& settings, Read read, Convert convert) {
+    PatientModel patient;
+    if (const auto text = read(typed, settings)) return convert(patient, *text, settings);
+    const SettingModel other = otherUnits(settings);
+    const auto text = hasUnit(typed) ? read(typed, other) : std::nullopt;
+    return text ? std::optional(convert(patient, *text, other)) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<QString> weightText(const QString& typed, const SettingModel& settings) {
@@ -60,6 +84,22 @@ std::optional<QString> heightText(const QString& typed, const SettingModel& sett
     PatientModel patient;
     if (text) std::ignore = patient.convertAndSetHeight(*text, settings);
     return inRange(text, patient.Height, centimetres);
+}
+
+std::optional<float> weightInKg(const QString& typed, const SettingModel& settings) {
+    return valueOf(typed, settings, weightText,
+                   [](PatientModel& patient, const QString& text, const auto& units) {
+                       patient.convertAndSetWeight(text, units);
+                       return patient.Weight;
+                   });
+}
+
+std::optional<float> heightInCm(const QString& typed, const SettingModel& settings) {
+    return valueOf(typed, settings, heightText,
+                   [](PatientModel& patient, const QString& text, const auto& units) {
+                       if (!text.isEmpty()) std::ignore = patient.convertAndSetHeight(text, units);
+                       return patient.Height;
+                   });
 }
 
 std::optional<QString> cholestrolText(const QString& typed) {

@@ -18,4 +18,8 @@ namespace zel {
 /// In mg/dL.
 [[nodiscard]] std::optional<QString> cholestrolText(const QString& typed);
 
+// The values of weights and heights, also when the other system's unit is written out; 0 for not given.
+[[nodiscard]] std::optional<float> weightInKg(const QString& typed, const SettingModel& settings);
+[[nodiscard]] std::optional<float> heightInCm(const QString& typed, const SettingModel& settings);
+
 } // namespace zel

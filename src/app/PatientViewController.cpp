@@ -112,11 +112,19 @@ void PatientViewController::setHWButtons(bool) { enableButtons(); }
 
 bool PatientViewController::isNewOne(const QString& ID) const { return newPatient && ID == "-"_L1; }
 
+/// Changed here, and no longer in the file: another program took it out, or the file cannot be read. What was
+/// typed stays, and saving adds the patient again.
+bool PatientViewController::isGone(const QString& ID) const {
+    const PatientForm& shown = editor->shownForm();
+    return !shown.isNew() && shown.patient().ID == ID && !store.validIDinXML(ID) && editor->isChanged();
+}
+
 bool PatientViewController::isThere(const QString& ID) const {
-    return isNewOne(ID) || store.validIDinXML(ID);
+    return isNewOne(ID) || store.validIDinXML(ID) || isGone(ID);
 }
 
 PatientForm PatientViewController::formOf(const QString& ID) const {
+    if (isGone(ID)) return editor->shownForm();
     const PatientModel* patient = isNewOne(ID) ? nullptr : store.getPatientByID(ID);
     return {patient ? *patient : PatientForm::newPatient(), store.getSetting(), !patient};
 }
@@ -133,6 +141,13 @@ void PatientViewController::reload() {
     const QString instead = newPatient ? u"-"_s : first;
     open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
     emit rosterChanged(!patients.empty());
+    tellIfGone();
+}
+
+void PatientViewController::tellIfGone() {
+    if (!store.lastLoad() || !isGone(store.getCurrentID())) return;
+    const QString name = shortName(editor->shownForm().patient());
+    parts.panel.ShowMessage(qtTrId("patientGone").arg(name), qtTrId("Warning"));
 }
 
 void PatientViewController::open(const QString& ID) {
@@ -171,6 +186,14 @@ bool PatientViewController::leave() {
     else
         editor->showPatient(formOf(ID));
     return true;
+}
+
+bool PatientViewController::settle() {
+    if (!leave()) return false;
+    const Instant today = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
+    if (!newPatient || !newPatient->form.isChanged(newPatient->entry, today)) return true;
+    if (!isNewOne(store.getCurrentID())) open(u"-"_s);
+    return leave();
 }
 
 bool PatientViewController::isSaveWanted() {
@@ -243,10 +266,10 @@ void PatientViewController::saved(const PatientModel& record) {
     editor->settle();
     loadAnew(record.ID);
     const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
-    if (store.validIDinXML(record.ID) && formOf(record.ID).entryOf() != wanted)
-        parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
-    else
-        emit said(qtTrId("patientSaved").arg(shortName(record)));
+    if (!store.validIDinXML(record.ID) || formOf(record.ID).entryOf() == wanted)
+        return emit said(qtTrId("patientSaved").arg(shortName(record)));
+    editor->showPatient(formOf(record.ID), wanted);
+    parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
 }
 
 void PatientViewController::loadAnew(const QString& ID) {
@@ -263,7 +286,7 @@ void PatientViewController::btnDeletePatient() {
     const PatientModel patient = *store.getPatientByID(ID);
     const QString question =
         qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
-    if (!parts.panel.AskMessage(question, qtTrId("DeletePatient"))) return;
+    if (!parts.panel.AskToErase(question, qtTrId("DeletePatient"))) return;
     if (const StoreResult deleted = store.deleteXMLPatient(ID); !deleted)
         return parts.panel.ShowMessage(describe(deleted.error()), qtTrId("Warning"));
     loadAnew(next);

@@ -37,6 +37,8 @@ public:
     void UpdateUIBySetting() override;
     void setHWButtons(bool connected) override;
     [[nodiscard]] bool leave() override;
+    /// As leave(), for the new patient that was left unsaved as well: nothing typed may be lost after this.
+    [[nodiscard]] bool settle();
     /// A monitor is connected and holds the selected patient's ID.
     [[nodiscard]] bool CanDataTransfer() const;
 
@@ -65,6 +67,8 @@ private:
     void enableButtons();
     [[nodiscard]] bool isThere(const QString& ID) const;
     [[nodiscard]] bool isNewOne(const QString& ID) const;
+    [[nodiscard]] bool isGone(const QString& ID) const;
+    void tellIfGone();
     [[nodiscard]] PatientForm formOf(const QString& ID) const;
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;

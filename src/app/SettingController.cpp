@@ -121,10 +121,18 @@ void SettingController::closeSetting() {
     SettingModel& setting = parts.store.getSetting();
     const SettingModel before = setting;
     form->store(setting);
-    const StoreResult saved = parts.store.saveSetting();
-    if (saved) return accept();
-    setting = before;
-    parts.panel.ShowMessage(qtTrId("settingsNotSaved").arg(describe(saved.error())), qtTrId("Warning"));
+    const SettingModel wanted = setting;
+    if (const StoreResult saved = parts.store.saveSetting(); !saved) {
+        setting = before;
+        const QString why = describe(saved.error());
+        return parts.panel.ShowMessage(qtTrId("settingsNotSaved").arg(why), qtTrId("Warning"));
+    }
+    accept();
+    // Read back: an element of an older version may have no place for all of them.
+    if (const StoreResult loaded = parts.store.loadXML(); !loaded)
+        parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
+    else if (setting != wanted)
+        parts.panel.ShowMessage(qtTrId("settingsPartlySaved"), qtTrId("Warning"));
 }
 
 void SettingController::send() {

@@ -13,6 +13,10 @@ public:
     virtual void ShowMessage(const QString& text, const QString& title) = 0;
     /// \return true for yes
     [[nodiscard]] virtual bool AskMessage(const QString& text, const QString& title) = 0;
+    /// As AskMessage, where yes erases something: it must not be answered by Enter alone.
+    [[nodiscard]] virtual bool AskToErase(const QString& text, const QString& title) {
+        return AskMessage(text, title);
+    }
 };
 
 } // namespace zel

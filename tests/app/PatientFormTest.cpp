@@ -180,14 +180,26 @@ TEST(PatientFormTest, measuresAreTakenInTheUnitsOfTheSettings) {
     EXPECT_EQ(metric.record(with(metric, Cholestrol, u""_s)).Cholestrol, 0.0F);
 }
 
-TEST(PatientFormTest, aChangeOfUnitsConvertsWhatIsTyped) {
+TEST(PatientFormTest, aChangeOfUnitsKeepsWhatIsTypedToTheLastDigit) {
     const PatientForm metric = stored();
     PatientEntry entry = with(metric, Weight, u"80"_s);
     entry[Height] = u"tall"_s;
     const PatientEntry imperial = metric.inUnitsOf(units(false), entry);
-    EXPECT_EQ(shown(imperial[Weight]), "176.4");
+    EXPECT_EQ(shown(imperial[Weight]), "80 kg");
     EXPECT_EQ(shown(imperial[Height]), "tall") << "nothing typed is lost";
     EXPECT_EQ(metric.inUnitsOf(units(true), entry), entry);
+    EXPECT_EQ(shown(metric.inUnitsOf(units(false), metric.entryOf())[Height]), "5/8") << "not typed";
+    struct Case {
+        bool isMetric;
+        QString typed;
+    };
+    for (const auto& [isMetric, typed] : {Case{true, u"175"_s}, {true, u"180,5 cm"_s}, {false, u"5/9"_s}}) {
+        const PatientForm before = stored(isMetric), after = stored(!isMetric);
+        const PatientEntry height = with(before, Height, typed);
+        const PatientEntry kept = before.inUnitsOf(units(!isMetric), height);
+        EXPECT_EQ(after.record(kept).Height, before.record(height).Height) << shown(kept[Height]);
+        EXPECT_TRUE(after.problems(kept, today).empty());
+    }
 }
 
 TEST(PatientFormTest, textsAreCleanedOfWhatCannotBeMeant) {

@@ -317,8 +317,48 @@ TEST_F(PatientPageTest, whatIsTypedOutlivesAReloadAndAChangeOfUnits) {
     EXPECT_EQ(value("Weight"), u"80"_s);
     store.getSetting().metricFormat = u"lb / in"_s;
     find<PageController>("PatientViewController").UpdateUIBySetting();
-    EXPECT_EQ(value("Weight"), u"176.4"_s);
+    EXPECT_EQ(value("Weight"), u"80 kg"_s);
     EXPECT_EQ(find<QWidget>("Weight").accessibleName(), qtTrId("fieldWeightLb"));
+}
+
+TEST_F(PatientPageTest, whatIsTypedOutlivesThePatientsRemovalByAnotherProgram) {
+    start();
+    note(u"mine"_s);
+    const QByteArray both = dataFile();
+    DataStore other({home.path(), home.path(), u":/templates"_s}, clock);
+    ASSERT_TRUE(other.load());
+    ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(panel.messages.join(u'\n'),
+              qtTrId("Warning") + u": "_s + qtTrId("patientGone").arg(u"Kim Adams"_s));
+    replaceDataFile("spoilt");
+    EXPECT_FALSE(store.loadXML());
+    replaceDataFile(both);
+    ASSERT_TRUE(store.loadXML());
+    ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+    ASSERT_TRUE(store.loadXML());
+    save();
+    EXPECT_EQ(patient(u"P1"_s).PatientNotes, u"mine"_s);
+    EXPECT_EQ(patient(u"P1"_s).FamilyName, u"Adams"_s);
+}
+
+TEST_F(PatientPageTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
+    start();
+    click("btnNewPatient");
+    type("FamilyName", u"Clark"_s);
+    panel.answers[qtTrId("SavePatient")] = false;
+    clickRow(1);
+    ASSERT_EQ(store.getCurrentID(), u"P1"_s) << "the new one is kept, unsaved";
+    panel.answers[qtTrId("SavePatient")] = true;
+    const QSignalSpy closed(app.get(), &AppController::closed);
+    press(Qt::Key_2, Qt::ControlModifier);
+    app->closeApplicaiton();
+    EXPECT_EQ(closed.count(), 0) << "an ID is missing";
+    EXPECT_TRUE(find<QWidget>("FamilyName").isVisible());
+    EXPECT_EQ(value("FamilyName"), u"Clark"_s);
+    panel.answers[qtTrId("SavePatient")] = false;
+    app->closeApplicaiton();
+    EXPECT_EQ(closed.count(), 1);
 }
 
 TEST_F(PatientPageTest, patientsOfOneIDAreNeitherChangedNorDeleted) {
@@ -348,6 +388,7 @@ TEST_F(PatientPageTest, tellsWhatTheFileHadNoPlaceFor) {
     save();
     EXPECT_EQ(panel.messages,
               QStringList(qtTrId("Warning") + u": "_s + qtTrId("patientPartlySaved").arg(u"Kim Adams"_s)));
+    EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), u"mine"_s) << "what was typed is not lost";
 }
 
 TEST_F(PatientPageTest, aDownloadFirstSettlesWhatWasTyped) {

@@ -192,6 +192,17 @@ TEST_F(SettingTest, aFailedWriteLosesNothing) {
     EXPECT_EQ(store.getSetting(), changed) << "all that was entered was still there";
 }
 
+TEST_F(SettingTest, tellsWhatTheFileHadNoPlaceFor) {
+    QByteArray lacking = dataFile();
+    replaceDataFile(lacking.replace("SysStandard>", "OlderLimit>"));
+    ASSERT_TRUE(store.loadXML());
+    open();
+    changeEverything();
+    click("okButton");
+    EXPECT_EQ(panel.messages, QStringList(qtTrId("Warning") + u": "_s + qtTrId("settingsPartlySaved")));
+    EXPECT_EQ(store.getSetting().diaStandard, changed.diaStandard);
+}
+
 TEST_F(SettingTest, actsAtOnceOnThePages) {
     plan.records = readings(3);
     startsPlugged = true;

@@ -132,6 +132,18 @@ TEST(MessageBoxPanelTest, takesNoAnswerFromEsc) {
     EXPECT_TRUE(panel.AskMessage(u"text"_s, u"title"_s));
 }
 
+TEST(MessageBoxPanelTest, enterAloneErasesNothing) {
+    MessageBoxPanel panel;
+    const auto pressEnter = [] {
+        QTimer::singleShot(0, qApp,
+                           [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+    };
+    pressEnter();
+    EXPECT_FALSE(panel.AskToErase(u"text"_s, u"title"_s));
+    pressEnter();
+    EXPECT_TRUE(panel.AskMessage(u"text"_s, u"title"_s));
+}
+
 TEST(MessageBoxPanelTest, keepsTheButtonOfALongMessageOnTheScreen) {
     MessageBoxPanel panel;
     QTimer::singleShot(0, qApp, [] {
