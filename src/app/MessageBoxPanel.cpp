@@ -84,6 +84,7 @@ bool MessageBoxPanel::ask(const QString& text, const QString& title, Preset pres
     QPushButton* no = box.addButton(qtTrId("no"), QMessageBox::ActionRole);
     no->setObjectName(u"btnNo"_s);
     box.setDefaultButton(preset == Preset::yes ? yes : no);
+    if (preset == Preset::no) box.setEscapeButton(no); // which keeps everything
     keepOnScreen(box);
     box.exec();
     return box.clickedButton() == yes;

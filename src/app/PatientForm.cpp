@@ -64,13 +64,15 @@ QString cleaned(const QString& typed, bool hasLines) {
 /// A bare number with its unit.
 QString withUnit(const QString& typed, const QString& unit) {
     const QString text = TrimStr(typed);
-    return !text.isEmpty() && text.back().isDigit() ? text + u' ' + unit : typed;
+    const auto isOfNumber = [](QChar c) { return c.isDigit() || c == u'.' || c == u','; };
+    return !text.isEmpty() && std::ranges::all_of(text, isOfNumber) ? text + u' ' + unit : typed;
 }
 
-/// 5/9 as 5 ft 9 in, which cannot be mistaken for anything else.
+/// 5/9 as 5 ft 9 in, which cannot be mistaken for anything else; 69, which is refused, not to pass for 69 cm.
 QString withFeet(const QString& typed) {
     const QStringList parts = TrimStr(typed).split(u'/');
-    return parts.size() == 2 ? u"%1 ft %2 in"_s.arg(TrimStr(parts[0]), TrimStr(parts[1])) : typed;
+    if (parts.size() != 2) return withUnit(typed, u"in"_s);
+    return u"%1 ft %2"_s.arg(TrimStr(parts[0]), withUnit(parts[1], u"in"_s));
 }
 
 bool isYear(const QString& text) {

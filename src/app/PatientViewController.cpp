@@ -124,8 +124,9 @@ bool PatientViewController::isThere(const QString& ID) const {
 }
 
 PatientForm PatientViewController::formOf(const QString& ID) const {
-    if (isGone(ID)) return editor->shownForm();
-    const PatientModel* patient = isNewOne(ID) ? nullptr : store.getPatientByID(ID);
+    const PatientModel* patient = isGone(ID)     ? &editor->shownForm().patient()
+                                  : isNewOne(ID) ? nullptr
+                                                 : store.getPatientByID(ID);
     return {patient ? *patient : PatientForm::newPatient(), store.getSetting(), !patient};
 }
 
@@ -183,16 +184,25 @@ bool PatientViewController::leave() {
     // What was typed for a new patient can be gone on with.
     if (isNewOne(ID))
         newPatient = {editor->shownForm(), editor->entry()};
+    else if (isGone(ID))
+        forget();
     else
         editor->showPatient(formOf(ID));
     return true;
 }
 
+/// What was typed over a patient who is gone is not wanted any more either.
+void PatientViewController::forget() {
+    editor->settle();
+    reload();
+}
+
 bool PatientViewController::settle() {
+    const bool wasNewOne = isNewOne(store.getCurrentID());
     if (!leave()) return false;
     const Instant today = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
-    if (!newPatient || !newPatient->form.isChanged(newPatient->entry, today)) return true;
-    if (!isNewOne(store.getCurrentID())) open(u"-"_s);
+    if (wasNewOne || !newPatient || !newPatient->form.isChanged(newPatient->entry, today)) return true;
+    open(u"-"_s);
     return leave();
 }
 
@@ -227,8 +237,7 @@ bool PatientViewController::btnSavePatient() {
         parts.panel.ShowMessage(describe(written.error()), qtTrId("Warning"));
         return false;
     }
-    saved(record);
-    return true;
+    return saved(record);
 }
 
 /// Records of the same ID cannot be told apart in the file: a change might go to the wrong one.
@@ -261,15 +270,18 @@ void PatientViewController::tell(const std::vector<PatientProblem>& found) {
 }
 
 /// A record of the file that lacks an element has no place for that field, and the user has to know.
-void PatientViewController::saved(const PatientModel& record) {
+bool PatientViewController::saved(const PatientModel& record) {
     if (editor->shownForm().isNew()) newPatient.reset();
     editor->settle();
     loadAnew(record.ID);
     const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
-    if (!store.validIDinXML(record.ID) || formOf(record.ID).entryOf() == wanted)
-        return emit said(qtTrId("patientSaved").arg(shortName(record)));
+    if (!store.validIDinXML(record.ID) || formOf(record.ID).entryOf() == wanted) {
+        emit said(qtTrId("patientSaved").arg(shortName(record)));
+        return true;
+    }
     editor->showPatient(formOf(record.ID), wanted);
     parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
+    return false;
 }
 
 void PatientViewController::loadAnew(const QString& ID) {
@@ -283,7 +295,7 @@ void PatientViewController::btnDeletePatient() {
     if (!isThere(ID) || !isUnique(ID)) return;
     const QString next = roster->neighbourOf(ID);
     if (isNewOne(ID)) return dropNewPatient(next);
-    const PatientModel patient = *store.getPatientByID(ID);
+    const PatientModel patient = formOf(ID).patient();
     const QString question =
         qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
     if (!parts.panel.AskToErase(question, qtTrId("DeletePatient"))) return;

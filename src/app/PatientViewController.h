@@ -43,8 +43,8 @@ public:
     [[nodiscard]] bool CanDataTransfer() const;
 
     void btnNewPatient();
-    /// Checks the entry and writes it. \return false if it was not saved; the user knows why, and nothing
-    /// typed is lost
+    /// Checks the entry and writes it. \return false if not all of it was saved; the user knows why, and
+    /// nothing typed is lost
     bool btnSavePatient();
     void btnDeletePatient();
     /// Writes the selected patient's ID into the monitor, after asking.
@@ -69,6 +69,7 @@ private:
     [[nodiscard]] bool isNewOne(const QString& ID) const;
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();
+    void forget();
     [[nodiscard]] PatientForm formOf(const QString& ID) const;
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
@@ -76,7 +77,7 @@ private:
     void tell(const std::vector<PatientProblem>& found);
     [[nodiscard]] bool isSaveWanted();
     [[nodiscard]] bool isUnique(const QString& ID);
-    void saved(const PatientModel& record);
+    [[nodiscard]] bool saved(const PatientModel& record);
     void dropNewPatient(const QString& next);
     void loadAnew(const QString& ID);
 

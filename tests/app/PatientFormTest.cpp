@@ -2,6 +2,8 @@
 
 #include "app/PatientMeasures.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace zel {
@@ -53,19 +55,22 @@ PatientEntry complete() {
     return entry;
 }
 
-constexpr auto refused = nullptr;
+constexpr const char* refused = nullptr;
 
+/// Entries that are all taken as the same text.
 struct Typed {
-    const char* typed;
-    const char* taken; ///< refused: null
+    const char* taken;
+    std::vector<const char*> typed;
 };
 
-void expectTaken(const std::vector<Typed>& cases,
-                 const std::function<std::optional<QString>(QString)>& read) {
-    for (const auto& [typed, taken] : cases) {
-        const auto text = read(QString::fromUtf8(typed));
-        EXPECT_EQ(text.has_value(), taken != nullptr) << typed;
-        EXPECT_EQ(shown(text.value_or(QString())), taken ? taken : "") << typed;
+void expectTaken(const std::function<std::optional<QString>(QString)>& read,
+                 const std::vector<Typed>& cases) {
+    for (const auto& [taken, all] : cases) {
+        for (const char* typed : all) {
+            const auto text = read(QString::fromUtf8(typed));
+            EXPECT_EQ(text.has_value(), taken != refused) << typed;
+            EXPECT_EQ(shown(text.value_or(QString())), taken ? taken : "") << typed;
+        }
     }
 }
 
@@ -76,71 +81,27 @@ TEST(PatientMeasuresTest, takesWhatIsPlainlyMeantAndRefusesTheRest) {
     const auto lb = [](const QString& typed) { return weightText(typed, units(false)); };
     const auto cm = [](const QString& typed) { return heightText(typed, units(true)); };
     const auto feet = [](const QString& typed) { return heightText(typed, units(false)); };
-    expectTaken({{"72.5", "72.5"},
-                 {"72,5", "72.5"},
-                 {" 72.5 kg ", "72.5"},
-                 {"72kg", "72"},
-                 {"", ""},
-                 {"  ", ""},
-                 {"0", ""},
-                 {"72\u00A0kg", "72"},
-                 {"-3", refused},
-                 {"\u22123", refused},
-                 {"1,200", refused},
-                 {"1.200,5", refused},
-                 {"72.5.1", refused},
-                 {"1e2", refused},
-                 {"nan", refused},
-                 {"72 lb", refused},
-                 {"seventy", refused},
-                 {"1001", refused},
-                 {"0.1", refused},
-                 {"99999999999999999999", refused},
-                 {"+72", refused}},
-                kg);
-    expectTaken({{"160.5 lbs", "160.5"},
-                 {"160 pounds", "160"},
-                 {"2200", "2200"},
-                 {"2205", refused},
-                 {"72 kg", refused}},
-                lb);
-    expectTaken({{"175", "175"},
-                 {"175,26 cm", "175.26"},
-                 {"1.75", refused},
-                 {"5/9", refused},
-                 {"301", refused},
-                 {"-3", refused}},
-                cm);
-    expectTaken({{"5/9", "5/9"},
-                 {"5 / 9", "5/9"},
-                 {"5'9\"", "5/9"},
-                 {"5\u2019 9\u201D", "5/9"},
-                 {"5\u20329\u2033", "5/9"},
-                 {"5'9''", "5/9"},
-                 {"5 ft 9 in", "5/9"},
-                 {"5ft", "5/0"},
-                 {"6/0", "6/0"},
-                 {"5/9.5", "5/9.5"},
-                 {"5/9,5", "5/9.5"},
-                 {"5/13", refused},
-                 {"5/12", refused},
-                 {"5/-1", refused},
-                 {"69", refused},
-                 {"-3", refused},
-                 {"5/", refused},
-                 {"5/9/1", refused},
-                 {"0/0", ""},
-                 {"0/5", refused},
-                 {"175 cm", refused},
-                 {"", ""}},
-                feet);
-    expectTaken({{"200", "200"},
-                 {"200 mg/dL", "200"},
-                 {"201,5", "201.5"},
-                 {"5.2", refused},
-                 {"", ""},
-                 {"5001", refused}},
-                cholestrolText);
+    expectTaken(kg, {{"72.5", {"72.5", "72,5", " 72.5 kg "}},
+                     {"72", {"72kg", "72\u00A0kg"}},
+                     {"", {"", "  ", "0"}},
+                     {refused,
+                      {"-3", "\u22123", "+72", "1,200", "1.200,5", "72.5.1", "1e2", "nan", "72 lb", "seventy",
+                       "1001", "0.1", "99999999999999999999"}}});
+    expectTaken(lb, {{"160.5", {"160.5 lbs"}},
+                     {"160", {"160 pounds"}},
+                     {"2200", {"2200"}},
+                     {refused, {"2205", "72 kg"}}});
+    expectTaken(cm, {{"175", {"175"}}, {"175.26", {"175,26 cm"}}, {refused, {"1.75", "5/9", "301", "-3"}}});
+    expectTaken(
+        feet, {{"5/9", {"5/9", "5 / 9", "5'9\"", "5\u2019 9\u201D", "5\u20329\u2033", "5'9''", "5 ft 9 in"}},
+               {"5/0", {"5ft"}},
+               {"6/0", {"6/0"}},
+               {"5/9.5", {"5/9.5", "5/9,5"}},
+               {"", {"0/0", ""}},
+               {refused, {"5/13", "5/12", "5/-1", "69", "-3", "5/", "5/9/1", "0/5", "175 cm"}}});
+    expectTaken(
+        cholestrolText,
+        {{"200", {"200", "200 mg/dL"}}, {"201.5", {"201,5"}}, {"", {""}}, {refused, {"5.2", "5001"}}});
 }
 
 TEST(PatientFormTest, whatIsLeftAloneKeepsItsValueToTheLastDigit) {
@@ -193,13 +154,19 @@ TEST(PatientFormTest, aChangeOfUnitsKeepsWhatIsTypedToTheLastDigit) {
         bool isMetric;
         QString typed;
     };
-    for (const auto& [isMetric, typed] : {Case{true, u"175"_s}, {true, u"180,5 cm"_s}, {false, u"5/9"_s}}) {
+    for (const auto& [isMetric, typed] : {Case{true, u"175"_s},
+                                          {true, u"180,5 cm"_s},
+                                          {true, u"5'9"_s},
+                                          {false, u"5/9"_s},
+                                          {false, u"5/9\""_s}}) {
         const PatientForm before = stored(isMetric), after = stored(!isMetric);
         const PatientEntry height = with(before, Height, typed);
         const PatientEntry kept = before.inUnitsOf(units(!isMetric), height);
         EXPECT_EQ(after.record(kept).Height, before.record(height).Height) << shown(kept[Height]);
         EXPECT_TRUE(after.problems(kept, today).empty());
     }
+    const PatientEntry inches = with(stored(false), Height, u"69"_s);
+    EXPECT_FALSE(metric.problems(stored(false).inUnitsOf(units(true), inches), today).empty()) << "not cm";
 }
 
 TEST(PatientFormTest, textsAreCleanedOfWhatCannotBeMeant) {
@@ -259,37 +226,27 @@ TEST(PatientFormTest, aNewIDIsOneThatAMonitorKeeps) {
 
 TEST(PatientFormTest, aDateOfBirthIsADayThatHasBeenOrNone) {
     struct Case {
-        const char *year, *month, *day;
         QString refusal;
+        std::vector<const char*> days; ///< year/month/day
     };
-    const QString incomplete = qtTrId("birthDateIncomplete"), year = qtTrId("birthYearRefused");
-    for (const auto& [y, m, d, refusal] : std::initializer_list<Case>{
-             {"", "0", "0", u""_s},
-             {"1970", "1", "31", u""_s},
-             {" 1970 ", "1", "31", u""_s},
-             {"2024", "2", "29", u""_s},
-             {"2026", "11", "21", u""_s},
-             {"199", "1", "1", year},
-             {"19a0", "1", "1", year},
-             {"19 0", "1", "1", year},
-             {"-970", "1", "1", year},
-             {"1970.", "1", "1", year},
-             {"\u0661\u0669\u0667\u0660", "1", "1", year},
-             {"1970", "0", "0", incomplete},
-             {"1970", "5", "0", incomplete},
-             {"", "5", "1", incomplete},
-             {"1970", "2", "30", qtTrId("birthDayRefused").arg(30)},
-             {"2025", "2", "29", qtTrId("birthDayRefused").arg(29)},
-             {"2026", "11", "22", qtTrId("birthDateInFuture")},
-             {"9999", "1", "1", qtTrId("birthDateInFuture")},
-             {"1895", "1", "1", qtTrId("birthDateTooOld").arg(130)},
+    for (const auto& [refusal, days] : std::initializer_list<Case>{
+             {u""_s, {"/0/0", "1970/1/31", " 1970 /1/31", "2024/2/29", "2026/11/21"}},
+             {qtTrId("birthYearRefused"),
+              {"199/1/1", "19a0/1/1", "19 0/1/1", "-970/1/1", "1970./1/1", "\u0661\u0669\u0667\u0660/1/1"}},
+             {qtTrId("birthDateIncomplete"), {"1970/0/0", "1970/5/0", "/5/1"}},
+             {qtTrId("birthDayRefused").arg(30), {"1970/2/30"}},
+             {qtTrId("birthDayRefused").arg(29), {"2025/2/29"}},
+             {qtTrId("birthDateInFuture"), {"2026/11/22", "9999/1/1"}},
+             {qtTrId("birthDateTooOld").arg(130), {"1895/1/1"}},
          }) {
-        const PatientForm form = stored();
-        PatientEntry entry = form.entryOf();
-        entry[BirthYear] = QString::fromUtf8(y);
-        entry[BirthMonth] = QString::fromUtf8(m);
-        entry[BirthDay] = QString::fromUtf8(d);
-        EXPECT_EQ(shown(form.refusal(BirthYear, entry, today)), shown(refusal)) << y << '-' << m << '-' << d;
+        for (const char* day : days) {
+            const PatientForm form = stored();
+            PatientEntry entry = form.entryOf();
+            const QStringList parts = QString::fromUtf8(day).split(u'/');
+            for (const auto& [field, part] : {std::pair(BirthYear, 0), {BirthMonth, 1}, {BirthDay, 2}})
+                entry[field] = parts[part];
+            EXPECT_EQ(shown(form.refusal(BirthYear, entry, today)), shown(refusal)) << day;
+        }
     }
     const PatientForm form = stored();
     PatientEntry entry = form.entryOf();

@@ -340,6 +340,17 @@ TEST_F(PatientPageTest, whatIsTypedOutlivesThePatientsRemovalByAnotherProgram) {
     save();
     EXPECT_EQ(patient(u"P1"_s).PatientNotes, u"mine"_s);
     EXPECT_EQ(patient(u"P1"_s).FamilyName, u"Adams"_s);
+    panel.answers[qtTrId("SavePatient")] = false;
+    for (const char* givesUp : {"btnDeletePatient", "graphBtn"}) {
+        addPatient(u"P1"_s, u"Adams"_s);
+        clickRow(0);
+        note(u"more"_s);
+        ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+        ASSERT_TRUE(store.loadXML());
+        click(givesUp);
+        EXPECT_EQ(store.getCurrentID(), u"P2"_s) << givesUp;
+        EXPECT_EQ(value("FamilyName"), u"Baker"_s) << givesUp;
+    }
 }
 
 TEST_F(PatientPageTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
@@ -357,8 +368,10 @@ TEST_F(PatientPageTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
     EXPECT_TRUE(find<QWidget>("FamilyName").isVisible());
     EXPECT_EQ(value("FamilyName"), u"Clark"_s);
     panel.answers[qtTrId("SavePatient")] = false;
+    panel.questions.clear();
     app->closeApplicaiton();
     EXPECT_EQ(closed.count(), 1);
+    EXPECT_EQ(panel.questions.size(), 1) << "asked once";
 }
 
 TEST_F(PatientPageTest, patientsOfOneIDAreNeitherChangedNorDeleted) {
@@ -388,6 +401,8 @@ TEST_F(PatientPageTest, tellsWhatTheFileHadNoPlaceFor) {
     save();
     EXPECT_EQ(panel.messages,
               QStringList(qtTrId("Warning") + u": "_s + qtTrId("patientPartlySaved").arg(u"Kim Adams"_s)));
+    clickRow(1);
+    EXPECT_EQ(store.getCurrentID(), u"P1"_s);
     EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), u"mine"_s) << "what was typed is not lost";
 }
 
