@@ -1,12 +1,15 @@
 # The flags that all code is built with, and the one way to declare a room.
 
-add_library(zel_flags INTERFACE)
-target_compile_options(zel_flags INTERFACE
+add_library(zel_warnings INTERFACE)
+target_compile_options(zel_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wduplicated-branches
   -Wlogical-op -Wformat=2 -Wimplicit-fallthrough -Werror
   # GCC 12 sees the value of an empty optional as used when it is only moved; the sanitizers look instead.
   -Wno-maybe-uninitialized)
+
+add_library(zel_flags INTERFACE)
+target_link_libraries(zel_flags INTERFACE zel_warnings)
 target_compile_definitions(zel_flags INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
   QT_MESSAGELOGCONTEXT ZEL_VERSION="${PROJECT_VERSION}")

@@ -75,6 +75,11 @@
 </context>
 <context>
     <name>app</name>
+    <message id="addComment"><translation>Add a comment</translation></message>
+    <message id="addCommentHint"><translation>Drag this to a day in the strip below the pulse chart to add a comment there. With the keyboard, press it or the Insert key.</translation></message>
+    <message id="addCommentTooLong"><translation>Comments can be added while the period has 47 days or fewer.</translation></message>
+    <message id="addDay"><translation>Widen the period by a day at each end</translation></message>
+    <message id="addDayHint"><translation>Widen the period by a day at each end (+)</translation></message>
     <message id="afib"><translation>AFib</translation></message>
     <message id="age"><translation>Age %1</translation></message>
     <message id="answerNo"><translation>No</translation></message>
@@ -82,6 +87,9 @@
     <message id="AP_Title"><translation>ZEL – blood pressure readings</translation></message>
     <message id="argumentUnknown"><translation>unexpected argument “%1”; see zel --help</translation></message>
     <message id="argumentWithoutFile"><translation>%1= needs the name of a file; see zel --help</translation></message>
+    <message id="BeginDate"><translation>The first day has to be before the last one, so that the period spans two days or more. The dates were left as they were.</translation></message>
+    <message id="beginEarlier"><translation>Begin a day earlier</translation></message>
+    <message id="beginLater"><translation>Begin a day later</translation></message>
     <message id="birthDateIncomplete"><translation>Please give year, month and day, or none of the three.</translation></message>
     <message id="birthDateInFuture"><translation>This day is still to come.</translation></message>
     <message id="birthDateTooOld"><translation>This is more than %1 years ago.</translation></message>
@@ -93,10 +101,13 @@
     <message id="birthYear"><translation>Year of birth</translation></message>
     <message id="birthYearNone"><translation>Year</translation></message>
     <message id="birthYearRefused"><translation>Please give the year in four digits, such as 1956.</translation></message>
+    <message id="bloodChart"><translation>Blood pressure over time</translation></message>
+    <message id="bloodScroller"><translation>Move the pressure scale</translation></message>
     <message id="cancel"><translation>Cancel</translation></message>
-    <message id="chartLater"><translation>The chart comes with a later version</translation></message>
-    <message id="chartLaterAdvice"><translation>It will draw these readings over time. Until then the Readings page (Ctrl+3) lists every one of them.</translation></message>
+    <message id="cancelPrint"><translation>Close without printing</translation></message>
+    <message id="chartKeys"><translation>%1 in the period. Arrow keys move the period, plus and minus widen and narrow it, Ctrl with the left and right arrow keys goes from reading to reading.</translation></message>
     <message id="cholestrolRefused"><translation>Please give a number of 10 to 5000 mg/dL, such as 200. 1 mmol/L is about 38.7 mg/dL.</translation></message>
+    <message id="choosePrinter"><translation>Choose a printer</translation></message>
     <message id="clockAhead"><translation>%1 ahead of this computer</translation></message>
     <message id="clockBehind"><translation>%1 behind this computer</translation></message>
     <message id="clockDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
@@ -106,28 +117,60 @@
     <message id="clockNotSetAtGreeting"><translation>The clock of the monitor could not be set. %1</translation></message>
     <message id="clockRight"><translation>In step with this computer</translation></message>
     <message id="clockSet"><translation>done. It shows this computer’s time now.</translation></message>
+    <message id="colourAction"><translation>Colour: %1</translation></message>
+    <message id="colourBlue"><translation>Blue</translation></message>
+    <message id="colourButton"><translation>Colour of the comment</translation></message>
+    <message id="colourGrey"><translation>Dark grey</translation></message>
+    <message id="colourHint"><translation>Choose the colour for new comments and for the selected one.</translation></message>
+    <message id="colourOrange"><translation>Orange</translation></message>
+    <message id="colourPicker"><translation>Colour of the comment</translation></message>
+    <message id="colourYellow"><translation>Yellow</translation></message>
+    <message id="columnComment"><translation>Comment</translation></message>
     <message id="columnComments"><translation>Comments</translation></message>
     <message id="columnDate"><translation>Date</translation></message>
     <message id="columnDia"><translation>DIA
 mmHg</translation></message>
     <message id="columnFile"><translation>File</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPressure"><translation>%1
+mmHg</translation></message>
     <message id="columnPulse"><translation>Pulse
 1/min</translation></message>
     <message id="columnReadings"><translation>Readings</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Time</translation></message>
+    <message id="commentBegin"><translation>From</translation></message>
     <message id="commentCount" numerus="yes"><translation><numerusform>%n comment</numerusform><numerusform>%n comments</numerusform></translation></message>
+    <message id="commentEnd"><translation>To</translation></message>
+    <message id="commentNotSaved"><translation>The comment was not saved; your text is still in its field. %1</translation></message>
+    <message id="commentPanel"><translation>Comment</translation></message>
+    <message id="commentPatientGone"><translation>The patient %1 is no longer in the data file, so that the comment that you were typing cannot be stored there. Your text is in the clipboard now: paste it where you want to keep it.</translation></message>
+    <message id="commentPosition"><translation>%1 of %2</translation></message>
+    <message id="commentStay"><translation>The comment could not be saved. %1
+
+Stay here and keep your text, to try again? With No, the text is given up.</translation></message>
+    <message id="commentText"><translation>Text of the comment</translation></message>
+    <message id="commentUnchanged"><translation>The comment could not be saved. %1</translation></message>
     <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? This cannot be undone.</translation></message>
     <message id="confirmSendID"><translation>Write the ID %1 into the monitor? From then on its readings belong to this patient.</translation></message>
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
+    <message id="copyRows"><translation>Copy</translation></message>
+    <message id="correlationView"><translation>Systolic against diastolic pressure</translation></message>
     <message id="dataFile"><translation>Data file</translation></message>
     <message id="dataFileUnreadable"><translation>The data file cannot be used</translation></message>
     <message id="dataPanel"><translation>Data</translation></message>
+    <message id="DateError"><translation>Check the dates</translation></message>
+    <message id="dayHint"><translation>Type a date and press Enter, or open the calendar with the arrow.</translation></message>
+    <message id="dayOfDownload"><translation>%1, day of a download</translation></message>
+    <message id="dayWithoutReading"><translation>%1, no reading on this day</translation></message>
+    <message id="DeleteComment"><translation>Delete comment</translation></message>
+    <message id="deleteCommentButton"><translation>Delete…</translation></message>
+    <message id="deleteCommentHint"><translation>Delete this comment, after a question.</translation></message>
     <message id="DeletePatient"><translation>Delete patient</translation></message>
     <message id="deletePatientButton"><translation>De&amp;lete</translation></message>
     <message id="deletePatientHint"><translation>Delete this patient with all readings and comments, after a question.</translation></message>
+    <message id="DeleteTheComment"><translation>Delete this comment? This cannot be undone.</translation></message>
     <message id="download"><translation>Download readings</translation></message>
     <message id="downloadAdvice"><translation>Please leave the monitor connected. Its readings are stored when all of them have arrived.</translation></message>
     <message id="downloadButton"><translation>&amp;Download</translation></message>
@@ -145,6 +188,9 @@ mmHg</translation></message>
     <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
     <message id="downloadStopping"><translation>Stopping …</translation></message>
     <message id="DupNewPatient"><translation>There is a new patient already that is not saved yet: the first one of the list. Please save or delete it first.</translation></message>
+    <message id="EndDate"><translation>The last day has to be after the first one, so that the period spans two days or more. The dates were left as they were.</translation></message>
+    <message id="endEarlier"><translation>End a day earlier</translation></message>
+    <message id="endLater"><translation>End a day later</translation></message>
     <message id="eraseFailed"><translation>%1. The readings are safely stored, but the monitor could not be emptied: it still holds them. %2</translation></message>
     <message id="exportAll"><translation>Export all patients as XML files</translation></message>
     <message id="exportAlsoFailed"><translation>The same happened to: %1</translation></message>
@@ -185,6 +231,7 @@ mmHg</translation></message>
     <message id="fileNotReadable"><translation>not readable</translation></message>
     <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Please give feet and inches with a stroke between them, such as 5/9. Inches go up to 11.</translation></message>
+    <message id="histogramView"><translation>Distribution of the values</translation></message>
     <message id="IDNotForMonitor"><translation>The ID “%1” does not fit the monitor. A monitor keeps IDs of 1 to 11 plain letters, digits and signs, without accents and without blanks at the ends.</translation></message>
     <message id="IDRefused"><translation>An ID has 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
     <message id="IDStays"><translation>The ID cannot be changed: the readings and comments belong to it.</translation></message>
@@ -206,9 +253,24 @@ mmHg</translation></message>
     <message id="importRefused" numerus="yes"><translation><numerusform>%n file was not imported:</numerusform><numerusform>%n files were not imported:</numerusform></translation></message>
     <message id="importTaken"><translation>%1: %2, %3, %4</translation></message>
     <message id="importTitle"><translation>Import patients</translation></message>
+    <message id="includeUndated"><translation>Undated readings</translation></message>
+    <message id="includeUndatedHint"><translation>Also show and count the readings that the monitor stored without a date. Can be chosen while all days are shown.</translation></message>
+    <message id="infoDia"><translation>Diastolic</translation></message>
+    <message id="infoLine"><translation>%1: %2</translation></message>
+    <message id="infoPulse"><translation>Pulse</translation></message>
+    <message id="infoSys"><translation>Systolic</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
-    <message id="map"><translation>MAP
-mmHg</translation></message>
+    <message id="mainMenu"><translation>Main menu</translation></message>
+    <message id="map"><translation>MAP</translation></message>
+    <message id="menuFile"><translation>&amp;File</translation></message>
+    <message id="menuHelp"><translation>&amp;Help</translation></message>
+    <message id="menuManual"><translation>&amp;Manual</translation></message>
+    <message id="menuPrint"><translation>&amp;Print …</translation></message>
+    <message id="menuQuit"><translation>&amp;Quit</translation></message>
+    <message id="menuSavePdf"><translation>Save as P&amp;DF …</translation></message>
+    <message id="menuSettings"><translation>&amp;Settings …</translation></message>
+    <message id="minusDay"><translation>Narrow the period by a day at each end</translation></message>
+    <message id="minusDayHint"><translation>Narrow the period by a day at each end (−)</translation></message>
     <message id="monitorClock"><translation>Clock</translation></message>
     <message id="monitorConnected"><translation>Monitor connected</translation></message>
     <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Choose this patient and press Download to fetch the readings.</translation></message>
@@ -229,7 +291,11 @@ mmHg</translation></message>
     <message id="NewPatient"><translation>New patient</translation></message>
     <message id="newPatientButton"><translation>&amp;New</translation></message>
     <message id="newPatientHint"><translation>Enter a new patient (Ctrl+N).</translation></message>
+    <message id="nextComment"><translation>Next comment</translation></message>
+    <message id="nextHint"><translation>Next page (Page Down)</translation></message>
+    <message id="nextPage"><translation>Next page</translation></message>
     <message id="no"><translation>&amp;No</translation></message>
+    <message id="noComments"><translation>No comment yet. Comments are placed on the chart.</translation></message>
     <message id="NoData"><translation>No readings yet</translation></message>
     <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
     <message id="noDisplay"><translation>there is no display to open a window on. Start zel in a desktop session, or use its commands that need no window: see zel --help</translation></message>
@@ -238,18 +304,26 @@ mmHg</translation></message>
     <message id="noHome"><translation>the environment variable HOME names no folder (an absolute path), so there is no place for the data.</translation></message>
     <message id="noID"><translation>none</translation></message>
     <message id="none"><translation>none</translation></message>
+    <message id="noneInPeriod"><translation>No readings in this period</translation></message>
+    <message id="noneInPeriodAdvice"><translation>Pick other dates above, or choose All. Readings without a date are shown when Undated readings is ticked, too.</translation></message>
     <message id="noPatientFound"><translation>No patient found</translation></message>
     <message id="noPatientFoundAdvice"><translation>No name and no ID holds what is searched for.</translation></message>
     <message id="noPatients"><translation>No patients yet</translation></message>
     <message id="noPatientsAdvice"><translation>Press New to enter the first one.</translation></message>
     <message id="noPatientSelected"><translation>No patient selected</translation></message>
+    <message id="NoPrnter"><translation>No printer</translation></message>
+    <message id="NoPrnterMsg"><translation>This computer knows no printer, so nothing can be printed. Please set one up in the system’s settings and try again. To keep the pages as a file, choose File &gt; Save as PDF.</translation></message>
     <message id="notes"><translation>Notes</translation></message>
     <message id="notKnown"><translation>–</translation></message>
+    <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="OpenHelpErrorMsg"><translation>The manual could not be opened. Please check that a program for PDF files is installed and that your home folder can be written.</translation></message>
+    <message id="OpenHelpErrorTitle"><translation>Manual</translation></message>
     <message id="pad"><translation>PAD</translation></message>
     <message id="pageChart"><translation>Chart</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
     <message id="pageReadings"><translation>Readings</translation></message>
+    <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1 has been deleted.</translation></message>
     <message id="patientEditor"><translation>Data of the patient</translation></message>
@@ -266,14 +340,42 @@ mmHg</translation></message>
     <message id="patientsDetail"><translation>Choose a patient, or enter a new one.</translation></message>
     <message id="patientsInputFields"><translation>Family name, given name and ID are needed. Nothing was saved yet; please fill in what is marked.</translation></message>
     <message id="patientTotal"><translation>Patients</translation></message>
+    <message id="pdfFiles"><translation>PDF files (*.pdf)</translation></message>
+    <message id="periodBar"><translation>Period and readings to show</translation></message>
+    <message id="periodBegin"><translation>First day of the period</translation></message>
+    <message id="periodEnd"><translation>Last day of the period</translation></message>
+    <message id="periodFrom"><translation>Fr&amp;om</translation></message>
+    <message id="periodTo"><translation>&amp;to</translation></message>
     <message id="personalData"><translation>Personal data</translation></message>
-    <message id="pp"><translation>PP
-mmHg</translation></message>
+    <message id="pp"><translation>PP</translation></message>
+    <message id="previewNoPage"><translation>There is no page: this section holds no data for this patient and period.</translation></message>
+    <message id="previewView"><translation>Page preview</translation></message>
+    <message id="previousComment"><translation>Previous comment</translation></message>
+    <message id="previousHint"><translation>Previous page (Page Up)</translation></message>
+    <message id="previousPage"><translation>Previous page</translation></message>
+    <message id="print"><translation>Print</translation></message>
+    <message id="printAddAddress"><translation>Print the practitioner’s details at the foot of each page</translation></message>
+    <message id="printButton"><translation>&amp;Print</translation></message>
+    <message id="printDetails"><translation>Practitioner’s &amp;details</translation></message>
+    <message id="printDetailsHint"><translation>Prints the practitioner’s lines from the settings at the foot of each page.</translation></message>
+    <message id="printDone"><translation>Handed over to the printer %1</translation></message>
+    <message id="printer"><translation>Printer</translation></message>
+    <message id="printerButton"><translation>P&amp;rinter …</translation></message>
+    <message id="printerGone"><translation>The printer “%1” is not there any more, so nothing was printed. Please check that it is switched on and connected, or choose another one.</translation></message>
+    <message id="printerLabel"><translation>P&amp;rinter</translation></message>
+    <message id="printerShown"><translation>Printer: %1</translation></message>
+    <message id="printFailed"><translation>The pages could not be handed over to the printer “%1”. Please check its queue and that the disk is not full, then try again.</translation></message>
+    <message id="printNoData"><translation>There is nothing to print: this section holds no data for this patient and period.</translation></message>
+    <message id="printNoPatient"><translation>There is no patient whose report could be printed. Please choose or enter one first.</translation></message>
+    <message id="printOption"><translation>Section to print</translation></message>
+    <message id="printOptionLabel"><translation>&amp;Section</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
     <message id="programPurpose"><translation>Blood pressure readings, from the monitor to your records</translation></message>
     <message id="programVersion"><translation>Version %1</translation></message>
     <message id="ProgressPatientInfo"><translation>%1 %2 (ID %3)</translation></message>
     <message id="ProgressProcessInfo"><translation>%1 of %2 readings</translation></message>
+    <message id="pulseChart"><translation>Pulse over time, with the comments</translation></message>
+    <message id="pulseScroller"><translation>Move the pulse scale</translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="readingList"><translation>List of readings</translation></message>
     <message id="readingsFromTo"><translation>%1, from %2 to %3</translation></message>
@@ -282,11 +384,15 @@ mmHg</translation></message>
     <message id="riskFactors"><translation>Risk factors</translation></message>
     <message id="sameID"><translation>The ID %1 belongs to another patient of the list. Nothing was saved yet; please choose another ID.</translation></message>
     <message id="sameIDTitle"><translation>ID taken</translation></message>
+    <message id="savedPdf"><translation>Saved as %1</translation></message>
     <message id="SavePatient"><translation>Save patient</translation></message>
     <message id="savePatientButton"><translation>Sa&amp;ve</translation></message>
     <message id="savePatientHint"><translation>Save what was typed (Ctrl+S).</translation></message>
+    <message id="savePdf"><translation>Save as PDF</translation></message>
+    <message id="savePdfButton"><translation>Save as PD&amp;F …</translation></message>
     <message id="searchPatients"><translation>Search name or ID</translation></message>
     <message id="searchPatientsHint"><translation>Show only the patients whose name or ID holds this (Ctrl+F).</translation></message>
+    <message id="selectAllRows"><translation>Select all</translation></message>
     <message id="sendClock"><translation>Set the monitor’s clock to this computer’s time</translation></message>
     <message id="sendClockBusy"><translation>Setting the clock …</translation></message>
     <message id="sendClockButton"><translation>Set the &amp;clock</translation></message>
@@ -310,9 +416,9 @@ mmHg</translation></message>
     <message id="settingMAP"><translation>Show the mean arterial pressure</translation></message>
     <message id="settingMAPButton"><translation>&amp;Mean arterial pressure (MAP)</translation></message>
     <message id="settingOK"><translation>Save the settings</translation></message>
-    <message id="settingPhysician"><translation>Practitioner, for the head of printed reports</translation></message>
+    <message id="settingPhysician"><translation>Practitioner, for the foot of printed reports</translation></message>
     <message id="settingPhysicianTitle"><translation>Practitioner</translation></message>
-    <message id="settingPhysicianUse"><translation>Stands at the head of printed reports.</translation></message>
+    <message id="settingPhysicianUse"><translation>Stands at the foot of printed reports, where the print window asks for it.</translation></message>
     <message id="settingPP"><translation>Show the pulse pressure</translation></message>
     <message id="settingPPButton"><translation>&amp;Pulse pressure (PP)</translation></message>
     <message id="settingPPorMAP"><translation>Show with each reading</translation></message>
@@ -330,7 +436,26 @@ mmHg</translation></message>
     <message id="settingWHO"><translation>Use the limits of the World Health Organization</translation></message>
     <message id="settingWHOButton"><translation>&amp;WHO limits (140/90)</translation></message>
     <message id="settingWHOHint"><translation>Sets both limits to those of the World Health Organization: 140 and 90 mmHg.</translation></message>
+    <message id="show afib readings"><translation>Show AFib</translation></message>
+    <message id="show ihd readings"><translation>Show IHD</translation></message>
+    <message id="show pad readings"><translation>Show PAD</translation></message>
+    <message id="showCorrelation"><translation>Correlation</translation></message>
+    <message id="showGraph"><translation>Chart</translation></message>
+    <message id="showHistogram"><translation>Histogram</translation></message>
+    <message id="showMam"><translation>Show MAM</translation></message>
+    <message id="sideButton"><translation>Statistics and comments</translation></message>
     <message id="sideColumn"><translation>Monitor and data</translation></message>
+    <message id="sideHint"><translation>Show or hide the statistics and the comments beside the readings.</translation></message>
+    <message id="spokenDia"><translation>Diastolic pressure, mmHg</translation></message>
+    <message id="spokenFrequent"><translation>%1: most often %2 to %3, in %4 percent of the readings.</translation></message>
+    <message id="spokenMap"><translation>Mean arterial pressure, mmHg</translation></message>
+    <message id="spokenMeasure"><translation>%1: average %2, lowest %3, highest %4.</translation></message>
+    <message id="spokenPP"><translation>Pulse pressure, mmHg</translation></message>
+    <message id="spokenPulse"><translation>Pulse per minute</translation></message>
+    <message id="spokenSys"><translation>Systolic pressure, mmHg</translation></message>
+    <message id="statisticAll"><translation>All days with readings</translation></message>
+    <message id="statisticAllHint"><translation>Take the whole time from the first reading to the last. To take a part of it, pick other dates above.</translation></message>
+    <message id="statisticPanel"><translation>Statistics</translation></message>
     <message id="statusConnected"><translation>Monitor connected</translation></message>
     <message id="statusNotConnected"><translation>No monitor</translation></message>
     <message id="stepProgress"><translation>%1 of %2 files</translation></message>
@@ -341,18 +466,97 @@ mmHg</translation></message>
     <message id="tabPatients"><translation>&amp;Patients</translation></message>
     <message id="tabReadings"><translation>&amp;Readings</translation></message>
     <message id="tabShown"><translation>shown now</translation></message>
+    <message id="timeScroller"><translation>Move the period through the readings</translation></message>
+    <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl it widens and narrows the period.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
+    <message id="valueMmHg"><translation>%1 mmHg</translation></message>
+    <message id="valuePulse"><translation>%1 per minute</translation></message>
+    <message id="viewAll"><translation>&amp;All</translation></message>
+    <message id="viewAllHint"><translation>All readings, from the first day to the last.</translation></message>
+    <message id="viewAM"><translation>A&amp;M</translation></message>
+    <message id="viewAMHint"><translation>The readings before noon, of all days.</translation></message>
+    <message id="viewPM"><translation>&amp;PM</translation></message>
+    <message id="viewPMHint"><translation>The readings from noon on, of all days.</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
 </context>
 <context>
+    <name>chart</name>
+    <message id="average"><translation>Average</translation></message>
+    <message id="dia"><translation>DIA</translation></message>
+    <message id="dia too high"><translation>Diastolic too high</translation></message>
+    <message id="evening"><translation>Evening</translation></message>
+    <message id="max"><translation>Max</translation></message>
+    <message id="min"><translation>Min</translation></message>
+    <message id="mmHg"><translation>mmHg</translation></message>
+    <message id="morning"><translation>Morning</translation></message>
+    <message id="normal"><translation>Normal</translation></message>
+    <message id="P/min"><translation>1/min</translation></message>
+    <message id="pulse"><translation>Pulse</translation></message>
+    <message id="sys"><translation>SYS</translation></message>
+    <message id="sys and dia too high"><translation>Both too high</translation></message>
+    <message id="sys too high"><translation>Systolic too high</translation></message>
+</context>
+<context>
+    <name>report</name>
+    <message id="appDescrption"><translation>Blood-pressure report by ZEL</translation></message>
+    <message id="comment"><translation>Comments</translation></message>
+    <message id="comments"><translation>Comments</translation></message>
+    <message id="correlation"><translation>Systolic against diastolic pressure</translation></message>
+    <message id="date"><translation>Date</translation></message>
+    <message id="graph"><translation>Blood-pressure and pulse chart</translation></message>
+    <message id="histogram"><translation>Distribution of the readings</translation></message>
+    <message id="mam"><translation>MAM</translation></message>
+    <message id="No"><translation>No</translation></message>
+    <message id="PatientProfile"><translation>Patient profile</translation></message>
+    <message id="reportAverage"><translation>average of several measurements</translation></message>
+    <message id="reportBlue"><translation>Blue</translation></message>
+    <message id="reportBothAbove"><translation>Both above: %1</translation></message>
+    <message id="reportCorrelationNote"><translation>Each square is a reading, or several with the same values, in mmHg; the lines are the limits.</translation></message>
+    <message id="reportDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
+    <message id="reportDiaAbove"><translation>Only diastolic above: %1</translation></message>
+    <message id="reportDocument"><translation>Blood-pressure report: %1 (%2)</translation></message>
+    <message id="reportEveningOnly"><translation>Only readings from noon on are shown</translation></message>
+    <message id="reportFindingUnknown"><translation>N.A. not known</translation></message>
+    <message id="reportFound"><translation>detected</translation></message>
+    <message id="reportGraphComments"><translation>Numbered boxes: comments.</translation></message>
+    <message id="reportGraphDownloads"><translation>↓: day of a download.</translation></message>
+    <message id="reportGraphNote"><translation>Upper line: systolic pressure, lower line: diastolic pressure. Dashed lines: the limits of %1.</translation></message>
+    <message id="reportGrey"><translation>Grey</translation></message>
+    <message id="reportHistogramNote"><translation>The length of a bar is the share of all readings, in percent, that lie within its 10 mmHg or 10 beats per minute.</translation></message>
+    <message id="reportKeepLimits"><translation>At or below the limits of %1: %2</translation></message>
+    <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
+    <message id="reportMorningOnly"><translation>Only readings before noon are shown</translation></message>
+    <message id="reportNoData"><translation>There is nothing to print: the chosen sections hold no data for this patient and period. No file was written.</translation></message>
+    <message id="reportNotFound"><translation>not detected</translation></message>
+    <message id="reportNotPainted"><translation>The pages could not be turned into a PDF. No file was written.</translation></message>
+    <message id="reportNotWritable"><translation>The file %1 could not be written. Please check that its folder is there and that you may write in it.</translation></message>
+    <message id="reportOrange"><translation>Orange</translation></message>
+    <message id="reportOtherMarks"><translation>↓ yellow: day of a download.   n.a.: day without a reading.   Bars: comments, by number.</translation></message>
+    <message id="reportOutsideScale" numerus="yes"><translation><numerusform>%n reading lies outside the scales (%1 mmHg, %2 beats per minute) and is not shown whole.</numerusform><numerusform>%n readings lie outside the scales (%1 mmHg, %2 beats per minute) and are not shown whole.</numerusform></translation></message>
+    <message id="reportPage"><translation>Page %1 of %2</translation></message>
+    <message id="reportPatient"><translation>Patient Name=%1 %2  ID=%3</translation></message>
+    <message id="reportPeriod"><translation>From: %1 To: %2</translation></message>
+    <message id="reportReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
+    <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
+    <message id="reportYears"><translation>years</translation></message>
+    <message id="reportYellow"><translation>Yellow</translation></message>
+    <message id="SWStatistics"><translation>Statistics and readings</translation></message>
+    <message id="table"><translation>Readings</translation></message>
+    <message id="time"><translation>Time</translation></message>
+    <message id="Yes"><translation>Yes</translation></message>
+</context>
+<context>
     <name>cli</name>
     <message id="CliAddMissing"><translation>--id, --family-name and --given-names go with --add.</translation></message>
+    <message id="CliAmAndPm"><translation>Give either --am or --pm, not both.</translation></message>
     <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
     <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
+    <message id="CliBadPaper"><translation>--paper needs A4 or Letter, not '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait needs a whole number of seconds from 0 to %1.</translation></message>
     <message id="CliClockUnread"><translation>The monitor's clock could not be read. %1</translation></message>
     <message id="CliClockUnset"><translation>The monitor's clock could not be set. %1</translation></message>
@@ -377,6 +581,8 @@ Without a command a window opens. The commands do the same jobs without one, on 
   patients   list the patients, or add one
   download   store the monitor's readings for a patient
   readings   print a patient's readings
+  statistics print the averages, minima and maxima of a patient's readings
+  report     write a patient's report as a PDF
   export-xml export all patients, or one, as XML files
   export-csv export a patient and the readings as a CSV file
   import     take in patients from exported XML files
@@ -460,17 +666,45 @@ Options:
   --given-names NAMES          the given names
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
-    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY]
+    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY] [--am | --pm] [--undated]
 
 Prints a patient's readings as CSV, the oldest first, with the header
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Pressures are in mmHg, the pulse in beats per minute.
-A reading that the monitor stored without a date has n.a and --:-- instead; it is left out when a period
-is given.
+A reading that the monitor stored without a date has n.a and --:-- instead; it is left out when a period,
+--am or --pm is given, unless --undated is given, too. A day without readings that a comment covers has a
+line with its date, and n.a. for the rest.
 
 Options:
   --patient ID                 whose readings
   --from DAY                   only from this day on (yyyy-MM-dd)
   --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --am                         only the readings before noon
+  --pm                         only the readings from noon on
+  --undated                    also the readings without a date
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpReport"><translation>Usage: zel report --patient ID --section KEY[,KEY...] --output FILE.pdf [OPTION]...
+
+Writes a patient's report as a PDF, replacing FILE.pdf if it is there, and prints 'written: FILE.pdf'.
+
+Sections:
+  graph                        blood-pressure and pulse chart
+  PatientProfile               the patient's data and notes
+  histogram                    how the values are distributed
+  correlation                  systolic against diastolic pressure
+  table                        the readings
+  comment                      the comments
+  SWStatistics                 averages, limits and the readings
+  all                          all of them, in this order
+
+Options:
+  --patient ID                 whose report
+  --section KEY[,KEY...]       what to print, in the order given
+  --from yyyy-MM-dd            the first day of the reporting period (that of the first reading unless told)
+  --to yyyy-MM-dd              the last day of it (that of the last reading unless told)
+  --practitioner               print the practitioner's details, from the settings, at the foot
+  --paper A4|Letter            the paper (A4 unless told)
+  --output FILE.pdf            the file to write
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpSettings"><translation>Usage: zel settings
@@ -493,6 +727,19 @@ Options:
   --set KEY=VALUE              change a setting; may be given several times
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
+    <message id="CliHelpStatistics"><translation>Usage: zel statistics --patient ID [--from DAY] [--to DAY] [--undated]
+
+Prints the average, the minimum and the maximum of a patient's readings, a measure a line:
+'sys: AVERAGE MIN MAX', then dia, pulse, and map or pp as the settings say. Pressures are in mmHg, the
+pulse in beats per minute. Where there is no reading, each is n/a.
+
+Options:
+  --patient ID                 whose readings
+  --from DAY                   only from this day on (yyyy-MM-dd)
+  --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --undated                    also the readings without a date
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
     <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
     <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
     <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
@@ -505,6 +752,7 @@ Options:
     <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
     <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
+    <message id="CliNoSuchSection"><translation>There is no section '%1'. The sections are all, or any of %2, with commas between them.</translation></message>
     <message id="CliOneJob"><translation>Only one of --set-clock, --send-id and --erase can be done at a time.</translation></message>
     <message id="CliOptionMissing"><translation>--%1 is missing, or its value is empty.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 is given more than once.</translation></message>

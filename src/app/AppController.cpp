@@ -3,6 +3,7 @@
 #include "app/GraphViewController.h"
 #include "app/Log.h"
 #include "app/PatientViewController.h"
+#include "app/PrintController.h"
 #include "app/ProgressWindowController.h"
 #include "app/SettingController.h"
 #include "app/SplashWindow.h"
@@ -11,23 +12,32 @@
 
 #include <QApplication>
 #include <QShortcut>
+#include <QStandardPaths>
 
 namespace zel {
+
+using namespace Qt::StringLiterals;
 
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.session),
       watch({needed.monitor, needed.session, needed.store, needed.panel, needed.clock}, times.polling),
       patientPage(new PatientViewController(
           {needed.store, needed.session, needed.monitor, needed.panel, needed.clock})),
-      graphPage(new GraphViewController(needed.store)),
-      tablePage(new TableViewController(needed.store, needed.session)), pages{patientPage, graphPage,
-                                                                              tablePage} {
+      graphPage(new GraphViewController({needed.store, needed.period, needed.panel})),
+      tablePage(new TableViewController({needed.store, needed.session, needed.period, needed.panel})),
+      pages{patientPage, graphPage, tablePage} {
     for (PageController* page : pages)
         window.addPage(*page);
     connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
     connect(&window, &MainWindow::settingWanted, this, &AppController::showSetting);
+    connect(&window, &MainWindow::printWanted, this, &AppController::showPrint);
+    connect(&window, &MainWindow::pdfWanted, this, &AppController::showSavePdf);
+    connect(&window, &MainWindow::helpWanted, this, &AppController::showHelp);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
+    connect(&parts.store, &DataStore::currentIDChanged, this, &AppController::changeUser);
+    connect(&parts.store, &DataStore::reloaded, this,
+            [this] { parts.period.refreshDataPeriod(parts.store.getReadingForCurID()); });
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
@@ -81,6 +91,8 @@ void AppController::displayViewController(PageController& controller, int tabTag
     }
     PageController& left = *pages.at(static_cast<std::size_t>(window.pageInView()));
     if (&left != &controller && !left.leave()) return showPageInView();
+    if (parts.period.isChangeUser())
+        parts.period.setCurrentReadingTimePeriod(parts.store.getReadingForCurID());
     window.showPage(controller);
     controller.LoadData();
 }
@@ -120,11 +132,23 @@ void AppController::transferFinished(const DownloadOutcome& outcome) {
 }
 
 void AppController::displayAfterDataTransfer() {
+    parts.period.setChangeUser(true);
     changeTab(1);
     graphPage->switchToGraph();
 }
 
+/// Another patient is shown, over the default period of the data.
+void AppController::changeUser() {
+    parts.period.setChangeUser(true);
+    parts.period.setCurrentReadingTimePeriod(parts.store.getReadingForCurID());
+}
+
+void AppController::checkToSaveComment() {
+    pages.at(static_cast<std::size_t>(window.pageInView()))->checkToSaveComment();
+}
+
 void AppController::showSetting() {
+    checkToSaveComment();
     if (!settings) {
         settings = new SettingController(
             {parts.store, parts.session, parts.monitor, parts.panel, parts.chooser}, &window);
@@ -132,6 +156,41 @@ void AppController::showSetting() {
         connect(settings, &SettingController::imported, this, &AppController::reload);
     }
     settings->showSetting();
+}
+
+void AppController::showPrint() {
+    checkToSaveComment();
+    if (parts.printers.names().isEmpty())
+        return parts.panel.ShowMessage(qtTrId("NoPrnterMsg"), qtTrId("NoPrnter"));
+    showPrintPreview(PrintPurpose::printer);
+}
+
+void AppController::showSavePdf() {
+    checkToSaveComment();
+    showPrintPreview(PrintPurpose::pdf);
+}
+
+void AppController::showPrintPreview(PrintPurpose purpose) {
+    if (!printController) {
+        printController = new PrintController(
+            {parts.store, parts.period, parts.clock, parts.panel, parts.chooser, parts.printers}, &window);
+        connect(printController, &PrintController::said, &window, &MainWindow::showOutcome);
+    }
+    ScreenViews views{.drawViewState = graphPage->drawViewState(),
+                      .getShowMam = tablePage->getShowMam(),
+                      .getShowPad = tablePage->getShowPad(),
+                      .isMonitorAFib = parts.session.state().isAFib};
+    graphPage->setupDrawChart(views.lowerChart, views.bloodChart);
+    printController->showPrintPreview(window.pageInView(), views, purpose);
+}
+
+void AppController::showHelp() {
+    checkToSaveComment();
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    const QString path = unpackHelp(u":/help.pdf"_s, cache);
+    qCInfo(lcApp, "showHelp %s", qUtf8Printable(path));
+    if (path.isEmpty() || !parts.openDocument(path))
+        parts.panel.ShowMessage(qtTrId("OpenHelpErrorMsg"), qtTrId("OpenHelpErrorTitle"));
 }
 
 void AppController::reload() {
@@ -149,12 +208,15 @@ void AppController::UpdateUIBySetting() {
 }
 
 void AppController::closeApplicaiton() {
+    if (!graphPage->leave() || !tablePage->leave()) return;
     if (patientPage->settle()) return terminate();
     if (!patientPage->isVisible()) changeTab(0); // what is still to be settled is there
 }
 
 void AppController::terminate() {
     isClosing = true;
+    for (PageController* page : pages)
+        page->saveQuietly();
     parts.monitor.stop();
     emit closed();
 }

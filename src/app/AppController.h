@@ -1,10 +1,13 @@
 #pragma once
 
+#include "analysis/DisplayPeriod.h"
 #include "app/FileChooser.h"
+#include "app/HelpDocument.h"
 #include "app/MainWindow.h"
 #include "app/MonitorSession.h"
 #include "app/MonitorWatch.h"
 #include "app/MonitorWorker.h"
+#include "app/Printers.h"
 #include "store/DataStore.h"
 
 #include <array>
@@ -14,10 +17,12 @@ namespace zel {
 
 class GraphViewController;
 class PatientViewController;
+class PrintController;
 class ProgressWindowController;
 class SettingController;
 class SplashWindow;
 class TableViewController;
+enum class PrintPurpose;
 struct DownloadOutcome;
 
 /// The main window's controller: start-up, the switch between the pages, the download, quitting.
@@ -31,6 +36,9 @@ public:
         MessagePanel& panel;
         const Clock& clock;
         FileChooser& chooser;
+        DisplayPeriod& period;
+        Printers& printers;
+        DocumentOpener openDocument;
     };
     struct Timing {
         std::chrono::milliseconds polling{2000};
@@ -54,6 +62,9 @@ public:
     void dataTransfer();
     void displayAfterDataTransfer();
     void showSetting();
+    void showPrint();
+    void showSavePdf();
+    void showHelp();
     void savePatient();
     /// Quits, unless what was typed is to be saved and cannot be.
     void closeApplicaiton(); // spelled so in the interface
@@ -66,6 +77,9 @@ private:
     void showPageInView();
     void UpdateUIBySetting();
     void reload();
+    void changeUser();
+    void checkToSaveComment();
+    void showPrintPreview(PrintPurpose purpose);
     void transferFinished(const DownloadOutcome& outcome);
 
     Parts parts;
@@ -78,6 +92,7 @@ private:
     std::array<PageController*, MainWindow::tabTotal> pages;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise
+    PrintController* printController = nullptr;         ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     bool isClosing = false;

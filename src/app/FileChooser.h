@@ -5,8 +5,8 @@
 
 namespace zel {
 
-/// How the user picks the folder of an export and the files of an import. The window shows dialogs, tests
-/// script the answers.
+/// How the user picks the folder of an export, the files of an import and the file of a report. The window
+/// shows dialogs, tests script the answers.
 class FileChooser {
 public:
     virtual ~FileChooser() = default;
@@ -14,6 +14,9 @@ public:
     [[nodiscard]] virtual QString chooseFolder(QWidget* owner, const QString& title) = 0;
     /// \return the full paths of patients' XML files; empty when the user chose none
     [[nodiscard]] virtual QStringList chooseFiles(QWidget* owner) = 0;
+    /// \p name is proposed. The user has agreed to the replacement of a file that is there.
+    /// \return the full path of the PDF to write; empty when the user chose none
+    [[nodiscard]] virtual QString choosePdf(QWidget* owner, const QString& title, const QString& name) = 0;
 };
 
 } // namespace zel

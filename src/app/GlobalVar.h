@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/DisplayPeriod.h"
 #include "app/AppController.h"
 #include "app/MessageBoxPanel.h"
 #include "app/MonitorSession.h"
@@ -16,7 +17,9 @@ class GlobalVar {
 public:
     GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock)
         : port(std::move(monitorPort)), store(std::move(paths), clock), loaded(store.load()),
-          monitor(*port, clock), appController({store, session, monitor, panel, clock, chooser}, {}) {
+          monitor(*port, clock), period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
+          appController({store, session, monitor, panel, clock, chooser, period, printers, openWithDesktop},
+                        {}) {
         panel.setWindow(&appController.mainWndow());
     }
 
@@ -27,6 +30,8 @@ public:
     MonitorWorker monitor;
     MessageBoxPanel panel;
     SelectFolderController chooser;
+    DisplayPeriod period;
+    SystemPrinters printers;
     AppController appController;
 };
 

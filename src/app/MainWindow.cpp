@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/DataPanel.h"
+#include "app/MainMenu.h"
 #include "app/MonitorPanel.h"
 #include "app/PageController.h"
 
@@ -40,6 +41,7 @@ MainWindow::MainWindow(const DataStore& store, const MonitorSession& monitorSess
     column->addWidget(makeTabBar());
     column->addLayout(body, 1);
     setCentralWidget(central);
+    setMenuBar(makeMainMenu(*this));
     makeStatusLine();
     makeShortcuts();
 }
@@ -84,8 +86,6 @@ QWidget* MainWindow::makeSettingButton() {
     button->setFocusPolicy(Qt::StrongFocus);
     button->setCursor(Qt::PointingHandCursor);
     connect(button, &QToolButton::clicked, this, &MainWindow::settingWanted);
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma), this), &QShortcut::activated, this,
-            &MainWindow::settingWanted);
     return button;
 }
 
@@ -131,8 +131,6 @@ void MainWindow::makeShortcuts() {
     for (std::size_t tag = 0; tag < keys.size(); ++tag)
         connect(new QShortcut(QKeySequence(Qt::CTRL | keys.at(tag)), this), &QShortcut::activated,
                 tabs.at(tag), &TabButton::click);
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this), &QShortcut::activated, this,
-            &MainWindow::closeWanted);
 }
 
 void MainWindow::showMonitor() {

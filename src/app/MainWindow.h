@@ -40,6 +40,9 @@ public:
 signals:
     void tabWanted(int tabTag);
     void settingWanted();
+    void printWanted();
+    void pdfWanted();
+    void helpWanted();
     void closeWanted();
 
 protected:

@@ -17,6 +17,10 @@ public:
     virtual void setHWButtons(bool connected) = 0;
     /// Settles what has been typed on the page. \return false if it is not to be left
     [[nodiscard]] virtual bool leave() { return true; }
+    /// A comment that is being edited is saved; before a command that others' data depend on.
+    virtual void checkToSaveComment() {}
+    /// The program is ended from outside: saves what is being edited if it can, and tells nobody.
+    virtual void saveQuietly() {}
 };
 
 } // namespace zel

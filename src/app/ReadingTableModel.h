@@ -1,42 +1,54 @@
 #pragma once
 
+#include "analysis/ReadingSelection.h"
 #include "store/DataStore.h"
 
 #include <QAbstractTableModel>
 
-#include <cstddef>
 #include <vector>
 
 namespace zel {
 
-/// The current patient's readings by date; readings of one instant keep their stored order. Texts are made
-/// when a row is shown.
+/// The list of readings that the page shows, a copy: the store's own are replaced with each load. Texts are
+/// made when a row is shown.
 class ReadingTableModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
     explicit ReadingTableModel(const DataStore& readings, QObject* parent = nullptr);
 
-    enum Column { date, time, sys, dia, pulse, mapOrPP, mam, mark, columnTotal };
+    enum Column { date, time, sys, dia, pulse, mapOrPP, mam, mark, comment, columnTotal };
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// The readings were read anew, or are another patient's.
-    void reload();
+    /// Assembles the list anew. Nothing of the store is kept.
+    void reload(const ReadingSelection& selection);
     [[nodiscard]] bool isAFib() const { return anyAFib; } ///< some reading of the list is from such a model
     [[nodiscard]] bool isPad() const { return anyPad; }
     void setMarkTitle(const QString& title);
+    /// The settings may have changed, on which texts and titles depend.
     void refreshTexts();
+    [[nodiscard]] const ReadingModel& row(int number) const;
+    /// The row is the first of its comment's.
+    [[nodiscard]] bool beginsComment(int number) const;
+    /// What the cell says, in words: for the clipboard and for who cannot see its circles.
+    [[nodiscard]] QString words(const QModelIndex& index) const;
 
 private:
     [[nodiscard]] QString text(const ReadingModel& reading, Column column) const;
+    [[nodiscard]] QString spoken(const QModelIndex& index) const;
 
     const DataStore& store;
-    std::vector<const ReadingModel*> rows;
+    std::vector<ReadingModel> rows;
+    std::vector<CommentModel> comments; ///< that the rows point at
     QString markTitle;
     bool anyAFib = false;
     bool anyPad = false;
 };
+
+/// The rows as lines of cells with tabs between them, titles first, of the given columns.
+[[nodiscard]] QString tabSeparated(const ReadingTableModel& model, const std::vector<int>& rows,
+                                   const std::vector<int>& columns);
 
 } // namespace zel

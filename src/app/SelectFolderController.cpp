@@ -8,6 +8,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 SelectFolderController::SelectFolderController()
     : folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {}
 
@@ -23,6 +25,17 @@ QStringList SelectFolderController::chooseFiles(QWidget* owner) {
     if (!QDir(folder).exists()) folder = QDir::homePath();
     ImportFileDialog dialog(*this, folder, owner);
     return dialog.exec() == QDialog::Accepted ? dialog.chosenFiles() : QStringList();
+}
+
+QString SelectFolderController::choosePdf(QWidget* owner, const QString& title, const QString& name) {
+    if (!QDir(folder).exists()) folder = QDir::homePath();
+    QFileDialog dialog(owner, title, folder, qtTrId("pdfFiles"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"pdf"_s); // before it asks about a file that is there
+    dialog.selectFile(name);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    folder = dialog.directory().absolutePath();
+    return dialog.selectedFiles().value(0);
 }
 
 } // namespace zel

@@ -4,6 +4,7 @@
 #include "cli/Usage.h"
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
+#include "report/TextApplication.h"
 #include "store/SystemLog.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,13 @@ AttachedMonitor attachMonitor(const std::optional<QString>& simulated, const Clo
     return std::make_unique<HidPort>();
 }
 
+/// A report is painted; the other commands do without what that takes.
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
+    const QString word = takeSimulatedMonitor(argumentsOf(argc, argv)).words.value(0);
+    if (word == "report"_L1) return makeTextApplication(argc, argv);
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 /// A script reads the results; it wants words about what went wrong, not about what went well.
 void quietLog() {
     installSystemLog();
@@ -49,7 +57,7 @@ bool isCommand(int argc, char** argv) {
 int run(int argc, char** argv) {
     // The same output in every environment; Qt, too, wants a UTF-8 locale and would speak up about another.
     qputenv("LC_ALL", "C.UTF-8");
-    const QCoreApplication application(argc, argv);
+    const auto application = makeApplication(argc, argv);
     quietLog();
     QTranslator texts;
     if (texts.load(u":/zel_en.qm"_s)) QCoreApplication::installTranslator(&texts);

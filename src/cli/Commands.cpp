@@ -47,9 +47,9 @@ void printLine(std::ostream& stream, const QString& text) {
     stream << text.toStdString() << '\n' << std::flush;
 }
 
-std::array<Command, 8> commands() {
-    return {monitorCommand(),   patientsCommand(),  downloadCommand(), readingsCommand(),
-            exportXmlCommand(), exportCsvCommand(), importCommand(),   settingsCommand()};
+std::array<Command, 10> commands() {
+    return {monitorCommand(), patientsCommand(),  downloadCommand(),  readingsCommand(), statisticsCommand(),
+            reportCommand(),  exportXmlCommand(), exportCsvCommand(), importCommand(),   settingsCommand()};
 }
 
 std::optional<Command> commandByName(const QString& name) {

@@ -16,10 +16,12 @@ namespace zel::cli {
 [[nodiscard]] Command monitorCommand();
 [[nodiscard]] Command patientsCommand();
 [[nodiscard]] Command readingsCommand();
+[[nodiscard]] Command reportCommand();
 [[nodiscard]] Command settingsCommand();
+[[nodiscard]] Command statisticsCommand();
 
 /// Every command, in the order in which the help lists them.
-[[nodiscard]] std::array<Command, 8> commands();
+[[nodiscard]] std::array<Command, 10> commands();
 [[nodiscard]] std::optional<Command> commandByName(const QString& name);
 
 /// Does what \p arguments (without the program's name) ask for. \return the exit status

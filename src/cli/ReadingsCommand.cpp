@@ -1,12 +1,12 @@
+#include "analysis/ReadingRows.h"
 #include "cli/Commands.h"
 #include "cli/Csv.h"
 #include "cli/OpenStore.h"
+#include "cli/PeriodOptions.h"
 #include "cli/Usage.h"
 #include "store/RecordXml.h"
 
-#include <QDate>
-
-#include <algorithm>
+#include <QTime>
 
 namespace zel::cli {
 
@@ -14,67 +14,61 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The days asked for, both included; either may be left open.
-struct Period {
-    std::optional<QDate> from;
-    std::optional<QDate> to;
-};
+constexpr qsizetype columns = 9;
 
-tl::expected<std::optional<QDate>, Failure> dayOption(const Request& request, const QString& option) {
-    if (!request.options.isSet(option)) return std::nullopt;
-    const QString text = request.options.value(option);
-    const QDate day = QDate::fromString(text, u"yyyy-MM-dd"_s);
-    if (day.isValid() && day.toString(u"yyyy-MM-dd"_s) == text) return day;
-    return wrongUsage(qtTrId("CliBadDate").arg(option, text));
+tl::expected<ViewSelection, Failure> viewOption(const Request& request) {
+    const bool am = request.options.isSet(u"am"_s);
+    const bool pm = request.options.isSet(u"pm"_s);
+    if (am && pm) return wrongUsage(qtTrId("CliAmAndPm"));
+    if (am) return ViewSelection::amOnly;
+    return pm ? ViewSelection::pmOnly : ViewSelection::viewAll;
 }
 
-tl::expected<Period, Failure> periodOf(const Request& request) {
-    const auto from = dayOption(request, u"from"_s);
-    if (!from) return tl::unexpected(from.error());
-    const auto to = dayOption(request, u"to"_s);
-    if (!to) return tl::unexpected(to.error());
-    if (*from && *to && **from > **to) return wrongUsage(qtTrId("CliFromAfterTo"));
-    return Period{*from, *to};
-}
-
-/// A reading without a date belongs to no period; it is listed when none is asked for.
-bool isIn(const Period& period, const ReadingModel& reading) {
-    if (!period.from && !period.to) return true;
-    if (reading.isUndated()) return false;
-    const QDate day = QDate(1970, 1, 1).addDays(reading.day);
-    return (!period.from || *period.from <= day) && (!period.to || day <= *period.to);
-}
-
-QString line(const ReadingModel& reading) {
+QStringList fields(const ReadingModel& reading) {
     const bool undated = reading.isUndated();
-    QStringList fields{undated ? u"n.a"_s : DateToStr(reading.ReadingDate, u"yyyy-MM-dd"_s),
-                       undated ? u"--:--"_s : DateToStr(reading.ReadingDate, u"HH:mm"_s)};
+    QStringList fields{undated ? u"n.a"_s : dayText(reading.day, u"yyyy-MM-dd"_s),
+                       undated ? u"--:--"_s
+                               : QTime(0, 0).addSecs(reading.minuteOfDay * 60).toString(u"HH:mm"_s)};
     for (const std::uint32_t number : {reading.sys, reading.dia, reading.pulse, reading.map, reading.pp})
         fields += toDecimal(number);
-    return csvLine(fields << reading.getMamStr() << reading.getPadStr());
+    return fields << reading.getMamStr() << reading.getPadStr();
 }
 
-void print(const ReadingList& readings, const Period& period, Surroundings& around) {
-    std::vector<const ReadingModel*> listed;
+QString line(const ReadingRow& row) {
+    if (!row.isNA()) return csvLine(fields(*row.reading));
+    return csvLine(QStringList(dayText(row.day, u"yyyy-MM-dd"_s)) + QStringList(columns - 1, u"n.a."_s));
+}
+
+/// Readings that have not even the monitor's mark for no date; no view shows them.
+QStringList withoutAnyDate(const ReadingList& readings) {
+    QStringList lines;
     for (const ReadingModel& reading : readings)
-        if (isIn(period, reading)) listed.push_back(&reading);
-    std::ranges::stable_sort(listed, {}, [](const ReadingModel* reading) { return reading->ReadingDate; });
-    QStringList lines(u"date,time,sys,dia,pulse,map,pp,mam,arrhythmia"_s);
-    for (const ReadingModel* reading : listed)
-        lines += line(*reading);
-    printLine(around.out, lines.join(u'\n'));
+        if (reading.isUndated() && !hasUndatedMarker(reading)) lines += csvLine(fields(reading));
+    return lines;
 }
 
 CommandResult runReadings(const Request& request, Surroundings& around) {
     const auto ID = requiredValue(request, u"patient"_s);
     if (!ID) return tl::unexpected(ID.error());
-    const auto period = periodOf(request);
-    if (!period) return tl::unexpected(period.error());
+    const auto days = dayRange(request);
+    if (!days) return tl::unexpected(days.error());
+    const auto view = viewOption(request);
+    if (!view) return tl::unexpected(view.error());
     const OpenedStore store = openStore(around);
     if (!store) return tl::unexpected(store.error());
     return checkPatient(**store, *ID).map([&] {
         (*store)->setCurrentID(*ID);
-        print((*store)->getReadingForCurID(), *period, around);
+        const ReadingList& readings = (*store)->getReadingForCurID();
+        const bool isAll = days->isOpen() && *view == ViewSelection::viewAll;
+        const ReadingSelection selection{periodOf(*days, readings, around.clock), *view,
+                                         isAll || request.options.isSet(u"undated"_s)};
+        const ReadingRowSource source{readings, (*store)->getCommentForCurID(),
+                                      (*store)->getTrasferLogForCurID(), selection};
+        QStringList lines(u"date,time,sys,dia,pulse,map,pp,mam,arrhythmia"_s);
+        if (isAll) lines += withoutAnyDate(readings);
+        for (const ReadingRow& row : assembleReadingRows(source, LocalZone{}).rows)
+            lines += line(row);
+        printLine(around.out, lines.join(u'\n'));
     });
 }
 
@@ -83,7 +77,8 @@ CommandResult runReadings(const Request& request, Surroundings& around) {
 Command readingsCommand() {
     return {"readings", [] { return qtTrId("CliHelpReadings"); },
             [] {
-                return QList{valued(u"patient"_s), valued(u"from"_s), valued(u"to"_s)};
+                return QList{valued(u"patient"_s), valued(u"from"_s), valued(u"to"_s),
+                             flag(u"am"_s),        flag(u"pm"_s),     flag(u"undated"_s)};
             },
             runReadings};
 }

@@ -39,6 +39,8 @@ bool writeWhole(QSaveFile& file, const QByteArray& content) {
 
 StoreResult replaceFile(const QString& path, const QByteArray& content) {
     const QFileInfo info{path};
+    // A device or a pipe would be gone for good.
+    if (info.exists() && !info.isFile()) return failed(StoreErrorCode::notWritable, path, {});
     const QString target = info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
     QSaveFile file{target};
     file.setDirectWriteFallback(false);

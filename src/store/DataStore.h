@@ -66,8 +66,9 @@ public:
     /// The next free record number: the largest in use, at least the counter's floor, plus 1.
     [[nodiscard]] QString getMaxID(Counter kind) const;
 
-    [[nodiscard]] StoreResult addCommentForCurID(CommentModel comment);
-    [[nodiscard]] StoreResult addCommentToXML(const CommentModel& comment);
+    /// Stores a new comment of the current patient, numbered anew if its number is missing or taken; reloads.
+    /// \return the number it has
+    [[nodiscard]] tl::expected<QString, StoreError> addCommentForCurID(CommentModel comment);
     [[nodiscard]] StoreResult saveCommentToXML(const CommentModel& comment);
     [[nodiscard]] StoreResult deleteSelectedCommentToXML();
     void setSelectedComment(const QString& commentID); ///< null text: none

@@ -166,17 +166,18 @@ DataTransferLogModel DataStore::newDataLog(const Records& stored, std::size_t co
     return entry;
 }
 
-StoreResult DataStore::addCommentForCurID(CommentModel comment) {
+tl::expected<QString, StoreError> DataStore::addCommentForCurID(CommentModel comment) {
     if (IsEmptyID(currentID)) return refused(currentID);
     comment.ID = currentID;
-    return addCommentToXML(comment);
-}
-
-StoreResult DataStore::addCommentToXML(const CommentModel& comment) {
-    return editAndReload([&comment](pugi::xml_node root) {
+    if (comment.CommentID.isEmpty()) comment.CommentID = getMaxID(Records::Counter::comment);
+    // Another program may have used the number since the file was read.
+    const StoreResult added = editAndReload([&comment](pugi::xml_node root) {
+        while (findElement(root, "Comment", "CommentID", comment.CommentID))
+            comment.CommentID = IncreaseID(comment.CommentID);
         insertComment(root, comment);
         return Edit::changed;
     });
+    return added.map([&comment] { return comment.CommentID; });
 }
 
 StoreResult DataStore::saveCommentToXML(const CommentModel& comment) {

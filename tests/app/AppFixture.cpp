@@ -27,6 +27,18 @@ QStringList ScriptedChooser::chooseFiles(QWidget*) {
     return files;
 }
 
+QString ScriptedChooser::choosePdf(QWidget*, const QString&, const QString& name) {
+    asked += name;
+    return pdf;
+}
+
+PrintResult ScriptedPrinters::print(const QString& printer, const PrintView& view, Section section) {
+    if (view.getTotalPages(section) == 0) return PrintResult::noData;
+    if (!known.contains(printer)) return PrintResult::noPrinter;
+    printed += printer + u": "_s + QLatin1StringView(facts(section).key);
+    return PrintResult::printed;
+}
+
 void TestClock::sleep(std::chrono::microseconds duration) {
     if (stands)
         QThread::msleep(1);
@@ -59,6 +71,14 @@ void AppTest::addPatient(const QString& ID, const QString& familyName) {
     ASSERT_TRUE(store.loadXML());
 }
 
+AppController::Parts AppTest::parts() {
+    const auto open = [this](const QString& path) {
+        opened += path;
+        return hasViewer;
+    };
+    return {store, session, *worker, panel, clock, chooser, period, printers, open};
+}
+
 void AppTest::launch() {
     worker.reset(); // of an earlier start
     device = std::make_unique<SimulatedMonitor>(plan, clock);
@@ -66,9 +86,7 @@ void AppTest::launch() {
     port->plugged = startsPlugged;
     worker = std::make_unique<MonitorWorker>(*port, clock);
     using namespace std::chrono_literals;
-    app =
-        std::make_unique<AppController>(AppController::Parts{store, session, *worker, panel, clock, chooser},
-                                        AppController::Timing{.polling = 1ms, .splash = 1ms});
+    app = std::make_unique<AppController>(parts(), AppController::Timing{.polling = 1ms, .splash = 1ms});
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
 }

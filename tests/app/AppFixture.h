@@ -34,10 +34,24 @@ class ScriptedChooser final : public FileChooser {
 public:
     QString chooseFolder(QWidget* owner, const QString& title) override;
     QStringList chooseFiles(QWidget* owner) override;
+    QString choosePdf(QWidget* owner, const QString& title, const QString& name) override;
 
     QString folder;
     QStringList files;
-    QStringList asked; ///< titles; "files" for files
+    QString pdf;
+    QStringList asked; ///< titles; "files" for files, the proposed name for a PDF
+};
+
+/// Printers that the test names, and what was printed on them, as "printer: section".
+class ScriptedPrinters final : public Printers {
+public:
+    QStringList names() const override { return known; }
+    QString defaultName() const override { return known.value(0); }
+    QPageSize paper(const QString&) const override { return QPageSize(QPageSize::A4); }
+    PrintResult print(const QString& printer, const PrintView& view, Section section) override;
+
+    QStringList known;
+    QStringList printed;
 };
 
 /// A clock whose sleeps take no time, or that stands still, so that no deadline is ever reached.
@@ -75,6 +89,7 @@ protected:
     ~AppTest() override;
 
     void addPatient(const QString& ID, const QString& familyName);
+    AppController::Parts parts(); ///< once there is a worker
     /// Starts the program.
     void launch();
     /// Starts the program and waits until the splash screen has gone.
@@ -102,7 +117,11 @@ protected:
     SimulatedMonitorPlan plan;
     ScriptedPanel panel;
     ScriptedChooser chooser;
+    ScriptedPrinters printers;
+    QStringList opened; ///< documents that were handed to the desktop
+    bool hasViewer = true;
     DataStore store;
+    DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
     MonitorSession session;
     std::unique_ptr<SimulatedMonitor> device;
     std::unique_ptr<PluggedPort> port;

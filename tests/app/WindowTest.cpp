@@ -41,9 +41,7 @@ TEST_F(WindowTest, startsInOrderAndAsksTheMonitorNothingBeforeTheSplashHasGone) 
     port = std::make_unique<PluggedPort>(*device);
     worker = std::make_unique<MonitorWorker>(*port, clock);
     using namespace std::chrono_literals;
-    app =
-        std::make_unique<AppController>(AppController::Parts{store, session, *worker, panel, clock, chooser},
-                                        AppController::Timing{.polling = 0ms, .splash = 50ms});
+    app = std::make_unique<AppController>(parts(), AppController::Timing{.polling = 0ms, .splash = 50ms});
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
     int openedUnderSplash = -1;

@@ -75,6 +75,7 @@ TEST_F(CliExchangeTest, UnknownPatientOrFolderIsTold) {
     const QString none = out + u"/none"_s;
     const std::pair<QStringList, const char*> cases[] = {
         {{u"readings"_s, u"--patient"_s, u"nobody"_s}, "'nobody'"},
+        {{u"statistics"_s, u"--patient"_s, u"nobody"_s}, "'nobody'"},
         {{u"download"_s, u"--patient"_s, u"nobody"_s}, "'nobody'"},
         {{u"export-xml"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},
         {{u"export-csv"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},

@@ -1,13 +1,13 @@
+#include "report/TextApplication.h"
 #include "support/Environment.h"
 
-#include <QCoreApplication>
 #include <QTranslator>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     zel::setTestEnvironment();
-    const QCoreApplication application(argc, argv);
+    const auto application = zel::makeTextApplication(argc, argv);
     QTranslator texts;
     if (!texts.load(QStringLiteral(":/zel_en.qm"))) return 1;
     QCoreApplication::installTranslator(&texts);

@@ -48,6 +48,14 @@ TEST_F(AtomicFileTest, SymbolicLinksAreFollowed) {
     EXPECT_EQ(readFile(target).value(), "two");
 }
 
+TEST_F(AtomicFileTest, PipesAndDevicesAreNotReplaced) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    const auto result = replaceFile(path, "one");
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().code, StoreErrorCode::notWritable);
+    EXPECT_FALSE(QFileInfo{path}.isFile());
+}
+
 TEST_F(AtomicFileTest, DiskThatFillsUpLeavesTheFileAsItWas) {
     ASSERT_TRUE(replaceFile(path, "one"));
     for (const rlim_t limit : {rlim_t{0}, rlim_t{4096}, rlim_t{99'999}}) {

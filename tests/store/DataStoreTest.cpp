@@ -278,8 +278,9 @@ TEST_F(DataStoreTest, NumbersOfRecordsWithoutAPatientAreTakenToo) {
     EXPECT_EQ(store.getMaxID(DataStore::Counter::reading), u"1000051"_s);
     CommentModel comment;
     comment.CommentID = u"10002"_s;
-    ASSERT_TRUE(store.addCommentForCurID(comment)); // not a copy of the instruction
-    EXPECT_EQ(store.getCommentForCurID().size(), 2U);
+    EXPECT_EQ(store.addCommentForCurID(comment), u"10002"_s); // not a copy of the instruction
+    EXPECT_EQ(store.addCommentForCurID(comment), u"10003"_s) << "the number is taken by now";
+    EXPECT_EQ(store.getCommentForCurID().size(), 3U);
 }
 
 TEST_F(DataStoreTest, MissingFileIsToldAsNotWritable) {

@@ -10,14 +10,14 @@ DOORS = {
     "store": (),
     "monitor": ("store",),
     "analysis": ("store",),
-    "chart": ("analysis",),
-    "report": ("chart",),
+    "chart": ("store", "analysis"),
+    "report": ("store", "analysis", "chart"),
     "app": ("store", "monitor", "analysis", "chart", "report"),
     "cli": ("store", "monitor", "analysis", "chart", "report"),
 }
 
 # Qt Core is everybody's; of the other modules, a room has these.
-QT_MODULES = {"chart": ("Gui",), "report": ("Gui", "PrintSupport"), "app": ("Gui", "Widgets", "PrintSupport", "Svg")}
+QT_MODULES = {"chart": ("Gui", "Svg"), "report": ("Gui",), "app": ("Gui", "Widgets", "PrintSupport", "Svg")}
 
 # Library, how its headers begin, how CMake calls it, the rooms that may use it.
 LIBRARIES = (

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "analysis/ReadingSelection.h"
+#include "store/RecordLinks.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace zel {
+
+/// The period that all views share, and what they show of it. Lives as long as the program; nothing of it is
+/// saved. Main thread only.
+class DisplayPeriod : public QObject {
+    Q_OBJECT
+public:
+    explicit DisplayPeriod(Instant now);
+
+    /// Always whole days: the first second of one to the last second of another.
+    [[nodiscard]] const Period& getTimePeriod() const { return display; }
+    /// A missing end becomes getFirstDayOfThisYear() as it is.
+    void setTimePeriod(Date begin, Date end);
+    /// The instants of the patient's earliest dated reading and of the latest reading.
+    [[nodiscard]] const Period& getDataPeriod() const { return data; }
+    void setDataPeriod(const Period& period);
+
+    [[nodiscard]] ViewSelection getSelectViewIndex() const { return view; }
+    /// Choosing viewAll also shows the whole data period.
+    void setSelectViewIndex(ViewSelection selection);
+    [[nodiscard]] bool getIncludeNoDatetimeData() const { return includeUndated; }
+    void setIncludeNoDatetimeData(bool include);
+    /// Days that the user picked: sets the view selection to custom.
+    /// \return false, and nothing changes, unless begin's day is before end's
+    [[nodiscard]] bool pickTimePeriod(Instant begin, Instant end);
+
+    /// Another patient has become current since a view was last loaded; true at the start.
+    [[nodiscard]] bool isChangeUser() const { return changedUser; }
+    /// True also resets the view selection to custom.
+    void setChangeUser(bool changed);
+    /// The patient's data period, and the default display period: the last three months of it.
+    void setCurrentReadingTimePeriod(const ReadingList& readings);
+    /// The same patient's readings were read anew: the data period follows them, and so does the display
+    /// period where all are in view or none were there before. Picked days stay.
+    void refreshDataPeriod(const ReadingList& readings);
+    /// A newly chosen patient whose readings span fewer than 91 days opens with everything in view.
+    void adjustViewAll();
+
+    /// Comments may be placed on the chart: the display period spans fewer than 47 days.
+    [[nodiscard]] bool isValidCommentTimeRange() const;
+    [[nodiscard]] Instant getFirstDayOfThisYear() const { return firstDayOfThisYear; }
+    [[nodiscard]] ReadingSelection selection() const { return {display, view, includeUndated}; }
+
+    /// The later of three calendar months before \p end and \p begin.
+    [[nodiscard]] static Instant getDefaultBeginDisplayDate(Instant begin, Instant end);
+
+signals:
+    /// A period, the view selection or the undated readings' inclusion changed: views show something else.
+    void changed();
+
+private:
+    /// Announces what \p assign changes, once and only if it is a change.
+    void change(const std::function<void()>& assign);
+
+    Instant firstDayOfThisYear;
+    Period display;
+    Period data;
+    ViewSelection view = ViewSelection::custom;
+    bool includeUndated = false;
+    bool changedUser = true;
+    bool hasDatedReading = false; ///< the data period is the current patient's
+};
+
+} // namespace zel

@@ -1,0 +1,35 @@
+#include "analysis/ReadingSelection.h"
+
+#include <chrono>
+
+namespace zel {
+
+namespace {
+
+constexpr std::chrono::sys_days markerDate{std::chrono::year{2000} / 1 / 1};
+constexpr DayNumber markerDay{markerDate.time_since_epoch().count()};
+
+} // namespace
+
+bool MatchedDataType(ViewSelection view, bool isPMData) {
+    switch (view) {
+    case ViewSelection::custom:
+    case ViewSelection::viewAll: return true;
+    case ViewSelection::amOnly: return !isPMData;
+    case ViewSelection::pmOnly: return isPMData;
+    case ViewSelection::none: break;
+    }
+    return false;
+}
+
+bool hasUndatedMarker(const ReadingModel& reading) {
+    return !reading.ReadingDate || reading.day == markerDay;
+}
+
+bool isCounted(const ReadingModel& reading, const ReadingSelection& selection) {
+    if (selection.includeUndated && hasUndatedMarker(reading)) return true;
+    return reading.ReadingDate && selection.period.contains(*reading.ReadingDate)
+           && MatchedDataType(selection.view, reading.isPMData);
+}
+
+} // namespace zel

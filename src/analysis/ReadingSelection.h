@@ -1,0 +1,45 @@
+#pragma once
+
+#include "store/ReadingModel.h"
+
+#include <cstdint>
+
+namespace zel {
+
+/// From one instant to another, both included.
+struct Period {
+    Instant begin;
+    Instant end;
+
+    bool operator==(const Period&) const = default;
+    [[nodiscard]] bool contains(Instant date) const { return begin <= date && date <= end; }
+};
+
+/// What a view shows of its period. The numbers are those of the view choices.
+enum class ViewSelection : std::int32_t {
+    custom = -1, ///< a period chosen with the date pickers
+    none = 0,    ///< no reading at all
+    viewAll = 1, ///< everything: the display period is the data period
+    amOnly = 2,  ///< readings before noon
+    pmOnly = 3,  ///< readings from noon on
+};
+
+/// Whether a view of that selection shows readings of that half of the day.
+[[nodiscard]] bool MatchedDataType(ViewSelection view, bool isPMData);
+
+/// Which readings a view takes.
+struct ReadingSelection {
+    Period period;
+    ViewSelection view = ViewSelection::custom;
+    bool includeUndated = false; ///< also those with the undated marker, whatever the period and the view
+
+    bool operator==(const ReadingSelection&) const = default;
+};
+
+/// The monitor stored the reading without a valid clock, or the file gives no date at all.
+[[nodiscard]] bool hasUndatedMarker(const ReadingModel& reading);
+
+/// Whether histogram and correlation count the reading.
+[[nodiscard]] bool isCounted(const ReadingModel& reading, const ReadingSelection& selection);
+
+} // namespace zel

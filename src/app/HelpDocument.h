@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace zel {
+
+/// Hands a file to the desktop's own program for it. \return false if there is none
+using DocumentOpener = std::function<bool(const QString& path)>;
+[[nodiscard]] bool openWithDesktop(const QString& path);
+
+/// Puts the manual, a resource of the program, where other programs can read it.
+/// \return the file's path; empty if there is no manual, or no place for it
+[[nodiscard]] QString unpackHelp(const QString& resource, const QString& folder);
+
+} // namespace zel

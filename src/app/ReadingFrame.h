@@ -1,0 +1,54 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "store/DataStore.h"
+
+#include <QWidget>
+
+class QToolButton;
+
+namespace zel {
+
+class CommentViewController;
+class PageHeading;
+class PeriodBar;
+class StatisticViewController;
+
+/// What the pages that show readings have in common: the patient's name, the period's controls, and beside
+/// the page's own view the figures and the comments, which give way where the window is narrow.
+class ReadingFrame final : public QWidget {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        DisplayPeriod& period;
+        MessagePanel& panel;
+    };
+    ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent);
+
+    /// For a page that comes into view.
+    void LoadData();
+    void UpdateUIBySetting();
+    [[nodiscard]] PeriodBar& periodBar() { return *period; }
+    [[nodiscard]] CommentViewController& comments() { return *commentPanel; }
+    [[nodiscard]] bool isDisplayingComment() const;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* makeHead();
+    QWidget* makeSide();
+    void showHeading();
+
+    Parts parts;
+    PageHeading* heading;
+    PeriodBar* period;
+    StatisticViewController* statisticPanel;
+    CommentViewController* commentPanel;
+    QToolButton* btnSide;
+    QWidget* side;
+    bool isNarrow = false;
+};
+
+} // namespace zel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "analysis/Statistic.h"
+#include "store/DataStore.h"
+
+#include <QWidget>
+
+namespace zel {
+
+/// The table of averages, minima and maxima, computed anew each time it is drawn.
+class StatisticView final : public QWidget {
+    Q_OBJECT
+public:
+    StatisticView(const DataStore& dataStore, const DisplayPeriod& displayPeriod, QWidget* parent);
+
+    /// The figures may be others now.
+    void calc();
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] StatisticFigures figures() const;
+    [[nodiscard]] bool showsMap() const { return store.getSetting().showPPorMap != 0; }
+    [[nodiscard]] QString words(const StatisticFigures& statistic) const;
+
+    const DataStore& store;
+    const DisplayPeriod& period;
+};
+
+} // namespace zel

@@ -1,0 +1,33 @@
+#include "chart/ChartScale.h"
+
+#include <cstdint>
+
+namespace zel {
+
+namespace {
+
+constexpr double belowBase = 20;  ///< the plot begins that much below the base value
+constexpr double bloodSpan = 180; ///< mmHg from the bottom to the top of the plot
+constexpr double pulseSpan = 80;  ///< beats per minute
+
+double valueToY(const ChartScale& scale, double value, double span) {
+    return scale.chartRect.y + (value - scale.iScaleBase + belowBase) * scale.chartRect.height / span;
+}
+
+} // namespace
+
+int setScaleBase(int number) { return static_cast<int>((std::int64_t{number} + 9) / 10 * 10); }
+
+ChartScale::ChartScale(const Rect& total, const Period& shown, bool noBaseArea, int base)
+    : totalRect(total), whiteRect{total.x + scaleWidth, total.y, total.width - scaleWidth, total.height},
+      chartRect(whiteRect), time{shown.begin, shown.end, whiteRect.x, whiteRect.width}, iScaleBase(base) {
+    if (noBaseArea) return;
+    chartRect.y += getBaseAreaHeight();
+    chartRect.height -= getBaseAreaHeight();
+}
+
+double ChartScale::mapValToY(double value) const { return valueToY(*this, value, bloodSpan); }
+
+double ChartScale::mapPulseValToY(double value) const { return valueToY(*this, value, pulseSpan); }
+
+} // namespace zel

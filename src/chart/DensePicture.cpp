@@ -1,0 +1,181 @@
+#include "chart/DensePicture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace zel {
+
+namespace {
+
+/// Farther out than this, ends are brought near: what is seen of the stroke stays the same to a fraction of a
+/// pixel.
+constexpr double far = 10000;
+/// Marks reach two pixels around their point.
+constexpr double reach = 3;
+
+bool outside(const Segment& stroke, const Rect& sight) {
+    const auto [left, right] = std::minmax(stroke.from.x, stroke.to.x);
+    const auto [bottom, top] = std::minmax(stroke.from.y, stroke.to.y);
+    return right < sight.x || left > sight.right() || top < sight.y || bottom > sight.top();
+}
+
+/// The part of the stroke within the area, or none.
+std::optional<Segment> within(const Segment& stroke, const Rect& area) {
+    double begin = 0;
+    double end = 1;
+    const auto limit = [&](double from, double by, double low, double high) {
+        if (by == 0) return low <= from && from <= high;
+        const auto [first, last] = std::minmax({(low - from) / by, (high - from) / by});
+        begin = std::max(begin, first);
+        end = std::min(end, last);
+        return begin <= end;
+    };
+    const double dx = stroke.to.x - stroke.from.x;
+    const double dy = stroke.to.y - stroke.from.y;
+    if (!limit(stroke.from.x, dx, area.x, area.right()) || !limit(stroke.from.y, dy, area.y, area.top()))
+        return {};
+    const auto at = [&](double share) {
+        return Point{std::round(stroke.from.x + share * dx), std::round(stroke.from.y + share * dy)};
+    };
+    return Segment{begin > 0 ? at(begin) : stroke.from, end < 1 ? at(end) : stroke.to};
+}
+
+void addStroke(std::vector<Segment>& strokes, const Segment& stroke, const Rect& sight) {
+    if (outside(stroke, sight.inset(-reach))) return;
+    if (const auto near = within(stroke, sight.inset(-far))) strokes.push_back(*near);
+}
+
+/// Upright strokes through one column, as a count for each pixel from \p bottom on.
+class Column {
+public:
+    explicit Column(const Rect& sight)
+        : bottom(std::floor(sight.y)), size(std::max(0.0, std::ceil(sight.top()) - bottom)),
+          changes(static_cast<std::size_t>(size) + 1) {}
+
+    void add(const Ticks::Tick& tick) {
+        const auto [y1, y2] = std::minmax(tick.y1, tick.y2);
+        const auto from = static_cast<std::size_t>(std::clamp(y1 - bottom, 0.0, size));
+        const auto to = static_cast<std::size_t>(std::clamp(y2 - bottom, 0.0, size));
+        ++changes[from];
+        --changes[to];
+        first = std::min(first, from);
+        last = std::max(last, to);
+    }
+
+    /// Writes the strokes at \p x, at most \p enough over a pixel, and begins anew.
+    void flush(double x, int enough, std::vector<Ticks::Tick>& strokes) {
+        int count = 0;
+        starts.clear();
+        for (std::size_t y = first; y <= last && y < changes.size(); ++y) {
+            if (changes[y] == 0) continue;
+            count += changes[y];
+            changes[y] = 0;
+            const auto open = static_cast<std::size_t>(std::min(count, enough));
+            const double here = bottom + static_cast<double>(y);
+            for (; starts.size() > open; starts.pop_back())
+                strokes.push_back({x, starts.back(), here});
+            starts.resize(open, here);
+        }
+        first = changes.size();
+        last = 0;
+    }
+
+private:
+    double bottom;
+    double size;
+    std::vector<int> changes; ///< how many strokes begin, less those that end, at each pixel
+    std::vector<double> starts;
+    std::size_t first = changes.size();
+    std::size_t last = 0;
+};
+
+/// One bit for each place of an area.
+class Places {
+public:
+    explicit Places(const Rect& within)
+        : area(within), height(static_cast<std::size_t>(std::max(0.0, std::floor(area.height) + 1))),
+          bits(height * static_cast<std::size_t>(std::max(0.0, std::floor(area.width) + 1))) {}
+
+    /// \return whether the point lies in the area and had not been taken
+    bool take(Point point) {
+        const double x = point.x - area.x;
+        const double y = point.y - area.y;
+        if (!(x >= 0 && y >= 0 && x <= area.width && y <= area.height)) return false;
+        const std::size_t place = static_cast<std::size_t>(x) * height + static_cast<std::size_t>(y);
+        if (bits[place]) return false;
+        bits[place] = true;
+        return true;
+    }
+
+private:
+    Rect area;
+    std::size_t height;
+    std::vector<bool> bits;
+};
+
+Rect wholePixels(const Rect& rect) {
+    const double x = std::floor(rect.x);
+    const double y = std::floor(rect.y);
+    return {x, y, std::ceil(rect.right()) - x, std::ceil(rect.top()) - y};
+}
+
+} // namespace
+
+std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight) {
+    std::vector<Segment> strokes;
+    for (std::size_t first = 0; first < points.size();) {
+        auto [low, high] = std::pair{points[first].y, points[first].y};
+        std::size_t next = first + 1;
+        for (; next < points.size() && points[next].x == points[first].x; ++next) {
+            low = std::min(low, points[next].y);
+            high = std::max(high, points[next].y);
+        }
+        const double x = points[first].x;
+        if (first > 0) addStroke(strokes, {points[first - 1], points[first]}, sight);
+        if (next - first > 1) addStroke(strokes, {{x, low}, {x, high}}, sight);
+        first = next;
+    }
+    return strokes;
+}
+
+std::vector<Point> visibleMarks(std::span<const Point> points, const Rect& sight) {
+    Places places(wholePixels(sight.inset(-reach)));
+    std::vector<Point> marks;
+    for (std::size_t i = points.size(); i > 0; --i)
+        if (places.take(points[i - 1])) marks.push_back(points[i - 1]);
+    std::ranges::reverse(marks);
+    return marks;
+}
+
+std::vector<Ticks::Tick> stackedTicks(std::span<const Ticks::Tick> ticks, const Rect& sight, int enough) {
+    // Readings are in the order of their dates, so that this is rarely needed.
+    std::vector<Ticks::Tick> sorted;
+    if (!std::ranges::is_sorted(ticks, {}, &Ticks::Tick::x)) {
+        sorted.assign(ticks.begin(), ticks.end());
+        std::ranges::stable_sort(sorted, {}, &Ticks::Tick::x);
+        ticks = sorted;
+    }
+    Column column(sight);
+    std::vector<Ticks::Tick> strokes;
+    for (std::size_t i = 0; i < ticks.size(); ++i) {
+        const double x = ticks[i].x;
+        if (x < sight.x - reach || x > sight.right() + reach) continue;
+        column.add(ticks[i]);
+        if (i + 1 == ticks.size() || ticks[i + 1].x != x) column.flush(x, enough, strokes);
+    }
+    return strokes;
+}
+
+int enoughStrokes(double opacity) {
+    // Each stroke leaves that share of the distance to the colour; rounding keeps it from ever arriving, but
+    // the steps are whole.
+    const double left = 1 - opacity;
+    if (left <= 0) return 1;
+    if (opacity <= 0) return 0;
+    const double untilHalf = std::log(0.5 / 255) / std::log(left);
+    const double rounding = 0.5 / opacity + 1;
+    return static_cast<int>(std::ceil(untilHalf) + std::ceil(rounding));
+}
+
+} // namespace zel

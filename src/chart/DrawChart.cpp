@@ -1,0 +1,168 @@
+#include "chart/DrawChart.h"
+
+#include "chart/Drawing.h"
+#include "chart/Log.h"
+#include "chart/TimeAxis.h"
+#include "chart/ValueScale.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int captionAttribute = 1;
+constexpr int noDataAttribute = 4;
+constexpr int cornerRadius = 5;
+
+QColor fixColor(int index) { return getFixColor(index).value_or(Qt::black); }
+
+TextAttribute attribute(int index) { return getTextAttribute(index).value_or(TextAttribute{}); }
+
+/// White, with rounded corners on the screen. Only what lies beside a corner is painted twice, the second
+/// time through the round clip, which takes a hundred times as long.
+void drawBackground(Picture& picture, const ChartScale& scale, bool forPrint) {
+    const Rect& total = scale.totalRect;
+    const Rect& white = scale.whiteRect;
+    if (forPrint) {
+        picture.push_back(FillRect{total, Qt::white});
+        return;
+    }
+    const double corner = std::min<double>(cornerRadius, std::max(0.0, white.height) / 2);
+    const QColor beside = fixColor(gcScaleBackgroundColor);
+    picture.push_back(FillRect{{total.x, total.y, total.width, corner}, beside});
+    picture.push_back(FillRect{{total.x, total.top() - corner, total.width, corner}, beside});
+    picture.push_back(
+        FillRect{{total.x, total.y, std::min(scaleWidth + 0.0, total.width), total.height}, beside});
+    picture.push_back(
+        FillRect{{white.x, white.y + corner, white.width, white.height - 2 * corner}, Qt::white});
+    picture.push_back(BeginClip{white, cornerRadius});
+    picture.push_back(FillRect{{white.x, white.y, white.width, corner}, Qt::white});
+    picture.push_back(FillRect{{white.x, white.top() - corner, white.width, corner}, Qt::white});
+    picture.push_back(EndClip{});
+}
+
+void drawDownloadDays(Picture& picture, const ChartScale& scale, const std::vector<Period>& days,
+                      bool forPrint) {
+    std::vector<FillRect> besideCorner;
+    picture.push_back(BeginClip{scale.chartRect});
+    for (const Period& day : days) {
+        if (day.end < scale.time.begin || day.begin > scale.time.end) continue;
+        const double x = scale.time.calcXPos(day.begin);
+        const FillRect fill{{x, scale.chartRect.y, scale.time.calcXPos(day.end) - x, scale.chartRect.height},
+                            fixColor(gcYellowBackgroundcolor)};
+        const Rect between = scale.whiteRect.inset(cornerRadius);
+        const bool free = forPrint || (between.x <= x && fill.rect.right() <= between.right());
+        if (free)
+            picture.push_back(fill);
+        else
+            besideCorner.push_back(fill);
+    }
+    if (!besideCorner.empty()) {
+        picture.push_back(BeginClip{scale.whiteRect, cornerRadius});
+        picture.insert(picture.end(), besideCorner.begin(), besideCorner.end());
+        picture.push_back(EndClip{});
+    }
+    picture.push_back(EndClip{});
+}
+
+void drawNoData(Picture& picture, const Rect& rect) {
+    textOut(picture, qtTrId("NoData"), {rect.x + rect.width / 2, rect.y + rect.height / 2},
+            attribute(noDataAttribute), XPos::centre, YPos::centre);
+}
+
+void DrawAlphaLine(Picture& picture, const ChartScale& scale, double value) {
+    const double y = scale.mapValToY(value);
+    picture.push_back(
+        StraightLine{{scale.chartRect.x, y}, {scale.chartRect.right(), y}, 2, fixColor(gcBloodRedLinecolor)});
+}
+
+void showDataTypeInfo(Picture& picture, const ChartScale& scale, const ChartStyle& style) {
+    if (!style.CompareType) return;
+    const QString text = style.showDataType == ViewSelection::amOnly ? qtTrId("morning") : qtTrId("evening");
+    textOut(picture, text, {scale.chartRect.x + 6, scale.totalRect.top() - 2}, attribute(captionAttribute),
+            XPos::left, YPos::top);
+}
+
+void drawLines(Picture& picture, std::vector<PolyLine>& lines) {
+    for (PolyLine& line : lines)
+        picture.emplace_back(std::move(line));
+}
+
+void drawBloodChart(Picture& picture, const ChartScale& scale, const ChartInput& input) {
+    ReadingLines made = bloodLines(input.data.maReading, scale, input.style.showDataType);
+    qCDebug(lcChart, "drawBloodChart data count %zu", made.count);
+    if (input.style.bTrack) picture.emplace_back(std::move(made.marks));
+    DrawAlphaLine(picture, scale, input.sysStandard);
+    DrawAlphaLine(picture, scale, input.diaStandard);
+    picture.emplace_back(std::move(made.ticks));
+    drawLines(picture, made.lines);
+}
+
+void drawPulseChart(Picture& picture, const ChartScale& scale, const ChartInput& input) {
+    ReadingLines made = pulseLines(input.data.maReading, scale, input.style.showDataType);
+    qCDebug(lcChart, "drawPulseChart data count %zu", made.count);
+    if (input.style.bTrack) picture.emplace_back(made.marks);
+    made.marks.bordered = false;
+    picture.emplace_back(std::move(made.marks));
+    drawLines(picture, made.lines);
+}
+
+void logPeriod(const ChartLayout& layout) {
+    qCDebug(lcChart, "bShowComment : %s", layout.bShowComment ? "yes" : "no");
+    qCDebug(lcChart, "begin:%s end:%s", qUtf8Printable(DateToStr(layout.scale.time.begin, u"yyyyMMdd"_s)),
+            qUtf8Printable(DateToStr(layout.scale.time.end, u"yyyyMMdd"_s)));
+}
+
+ChartScale scaleOf(const ChartInput& input) {
+    return {input.totalRect, input.period, input.style.noBaseArea, input.style.iScaleBase};
+}
+
+} // namespace
+
+ChartLayout drawChart(const ChartInput& input, const LocalZone& zone) {
+    const ChartStyle& style = input.style;
+    ChartLayout layout{{}, scaleOf(input), false};
+    layout.bShowComment = isShortPeriod(dayDiff(layout.scale.time, zone));
+    Picture& picture = layout.picture;
+    const ChartScale& scale = layout.scale;
+    drawBackground(picture, scale, style.forPrint);
+    if (input.data.hasData()) drawDownloadDays(picture, scale, input.data.downloadDays, style.forPrint);
+    if (style.showBlood)
+        drawBloodScale(picture, scale);
+    else
+        drawPulseScale(picture, scale);
+    if (!input.data.hasData()) {
+        drawNoData(picture, scale.totalRect);
+        return layout;
+    }
+    logPeriod(layout);
+    drawTimeAxis(picture, scale, !style.noBaseArea, zone);
+    picture.push_back(BeginClip{scale.chartRect});
+    if (style.showBlood)
+        drawBloodChart(picture, scale, input);
+    else
+        drawPulseChart(picture, scale, input);
+    showDataTypeInfo(picture, scale, style);
+    picture.push_back(EndClip{});
+    return layout;
+}
+
+std::vector<ChartPoint> chartPoints(const ChartInput& input) {
+    const auto points = input.style.showBlood ? bloodPoints : pulsePoints;
+    return points(input.data.maReading, scaleOf(input), input.style.showDataType);
+}
+
+Period addDay(const Period& period, int days) {
+    // From the middle of the day, which an hour more or less where the clocks change cannot leave.
+    const std::chrono::hours half{12};
+    const std::chrono::days moved{days};
+    return {DateToDayBoundary(period.begin + half - moved, true),
+            DateToDayBoundary(period.end - half + moved, false)};
+}
+
+} // namespace zel

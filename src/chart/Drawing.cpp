@@ -1,0 +1,96 @@
+#include "chart/Drawing.h"
+
+#include <QFontMetricsF>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <vector>
+
+namespace zel {
+
+namespace {
+
+constexpr QChar lineFeed(u'\n');
+
+/// A space with an accent of its own is no place to break.
+bool isBlank(const QString& text, int index) {
+    return text.at(index) == u' ' && (index + 1 == text.size() || !text.at(index + 1).isMark());
+}
+
+/// Where characters end, as people see them: a letter with its accents, both halves of a surrogate pair.
+std::vector<qsizetype> characterEnds(QStringView text) {
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
+    std::vector<qsizetype> ends;
+    for (auto end = finder.toNextBoundary(); end > 0; end = finder.toNextBoundary())
+        ends.push_back(end);
+    return ends;
+}
+
+/// Length of the longest beginning that is not wider. The cost grows with the line, not with the text.
+qsizetype fittingLength(QStringView text, double width, const QFontMetricsF& metrics) {
+    const auto fits = [&](qsizetype length) {
+        return metrics.horizontalAdvance(text.first(length).toString()) <= width;
+    };
+    qsizetype reach = 32;
+    while (reach < text.size() && fits(reach))
+        reach *= 2;
+    constexpr qsizetype restOfCharacter = 32;
+    const auto ends = characterEnds(text.first(std::min(reach + restOfCharacter, text.size())));
+    const auto tooWide = std::partition_point(ends.begin(), ends.end(), fits);
+    return tooWide == ends.begin() ? 0 : *(tooWide - 1);
+}
+
+} // namespace
+
+Size textSize(const QString& text, const TextAttribute& attribute) {
+    const QFontMetricsF metrics(attribute.font());
+    return {metrics.horizontalAdvance(text), metrics.height()};
+}
+
+void textOut(Picture& picture, const QString& text, Point at, const TextAttribute& attribute, XPos x,
+             YPos y) {
+    const Size size = textSize(text, attribute);
+    if (x == XPos::centre) at.x -= size.width / 2;
+    if (x == XPos::right) at.x -= size.width;
+    if (y == YPos::centre) at.y -= size.height / 2;
+    if (y == YPos::top) at.y -= size.height;
+    picture.emplace_back(TextLine{text, at, attribute});
+}
+
+void textOutParagraph(Picture& picture, const QString& text, Point at, double width,
+                      const TextAttribute& attribute) {
+    constexpr int mostLines = 5;
+    int from = 0;
+    for (int line = 0; line < mostLines; ++line) {
+        const int length = getLineIndex(text, from, width, attribute);
+        if (length < 1) return;
+        QString shown = text.mid(from, length);
+        if (shown.endsWith(lineFeed)) shown.chop(1);
+        textOut(picture, shown, at, attribute, XPos::left, YPos::top);
+        at.y -= textSize(shown, attribute).height;
+        from += length;
+    }
+}
+
+int getLineIndex(const QString& text, int from, double width, const TextAttribute& attribute) {
+    if (from >= text.size()) return -1;
+    const auto feed = text.indexOf(lineFeed, from);
+    const auto end = feed < 0 ? text.size() : feed;
+    const QStringView line = QStringView(text).sliced(from, end - from);
+    const auto fitting = fittingLength(line, width, QFontMetricsF(attribute.font()));
+    if (fitting == line.size()) return static_cast<int>(fitting) + (feed < 0 ? 0 : 1);
+
+    const int last = from + static_cast<int>(fitting) - 1;
+    const int broken = adjustWordBreak(text, from, last);
+    return (broken < 0 ? last : broken) - from + 1;
+}
+
+int adjustWordBreak(const QString& text, int from, int to) {
+    if (to < from) return -1;
+    if (to + 1 >= text.size() || isBlank(text, to + 1)) return to;
+    while (to >= from && !isBlank(text, to))
+        --to;
+    return to < from ? -1 : to;
+}
+
+} // namespace zel

@@ -1,0 +1,33 @@
+#pragma once
+// What the pictures of the figures have in common.
+
+#include "chart/Picture.h"
+
+namespace zel {
+
+/// A text attribute or a fixed colour that the tables are known to have.
+[[nodiscard]] TextAttribute attribute(int index);
+[[nodiscard]] QColor fixColor(int index);
+
+enum class Axis { vertical, horizontal };
+
+/// A scale beside or below a panel, divided evenly; the last two divisions have no number.
+struct PanelScale {
+    Axis axis;
+    int divide = 1;   ///< divisions
+    int unitStep = 0; ///< value of one division
+    double length = 0;
+};
+[[nodiscard]] inline double stepLength(const PanelScale& scale) { return scale.length / scale.divide; }
+
+/// Lines of the background's colour at each division but the last.
+void drawGrid(Picture& picture, const Rect& panel, const PanelScale& scale);
+/// The numbers of the divisions in the margin outside the panel, as many as there is room for.
+void drawNumbers(Picture& picture, const Rect& panel, const PanelScale& scale);
+
+inline constexpr double leftMargin = 30;   ///< holds the numbers of a vertical scale
+inline constexpr double bottomMargin = 17; ///< holds those of a horizontal one
+inline constexpr double numberGap = 4;     ///< between the numbers and the panel they belong to
+inline constexpr double edgeGap = 2;       ///< between what ends a scale and the picture's edge
+
+} // namespace zel

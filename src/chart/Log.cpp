@@ -1,0 +1,3 @@
+#include "chart/Log.h"
+
+Q_LOGGING_CATEGORY(lcChart, "zel.chart", QtInfoMsg)

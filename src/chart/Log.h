@@ -1,0 +1,7 @@
+#pragma once
+// Diagnostics for the system log. Lines that carry patient data are debug lines, off unless asked for
+// (QT_LOGGING_RULES="zel.*.debug=true").
+
+#include <QLoggingCategory>
+
+Q_DECLARE_LOGGING_CATEGORY(lcChart)

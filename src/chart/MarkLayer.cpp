@@ -1,0 +1,162 @@
+#include "chart/MarkLayer.h"
+
+#include "chart/DensePicture.h"
+#include "chart/StyleTable.h"
+
+#include <QImage>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace zel {
+
+namespace {
+
+/// The squares of one mark on the device: the outer 5, the inner 3 pixels of the picture wide.
+template <class Length>
+struct MarkShape {
+    MarkShape(const PictureSurface& surface, bool hasBorder)
+        : edge(static_cast<Length>(surface.length(1))), outer(static_cast<Length>(surface.length(5))),
+          inner(outer - 2 * edge), bordered(hasBorder) {}
+    Length edge;
+    Length outer;
+    Length inner;
+    bool bordered;
+    QColor border = getFixColor(gcGrayBorderForDotcolor).value_or(Qt::gray);
+};
+
+QPointF topLeft(const PictureSurface& surface, Point point) {
+    return {surface.x(point.x - 2), surface.y(point.y + 3)};
+}
+
+void paintEach(PictureSurface& surface, std::span<const Point> points, const MarkShape<double>& shape) {
+    const QSizeF outer(shape.outer, shape.outer);
+    const QSizeF inner(shape.inner, shape.inner);
+    for (const Point point : points) {
+        const QPointF corner = topLeft(surface, point);
+        if (shape.bordered) surface.painter.fillRect(QRectF(corner, outer), shape.border);
+        surface.painter.fillRect(QRectF(corner + QPointF(shape.edge, shape.edge), inner), Qt::black);
+    }
+}
+
+/// The pixels of an image.
+struct Pixels {
+    QRgb* first;
+    std::ptrdiff_t stride;
+    int width;
+};
+
+/// Copies a few values; the usual numbers of them without a loop, which takes most of the time otherwise.
+template <class Value>
+void stamp(Value* to, const Value* values, int count) {
+    switch (count) {
+    case 5: std::copy_n(values, 5, to); break;
+    case 3: std::copy_n(values, 3, to); break;
+    default: std::copy_n(values, std::max(count, 0), to);
+    }
+}
+
+/// The marks of one column, as they lie on one another: what each pixel row of it shows.
+class MarkColumn {
+public:
+    MarkColumn(const QRect& covered, const MarkShape<int>& shape)
+        : top(covered.top()), shift(shape.bordered ? 0 : shape.edge), mark(size(shape), Row::border),
+          rows(static_cast<std::size_t>(covered.height())), borderRow(size(shape), shape.border.rgba()),
+          innerRow(borderRow) {
+        const auto edge = static_cast<std::ptrdiff_t>(shape.edge - shift);
+        std::fill_n(mark.begin() + edge, shape.inner, Row::inner);
+        std::fill_n(innerRow.begin() + edge, shape.inner, qRgb(0, 0, 0));
+    }
+
+    /// \p y is the top of the mark's outer square.
+    void add(int y) {
+        const int begin = y + shift - top;
+        const int from = std::max(begin, 0);
+        const int to = std::min(begin + static_cast<int>(mark.size()), static_cast<int>(rows.size()));
+        if (from >= to) return;
+        stamp(rows.data() + from, mark.data() + (from - begin), to - from);
+        first = std::min(first, from);
+        last = std::max(last, to);
+    }
+
+    /// Draws the rows into an image from its column \p x on, and begins anew.
+    void flush(const Pixels& image, int x) {
+        const int begin = x + shift;
+        const int from = std::max(begin, 0);
+        const int to = std::min(begin + static_cast<int>(mark.size()), image.width);
+        for (int y = first; y < last; ++y) {
+            Row& row = rows[static_cast<std::size_t>(y)];
+            if (row == Row::clear) continue;
+            const std::vector<QRgb>& colors = row == Row::inner ? innerRow : borderRow;
+            stamp(image.first + y * image.stride + from, colors.data() + (from - begin), to - from);
+            row = Row::clear;
+        }
+        first = static_cast<int>(rows.size());
+        last = 0;
+    }
+
+private:
+    enum class Row : std::uint8_t { clear, border, inner };
+
+    static std::size_t size(const MarkShape<int>& shape) {
+        return static_cast<std::size_t>(shape.bordered ? shape.outer : shape.inner);
+    }
+
+    int top;
+    int shift;             ///< from the outer square to what is drawn
+    std::vector<Row> mark; ///< the rows of one mark
+    std::vector<Row> rows;
+    std::vector<QRgb> borderRow;
+    std::vector<QRgb> innerRow;
+    int first = static_cast<int>(rows.size());
+    int last = 0;
+};
+
+/// Marks of one column lie on one another, and later columns on earlier ones.
+void paintTogether(PictureSurface& surface, std::span<const Point> points, const MarkShape<int>& shape,
+                   const QRect& part) {
+    QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const Pixels pixels{reinterpret_cast<QRgb*>(image.bits()), image.bytesPerLine() / 4, image.width()};
+    MarkColumn column(part, shape);
+    constexpr double farOut = 1e8; // beyond any screen, within an int
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const QPointF corner = topLeft(surface, points[i]);
+        if (std::abs(corner.y()) < farOut) column.add(static_cast<int>(corner.y()));
+        if (i + 1 < points.size() && points[i + 1].x == points[i].x) continue;
+        column.flush(pixels, static_cast<int>(std::clamp(corner.x(), -farOut, farOut)) - part.left());
+    }
+    surface.painter.drawImage(part.topLeft(), image);
+}
+
+/// The part of the device that the marks cover, as far as it can be seen.
+QRect coveredPart(const PictureSurface& surface, std::span<const Point> points) {
+    Point low = points.front();
+    Point high = low;
+    for (const Point point : points) {
+        low = {std::min(low.x, point.x), std::min(low.y, point.y)};
+        high = {std::max(high.x, point.x), std::max(high.y, point.y)};
+    }
+    const Rect marks{low.x - 2, low.y - 2, high.x - low.x + 5, high.y - low.y + 5};
+    const QRectF seen = surface.rect(surface.sight());
+    return surface.rect(marks).adjusted(0, 0, 1, 1).intersected(seen).toAlignedRect();
+}
+
+} // namespace
+
+void paintMarks(PictureSurface& surface, std::span<const Point> points, bool bordered) {
+    if (points.empty()) return;
+    // An image costs by its size, a square painted by itself about as much as that many pixels.
+    constexpr double pixelsPerMark = 60;
+    const QRect part = coveredPart(surface, points);
+    const double area = static_cast<double>(part.width()) * part.height();
+    if (surface.hasPixels() && area < pixelsPerMark * static_cast<double>(points.size()))
+        paintTogether(surface, points, MarkShape<int>(surface, bordered), part);
+    else
+        paintEach(surface, visibleMarks(points, surface.sight()), MarkShape<double>(surface, bordered));
+}
+
+} // namespace zel

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "chart/Geometry.h"
+#include "chart/StyleTable.h"
+
+#include <QString>
+
+#include <variant>
+#include <vector>
+
+namespace zel {
+
+// What is drawn, as plain numbers: computed without a painter, painted by paintPicture() on a screen, into an
+// image or on paper. Items are painted in order.
+
+struct FillRect {
+    Rect rect;
+    QColor color; ///< translucent colours blend
+};
+
+/// The rounded box of the charts: its straight edges stop twice the radius short of each corner.
+struct RoundRect {
+    Rect rect;
+    int radius = 0;
+    QColor color;
+    double strokeWidth = 0; ///< 0: filled
+};
+
+struct StraightLine {
+    Point from;
+    Point to;
+    double width = 1;
+    QColor color;
+};
+
+struct Circle {
+    Point centre;
+    double diameter = 10;
+    bool filled = true;
+    QColor color{Qt::black};
+};
+
+/// One line of text in the box (origin, its own size).
+struct TextLine {
+    QString text;
+    Point origin; ///< bottom left of the text's box
+    TextAttribute attribute;
+};
+
+/// Joined points; lines of width 1 in black, square on the pixel.
+struct PolyLine {
+    std::vector<Point> points; ///< whole numbers
+};
+
+/// The marks of readings, painted in order: a grey 5 x 5 square around the point, and on it a black 3 x 3
+/// one.
+struct PointMarks {
+    std::vector<Point> points; ///< whole numbers
+    bool bordered = true;      ///< false: the black square only
+};
+
+/// Upright lines of width 1 in a translucent colour, each blended over what is there.
+struct Ticks {
+    struct Tick {
+        double x = 0;
+        double y1 = 0;
+        double y2 = 0;
+    };
+    std::vector<Tick> ticks; ///< whole numbers
+    QColor color;
+};
+
+/// An image of the resources, as a scalable drawing.
+struct ImageItem {
+    QString name; ///< without folder and suffix, such as "printlogo"
+    Rect rect;
+};
+
+/// What follows is painted inside this area only, until the matching EndClip.
+struct BeginClip {
+    Rect rect;
+    int radius = 0;
+};
+struct EndClip {};
+
+using PictureItem = std::variant<FillRect, RoundRect, StraightLine, Circle, TextLine, PolyLine, PointMarks,
+                                 Ticks, ImageItem, BeginClip, EndClip>;
+using Picture = std::vector<PictureItem>;
+
+} // namespace zel

@@ -1,0 +1,144 @@
+#include "chart/PicturePainter.h"
+
+#include "chart/DensePicture.h"
+#include "chart/GridLines.h"
+#include "chart/MarkLayer.h"
+#include "chart/PictureSurface.h"
+#include "chart/RoundPath.h"
+#include "chart/TickLayers.h"
+
+#include <QFontMetricsF>
+#include <QSvgRenderer>
+
+#include <cmath>
+#include <span>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Paints one item after the other.
+class ItemPainter {
+public:
+    ItemPainter(QPainter& onto, double height) : surface(onto, height), painter(onto) {}
+
+    /// Paints the first item, or several alike. \return how many
+    std::size_t next(std::span<const PictureItem> items) {
+        constexpr std::size_t few = 10;
+        const std::size_t alike = surface.hasPixels() ? uprightLines(items) : 0;
+        if (alike < few) {
+            std::visit(*this, items.front());
+            return 1;
+        }
+        paintUprightLines(surface, items.first(alike));
+        return alike;
+    }
+
+    void operator()(const FillRect& item) { painter.fillRect(surface.rect(item.rect), item.color); }
+
+    void operator()(const RoundRect& item) {
+        // A stroke runs through the middle of the pixels, so that it is sharp.
+        const double shift = item.strokeWidth > 0 ? 0.5 : 0;
+        const Rect box{item.rect.x + shift, item.rect.y + shift, item.rect.width - 1, item.rect.height - 1};
+        painter.setPen(item.strokeWidth > 0 ? QPen(item.color, surface.length(item.strokeWidth),
+                                                   Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin)
+                                            : QPen(Qt::NoPen));
+        painter.setBrush(item.strokeWidth > 0 ? QBrush(Qt::NoBrush) : QBrush(item.color));
+        const Smooth smooth(painter);
+        painter.drawPath(surface.exact().map(getRoundPath(box, item.radius)));
+    }
+
+    void operator()(const StraightLine& item) {
+        const bool straight = item.from.x == item.to.x || item.from.y == item.to.y;
+        if (surface.hasPixels() && straight) return fillLine(item);
+        painter.setPen(QPen(item.color, item.width * surface.scale(), Qt::SolidLine, Qt::FlatCap));
+        const Smooth smooth(painter);
+        painter.drawLine(surface.exact().map(QLineF(item.from.x, item.from.y, item.to.x, item.to.y)));
+    }
+
+    void operator()(const Circle& item) {
+        const double radius = item.diameter / 2 * surface.scale();
+        painter.setPen(item.filled ? QPen(Qt::NoPen) : QPen(item.color, surface.scale()));
+        painter.setBrush(item.filled ? QBrush(item.color) : QBrush(Qt::NoBrush));
+        const Smooth smooth(painter);
+        painter.drawEllipse(surface.exact().map(QPointF(item.centre.x, item.centre.y)), radius, radius);
+    }
+
+    void operator()(const TextLine& item) {
+        const QFont font = item.attribute.font();
+        painter.setFont(font);
+        painter.setPen(item.attribute.color);
+        surface.moveTo(item.origin, true);
+        painter.drawText(QPointF(0, -QFontMetricsF(font).descent()), item.text);
+        surface.moveTo({}, false);
+    }
+
+    void operator()(const PolyLine& item) {
+        const double width = surface.length(1);
+        // Qt places lines of one pixel by that pixel, all others by their middle.
+        const double middle = surface.hasPixels() && width == 1 ? 0 : width / 2;
+        const auto at = [&](Point point) {
+            return QPointF(surface.x(point.x) + middle, surface.y(point.y + 1) + middle);
+        };
+        QList<QLineF> lines;
+        for (const Segment& stroke : joinedStrokes(item.points, surface.sight()))
+            lines.emplace_back(at(stroke.from), at(stroke.to));
+        painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap));
+        painter.drawLines(lines);
+    }
+
+    void operator()(const PointMarks& item) { paintMarks(surface, item.points, item.bordered); }
+
+    void operator()(const Ticks& item) { paintTicks(surface, item); }
+
+    void operator()(const ImageItem& item) {
+        QSvgRenderer image(u":/images/%1.svg"_s.arg(item.name));
+        const Smooth smooth(painter);
+        image.render(&painter, surface.rect(item.rect));
+    }
+
+    void operator()(const BeginClip& item) { surface.beginClip(item.rect, item.radius); }
+    void operator()(const EndClip&) { surface.endClip(); }
+
+private:
+    class Smooth {
+    public:
+        explicit Smooth(QPainter& onto) : painter(onto) { painter.setRenderHint(QPainter::Antialiasing); }
+        ~Smooth() { painter.setRenderHint(QPainter::Antialiasing, false); }
+        Smooth(const Smooth&) = delete;
+        Smooth& operator=(const Smooth&) = delete;
+
+    private:
+        QPainter& painter;
+    };
+
+    /// Grid lines lie on the pixels that a reading of the same value lies on.
+    void fillLine(const StraightLine& item) {
+        const double before = (item.width - 1) / 2;
+        const bool upright = item.from.x == item.to.x;
+        const Rect box = Rect{std::min(item.from.x, item.to.x), std::min(item.from.y, item.to.y),
+                              std::abs(item.from.x - item.to.x), std::abs(item.from.y - item.to.y)};
+        const double width = surface.length(item.width);
+        const QRectF filled = surface.rect(box);
+        painter.fillRect(
+            upright ? QRectF(surface.x(std::floor(box.x - before)), filled.top(), width, filled.height())
+                    : QRectF(filled.left(), surface.y(std::floor(box.y - before) + item.width),
+                             filled.width(), width),
+            item.color);
+    }
+
+    PictureSurface surface;
+    QPainter& painter;
+};
+
+} // namespace
+
+void paintPicture(QPainter& painter, const Picture& picture, double height) {
+    ItemPainter paint(painter, height);
+    for (std::span<const PictureItem> rest(picture); !rest.empty();)
+        rest = rest.subspan(paint.next(rest));
+}
+
+} // namespace zel

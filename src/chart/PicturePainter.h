@@ -1,0 +1,14 @@
+#pragma once
+
+#include "chart/Picture.h"
+
+class QPainter;
+
+namespace zel {
+
+/// Paints the picture into the painter's area of that height (in the picture's units): the one place where y
+/// is turned over. Marks, ticks and lines that fall on one pixel column of an image or a screen are drawn
+/// together; the result is the same, pixel for pixel, as drawing each alone.
+void paintPicture(QPainter& painter, const Picture& picture, double height);
+
+} // namespace zel

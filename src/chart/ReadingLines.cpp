@@ -1,0 +1,129 @@
+#include "chart/ReadingLines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <span>
+
+namespace zel {
+
+namespace {
+
+constexpr std::chrono::seconds longestJoin{2592000}; // 30 days
+/// Marks reach that far around their point.
+constexpr double markReach = 3;
+
+/// The period that shows in the plot, with what reaches into it from the sides.
+Period periodInReach(const ChartScale& scale) {
+    return {scale.time.XPosToDate(scale.chartRect.x - markReach),
+            scale.time.XPosToDate(scale.chartRect.right() + markReach)};
+}
+
+/// Of one column, four points are enough: the first, the lowest, the highest and the last.
+void addToRun(std::vector<PolyLine>& runs, Point point, bool joined) {
+    if (!joined) runs.emplace_back();
+    std::vector<Point>& points = runs.back().points;
+    constexpr std::size_t enough = 4;
+    if (points.size() < enough || points[points.size() - enough].x != point.x) {
+        points.push_back(point);
+        return;
+    }
+    const std::span<Point> column = std::span(points).last(enough);
+    const auto [low, high] = std::ranges::minmax(column, {}, &Point::y);
+    column[1].y = std::min(low.y, point.y);
+    column[2].y = std::max(high.y, point.y);
+    column[3] = point;
+}
+
+void addPoint(std::vector<ChartPoint>& points, const ChartScale& scale, Point at,
+              const ChartReading& reading) {
+    if (scale.chartRect.contains(at))
+        points.push_back({static_cast<float>(at.x), static_cast<float>(at.y), reading.reading});
+}
+
+Point sysPoint(const ChartScale& scale, const ChartReading& reading, double x) {
+    return {x, std::trunc(scale.mapValToY(reading.sys))};
+}
+
+Point diaPoint(const ChartScale& scale, const ChartReading& reading, double x) {
+    return {x, std::trunc(scale.mapValToY(reading.dia))};
+}
+
+Point pulsePoint(const ChartScale& scale, const ChartReading& reading, double x) {
+    return {x, std::trunc(scale.mapPulseValToY(reading.pulse))};
+}
+
+/// Calls \p add with each accepted reading, its x, and whether it is joined to the one before.
+template <class Add>
+void forEachAccepted(std::span<const ChartReading> readings, const ChartScale& scale, ViewSelection view,
+                     Add add) {
+    std::optional<Instant> previous;
+    for (const ChartReading& reading : readings) {
+        if (!MatchedDataType(view, reading.isPMData)) continue;
+        const bool joined = previous && reading.date - *previous <= longestJoin;
+        add(reading, std::trunc(scale.time.calcXPos(reading.date)), joined);
+        previous = reading.date;
+    }
+}
+
+} // namespace
+
+ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& scale, ViewSelection view) {
+    const auto readings = readingsAround(all, periodInReach(scale), view);
+    ReadingLines made;
+    made.marks.points.reserve(2 * readings.size());
+    std::vector<PolyLine> diaRuns;
+    made.ticks.color = getFixColor(gcBloodWhiteLinecolor).value_or(Qt::white);
+    made.ticks.ticks.reserve(readings.size());
+    forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
+        const Point sys = sysPoint(scale, reading, x);
+        const Point dia = diaPoint(scale, reading, x);
+        addToRun(made.lines, sys, joined);
+        addToRun(diaRuns, dia, joined);
+        made.marks.points.push_back(sys);
+        made.marks.points.push_back(dia);
+        made.ticks.ticks.push_back({x, sys.y, dia.y});
+    });
+    made.count = made.ticks.ticks.size();
+    made.lines.insert(made.lines.end(), std::make_move_iterator(diaRuns.begin()),
+                      std::make_move_iterator(diaRuns.end()));
+    return made;
+}
+
+ReadingLines pulseLines(const std::vector<ChartReading>& all, const ChartScale& scale, ViewSelection view) {
+    const auto readings = readingsAround(all, periodInReach(scale), view);
+    ReadingLines made;
+    made.marks.points.reserve(readings.size());
+    forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
+        const Point pulse = pulsePoint(scale, reading, x);
+        addToRun(made.lines, pulse, joined);
+        made.marks.points.push_back(pulse);
+    });
+    made.count = made.marks.points.size();
+    return made;
+}
+
+std::vector<ChartPoint> bloodPoints(const std::vector<ChartReading>& all, const ChartScale& scale,
+                                    ViewSelection view) {
+    std::vector<ChartPoint> points;
+    const auto readings = readingsAround(all, periodInReach(scale), view);
+    points.reserve(2 * readings.size());
+    forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool) {
+        addPoint(points, scale, sysPoint(scale, reading, x), reading);
+        addPoint(points, scale, diaPoint(scale, reading, x), reading);
+    });
+    return points;
+}
+
+std::vector<ChartPoint> pulsePoints(const std::vector<ChartReading>& all, const ChartScale& scale,
+                                    ViewSelection view) {
+    std::vector<ChartPoint> points;
+    const auto readings = readingsAround(all, periodInReach(scale), view);
+    points.reserve(readings.size());
+    forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool) {
+        addPoint(points, scale, pulsePoint(scale, reading, x), reading);
+    });
+    return points;
+}
+
+} // namespace zel

@@ -1,0 +1,130 @@
+#include "cli/Commands.h"
+#include "cli/OpenStore.h"
+#include "cli/PeriodOptions.h"
+#include "cli/Usage.h"
+#include "report/ReportPdf.h"
+
+#include <QFileInfo>
+
+namespace zel::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the user asked for, whatever the patient.
+struct Order {
+    QString ID;
+    std::vector<Section> sections;
+    DayRange days;
+    QPageSize::PageSizeId paper;
+    QString output;
+};
+
+QString sectionKeys() {
+    QStringList keys;
+    for (const SectionFacts& row : sections())
+        keys += QLatin1StringView(row.key);
+    return keys.join(u", "_s);
+}
+
+tl::expected<std::vector<Section>, Failure> sectionOption(const Request& request) {
+    const auto text = requiredValue(request, u"section"_s);
+    if (!text) return tl::unexpected(text.error());
+    std::vector<Section> chosen;
+    if (*text == "all"_L1) {
+        for (const SectionFacts& row : sections())
+            chosen.push_back(row.section);
+        return chosen;
+    }
+    for (const QString& key : text->split(u',')) {
+        const auto section = sectionByKey(key);
+        if (!section) return wrongUsage(qtTrId("CliNoSuchSection").arg(key, sectionKeys()));
+        chosen.push_back(*section);
+    }
+    return chosen;
+}
+
+tl::expected<QPageSize::PageSizeId, Failure> paperOption(const Request& request) {
+    const QString text = request.options.isSet(u"paper"_s) ? request.options.value(u"paper"_s) : u"A4"_s;
+    if (text == "A4"_L1) return QPageSize::A4;
+    if (text == "Letter"_L1) return QPageSize::Letter;
+    return wrongUsage(qtTrId("CliBadPaper").arg(text));
+}
+
+tl::expected<Order, Failure> orderOf(const Request& request) {
+    const auto ID = requiredValue(request, u"patient"_s);
+    if (!ID) return tl::unexpected(ID.error());
+    const auto sections = sectionOption(request);
+    if (!sections) return tl::unexpected(sections.error());
+    const auto days = dayRange(request);
+    if (!days) return tl::unexpected(days.error());
+    const auto paper = paperOption(request);
+    if (!paper) return tl::unexpected(paper.error());
+    const auto output = requiredValue(request, u"output"_s);
+    if (!output) return tl::unexpected(output.error());
+    return Order{*ID, *sections, *days, *paper, *output};
+}
+
+/// A slip of the finger must not cost years of readings.
+CommandResult checkOutput(const DataStore& store, const QString& path) {
+    if (QFileInfo(path) == QFileInfo(store.getZELXMLPath()))
+        return failed(describe(StoreError{StoreErrorCode::isDataFile, path, {}}));
+    return {};
+}
+
+/// All that is stored of the patient, or the days asked for; undated readings belong to no day.
+ReadingSelection selectionOf(const Order& order, const DataStore& store, const Clock& clock) {
+    return {periodOf(order.days, store.getReadingForCurID(), clock), ViewSelection::viewAll,
+            order.days.isOpen()};
+}
+
+CommandResult writeReport(const Order& order, bool practitioner, const DataStore& store, const Clock& clock) {
+    const ReadingSelection selection = selectionOf(order, store, clock);
+    ReadingRows rows = assembleReadingRows(
+        {store.getReadingForCurID(), store.getCommentForCurID(), store.getTrasferLogForCurID(), selection},
+        LocalZone{});
+    const bool isAFib = rows.isAFib;
+    const PrintView view({.patient = *store.getPatientByID(order.ID),
+                          .readings = store.getReadingForCurID(),
+                          .comments = store.getCommentForCurID(),
+                          .downloads = store.getTrasferLogForCurID(),
+                          .settings = store.getSetting(),
+                          .selection = selection,
+                          .rows = std::move(rows),
+                          .now = std::chrono::floor<Instant::duration>(clock.now()),
+                          .needPhysicianInfo = practitioner,
+                          .getIsAfib = isAFib},
+                         QPageSize(order.paper));
+    return writePdf(view, order.sections, order.output).map_error([](const ReportError& error) {
+        return Failure{ExitStatus::failed, describe(error)};
+    });
+}
+
+CommandResult runReport(const Request& request, Surroundings& around) {
+    const auto order = orderOf(request);
+    if (!order) return tl::unexpected(order.error());
+    const OpenedStore store = openStore(around);
+    if (!store) return tl::unexpected(store.error());
+    if (CommandResult known = checkPatient(**store, order->ID); !known) return known;
+    if (CommandResult safe = checkOutput(**store, order->output); !safe) return safe;
+    (*store)->setCurrentID(order->ID);
+    const bool practitioner = request.options.isSet(u"practitioner"_s);
+    CommandResult result = writeReport(*order, practitioner, **store, around.clock);
+    if (result) printLine(around.out, u"written: "_s + order->output);
+    return result;
+}
+
+} // namespace
+
+Command reportCommand() {
+    return {"report", [] { return qtTrId("CliHelpReport"); },
+            [] {
+                return QList{valued(u"patient"_s), valued(u"section"_s),    valued(u"from"_s),
+                             valued(u"to"_s),      flag(u"practitioner"_s), valued(u"paper"_s),
+                             valued(u"output"_s)};
+            },
+            runReport};
+}
+
+} // namespace zel::cli

@@ -1,0 +1,21 @@
+#include "report/CommentLook.h"
+
+#include <algorithm>
+
+namespace zel {
+
+QString commentNumber(const CommentList& comments, const CommentModel& comment) {
+    const auto found = std::ranges::find(comments, &comment, [](const auto& listed) { return listed.get(); });
+    return QString::number(found - comments.begin() + 1);
+}
+
+QString commentColorName(const CommentModel& comment) {
+    switch (comment.degree) {
+    case 1: return qtTrId("reportGrey");
+    case 3: return qtTrId("reportBlue");
+    case 4: return qtTrId("reportYellow");
+    default: return qtTrId("reportOrange");
+    }
+}
+
+} // namespace zel

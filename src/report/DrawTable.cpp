@@ -1,0 +1,175 @@
+#include "report/DrawTable.h"
+
+#include "report/CommentLook.h"
+#include "report/FieldText.h"
+#include "report/PageGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double xDate = 3, xTime = 86, xMam = 173, xPad = 261, xSys = 339, xDia = 427, xPulse = 514,
+                 xMap = 600, xComment = 683;
+constexpr double timeIndent = 3;  ///< the time stands so much right of its column
+constexpr double columnGap = 2;   ///< free to the right of each text
+constexpr double titleBase = 7;   ///< of a title above its row's bottom, the unit below it
+constexpr double textBase = 1;    ///< of a text above its row's bottom
+constexpr double mark = 8;        ///< diameter of a filled or outlined circle
+constexpr double summaryGap = 10; ///< below the statistics
+
+const TextAttribute smallFont{};
+const TextAttribute unitFont{.size = 7};
+
+/// A column of one row: from \p from to the next column at \p to, in units of the base width.
+struct Field {
+    Point at;
+    double width = 0;
+};
+Field field(const Rect& row, double from, double to, double base, double indent = 0) {
+    const double wratio = row.width / DrawTable::baseWidth;
+    return {{row.x + from * wratio + indent, row.y + base}, (to - from) * wratio - indent - columnGap};
+}
+
+void title(Picture& picture, const Rect& row, double from, double to, const QString& text,
+           const QString& unit, double indent = 0) {
+    const Field name = field(row, from, to, titleBase, indent);
+    fieldFigure(picture, text.section(u'\n', 0, 0), name.at, name.width, smallFont);
+    if (!unit.isEmpty()) textOut(picture, unit, {name.at.x, row.y + 1}, unitFont);
+}
+
+void text(Picture& picture, const Rect& row, double from, double to, const QString& words,
+          double indent = 0) {
+    const Field cell = field(row, from, to, textBase, indent);
+    fieldFigure(picture, words, cell.at, cell.width, smallFont);
+}
+
+/// Ends under the end of a three-digit number that begins at the column.
+void number(Picture& picture, const Rect& row, double from, double to, std::uint32_t value,
+            double threeDigits) {
+    const Field cell = field(row, from, to, textBase);
+    const QString words = QString::number(value);
+    const bool isShort = words.size() <= 3;
+    const Point at{isShort ? cell.at.x + threeDigits : cell.at.x, cell.at.y};
+    fieldFigure(picture, words, at, cell.width, smallFont, isShort ? XPos::right : XPos::left);
+}
+
+Point markCentre(const Rect& row, double column) {
+    return {field(row, column, xSys, 0).at.x + 12, row.y + 7.5};
+}
+
+bool hasFinding(std::uint32_t arrhythmia) { return arrhythmia == 2 || arrhythmia == 5; }
+bool hasNoFinding(std::uint32_t arrhythmia) { return arrhythmia == 1 || arrhythmia == 4; }
+
+QString padTitle(const ReportSource& report) { return report.getIsAfib ? qtTrId("afib") : qtTrId("pad"); }
+
+} // namespace
+
+int DrawTable::itemsPerPage(const Rect& rect) {
+    return std::max(0, static_cast<int>((rect.height - rowHeight) / rowHeight));
+}
+
+Rect DrawTable::firstPageRect(const Rect& rect, bool forTable) {
+    if (forTable) return rect;
+    return {rect.x, rect.y, rect.width, (rect.height - fStatTable - summaryGap) * 0.5};
+}
+
+int DrawTable::needPages(const Rect& rect, bool forTable) const {
+    const int perPage = itemsPerPage(rect);
+    const int onFirst = itemsPerPage(firstPageRect(rect, forTable));
+    if (perPage == 0) return forTable ? 0 : 1;
+    if (!forTable && rowTotal() <= onFirst) return 1;
+    const int pagesBefore = forTable ? 0 : 1;
+    const int left = forTable ? rowTotal() : rowTotal() - onFirst;
+    return (left + perPage - 1) / perPage + pagesBefore;
+}
+
+void DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forTable) const {
+    const int firstPageItems = itemsPerPage(firstPageRect(rect, forTable));
+    const int perPage = itemsPerPage(rect);
+    const Rect area = page == 1 ? firstPageRect(rect, forTable) : rect;
+    const int from = page < 2 ? 0 : (page - 2) * perPage + firstPageItems;
+    const int until = std::min(rowTotal(), from + (page == 1 ? firstPageItems : perPage));
+    Rect row{area.x, std::trunc(area.top() - rowHeight), area.width, rowHeight};
+    picture.emplace_back(FillRect{area, Qt::white});
+    drawHeader(picture, row);
+    for (int index = from; index < until; ++index) {
+        row.y -= rowHeight;
+        drawReading(picture, row, report.rows.rows[static_cast<std::size_t>(index)], index == from);
+    }
+}
+
+void DrawTable::drawHeader(Picture& picture, const Rect& row) const {
+    const QString mmHg = qtTrId("mmHg");
+    if (report.getShowMam) title(picture, row, xMam, xPad, qtTrId("mam"), {});
+    if (report.getShowPad) title(picture, row, xPad, xSys, padTitle(report), {});
+    title(picture, row, xDate, xTime, qtTrId("date"), {});
+    title(picture, row, xTime, xMam, qtTrId("time"), {}, timeIndent);
+    title(picture, row, xSys, xDia, qtTrId("sys"), mmHg);
+    title(picture, row, xDia, xPulse, qtTrId("dia"), mmHg);
+    title(picture, row, xPulse, xMap, qtTrId("pulse"), qtTrId("P/min"));
+    title(picture, row, xMap, xComment, report.settings.showPPorMap == 0 ? qtTrId("pp") : qtTrId("map"),
+          mmHg);
+    title(picture, row, xComment, baseWidth, qtTrId("comments"), {});
+    picture.emplace_back(StraightLine{{row.x, row.y}, {row.right(), row.y}, 1, Qt::black});
+}
+
+void DrawTable::drawReading(Picture& picture, const Rect& row, const ReadingRow& reading,
+                            bool opensPage) const {
+    if (reading.bYellowBackground) picture.emplace_back(FillRect{row, Qt::yellow});
+    if (reading.bDrawTopLine)
+        picture.emplace_back(StraightLine{{row.x, row.top()}, {row.right(), row.top()}, 1, Qt::black});
+    text(picture, row, xDate, xTime, reading.strDisplayDate(report.settings));
+    if (reading.bYellowBackground)
+        textOut(picture, u"\u2193"_s, {field(row, xMam, xPad, 0).at.x - columnGap, row.y + textBase},
+                smallFont, XPos::right);
+    if (reading.isNA()) {
+        text(picture, row, xSys, xDia, u"n.a."_s);
+    } else {
+        drawMarks(picture, row, *reading.reading);
+        drawMeasures(picture, row, *reading.reading);
+    }
+    drawComment(picture, row, reading, opensPage || reading.bAtBegin);
+}
+
+void DrawTable::drawMarks(Picture& picture, const Rect& row, const ReadingModel& reading) const {
+    if (report.getShowMam && reading.mam == 1)
+        picture.emplace_back(Circle{markCentre(row, xMam), mark, true, Qt::black});
+    if (!report.getShowPad) return;
+    const bool isKnown = hasFinding(reading.Arrhythmia) || hasNoFinding(reading.Arrhythmia);
+    if (isKnown)
+        picture.emplace_back(Circle{markCentre(row, xPad), mark, hasFinding(reading.Arrhythmia), Qt::black});
+    else
+        text(picture, row, xPad, xSys, u"N.A."_s);
+}
+
+void DrawTable::drawMeasures(Picture& picture, const Rect& row, const ReadingModel& reading) const {
+    const double threeDigits = textSize(u"000"_s, smallFont).width;
+    text(picture, row, xTime, xMam, reading.strDisplayTime(report.settings), timeIndent);
+    number(picture, row, xSys, xDia, reading.sys, threeDigits);
+    number(picture, row, xDia, xPulse, reading.dia, threeDigits);
+    number(picture, row, xPulse, xMap, reading.pulse, threeDigits);
+    const bool isPP = report.settings.showPPorMap == 0;
+    number(picture, row, xMap, xComment, isPP ? reading.pp : reading.map, threeDigits);
+}
+
+/// A bar in the comment's colour along its rows, closed at both ends, with its number and first words.
+void DrawTable::drawComment(Picture& picture, const Rect& row, const ReadingRow& reading,
+                            bool isNamed) const {
+    if (reading.comment == nullptr) return;
+    const Field cell = field(row, xComment, baseWidth, textBase);
+    const QColor color = getCommentColor(reading.comment->degree, true);
+    const Rect bar{cell.at.x, row.y, 3, rowHeight};
+    picture.emplace_back(FillRect{bar, color});
+    if (reading.bAtBegin) picture.emplace_back(FillRect{{bar.x, bar.top() - 2, 8, 2}, color});
+    if (reading.bAtEnd) picture.emplace_back(FillRect{{bar.x, bar.y, 8, 2}, color});
+    if (!isNamed) return;
+    const QString words = commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
+    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, cell.width + columnGap - 6, smallFont);
+}
+
+} // namespace zel

@@ -1,0 +1,27 @@
+#pragma once
+// Texts of any length in fields of a given width. The time taken does not grow with what is left out.
+
+#include "chart/Drawing.h"
+
+namespace zel {
+
+/// As much of the first line as the width takes, ending in an ellipsis if that is not all.
+[[nodiscard]] QString elided(const QString& text, double width, const TextAttribute& attribute);
+
+/// One line; a text that is too long ends in an ellipsis at the field's edge.
+void fieldText(Picture& picture, const QString& text, Point at, double width, const TextAttribute& attribute,
+               XPos x = XPos::left);
+
+/// A figure or a date, which loses its meaning when it is cut: set smaller where it is too long.
+void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
+                 XPos x = XPos::left);
+
+/// As textOutParagraph(), hanging below \p at, with \p mostLines lines; the last one ends in an ellipsis if
+/// the text goes on.
+void fieldParagraph(Picture& picture, const QString& text, Point at, double width,
+                    const TextAttribute& attribute, int mostLines = 5);
+
+/// Height of a line in that attribute.
+[[nodiscard]] double lineHeight(const TextAttribute& attribute);
+
+} // namespace zel

@@ -1,0 +1,29 @@
+#include "report/LimitShares.h"
+
+#include <cmath>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+LimitShares limitShares(const ReadingList& readings, const ReadingSelection& selection,
+                        const SettingModel& settings) {
+    LimitShares shares;
+    for (const ReadingModel& reading : readings) {
+        if (!isCounted(reading, selection)) continue;
+        const bool sys = reading.sys > settings.sysStandard;
+        const bool dia = reading.dia > settings.diaStandard;
+        ++shares.total;
+        ++(sys ? (dia ? shares.bothTooHigh : shares.sysTooHigh)
+               : (dia ? shares.diaTooHigh : shares.keepBoth));
+    }
+    return shares;
+}
+
+QString shareText(int count, int total) {
+    if (total == 0) return QString::number(count);
+    const long percent = std::lround(100.0 * count / total);
+    return QString::number(count) + u" ("_s + QString::number(percent) + u" %)"_s;
+}
+
+} // namespace zel

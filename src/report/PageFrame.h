@@ -1,0 +1,25 @@
+#pragma once
+// What stands around the body of every page.
+
+#include "chart/Picture.h"
+#include "report/PageGeometry.h"
+#include "report/ReportSource.h"
+#include "report/Section.h"
+
+namespace zel {
+
+/// Room that the patient title takes at the head of the body.
+[[nodiscard]] double patientTitleHeight();
+/// Name, ID and reporting period. The ID stays readable beside a name of any length.
+void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section);
+/// The band with the section's name, the program's and today's date.
+void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, const QString& section);
+/// The logo, and the practitioner's details if they are wanted.
+void drawFooter(Picture& picture, const PageGeometry& at, const ReportSource& report);
+void drawPageNumber(Picture& picture, const PageGeometry& at, int number, int total);
+
+/// The foot of the footer beside the logo, where a legend stands.
+[[nodiscard]] Point legendPlace(const PageGeometry& at);
+[[nodiscard]] double legendWidth(const PageGeometry& at);
+
+} // namespace zel

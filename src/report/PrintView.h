@@ -1,0 +1,41 @@
+#pragma once
+
+#include "chart/Picture.h"
+#include "report/PageGeometry.h"
+#include "report/ReportSource.h"
+#include "report/Section.h"
+
+#include <QPageSize>
+#include <QSizeF>
+
+#include <optional>
+
+namespace zel {
+
+/// The pages of a patient's report. A page is computed from the source alone, in any order.
+class PrintView {
+public:
+    /// What \p report refers to must outlive the view. \p paper is upright.
+    PrintView(ReportSource report, const QPageSize& paper) : source(std::move(report)), paperSize(paper) {}
+
+    /// Pages of the section; one, without a body, for none. An empty table or comment list has no page.
+    [[nodiscard]] int getTotalPages(std::optional<Section> printSelection) const;
+    /// Turned by the section's orientation.
+    [[nodiscard]] PageGeometry geometry(std::optional<Section> printSelection) const;
+    /// The page, counted from 1, in points of the paper of geometry().
+    [[nodiscard]] Picture page(std::optional<Section> printSelection, int number) const;
+
+    [[nodiscard]] const ReportSource& report() const { return source; }
+    [[nodiscard]] const QPageSize& paper() const { return paperSize; }
+    void setPaper(const QPageSize& paper) { paperSize = paper; }
+    void setNeedPhysicianInfo(bool need) { source.needPhysicianInfo = need; }
+
+private:
+    void drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const;
+    void drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const;
+
+    ReportSource source;
+    QPageSize paperSize;
+};
+
+} // namespace zel

@@ -1,0 +1,81 @@
+#include "report/ReportPdf.h"
+
+#include "report/PdfFacts.h"
+#include "report/ReportPainter.h"
+#include "store/AtomicFile.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+tl::unexpected<ReportError> failed(ReportErrorCode code) { return tl::unexpected(ReportError{code, {}, {}}); }
+
+/// The practice, by the first line of its details if they are in the report; else the program.
+QString author(const ReportSource& report) {
+    const QString practice = report.settings.physicianAddress.section(u'\n', 0, 0).trimmed();
+    return report.needPhysicianInfo && !practice.isEmpty() ? practice.left(200) : u"ZEL"_s;
+}
+
+PdfFacts factsOf(const ReportSource& report) {
+    const PatientModel& patient = report.patient;
+    const QString name = (patient.GivenNames.left(200) + u' ' + patient.FamilyName.left(200)).trimmed();
+    return {.title = qtTrId("reportDocument").arg(name, patient.ID.left(200)),
+            .author = author(report),
+            .creator = u"ZEL "_s + QStringLiteral(ZEL_VERSION),
+            .created = report.now};
+}
+
+bool hasPages(const PrintView& view, std::span<const Section> sections) {
+    return std::ranges::any_of(sections, [&](Section section) { return view.getTotalPages(section) > 0; });
+}
+
+QString sentence(ReportErrorCode code) {
+    switch (code) {
+    case ReportErrorCode::noData: return qtTrId("reportNoData");
+    case ReportErrorCode::notPainted: return qtTrId("reportNotPainted");
+    case ReportErrorCode::notWritable: return qtTrId("reportNotWritable");
+    case ReportErrorCode::writeFailed: return qtTrId("reportWriteFailed");
+    }
+    return {};
+}
+
+} // namespace
+
+QString describe(const ReportError& error) {
+    QString words = sentence(error.code);
+    if (!error.path.isEmpty()) words = words.arg(error.path);
+    return error.detail.isEmpty() ? words : words + u'\n' + error.detail;
+}
+
+tl::expected<QByteArray, ReportError> makePdf(const PrintView& view, std::span<const Section> sections) {
+    if (!hasPages(view, sections)) return failed(ReportErrorCode::noData);
+    QBuffer buffer;
+    if (!buffer.open(QIODevice::WriteOnly)) return failed(ReportErrorCode::notPainted);
+    {
+        QPdfWriter writer(&buffer);
+        if (!paintReport(writer, view, sections)) return failed(ReportErrorCode::notPainted);
+    }
+    QByteArray pdf = withPdfFacts(std::move(buffer.buffer()), factsOf(view.report()));
+    if (pdf.isNull()) return failed(ReportErrorCode::notPainted);
+    return pdf;
+}
+
+tl::expected<void, ReportError> writePdf(const PrintView& view, std::span<const Section> sections,
+                                         const QString& path) {
+    const auto pdf = makePdf(view, sections);
+    if (!pdf) return tl::unexpected(pdf.error());
+    return replaceFile(path, *pdf).map_error([](const StoreError& error) {
+        const bool isWritable = error.code != StoreErrorCode::notWritable;
+        return ReportError{isWritable ? ReportErrorCode::writeFailed : ReportErrorCode::notWritable,
+                           error.path, error.detail};
+    });
+}
+
+} // namespace zel

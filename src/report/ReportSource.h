@@ -1,0 +1,31 @@
+#pragma once
+
+#include "analysis/ReadingRows.h"
+#include "analysis/ReadingSelection.h"
+#include "chart/DrawChart.h"
+#include "store/PatientModel.h"
+#include "store/RecordLinks.h"
+#include "store/SettingModel.h"
+
+namespace zel {
+
+/// Everything that a report shows. What it refers to must outlive it.
+struct ReportSource {
+    const PatientModel& patient;
+    const ReadingList& readings; ///< in date order
+    const CommentList& comments; ///< by begin date
+    const DataLogList& downloads;
+    const SettingModel& settings;
+    ReadingSelection selection; ///< the reporting period and what is shown of it
+    ReadingRows rows;           ///< what the reading table shows of it
+    Instant now{};              ///< today's date, and the day that the age is reached on
+
+    bool needPhysicianInfo = false;    ///< the practitioner's details stand in the footer
+    bool getShowMam = true;            ///< the reading table shows its column of averages
+    bool getShowPad = true;            ///< the reading table shows its arrhythmia column
+    bool getIsAfib = false;            ///< which is titled for AFib, not for PAD
+    ChartStyle lowerChart = DrawPulse; ///< the graph page's charts, for what they show on the screen
+    ChartStyle bloodChart = DrawBlood;
+};
+
+} // namespace zel

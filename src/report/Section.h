@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPageLayout>
+#include <QString>
+
+#include <optional>
+#include <span>
+
+namespace zel {
+
+enum class Section { graph, PatientProfile, histogram, correlation, table, comment, SWStatistics };
+
+/// One section of the report.
+struct SectionFacts {
+    Section section;
+    const char* key;   ///< as commands name it
+    QString (*text)(); ///< as the user reads it, on the page and in the list of sections
+    QPageLayout::Orientation orientation;
+};
+
+/// In the order of Section.
+[[nodiscard]] std::span<const SectionFacts> sections();
+[[nodiscard]] const SectionFacts& facts(Section section);
+[[nodiscard]] std::optional<Section> sectionByKey(const QString& key);
+/// The section that the user reads as \p text, or none.
+[[nodiscard]] std::optional<Section> sectionByText(const QString& text);
+/// Landscape for no section, too.
+[[nodiscard]] QPageLayout::Orientation getOrientation(std::optional<Section> section);
+
+} // namespace zel

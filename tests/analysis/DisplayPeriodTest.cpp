@@ -1,0 +1,130 @@
+#include "analysis/DisplayPeriod.h"
+
+#include "analysis/Sample.h"
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+class DisplayPeriodTest : public testing::Test {
+protected:
+    DisplayPeriodTest() {
+        QObject::connect(&period, &DisplayPeriod::changed, &period, [this] { ++changes; });
+    }
+
+    void select(const ReadingList& readings) {
+        period.setChangeUser(true);
+        period.setCurrentReadingTimePeriod(readings);
+        period.adjustViewAll();
+        period.setChangeUser(false);
+    }
+    [[nodiscard]] std::string shown() const {
+        const QString form = QStringLiteral("yyyy-MM-dd HH:mm:ss");
+        return (DateToStr(period.getTimePeriod().begin, form) + u' '
+                + DateToStr(period.getTimePeriod().end, form))
+            .toStdString();
+    }
+
+    DisplayPeriod period{at("2026-11-21 08:00")};
+    int changes = 0;
+};
+
+TEST_F(DisplayPeriodTest, NewPatientOpensWithAllOfAShortTimeOrTheLastMonthsOfALongOne) {
+    struct Case {
+        std::initializer_list<const char*> readings;
+        ViewSelection view;
+        const char* shown;
+    };
+    const Case cases[] = {
+        {{"2019-03-10 23:50", "2019-06-08 00:10"}, // 90 days, across the change to summer time
+         ViewSelection::viewAll,
+         "2019-03-10 00:00:00 2019-06-08 23:59:59"},
+        {{"2019-02-10 10:00", "2019-05-11 12:00"}, // 90 days, but more than three months
+         ViewSelection::viewAll,
+         "2019-02-10 00:00:00 2019-05-11 23:59:59"},
+        {{"2019-03-10 23:50", "2019-06-09 00:10"}, // 91 days
+         ViewSelection::custom,
+         "2019-03-10 00:00:00 2019-06-09 23:59:59"},
+        {{"2019-05-31 09:00", "2019-01-01 09:00"}, // stored the other way round, to the end of February
+         ViewSelection::custom,
+         "2019-02-28 00:00:00 2019-05-31 23:59:59"},
+        {{"2000-01-01 08:00", "2019-05-31 09:00", "0001-01-01"},
+         ViewSelection::viewAll,
+         "2019-05-31 00:00:00 2019-05-31 23:59:59"},
+        {{"1970-01-01 12:00", "2100-12-31 09:00"},
+         ViewSelection::custom,
+         "2100-09-30 00:00:00 2100-12-31 23:59:59"},
+        {{}, ViewSelection::viewAll, "2026-01-01 00:00:00 2026-01-01 23:59:59"},
+        {{"2000-01-01 08:00"}, ViewSelection::viewAll, "2026-01-01 00:00:00 2026-01-01 23:59:59"},
+    };
+    for (const Case& c : cases) {
+        select(readingsAt({"2018-05-01 10:00"})); // somebody else before
+        select(readingsAt(c.readings));
+        EXPECT_EQ(period.getSelectViewIndex(), c.view) << c.shown;
+        EXPECT_EQ(shown(), c.shown);
+    }
+    EXPECT_EQ(period.getDataPeriod().begin, at("2018-05-01 10:00")) << "as it was, without a dated reading";
+}
+
+TEST_F(DisplayPeriodTest, PickedDaysAreAtLeastTwoAndEndTheViewChoice) {
+    period.setCurrentReadingTimePeriod(readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"}));
+    period.setSelectViewIndex(ViewSelection::pmOnly);
+    EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-08 23:59:59");
+    changes = 0;
+    EXPECT_FALSE(period.pickTimePeriod(at("2019-05-02 08:00"), at("2019-05-02 20:00")));
+    EXPECT_FALSE(period.pickTimePeriod(at("2019-05-03"), at("2019-05-02")));
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::pmOnly);
+    EXPECT_EQ(changes, 0);
+    EXPECT_TRUE(period.pickTimePeriod(at("2019-05-02 20:00"), at("2019-05-03 08:00")));
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
+    EXPECT_EQ(shown(), "2019-05-02 00:00:00 2019-05-03 23:59:59");
+    EXPECT_EQ(changes, 1);
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    EXPECT_EQ(shown(), "2019-03-01 00:00:00 2019-07-08 23:59:59");
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
+    select({});
+    period.setSelectViewIndex(ViewSelection::custom);
+    period.refreshDataPeriod(readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"}));
+    EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-08 23:59:59");
+    changes = 0;
+    period.refreshDataPeriod(readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"}));
+    period.refreshDataPeriod(readingsAt({"2000-01-01 08:00"}));
+    EXPECT_EQ(changes, 0);
+    period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2019-01-01 10:00"}));
+    EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-08 23:59:59");
+    EXPECT_EQ(changes, 1);
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    EXPECT_EQ(shown(), "2019-01-01 00:00:00 2019-07-09 23:59:59");
+    period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2018-01-01 10:00"}));
+    EXPECT_EQ(shown(), "2018-01-01 00:00:00 2019-07-09 23:59:59");
+}
+
+TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
+    period.setTimePeriod(at("2019-05-02 20:00"), std::nullopt);
+    EXPECT_EQ(shown(), "2019-05-02 00:00:00 2026-01-01 00:00:00");
+    EXPECT_EQ(changes, 1);
+    period.setTimePeriod(at("2019-05-02 10:00"), std::nullopt);
+    period.setIncludeNoDatetimeData(false);
+    period.setSelectViewIndex(ViewSelection::custom);
+    period.setChangeUser(true);
+    EXPECT_EQ(changes, 1);
+    period.setIncludeNoDatetimeData(true);
+    period.setSelectViewIndex(ViewSelection::amOnly);
+    period.setChangeUser(true);
+    EXPECT_EQ(changes, 4);
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
+}
+
+TEST_F(DisplayPeriodTest, CommentsArePlacedOnUpTo46DaysMore) {
+    period.setTimePeriod(at("2019-03-01"), at("2019-04-16"));
+    EXPECT_TRUE(period.isValidCommentTimeRange());
+    period.setTimePeriod(at("2019-03-01"), at("2019-04-17"));
+    EXPECT_FALSE(period.isValidCommentTimeRange());
+}
+
+} // namespace
+} // namespace zel

@@ -1,0 +1,101 @@
+#include "analysis/Sample.h"
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+struct Span {
+    const char* from;
+    const char* to;
+};
+
+struct Case {
+    const char* what;
+    std::vector<const char*> readings;
+    std::vector<Span> comments;
+    const char* rows;
+    Span shown{"2019-01-01", "2019-12-31"};
+};
+
+const Case cases[] = {
+    {"days before, between and after",
+     {"2019-03-03 08:30", "2019-03-10 09:00"},
+     {{"2019-03-01", "2019-03-05 23:59:59"}},
+     "(03-01/00:00) (03-02/00:00) 03-03/08:30 (03-04/08:30) (03-05/08:30) 03-10/09:00"},
+    {"the last step is past the end",
+     {"2019-03-03 08:30", "2019-03-10 09:00"},
+     {{"2019-03-02", "2019-03-05 08:29:59"}},
+     "(03-02/00:00) 03-03/08:30 (03-04/08:30) 03-10/09:00"},
+    {"all after the last reading",
+     {"2019-03-03 08:30"},
+     {{"2019-03-05 07:00", "2019-03-06 23:59:59"}},
+     "03-03/08:30 (03-05/07:00) (03-06/07:00)"},
+    {"a step past the time of the next reading",
+     {"2019-03-03 08:30", "2019-03-03 20:30", "2019-03-05 07:00"},
+     {{"2019-03-03", "2019-03-05 23:59:59"}},
+     "03-03/08:30 03-03/20:30 03-05/07:00"}, // 03-04/20:30 would be after 03-04/07:00
+    {"the second begins behind the first one's end",
+     {"2019-03-10 09:00"},
+     {{"2019-03-01", "2019-03-03 12:00"}, {"2019-03-02", "2019-03-05 23:59:59"}},
+     "(03-01/00:00) (03-02/00:00) (03-03/00:00) (03-04/12:00) (03-05/12:00) 03-10/09:00"},
+    {"within another, with a third behind it",
+     {"2019-03-02 09:00", "2019-03-05 09:00"},
+     {{"2019-03-01", "2019-03-06 23:59:59"},
+      {"2019-03-02", "2019-03-02"},
+      {"2019-03-04", "2019-03-07 12:00"}},
+     "(03-01/00:00) 03-02/09:00 (03-03/09:00) (03-04/09:00) 03-05/09:00 (03-06/09:00) (03-07/09:00)"},
+    {"wholly before, then within, then after the period",
+     {"2019-03-10 09:00"},
+     {{"2019-02-01", "2019-02-27"}, {"2019-03-08", "2019-03-09 23:59:59"}, {"2019-04-01", "2019-04-03"}},
+     "(03-08/00:00) (03-09/00:00) 03-10/09:00",
+     {"2019-03-01", "2019-03-31"}},
+    {"clipped at both ends",
+     {"2019-03-02 09:00"},
+     {{"1970-01-01 11:00", "2100-01-01"}},
+     "(03-01/00:00) 03-02/09:00 (03-03/09:00) (03-04/09:00)",
+     {"2019-03-01", "2019-03-04"}},
+    {"one reading serves two comments",
+     {"2019-03-03 08:30", "2019-03-09 09:00"},
+     {{"2019-03-02", "2019-03-03 07:00"}, {"2019-03-03 10:00", "2019-03-04 09:00"}},
+     "(03-02/00:00) 03-03/08:30 (03-04/08:30) 03-09/09:00"},
+    {"end before begin", {"2019-03-03 08:30"}, {{"2019-03-09", "2019-03-05"}}, "03-03/08:30"},
+    {"dates that are none", {"2019-03-03 08:30"}, {{"0001-01-01", "0001-01-01"}}, "03-03/08:30"},
+    {"begin that is none",
+     {"2019-03-03 08:30"},
+     {{"0001-01-01", "2019-03-03"}},
+     "(03-02/00:00) 03-03/08:30",
+     {"2019-03-02", "2019-03-31"}},
+    {"no reading", {}, {{"2019-03-01", "2019-03-05"}}, ""},
+    {"to summer time",
+     {"2019-04-02 00:10"},
+     {{"2019-03-29 23:30", "2019-04-01 23:59:59"}},
+     "(03-29/23:30) (03-30/23:30) (03-31/23:30) (04-01/23:30) 04-02/00:10"}, // as on any other days
+    {"to winter time",
+     {"2019-10-29 09:00"},
+     {{"2019-10-26", "2019-10-28 23:59:59"}},
+     "(10-26/00:00) (10-27/00:00) (10-28/00:00) 10-29/09:00"},
+};
+
+TEST(PlaceholderRows, StandOnTheDaysThatOnlyACommentCovers) {
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Sample sample;
+        for (const char* date : c.readings)
+            sample.readings.push_back(readingAt(date));
+        for (const Span& span : c.comments)
+            sample.comment(span.from, span.to);
+        sample.selection = during(c.shown.from, c.shown.to);
+        EXPECT_EQ(sample.words(), c.rows);
+    }
+}
+
+TEST(PlaceholderRows, CommentWithoutAnyDateMakesNone) {
+    Sample sample;
+    sample.readings = readingsAt({"2019-03-03 08:30"});
+    sample.comments.push_back(std::make_unique<CommentModel>());
+    EXPECT_EQ(sample.words(), "03-03/08:30");
+}
+
+} // namespace
+} // namespace zel

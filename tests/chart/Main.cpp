@@ -1,0 +1,16 @@
+#include "support/Environment.h"
+
+#include <QGuiApplication>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    zel::setTestEnvironment();
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    QTranslator translator;
+    if (!translator.load(QStringLiteral(":/zel_en.qm"))) return 1;
+    QCoreApplication::installTranslator(&translator);
+    return RUN_ALL_TESTS();
+}

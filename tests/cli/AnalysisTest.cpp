@@ -1,0 +1,52 @@
+#include "cli/CliTest.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The readings of planM1, and a comment on the days before, between and after them.
+class AnalysisTest : public CliTest {
+protected:
+    AnalysisTest() {
+        addPatient(u"M1"_s);
+        EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient=M1"_s}).status, 0);
+        setData(data().replace("</ZEL>", "<Comment><ID>M1</ID><CommentID>10001</CommentID>"
+                                         "<BeginDate>2026-11-01T00:00:00+01:00</BeginDate>"
+                                         "<EndDate>2026-11-05T23:59:59+01:00</EndDate></Comment></ZEL>"));
+    }
+
+    std::string of(const char* line) {
+        return zel(QString::fromLatin1(line).split(u' ') + QStringList{u"--patient=M1"_s}).out;
+    }
+};
+
+TEST_F(AnalysisTest, ReadingsAreTheListOfThePeriod) {
+    const std::string header = "date,time,sys,dia,pulse,map,pp,mam,arrhythmia\n";
+    const std::string undated = "n.a,--:--,118,79,64,92,39,Yes,No\n";
+    const std::string morning = "2026-11-02,07:05,152,88,71,109,64,Yes,Yes\n";
+    const std::string evening = "2026-11-02,19:30,120,80,66,93,40,No,No\n";
+    const std::string next = "2026-11-03,06:59,99,60,102,73,39,No,No\n";
+    const std::string nothing = ",n.a.,n.a.,n.a.,n.a.,n.a.,n.a.,n.a.,n.a.\n";
+    EXPECT_EQ(of("readings --am"), header + morning + next);
+    EXPECT_EQ(of("readings --pm --undated"), header + undated + evening + "2026-11-03" + nothing);
+    EXPECT_EQ(of("readings --from 2026-10-30 --to 2026-11-04"),
+              header + "2026-11-01" + nothing + morning + evening + next + "2026-11-04" + nothing);
+    EXPECT_EQ(of("readings --to 2026-11-02 --undated"), header + undated + morning + evening);
+}
+
+TEST_F(AnalysisTest, StatisticsAreTheCellsOfTheTable) {
+    EXPECT_EQ(of("statistics"), "sys: 124 99 152\ndia: 76 60 88\npulse: 80 66 102\npp: 48 39 64\n");
+    EXPECT_EQ(of("statistics --to 2026-11-02 --undated"),
+              "sys: 130 118 152\ndia: 82 79 88\npulse: 67 64 71\npp: 48 39 64\n");
+    ASSERT_EQ(zel({u"settings"_s, u"--set=ShowPPorMap=1"_s}).status, 0);
+    EXPECT_EQ(of("statistics --from 2026-11-03"),
+              "sys: 99 99 99\ndia: 60 60 60\npulse: 102 102 102\nmap: 73 73 73\n");
+    EXPECT_EQ(of("statistics --from 2027-01-01"),
+              "sys: n/a n/a n/a\ndia: n/a n/a n/a\npulse: n/a n/a n/a\nmap: n/a n/a n/a\n");
+}
+
+} // namespace
+
+} // namespace zel

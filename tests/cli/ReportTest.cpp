@@ -1,0 +1,71 @@
+#include "cli/CliTest.h"
+
+#include <QFile>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Report : public CliTest {
+protected:
+    Report() {
+        addPatient(u"M1"_s);
+        EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient"_s, u"M1"_s}).status, 0);
+    }
+    Outcome report(const QString& section, const QStringList& more = {}) {
+        return zel(
+            QStringList{u"report"_s, u"--patient"_s, u"M1"_s, u"--section"_s, section, u"--output"_s, output}
+            + more);
+    }
+    [[nodiscard]] QByteArray written() const {
+        QFile file(output);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    const QString output = folder.filePath(u"report.pdf"_s);
+};
+
+TEST_F(Report, everySectionIsWritten) {
+    const Outcome outcome = report(u"all"_s, {u"--practitioner"_s, u"--paper"_s, u"Letter"_s});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, "written: " + output.toStdString() + '\n');
+    EXPECT_TRUE(written().startsWith("%PDF-"));
+    // No comments: six sections of one page each, two of them upright.
+    EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 4);
+    EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 2);
+}
+
+TEST_F(Report, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
+    struct Refusal {
+        QString section;
+        QStringList more;
+        int status;
+        const char* words;
+    };
+    const Refusal table[] = {
+        {u"comment"_s, {}, 1, "nothing to print"},
+        {u"table"_s, {u"--from"_s, u"2030-01-01"_s, u"--to"_s, u"2030-02-01"_s}, 1, "nothing to print"},
+        {u"table,chart"_s, {}, 2, "no section 'chart'"},
+        {u"table"_s, {u"--paper"_s, u"A5"_s}, 2, "not 'A5'"},
+        {u"table"_s, {u"--from"_s, u"1.2.2026"_s}, 2, "--from"},
+    };
+    for (const Refusal& row : table) {
+        const Outcome outcome = report(row.section, row.more);
+        EXPECT_EQ(outcome.status, row.status) << row.words;
+        EXPECT_THAT(outcome.err, testing::HasSubstr(row.words));
+        EXPECT_FALSE(QFile::exists(output)) << row.words;
+    }
+}
+
+TEST_F(Report, neverReplacesTheDataFile) {
+    const QByteArray before = data();
+    const Outcome outcome =
+        zel({u"report"_s, u"--patient"_s, u"M1"_s, u"--section"_s, u"table"_s, u"--output"_s, dataFile()});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(data(), before);
+}
+
+} // namespace
+
+} // namespace zel

@@ -1,0 +1,16 @@
+#include "report/TextApplication.h"
+#include "support/Environment.h"
+
+#include <QTranslator>
+
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv) {
+    zel::setTestEnvironment();
+    const auto application = zel::makeTextApplication(argc, argv);
+    QTranslator texts;
+    if (!texts.load(QStringLiteral(":/zel_en.qm"))) return 1;
+    QCoreApplication::installTranslator(&texts);
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}

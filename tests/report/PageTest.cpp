@@ -1,0 +1,190 @@
+#include "SampleReport.h"
+#include "chart/Drawing.h"
+#include "report/FieldText.h"
+#include "report/ReportPainter.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gmock/gmock.h>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(Page, geometryFollowsThePaperAndItsMargins) {
+    const PageGeometry at = pageGeometry({595, 842}, 45);
+    EXPECT_EQ(at.totalRect, (Rect{48, 32, 499, 778}));
+    EXPECT_EQ(at.footerRect, (Rect{48, 32, 499, 100}));
+    EXPECT_EQ(at.bodyRect, (Rect{48, 132, 499, 633}));
+    EXPECT_EQ(at.titleRect, (Rect{48, 765, 499, 45}));
+    EXPECT_EQ(at.drawingRect, (Rect{48, 132, 499, 588}));
+}
+
+TEST(Page, sectionsAreFoundByKeyAndTextAndHaveTheirOrientation) {
+    EXPECT_EQ(sectionByKey(u"SWStatistics"_s), Section::SWStatistics);
+    EXPECT_EQ(sectionByText(facts(Section::comment).text()), Section::comment);
+    EXPECT_EQ(sectionByKey(u"Graph"_s), std::nullopt);
+    EXPECT_EQ(getOrientation(std::nullopt), QPageLayout::Landscape);
+    std::vector<Section> upright;
+    for (const Section section : allSections())
+        if (getOrientation(section) == QPageLayout::Portrait) upright.push_back(section);
+    EXPECT_THAT(upright, testing::ElementsAre(Section::table, Section::comment, Section::SWStatistics));
+}
+
+struct Count {
+    std::optional<Section> section;
+    int readings;
+    int comments;
+    int pages;
+};
+
+// A4: 28 rows on a page of the table, 10 below the statistics, 9 comments on a page.
+TEST(Page, countsFollowRowsAndComments) {
+    const Count table[] = {
+        {Section::graph, 0, 0, 1},         {Section::PatientProfile, 0, 0, 1},
+        {Section::histogram, 0, 0, 1},     {Section::correlation, 0, 0, 1},
+        {std::nullopt, 100, 10, 1},        {Section::table, 0, 0, 0},
+        {Section::table, 1, 0, 1},         {Section::table, 28, 0, 1},
+        {Section::table, 29, 0, 2},        {Section::table, 56, 0, 2},
+        {Section::table, 57, 0, 3},        {Section::SWStatistics, 0, 0, 1},
+        {Section::SWStatistics, 10, 0, 1}, {Section::SWStatistics, 11, 0, 2},
+        {Section::SWStatistics, 38, 0, 2}, {Section::SWStatistics, 39, 0, 3},
+        {Section::comment, 0, 0, 0},       {Section::comment, 0, 9, 1},
+        {Section::comment, 0, 10, 2},
+    };
+    for (const Count& row : table) {
+        const SampleReport sample(row.readings, row.comments);
+        EXPECT_EQ(sample.view().getTotalPages(row.section), row.pages)
+            << (row.section ? facts(*row.section).key : "none") << ", " << row.readings << " readings, "
+            << row.comments << " comments";
+    }
+}
+
+/// A patient whose every text is that one.
+SampleReport patientOf(const QString& text) {
+    SampleReport sample(60);
+    PatientModel& patient = sample.patient;
+    for (QString* field : {&patient.GivenNames, &patient.FamilyName, &patient.ID, &patient.Address,
+                           &patient.PhoneEmail, &patient.FamilyHistory, &patient.PatientNotes})
+        *field = text;
+    sample.settings.physicianAddress = text;
+    for (int i = 0; i < 9; ++i)
+        sample.addComment("2019-01-05", "2019-01-06", 3, text);
+    for (ReadingModel& reading : sample.readings)
+        reading.sys = reading.dia = reading.pulse = reading.pp = UINT32_MAX;
+    return sample;
+}
+
+TEST(Page, noTextLeavesItsPage) {
+    const QString long100000(100'000, u'W');
+    for (const QString& text :
+         {u"Ada"_s, long100000, u"a\nb\n"_s.repeated(50'000), u"\u05D3\u05D5\u05D3 "_s.repeated(500),
+          u"\u738B\u5C0F\u660E"_s.repeated(500)}) {
+        const SampleReport sample = patientOf(text);
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            const PrintView view = sample.view(paper);
+            for (const Section section : allSections()) {
+                const Rect total = view.geometry(section).totalRect;
+                for (const TextLine& line : textsOf(view.page(section, 1))) {
+                    const Size size = textSize(line.text, line.attribute);
+                    EXPECT_GE(line.origin.x, total.x - 0.01) << qPrintable(line.text.left(40));
+                    EXPECT_LE(line.origin.x + size.width, total.right() + 0.01)
+                        << qPrintable(line.text.left(40)) << " in " << facts(section).key;
+                    EXPECT_GE(line.origin.y, total.y - 0.01) << qPrintable(line.text.left(40));
+                }
+            }
+        }
+    }
+}
+
+TEST(Page, aLongNameLeavesTheIDReadable) {
+    SampleReport sample;
+    sample.patient.GivenNames = QString(5000, u'x');
+    const auto texts = textsOf(sample.view().page(Section::PatientProfile, 1));
+    EXPECT_THAT(texts, testing::Contains(testing::Truly([](const TextLine& line) {
+                    return line.text.startsWith("Patient Name=xx"_L1) && line.text.contains(u"\u2026 Byron"_s)
+                           && line.text.endsWith("  ID=P-17"_L1);
+                })));
+}
+
+TEST(Page, textsAreShortenedOnlyWhereTheyDoNotFit) {
+    const TextAttribute plain;
+    const double width = textSize(u"Hello, world"_s, plain).width;
+    EXPECT_EQ(elided(u"Hello, world"_s, width + 0.01, plain), u"Hello, world"_s);
+    EXPECT_TRUE(elided(u"Hello, world"_s, width - 1, plain).endsWith(u'\u2026'));
+    EXPECT_EQ(elided(u"two\nlines"_s, 500, plain), u"two lines"_s);
+    Picture picture;
+    fieldParagraph(picture, u"1\n2\n3\n4\n5\n6"_s, {0, 100}, 200, plain);
+    const auto lines = textsOf(picture);
+    ASSERT_EQ(lines.size(), 5U);
+    EXPECT_EQ(lines.back().text, u"5\u2026"_s);
+    EXPECT_LT(lines.back().origin.y, lines.front().origin.y);
+}
+
+TEST(Page, footerShowsThePractitionerOnlyWhenAskedFor) {
+    SampleReport sample;
+    const auto hasPractitioner = [&] {
+        const auto texts = textsOf(sample.view().page(std::nullopt, 1));
+        return std::ranges::any_of(texts, [](const TextLine& line) { return line.text == "Dr. Moreau"_L1; });
+    };
+    EXPECT_TRUE(hasPractitioner());
+    sample.needPhysicianInfo = false;
+    EXPECT_FALSE(hasPractitioner());
+}
+
+bool shows(const PrintView& view, Section section, const QString& words) {
+    const auto texts = textsOf(view.page(section, 1));
+    return std::ranges::any_of(texts, [&](const TextLine& line) { return line.text.contains(words); });
+}
+
+TEST(Page, theCorrelationsFiguresAreWholeOnEachPaper) {
+    const SampleReport sample(730);
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter})
+        EXPECT_FALSE(shows(sample.view(paper), Section::correlation, u"\u2026"_s));
+}
+
+// In black and white, and with the days of a year.
+TEST(Page, theChartsLimitsStandOutAndItsNoteTellsOnlyOfWhatIsThere) {
+    SampleReport sample(60, 1);
+    const auto lines = [&](auto isCounted) {
+        const Picture page = sample.view().page(Section::graph, 1);
+        return std::ranges::count_if(page, [&](const PictureItem& item) {
+            const auto* line = std::get_if<StraightLine>(&item);
+            return line && isCounted(*line);
+        });
+    };
+    const auto isDash = [](const StraightLine& line) {
+        return line.color == Qt::black && line.from.y == line.to.y && line.width == 0.75;
+    };
+    const auto isHairline = [](const StraightLine& line) {
+        return line.from.x == line.to.x && line.width < 0.5;
+    };
+    EXPECT_GT(lines(isDash), 100);
+    EXPECT_GT(lines(isHairline), 700) << "a year, in two charts";
+    EXPECT_FALSE(shows(sample.view(), Section::graph, qtTrId("reportGraphComments")));
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-30"), false);
+    EXPECT_EQ(lines(isHairline), 0);
+    EXPECT_TRUE(shows(sample.view(), Section::graph, qtTrId("reportGraphComments")));
+    EXPECT_TRUE(shows(sample.view(), Section::graph, qtTrId("reportGraphDownloads")));
+    sample.downloads.clear();
+    EXPECT_FALSE(shows(sample.view(), Section::graph, qtTrId("reportGraphDownloads")));
+    sample.settings.sysStandard = sample.settings.diaStandard = 999;
+    EXPECT_EQ(lines(isDash), 0) << "outside the scale";
+}
+
+TEST(Page, previewShowsThePageInItsBox) {
+    const SampleReport sample(5);
+    QImage image(700, 500, QImage::Format_RGB32);
+    QPainter painter(&image);
+    paintPreview(painter, image.rect(), sample.view(), Section::table, 1);
+    EXPECT_EQ(image.pixelColor(350 - 150, 250), grayBackgroundcolor);
+    EXPECT_EQ(image.pixelColor(350 - 148, 250), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(350, 250 - 387 / 2 + 20), QColor(206, 219, 239)) << "the title band";
+}
+
+} // namespace
+
+} // namespace zel

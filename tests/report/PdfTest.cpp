@@ -1,0 +1,119 @@
+#include "SampleReport.h"
+#include "report/ReportPdf.h"
+#include "store/AtomicFile.h"
+#include "support/FullDisk.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a program of poppler-utils says about the PDF.
+QString said(const QString& program, const QByteArray& pdf, QStringList options = {}) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"report.pdf"_s);
+    if (!replaceFile(path, pdf)) return {};
+    QProcess process;
+    process.start(program,
+                  options << path << (program == "pdftotext"_L1 ? QStringList(u"-"_s) : QStringList()));
+    process.waitForFinished();
+    EXPECT_EQ(process.exitCode(), 0) << program.toStdString();
+    EXPECT_THAT(process.readAllStandardError().toStdString(), testing::IsEmpty());
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+QByteArray pdfOf(const SampleReport& sample, const std::vector<Section>& which) {
+    const auto pdf = makePdf(sample.view(), which);
+    EXPECT_TRUE(pdf.has_value());
+    return pdf.value_or(QByteArray());
+}
+
+TEST(Pdf, aTextSearchFindsEveryNumberOfTheTable) {
+    const SampleReport sample(729, 3);
+    const QString text = said(u"pdftotext"_s, pdfOf(sample, {Section::table}), {u"-layout"_s});
+    QStringList found;
+    static const QRegularExpression row(
+        u"^ *(\\d{4}/\\d\\d/\\d\\d) +(\\d\\d:\\d\\d)\\D+(\\d+) +(\\d+) +(\\d+) +(\\d+)"_s,
+        QRegularExpression::MultilineOption);
+    for (auto match = row.globalMatch(text); match.hasNext();)
+        found += match.next().capturedTexts().mid(1).join(u' ');
+    QStringList expected;
+    for (const ReadingModel& reading : sample.readings)
+        expected += u"%1 %2 %3 %4 %5 %6"_s
+                        .arg(reading.strDisplayDate(sample.settings), reading.strDisplayTime(sample.settings))
+                        .arg(reading.sys)
+                        .arg(reading.dia)
+                        .arg(reading.pulse)
+                        .arg(sample.settings.showPPorMap == 0 ? reading.pp : reading.map);
+    ASSERT_EQ(found.size(), expected.size());
+    for (qsizetype i = 0; i < found.size(); ++i)
+        EXPECT_EQ(found[i].toStdString(), expected[i].toStdString());
+}
+
+TEST(Pdf, everySectionIsPrintedForAYearOfDataAndForNone) {
+    static const QRegularExpression embeddedWithText(u" yes +(yes|no) +yes +\\d"_s);
+    for (const auto& [readings, comments] : {std::pair(729, 12), std::pair(0, 0)}) {
+        SampleReport sample(readings, comments);
+        sample.patient.FamilyName = u"\u738B\u5C0F\u660E \u05DB\u05D4\u05DF"_s;
+        int pages = 0;
+        for (const Section section : allSections())
+            pages += sample.view().getTotalPages(section);
+        const QByteArray pdf = pdfOf(sample, allSections());
+        EXPECT_TRUE(said(u"pdfinfo"_s, pdf).contains(QRegularExpression(u"Pages: +%1\n"_s.arg(pages))));
+        EXPECT_TRUE(said(u"pdftotext"_s, pdf).contains(u"\u738B\u5C0F\u660E"_s));
+        for (const QString& font : said(u"pdffonts"_s, pdf).split(u'\n', Qt::SkipEmptyParts).mid(2))
+            EXPECT_TRUE(font.contains(embeddedWithText)) << qPrintable(font);
+        EXPECT_EQ(said(u"pdfimages"_s, pdf, {u"-list"_s}).count(u'\n'), 2) << "pictures are vectors";
+    }
+}
+
+TEST(Pdf, saysWhatItIsAndTurnsItsPages) {
+    const QByteArray pdf = pdfOf(SampleReport(1), {Section::graph, Section::table});
+    const QString info = said(u"pdfinfo"_s, pdf, {u"-l"_s, u"2"_s});
+    for (const char* line : {"Title: +Blood-pressure report: Ada Byron \\(P-17\\)\n", "Author: +Dr. Moreau\n",
+                             "CreationDate: +Wed Jan 15", "1 size: +842 x 595", "2 size: +595 x 842"})
+        EXPECT_TRUE(info.contains(QRegularExpression(QLatin1StringView(line)))) << line << qPrintable(info);
+    EXPECT_TRUE(pdf.contains("/Lang (en)"));
+}
+
+TEST(Pdf, aReportWithoutPagesIsRefused) {
+    const QTemporaryDir folder;
+    const auto written = writePdf(SampleReport().view(), std::vector{Section::table, Section::comment},
+                                  folder.filePath(u"report.pdf"_s));
+    ASSERT_FALSE(written.has_value());
+    EXPECT_EQ(written.error().code, ReportErrorCode::noData);
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST(Pdf, aFailedWriteLeavesWhatWasThere) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"report.pdf"_s);
+    ASSERT_TRUE(replaceFile(path, "an older report"));
+    const SampleReport sample(100);
+    const PrintView view = sample.view();
+    const std::vector which{Section::PatientProfile};
+    {
+        const FullDisk disk(2000);
+        const auto written = writePdf(view, which, path);
+        ASSERT_FALSE(written.has_value());
+        EXPECT_EQ(written.error().code, ReportErrorCode::writeFailed);
+        EXPECT_TRUE(describe(written.error()).contains(path));
+    }
+    EXPECT_EQ(readFile(path), "an older report");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    const auto nowhere = writePdf(view, which, folder.filePath(u"no/report.pdf"_s));
+    ASSERT_FALSE(nowhere.has_value());
+    EXPECT_EQ(nowhere.error().code, ReportErrorCode::notWritable);
+}
+
+} // namespace
+
+} // namespace zel

@@ -1,0 +1,127 @@
+#include "SampleReport.h"
+#include "chart/Drawing.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr double wratio = 499.0 / 786;
+
+/// The texts of a table's row by their column; the header is row 0.
+class TableTest : public testing::Test {
+protected:
+    std::map<int, QString> row(int number, int page = 1) const {
+        const PrintView view = sample.view();
+        const Picture picture = view.page(Section::table, page);
+        const double bottom = std::trunc(view.geometry(Section::table).drawingRect.top() - 20) - 20 * number;
+        std::map<int, QString> cells;
+        for (const TextLine& line : textsOf(picture))
+            if (bottom <= line.origin.y && line.origin.y < bottom + 20 && line.attribute.size >= 10)
+                cells[columnOf(line.origin.x)] = line.text;
+        return cells;
+    }
+    static int columnOf(double x) {
+        const int columns[] = {683, 600, 514, 427, 339, 261, 173, 86};
+        for (const int column : columns)
+            if (x >= 48 + column * wratio - 0.01) return column;
+        return 3;
+    }
+    template <class Item>
+    std::vector<Item> items() const {
+        std::vector<Item> found;
+        for (const PictureItem& item : sample.view().page(Section::table, 1))
+            if (const auto* one = std::get_if<Item>(&item)) found.push_back(*one);
+        return found;
+    }
+    SampleReport sample{40};
+};
+
+TEST_F(TableTest, eachValueStandsInItsColumn) {
+    ReadingModel& reading = sample.readings[0];
+    reading.sys = 171, reading.dia = 62, reading.pulse = 93, reading.map = 104, reading.pp = 85;
+    reading.Arrhythmia = 0;
+    std::map<int, QString> expected{{3, u"2019/01/01"_s}, {86, u"12:00"_s}, {261, u"N.A."_s}, {339, u"171"_s},
+                                    {427, u"62"_s},       {514, u"93"_s},   {600, u"85"_s}};
+    sample.settings.showPPorMap = 0;
+    EXPECT_EQ(row(1), expected);
+    sample.settings.showPPorMap = 1;
+    expected[600] = u"104"_s;
+    EXPECT_EQ(row(1), expected);
+    sample.settings.timeFormat = u"12-hours"_s;
+    reading.isPMData = true;
+    EXPECT_EQ(row(1)[86], u"12:00 P"_s);
+}
+
+TEST_F(TableTest, theHeaderNamesTheFourthMeasure) {
+    sample.settings.showPPorMap = 0;
+    const QString pp = row(0)[600];
+    sample.settings.showPPorMap = 1;
+    EXPECT_NE(row(0)[600], pp);
+    EXPECT_EQ(row(0).size(), 9U);
+}
+
+TEST_F(TableTest, pagesHoldEachReadingOnceWhicheverIsDrawnFirst) {
+    for (const Section section : {Section::table, Section::SWStatistics}) {
+        const PrintView view = sample.view();
+        QStringList times;
+        for (int page = view.getTotalPages(section); page >= 1; --page) {
+            QStringList here;
+            for (const TextLine& line : textsOf(view.page(section, page)))
+                if (line.text.size() == 5 && line.text[2] == u':') here += line.text;
+            times = here + times;
+        }
+        QStringList expected;
+        for (const ReadingModel& reading : sample.readings)
+            expected += reading.strDisplayTime(sample.settings);
+        EXPECT_EQ(times, expected) << facts(section).key;
+    }
+}
+
+TEST_F(TableTest, aDayWithoutReadingIsAPlaceholder) {
+    sample.readings.erase(sample.readings.begin() + 4, sample.readings.begin() + 8);
+    sample.addComment("2019-01-03", "2019-01-04", 4, u"Travelling"_s);
+    EXPECT_THAT(row(5), ElementsAre(std::pair(3, u"2019/01/04"_s), std::pair(339, u"n.a."_s)));
+}
+
+TEST_F(TableTest, commentsAreMarkedByColourAndNumber) {
+    sample.addComment("2018-12-01", "2018-12-02", 1, u"before the period"_s);
+    sample.addComment("2019-01-02", "2019-01-03", 4, u"New pills"_s);
+    EXPECT_TRUE(row(2)[683].startsWith("2 New"_L1)) << qPrintable(row(2)[683]);
+    sample.addComment("2019-01-14", "2019-01-16", 2, u"Fever"_s);
+    EXPECT_TRUE(row(1, 2)[683].startsWith("3 Fever"_L1)) << "goes on from the page before";
+    const QColor yellow = getCommentColor(4, true);
+    const auto bars = items<FillRect>();
+    EXPECT_EQ(std::ranges::count_if(
+                  bars, [&](const FillRect& bar) { return bar.color == yellow && bar.rect.height == 20; }),
+              4);
+}
+
+TEST_F(TableTest, findingsAveragesAndDownloadsShowWithoutColour) {
+    sample.downloads[0].transferDate = noonOf("2019-01-02");
+    sample.downloads[0].transferDay = sample.zone.day(noonOf("2019-01-02"));
+    const auto circles = items<Circle>();
+    const auto finding = [&](int from, bool filled) {
+        return std::ranges::count_if(circles, [&](const Circle& circle) {
+            return columnOf(circle.centre.x) == from && circle.filled == filled && circle.centre.y > 132;
+        });
+    };
+    EXPECT_EQ(finding(261, true), 3);
+    EXPECT_EQ(finding(261, false), 25);
+    EXPECT_EQ(finding(173, true), 14);
+    const auto fills = items<FillRect>();
+    EXPECT_EQ(std::ranges::count(fills, QColor(Qt::yellow), &FillRect::color), 2);
+    const auto texts = textsOf(sample.view().page(Section::table, 1));
+    EXPECT_EQ(std::ranges::count(texts, u"\u2193"_s, &TextLine::text), 2);
+}
+
+} // namespace
+
+} // namespace zel
