@@ -16,12 +16,19 @@ constexpr XmlChild<ReadingModel> notMade(XmlChild<ReadingModel> child) {
 }
 
 using R = ReadingModel;
+
+/// The monitor's marker is midnight where the reading was stored, and stays a marker in another time zone.
+void readDate(R& reading, std::string_view text, const LocalZone& zone) {
+    constexpr std::string_view marker = "2000-01-01T00:00:00";
+    reading.ReadingDate = text.starts_with(marker) ? Date(getNilReadingDate()) : zone.XMLStrToDate(text);
+}
+
 constexpr std::array children{
     xml::text<R, &R::ID>("ID"),
     xml::text<R, &R::RecID>("RecID"),
     xml::number<R, &R::mam>("MAM"),
     xml::number<R, &R::Arrhythmia>("Arrhythmia"),
-    xml::date<R, &R::ReadingDate>("ReadingDate"),
+    XmlChild<R>{"ReadingDate", readDate, [](const R& reading) { return XMLDateToStr(reading.ReadingDate); }},
     xml::number<R, &R::sys>("Sys"),
     xml::number<R, &R::dia>("Dia"),
     xml::number<R, &R::map>("Map"),

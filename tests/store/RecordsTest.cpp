@@ -63,6 +63,16 @@ TEST(ReadingRecord, NewElementsHaveErrorButOnlyErorrIsReadAndWritten) {
     EXPECT_EQ(written(document), "<MeasureRec><Erorr>4</Erorr><Own>kept</Own></MeasureRec>");
 }
 
+TEST(ReadingRecord, TheMarkerForNoDateIsOneInEveryTimeZone) {
+    pugi::xml_document document;
+    for (const char* offset : {"+09:00", "-05:00", "+01:00", ""}) {
+        const std::string date = std::string("2000-01-01T00:00:00") + offset;
+        const auto marked =
+            element(document, ("<MeasureRec><ReadingDate>" + date + "</ReadingDate></MeasureRec>").c_str());
+        EXPECT_TRUE(isNilReadingDate(ReadingModel::initWithXMLNode(marked, LocalZone{}).ReadingDate)) << date;
+    }
+}
+
 TEST(ReadingRecord, ArrhythmiaCodes) {
     struct Case {
         std::uint32_t code;
