@@ -109,15 +109,22 @@ QScrollBar* DrawGraphicVC::addTimeScroller() {
     return scroller;
 }
 
-void DrawGraphicVC::reload() {
+/// The reading pointed at may be gone already: it is forgotten before anybody asks where its marks were.
+void DrawGraphicVC::forgetPointed() {
+    bloodView->invalidate();
+    pulseView->invalidate();
     point(nullptr);
+}
+
+void DrawGraphicVC::reload() {
+    forgetPointed();
     source.data = makeChartData(store.getReadingForCurID(), store.getTrasferLogForCurID());
     source.zone = LocalZone();
     showPeriod();
 }
 
 void DrawGraphicVC::showPeriod() {
-    point(nullptr);
+    forgetPointed();
     source.period = period.getTimePeriod();
     source.view = period.getSelectViewIndex();
     source.sysStandard = store.getSetting().sysStandard;

@@ -50,6 +50,7 @@ private:
     [[nodiscard]] int keyStep() const;
 
     void walk(bool forward);
+    void forgetPointed();
     void point(const ReadingModel* reading);
     void showInfo(ChartView& view, const ReadingModel& reading, QPoint mark);
     void hover(ChartView& view, const ReadingModel* reading, QPoint mark);
