@@ -1,7 +1,7 @@
 // A key stroke in the search field over 2,000 patients, until the narrowed list has been painted.
 
 #include "MadeDataFile.h"
-#include "app/PatientRoster.h"
+#include "app/patients/PatientRoster.h"
 #include "store/AtomicFile.h"
 
 #include <QApplication>

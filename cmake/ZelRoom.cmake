@@ -5,8 +5,9 @@ target_compile_options(zel_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wduplicated-branches
   -Wlogical-op -Wformat=2 -Wimplicit-fallthrough -Werror
-  # GCC 12 sees the value of an empty optional as used when it is only moved; the sanitizers look instead.
-  -Wno-maybe-uninitialized)
+  # GCC 12 sees the value of an empty optional as used when it is only moved, and short strings that are joined
+  # as running over when <string> comes precompiled; the sanitizers look instead.
+  -Wno-maybe-uninitialized -Wno-array-bounds -Wno-stringop-overflow -Wno-restrict)
 
 add_library(zel_flags INTERFACE)
 target_link_libraries(zel_flags INTERFACE zel_warnings)
@@ -19,7 +20,9 @@ if(ZEL_SANITIZE)
   target_link_options(zel_flags INTERFACE -fsanitize=${ZEL_SANITIZE})
 endif()
 
-# zel_room(NAME SOURCES file... DOORS library...): the room's library zel_NAME.
+include(${CMAKE_CURRENT_LIST_DIR}/ZelPrecompiled.cmake)
+
+# zel_room(NAME SOURCES file... DOORS library...): the library zel_NAME of a room, or of a wing (app_graph).
 # DOORS are the only rooms and libraries that its code may use; tests/walls checks the includes as well.
 function(zel_room name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;DOORS" ${ARGN})
@@ -27,4 +30,6 @@ function(zel_room name)
   set_target_properties(zel_${name} PROPERTIES AUTOMOC ON)
   target_include_directories(zel_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(zel_${name} PUBLIC ${ROOM_DOORS} PRIVATE zel_flags)
+  zel_precompiled_kind(${name} kind)
+  zel_use_precompiled(zel_${name} ${kind})
 endfunction()

@@ -1,4 +1,4 @@
-#include "app/Application.h"
+#include "app/shell/Application.h"
 #include "cli/CommandLine.h"
 
 int main(int argc, char** argv) {

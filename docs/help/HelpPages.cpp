@@ -16,7 +16,7 @@ namespace {
 
 constexpr QSizeF paper(595, 842); ///< A4 in points
 constexpr double side = 62, top = 60, bottom = 66;
-const QColor quiet(95, 105, 118), headingColor(20, 60, 110);
+const QColor quiet(95, 105, 118), titleColor(20, 60, 110);
 
 struct Chapter {
     QString title;
@@ -60,15 +60,15 @@ void paintContents(QPainter& painter, const std::vector<Chapter>& chapters) {
 }
 
 void paintCover(QPainter& painter, const Words& words, const std::vector<Chapter>& chapters) {
-    painter.setPen(headingColor);
+    painter.setPen(titleColor);
     painter.setFont(font(30, true));
     painter.drawText(QRectF(side, 150, paper.width() - 2 * side, 50), Qt::AlignLeft, words.title);
-    painter.fillRect(QRectF(side, 202, 90, 4), headingColor);
+    painter.fillRect(QRectF(side, 202, 90, 4), titleColor);
     painter.setFont(font(12));
     painter.setPen(quiet);
     painter.drawText(QRectF(side, 218, paper.width() - 2 * side, 20), Qt::AlignLeft,
                      QStringLiteral("Version ") + words.version);
-    painter.setPen(headingColor);
+    painter.setPen(titleColor);
     painter.setFont(font(14, true));
     painter.drawText(QRectF(side, 292, paper.width() - 2 * side, 24), Qt::AlignLeft,
                      QStringLiteral("Contents"));

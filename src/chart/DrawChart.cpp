@@ -19,10 +19,6 @@ constexpr int captionAttribute = 1;
 constexpr int noDataAttribute = 4;
 constexpr int cornerRadius = 5;
 
-QColor fixColor(int index) { return getFixColor(index).value_or(Qt::black); }
-
-TextAttribute attribute(int index) { return getTextAttribute(index).value_or(TextAttribute{}); }
-
 /// White, with rounded corners on the screen. Only what lies beside a corner is painted twice, the second
 /// time through the round clip, which takes a hundred times as long.
 void drawBackground(Picture& picture, const ChartScale& scale, bool forPrint) {

@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int valueStep = 20;
 constexpr float sysRange = 240; ///< mmHg
 constexpr float diaRange = 200; ///< mmHg
 

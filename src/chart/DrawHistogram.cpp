@@ -14,7 +14,6 @@ namespace {
 
 constexpr double panelGap = 5;          ///< between the two panels that share a scale
 constexpr double axisEndsBelowTop = 30; ///< room for the unit
-constexpr int valueStep = 20;           ///< of a division: two classes
 constexpr int percentStep = 10;
 
 struct Panel {

@@ -19,9 +19,6 @@ int numberStep(const PanelScale& scale) {
 
 } // namespace
 
-TextAttribute attribute(int index) { return getTextAttribute(index).value_or(TextAttribute{}); }
-QColor fixColor(int index) { return getFixColor(index).value_or(QColor(Qt::gray)); }
-
 void drawGrid(Picture& picture, const Rect& panel, const PanelScale& scale) {
     const QColor color = fixColor(gcScaleBackgroundColor);
     for (int k = 1; k < scale.divide; ++k) {

@@ -2,12 +2,9 @@
 // What the pictures of the figures have in common.
 
 #include "chart/Picture.h"
+#include "chart/StyleTable.h"
 
 namespace zel {
-
-/// A text attribute or a fixed colour that the tables are known to have.
-[[nodiscard]] TextAttribute attribute(int index);
-[[nodiscard]] QColor fixColor(int index);
 
 enum class Axis { vertical, horizontal };
 
@@ -28,6 +25,7 @@ void drawNumbers(Picture& picture, const Rect& panel, const PanelScale& scale);
 inline constexpr double leftMargin = 30;   ///< holds the numbers of a vertical scale
 inline constexpr double bottomMargin = 17; ///< holds those of a horizontal one
 inline constexpr double numberGap = 4;     ///< between the numbers and the panel they belong to
+inline constexpr int valueStep = 20;       ///< of a division: two classes of a histogram
 inline constexpr double edgeGap = 2;       ///< between what ends a scale and the picture's edge
 
 } // namespace zel

@@ -25,7 +25,7 @@ struct MarkShape {
     Length outer;
     Length inner;
     bool bordered;
-    QColor border = getFixColor(gcGrayBorderForDotcolor).value_or(Qt::gray);
+    QColor border = fixColor(gcGrayBorderForDotcolor);
 };
 
 QPointF topLeft(const PictureSurface& surface, Point point) {

@@ -73,7 +73,7 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
     ReadingLines made;
     made.marks.points.reserve(2 * readings.size());
     std::vector<PolyLine> diaRuns;
-    made.ticks.color = getFixColor(gcBloodWhiteLinecolor).value_or(Qt::white);
+    made.ticks.color = fixColor(gcBloodWhiteLinecolor);
     made.ticks.ticks.reserve(readings.size());
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
         const Point sys = sysPoint(scale, reading, x);

@@ -67,6 +67,10 @@ std::optional<TextAttribute> getTextAttribute(int index) {
     return entry(textAttributes(), index - firstTextAttribute);
 }
 
+TextAttribute attribute(int index) { return getTextAttribute(index).value_or(TextAttribute{}); }
+
+QColor fixColor(int index) { return getFixColor(index).value_or(Qt::black); }
+
 QColor getCommentColor(std::int64_t number, bool degreeIndex) {
     return commentColor(degreeIndex ? highestDegree - number : number).color;
 }

@@ -19,8 +19,6 @@ using std::chrono::minutes;
 constexpr int dayAttribute = 1;
 constexpr int boldAttribute = 2;
 
-TextAttribute attribute(int index) { return getTextAttribute(index).value_or(TextAttribute{}); }
-
 /// A day of the grid. The instant is its local midnight.
 struct GridDay {
     std::chrono::year_month_day date;
@@ -135,7 +133,7 @@ void drawTimeAxis(Picture& picture, const ChartScale& scale, bool labels, const 
     if (days <= 0) return;
     const std::vector<GridDay> grid = gridDays(scale, gridStep(days), zone);
     if (labels) drawLabels(picture, scale, grid, isShortPeriod(days));
-    const QColor color = getFixColor(gcGrayLinecolor).value_or(Qt::gray);
+    const QColor color = fixColor(gcGrayLinecolor);
     picture.reserve(picture.size() + grid.size() + 20); // and the readings
     picture.push_back(BeginClip{scale.chartRect});
     for (const GridDay& day : grid)

@@ -12,9 +12,7 @@ namespace {
 
 constexpr int numberAttribute = 3;
 constexpr int unitAttribute = 7;
-constexpr int valueStep = 20;
-
-TextAttribute attribute(int index) { return getTextAttribute(index).value_or(TextAttribute{}); }
+constexpr int lineStep = 20;
 
 void addNumber(Picture& picture, const ChartScale& scale, int value, double y) {
     textOut(picture, QString::number(value), {scale.chartRect.x, y}, attribute(numberAttribute), XPos::right,
@@ -27,10 +25,8 @@ void addUnit(Picture& picture, const ChartScale& scale, const QString& unit, dou
 }
 
 void addGridLine(Picture& picture, const ChartScale& scale, double y) {
-    picture.push_back(StraightLine{{scale.chartRect.x, y},
-                                   {scale.chartRect.right(), y},
-                                   1,
-                                   getFixColor(gcGrayLinecolor).value_or(Qt::gray)});
+    picture.push_back(
+        StraightLine{{scale.chartRect.x, y}, {scale.chartRect.right(), y}, 1, fixColor(gcGrayLinecolor)});
 }
 
 } // namespace
@@ -38,10 +34,10 @@ void addGridLine(Picture& picture, const ChartScale& scale, double y) {
 void drawBloodScale(Picture& picture, const ChartScale& scale) {
     constexpr int last = 140; // its number's place holds the unit
     const double step = std::floor(std::trunc(scale.chartRect.height) / 9);
-    for (int above = 0; above <= last; above += valueStep) {
+    for (int above = 0; above <= last; above += lineStep) {
         const int value = scale.iScaleBase + above;
         if (above != last) {
-            const int row = above / valueStep + 1;
+            const int row = above / lineStep + 1;
             addNumber(picture, scale, value, scale.chartRect.y + step * row);
         }
         addGridLine(picture, scale, scale.mapValToY(value));
@@ -53,7 +49,7 @@ void drawPulseScale(Picture& picture, const ChartScale& scale) {
     constexpr int lines = 3;
     const double quarter = std::floor(std::trunc(scale.chartRect.height) / 4);
     for (int line = 0; line < lines; ++line) {
-        const int value = scale.iScaleBase + line * valueStep;
+        const int value = scale.iScaleBase + line * lineStep;
         if (line + 1 < lines) addNumber(picture, scale, value, scale.chartRect.y + quarter * (line + 1));
         addGridLine(picture, scale, scale.mapPulseValToY(value));
     }

@@ -1,5 +1,5 @@
 #include "cli/Commands.h"
-#include "cli/MonitorSession.h"
+#include "cli/MonitorConnection.h"
 #include "cli/OpenStore.h"
 #include "cli/ProgressLine.h"
 #include "cli/Usage.h"
@@ -60,12 +60,12 @@ CommandResult runDownload(const Request& request, Surroundings& around) {
     const OpenedStore store = openStoreForWriting(around);
     if (!store) return tl::unexpected(store.error());
     if (CommandResult known = checkPatient(**store, *ID); !known) return known;
-    const auto session = waitForMonitor(request, *wait, around);
-    if (!session) return tl::unexpected(session.error());
-    const auto monitorID = checkMonitorID(*session->model, request, *ID);
+    const auto connection = waitForMonitor(request, *wait, around);
+    if (!connection) return tl::unexpected(connection.error());
+    const auto monitorID = checkMonitorID(*connection->model, request, *ID);
     if (!monitorID) return tl::unexpected(monitorID.error());
     (*store)->setCurrentID(*ID);
-    return transfer(*session->model, **store, *monitorID, around);
+    return transfer(*connection->model, **store, *monitorID, around);
 }
 
 } // namespace

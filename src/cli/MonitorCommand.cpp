@@ -1,5 +1,5 @@
 #include "cli/Commands.h"
-#include "cli/MonitorSession.h"
+#include "cli/MonitorConnection.h"
 #include "cli/Usage.h"
 
 namespace zel::cli {
@@ -38,34 +38,34 @@ CommandResult printCount(BPMModel& model, Surroundings& around) {
     return {};
 }
 
-CommandResult printAll(const MonitorSession& session, Surroundings& around) {
-    printValue(around, u"model"_s, session.version);
-    printValue(around, u"arrhythmia"_s, arrhythmia(*session.model));
-    return printID(*session.model, around)
-        .and_then([&] { return printClock(*session.model, around); })
-        .and_then([&] { return printCount(*session.model, around); });
+CommandResult printAll(const MonitorConnection& connection, Surroundings& around) {
+    printValue(around, u"model"_s, connection.version);
+    printValue(around, u"arrhythmia"_s, arrhythmia(*connection.model));
+    return printID(*connection.model, around)
+        .and_then([&] { return printClock(*connection.model, around); })
+        .and_then([&] { return printCount(*connection.model, around); });
 }
 
-CommandResult setClock(const MonitorSession& session, Surroundings& around) {
-    const MonitorResult result = session.model->setBPMDate();
+CommandResult setClock(const MonitorConnection& connection, Surroundings& around) {
+    const MonitorResult result = connection.model->setBPMDate();
     if (result != MonitorResult::success) return failed(qtTrId("CliClockUnset").arg(describe(result)));
-    return printClock(*session.model, around);
+    return printClock(*connection.model, around);
 }
 
-CommandResult sendID(const MonitorSession& session, const QString& ID, Surroundings& around) {
-    const MonitorResult result = session.model->sendID(ID, false);
+CommandResult sendID(const MonitorConnection& connection, const QString& ID, Surroundings& around) {
+    const MonitorResult result = connection.model->sendID(ID, false);
     if (result != MonitorResult::success) return failed(qtTrId("CliIDUnsent").arg(describe(result)));
-    return printID(*session.model, around);
+    return printID(*connection.model, around);
 }
 
 /// The memory is emptied by sending an ID again, so the monitor's own one has to be known first.
-CommandResult erase(const MonitorSession& session, Surroundings& around) {
-    const auto ID = session.model->getBPMID();
+CommandResult erase(const MonitorConnection& connection, Surroundings& around) {
+    const auto ID = connection.model->getBPMID();
     if (!ID) return failed(qtTrId("CliIDUnread").arg(describe(ID.error())));
     if (!BPMModel::fitsMonitor(*ID)) return failed(qtTrId("CliEraseNoID"));
-    const MonitorResult result = session.model->eraseData(*ID);
+    const MonitorResult result = connection.model->eraseData(*ID);
     if (result != MonitorResult::success) return failed(qtTrId("CliEraseFailed").arg(describe(result)));
-    return printCount(*session.model, around);
+    return printCount(*connection.model, around);
 }
 
 CommandResult checkUsage(const QCommandLineParser& options) {
@@ -83,12 +83,12 @@ CommandResult runMonitor(const Request& request, Surroundings& around) {
     if (CommandResult usage = checkUsage(options); !usage) return usage;
     const auto wait = waitTime(request);
     if (!wait) return tl::unexpected(wait.error());
-    const auto session = waitForMonitor(request, *wait, around);
-    if (!session) return tl::unexpected(session.error());
-    if (options.isSet(u"set-clock"_s)) return setClock(*session, around);
-    if (options.isSet(u"send-id"_s)) return sendID(*session, options.value(u"send-id"_s), around);
-    if (options.isSet(u"erase"_s)) return erase(*session, around);
-    return printAll(*session, around);
+    const auto connection = waitForMonitor(request, *wait, around);
+    if (!connection) return tl::unexpected(connection.error());
+    if (options.isSet(u"set-clock"_s)) return setClock(*connection, around);
+    if (options.isSet(u"send-id"_s)) return sendID(*connection, options.value(u"send-id"_s), around);
+    if (options.isSet(u"erase"_s)) return erase(*connection, around);
+    return printAll(*connection, around);
 }
 
 } // namespace

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-CommandResult list(Surroundings& around) {
+CommandResult listPatients(Surroundings& around) {
     const OpenedStore store = openStore(around);
     if (!store) return tl::unexpected(store.error());
     printLine(around.out, u"id,family-name,given-names"_s);
@@ -69,7 +69,7 @@ CommandResult add(const Request& request, Surroundings& around) {
 CommandResult runPatients(const Request& request, Surroundings& around) {
     if (request.options.isSet(u"add"_s)) return add(request, around);
     if (!request.options.optionNames().isEmpty()) return wrongUsage(qtTrId("CliAddMissing"));
-    return list(around);
+    return listPatients(around);
 }
 
 } // namespace

@@ -111,7 +111,7 @@ CommandResult change(const Assignments& wanted, Surroundings& around) {
     return {};
 }
 
-CommandResult list(Surroundings& around) {
+CommandResult listSettings(Surroundings& around) {
     const OpenedStore store = openStore(around);
     if (!store) return tl::unexpected(store.error());
     for (const SettingKey& key : settingKeys())
@@ -120,7 +120,7 @@ CommandResult list(Surroundings& around) {
 }
 
 CommandResult runSettings(const Request& request, Surroundings& around) {
-    if (!request.options.isSet(u"set"_s)) return list(around);
+    if (!request.options.isSet(u"set"_s)) return listSettings(around);
     const auto wanted = assignments(request);
     if (!wanted) return tl::unexpected(wanted.error());
     return change(*wanted, around);

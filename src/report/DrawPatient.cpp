@@ -27,7 +27,7 @@ public:
 
     void block(const Rect& place, const QString& title) {
         const Rect box = mapped(place).inset(blockInset);
-        const QColor grey = getFixColor(gcGrayForPatientPrint).value_or(Qt::lightGray);
+        const QColor grey = fixColor(gcGrayForPatientPrint);
         picture.emplace_back(RoundRect{box, blockRadius, grey, 0});
         textOut(picture, title, {box.x + 10, box.top() - 6}, blockFont, XPos::left, YPos::top);
     }

@@ -22,8 +22,8 @@ constexpr double textBase = 1;    ///< of a text above its row's bottom
 constexpr double mark = 8;        ///< diameter of a filled or outlined circle
 constexpr double summaryGap = 10; ///< below the statistics
 
-const TextAttribute smallFont{};
-const TextAttribute unitFont{.size = 7};
+const TextAttribute cellFont{};
+const TextAttribute columnUnitFont{.size = 7};
 
 /// A column of one row: from \p from to the next column at \p to, in units of the base width.
 struct Field {
@@ -38,14 +38,14 @@ Field field(const Rect& row, double from, double to, double base, double indent 
 void title(Picture& picture, const Rect& row, double from, double to, const QString& text,
            const QString& unit, double indent = 0) {
     const Field name = field(row, from, to, titleBase, indent);
-    fieldFigure(picture, text.section(u'\n', 0, 0), name.at, name.width, smallFont);
-    if (!unit.isEmpty()) textOut(picture, unit, {name.at.x, row.y + 1}, unitFont);
+    fieldFigure(picture, text.section(u'\n', 0, 0), name.at, name.width, cellFont);
+    if (!unit.isEmpty()) textOut(picture, unit, {name.at.x, row.y + 1}, columnUnitFont);
 }
 
 void text(Picture& picture, const Rect& row, double from, double to, const QString& words,
           double indent = 0) {
     const Field cell = field(row, from, to, textBase, indent);
-    fieldFigure(picture, words, cell.at, cell.width, smallFont);
+    fieldFigure(picture, words, cell.at, cell.width, cellFont);
 }
 
 /// Ends under the end of a three-digit number that begins at the column.
@@ -55,7 +55,7 @@ void number(Picture& picture, const Rect& row, double from, double to, std::uint
     const QString words = QString::number(value);
     const bool isShort = words.size() <= 3;
     const Point at{isShort ? cell.at.x + threeDigits : cell.at.x, cell.at.y};
-    fieldFigure(picture, words, at, cell.width, smallFont, isShort ? XPos::right : XPos::left);
+    fieldFigure(picture, words, at, cell.width, cellFont, isShort ? XPos::right : XPos::left);
 }
 
 Point markCentre(const Rect& row, double column) {
@@ -126,7 +126,7 @@ void DrawTable::drawReading(Picture& picture, const Rect& row, const ReadingRow&
     text(picture, row, xDate, xTime, reading.strDisplayDate(report.settings));
     if (reading.bYellowBackground)
         textOut(picture, u"\u2193"_s, {field(row, xMam, xPad, 0).at.x - columnGap, row.y + textBase},
-                smallFont, XPos::right);
+                cellFont, XPos::right);
     if (reading.isNA()) {
         text(picture, row, xSys, xDia, u"n.a."_s);
     } else {
@@ -148,7 +148,7 @@ void DrawTable::drawMarks(Picture& picture, const Rect& row, const ReadingModel&
 }
 
 void DrawTable::drawMeasures(Picture& picture, const Rect& row, const ReadingModel& reading) const {
-    const double threeDigits = textSize(u"000"_s, smallFont).width;
+    const double threeDigits = textSize(u"000"_s, cellFont).width;
     text(picture, row, xTime, xMam, reading.strDisplayTime(report.settings), timeIndent);
     number(picture, row, xSys, xDia, reading.sys, threeDigits);
     number(picture, row, xDia, xPulse, reading.dia, threeDigits);
@@ -169,7 +169,7 @@ void DrawTable::drawComment(Picture& picture, const Rect& row, const ReadingRow&
     if (reading.bAtEnd) picture.emplace_back(FillRect{{bar.x, bar.y, 8, 2}, color});
     if (!isNamed) return;
     const QString words = commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
-    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, cell.width + columnGap - 6, smallFont);
+    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, cell.width + columnGap - 6, cellFont);
 }
 
 } // namespace zel

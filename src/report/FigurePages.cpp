@@ -16,13 +16,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const TextAttribute plainFont{};
-const TextAttribute boldFont{.size = 12, .bold = true};
+const TextAttribute headingFont{.size = 12, .bold = true};
 constexpr double noteGap = 4;
 
 /// A heading and lines under it, from the top of the rectangle. \return what is left of it below
 Rect drawWords(Picture& picture, const Rect& rect, const QString& heading, const QStringList& lines) {
-    double y = rect.top() - lineHeight(boldFont);
-    fieldText(picture, heading, {rect.x, y}, rect.width, boldFont);
+    double y = rect.top() - lineHeight(headingFont);
+    fieldText(picture, heading, {rect.x, y}, rect.width, headingFont);
     for (const QString& line : lines) {
         y -= lineHeight(plainFont) + 1;
         fieldText(picture, line, {rect.x, y}, rect.width, plainFont);

@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <string_view>
 
 namespace zel {
 
@@ -31,15 +30,10 @@ using Date = std::optional<Instant>;
 [[nodiscard]] QString getEnglishMonthStr(const Date& date);
 [[nodiscard]] QString getEnglishYearMonthStr(const Date& date);
 
-/// The file's form, 2019-03-22T14:05:00+01:00; no date gives getEmptyDateStr().
-[[nodiscard]] QString XMLDateToStr(const Date& date);
-
 /// 0001-01-01 00:00 local time: an unknown date of birth, a comment's date that is not set.
 [[nodiscard]] Instant getNilDate();
 /// 2000-01-01 00:00 local time: a reading that the monitor stored without a valid clock.
 [[nodiscard]] Instant getNilReadingDate();
-/// "0001-01-01T00:00:00+08:00", whatever the time zone: the file format's text for no date.
-[[nodiscard]] QString getEmptyDateStr();
 /// True for no date and for any date in year 0001, of either era.
 [[nodiscard]] bool isNilDate(const Date& date);
 /// True for no date and for any time on 2000-01-01.
@@ -65,7 +59,7 @@ using Date = std::optional<Instant>;
 using DayNumber = std::int32_t;
 inline constexpr DayNumber noDay = INT32_MIN;
 
-/// The time zone of one pass over many dates: reads and places them without asking the system each time.
+/// The time zone of one pass over many dates: places them without asking the system each time.
 class LocalZone {
 public:
     LocalZone(); ///< the computer's time zone as it is now
@@ -73,8 +67,6 @@ public:
     LocalZone(LocalZone&&) noexcept;
     LocalZone& operator=(LocalZone&&) noexcept;
 
-    /// A date in the file's form, with or without milliseconds; none if it is none.
-    [[nodiscard]] Date XMLStrToDate(std::string_view text) const;
     [[nodiscard]] DayNumber day(const Date& date) const;
     /// Day and minute of the day, 0 to 1439, at once; noDay and 0 for no date.
     struct DayMinute {

@@ -29,19 +29,17 @@ QString fixedDecimals(double value, int decimals) {
 
 template <auto Member>
 constexpr XmlChild<P> measure(const char* name) {
-    return {
-        name,
-        [](P& p, std::string_view t, const LocalZone&) { p.*Member = static_cast<float>(leadingNumber(t)); },
-        [](const P& p) { return fixedDecimals(static_cast<double>(p.*Member), 6); }};
+    return {name, [](P& p, std::string_view t) { p.*Member = static_cast<float>(leadingNumber(t)); },
+            [](const P& p) { return fixedDecimals(static_cast<double>(p.*Member), 6); }};
 }
 
 template <auto Member>
 constexpr XmlChild<P> choice(const char* name) {
-    return {name, [](P& p, std::string_view t, const LocalZone&) { p.*Member = toSigned(t); },
+    return {name, [](P& p, std::string_view t) { p.*Member = toSigned(t); },
             [](const P& p) { return QString::number(p.*Member); }};
 }
 
-constexpr std::array children{
+constexpr std::array patientChildren{
     xml::text<P, &P::ID>("ID"),
     xml::text<P, &P::FamilyName>("FamilyName"),
     xml::text<P, &P::GivenNames>("GivenNames"),
@@ -57,7 +55,7 @@ constexpr std::array children{
     xml::text<P, &P::FamilyHistory>("FamilyHistory"),
     xml::text<P, &P::PatientNotes>("PatientNotes"),
 };
-constexpr std::span<const XmlChild<P>> table{children};
+constexpr std::span<const XmlChild<P>> patientTable{patientChildren};
 
 constexpr double poundsPerKilogram = 2.20462262185;
 constexpr double centimetresPerInch = 2.54;
@@ -71,21 +69,22 @@ float numberIn(const QString& text) { return static_cast<float>(leadingNumber(te
 
 } // namespace
 
-PatientModel PatientModel::initWithXMLNode(pugi::xml_node element, const LocalZone& zone) {
+PatientModel PatientModel::initWithXMLNode(pugi::xml_node element) {
     PatientModel patient;
-    readChildren(patient, element, table, zone);
+    readChildren(patient, element, patientTable);
     patient.makeUpDisplayName();
     return patient;
 }
 
 pugi::xml_node PatientModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("Patient");
-    addMissingChildren(element, table);
+    addMissingChildren(element, patientTable);
     return element;
 }
 
 void PatientModel::updateXMLNode(pugi::xml_node element, bool copyPrimary) const {
-    writeChildren(*this, element, copyPrimary ? table : table.subspan(1)); // the ID stands first
+    writeChildren(*this, element,
+                  copyPrimary ? patientTable : patientTable.subspan(1)); // the ID stands first
 }
 
 void PatientModel::makeUpDisplayName() { DisplayName = FamilyName + u',' + GivenNames; }

@@ -29,7 +29,7 @@ struct PatientModel {
     QString FamilyHistory;
     QString PatientNotes;
 
-    static PatientModel initWithXMLNode(pugi::xml_node element, const LocalZone& zone);
+    static PatientModel initWithXMLNode(pugi::xml_node element);
     /// A new, empty Patient element as \p root's last child.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
     /// Sets the text of each existing child whose name is known; the ID only with \p copyPrimary.

@@ -18,12 +18,12 @@ constexpr XmlChild<ReadingModel> notMade(XmlChild<ReadingModel> child) {
 using R = ReadingModel;
 
 /// The monitor's marker is midnight where the reading was stored, and stays a marker in another time zone.
-void readDate(R& reading, std::string_view text, const LocalZone& zone) {
+void readDate(R& reading, std::string_view text) {
     constexpr std::string_view marker = "2000-01-01T00:00:00";
-    reading.ReadingDate = text.starts_with(marker) ? Date(getNilReadingDate()) : zone.XMLStrToDate(text);
+    reading.ReadingDate = text.starts_with(marker) ? Date(getNilReadingDate()) : XMLStrToDate(text);
 }
 
-constexpr std::array children{
+constexpr std::array readingChildren{
     xml::text<R, &R::ID>("ID"),
     xml::text<R, &R::RecID>("RecID"),
     xml::number<R, &R::mam>("MAM"),
@@ -37,7 +37,7 @@ constexpr std::array children{
     XmlChild<R>{"Error"},
     notMade(xml::number<R, &R::erorr>("Erorr")),
 };
-constexpr std::span<const XmlChild<R>> table{children};
+constexpr std::span<const XmlChild<R>> readingTable{readingChildren};
 
 /// The day that the display shows: undated readings all show the same, and so do all others when the
 /// settings hold no known date format.
@@ -62,21 +62,25 @@ ReadingModel ReadingModel::initNA(Instant date) {
     return reading;
 }
 
-ReadingModel ReadingModel::initWithXMLNode(pugi::xml_node element, const LocalZone& zone) {
+ReadingModel ReadingModel::initWithXMLNode(pugi::xml_node element) {
     ReadingModel reading;
-    readChildren(reading, element, table, zone);
+    readChildren(reading, element, readingTable);
     return reading;
 }
 
 pugi::xml_node ReadingModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("MeasureRec");
-    addMissingChildren(element, table);
+    addMissingChildren(element, readingTable);
     return element;
 }
 
-void ReadingModel::addMissingXmlChildren(pugi::xml_node element) { addMissingChildren(element, table); }
+void ReadingModel::addMissingXmlChildren(pugi::xml_node element) {
+    addMissingChildren(element, readingTable);
+}
 
-void ReadingModel::updateXMLNode(pugi::xml_node element) const { writeChildren(*this, element, table); }
+void ReadingModel::updateXMLNode(pugi::xml_node element) const {
+    writeChildren(*this, element, readingTable);
+}
 
 bool ReadingModel::isSame(const ReadingModel& other) const {
     return ReadingDate == other.ReadingDate && Arrhythmia == other.Arrhythmia && pulse == other.pulse

@@ -38,7 +38,7 @@ struct ReadingModel {
     bool isNA = false;
 
     static ReadingModel initNA(Instant date);
-    static ReadingModel initWithXMLNode(pugi::xml_node element, const LocalZone& zone);
+    static ReadingModel initWithXMLNode(pugi::xml_node element);
     /// A new, empty MeasureRec element as \p root's last child. It has a child Error where reading and
     /// updating use Erorr; both are given so by the file format.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);

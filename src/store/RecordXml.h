@@ -2,7 +2,7 @@
 // How a record and its XML element go over into each other. Each record has one table of its element's
 // children, in the file's order, that reads, writes and makes it.
 
-#include "store/Dates.h"
+#include "store/XmlDate.h"
 
 #include <QString>
 
@@ -42,7 +42,7 @@ void setElementText(pugi::xml_node element, const QString& value);
 template <class Record>
 struct XmlChild {
     const char* name;
-    void (*read)(Record&, std::string_view text, const LocalZone&) = nullptr;
+    void (*read)(Record&, std::string_view text) = nullptr;
     QString (*write)(const Record&) = nullptr;
     bool made = true;
 };
@@ -51,19 +51,19 @@ namespace xml {
 
 template <class Record, auto Member>
 constexpr XmlChild<Record> text(const char* name) {
-    return {name, [](Record& r, std::string_view t, const LocalZone&) { r.*Member = toQString(t); },
+    return {name, [](Record& r, std::string_view t) { r.*Member = toQString(t); },
             [](const Record& r) { return r.*Member; }};
 }
 
 template <class Record, auto Member>
 constexpr XmlChild<Record> number(const char* name) {
-    return {name, [](Record& r, std::string_view t, const LocalZone&) { r.*Member = toUnsigned(t); },
+    return {name, [](Record& r, std::string_view t) { r.*Member = toUnsigned(t); },
             [](const Record& r) { return toDecimal(r.*Member); }};
 }
 
 template <class Record, auto Member>
 constexpr XmlChild<Record> date(const char* name) {
-    return {name, [](Record& r, std::string_view t, const LocalZone& z) { r.*Member = z.XMLStrToDate(t); },
+    return {name, [](Record& r, std::string_view t) { r.*Member = XMLStrToDate(t); },
             [](const Record& r) { return XMLDateToStr(r.*Member); }};
 }
 
@@ -71,8 +71,7 @@ constexpr XmlChild<Record> date(const char* name) {
 
 /// Reads every child that the table knows, by exact name; others are ignored, missing ones change nothing.
 template <class Record>
-void readChildren(Record& record, pugi::xml_node element, std::span<const XmlChild<Record>> table,
-                  const LocalZone& zone) {
+void readChildren(Record& record, pugi::xml_node element, std::span<const XmlChild<Record>> table) {
     std::string scratch;
     std::size_t next = 0; // children usually stand in the table's order
     for (pugi::xml_node child = element.first_child(); child; child = child.next_sibling()) {
@@ -82,7 +81,7 @@ void readChildren(Record& record, pugi::xml_node element, std::span<const XmlChi
             next = next + 1 == table.size() ? 0 : next + 1;
             if (!isSameName(name, known.name)) continue;
             if (known.read && child.type() == pugi::node_element)
-                known.read(record, elementText(child, scratch), zone);
+                known.read(record, elementText(child, scratch));
             break;
         }
     }

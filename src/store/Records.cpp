@@ -49,9 +49,9 @@ void readRecord(Records& records, pugi::xml_node element, const LocalZone& zone)
     if (element.type() != pugi::node_element) return;
     const std::string_view name{element.name()};
     if (name == "MeasureRec") {
-        records.addReading(ReadingModel::initWithXMLNode(element, zone), zone);
+        records.addReading(ReadingModel::initWithXMLNode(element), zone);
     } else if (name == "Patient") {
-        records.gaPatient.push_back(PatientModel::initWithXMLNode(element, zone));
+        records.gaPatient.push_back(PatientModel::initWithXMLNode(element));
     } else if (name == "Comment") {
         records.addComment(CommentModel::initWithXMLNode(element, zone));
     } else if (name == "DataTransferLog") {

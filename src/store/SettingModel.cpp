@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using S = SettingModel;
-constexpr std::array children{
+constexpr std::array settingChildren{
     xml::text<S, &S::dateFormat>("DateFormat"),
     xml::text<S, &S::timeFormat>("TimeFormat"),
     xml::text<S, &S::metricFormat>("MetricFormat"),
@@ -22,7 +22,7 @@ constexpr std::array children{
     xml::number<S, &S::diaStandard>("DiaStandard"),
     xml::text<S, &S::physicianAddress>("PhysicianAddress"),
 };
-constexpr std::span<const XmlChild<S>> table{children};
+constexpr std::span<const XmlChild<S>> settingTable{settingChildren};
 
 } // namespace
 
@@ -41,20 +41,22 @@ SettingModel SettingModel::initWithDefault() {
 
 SettingModel SettingModel::initWithXMLNode(pugi::xml_node element) {
     SettingModel setting;
-    readChildren(setting, element, table, LocalZone{});
+    readChildren(setting, element, settingTable);
     return setting;
 }
 
 pugi::xml_node SettingModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("SystemSetting");
-    addMissingChildren(element, table);
+    addMissingChildren(element, settingTable);
     SettingModel defaults = initWithDefault();
     defaults.metricFormat = u"lb / in"_s;
     defaults.updateXMLNode(element);
     return element;
 }
 
-void SettingModel::updateXMLNode(pugi::xml_node element) const { writeChildren(*this, element, table); }
+void SettingModel::updateXMLNode(pugi::xml_node element) const {
+    writeChildren(*this, element, settingTable);
+}
 
 QString SettingModel::getDateFormat() const {
     if (dateFormat == "dd mm yyyy"_L1) return u"dd/MM/yyyy"_s;

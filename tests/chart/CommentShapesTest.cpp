@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 Instant at(const char* date) {
     return StrToDate(u"2022-"_s + QLatin1StringView(date), u"yyyy-MM-dd HH:mm:ss"_s).value();
 }
-std::string text(Instant date) { return DateToStr(date, u"MM-dd HH:mm:ss"_s).toStdString(); }
+std::string minuteText(Instant date) { return DateToStr(date, u"MM-dd HH:mm:ss"_s).toStdString(); }
 
 GFXRoundRect box(double x, double width) { return {u"1"_s, Qt::black, {x, 99, width, 14}}; }
 CommentShape shape(double x, double width) { return std::make_shared<GFXRoundRect>(box(x, width)); }
@@ -104,7 +104,7 @@ struct CommentDates : testing::Test {
 
 TEST_F(CommentDates, PositionsAndDatesAreInverse) {
     for (const char* date : {"03-20 00:00:00", "03-27 03:00:00", "03-31 12:34:56"})
-        EXPECT_EQ(text(scale.XPosToDate(x(date))), text(at(date)));
+        EXPECT_EQ(minuteText(scale.XPosToDate(x(date))), minuteText(at(date)));
     EXPECT_EQ(scale.calcXPos(period.end), 1429);
     EXPECT_EQ((TimeScale{period.begin, period.end, 29, 0}).XPosToDate(500), period.begin);
     EXPECT_EQ((TimeScale{period.begin, period.begin, 29, 100}).calcXPos(period.end), 29);
@@ -166,15 +166,15 @@ TEST_F(CommentDates, ADraggedEdgeSnapsToWholeDays) {
     for (const auto& each : cases) {
         const Period dates =
             draggedDates({x(each.left), 15, x(each.right) - x(each.left), 14}, each.rightDragged, scale);
-        EXPECT_EQ(text(dates.begin), each.begin + std::string(" 00:00:00")) << each.what;
-        EXPECT_EQ(text(dates.end), each.end + std::string(" 23:59:59")) << each.what;
+        EXPECT_EQ(minuteText(dates.begin), each.begin + std::string(" 00:00:00")) << each.what;
+        EXPECT_EQ(minuteText(dates.end), each.end + std::string(" 23:59:59")) << each.what;
     }
 }
 
 TEST_F(CommentDates, ANewCommentCoversOneDay) {
     const CommentModel comment = newCommentAt(x("03-27 12:00:00"), 1, scale, LocalZone());
-    EXPECT_EQ(text(*comment.beginDate), "03-27 00:00:00");
-    EXPECT_EQ(text(*comment.endDate), "03-27 23:59:59");
+    EXPECT_EQ(minuteText(*comment.beginDate), "03-27 00:00:00");
+    EXPECT_EQ(minuteText(*comment.endDate), "03-27 23:59:59");
     EXPECT_EQ(comment.degree, 3U);
     EXPECT_EQ(comment.strEndDate(), u"2022/03/27"_s);
     EXPECT_TRUE(comment.isSelected);

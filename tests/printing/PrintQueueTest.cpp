@@ -1,5 +1,5 @@
 // Prints through the print window and the system's print queue. tests/printing/run sets the queue up.
-#include "app/PrintController.h"
+#include "app/printing/PrintController.h"
 #include "report/ReportPdf.h"
 #include "support/ManualClock.h"
 

@@ -1,4 +1,4 @@
-#include "store/Dates.h"
+#include "store/XmlDate.h"
 
 #include <gtest/gtest.h>
 #include <unicode/timezone.h>
@@ -26,7 +26,6 @@ struct XmlDateCase {
 };
 
 TEST(Dates, ReadTheFilesForm) {
-    const LocalZone zone;
     for (const auto& [text, utc] : {
              XmlDateCase{"2019-03-22T14:05:00+08:00", "2019-03-22 06:05:00.000"},
              XmlDateCase{"2019-03-22T14:05:00.123+08:00", "2019-03-22 06:05:00.123"},
@@ -44,17 +43,16 @@ TEST(Dates, ReadTheFilesForm) {
              XmlDateCase{"", ""},
              XmlDateCase{":", ""},
          }) {
-        const Date date = zone.XMLStrToDate(text);
+        const Date date = XMLStrToDate(text);
         EXPECT_EQ(date ? DateToStr_EN(date, u"yyyy-MM-dd HH:mm:ss.SSS"_s).toStdString() : "", utc) << text;
     }
 }
 
 TEST(Dates, WriteTheFilesFormAndReadItBack) {
-    const LocalZone zone;
     EXPECT_EQ(XMLDateToStr(local(u"2019-03-22 14:05:00"_s)), u"2019-03-22T14:05:00+01:00"_s);
     EXPECT_EQ(XMLDateToStr(local(u"2019-07-22 14:05:00"_s)), u"2019-07-22T14:05:00+02:00"_s);
     EXPECT_EQ(XMLDateToStr({}), u"0001-01-01T00:00:00+08:00"_s);
-    EXPECT_EQ(zone.XMLStrToDate("0001-01-01T00:00:00+08:00"), getNilDate());
+    EXPECT_EQ(XMLStrToDate("0001-01-01T00:00:00+08:00"), getNilDate());
 }
 
 TEST(Dates, EmptyDateStaysEmptyInEveryZone) {
@@ -63,7 +61,7 @@ TEST(Dates, EmptyDateStaysEmptyInEveryZone) {
         ASSERT_TRUE(isNilDate(getNilDate())) << name;
         const QString text = XMLDateToStr(getNilDate());
         EXPECT_EQ(text.size(), 25) << text.toStdString(); // no seconds in the offset of times before zones
-        EXPECT_TRUE(isNilDate(LocalZone{}.XMLStrToDate(text.toStdString()))) << text.toStdString();
+        EXPECT_TRUE(isNilDate(XMLStrToDate(text.toStdString()))) << text.toStdString();
         EXPECT_TRUE(isNilReadingDate(getNilReadingDate())) << name;
     }
     EXPECT_TRUE(isNilDate({}));
@@ -74,12 +72,12 @@ TEST(Dates, DaySurvivesOffsetsWithSeconds) {
     const InZone zone{"Africa/Monrovia"}; // 44 minutes and 30 seconds behind until 1972
     const QString text = XMLDateToStr(local(u"1970-06-02 00:00:00"_s));
     EXPECT_EQ(text, u"1970-06-02T00:00:00-00:45"_s);
-    EXPECT_EQ(dayText(LocalZone{}.day(LocalZone{}.XMLStrToDate(text.toStdString()))), u"1970/06/02"_s);
+    EXPECT_EQ(dayText(LocalZone{}.day(XMLStrToDate(text.toStdString()))), u"1970/06/02"_s);
 }
 
 TEST(Dates, DayStartsWithTheFirstOfTwoMidnights) {
     const InZone zone{"America/Havana"}; // clocks go back from 01:00 to 00:00
-    const Instant halfPast = LocalZone{}.XMLStrToDate("2019-11-03T00:30:00-04:00").value();
+    const Instant halfPast = XMLStrToDate("2019-11-03T00:30:00-04:00").value();
     EXPECT_EQ(XMLDateToStr(DateToDayBoundary(halfPast, true)), u"2019-11-03T00:00:00-04:00"_s);
     EXPECT_EQ(XMLDateToStr(DateToDayBoundary(halfPast, false)), u"2019-11-03T23:59:59-05:00"_s);
 }
@@ -136,7 +134,7 @@ TEST(Dates, AgeCountsBirthdaysReached) {
 }
 
 TEST(Dates, LocalDayAndMinuteFollowTheZone) {
-    const auto place = [](const char* text) { return LocalZone{}.dayMinute(LocalZone{}.XMLStrToDate(text)); };
+    const auto place = [](const char* text) { return LocalZone{}.dayMinute(XMLStrToDate(text)); };
     EXPECT_EQ(dayText(place("2019-03-31T23:30:00+00:00").day), u"2019/04/01"_s);
     EXPECT_EQ(place("2019-03-31T23:30:00+00:00").minute, 90);
     EXPECT_EQ(dayText(place("1969-12-31T22:59:00+00:00").day), u"1969/12/31"_s);

@@ -1,5 +1,6 @@
 #include "store/Records.h"
 
+#include "store/XmlDate.h"
 #include "store/XmlDocument.h"
 
 #include <gtest/gtest.h>
@@ -29,8 +30,7 @@ TEST(ReadingRecord, ReadsNumbersAsFarAsTheyGo) {
         element(document,
                 "<MeasureRec><Sys>120abc</Sys><Dia></Dia><Pulse> 72</Pulse><PP>-16</PP><Map>4294967295</Map>"
                 "<MAM>99999999999</MAM><sys>7</sys><Error>3</Error><Arrhythmia>x</Arrhythmia>"
-                "<ID>A<!-- b -->B</ID></MeasureRec>"),
-        LocalZone{});
+                "<ID>A<!-- b -->B</ID></MeasureRec>"));
     EXPECT_EQ(reading.sys, 120U);
     EXPECT_EQ(reading.dia, 0U);
     EXPECT_EQ(reading.pulse, 72U);
@@ -57,7 +57,7 @@ TEST(ReadingRecord, NewElementsHaveErrorButOnlyErorrIsReadAndWritten) {
               "<ReadingDate>0001-01-01T00:00:00+08:00</ReadingDate><Sys>120</Sys><Dia>0</Dia><Map>0</Map>"
               "<PP>-16</PP><Pulse>0</Pulse><Error/></MeasureRec>");
     const auto older = element(document, "<MeasureRec><Erorr>3</Erorr><Own>kept</Own></MeasureRec>");
-    EXPECT_EQ(ReadingModel::initWithXMLNode(older, LocalZone{}).erorr, 3U);
+    EXPECT_EQ(ReadingModel::initWithXMLNode(older).erorr, 3U);
     reading.erorr = 4;
     reading.updateXMLNode(older);
     EXPECT_EQ(written(document), "<MeasureRec><Erorr>4</Erorr><Own>kept</Own></MeasureRec>");
@@ -69,7 +69,7 @@ TEST(ReadingRecord, TheMarkerForNoDateIsOneInEveryTimeZone) {
         const std::string date = std::string("2000-01-01T00:00:00") + offset;
         const auto marked =
             element(document, ("<MeasureRec><ReadingDate>" + date + "</ReadingDate></MeasureRec>").c_str());
-        EXPECT_TRUE(isNilReadingDate(ReadingModel::initWithXMLNode(marked, LocalZone{}).ReadingDate)) << date;
+        EXPECT_TRUE(isNilReadingDate(ReadingModel::initWithXMLNode(marked).ReadingDate)) << date;
     }
 }
 
@@ -133,7 +133,7 @@ TEST(ReadingRecord, DisplayTextsFollowTheSettings) {
         settings.timeFormat = timeFormat;
         const LocalZone zone;
         ReadingModel reading;
-        reading.ReadingDate = zone.XMLStrToDate(date);
+        reading.ReadingDate = XMLStrToDate(date);
         reading.postInit(nullptr, settings, zone);
         EXPECT_EQ(reading.strDisplayDate(settings) + u' ' + reading.strDisplayTime(settings), shown) << date;
     }
@@ -167,8 +167,7 @@ TEST(PatientRecord, ComparisonRules) {
     EXPECT_FALSE(DateModified(date, date + std::chrono::hours{24} - std::chrono::milliseconds{1}));
     EXPECT_TRUE(DateModified(date, date + std::chrono::hours{24}));
     pugi::xml_document document;
-    auto patient =
-        PatientModel::initWithXMLNode(PatientModel::makeXmlNode(document.append_child("ZEL")), LocalZone{});
+    auto patient = PatientModel::initWithXMLNode(PatientModel::makeXmlNode(document.append_child("ZEL")));
     PatientModel other = patient;
     other.Weight = 70;
     other.DateOfBirth = patient.DateOfBirth = date;

@@ -6,18 +6,37 @@ import os
 import re
 import sys
 
+BELOW = ("store", "monitor", "analysis", "chart", "report")
+PAGE = ("store", "analysis", "chart", "app/widgets", "app/device", "app/frame")
+PAGES = ("app/patients", "app/table", "app/graph", "app/printing", "app/settings")
+
+# A room, or a wing of one (app/graph), and what its code may use beside its own.
 DOORS = {
     "store": (),
     "monitor": ("store",),
     "analysis": ("store",),
     "chart": ("store", "analysis"),
     "report": ("store", "analysis", "chart"),
-    "app": ("store", "monitor", "analysis", "chart", "report"),
-    "cli": ("store", "monitor", "analysis", "chart", "report"),
+    "app/widgets": ("store", "chart"),
+    "app/device": ("store", "monitor", "app/widgets"),
+    "app/frame": ("store", "analysis", "chart", "app/widgets", "app/device"),
+    "app/patients": ("store", "monitor", "app/widgets", "app/device"),
+    "app/table": PAGE,
+    "app/graph": PAGE,
+    "app/printing": ("store", "analysis", "chart", "report", "app/widgets"),
+    "app/settings": ("store", "monitor", "app/widgets", "app/device"),
+    "app/shell": (*BELOW, "app/widgets", "app/device", "app/frame", *PAGES),
+    "cli": BELOW,
 }
+WINGED = {room.split("/")[0] for room in DOORS if "/" in room}
 
-# Qt Core is everybody's; of the other modules, a room has these.
-QT_MODULES = {"chart": ("Gui", "Svg"), "report": ("Gui",), "app": ("Gui", "Widgets", "PrintSupport", "Svg")}
+# Qt Core is everybody's; of the other modules, a room or all its wings have these.
+QT_MODULES = {
+    "chart": ("Gui", "Svg"),
+    "report": ("Gui",),
+    "app": ("Gui", "Widgets", "Svg"),
+    "app/printing": ("Gui", "Widgets", "PrintSupport"),
+}
 
 # Library, how its headers begin, how CMake calls it, the rooms that may use it.
 LIBRARIES = (
@@ -41,18 +60,28 @@ def qt_module(header, qt_headers):
     return "(unknown)"
 
 
+def room_of(path):
+    """store for store/File.h, app/graph for app/graph/ChartView.h."""
+    parts = path.split("/")
+    return "/".join(parts[:2]) if parts[0] in WINGED else parts[0]
+
+
+def has_module(room, module):
+    return module == "Core" or module in QT_MODULES.get(room, QT_MODULES.get(room.split("/")[0], ()))
+
+
 def room_wrong(room, used):
     return used in DOORS and used != room and used not in DOORS[room]
 
 
 def quoted_wrong(room, header):
     """What is wrong with an include in quotes, or None."""
-    first = header.split("/")[0]
+    used = room_of(header)
     if re.match(r"moc_|.*\.moc$", header):
         return None
-    if first not in DOORS or ".." in header:
-        return "is not given from the source root as room/File.h"
-    return "goes through the wall to " + first if room_wrong(room, first) else None
+    if used not in DOORS or ".." in header:
+        return "is not given from the source root as room/File.h or room/wing/File.h"
+    return "goes through the wall to " + used if room_wrong(room, used) else None
 
 
 def library_wrong(room, header, qt_headers):
@@ -62,7 +91,7 @@ def library_wrong(room, header, qt_headers):
     if quoted_wrong(room, header) is None:
         return "names a room's file in angle brackets"
     module = qt_module(header, qt_headers)
-    if module not in (None, "Core") and module not in QT_MODULES.get(room, ()):
+    if module is not None and not has_module(room, module):
         return "Qt " + module + " is not for this room"
     return None
 
@@ -76,14 +105,20 @@ def include_findings(room, path, qt_headers):
                     yield f"{path}:{number}: {found[2]} {wrong}"
 
 
-def link_findings(room, path):
+def linked_words(path):
     with open(path, encoding="utf-8") as file:
-        text = re.sub(r"#.*", "", file.read())
-    for word in re.findall(r"[\w:.-]+", text):
-        library = re.match(r"zel_(\w+)$", word)
+        return re.findall(r"[\w:.-]+", re.sub(r"#.*", "", file.read()))
+
+
+def links_room_wrong(room, word):
+    library = re.match(r"zel_(\w+)$", word)
+    return library and room_wrong(room, room_of(library[1].replace("app_", "app/", 1)))
+
+
+def link_findings(room, path):
+    for word in linked_words(path):
         module = re.match(r"Qt6::(\w+)$", word)
-        wrong = library and room_wrong(room, library[1])
-        wrong = wrong or (module and module[1] != "Core" and module[1] not in QT_MODULES.get(room, ()))
+        wrong = links_room_wrong(room, word) or (module and not has_module(room, module[1]))
         wrong = wrong or any(re.match(names, word) and room not in rooms for _, _, names, rooms in LIBRARIES)
         if wrong:
             yield f"{path}: links {word} through a wall"
@@ -92,9 +127,11 @@ def link_findings(room, path):
 def findings(source, qt_headers):
     """All that goes through a wall below the folder with the rooms."""
     for folder, _, names in sorted(os.walk(source)):
-        room = os.path.relpath(folder, source).split(os.sep)[0]
+        room = room_of(os.path.relpath(folder, source))
         if room == ".":
             continue  # main, which ties the rooms together
+        if room in WINGED and not any(name.endswith((".h", ".cpp")) for name in names):
+            continue  # the list of its wings
         if room not in DOORS:
             yield f"{folder}: is a room that tests/walls/rooms.py does not know"
             continue
@@ -106,17 +143,24 @@ def findings(source, qt_headers):
                 yield from link_findings(room, path)
 
 
+def test_include_findings(room, path):
+    with open(path, encoding="utf-8") as file:
+        for number, line in enumerate(file, 1):
+            found = INCLUDE.match(line)
+            if found and room_wrong(room, room_of(found[2])):
+                yield f"{path}:{number}: {found[2]} is not of this room or behind its doors"
+
+
 def test_findings(tests):
-    """The tests of a room see what the room sees; libraries are theirs to choose."""
+    """The tests of a room see and link what the room does; libraries are theirs to choose."""
     for room in DOORS:
         for folder, _, names in sorted(os.walk(os.path.join(tests, room))):
-            for name in sorted(n for n in names if n.endswith((".h", ".cpp"))):
+            for name in sorted(names):
                 path = os.path.join(folder, name)
-                with open(path, encoding="utf-8") as file:
-                    for number, line in enumerate(file, 1):
-                        found = INCLUDE.match(line)
-                        if found and room_wrong(room, found[2].split("/")[0]):
-                            yield f"{path}:{number}: {found[2]} is not of this room or behind its doors"
+                if name.endswith((".h", ".cpp")):
+                    yield from test_include_findings(room, path)
+                elif name == "CMakeLists.txt":
+                    yield from (f"{path}: links {w} through a wall" for w in linked_words(path) if links_room_wrong(room, w))
 
 
 if __name__ == "__main__":

@@ -1,0 +1,1 @@
+// Only carries a header that is compiled once for many targets.

@@ -1,3 +1,0 @@
-#include "app/Log.h"
-
-Q_LOGGING_CATEGORY(lcApp, "zel.app", QtInfoMsg)

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/device/MonitorStatus.h"
+#include "app/device/MonitorWorker.h"
+#include "store/DataStore.h"
+
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+
+namespace zel {
+
+/// Notices when a monitor is plugged in or pulled out, offers to set its clock and announces its ID.
+/// A cycle starts an interval after the one before and all that it caused are done.
+class MonitorWatch final : public QObject {
+    Q_OBJECT
+public:
+    struct Parts {
+        MonitorWorker& monitor;
+        MonitorStatus& status;
+        const DataStore& store;
+        MessagePanel& panel;
+        const Clock& clock;
+    };
+    MonitorWatch(const Parts& parts, std::chrono::milliseconds interval);
+
+    /// Starts the polling, which asks the monitor nothing before setSplashClosed().
+    void monitorBPM();
+    void setSplashClosed() { isSplashClosed = true; }
+    /// Reads clock and ID anew and announces them, as after a change of connection.
+    void updateUI();
+
+signals:
+    void setHWButtons(bool connected);
+
+private:
+    using Step = std::function<void()>;
+    struct Answer;
+
+    void askMonitor();
+    void monitorAsked(const Answer& answer);
+    void forgetMonitor();
+    void greet(const Step& next);
+    void checkClock(const Step& next);
+    void checkClockAgain(const Step& next);
+    void clockRead(std::int64_t secondsAhead, const Step& next);
+    void announceID(const Step& next);
+    void checkHWSwitchUser();
+    void showIDInfo(const QString& ID, bool isHWExist, bool showDlg);
+    void setTrouble(MonitorResult result);
+    void scheduleNext() { timer.start(); }
+
+    Parts parts;
+    QTimer timer;
+    bool isSplashClosed = false;
+    // Since the monitor was plugged in:
+    bool clockChecked = false;
+    int clockFailures = 0;
+    bool IDAnnounced = false;
+};
+
+} // namespace zel

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/widgets/SidePanel.h"
+#include "store/DataStore.h"
+
+#include <optional>
+
+class QPlainTextEdit;
+class QPushButton;
+class QToolButton;
+
+namespace zel {
+
+/// The panel beside table and chart that shows one of the current patient's comments at a time, to be read,
+/// changed and deleted.
+class CommentViewController final : public SidePanel {
+    Q_OBJECT
+public:
+    CommentViewController(DataStore& dataStore, MessagePanel& messagePanel, QWidget* parent);
+
+    /// Fills the panel for the current patient. What was typed and is not saved stays.
+    void LoadData();
+    /// Shows a comment of the current patient's list and makes it the store's selected one.
+    /// \return false if there is none of that index, or if what was typed cannot be saved
+    bool selectComment(std::size_t index);
+    /// As selectComment(), of the comment with that ID.
+    bool setCommentScroll(const QString& commentID);
+    /// Saves what was typed, if anything, and says nothing.
+    [[nodiscard]] StoreResult save();
+    /// Saves what was typed. \return false if that failed; the user knows why, and the text is still there
+    bool checkToSaveComment();
+    /// As checkToSaveComment(), and if that fails asks whether to stay. \return false if so
+    [[nodiscard]] bool leave();
+    void deleteComment();
+    /// A text that can be changed, or a blank panel.
+    void enableCommentUI(bool enabled);
+    /// Shows the dates of a comment that is being moved.
+    void updateDaetInfo(const CommentModel& comment); // spelled so in the interface
+
+signals:
+    void commentSelected(); ///< the store's selected comment is another one
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void build();
+    QWidget* makeButtons();
+    void show(const CommentModel& comment);
+    void showPosition();
+    void rescueText();
+    [[nodiscard]] bool isChanged() const;
+    [[nodiscard]] std::optional<std::size_t> indexOf(const QString& commentID) const;
+
+    DataStore& store;
+    MessagePanel& panel;
+    std::optional<CommentModel> shown; ///< as it was last read or saved
+    bool isLoading = false;
+    QLabel* lblPatient;
+    QLabel* lblBeginDate;
+    QLabel* lblEndDate;
+    QFrame* textBox;
+    QPlainTextEdit* commentText;
+    QToolButton* btnPrevious;
+    QToolButton* btnNext;
+    QLabel* lblPosition;
+    QPushButton* btnDelete;
+};
+
+} // namespace zel

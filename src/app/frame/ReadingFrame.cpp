@@ -1,0 +1,105 @@
+#include "app/frame/ReadingFrame.h"
+
+#include "app/frame/CommentViewController.h"
+#include "app/widgets/PageHeading.h"
+#include "app/widgets/PatientTexts.h"
+#include "app/frame/PeriodBar.h"
+#include "app/frame/StatisticViewController.h"
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QToolButton>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
+    : QWidget(parent), parts(needed), heading(new PageHeading(this)),
+      period(new PeriodBar(needed.store, needed.period, needed.panel, this)),
+      statisticPanel(new StatisticViewController(needed.store, needed.period, this)),
+      commentPanel(new CommentViewController(needed.store, needed.panel, this)),
+      btnSide(new QToolButton(this)), side(makeSide()) {
+    auto* body = new QHBoxLayout;
+    body->setSpacing(12);
+    body->addWidget(&view, 1);
+    body->addWidget(side);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(10);
+    column->addWidget(makeHead());
+    column->addWidget(period);
+    column->addLayout(body, 1);
+    connect(&needed.store, &DataStore::reloaded, this, &ReadingFrame::showHeading);
+    connect(&needed.store, &DataStore::currentIDChanged, this, &ReadingFrame::showHeading);
+    showHeading();
+}
+
+QWidget* ReadingFrame::makeHead() {
+    btnSide->setObjectName(u"btnSide"_s);
+    btnSide->setText(qtTrId("sideButton"));
+    btnSide->setAccessibleName(btnSide->text());
+    btnSide->setToolTip(qtTrId("sideHint"));
+    btnSide->setCheckable(true);
+    btnSide->setChecked(true);
+    btnSide->setFocusPolicy(Qt::StrongFocus);
+    connect(btnSide, &QToolButton::toggled, side, &QWidget::setVisible);
+    auto* head = new QWidget(this);
+    auto* row = new QHBoxLayout(head);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(heading, 1);
+    row->addWidget(btnSide, 0, Qt::AlignTop);
+    return head;
+}
+
+QWidget* ReadingFrame::makeSide() {
+    auto* panels = new QWidget;
+    auto* column = new QVBoxLayout(panels);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(statisticPanel);
+    column->addWidget(commentPanel, 1);
+    auto* scroll = new QScrollArea(this);
+    scroll->setObjectName(u"readingSide"_s);
+    scroll->setAccessibleName(qtTrId("sideButton"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(panels);
+    scroll->setFixedWidth(fontMetrics().averageCharWidth() * 40);
+    scroll->viewport()->setAutoFillBackground(false);
+    panels->setAutoFillBackground(false);
+    return scroll;
+}
+
+void ReadingFrame::showHeading() {
+    heading->setTexts(patientHeading(parts.store), readingSummary(parts.store));
+}
+
+void ReadingFrame::LoadData() {
+    showHeading();
+    period->LoadData();
+    statisticPanel->LoadData();
+    commentPanel->LoadData();
+}
+
+void ReadingFrame::UpdateUIBySetting() {
+    showHeading();
+    period->UpdateUIBySetting();
+    statisticPanel->LoadData();
+    commentPanel->LoadData();
+}
+
+bool ReadingFrame::isDisplayingComment() const { return commentPanel->isVisible(); }
+
+/// Whoever opened or closed the panels by hand has it so until the window becomes narrow or wide.
+void ReadingFrame::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const bool narrow = width() < fontMetrics().averageCharWidth() * 120;
+    if (narrow == isNarrow) return;
+    isNarrow = narrow;
+    btnSide->setChecked(!narrow);
+}
+
+} // namespace zel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/widgets/SidePanel.h"
+#include "store/DataStore.h"
+
+class QCheckBox;
+
+namespace zel {
+
+class StatisticView;
+
+/// The panel with the figures of the display period.
+class StatisticViewController final : public SidePanel {
+    Q_OBJECT
+public:
+    StatisticViewController(const DataStore& dataStore, DisplayPeriod& displayPeriod, QWidget* parent);
+
+    void LoadData();
+    void calcStattistic(); // spelled so in the interface
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setSelectViewUI();
+    void colourBox();
+
+    const DataStore& store;
+    DisplayPeriod& period;
+    QLabel* lblPatient;
+    StatisticView* view;
+    QCheckBox* btnViewAll;
+};
+
+} // namespace zel

@@ -1,0 +1,93 @@
+#include "app/graph/ChartComments.h"
+
+#include "app/frame/CommentViewController.h"
+#include "app/frame/PeriodMoves.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::uint32_t degreeOf(int colourIndex) {
+    return static_cast<std::uint32_t>(4 - std::clamp(colourIndex, 0, 3));
+}
+
+} // namespace
+
+QString colourName(int colourIndex) {
+    const std::array names{qtTrId("colourYellow"), qtTrId("colourBlue"), qtTrId("colourOrange"),
+                           qtTrId("colourGrey")};
+    return names.at(static_cast<std::size_t>(std::clamp(colourIndex, 0, 3)));
+}
+
+QString commentImage(int colourIndex, bool hovered) {
+    const std::array names{u"Yellow"_s, u"Blue"_s, u"Red"_s, u"Black"_s};
+    return u":/images/CD%1%2.svg"_s.arg(names.at(static_cast<std::size_t>(std::clamp(colourIndex, 0, 3))),
+                                        hovered ? u"F"_s : u"A"_s);
+}
+
+ChartComments::ChartComments(DataStore& dataStore, MessagePanel& messagePanel, QObject* parent)
+    : QObject(parent), store(dataStore), messages(messagePanel) {}
+
+void ChartComments::setPanel(CommentViewController& commentPanel) {
+    panel = &commentPanel;
+    connect(panel, &CommentViewController::commentSelected, this, &ChartComments::selected);
+}
+
+const CommentModel* ChartComments::find(const QString& CommentID) const {
+    const auto found = std::ranges::find(all(), CommentID, [](const auto& each) { return each->CommentID; });
+    return found == all().end() ? nullptr : found->get();
+}
+
+/// Also where the panel is not in view: what it shows is what its buttons work on.
+bool ChartComments::select(const QString& CommentID) { return panel->setCommentScroll(CommentID); }
+
+bool ChartComments::tell(const StoreResult& result) {
+    if (!result)
+        messages.ShowMessage(qtTrId("commentUnchanged").arg(describe(result.error())), qtTrId("Warning"));
+    return result.has_value();
+}
+
+void ChartComments::create(CommentModel comment) {
+    const auto added = store.addCommentForCurID(std::move(comment));
+    if (tell(added.map([](const QString&) {}))) select(*added);
+}
+
+bool ChartComments::save(const CommentModel& comment) {
+    if (!tell(store.saveCommentToXML(comment))) return false;
+    select(comment.CommentID);
+    return true;
+}
+
+void ChartComments::recolour(const QString& CommentID, int colourIndex) {
+    const CommentModel* comment = find(CommentID);
+    if (!comment || comment->degree == degreeOf(colourIndex)) return;
+    CommentModel changed = *comment;
+    changed.degree = degreeOf(colourIndex);
+    save(changed);
+}
+
+void ChartComments::moveEdge(const QString& CommentID, bool right, int days) {
+    const CommentModel* comment = find(CommentID);
+    if (!comment || isNilDate(comment->beginDate) || isNilDate(comment->endDate)) return;
+    const auto [first, last] = std::minmax(*comment->beginDate, *comment->endDate);
+    const Period now{DateToDayBoundary(first, true), DateToDayBoundary(last, false)};
+    const Period moved = right ? movedEnds(now, 0, days) : movedEnds(now, days, 0);
+    if (moved.end < moved.begin) return;
+    CommentModel changed = *comment;
+    changed.beginDate = moved.begin;
+    changed.endDate = moved.end;
+    save(changed);
+}
+
+void ChartComments::remove(const QString& CommentID) {
+    if (select(CommentID)) panel->deleteComment();
+}
+
+void ChartComments::showDates(const CommentModel& comment) { panel->updateDaetInfo(comment); }
+
+} // namespace zel

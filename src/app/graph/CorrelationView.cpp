@@ -1,0 +1,48 @@
+#include "app/graph/CorrelationView.h"
+
+#include "analysis/Correlation.h"
+#include "chart/DrawCorrelation.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+CorrelationView::CorrelationView(const DataStore& dataStore, const DisplayPeriod& displayPeriod,
+                                 QWidget* parent)
+    : PictureView(u"CorrelationView"_s, qtTrId("correlationView"), parent), store(dataStore),
+      period(displayPeriod) {
+    reload();
+}
+
+void CorrelationView::reload() {
+    setAccessibleDescription(words());
+    invalidate();
+}
+
+Picture CorrelationView::makePicture(const Rect& rect) {
+    const SettingModel& setting = store.getSetting();
+    return drawCorrelation(calcCorrelation(store.getReadingForCurID(), period.selection()),
+                           setting.sysStandard, setting.diaStandard, rect);
+}
+
+/// How many readings lie in each of the four zones.
+QString CorrelationView::words() const {
+    const SettingModel& setting = store.getSetting();
+    int total = 0, sysHigh = 0, diaHigh = 0, bothHigh = 0;
+    for (const ReadingModel& reading : store.getReadingForCurID()) {
+        if (!isCounted(reading, period.selection())) continue;
+        const bool sys = reading.sys > setting.sysStandard, dia = reading.dia > setting.diaStandard;
+        ++total;
+        sysHigh += static_cast<int>(sys && !dia);
+        diaHigh += static_cast<int>(dia && !sys);
+        bothHigh += static_cast<int>(sys && dia);
+    }
+    const auto line = [](const QString& zone, int count) { return qtTrId("infoLine").arg(zone).arg(count); };
+    return QStringList{qtTrId("readingCount", total),
+                       line(qtTrId("normal"), total - sysHigh - diaHigh - bothHigh),
+                       line(qtTrId("sys too high"), sysHigh), line(qtTrId("dia too high"), diaHigh),
+                       line(qtTrId("sys and dia too high"), bothHigh)}
+        .join(u'\n');
+}
+
+} // namespace zel

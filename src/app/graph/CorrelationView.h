@@ -1,0 +1,26 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/widgets/PictureView.h"
+#include "store/DataStore.h"
+
+namespace zel {
+
+/// The period's readings as points of systolic and diastolic pressure, with the limits.
+class CorrelationView final : public PictureView {
+    Q_OBJECT
+public:
+    CorrelationView(const DataStore& dataStore, const DisplayPeriod& displayPeriod, QWidget* parent);
+    void reload();
+
+protected:
+    [[nodiscard]] Picture makePicture(const Rect& rect) override;
+
+private:
+    [[nodiscard]] QString words() const;
+
+    const DataStore& store;
+    const DisplayPeriod& period;
+};
+
+} // namespace zel

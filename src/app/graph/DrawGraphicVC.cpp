@@ -1,0 +1,282 @@
+#include "app/graph/DrawGraphicVC.h"
+
+#include "app/frame/PeriodMoves.h"
+#include "app/graph/BloodView.h"
+#include "app/graph/PulseView.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int bloodShare = 7, pulseShare = 3; ///< of the height, as on paper
+constexpr int wheelStep = 120;
+constexpr int markSize = 11;
+
+/// The reading after or before one of them, or else the first or last one of the period; null at the end.
+const ReadingModel* nextReading(const ChartSource& source, const ReadingModel* from, bool forward) {
+    const auto& readings = source.data.maReading;
+    const auto known = std::ranges::find(readings, from, &ChartReading::reading);
+    const bool isKnown = from && known != readings.end();
+    const auto isShown = [&source](const ChartReading& reading) {
+        return MatchedDataType(source.view, reading.isPMData) && !reading.reading->isUndated();
+    };
+    if (forward) {
+        const auto begin =
+            isKnown ? known + 1
+                    : std::ranges::lower_bound(readings, source.period.begin, {}, &ChartReading::date);
+        const auto next = std::find_if(begin, readings.end(), isShown);
+        return next == readings.end() ? nullptr : next->reading;
+    }
+    const auto end =
+        isKnown ? known : std::ranges::upper_bound(readings, source.period.end, {}, &ChartReading::date);
+    const auto previous = std::find_if(std::make_reverse_iterator(end), readings.rend(), isShown);
+    return previous == readings.rend() ? nullptr : previous->reading;
+}
+
+} // namespace
+
+DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayPeriod,
+                             ChartComments& chartComments, QWidget* parent)
+    : QWidget(parent), store(dataStore), period(displayPeriod), bloodView(new BloodView(source, this)),
+      pulseView(new PulseView(source, chartComments, this)) {
+    setObjectName(u"DrawGraphicVC"_s);
+    setFocusProxy(bloodView);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(3);
+    bloodScroller = addValueScroller(u"bloodScroller"_s, qtTrId("bloodScroller"), *bloodView);
+    pulseScroller = addValueScroller(u"pulseScroller"_s, qtTrId("pulseScroller"), *pulseView);
+    timeScroller = addTimeScroller();
+    grid->addWidget(bloodView, 0, 0);
+    grid->addWidget(bloodScroller, 0, 1);
+    grid->addWidget(pulseView, 1, 0);
+    grid->addWidget(pulseScroller, 1, 1);
+    grid->addWidget(timeScroller, 2, 0);
+    grid->setRowStretch(0, bloodShare);
+    grid->setRowStretch(1, pulseShare);
+    for (ChartView* view : {static_cast<ChartView*>(bloodView), static_cast<ChartView*>(pulseView)}) {
+        connect(view, &ChartView::hovered, this,
+                [this, view](const ReadingModel* reading, QPoint mark) { hover(*view, reading, mark); });
+        connect(view, &ChartView::focusLeft, this, [this] {
+            if (infoView && !isHovering) infoView->hide(); // it could cover where the focus has gone
+        });
+    }
+    connect(&store, &DataStore::reloaded, this, &DrawGraphicVC::reload);
+    connect(&store, &DataStore::currentIDChanged, this, &DrawGraphicVC::reload);
+    connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::showPeriod);
+    reload();
+}
+
+/// Moves the scale of the chart beside it: up to higher values.
+QScrollBar* DrawGraphicVC::addValueScroller(const QString& name, const QString& title, ChartView& view) {
+    constexpr int hundred = 100, page = 20, step = 10, start = 40, lowestBase = 20;
+    auto* scroller = new QScrollBar(Qt::Vertical, this);
+    scroller->setObjectName(name);
+    scroller->setAccessibleName(title);
+    scroller->setToolTip(title);
+    scroller->setInvertedAppearance(true);
+    scroller->setInvertedControls(false);
+    scroller->setRange(0, hundred);
+    scroller->setPageStep(page);
+    scroller->setSingleStep(step);
+    scroller->setValue(start);
+    connect(scroller, &QScrollBar::valueChanged, &view, [this, &view](int value) {
+        view.setScaleBase(value + lowestBase);
+        if (infoView) infoView->hide();
+    });
+    return scroller;
+}
+
+QScrollBar* DrawGraphicVC::addTimeScroller() {
+    auto* scroller = new QScrollBar(Qt::Horizontal, this);
+    scroller->setObjectName(u"timeScroller"_s);
+    scroller->setAccessibleName(qtTrId("timeScroller"));
+    scroller->setToolTip(qtTrId("timeScrollerHint"));
+    QSizePolicy policy = scroller->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the charts keep their height
+    scroller->setSizePolicy(policy);
+    connect(scroller, &QScrollBar::valueChanged, this, [this](int daysBefore) {
+        move(daysBefore - timeScroll(period.getTimePeriod(), period.getDataPeriod()).daysBefore);
+    });
+    return scroller;
+}
+
+/// The reading pointed at may be gone already: it is forgotten before anybody asks where its marks were.
+void DrawGraphicVC::forgetPointed() {
+    bloodView->invalidate();
+    pulseView->invalidate();
+    point(nullptr);
+}
+
+void DrawGraphicVC::reload() {
+    forgetPointed();
+    source.data = makeChartData(store.getReadingForCurID(), store.getTrasferLogForCurID());
+    source.zone = LocalZone();
+    showPeriod();
+}
+
+void DrawGraphicVC::showPeriod() {
+    forgetPointed();
+    source.period = period.getTimePeriod();
+    source.view = period.getSelectViewIndex();
+    source.sysStandard = store.getSetting().sysStandard;
+    source.diaStandard = store.getSetting().diaStandard;
+    bloodView->invalidate();
+    pulseView->invalidate();
+    setTimeScrollRange();
+    describe();
+}
+
+/// A step is a day, and a page is the period that is in view.
+void DrawGraphicVC::setTimeScrollRange() {
+    const TimeScroll room = timeScroll(source.period, period.getDataPeriod());
+    const QSignalBlocker quiet(timeScroller);
+    timeScroller->setRange(0, room.total());
+    timeScroller->setPageStep(daysIn(source.period));
+    timeScroller->setSingleStep(1);
+    timeScroller->setValue(room.daysBefore);
+    timeScroller->setVisible(room.total() >= 1);
+}
+
+void DrawGraphicVC::setTimePeriod(const Period& chosen) { period.setTimePeriod(chosen.begin, chosen.end); }
+
+void DrawGraphicVC::addDay() { setTimePeriod(zel::addDay(period.getTimePeriod(), 1)); }
+
+void DrawGraphicVC::minusDay() {
+    if (canBeNarrowed(period.getTimePeriod())) setTimePeriod(zel::addDay(period.getTimePeriod(), -1));
+}
+
+void DrawGraphicVC::move(int days) {
+    if (days != 0) setTimePeriod(shifted(period.getTimePeriod(), period.getDataPeriod(), days));
+}
+
+void DrawGraphicVC::widen(int days, double fraction) {
+    setTimePeriod(widened(period.getTimePeriod(), days, fraction));
+}
+
+void DrawGraphicVC::setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const {
+    const auto copy = [this](ChartStyle& to, const ChartStyle& from) {
+        to.noBaseArea = from.noBaseArea;
+        to.showBlood = from.showBlood;
+        to.showDataType = source.view;
+        to.iScaleBase = from.iScaleBase;
+    };
+    copy(pulse, pulseView->style());
+    copy(blood, bloodView->style());
+}
+
+Instant DrawGraphicVC::commentDay() const {
+    return pointed ? pointed->ReadingDate.value_or(source.period.begin) : source.period.begin;
+}
+
+/// A day, and more of them where a day can hardly be seen.
+int DrawGraphicVC::keyStep() const { return std::max(1, daysIn(source.period) / 30); }
+
+bool DrawGraphicVC::movedByKey(int key) {
+    constexpr int farAway = 1000000;
+    const int page = daysIn(source.period);
+    switch (key) {
+    case Qt::Key_Left: move(-keyStep()); return true;
+    case Qt::Key_Right: move(keyStep()); return true;
+    case Qt::Key_PageUp: move(-page); return true;
+    case Qt::Key_PageDown: move(page); return true;
+    case Qt::Key_Home: move(-farAway); return true;
+    case Qt::Key_End: move(farAway); return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: widen(keyStep(), 0.5); return true;
+    case Qt::Key_Minus: widen(-keyStep(), 0.5); return true;
+    default: return false;
+    }
+}
+
+void DrawGraphicVC::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    QScrollBar* values = pulseView->hasFocus() ? pulseScroller : bloodScroller;
+    if (event->modifiers() & Qt::ControlModifier) {
+        if (key == Qt::Key_Left || key == Qt::Key_Right) return walk(key == Qt::Key_Right);
+    } else if (key == Qt::Key_Up || key == Qt::Key_Down) {
+        return values->triggerAction(key == Qt::Key_Up ? QScrollBar::SliderSingleStepAdd
+                                                       : QScrollBar::SliderSingleStepSub);
+    } else if (key == Qt::Key_Escape && pointed) {
+        return point(nullptr);
+    } else if (movedByKey(key)) {
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+/// A tenth of the period a step: moved by the wheel alone, widened or narrowed around the pointer with Ctrl.
+void DrawGraphicVC::wheelEvent(QWheelEvent* event) {
+    wheelled += event->angleDelta();
+    const QPoint steps = wheelled / wheelStep;
+    wheelled -= steps * wheelStep;
+    event->accept();
+    if (steps.isNull()) return;
+    const int tenth = std::max(1, daysIn(source.period) / 10);
+    if (!(event->modifiers() & Qt::ControlModifier)) return move(-(steps.x() + steps.y()) * tenth);
+    const Rect plot = pulseView->scale().chartRect;
+    const double x = pulseView->mapFromGlobal(event->globalPosition()).x() - plot.x;
+    const double fraction = plot.width > 0 ? std::clamp(x / plot.width, 0.0, 1.0) : 0.5;
+    widen(-steps.y() * std::max(1, tenth / 2), fraction);
+}
+
+void DrawGraphicVC::hideEvent(QHideEvent* event) {
+    point(nullptr);
+    QWidget::hideEvent(event);
+}
+
+void DrawGraphicVC::point(const ReadingModel* reading) {
+    pointed = reading;
+    bloodView->setPointed(reading);
+    pulseView->setPointed(reading);
+    if (!reading && infoView) infoView->hide();
+    if (!reading) isHovering = false;
+}
+
+void DrawGraphicVC::hover(ChartView& view, const ReadingModel* reading, QPoint mark) {
+    if (!reading && isHovering) return point(nullptr);
+    if (!reading || reading == pointed) return;
+    point(reading);
+    isHovering = true;
+    showInfo(view, *reading, mark);
+}
+
+void DrawGraphicVC::showInfo(ChartView& view, const ReadingModel& reading, QPoint mark) {
+    const ReadingInfo info = readingInfo(reading, store);
+    view.setAccessibleDescription(spokenInfo(info));
+    if (!infoView) infoView = new BPInfoView(window());
+    // A value out of the scale has its mark out of sight.
+    const QPoint inView(std::clamp(mark.x(), 0, view.width()), std::clamp(mark.y(), 0, view.height()));
+    const QPoint at = view.mapTo(window(), inView);
+    infoView->showReading(info, QRect(at - QPoint(markSize / 2, markSize / 2), QSize(markSize, markSize)));
+}
+
+/// To the next reading or the one before, with the period after it where it lies outside.
+void DrawGraphicVC::walk(bool forward) {
+    const ReadingModel* found = nextReading(source, pointed, forward);
+    if (!found) return;
+    setTimePeriod(movedTo(source.period, *found->ReadingDate));
+    point(found);
+    isHovering = false;
+    ChartView* const view = pulseView->hasFocus() ? static_cast<ChartView*>(pulseView) : bloodView;
+    showInfo(*view, *found, view->place(*found));
+}
+
+void DrawGraphicVC::describe() {
+    const auto counted = std::ranges::count_if(source.data.maReading, [this](const ChartReading& reading) {
+        return source.period.contains(reading.date) && MatchedDataType(source.view, reading.isPMData);
+    });
+    const QString count = qtTrId("readingCount", static_cast<int>(counted));
+    for (ChartView* view : {static_cast<ChartView*>(bloodView), static_cast<ChartView*>(pulseView)})
+        view->setAccessibleDescription(qtTrId("chartKeys").arg(count));
+}
+
+} // namespace zel

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/graph/BPInfoView.h"
+#include "app/graph/ChartComments.h"
+#include "app/graph/ChartView.h"
+
+#include <QPointer>
+
+class QScrollBar;
+
+namespace zel {
+
+class BloodView;
+class PulseView;
+
+/// Both charts with their scroll bars: moves and widens the period, and shows the reading that the pointer or
+/// the keys have come to.
+class DrawGraphicVC final : public QWidget {
+    Q_OBJECT
+public:
+    DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayPeriod, ChartComments& chartComments,
+                  QWidget* parent);
+
+    void addDay();   ///< the period grows by a day at each end
+    void minusDay(); ///< and shrinks, unless it is of two days or one
+    /// Reads everything anew.
+    void reload();
+    /// The styles of the charts on the screen, for a pair that is to look like them.
+    void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
+    [[nodiscard]] PulseView& getPulseView() { return *pulseView; }
+    [[nodiscard]] BloodView& getBloodView() { return *bloodView; }
+    /// The day that a comment is for that is made without pointing at a place.
+    [[nodiscard]] Instant commentDay() const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    QScrollBar* addValueScroller(const QString& name, const QString& title, ChartView& view);
+    QScrollBar* addTimeScroller();
+    void setTimePeriod(const Period& period);
+    void showPeriod();
+    void setTimeScrollRange();
+    void move(int days);
+    void widen(int days, double fraction);
+    bool movedByKey(int key);
+    [[nodiscard]] int keyStep() const;
+
+    void walk(bool forward);
+    void forgetPointed();
+    void point(const ReadingModel* reading);
+    void showInfo(ChartView& view, const ReadingModel& reading, QPoint mark);
+    void hover(ChartView& view, const ReadingModel* reading, QPoint mark);
+    void describe();
+
+    const DataStore& store;
+    DisplayPeriod& period;
+    ChartSource source;
+    BloodView* bloodView;
+    PulseView* pulseView;
+    QScrollBar* bloodScroller;
+    QScrollBar* pulseScroller;
+    QScrollBar* timeScroller;
+    QPointer<BPInfoView> infoView; ///< the window's child, as it may reach over everything in it
+    const ReadingModel* pointed = nullptr;
+    bool isHovering = false; ///< the pointer has come to it, not the keys
+    QPoint wheelled;         ///< parts of a wheel's step, of both axes, that did not make a move yet
+};
+
+} // namespace zel

@@ -1,0 +1,139 @@
+#include "app/graph/GraphViewController.h"
+
+#include "app/frame/CommentViewController.h"
+#include "app/frame/ReadingFrame.h"
+#include "app/graph/ChartComments.h"
+#include "app/graph/ChartTools.h"
+#include "app/graph/CorrelationView.h"
+#include "app/graph/DrawGraphicVC.h"
+#include "app/graph/HistogramView.h"
+#include "app/widgets/EmptyState.h"
+
+#include <QButtonGroup>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The chosen one stands out whatever the desktop's colours.
+QString switchLook() {
+    return u"QToolButton { border: 1px solid palette(mid); padding: 4px 9px; background: palette(button); }"
+           "QToolButton:checked { background: palette(highlight); color: palette(highlighted-text); }"
+           "QToolButton:focus { border: 2px solid palette(text); padding: 3px 8px; }"_s;
+}
+
+} // namespace
+
+// The charts read a new load of the records before the panels beside them do: these answer to it.
+GraphViewController::GraphViewController(const Parts& needed)
+    : parts(needed), comments(new ChartComments(needed.store, needed.panel, this)),
+      content(new QWidget(this)), charts(new DrawGraphicVC(needed.store, needed.period, *comments, content)),
+      histogram(new HistogramView(needed.store, needed.period, content)),
+      correlation(new CorrelationView(needed.store, needed.period, content)),
+      noReadings(new EmptyState(u"noChart"_s, u":/icons/graphBtn.InactiveImg.svg"_s, content)),
+      views(new QStackedWidget(content)), tools(new ChartTools(*charts, *comments, needed.period, content)),
+      frame(new ReadingFrame({needed.store, needed.period, needed.panel}, *content, this)) {
+    setObjectName(u"GraphViewController"_s);
+    setAccessibleName(qtTrId("pageChart"));
+    comments->setPanel(frame->comments());
+    build();
+    connect(&parts.store, &DataStore::reloaded, this, &GraphViewController::reload);
+    connect(&parts.store, &DataStore::currentIDChanged, this, &GraphViewController::reload);
+    connect(&parts.period, &DisplayPeriod::changed, this, &GraphViewController::reload);
+    reload();
+}
+
+void GraphViewController::build() {
+    noReadings->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
+    noReadings->setFocusPolicy(Qt::StrongFocus);
+    for (QWidget* each : {static_cast<QWidget*>(charts), static_cast<QWidget*>(histogram),
+                          static_cast<QWidget*>(correlation), static_cast<QWidget*>(noReadings)})
+        views->addWidget(each);
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(makeSwitch());
+    bar->addStretch(1);
+    bar->addWidget(tools);
+    auto* inside = new QVBoxLayout(content);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setSpacing(6);
+    inside->addLayout(bar);
+    inside->addWidget(views, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(frame);
+}
+
+QWidget* GraphViewController::makeSwitch() {
+    auto* box = new QWidget(content);
+    box->setStyleSheet(switchLook());
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    auto* group = new QButtonGroup(box);
+    const std::array names{u"toggleGraph"_s, u"toggleHistogram"_s, u"toggleCorrelation"_s};
+    const std::array texts{qtTrId("showGraph"), qtTrId("showHistogram"), qtTrId("showCorrelation")};
+    for (std::size_t state = 0; state < viewTotal; ++state) {
+        auto* choice = new QToolButton(box);
+        choice->setObjectName(names.at(state));
+        choice->setText(texts.at(state));
+        choice->setAccessibleName(choice->text());
+        choice->setCheckable(true);
+        choice->setFocusPolicy(Qt::StrongFocus);
+        group->addButton(choice, static_cast<int>(state));
+        row->addWidget(choice);
+        choices.at(state) = choice;
+    }
+    connect(group, &QButtonGroup::idClicked, this, &GraphViewController::setView);
+    return box;
+}
+
+void GraphViewController::setView(int state) {
+    viewState = state;
+    if (viewState == 1) histogram->reload();
+    if (viewState == 2) correlation->reload();
+    const bool any = !parts.store.getReadingForCurID().empty();
+    views->setCurrentIndex(any ? viewState : views->indexOf(noReadings));
+    setFocusProxy(views->currentWidget());
+    choices.at(static_cast<std::size_t>(viewState))->setChecked(true);
+    for (QToolButton* choice : choices)
+        choice->setEnabled(any);
+    tools->setVisible(any && viewState == 0);
+}
+
+void GraphViewController::reload() { setView(viewState); }
+
+void GraphViewController::toggleGraph() { setView(0); }
+void GraphViewController::toggleHistogram() { setView(1); }
+void GraphViewController::toggleCorrelation() { setView(2); }
+
+void GraphViewController::switchToGraph() {
+    toggleGraph();
+    setFocus();
+}
+
+void GraphViewController::LoadData() {
+    frame->LoadData();
+    charts->reload();
+    reload();
+}
+
+void GraphViewController::UpdateUIBySetting() {
+    frame->UpdateUIBySetting();
+    charts->reload();
+    reload();
+}
+
+bool GraphViewController::leave() { return frame->comments().leave(); }
+
+void GraphViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
+
+void GraphViewController::setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const {
+    charts->setupDrawChart(pulse, blood);
+}
+
+} // namespace zel

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/widgets/PageController.h"
+#include "chart/DrawChart.h"
+#include "store/DataStore.h"
+
+#include <array>
+
+class QStackedWidget;
+class QToolButton;
+
+namespace zel {
+
+class ChartComments;
+class ChartTools;
+class CorrelationView;
+class DrawGraphicVC;
+class EmptyState;
+class HistogramView;
+class ReadingFrame;
+
+/// The chart page: the chart, the histogram or the correlation of the current patient's readings.
+class GraphViewController final : public PageController {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        DisplayPeriod& period;
+        MessagePanel& panel;
+    };
+    explicit GraphViewController(const Parts& needed);
+
+    void LoadData() override;
+    void UpdateUIBySetting() override;
+    void setHWButtons(bool) override {}
+    [[nodiscard]] bool leave() override;
+    void checkToSaveComment() override;
+
+    void toggleGraph();
+    void toggleHistogram();
+    void toggleCorrelation();
+    /// Brings the chart to the front of the page.
+    void switchToGraph();
+    /// 0 chart, 1 histogram, 2 correlation.
+    [[nodiscard]] int drawViewState() const { return viewState; }
+    /// The styles of the charts on the screen, for a pair that is to look like them.
+    void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
+
+private:
+    void build();
+    QWidget* makeSwitch();
+    void setView(int state);
+    void reload();
+
+    static constexpr std::size_t viewTotal = 3;
+    Parts parts;
+    ChartComments* comments;
+    QWidget* content; ///< what the frame shows: the switch and the tools over one of the views
+    DrawGraphicVC* charts;
+    HistogramView* histogram;
+    CorrelationView* correlation;
+    EmptyState* noReadings;
+    QStackedWidget* views;
+    ChartTools* tools;
+    ReadingFrame* frame;
+    std::array<QToolButton*, viewTotal> choices{};
+    int viewState = 0;
+};
+
+} // namespace zel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "analysis/Histogram.h"
+#include "app/widgets/PictureView.h"
+#include "store/DataStore.h"
+
+namespace zel {
+
+/// How the values of the period's readings are distributed.
+class HistogramView final : public PictureView {
+    Q_OBJECT
+public:
+    HistogramView(const DataStore& dataStore, const DisplayPeriod& displayPeriod, QWidget* parent);
+    void reload();
+
+protected:
+    [[nodiscard]] Picture makePicture(const Rect& rect) override;
+
+private:
+    [[nodiscard]] QString words() const;
+
+    const DataStore& store;
+    const DisplayPeriod& period;
+    HistogramFigures figures; ///< their percent axes stay where no reading counts
+};
+
+} // namespace zel

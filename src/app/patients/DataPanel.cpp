@@ -1,0 +1,46 @@
+#include "app/patients/DataPanel.h"
+
+#include <QDir>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+DataPanel::DataPanel(const DataStore& dataStore, QWidget* parent)
+    : SidePanel(u"dataPanel"_s, qtTrId("dataPanel"), parent), store(dataStore),
+      lblPatients(addValue(u"lblPatients"_s, qtTrId("patientTotal"))),
+      lblReadings(addValue(u"lblReadings"_s, qtTrId("readingTotal"))),
+      lblLastDownload(addValue(u"lblLastDownload"_s, qtTrId("lastDownload"))),
+      lblDataFile(addValue(u"lblDataFile"_s, qtTrId("dataFile"))) {
+    lblDataFile->setWordWrap(false);
+    lblDataFile->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    connect(&store, &DataStore::reloaded, this, &DataPanel::showState);
+    connect(&store, &DataStore::currentIDChanged, this, &DataPanel::showState);
+    showState();
+}
+
+void DataPanel::showState() {
+    const DataLogList& downloads = store.getTrasferLogForCurID();
+    lblPatients->setText(QString::number(store.getPatientArray().size()));
+    lblReadings->setText(QString::number(store.getReadingForCurID().size()));
+    const QString format = store.getSetting().getDateFormat();
+    lblLastDownload->setText(downloads.empty() || format.isNull()
+                                 ? qtTrId("none")
+                                 : DateToStr(downloads.back().transferDate, format));
+    showPath();
+}
+
+/// The path's middle gives way, so that the file's name stays to be seen.
+void DataPanel::showPath() {
+    const QString path = QDir::toNativeSeparators(store.getZELXMLPath());
+    lblDataFile->setToolTip(path);
+    lblDataFile->setAccessibleDescription(path);
+    lblDataFile->setText(lblDataFile->fontMetrics().elidedText(path, Qt::ElideMiddle, lblDataFile->width()));
+}
+
+void DataPanel::resizeEvent(QResizeEvent* event) {
+    SidePanel::resizeEvent(event);
+    showPath();
+}
+
+} // namespace zel

@@ -1,0 +1,100 @@
+#include "app/patients/PatientInputs.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QValidator>
+#include <QWheelEvent>
+
+#include <limits>
+
+namespace zel {
+
+namespace {
+
+/// Refuses no key stroke, only the entry as a whole.
+class EntryValidator final : public QValidator {
+public:
+    EntryValidator(std::function<bool(const QString&)> rule, QObject* parent)
+        : QValidator(parent), accepts(std::move(rule)) {}
+    State validate(QString& text, int&) const override { return accepts(text) ? Acceptable : Intermediate; }
+
+private:
+    std::function<bool(const QString&)> accepts;
+};
+
+/// Scrolling the form past a list must not choose something else in it.
+class CalmComboBox final : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+} // namespace
+
+QLineEdit* makeLineInput(const QString& name, std::function<bool(const QString&)> accepts) {
+    auto* input = new QLineEdit;
+    input->setObjectName(name);
+    input->setMaxLength(std::numeric_limits<int>::max());
+    input->setValidator(new EntryValidator(std::move(accepts), input));
+    return input;
+}
+
+void setPlaceholder(QLineEdit& input, const QString& text) {
+    QPalette colours;
+    colours.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
+    input.setPalette(colours);
+    input.setPlaceholderText(text);
+}
+
+QPlainTextEdit* makeTextInput(const QString& name, int lines) {
+    auto* input = new QPlainTextEdit;
+    input->setObjectName(name);
+    input->setTabChangesFocus(true);
+    const int frame = 2 * (input->frameWidth() + static_cast<int>(input->document()->documentMargin()));
+    input->setFixedHeight(input->fontMetrics().lineSpacing() * lines + frame);
+    return input;
+}
+
+QComboBox* makeChoiceInput(const QString& name, const QStringList& choices) {
+    auto* input = new CalmComboBox;
+    input->setObjectName(name);
+    input->addItems(choices);
+    input->setFocusPolicy(Qt::StrongFocus);
+    input->setMinimumContentsLength(3);
+    return input;
+}
+
+QString inputText(const QWidget& input) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(&input)) return line->text();
+    if (const auto* choice = qobject_cast<const QComboBox*>(&input))
+        return QString::number(choice->currentIndex());
+    const auto* lines = qobject_cast<const QPlainTextEdit*>(&input);
+    // Its own plain text would turn no-break spaces into others.
+    return lines ? lines->document()->toRawText().replace(QChar(QChar::ParagraphSeparator), u'\n')
+                 : QString();
+}
+
+void setInputText(QWidget& input, const QString& text) {
+    if (auto* line = qobject_cast<QLineEdit*>(&input)) {
+        line->setText(text);
+        line->setCursorPosition(0);
+    } else if (auto* choice = qobject_cast<QComboBox*>(&input)) {
+        choice->setCurrentIndex(text.toInt());
+    } else if (auto* lines = qobject_cast<QPlainTextEdit*>(&input)) {
+        lines->setPlainText(text);
+    }
+}
+
+void whenEdited(QWidget& input, const std::function<void()>& then) {
+    if (auto* line = qobject_cast<QLineEdit*>(&input))
+        QObject::connect(line, &QLineEdit::textChanged, line, then);
+    else if (auto* choice = qobject_cast<QComboBox*>(&input))
+        QObject::connect(choice, &QComboBox::currentIndexChanged, choice, then);
+    else if (auto* lines = qobject_cast<QPlainTextEdit*>(&input))
+        QObject::connect(lines, &QPlainTextEdit::textChanged, lines, then);
+}
+
+} // namespace zel

@@ -1,0 +1,125 @@
+#include "app/patients/PatientRoster.h"
+
+#include "app/widgets/EmptyState.h"
+#include "app/patients/PatientFilter.h"
+#include "app/patients/PatientInputs.h"
+#include "app/widgets/TableLook.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+PatientRoster::PatientRoster(const DataStore& patients, QWidget* parent)
+    : QWidget(parent), roster(new PatientTableModel(patients, this)), found(new PatientFilter(*roster, this)),
+      searchPatients(new QLineEdit(this)), tblPatients(new QTableView(this)),
+      noneFound(new EmptyState(u"noPatientFound"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
+      listOrAdvice(new QStackedWidget(this)) {
+    build();
+    setFocusProxy(tblPatients);
+    connect(searchPatients, &QLineEdit::textChanged, this, &PatientRoster::search);
+    connect(searchPatients, &QLineEdit::returnPressed, this, &PatientRoster::chooseFirst);
+    connect(tblPatients->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
+        if (!isMoving && selectedID() != selected) emit wanted();
+    });
+    const auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, searchPatients, [this] { searchPatients->setFocus(); });
+}
+
+void PatientRoster::build() {
+    searchPatients->setObjectName(u"searchPatients"_s);
+    searchPatients->setAccessibleName(qtTrId("searchPatients"));
+    setPlaceholder(*searchPatients, qtTrId("searchPatients"));
+    searchPatients->setToolTip(qtTrId("searchPatientsHint"));
+    searchPatients->setClearButtonEnabled(true);
+    searchPatients->installEventFilter(this);
+    tblPatients->setObjectName(u"tblPatients"_s);
+    tblPatients->setAccessibleName(qtTrId("patientList"));
+    tblPatients->setModel(found);
+    dressTable(*tblPatients);
+    tblPatients->setSelectionMode(QAbstractItemView::SingleSelection);
+    tblPatients->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    tblPatients->horizontalHeader()->setSectionResizeMode(PatientTableModel::ID, QHeaderView::Fixed);
+    noneFound->setTexts(qtTrId("noPatientFound"), qtTrId("noPatientFoundAdvice"));
+    listOrAdvice->addWidget(tblPatients);
+    listOrAdvice->addWidget(noneFound);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 30);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    column->addWidget(searchPatients);
+    column->addWidget(listOrAdvice, 1);
+}
+
+void PatientRoster::reload(bool withNewPatient) {
+    const QScopedValueRollback moving(isMoving, true);
+    roster->reload(withNewPatient);
+}
+
+void PatientRoster::select(const QString& ID) {
+    const QScopedValueRollback moving(isMoving, true);
+    selected = ID;
+    const QModelIndex row = found->mapFromSource(roster->index(roster->rowOf(ID), 0));
+    if (row.isValid())
+        tblPatients->selectRow(row.row());
+    else
+        tblPatients->selectionModel()->clear();
+    tblPatients->scrollTo(row);
+}
+
+void PatientRoster::showAll() { searchPatients->clear(); }
+
+QString PatientRoster::selectedID() const {
+    const QModelIndex row = tblPatients->currentIndex();
+    return row.isValid() ? roster->IDAt(found->mapToSource(row).row()) : QString();
+}
+
+QString PatientRoster::neighbourOf(const QString& ID) const {
+    const int row = roster->rowOf(ID);
+    const int next = row + 1 < roster->rowCount() ? row + 1 : row - 1;
+    return row < 0 || next < 0 ? QString() : roster->IDAt(next);
+}
+
+/// An ID as a monitor keeps it is seen whole, unless that left no room for names.
+void PatientRoster::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int whole = fontMetrics().averageCharWidth() * 14;
+    tblPatients->horizontalHeader()->resizeSection(PatientTableModel::ID, std::min(whole, width() * 2 / 5));
+}
+
+/// Narrowing the list chooses nobody: the patient in the editor stays, in the list or not.
+void PatientRoster::search(const QString& text) {
+    {
+        const QScopedValueRollback moving(isMoving, true);
+        found->search(text);
+    }
+    select(selected);
+    const bool isNone = found->rowCount() == 0 && roster->rowCount() > 0;
+    listOrAdvice->setCurrentWidget(isNone ? static_cast<QWidget*>(noneFound) : tblPatients);
+}
+
+void PatientRoster::chooseFirst() {
+    if (found->rowCount() == 0) return;
+    tblPatients->setFocus();
+    if (!tblPatients->currentIndex().isValid()) tblPatients->selectRow(0);
+}
+
+bool PatientRoster::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Down) chooseFirst();
+    if (key == Qt::Key_Escape) showAll();
+    return key == Qt::Key_Down || key == Qt::Key_Escape;
+}
+
+} // namespace zel

@@ -1,0 +1,340 @@
+#include "app/patients/PatientViewController.h"
+
+#include "app/widgets/EmptyState.h"
+#include "app/widgets/PageHeading.h"
+#include "app/patients/PatientEditor.h"
+#include "app/device/PatientIDSender.h"
+#include "app/patients/PatientRoster.h"
+#include "app/widgets/PatientTexts.h"
+#include "store/Text.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+PatientViewController::PatientViewController(const Parts& needed)
+    : parts(needed), store(needed.store),
+      sender(new PatientIDSender(needed.status, needed.monitor, needed.panel, this)),
+      roster(new PatientRoster(needed.store, this)), editor(new PatientEditor(needed.clock, this)),
+      noPatients(new EmptyState(u"noPatients"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
+      rosterOrAdvice(new QStackedWidget(this)) {
+    setObjectName(u"PatientViewController"_s);
+    setAccessibleName(qtTrId("pagePatients"));
+    build();
+    connect(&store, &DataStore::reloaded, this, &PatientViewController::reload);
+    connect(&parts.status, &MonitorStatus::changed, this, &PatientViewController::enableButtons);
+    connect(sender, &PatientIDSender::sent, this, &PatientViewController::updateUIWanted);
+    // A question is asked when the click or key that chose the patient is over, not in its midst.
+    connect(roster, &PatientRoster::wanted, this, [this] {
+        const auto go = [this] { goTo(roster->selectedID()); };
+        if (editor->isChanged())
+            QMetaObject::invokeMethod(this, go, Qt::QueuedConnection);
+        else
+            go();
+    });
+    reload();
+}
+
+void PatientViewController::build() {
+    auto* sides = new QSplitter(this);
+    sides->setChildrenCollapsible(false);
+    sides->setHandleWidth(12);
+    sides->addWidget(roster);
+    sides->addWidget(editor);
+    sides->setStretchFactor(0, 2);
+    sides->setStretchFactor(1, 3);
+    rosterOrAdvice->addWidget(sides);
+    rosterOrAdvice->addWidget(noPatients);
+    setFocusProxy(roster);
+
+    auto* heading = new PageHeading(this);
+    heading->setTexts(qtTrId("pagePatients"), qtTrId("patientsDetail"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(heading);
+    column->addWidget(rosterOrAdvice, 1);
+    column->addWidget(makeButtons());
+}
+
+QWidget* PatientViewController::makeButtons() {
+    auto* buttons = new QWidget(this);
+    auto* row = new QHBoxLayout(buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    const auto* newButton =
+        addButton(*row, u"btnNewPatient"_s, qtTrId("newPatientButton"), qtTrId("newPatientHint"));
+    deleteButton =
+        addButton(*row, u"btnDeletePatient"_s, qtTrId("deletePatientButton"), qtTrId("deletePatientHint"));
+    row->addStretch(1);
+    saveButton = addButton(*row, u"btnSavePatient"_s, qtTrId("savePatientButton"), qtTrId("savePatientHint"));
+    sendIDButton = addButton(*row, u"btnSendID"_s, qtTrId("sendIDButton"), qtTrId("sendIDHint"));
+    downloadButton = addButton(*row, u"btnDataTransfer"_s, qtTrId("downloadButton"), qtTrId("downloadHint"));
+    connect(newButton, &QPushButton::clicked, this, &PatientViewController::btnNewPatient);
+    connect(deleteButton, &QPushButton::clicked, this, &PatientViewController::btnDeletePatient);
+    connect(saveButton, &QPushButton::clicked, this, &PatientViewController::btnSavePatient);
+    connect(sendIDButton, &QPushButton::clicked, this, &PatientViewController::sendID);
+    connect(downloadButton, &QPushButton::clicked, this, [this] {
+        if (leave()) emit dataTransferWanted();
+    });
+    const auto press = [this](int key, const QPushButton* button) {
+        connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, button,
+                &QPushButton::click);
+    };
+    press(Qt::Key_N, newButton);
+    press(Qt::Key_D, downloadButton);
+    return buttons;
+}
+
+QPushButton* PatientViewController::addButton(QHBoxLayout& row, const QString& name, const QString& text,
+                                              const QString& hint) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAccessibleName(QString(text).remove(u'&'));
+    button->setToolTip(hint);
+    row.addWidget(button);
+    return button;
+}
+
+void PatientViewController::LoadData() { enableButtons(); }
+
+void PatientViewController::UpdateUIBySetting() { showRecord(store.getCurrentID()); }
+
+void PatientViewController::setHWButtons(bool) { enableButtons(); }
+
+bool PatientViewController::isNewOne(const QString& ID) const { return newPatient && ID == "-"_L1; }
+
+/// Changed here, and no longer in the file: another program took it out, or the file cannot be read. What was
+/// typed stays, and saving adds the patient again.
+bool PatientViewController::isGone(const QString& ID) const {
+    const PatientForm& shown = editor->shownForm();
+    return !shown.isNew() && shown.patient().ID == ID && !store.validIDinXML(ID) && editor->isChanged();
+}
+
+bool PatientViewController::isThere(const QString& ID) const {
+    return isNewOne(ID) || store.validIDinXML(ID) || isGone(ID);
+}
+
+PatientForm PatientViewController::formOf(const QString& ID) const {
+    const PatientModel* patient = isGone(ID)     ? &editor->shownForm().patient()
+                                  : isNewOne(ID) ? nullptr
+                                                 : store.getPatientByID(ID);
+    return {patient ? *patient : PatientForm::newPatient(), store.getSetting(), !patient};
+}
+
+/// Keeps the selection by the patient's ID; a patient that is gone gives way to the first.
+void PatientViewController::reload() {
+    if (const StoreResult& loaded = store.lastLoad(); loaded)
+        noPatients->setTexts(qtTrId("noPatients"), qtTrId("noPatientsAdvice"));
+    else
+        noPatients->setTexts(qtTrId("dataFileUnreadable"), describe(loaded.error()));
+    roster->reload(newPatient.has_value());
+    const auto& patients = store.getPatientArray();
+    const QString first = patients.empty() ? QString() : patients.front().ID;
+    const QString instead = newPatient ? u"-"_s : first;
+    open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
+    emit rosterChanged(!patients.empty());
+    tellIfGone();
+}
+
+void PatientViewController::tellIfGone() {
+    if (!store.lastLoad() || !isGone(store.getCurrentID())) return;
+    const QString name = shortName(editor->shownForm().patient());
+    parts.panel.ShowMessage(qtTrId("patientGone").arg(name), qtTrId("Warning"));
+}
+
+void PatientViewController::open(const QString& ID) {
+    store.setCurrentID(ID);
+    const bool isAnyone = isThere(ID);
+    rosterOrAdvice->setCurrentIndex(isAnyone ? 0 : 1);
+    roster->select(ID);
+    showRecord(ID);
+    enableButtons();
+}
+
+/// What was typed over the same record stays over what the record is now.
+void PatientViewController::showRecord(const QString& ID) {
+    const PatientForm form = formOf(ID);
+    const PatientForm& before = editor->shownForm();
+    const bool isSame = before.isNew() == form.isNew() && before.patient().ID == form.patient().ID;
+    if (isSame)
+        editor->showPatient(form, editor->typedOver(form));
+    else
+        editor->showPatient(form, isNewOne(ID) ? newPatient->form.inUnitsOf(form.units(), newPatient->entry)
+                                               : form.entryOf());
+}
+
+void PatientViewController::goTo(const QString& ID) {
+    if (!ID.isNull() && ID != store.getCurrentID() && leave() && isThere(ID)) return open(ID);
+    roster->select(store.getCurrentID());
+}
+
+bool PatientViewController::leave() {
+    const QString ID = store.getCurrentID();
+    if (!isThere(ID)) return true;
+    if (editor->isChanged() && isSaveWanted()) return btnSavePatient();
+    // What was typed for a new patient can be gone on with.
+    if (isNewOne(ID))
+        newPatient = {editor->shownForm(), editor->entry()};
+    else if (isGone(ID))
+        forget();
+    else
+        editor->showPatient(formOf(ID));
+    return true;
+}
+
+/// What was typed over a patient who is gone is not wanted any more either.
+void PatientViewController::forget() {
+    editor->settle();
+    reload();
+}
+
+bool PatientViewController::settle() {
+    const bool wasNewOne = isNewOne(store.getCurrentID());
+    if (!leave()) return false;
+    const Instant today = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
+    if (wasNewOne || !newPatient || !newPatient->form.isChanged(newPatient->entry, today)) return true;
+    open(u"-"_s);
+    return leave();
+}
+
+bool PatientViewController::isSaveWanted() {
+    const QString name = shortName(editor->shownForm().record(editor->entry()));
+    return parts.panel.AskMessage(qtTrId("confirmSendSave").arg(name), qtTrId("SavePatient"));
+}
+
+void PatientViewController::btnNewPatient() {
+    if (newPatient) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    if (!leave()) return;
+    const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
+    newPatient = {blank, blank.entryOf()};
+    roster->showAll();
+    roster->reload(true);
+    open(u"-"_s);
+    editor->beginTyping();
+}
+
+bool PatientViewController::btnSavePatient() {
+    if (!isThere(store.getCurrentID()) || !isUnique(store.getCurrentID())) return false;
+    const auto found = problems();
+    editor->mark(found);
+    if (!found.empty()) {
+        tell(found);
+        return false;
+    }
+    const PatientModel record = editor->shownForm().record(editor->entry());
+    const bool isNew = editor->shownForm().isNew();
+    if (const StoreResult written = isNew ? store.addXMLPatient(record) : store.saveXMLPatient(record);
+        !written) {
+        parts.panel.ShowMessage(describe(written.error()), qtTrId("Warning"));
+        return false;
+    }
+    return saved(record);
+}
+
+/// Records of the same ID cannot be told apart in the file: a change might go to the wrong one.
+bool PatientViewController::isUnique(const QString& ID) {
+    if (std::ranges::count(store.getPatientArray(), ID, &PatientModel::ID) < 2) return true;
+    parts.panel.ShowMessage(qtTrId("patientIDTwice").arg(ID), qtTrId("Warning"));
+    return false;
+}
+
+std::vector<PatientProblem> PatientViewController::problems() const {
+    auto found = editor->problems();
+    const PatientForm& form = editor->shownForm();
+    const QString ID = form.record(editor->entry()).ID;
+    if (form.isNew() && !IsEmptyID(ID) && store.validIDinXML(ID))
+        found.push_back({PatientField::ID, PatientProblem::Kind::sameID, qtTrId("sameID").arg(ID)});
+    return found;
+}
+
+/// One message, for what stands first in the order of the checks; each field says the rest.
+void PatientViewController::tell(const std::vector<PatientProblem>& found) {
+    const auto& first = *std::ranges::min_element(found, {}, &PatientProblem::kind);
+    if (first.kind == PatientProblem::Kind::missing)
+        return parts.panel.ShowMessage(qtTrId("patientsInputFields"), qtTrId("Warning"));
+    if (first.kind == PatientProblem::Kind::sameID)
+        return parts.panel.ShowMessage(first.text, qtTrId("sameIDTitle"));
+    QStringList texts;
+    for (const PatientProblem& problem : found)
+        texts += problem.text;
+    parts.panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
+}
+
+/// A record of the file that lacks an element has no place for that field, and the user has to know.
+bool PatientViewController::saved(const PatientModel& record) {
+    if (editor->shownForm().isNew()) newPatient.reset();
+    editor->settle();
+    loadAnew(record.ID);
+    const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
+    if (!store.validIDinXML(record.ID) || formOf(record.ID).entryOf() == wanted) {
+        emit said(qtTrId("patientSaved").arg(shortName(record)));
+        return true;
+    }
+    editor->showPatient(formOf(record.ID), wanted);
+    parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
+    return false;
+}
+
+void PatientViewController::loadAnew(const QString& ID) {
+    store.setCurrentID(ID);
+    if (const StoreResult loaded = store.loadXML(); !loaded)
+        parts.panel.ShowMessage(describe(loaded.error()), qtTrId("Warning"));
+}
+
+void PatientViewController::btnDeletePatient() {
+    const QString ID = store.getCurrentID();
+    if (!isThere(ID) || !isUnique(ID)) return;
+    const QString next = roster->neighbourOf(ID);
+    if (isNewOne(ID)) return dropNewPatient(next);
+    const PatientModel patient = formOf(ID).patient();
+    const QString question =
+        qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
+    if (!parts.panel.AskToErase(question, qtTrId("DeletePatient"))) return;
+    if (const StoreResult deleted = store.deleteXMLPatient(ID); !deleted)
+        return parts.panel.ShowMessage(describe(deleted.error()), qtTrId("Warning"));
+    loadAnew(next);
+    emit said(qtTrId("patientDeleted").arg(shortName(patient)));
+}
+
+void PatientViewController::dropNewPatient(const QString& next) {
+    newPatient.reset();
+    editor->settle();
+    store.setCurrentID(next);
+    reload();
+}
+
+bool PatientViewController::CanDataTransfer() const {
+    return isMonitorFree() && store.getCurrentID() == parts.status.state().IDOnDevice;
+}
+
+/// Connected, its ID known, nothing under way, and a patient to do something for.
+bool PatientViewController::isMonitorFree() const {
+    const MonitorState& state = parts.status.state();
+    return state.isConnected && state.IDOnDevice && !parts.status.isBusy()
+           && store.validIDinXML(store.getCurrentID()) && !IsEmptyID(store.getCurrentID());
+}
+
+bool PatientViewController::canSendID() const {
+    return isMonitorFree() && store.getCurrentID() != parts.status.state().IDOnDevice;
+}
+
+void PatientViewController::enableButtons() {
+    const bool isAnyone = isThere(store.getCurrentID());
+    saveButton->setEnabled(isAnyone);
+    deleteButton->setEnabled(isAnyone);
+    downloadButton->setEnabled(CanDataTransfer());
+    sendIDButton->setEnabled(canSendID());
+}
+
+void PatientViewController::sendID() { sender->sendID(store.getCurrentID()); }
+
+} // namespace zel

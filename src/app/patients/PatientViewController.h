@@ -1,0 +1,102 @@
+#pragma once
+
+#include "app/device/MonitorStatus.h"
+#include "app/device/MonitorWorker.h"
+#include "app/widgets/PageController.h"
+#include "app/patients/PatientForm.h"
+#include "store/DataStore.h"
+
+#include <optional>
+
+class QHBoxLayout;
+class QPushButton;
+class QStackedWidget;
+
+namespace zel {
+
+class EmptyState;
+class PatientEditor;
+class PatientIDSender;
+class PatientRoster;
+
+/// The roster page: choosing the patient whose data the program shows, entering, changing and deleting
+/// patients, and the monitor's commands.
+class PatientViewController final : public PageController {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        MonitorStatus& status;
+        MonitorWorker& monitor;
+        MessagePanel& panel;
+        const Clock& clock;
+    };
+    explicit PatientViewController(const Parts& needed);
+
+    void LoadData() override;
+    void UpdateUIBySetting() override;
+    void setHWButtons(bool connected) override;
+    [[nodiscard]] bool leave() override;
+    /// As leave(), for the new patient that was left unsaved as well: nothing typed may be lost after this.
+    [[nodiscard]] bool settle();
+    /// A monitor is connected and holds the selected patient's ID.
+    [[nodiscard]] bool CanDataTransfer() const;
+
+    void btnNewPatient();
+    /// Checks the entry and writes it. \return false if not all of it was saved; the user knows why, and
+    /// nothing typed is lost
+    bool btnSavePatient();
+    void btnDeletePatient();
+    /// Writes the selected patient's ID into the monitor, after asking.
+    void sendID();
+
+signals:
+    void dataTransferWanted();
+    void updateUIWanted(); ///< the monitor's ID has been changed
+    void rosterChanged(bool hasPatients);
+    void said(const QString& text); ///< what has been done
+
+private:
+    void build();
+    QWidget* makeButtons();
+    QPushButton* addButton(QHBoxLayout& row, const QString& name, const QString& text, const QString& hint);
+    void reload();
+    void open(const QString& ID);
+    void showRecord(const QString& ID);
+    void goTo(const QString& ID);
+    void enableButtons();
+    [[nodiscard]] bool isThere(const QString& ID) const;
+    [[nodiscard]] bool isNewOne(const QString& ID) const;
+    [[nodiscard]] bool isGone(const QString& ID) const;
+    void tellIfGone();
+    void forget();
+    [[nodiscard]] PatientForm formOf(const QString& ID) const;
+    [[nodiscard]] bool isMonitorFree() const;
+    [[nodiscard]] bool canSendID() const;
+    [[nodiscard]] std::vector<PatientProblem> problems() const;
+    void tell(const std::vector<PatientProblem>& found);
+    [[nodiscard]] bool isSaveWanted();
+    [[nodiscard]] bool isUnique(const QString& ID);
+    [[nodiscard]] bool saved(const PatientModel& record);
+    void dropNewPatient(const QString& next);
+    void loadAnew(const QString& ID);
+
+    Parts parts;
+    DataStore& store;
+    PatientIDSender* sender;
+    PatientRoster* roster;
+    PatientEditor* editor;
+    EmptyState* noPatients;
+    QStackedWidget* rosterOrAdvice;
+    QPushButton* deleteButton = nullptr;
+    QPushButton* saveButton = nullptr;
+    QPushButton* sendIDButton = nullptr;
+    QPushButton* downloadButton = nullptr;
+    struct Unsaved {
+        PatientForm form;
+        PatientEntry entry;
+    };
+    std::optional<Unsaved> newPatient; ///< the one that is not saved yet, as it was left
+};
+
+} // namespace zel

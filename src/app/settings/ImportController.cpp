@@ -1,0 +1,72 @@
+#include "app/settings/ImportController.h"
+
+#include "app/widgets/Log.h"
+
+#include <QFileInfo>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString takenText(const QString& name, const ImportCounts& counts) {
+    const auto number = [](std::size_t count) { return static_cast<int>(count); };
+    return qtTrId("importTaken")
+        .arg(name, qtTrId("patientCount", number(counts.patients)),
+             qtTrId("readingCount", number(counts.readings)),
+             qtTrId("commentCount", number(counts.comments)));
+}
+
+} // namespace
+
+QString describe(const ImportOutcome& outcome) {
+    QStringList texts;
+    if (outcome.taken.empty()) {
+        texts += qtTrId("importNone");
+    } else {
+        QStringList lines(qtTrId("importedFiles", static_cast<int>(outcome.taken.size())));
+        for (const auto& [name, counts] : outcome.taken)
+            lines += takenText(name, counts);
+        texts += lines.join(u'\n');
+    }
+    if (outcome.notReached > 0) texts += qtTrId("importCancelled", outcome.notReached);
+    if (!outcome.refused.empty() && !outcome.taken.empty())
+        texts += qtTrId("importRefused", static_cast<int>(outcome.refused.size()));
+    for (const ImportRefusal& refusal : outcome.refused)
+        texts += describe(refusal);
+    return texts.join("\n\n"_L1);
+}
+
+ImportController::ImportController(const Parts& needed, QWidget* over)
+    : QObject(over), parts(needed), window(over), progress(new StepProgress(u"importProgress"_s, over)) {}
+
+void ImportController::importFiles() {
+    const QStringList paths = parts.chooser.chooseFiles(window);
+    if (paths.isEmpty()) return;
+    outcome = {};
+    const int total = static_cast<int>(paths.size());
+    progress->run({.title = qtTrId("importing"),
+                   .total = total,
+                   .quickTotal = 5, // each writes the data file
+                   .step = [this, paths](int place) { importOne(paths.at(place)); },
+                   .finished = [this, total](int done) { finish(total - done); }});
+}
+
+void ImportController::importOne(const QString& path) {
+    const QString name = QFileInfo(path).fileName();
+    qCDebug(lcApp, "file %s %s", qUtf8Printable(name), qUtf8Printable(path));
+    const auto counts = parts.store.importXml(path);
+    if (counts)
+        outcome.taken.emplace_back(name, *counts);
+    else
+        outcome.refused.push_back(counts.error());
+}
+
+void ImportController::finish(int notReached) {
+    outcome.notReached = notReached;
+    if (!outcome.taken.empty()) emit imported();
+    parts.panel.ShowMessage(describe(outcome), qtTrId("importTitle"));
+}
+
+} // namespace zel

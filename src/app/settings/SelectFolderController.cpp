@@ -1,0 +1,41 @@
+#include "app/settings/SelectFolderController.h"
+
+#include "app/settings/ImportFileDialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QStandardPaths>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+SelectFolderController::SelectFolderController()
+    : folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {}
+
+QString SelectFolderController::chooseFolder(QWidget* owner, const QString& title) {
+    if (!QDir(folder).exists()) folder = QDir::homePath();
+    // Files are shown too: the user sees what is there already.
+    QString chosen = QFileDialog::getExistingDirectory(owner, title, folder, {});
+    if (!chosen.isEmpty()) folder = chosen;
+    return chosen;
+}
+
+QStringList SelectFolderController::chooseFiles(QWidget* owner) {
+    if (!QDir(folder).exists()) folder = QDir::homePath();
+    ImportFileDialog dialog(*this, folder, owner);
+    return dialog.exec() == QDialog::Accepted ? dialog.chosenFiles() : QStringList();
+}
+
+QString SelectFolderController::choosePdf(QWidget* owner, const QString& title, const QString& name) {
+    if (!QDir(folder).exists()) folder = QDir::homePath();
+    QFileDialog dialog(owner, title, folder, qtTrId("pdfFiles"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"pdf"_s); // before it asks about a file that is there
+    dialog.selectFile(name);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    folder = dialog.directory().absolutePath();
+    return dialog.selectedFiles().value(0);
+}
+
+} // namespace zel

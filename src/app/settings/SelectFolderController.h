@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/widgets/FileChooser.h"
+
+namespace zel {
+
+/// The chooser of the data commands and the report: the platform's own dialogs for a folder and for a file to
+/// write, and the program's own list of a folder's XML files for files. Begins where the user was last.
+class SelectFolderController final : public FileChooser {
+public:
+    SelectFolderController();
+    [[nodiscard]] QString chooseFolder(QWidget* owner, const QString& title) override;
+    [[nodiscard]] QStringList chooseFiles(QWidget* owner) override;
+    [[nodiscard]] QString choosePdf(QWidget* owner, const QString& title, const QString& name) override;
+
+private:
+    QString folder;
+};
+
+} // namespace zel

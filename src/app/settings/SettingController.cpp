@@ -1,0 +1,156 @@
+#include "app/settings/SettingController.h"
+
+#include "app/settings/ExportController.h"
+#include "app/settings/ImportController.h"
+#include "app/widgets/Log.h"
+#include "app/settings/SettingForm.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+SettingController::SettingController(const Parts& needed, QWidget* parent)
+    : QDialog(parent), parts(needed), form(new SettingForm),
+      exporter(new ExportController({needed.store, needed.panel, needed.selectFolderController}, this)),
+      importer(new ImportController({needed.store, needed.panel, needed.selectFolderController}, this)),
+      sendButton(addButton(u"sendButton"_s, qtTrId("sendClockButton"), qtTrId("sendClock"))),
+      csvButton(addButton(u"csvButton"_s, qtTrId("exportCSVButton"), qtTrId("exportCSV"))),
+      exportButton(addButton(u"exportButton"_s, qtTrId("exportButton"), qtTrId("exportAll"))),
+      importButton(addButton(u"importButton"_s, qtTrId("importFilesButton"), qtTrId("importTitle"))) {
+    setObjectName(u"SettingController"_s);
+    setWindowTitle(qtTrId("settings"));
+    setAccessibleName(qtTrId("settings"));
+    build();
+    awakeFromNib();
+}
+
+void SettingController::awakeFromNib() {
+    qCInfo(lcApp, "awakeFromNib of setting");
+    connect(sendButton, &QPushButton::clicked, this, &SettingController::send);
+    connect(exportButton, &QPushButton::clicked, exporter, &ExportController::exportFiles);
+    connect(csvButton, &QPushButton::clicked, exporter, &ExportController::exportCSV);
+    connect(importButton, &QPushButton::clicked, importer, &ImportController::importFiles);
+    connect(importer, &ImportController::imported, this, &SettingController::imported);
+    connect(&parts.status, &MonitorStatus::changed, this, &SettingController::enableButtons);
+    connect(&parts.store, &DataStore::currentIDChanged, this, &SettingController::enableButtons);
+    connect(&parts.store, &DataStore::reloaded, this, &SettingController::enableButtons);
+    enableButtons();
+}
+
+QPushButton* SettingController::addButton(const QString& name, const QString& text, const QString& title) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAccessibleName(title);
+    button->setAutoDefault(false); // Enter in a field means OK
+    return button;
+}
+
+void SettingController::build() {
+    auto* controls = new QWidget;
+    auto* inside = new QVBoxLayout(controls);
+    inside->setContentsMargins(16, 10, 16, 6);
+    inside->setSpacing(6);
+    form->monitorColumn().addWidget(sendButton, 0, Qt::AlignLeft);
+    form->monitorColumn().addStretch(1);
+    inside->addWidget(form, 1);
+    inside->addWidget(makeDataGroup());
+    auto* scroll = new QScrollArea(this);
+    scroll->setObjectName(u"settingScroll"_s);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(controls);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(scroll, 1);
+    QWidget* buttons = makeButtons();
+    column->addWidget(buttons);
+    // All of it at once where the screen is large enough; a scroll area by itself would ask for less.
+    const QSize whole = controls->sizeHint() + QSize(0, buttons->sizeHint().height());
+    resize(whole.boundedTo(screen()->availableSize()));
+}
+
+QWidget* SettingController::makeDataGroup() {
+    auto* group = new QGroupBox(qtTrId("settingData"), this);
+    exportButton->setToolTip(qtTrId("exportHint"));
+    csvButton->setToolTip(qtTrId("exportCSVHint"));
+    importButton->setToolTip(qtTrId("importHint"));
+    auto* row = new QHBoxLayout(group);
+    for (QPushButton* button : {exportButton, csvButton, importButton})
+        row->addWidget(button, 1);
+    return group;
+}
+
+QWidget* SettingController::makeButtons() {
+    auto* buttons = new QWidget(this);
+    auto* row = new QHBoxLayout(buttons);
+    row->setContentsMargins(16, 6, 16, 10);
+    row->addStretch(1);
+    QPushButton* ok = addButton(u"okButton"_s, qtTrId("ok"), qtTrId("settingOK"));
+    QPushButton* cancel = addButton(u"cancelButton"_s, qtTrId("cancel"), qtTrId("settingCancel"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &SettingController::closeSetting);
+    connect(cancel, &QPushButton::clicked, this, &SettingController::cancelSetting);
+    row->addWidget(ok);
+    row->addWidget(cancel);
+    return buttons;
+}
+
+void SettingController::showSetting() {
+    form->fill(std::as_const(parts.store).getSetting());
+    enableButtons();
+    open();
+    form->begin();
+}
+
+void SettingController::enableButtons() {
+    const QString& ID = parts.store.getCurrentID();
+    sendButton->setEnabled(parts.status.state().isConnected && !parts.status.isBusy());
+    csvButton->setEnabled(!ID.isEmpty() && parts.store.validIDinXML(ID));
+}
+
+void SettingController::closeSetting() {
+    SettingModel& setting = parts.store.getSetting();
+    const SettingModel before = setting;
+    form->store(setting);
+    const SettingModel wanted = setting;
+    if (const StoreResult saved = parts.store.saveSetting(); !saved) {
+        setting = before;
+        const QString why = describe(saved.error());
+        return parts.panel.ShowMessage(qtTrId("settingsNotSaved").arg(why), qtTrId("Warning"));
+    }
+    accept();
+    // Read back: an element of an older version may have no place for all of them.
+    if (const StoreResult loaded = parts.store.loadXML(); !loaded)
+        parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
+    else if (setting != wanted)
+        parts.panel.ShowMessage(qtTrId("settingsPartlySaved"), qtTrId("Warning"));
+}
+
+void SettingController::send() {
+    parts.status.setActivity(MonitorActivity::settingClock);
+    sendButton->setText(qtTrId("sendClockBusy"));
+    const auto set = [](BPMModel& monitor) { return monitor.setBPMDate(); };
+    parts.monitor.submit(this, set, [this](MonitorResult result) { clockSent(result); });
+}
+
+void SettingController::clockSent(MonitorResult result) {
+    const bool isSet = result == MonitorResult::success;
+    sendButton->setText(qtTrId("sendClockButton"));
+    parts.status.update([=](MonitorState& next) {
+        next.activity = MonitorActivity::none;
+        if (isSet) next.secondsAhead = 0;
+    });
+    const QString how = isSet ? qtTrId("clockSet") : qtTrId("clockNotSet").arg(describe(result));
+    parts.panel.ShowMessage(qtTrId("TimeSyncMsg").arg(how), qtTrId("TimeSync"));
+}
+
+} // namespace zel

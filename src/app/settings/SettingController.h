@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/widgets/FileChooser.h"
+#include "app/device/MonitorStatus.h"
+#include "app/device/MonitorWorker.h"
+#include "store/DataStore.h"
+
+#include <QDialog>
+
+class QPushButton;
+
+namespace zel {
+
+class ExportController;
+class ImportController;
+class SettingForm;
+
+/// The settings dialog, with the data commands and the monitor's clock. Modal; made on first use and kept.
+/// The settings are written when it is closed with OK, and only then.
+class SettingController final : public QDialog {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        MonitorStatus& status;
+        MonitorWorker& monitor;
+        MessagePanel& panel;
+        FileChooser& selectFolderController;
+    };
+    SettingController(const Parts& needed, QWidget* parent);
+
+    /// Opens the dialog with the settings as they are now.
+    void showSetting();
+    /// OK: stores and saves. When that fails the dialog stays, with all that was entered.
+    void closeSetting();
+    /// Cancel, Esc and the window's close button.
+    void cancelSetting() { QDialog::reject(); }
+    void reject() override { cancelSetting(); }
+
+signals:
+    void imported(); ///< patients were brought in
+
+private:
+    void awakeFromNib();
+    void build();
+    QWidget* makeDataGroup();
+    QWidget* makeButtons();
+    QPushButton* addButton(const QString& name, const QString& text, const QString& title);
+    void enableButtons();
+    void send();
+    void clockSent(MonitorResult result);
+
+    Parts parts;
+    SettingForm* form;
+    ExportController* exporter;
+    ImportController* importer;
+    QPushButton* sendButton;
+    QPushButton* csvButton;
+    QPushButton* exportButton;
+    QPushButton* importButton;
+};
+
+} // namespace zel

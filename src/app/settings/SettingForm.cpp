@@ -1,0 +1,206 @@
+#include "app/settings/SettingForm.h"
+
+#include "app/widgets/Log.h"
+#include "app/widgets/PageHeading.h"
+#include "store/SettingKeys.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QRegularExpressionValidator>
+#include <QTextDocument>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int whoSystolic = 140, whoDiastolic = 90; ///< mmHg, at or above which WHO speaks of hypertension
+
+/// The entries are the file's own texts. A setting that is none of them leaves the list at the entry that it
+/// counts as, so that OK does not change what the pages show.
+void fillList(QComboBox& list, const QStringList& entries, int whenUnknown, const QString& setting) {
+    list.clear();
+    list.addItems(entries);
+    list.setCurrentIndex(whenUnknown);
+    SettingForm::setSelectItem(list, setting);
+}
+
+/// QPlainTextEdit's own plain text would turn no-break spaces into others.
+QString textOf(const QPlainTextEdit& field) {
+    return field.document()->toRawText().replace(QChar(QChar::ParagraphSeparator), u'\n');
+}
+
+template <class Control>
+Control* named(Control* control, const QString& name, const QString& title) {
+    control->setObjectName(name);
+    control->setAccessibleName(title);
+    return control;
+}
+
+QWidget* withUnit(QLineEdit* field, const QValidator* whole) {
+    field->setValidator(whole);
+    field->setFixedWidth(field->fontMetrics().averageCharWidth() * 10);
+    auto* both = new QWidget;
+    auto* row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(field);
+    row->addWidget(new QLabel(qtTrId("unitMmHg"), both));
+    row->addStretch(1);
+    return both;
+}
+
+QFormLayout* makeForm(QGroupBox* group) {
+    auto* form = new QFormLayout(group);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setVerticalSpacing(5);
+    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    return form;
+}
+
+} // namespace
+
+SettingForm::SettingForm(QWidget* parent)
+    : QWidget(parent), dateFormate(named(new QComboBox, u"dateFormate"_s, qtTrId("settingDate"))),
+      timeFormate(named(new QComboBox, u"timeFormate"_s, qtTrId("settingTime"))),
+      metricFormate(named(new QComboBox, u"metricFormate"_s, qtTrId("settingUnits"))),
+      eraseMeasures(
+          named(new QCheckBox(qtTrId("settingEraseButton")), u"eraseMeasures"_s, qtTrId("settingErase"))),
+      displayPPorMAP(new QButtonGroup(this)),
+      useWHOStandard(
+          named(new QCheckBox(qtTrId("settingWHOButton")), u"useWHOStandard"_s, qtTrId("settingWHO"))),
+      sys(named(new QLineEdit, u"sys"_s, qtTrId("settingSys"))),
+      dia(named(new QLineEdit, u"dia"_s, qtTrId("settingDia"))),
+      physisian(named(new QPlainTextEdit, u"physisian"_s, qtTrId("settingPhysician"))),
+      numberFormater(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,3}"_s), this)) {
+    build();
+    // Only what the user does counts: filling the controls must not change one by way of another.
+    connect(useWHOStandard, &QCheckBox::clicked, this, &SettingForm::standardCheckChanged);
+    connect(sys, &QLineEdit::textEdited, this, &SettingForm::standardChaged);
+    connect(dia, &QLineEdit::textEdited, this, &SettingForm::standardChaged);
+}
+
+void SettingForm::build() {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(6);
+    grid->addWidget(makeDisplayGroup(), 0, 0);
+    grid->addWidget(makeLimitGroup(), 1, 0);
+    grid->addWidget(makePhysicianGroup(), 0, 1);
+    grid->addWidget(makeMonitorGroup(), 1, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(0, 1);
+}
+
+QGroupBox* SettingForm::makeDisplayGroup() {
+    auto* group = new QGroupBox(qtTrId("settingDisplay"), this);
+    QFormLayout* form = makeForm(group);
+    form->addRow(qtTrId("settingDateLabel"), dateFormate);
+    form->addRow(qtTrId("settingTimeLabel"), timeFormate);
+    form->addRow(qtTrId("settingUnitsLabel"), metricFormate);
+    form->addRow(makeDisplayPPorMAP());
+    return group;
+}
+
+QWidget* SettingForm::makeDisplayPPorMAP() {
+    auto* both = named(new QWidget, u"displayPPorMAP"_s, qtTrId("settingPPorMAP"));
+    auto* column = new QVBoxLayout(both);
+    column->setContentsMargins(0, 2, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new QLabel(qtTrId("settingPPorMAP"), both));
+    auto* PP = named(new QRadioButton(qtTrId("settingPPButton")), u"displayPP"_s, qtTrId("settingPP"));
+    auto* MAP = named(new QRadioButton(qtTrId("settingMAPButton")), u"displayMAP"_s, qtTrId("settingMAP"));
+    for (auto* button : {PP, MAP}) {
+        displayPPorMAP->addButton(button, button == PP ? 0 : 1);
+        column->addWidget(button);
+    }
+    return both;
+}
+
+QGroupBox* SettingForm::makeLimitGroup() {
+    auto* group = new QGroupBox(qtTrId("settingLimits"), this);
+    QFormLayout* form = makeForm(group);
+    useWHOStandard->setToolTip(qtTrId("settingWHOHint"));
+    form->addRow(useWHOStandard);
+    QWidget* sysRow = withUnit(sys, numberFormater);
+    QWidget* diaRow = withUnit(dia, numberFormater);
+    form->addRow(qtTrId("settingSysLabel"), sysRow);
+    form->addRow(qtTrId("settingDiaLabel"), diaRow);
+    for (const auto& [row, field] : {std::pair(sysRow, sys), std::pair(diaRow, dia)})
+        qobject_cast<QLabel*>(form->labelForField(row))->setBuddy(field);
+    return group;
+}
+
+QGroupBox* SettingForm::makeMonitorGroup() {
+    auto* group = new QGroupBox(qtTrId("monitorPanel"), this);
+    monitorBox = new QVBoxLayout(group);
+    eraseMeasures->setToolTip(qtTrId("settingEraseHint"));
+    monitorBox->addWidget(eraseMeasures);
+    return group;
+}
+
+QGroupBox* SettingForm::makePhysicianGroup() {
+    auto* group = new QGroupBox(qtTrId("settingPhysicianTitle"), this);
+    auto* column = new QVBoxLayout(group);
+    auto* use = new QuietLabel(qtTrId("settingPhysicianUse"), group);
+    use->setWordWrap(true);
+    physisian->setTabChangesFocus(true);
+    physisian->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // as high as its neighbour
+    physisian->setMinimumHeight(physisian->fontMetrics().lineSpacing() * 6 + 12);
+    column->addWidget(use);
+    column->addWidget(physisian, 1);
+    return group;
+}
+
+void SettingForm::fill(const SettingModel& setting) {
+    fillList(*dateFormate, dateFormats(), 0, setting.dateFormat);
+    fillList(*timeFormate, timeFormats(), 1, setting.timeFormat);
+    fillList(*metricFormate, metricFormats(), 1, setting.metricFormat);
+    eraseMeasures->setChecked(setting.eraseRecAfterReading == 1);
+    displayPPorMAP->button(setting.showPPorMap == 0 ? 0 : 1)->setChecked(true);
+    useWHOStandard->setChecked(setting.userWhoStandard == 1);
+    sys->setText(QString::number(setting.sysStandard));
+    dia->setText(QString::number(setting.diaStandard));
+    physisian->setPlainText(setting.physicianAddress);
+}
+
+void SettingForm::store(SettingModel& setting) const {
+    setting.dateFormat = dateFormate->currentText();
+    setting.timeFormat = timeFormate->currentText();
+    setting.metricFormat = metricFormate->currentText();
+    setting.eraseRecAfterReading = eraseMeasures->isChecked() ? 1 : 0;
+    setting.showPPorMap = displayPPorMAP->checkedId() == 0 ? 0 : 1;
+    setting.userWhoStandard = useWHOStandard->isChecked() ? 1 : 0;
+    setting.sysStandard = sys->text().toUInt(); // 0 for an emptied field
+    setting.diaStandard = dia->text().toUInt();
+    setting.physicianAddress = textOf(*physisian);
+}
+
+void SettingForm::begin() { dateFormate->setFocus(); }
+
+int SettingForm::setSelectItem(QComboBox& list, const QString& text) {
+    const int index = list.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) {
+        qCInfo(lcApp, "setSelectItem can't find %s", qUtf8Printable(text));
+        return -1;
+    }
+    list.setCurrentIndex(index);
+    return index;
+}
+
+void SettingForm::standardCheckChanged(bool checked) {
+    sys->setText(checked ? QString::number(whoSystolic) : QString());
+    dia->setText(checked ? QString::number(whoDiastolic) : QString());
+}
+
+void SettingForm::standardChaged() { useWHOStandard->setChecked(false); }
+
+} // namespace zel

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/widgets/CallQueue.h"
+#include "store/XmlFile.h"
+
+#include <QAbstractTableModel>
+
+#include <memory>
+#include <thread>
+#include <vector>
+
+namespace zel {
+
+/// The XML files of a folder with what is in them, each with a box to choose it. The names are there at once;
+/// the files are read on another thread, and each row gets its counts when its file has been read.
+class XmlFileList final : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit XmlFileList(QObject* parent = nullptr);
+
+    /// Lists the files of another folder, none of them chosen.
+    void setFolder(const QString& folder);
+    void chooseAll(bool chosen);
+    /// The full paths of the chosen files, in the list's order.
+    [[nodiscard]] QStringList chosenFiles() const;
+    /// Until every file stands in the list with what was found in it.
+    [[nodiscard]] bool isReading() const { return reading; }
+
+    enum Column { name, readings, comments, date, columnTotal };
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+signals:
+    void chosenChanged();
+    void allRead();
+
+private:
+    struct Row {
+        XmlFile file;
+        bool isRead = false; ///< its turn has come, whether or not the file could be read
+        bool isChosen = false;
+    };
+    /// Reads one folder's files. When it goes, it first waits for the file in its hands; what it handed over
+    /// and was not taken goes with it.
+    struct Reader {
+        CallQueue calls;
+        std::jthread thread;
+    };
+    void read(const QStringList& paths);
+    void fileRead(int row, const XmlFile& file);
+    [[nodiscard]] QString text(const Row& row, Column column) const;
+
+    std::vector<Row> rows;
+    bool reading = false;
+    std::unique_ptr<Reader> reader;
+};
+
+} // namespace zel

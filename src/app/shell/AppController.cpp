@@ -1,0 +1,224 @@
+#include "app/shell/AppController.h"
+
+#include "app/graph/GraphViewController.h"
+#include "app/widgets/Log.h"
+#include "app/patients/PatientViewController.h"
+#include "app/printing/PrintController.h"
+#include "app/device/ProgressWindowController.h"
+#include "app/settings/SettingController.h"
+#include "app/shell/SplashWindow.h"
+#include "app/table/TableViewController.h"
+#include "app/shell/WindowPlacement.h"
+
+#include <QApplication>
+#include <QShortcut>
+#include <QStandardPaths>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+AppController::AppController(const Parts& needed, const Timing& times)
+    : parts(needed), timing(times), window(needed.store, needed.status),
+      watch({needed.monitor, needed.status, needed.store, needed.panel, needed.clock}, times.polling),
+      patientPage(new PatientViewController(
+          {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
+      graphPage(new GraphViewController({needed.store, needed.period, needed.panel})),
+      tablePage(new TableViewController({needed.store, needed.status, needed.period, needed.panel})),
+      pages{patientPage, graphPage, tablePage} {
+    for (PageController* page : pages)
+        window.addPage(*page);
+    connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
+    connect(&window, &MainWindow::settingWanted, this, &AppController::showSetting);
+    connect(&window, &MainWindow::printWanted, this, &AppController::showPrint);
+    connect(&window, &MainWindow::pdfWanted, this, &AppController::showSavePdf);
+    connect(&window, &MainWindow::helpWanted, this, &AppController::showHelp);
+    connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
+    connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
+    connect(&parts.store, &DataStore::currentIDChanged, this, &AppController::changeUser);
+    connect(&parts.store, &DataStore::reloaded, this,
+            [this] { parts.period.refreshDataPeriod(parts.store.getReadingForCurID()); });
+    connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
+    connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
+    connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
+    connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
+    connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
+    connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
+            &AppController::savePatient);
+}
+
+AppController::~AppController() { parts.monitor.stop(); }
+
+void AppController::awakeFromNib(const StoreResult& loaded) {
+    // A file that could not even be read gets its own message once the window is there.
+    if (loaded) parts.store.checkXmlWritable(parts.panel);
+    AdjustWindowFitToScreen(window, false);
+    window.setPatientPanelsVisible(true);
+    enable2Tabs(!parts.store.getPatientArray().empty());
+    displayViewController(*pages[0], 0);
+    qCInfo(lcApp, "monitorBPM 2 .... %i", iSelectedTab);
+    watch.monitorBPM();
+    patientPage->UpdateUIBySetting();
+    setHWButtons(false);
+    window.setWindowTitle(qtTrId("AP_Title"));
+    window.setMinimumSize(640, 480);
+}
+
+void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
+    if (isClosing) return;
+    window.show();
+    if (!loaded) parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
+    if (isClosing) return;
+    splash = new SplashWindow(&window);
+    connect(splash, &SplashWindow::splashClosed, this, [this] {
+        watch.setSplashClosed();
+        window.activateWindow();
+    });
+    splash->showSplash(timing.splash);
+}
+
+void AppController::changeTab(int tabTag) {
+    iSelectedTab = tabTag;
+    window.setPatientPanelsVisible(tabTag == 0);
+    displayViewController(*pages.at(static_cast<std::size_t>(tabTag)), tabTag);
+}
+
+void AppController::displayViewController(PageController& controller, int tabTag) {
+    window.setShownTab(tabTag);
+    if (!window.makeFirstResponder()) {
+        QApplication::beep();
+        return showPageInView();
+    }
+    PageController& left = *pages.at(static_cast<std::size_t>(window.pageInView()));
+    if (&left != &controller && !left.leave()) return showPageInView();
+    if (parts.period.isChangeUser())
+        parts.period.setCurrentReadingTimePeriod(parts.store.getReadingForCurID());
+    window.showPage(controller);
+    controller.LoadData();
+}
+
+/// The tabs and panels of the page that stays in view, as it is not to be left.
+void AppController::showPageInView() {
+    window.setShownTab(window.pageInView());
+    window.setPatientPanelsVisible(window.pageInView() == 0);
+}
+
+void AppController::savePatient() {
+    if (patientPage->isVisible()) patientPage->btnSavePatient();
+}
+
+void AppController::enable2Tabs(bool enabled) { window.enable2Tabs(enabled); }
+
+void AppController::setHWButtons(bool connected) {
+    for (PageController* page : pages)
+        page->setHWButtons(connected);
+}
+
+void AppController::dataTransfer() {
+    if (parts.status.isBusy()) return;
+    if (!progressWindow) {
+        progressWindow = new ProgressWindowController({parts.store, parts.status, parts.monitor}, &window);
+        connect(progressWindow, &ProgressWindowController::finished, this, &AppController::transferFinished);
+    }
+    window.showOutcome({});
+    progressWindow->showProgress();
+}
+
+void AppController::transferFinished(const DownloadOutcome& outcome) {
+    window.activateWindow();
+    displayAfterDataTransfer();
+    window.showOutcome(describe(outcome));
+    if (!outcome.failure.isEmpty()) parts.panel.ShowMessage(outcome.failure, qtTrId("Warning"));
+}
+
+void AppController::displayAfterDataTransfer() {
+    parts.period.setChangeUser(true);
+    changeTab(1);
+    graphPage->switchToGraph();
+}
+
+/// Another patient is shown, over the default period of the data.
+void AppController::changeUser() {
+    parts.period.setChangeUser(true);
+    parts.period.setCurrentReadingTimePeriod(parts.store.getReadingForCurID());
+}
+
+void AppController::checkToSaveComment() {
+    pages.at(static_cast<std::size_t>(window.pageInView()))->checkToSaveComment();
+}
+
+void AppController::showSetting() {
+    checkToSaveComment();
+    if (!settings) {
+        settings = new SettingController(
+            {parts.store, parts.status, parts.monitor, parts.panel, parts.chooser}, &window);
+        connect(settings, &SettingController::finished, this, &AppController::UpdateUIBySetting);
+        connect(settings, &SettingController::imported, this, &AppController::reload);
+    }
+    settings->showSetting();
+}
+
+void AppController::showPrint() {
+    checkToSaveComment();
+    if (parts.printers.names().isEmpty())
+        return parts.panel.ShowMessage(qtTrId("NoPrnterMsg"), qtTrId("NoPrnter"));
+    showPrintPreview(PrintPurpose::printer);
+}
+
+void AppController::showSavePdf() {
+    checkToSaveComment();
+    showPrintPreview(PrintPurpose::pdf);
+}
+
+void AppController::showPrintPreview(PrintPurpose purpose) {
+    if (!printController) {
+        printController = new PrintController(
+            {parts.store, parts.period, parts.clock, parts.panel, parts.chooser, parts.printers}, &window);
+        connect(printController, &PrintController::said, &window, &MainWindow::showOutcome);
+    }
+    ScreenViews views{.drawViewState = graphPage->drawViewState(),
+                      .getShowMam = tablePage->getShowMam(),
+                      .getShowPad = tablePage->getShowPad(),
+                      .isMonitorAFib = parts.status.state().isAFib};
+    graphPage->setupDrawChart(views.lowerChart, views.bloodChart);
+    printController->showPrintPreview(window.pageInView(), views, purpose);
+}
+
+void AppController::showHelp() {
+    checkToSaveComment();
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    const QString path = unpackHelp(u":/help.pdf"_s, cache);
+    qCInfo(lcApp, "showHelp %s", qUtf8Printable(path));
+    if (path.isEmpty() || !parts.openDocument(path))
+        parts.panel.ShowMessage(qtTrId("OpenHelpErrorMsg"), qtTrId("OpenHelpErrorTitle"));
+}
+
+void AppController::reload() {
+    if (const StoreResult read = parts.store.loadXML(); !read)
+        parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+}
+
+/// All pages, not only the one in view: none shows old settings when its tab is pressed.
+void AppController::UpdateUIBySetting() {
+    for (PageController* page : pages) {
+        page->update();
+        page->UpdateUIBySetting();
+    }
+    window.UpdateUIBySetting();
+}
+
+void AppController::closeApplicaiton() {
+    if (!graphPage->leave() || !tablePage->leave()) return;
+    if (patientPage->settle()) return terminate();
+    if (!patientPage->isVisible()) changeTab(0); // what is still to be settled is there
+}
+
+void AppController::terminate() {
+    isClosing = true;
+    for (PageController* page : pages)
+        page->saveQuietly();
+    parts.monitor.stop();
+    emit closed();
+}
+
+} // namespace zel

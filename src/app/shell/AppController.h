@@ -1,0 +1,101 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/widgets/FileChooser.h"
+#include "app/shell/HelpDocument.h"
+#include "app/shell/MainWindow.h"
+#include "app/device/MonitorStatus.h"
+#include "app/device/MonitorWatch.h"
+#include "app/device/MonitorWorker.h"
+#include "app/printing/Printers.h"
+#include "store/DataStore.h"
+
+#include <array>
+#include <chrono>
+
+namespace zel {
+
+class GraphViewController;
+class PatientViewController;
+class PrintController;
+class ProgressWindowController;
+class SettingController;
+class SplashWindow;
+class TableViewController;
+enum class PrintPurpose;
+struct DownloadOutcome;
+
+/// The main window's controller: start-up, the switch between the pages, the download, quitting.
+class AppController final : public QObject {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        MonitorStatus& status;
+        MonitorWorker& monitor;
+        MessagePanel& panel;
+        const Clock& clock;
+        FileChooser& chooser;
+        DisplayPeriod& period;
+        Printers& printers;
+        DocumentOpener openDocument;
+    };
+    struct Timing {
+        std::chrono::milliseconds polling{2000};
+        std::chrono::milliseconds splash{2000};
+    };
+    AppController(const Parts& parts, const Timing& timing);
+    ~AppController() override;
+
+    [[nodiscard]] MainWindow& mainWndow() { return window; } // spelled so in the interface
+    [[nodiscard]] int selectedTab() const { return iSelectedTab; }
+
+    /// Sets the window up and starts the polling. \p loaded is how the data file was loaded at start.
+    void awakeFromNib(const StoreResult& loaded);
+    /// Shows the window, says what is wrong with the data file, if anything, and shows the splash screen.
+    void applicationDidFinishLaunching(const StoreResult& loaded);
+
+    void changeTab(int tabTag);
+    void displayViewController(PageController& controller, int tabTag);
+    void enable2Tabs(bool enabled);
+    void setHWButtons(bool connected);
+    void dataTransfer();
+    void displayAfterDataTransfer();
+    void showSetting();
+    void showPrint();
+    void showSavePdf();
+    void showHelp();
+    void savePatient();
+    /// Quits, unless what was typed is to be saved and cannot be.
+    void closeApplicaiton(); // spelled so in the interface
+    void terminate();        ///< quits without a question
+
+signals:
+    void closed(); ///< the monitor's thread has ended; nothing is left to do
+
+private:
+    void showPageInView();
+    void UpdateUIBySetting();
+    void reload();
+    void changeUser();
+    void checkToSaveComment();
+    void showPrintPreview(PrintPurpose purpose);
+    void transferFinished(const DownloadOutcome& outcome);
+
+    Parts parts;
+    Timing timing;
+    MainWindow window;
+    MonitorWatch watch;
+    PatientViewController* patientPage; ///< the window owns the pages
+    GraphViewController* graphPage;
+    TableViewController* tablePage;
+    std::array<PageController*, MainWindow::tabTotal> pages;
+    ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
+    SettingController* settings = nullptr;              ///< likewise
+    PrintController* printController = nullptr;         ///< likewise
+    SplashWindow* splash = nullptr;
+    int iSelectedTab = 0;
+    bool isClosing = false;
+};
+
+} // namespace zel

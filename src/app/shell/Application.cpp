@@ -1,0 +1,121 @@
+#include "app/shell/Application.h"
+
+#include "app/shell/GlobalVar.h"
+#include "app/shell/TerminationSignals.h"
+#include "monitor/HidPort.h"
+#include "monitor/SimulatedMonitor.h"
+#include "store/SystemLog.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTimer>
+#include <QTranslator>
+
+#include <array>
+#include <cstdio>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int failed = 1, wrongUsage = 2;
+
+struct Options {
+    bool simulatedMonitor = false;
+    QString planFile{}; ///< empty: the built-in monitor
+};
+
+int complain(int status, const QString& text) {
+    std::fprintf(stderr, "zel: %s\n", qUtf8Printable(text));
+    return status;
+}
+
+/// The option's value is optional, which the parser does not know: alone, the option is a flag.
+tl::expected<Options, QString> parse(const QStringList& arguments) {
+    constexpr auto option = "--simulated-monitor"_L1;
+    Options options{.simulatedMonitor = arguments.contains(option)};
+    QStringList withValue = arguments;
+    withValue.removeAll(option);
+    QCommandLineParser parser;
+    parser.addOption({option.mid(2).toString(), QString(), u"FILE"_s});
+    if (!parser.parse(withValue)) return tl::unexpected(parser.errorText());
+    if (!parser.positionalArguments().isEmpty())
+        return tl::unexpected(qtTrId("argumentUnknown").arg(parser.positionalArguments().first()));
+    if (parser.isSet(option.mid(2).toString())) {
+        options.planFile = parser.value(option.mid(2).toString());
+        if (options.planFile.isEmpty()) return tl::unexpected(qtTrId("argumentWithoutFile").arg(option));
+        options.simulatedMonitor = true;
+    }
+    return options;
+}
+
+bool hasDisplay() {
+    constexpr std::array names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::ranges::any_of(names, [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
+}
+
+void installTexts(QTranslator& translator) {
+    if (translator.load(u":/zel_en.qm"_s)) QCoreApplication::installTranslator(&translator);
+}
+
+void name() {
+    QCoreApplication::setApplicationName(u"zel"_s);
+    QCoreApplication::setApplicationVersion(QLatin1String(ZEL_VERSION));
+    QGuiApplication::setDesktopFileName(u"zel"_s);
+}
+
+/// Reads the arguments where no display is needed yet, so that a mistake in them is told anywhere.
+tl::expected<Options, int> prepare(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QTranslator translator;
+    installTexts(translator);
+    const auto options = parse(QCoreApplication::arguments());
+    if (!options) return tl::unexpected(complain(wrongUsage, options.error()));
+    if (QDir::isRelativePath(qEnvironmentVariable("HOME")))
+        return tl::unexpected(complain(failed, qtTrId("noHome")));
+    if (!hasDisplay()) return tl::unexpected(complain(failed, qtTrId("noDisplay")));
+    return *options;
+}
+
+tl::expected<std::unique_ptr<MonitorPort>, QString> makePort(const Options& options, const Clock& clock) {
+    if (options.simulatedMonitor) return makeSimulatedMonitor(options.planFile, clock);
+    return std::make_unique<HidPort>();
+}
+
+} // namespace
+
+int runApplication(int argc, char** argv) {
+    name();
+    installSystemLog();
+    const auto options = prepare(argc, argv);
+    if (!options) return options.error();
+
+    TerminationSignals termination;
+    QApplication application(argc, argv);
+    termination.watch();
+    QApplication::setQuitOnLastWindowClosed(false);
+    QTranslator translator;
+    installTexts(translator);
+    SystemClock clock;
+    auto port = makePort(*options, clock);
+    if (!port) return complain(failed, port.error());
+
+    GlobalVar global({.home = qEnvironmentVariable("HOME"),
+                      .applicationFolder = QCoreApplication::applicationDirPath(),
+                      .templateFolder = u":/templates"_s},
+                     std::move(*port), clock);
+    AppController& controller = global.appController;
+    QObject::connect(&controller, &AppController::closed, &application, [] { QCoreApplication::exit(0); });
+    QObject::connect(&termination, &TerminationSignals::terminated, &controller, &AppController::terminate);
+    // Inside the event loop, so that a quit also ends it while one of their messages is open.
+    QTimer::singleShot(0, &controller, [&] {
+        controller.awakeFromNib(global.loaded);
+        controller.applicationDidFinishLaunching(global.loaded);
+    });
+    return QApplication::exec();
+}
+
+} // namespace zel

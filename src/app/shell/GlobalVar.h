@@ -1,0 +1,38 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/shell/AppController.h"
+#include "app/widgets/MessageBoxPanel.h"
+#include "app/device/MonitorStatus.h"
+#include "app/device/MonitorWorker.h"
+#include "app/settings/SelectFolderController.h"
+#include "store/DataStore.h"
+
+#include <memory>
+
+namespace zel {
+
+/// The composition root: made once, owns one object for each duty and hands them to those who need them.
+class GlobalVar {
+public:
+    GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock)
+        : port(std::move(monitorPort)), store(std::move(paths), clock), loaded(store.load()),
+          monitor(*port, clock), period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
+          appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop},
+                        {}) {
+        panel.setWindow(&appController.mainWndow());
+    }
+
+    std::unique_ptr<MonitorPort> port;
+    DataStore store;
+    StoreResult loaded; ///< how the data file was loaded at start
+    MonitorStatus status;
+    MonitorWorker monitor;
+    MessageBoxPanel panel;
+    SelectFolderController chooser;
+    DisplayPeriod period;
+    SystemPrinters printers;
+    AppController appController;
+};
+
+} // namespace zel

@@ -1,0 +1,47 @@
+#include "app/shell/MainMenu.h"
+
+#include "app/shell/MainWindow.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Command {
+    QString name;
+    QString text;
+    QKeySequence key;
+    void (MainWindow::*wanted)();
+};
+
+void add(MainWindow& window, QMenu& menu, const Command& command) {
+    QAction* action = menu.addAction(command.text);
+    action->setObjectName(command.name);
+    action->setShortcut(command.key);
+    action->setMenuRole(QAction::NoRole);
+    QObject::connect(action, &QAction::triggered, &window, command.wanted);
+}
+
+} // namespace
+
+QMenuBar* makeMainMenu(MainWindow& window) {
+    auto* bar = new QMenuBar(&window);
+    bar->setObjectName(u"mainMenu"_s);
+    bar->setAccessibleName(qtTrId("mainMenu"));
+    QMenu& file = *bar->addMenu(qtTrId("menuFile"));
+    add(window, file, {u"showPrint"_s, qtTrId("menuPrint"), QKeySequence::Print, &MainWindow::printWanted});
+    add(window, file,
+        {u"showSavePdf"_s, qtTrId("menuSavePdf"), Qt::CTRL | Qt::SHIFT | Qt::Key_P, &MainWindow::pdfWanted});
+    file.addSeparator();
+    add(window, file,
+        {u"showSetting"_s, qtTrId("menuSettings"), Qt::CTRL | Qt::Key_Comma, &MainWindow::settingWanted});
+    file.addSeparator();
+    add(window, file,
+        {u"closeApplicaiton"_s, qtTrId("menuQuit"), Qt::CTRL | Qt::Key_Q, &MainWindow::closeWanted});
+    QMenu& help = *bar->addMenu(qtTrId("menuHelp"));
+    add(window, help, {u"showHelp"_s, qtTrId("menuManual"), Qt::Key_F1, &MainWindow::helpWanted});
+    return bar;
+}
+
+} // namespace zel

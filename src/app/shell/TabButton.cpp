@@ -1,0 +1,64 @@
+#include "app/shell/TabButton.h"
+
+#include "app/widgets/PageHeading.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int imageSize = 28, margin = 14, gap = 10, accent = 4;
+}
+
+TabButton::TabButton(const QString& name, const QString& text, QWidget* parent) : QAbstractButton(parent) {
+    setObjectName(name);
+    setText(text);
+    setAccessibleName(QString(text).remove(u'&'));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void TabButton::setShown(bool isShown) {
+    shown = isShown;
+    setAccessibleDescription(shown ? qtTrId("tabShown") : QString());
+    update();
+}
+
+QString TabButton::imageName() const {
+    if (!isEnabled()) return objectName() + ".InactiveImg"_L1;
+    return objectName() + (shown || isDown() ? ".PressedImg"_L1 : ".ActiveImg"_L1);
+}
+
+QSize TabButton::sizeHint() const {
+    const QFontMetrics metrics(scaledFont(font(), 1.1, true));
+    const int width = metrics.horizontalAdvance(QString(text()).remove(u'&'));
+    return {margin + imageSize + gap + width + margin, std::max(imageSize, metrics.height()) + 2 * 12};
+}
+
+void TabButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QColor wash = palette().color(QPalette::Highlight);
+    wash.setAlpha(shown ? 40 : 20);
+    if (shown || (isEnabled() && underMouse())) painter.fillRect(rect(), wash);
+    if (shown) painter.fillRect(0, height() - accent, width(), accent, palette().highlight());
+
+    const QRect image(margin, (height() - imageSize) / 2, imageSize, imageSize);
+    QIcon(":/icons/"_L1 + imageName() + ".svg"_L1).paint(&painter, image);
+    const QRect words = rect().adjusted(image.right() + 1 + gap, 0, 0, 0);
+    const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setFont(scaledFont(font(), 1.1, shown));
+    painter.setPen(palette().color(group, QPalette::WindowText));
+    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.rect = rect().adjusted(3, 3, -3, -3 - accent);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+}
+
+} // namespace zel

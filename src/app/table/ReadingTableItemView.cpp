@@ -1,0 +1,145 @@
+#include "app/table/ReadingTableItemView.h"
+
+#include "chart/StyleTable.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QTableView>
+
+namespace zel {
+
+namespace {
+
+constexpr int margin = 8, diameter = 10, accent = 3;
+
+enum class Mark { none, outlined, filled };
+
+/// Filled for a finding, an outline for none, nothing where the monitor's model cannot tell.
+Mark markOf(const ReadingModel& row, int column) {
+    if (column == ReadingTableModel::mam) return row.mam == 1 ? Mark::filled : Mark::none;
+    switch (row.Arrhythmia) {
+    case 1:
+    case 4: return Mark::outlined;
+    case 2:
+    case 5: return Mark::filled;
+    default: return Mark::none;
+    }
+}
+
+void drawCircle(QPainter& painter, const QRect& cell, Mark mark) {
+    if (mark == Mark::none) return;
+    QRectF circle(0, 0, diameter, diameter);
+    circle.moveCenter(QRectF(cell).center());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::black, mark == Mark::outlined ? 1.2 : 0));
+    painter.setBrush(mark == Mark::filled ? QBrush(Qt::black) : QBrush(Qt::NoBrush));
+    painter.drawEllipse(circle);
+}
+
+void drawWords(QPainter& painter, const QRect& cell, const QString& text, bool isCentred) {
+    const QRect room = cell.adjusted(margin, 0, -margin, 0);
+    const QString words = painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width());
+    painter.setPen(Qt::black);
+    const auto alignment = isCentred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
+    painter.drawText(room, static_cast<int>(alignment), words);
+}
+
+/// Open towards the rows above and below that belong to the same comment.
+QPainterPath band(const QRect& cell, bool isFirst, bool isLast, int width) {
+    constexpr int beyond = 8;
+    const QRectF area = QRectF(cell.left() + margin, cell.top(), width, cell.height())
+                            .adjusted(0, isFirst ? 3 : -beyond, 0, isLast ? -3 : beyond);
+    QPainterPath path;
+    path.addRoundedRect(area, 4, 4);
+    return path;
+}
+
+} // namespace
+
+ReadingTableItemView::ReadingTableItemView(const ReadingTableModel& readings, const DataStore& dataStore,
+                                           QTableView& table)
+    : QStyledItemDelegate(&table), model(readings), store(dataStore), view(table) {}
+
+void ReadingTableItemView::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
+    painter->save();
+    painter->setClipRect(option.rect);
+    painter->setFont(option.font);
+    drawBackground(*painter, option, index);
+    drawCell(*painter, option.rect, index);
+    painter->restore();
+}
+
+void ReadingTableItemView::drawBackground(QPainter& painter, const QStyleOptionViewItem& option,
+                                          const QModelIndex& index) const {
+    const ReadingModel& row = model.row(index.row());
+    const QColor yellow = fixColor(gcYellowBackgroundcolor);
+    painter.fillRect(option.rect, row.bYellowBackground ? yellow : QColor(Qt::white));
+    const QColor highlight = option.palette.color(QPalette::Active, QPalette::Highlight);
+    if (option.state & QStyle::State_Selected) {
+        QColor wash = highlight;
+        wash.setAlpha(70);
+        painter.fillRect(option.rect, wash);
+        if (view.columnViewportPosition(index.column()) == -view.horizontalHeader()->offset())
+            painter.fillRect(QRect(option.rect.topLeft(), QSize(accent, option.rect.height())), highlight);
+    }
+    if (row.bDrawTopLine)
+        painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), Qt::black);
+    if (view.hasFocus() && index.row() == view.currentIndex().row())
+        painter.fillRect(QRect(option.rect.left(), option.rect.bottom() - 1, option.rect.width(), 2),
+                         highlight);
+}
+
+void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
+    const ReadingModel& row = model.row(index.row());
+    const int column = index.column();
+    if (column == ReadingTableModel::comment) drawComment(painter, cell, index);
+    if (row.isNA && column != ReadingTableModel::date) return drawPlaceholder(painter, cell);
+    if (column == ReadingTableModel::comment) return;
+    if (column == ReadingTableModel::mam || column == ReadingTableModel::mark)
+        return drawCircle(painter, cell, markOf(row, column));
+    drawWords(painter, cell, index.data().toString(), column > ReadingTableModel::time);
+}
+
+/// A band in the comment's colour beside all its rows, and its words where it begins. A comment that covers
+/// no row at all shows where it would begin.
+void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
+    constexpr int width = 10;
+    const ReadingModel& row = model.row(index.row());
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!row.comment) {
+        if (!row.bAtBegin) return;
+        painter.setPen(QPen(Qt::darkGray, 1));
+        return painter.drawPath(band(cell, true, true, width));
+    }
+    const bool isFirst = model.beginsComment(index.row());
+    const bool isLast =
+        index.row() + 1 == model.rowCount() || model.row(index.row() + 1).comment != row.comment;
+    const bool isChosen = isSelected(*row.comment);
+    painter.setPen(QPen(isChosen ? Qt::black : Qt::darkGray, isChosen ? 2 : 0.5));
+    painter.setBrush(getCommentColor(static_cast<int>(row.comment->degree), true));
+    painter.drawPath(band(cell, isFirst, isLast, width));
+    if (!isFirst) return;
+    QFont font = painter.font();
+    font.setBold(isChosen);
+    painter.setFont(font);
+    drawWords(painter, cell.adjusted(margin + width, 0, 0, 0), index.data().toString(), false);
+}
+
+/// The words end at half the row's width, whichever columns lie there.
+void ReadingTableItemView::drawPlaceholder(QPainter& painter, const QRect& cell) const {
+    const auto attribute = getTextAttribute(6);
+    if (attribute) painter.setFont(attribute->font());
+    const int half = view.horizontalHeader()->length() / 2 - view.horizontalHeader()->offset();
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(half - view.width(), cell.top(), view.width(), cell.height()),
+                     Qt::AlignRight | Qt::AlignVCenter, qtTrId("noValue"));
+}
+
+bool ReadingTableItemView::isSelected(const CommentModel& comment) const {
+    const CommentModel* selected = store.getSelectedComment();
+    return selected && selected->CommentID == comment.CommentID;
+}
+
+} // namespace zel

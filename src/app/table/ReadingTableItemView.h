@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/table/ReadingTableModel.h"
+
+#include <QStyledItemDelegate>
+
+class QTableView;
+
+namespace zel {
+
+/// Draws the rows of the reading table, always black on white or yellow as on paper.
+class ReadingTableItemView final : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    ReadingTableItemView(const ReadingTableModel& readings, const DataStore& dataStore, QTableView& table);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+
+private:
+    void drawBackground(QPainter& painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const;
+    void drawCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
+    void drawComment(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
+    void drawPlaceholder(QPainter& painter, const QRect& cell) const;
+    [[nodiscard]] bool isSelected(const CommentModel& comment) const;
+
+    const ReadingTableModel& model;
+    const DataStore& store;
+    const QTableView& view;
+};
+
+} // namespace zel

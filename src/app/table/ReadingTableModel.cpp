@@ -1,0 +1,168 @@
+#include "app/table/ReadingTableModel.h"
+
+#include "analysis/ReadingRows.h"
+#include "store/RecordXml.h"
+
+#include <QStringList>
+
+#include <unordered_map>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Comments = std::unordered_map<const CommentModel*, const CommentModel*>;
+
+ReadingModel copyOf(const ReadingRow& row, const Comments& copies) {
+    ReadingModel copy = row.isNA() ? ReadingModel::initNA(row.ReadingDate) : *row.reading;
+    copy.day = row.day;
+    copy.comment = row.comment ? copies.at(row.comment) : nullptr;
+    copy.bAtBegin = row.bAtBegin;
+    copy.bAtEnd = row.bAtEnd;
+    copy.bDrawTopLine = row.bDrawTopLine;
+    copy.bYellowBackground = row.bYellowBackground;
+    return copy;
+}
+
+QString oneLine(const QString& text) { return text.simplified(); }
+
+} // namespace
+
+ReadingTableModel::ReadingTableModel(const DataStore& readings, QObject* parent)
+    : QAbstractTableModel(parent), store(readings) {}
+
+void ReadingTableModel::reload(const ReadingSelection& selection) {
+    beginResetModel();
+    const CommentList& noted = store.getCommentForCurID();
+    const ReadingRows list = assembleReadingRows(
+        {store.getReadingForCurID(), noted, store.getTrasferLogForCurID(), selection}, LocalZone());
+    comments.clear();
+    comments.reserve(noted.size()); // the rows point into it
+    Comments copies;
+    for (const auto& each : noted)
+        copies[each.get()] = &comments.emplace_back(*each);
+    rows.clear();
+    rows.reserve(list.rows.size());
+    for (const ReadingRow& row : list.rows)
+        rows.push_back(copyOf(row, copies));
+    anyAFib = list.isAFib;
+    anyPad = list.isPad;
+    endResetModel();
+}
+
+int ReadingTableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows.size());
+}
+
+int ReadingTableModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : columnTotal;
+}
+
+const ReadingModel& ReadingTableModel::row(int number) const {
+    return rows.at(static_cast<std::size_t>(number));
+}
+
+bool ReadingTableModel::beginsComment(int number) const {
+    return row(number).comment && (number == 0 || row(number - 1).comment != row(number).comment);
+}
+
+QVariant ReadingTableModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const ReadingModel& reading = row(index.row());
+    const auto column = static_cast<Column>(index.column());
+    if (role == Qt::DisplayRole) return text(reading, column);
+    if (role == Qt::AccessibleTextRole) return spoken(index);
+    if (role == Qt::ToolTipRole && column == comment && reading.comment) return reading.comment->comment;
+    return {};
+}
+
+/// Nothing for circles and placeholders, which are drawn.
+QString ReadingTableModel::text(const ReadingModel& reading, Column column) const {
+    if (column == date)
+        return reading.isNA ? dayText(reading.day, store.getSetting().getDateFormat())
+                            : reading.strDisplayDate(store.getSetting());
+    if (column == comment) return reading.comment ? oneLine(reading.comment->comment) : QString();
+    if (reading.isNA) return {};
+    switch (column) {
+    case time: return reading.strDisplayTime(store.getSetting());
+    case sys: return toDecimal(reading.sys);
+    case dia: return toDecimal(reading.dia);
+    case pulse: return toDecimal(reading.pulse);
+    case mapOrPP: return toDecimal(store.getSetting().showPPorMap == 0 ? reading.pp : reading.map);
+    default: return {};
+    }
+}
+
+QString ReadingTableModel::words(const QModelIndex& index) const {
+    const ReadingModel& reading = row(index.row());
+    switch (static_cast<Column>(index.column())) {
+    case date:
+    case comment: break;
+    case mam: return reading.isNA ? qtTrId("noValue") : reading.getMamStr();
+    case mark: return reading.isNA ? qtTrId("noValue") : reading.getPadStr();
+    default:
+        if (reading.isNA) return qtTrId("noValue");
+    }
+    return text(reading, static_cast<Column>(index.column()));
+}
+
+QString ReadingTableModel::spoken(const QModelIndex& index) const {
+    const ReadingModel& reading = row(index.row());
+    if (index.column() == date && reading.isNA) return qtTrId("dayWithoutReading").arg(words(index));
+    if (index.column() == date && reading.bYellowBackground) return qtTrId("dayOfDownload").arg(words(index));
+    if (index.column() == comment && !reading.comment) return qtTrId("none");
+    return words(index);
+}
+
+QVariant ReadingTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignVCenter
+                        | (section <= time || section == comment ? Qt::AlignLeft : Qt::AlignHCenter));
+    if (role != Qt::DisplayRole) return {};
+    switch (static_cast<Column>(section)) {
+    case date: return qtTrId("columnDate");
+    case time: return qtTrId("columnTime");
+    case sys: return qtTrId("columnSys");
+    case dia: return qtTrId("columnDia");
+    case pulse: return qtTrId("columnPulse");
+    case mapOrPP:
+        return qtTrId("columnPressure")
+            .arg(store.getSetting().showPPorMap == 0 ? qtTrId("pp") : qtTrId("map"));
+    case mam: return qtTrId("columnMam");
+    case mark: return markTitle;
+    case comment: return qtTrId("columnComment");
+    case columnTotal: break;
+    }
+    return {};
+}
+
+void ReadingTableModel::setMarkTitle(const QString& title) {
+    markTitle = title;
+    emit headerDataChanged(Qt::Horizontal, mark, mark);
+}
+
+void ReadingTableModel::refreshTexts() {
+    emit headerDataChanged(Qt::Horizontal, 0, columnTotal - 1);
+    if (!rows.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, columnTotal - 1));
+}
+
+QString tabSeparated(const ReadingTableModel& model, const std::vector<int>& rows,
+                     const std::vector<int>& columns) {
+    QString lines;
+    QStringList cells;
+    for (const int column : columns)
+        cells += oneLine(model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+    lines += cells.join(u'\t') + u'\n';
+    for (const int row : rows) {
+        cells.clear();
+        for (const int column : columns)
+            cells += model.words(model.index(row, column));
+        lines += cells.join(u'\t') + u'\n';
+    }
+    return lines;
+}
+
+} // namespace zel

@@ -1,0 +1,229 @@
+#include "app/table/TableViewController.h"
+
+#include "app/frame/CommentViewController.h"
+#include "app/widgets/EmptyState.h"
+#include "app/frame/PeriodBar.h"
+#include "app/frame/ReadingFrame.h"
+#include "app/table/ReadingTableItemView.h"
+#include "app/table/ReadingTableModel.h"
+#include "app/widgets/TableLook.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int padding = 18; ///< of a cell, both sides
+}
+
+TableViewController::TableViewController(const Parts& needed)
+    : parts(needed), readingModelArray(new ReadingTableModel(needed.store, this)),
+      tblReadings(new QTableView(this)),
+      noReadings(new EmptyState(u"noReadings"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
+      noneInPeriod(new EmptyState(u"noneInPeriod"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
+      listOrAdvice(new QStackedWidget(this)),
+      frame(new ReadingFrame({needed.store, needed.period, needed.panel}, *listOrAdvice, this)),
+      btnShowMam(new QCheckBox(qtTrId("showMam"), this)), btnShowPad(new QCheckBox(this)) {
+    setObjectName(u"TableViewController"_s);
+    setAccessibleName(qtTrId("pageReadings"));
+    build();
+    connect(&parts.store, &DataStore::reloaded, this, &TableViewController::reload);
+    connect(&parts.store, &DataStore::currentIDChanged, this, &TableViewController::reload);
+    connect(&parts.period, &DisplayPeriod::changed, this, &TableViewController::reload);
+    connect(&parts.status, &MonitorStatus::changed, this, &TableViewController::setPadTitle);
+    connect(&frame->comments(), &CommentViewController::commentSelected, this,
+            &TableViewController::refreshTable);
+    reload();
+}
+
+void TableViewController::build() {
+    dressReadings();
+    addBoxes();
+    addActions();
+    noReadings->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
+    noneInPeriod->setTexts(qtTrId("noneInPeriod"), qtTrId("noneInPeriodAdvice"));
+    for (QWidget* each : {static_cast<QWidget*>(tblReadings), static_cast<QWidget*>(noReadings),
+                          static_cast<QWidget*>(noneInPeriod)})
+        listOrAdvice->addWidget(each);
+    setFocusProxy(tblReadings);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(frame);
+}
+
+void TableViewController::dressReadings() {
+    tblReadings->setObjectName(u"tblReadings"_s);
+    tblReadings->setAccessibleName(qtTrId("readingList"));
+    tblReadings->setModel(readingModelArray);
+    dressTable(*tblReadings);
+    tblReadings->setItemDelegate(new ReadingTableItemView(*readingModelArray, parts.store, *tblReadings));
+    tblReadings->setAlternatingRowColors(false);
+    tblReadings->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    tblReadings->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QPalette paper = tblReadings->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    tblReadings->setPalette(paper);
+    QHeaderView* columns = tblReadings->horizontalHeader();
+    columns->setSectionResizeMode(QHeaderView::Fixed);
+    columns->setSectionResizeMode(ReadingTableModel::comment, QHeaderView::Stretch);
+    columns->setMinimumSectionSize(tblReadings->fontMetrics().averageCharWidth() * 8);
+    tblReadings->installEventFilter(this);
+    connect(tblReadings, &QTableView::clicked, this, &TableViewController::chooseComment);
+    connect(tblReadings->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &TableViewController::refreshTable); // the line under the row that the keys move
+}
+
+/// No narrower than their texts. In a wide table the comments begin beyond the middle, where a day without a
+/// reading has its "n.a.".
+void TableViewController::layOutColumns() {
+    const QFontMetrics metrics = tblReadings->fontMetrics();
+    std::array<int, ReadingTableModel::comment> widths{};
+    widths.fill(metrics.horizontalAdvance(u"00000"_s) + padding);
+    widths[ReadingTableModel::date] = metrics.horizontalAdvance(u"00/00/0000"_s) + padding;
+    widths[ReadingTableModel::time] = metrics.horizontalAdvance(u"00:00 P"_s) + padding;
+    int total = 0;
+    for (int column = 0; column < ReadingTableModel::comment; ++column)
+        if (!tblReadings->isColumnHidden(column)) total += widths.at(static_cast<std::size_t>(column));
+    const int wanted = std::max(total, tblReadings->width() / 2);
+    for (int column = 0; column < ReadingTableModel::comment; ++column)
+        tblReadings->setColumnWidth(column, widths.at(static_cast<std::size_t>(column)) * wanted / total);
+}
+
+void TableViewController::addBoxes() {
+    const auto add = [this](QCheckBox* box, const QString& name, int column) {
+        box->setObjectName(name);
+        box->setChecked(true);
+        connect(box, &QCheckBox::toggled, tblReadings, [this, column](bool shown) {
+            tblReadings->setColumnHidden(column, !shown);
+            layOutColumns();
+        });
+        frame->periodBar().addOption(*box);
+    };
+    btnShowMam->setAccessibleName(btnShowMam->text());
+    add(btnShowMam, u"btnShowMam"_s, ReadingTableModel::mam);
+    add(btnShowPad, u"btnShowPad"_s, ReadingTableModel::mark);
+}
+
+void TableViewController::addActions() {
+    auto* copy = new QAction(qtTrId("copyRows"), tblReadings);
+    copy->setObjectName(u"copyRows"_s);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &TableViewController::copyRows);
+    auto* all = new QAction(qtTrId("selectAllRows"), tblReadings);
+    all->setObjectName(u"selectAllRows"_s);
+    all->setShortcut(QKeySequence::SelectAll);
+    all->setShortcutContext(Qt::WidgetShortcut);
+    connect(all, &QAction::triggered, tblReadings, &QTableView::selectAll);
+    tblReadings->addActions({copy, all});
+    tblReadings->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+/// The row that was current stays it where it can. Who looks at the latest readings goes on to see them.
+void TableViewController::reload() {
+    QItemSelectionModel* selection = tblReadings->selectionModel();
+    QScrollBar& scrolled = *tblReadings->verticalScrollBar();
+    const int value = scrolled.value();
+    const bool wasAtEnd = value == scrolled.maximum();
+    const int position = tblReadings->currentIndex().row();
+    const bool isSelected = position >= 0 && selection->isRowSelected(position);
+    readingModelArray->reload(parts.period.selection());
+    QWidget* shown = tblReadings;
+    if (parts.store.getReadingForCurID().empty())
+        shown = noReadings;
+    else if (readingModelArray->rowCount() == 0)
+        shown = noneInPeriod;
+    listOrAdvice->setCurrentWidget(shown);
+    if (0 <= position && position < readingModelArray->rowCount())
+        selection->setCurrentIndex(readingModelArray->index(position, 0),
+                                   isSelected ? QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows
+                                              : QItemSelectionModel::NoUpdate);
+    tblReadings->scrollToBottom(); // lays the rows out, too
+    if (!wasAtEnd) scrolled.setValue(value);
+    setPadTitle();
+}
+
+void TableViewController::LoadData() {
+    readingModelArray->refreshTexts();
+    frame->LoadData();
+    reload();
+    // The latest reading is what people come for; the table gets its size after this.
+    QMetaObject::invokeMethod(tblReadings, "scrollToBottom", Qt::QueuedConnection);
+}
+
+void TableViewController::UpdateUIBySetting() {
+    frame->UpdateUIBySetting();
+    readingModelArray->refreshTexts();
+}
+
+void TableViewController::setHWButtons(bool) { setPadTitle(); }
+
+bool TableViewController::leave() { return frame->comments().leave(); }
+
+void TableViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
+
+void TableViewController::saveQuietly() { static_cast<void>(frame->comments().save()); }
+
+void TableViewController::refreshTable() { tblReadings->viewport()->update(); }
+
+bool TableViewController::getShowMam() const { return btnShowMam->isChecked(); }
+
+bool TableViewController::getShowPad() const { return btnShowPad->isChecked(); }
+
+void TableViewController::setPadTitle() {
+    const bool monitorDecides = !readingModelArray->isAFib() && !readingModelArray->isPad();
+    const auto entitle = [this](const QString& title, const QString& box) {
+        readingModelArray->setMarkTitle(title);
+        btnShowPad->setText(box);
+        btnShowPad->setAccessibleName(box);
+    };
+    if (readingModelArray->isAFib() || (monitorDecides && parts.status.state().isAFib))
+        entitle(qtTrId("afib"), qtTrId("show afib readings"));
+    else if (parts.store.getTargetString().startsWith("pad"_L1))
+        entitle(qtTrId("pad"), qtTrId("show pad readings"));
+    else
+        entitle(qtTrId("ihd"), qtTrId("show ihd readings"));
+}
+
+void TableViewController::chooseComment(const QModelIndex& index) {
+    if (!index.isValid() || !frame->isDisplayingComment()) return;
+    if (const CommentModel* comment = readingModelArray->row(index.row()).comment)
+        frame->comments().setCommentScroll(QString(comment->CommentID)); // the list is read anew meanwhile
+}
+
+void TableViewController::copyRows() {
+    std::vector<int> rows, columns;
+    for (const QModelIndex& row : tblReadings->selectionModel()->selectedRows())
+        rows.push_back(row.row());
+    if (rows.empty()) return;
+    std::ranges::sort(rows);
+    for (int column = 0; column < ReadingTableModel::columnTotal; ++column)
+        if (!tblReadings->isColumnHidden(column)) columns.push_back(column);
+    QGuiApplication::clipboard()->setText(tabSeparated(*readingModelArray, rows, columns));
+}
+
+bool TableViewController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) layOutColumns();
+    if (event->type() != QEvent::KeyPress) return PageController::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+        return PageController::eventFilter(watched, event);
+    chooseComment(tblReadings->currentIndex());
+    return true;
+}
+
+} // namespace zel

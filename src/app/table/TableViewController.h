@@ -1,0 +1,67 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/device/MonitorStatus.h"
+#include "app/widgets/PageController.h"
+#include "store/DataStore.h"
+
+class QCheckBox;
+class QStackedWidget;
+class QTableView;
+
+namespace zel {
+
+class EmptyState;
+class ReadingFrame;
+class ReadingTableModel;
+
+/// The page that lists the current patient's readings.
+class TableViewController final : public PageController {
+    Q_OBJECT
+public:
+    struct Parts {
+        DataStore& store;
+        const MonitorStatus& status;
+        DisplayPeriod& period;
+        MessagePanel& panel;
+    };
+    explicit TableViewController(const Parts& needed);
+
+    void LoadData() override;
+    void UpdateUIBySetting() override;
+    void setHWButtons(bool connected) override;
+    [[nodiscard]] bool leave() override;
+    void checkToSaveComment() override;
+    void saveQuietly() override;
+    /// Titles the mark column by what the readings, or else the monitor, can tell.
+    void setPadTitle();
+    /// Redraws, with nothing read anew.
+    void refreshTable();
+    [[nodiscard]] bool getShowMam() const; ///< the columns are shown
+    [[nodiscard]] bool getShowPad() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void build();
+    void dressReadings();
+    void layOutColumns();
+    void addBoxes();
+    void addActions();
+    void reload();
+    void chooseComment(const QModelIndex& index);
+    void copyRows();
+
+    Parts parts;
+    ReadingTableModel* readingModelArray;
+    QTableView* tblReadings;
+    EmptyState* noReadings;
+    EmptyState* noneInPeriod;
+    QStackedWidget* listOrAdvice;
+    ReadingFrame* frame;
+    QCheckBox* btnShowMam;
+    QCheckBox* btnShowPad;
+};
+
+} // namespace zel

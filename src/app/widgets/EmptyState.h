@@ -1,0 +1,19 @@
+#pragma once
+
+#include "app/widgets/PageHeading.h"
+
+namespace zel {
+
+/// Stands where a list has nothing to show, and says what to do about it.
+class EmptyState final : public QWidget {
+    Q_OBJECT
+public:
+    EmptyState(const QString& name, const QString& icon, QWidget* parent = nullptr);
+    void setTexts(const QString& heading, const QString& advice);
+
+private:
+    QLabel* lblHeading;
+    QuietLabel* lblAdvice;
+};
+
+} // namespace zel

@@ -1,0 +1,3 @@
+#include "app/widgets/Log.h"
+
+Q_LOGGING_CATEGORY(lcApp, "zel.app", QtInfoMsg)

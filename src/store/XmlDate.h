@@ -1,0 +1,15 @@
+#pragma once
+// The data file's form of a date: 2019-03-22T14:05:00+01:00.
+
+#include "store/Dates.h"
+
+namespace zel {
+
+/// A date in the file's form, with or without milliseconds; none if it is none.
+[[nodiscard]] Date XMLStrToDate(std::string_view text);
+/// The file's form; no date gives getEmptyDateStr().
+[[nodiscard]] QString XMLDateToStr(const Date& date);
+/// "0001-01-01T00:00:00+08:00", whatever the time zone: the file format's text for no date.
+[[nodiscard]] QString getEmptyDateStr();
+
+} // namespace zel

@@ -1,0 +1,170 @@
+#include "WatchTest.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class PollingTest : public WatchTest {
+protected:
+    /// As long as several cycles take.
+    void letPollingRun() {
+        const int before = port->opened;
+        port->plugged = false; // each query of an absent monitor is an attempt to open it
+        waitFor([&] { return port->opened > before + 3; });
+    }
+    /// Takes the monitor away, to where it may not be opened, or gives it back.
+    void letOpen(bool allowed) {
+        port->denied = true; // never just absent
+        port->plugged = allowed;
+        port->denied = !allowed;
+    }
+};
+
+struct ClockCase {
+    int offset;
+    bool asks;
+};
+class ClockQuestionTest : public PollingTest, public testing::WithParamInterface<ClockCase> {};
+
+} // namespace
+
+TEST_P(ClockQuestionTest, isAskedFrom61SecondsOn) {
+    plan.clockOffset = std::chrono::seconds(GetParam().offset);
+    startConnected();
+    EXPECT_EQ(panel.questions.contains(qtTrId("Synchronization")), GetParam().asks);
+    EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockRight")) << "set when it was off";
+}
+INSTANTIATE_TEST_SUITE_P(Offsets, ClockQuestionTest,
+                         testing::Values(ClockCase{0, false}, ClockCase{60, false}, ClockCase{61, true},
+                                         ClockCase{-60, false}, ClockCase{-61, true},
+                                         ClockCase{90000, true}));
+
+TEST_F(PollingTest, leavesTheClockAloneWhenTheUserSaysNo) {
+    panel.answers[qtTrId("Synchronization")] = false;
+    for (const auto& [minutes, words] :
+         {std::pair(119, qtTrId("clockMinutes", 119)), std::pair(180, qtTrId("clockHours", 3)),
+          std::pair(47 * 60, qtTrId("clockHours", 47)), std::pair(49 * 60, qtTrId("clockDays", 2))}) {
+        plan.clockOffset = std::chrono::minutes(minutes) + std::chrono::seconds(30);
+        startConnected();
+        EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockAhead").arg(words));
+    }
+}
+
+TEST_F(PollingTest, asksOnceWhenTheClockCannotBeSet) {
+    plan.clockOffset = -std::chrono::seconds(90);
+    plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::setDate}};
+    start();
+    waitFor([this] { return panel.messages.size() == 2 && !status.isBusy(); });
+    EXPECT_TRUE(panel.messages.first().contains(
+        qtTrId("clockNotSetAtGreeting").arg(describe(MonitorResult::timeOut))));
+    EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockBehind").arg(qtTrId("clockMinutes", 1)));
+    letPollingRun();
+    EXPECT_EQ(panel.questions.size(), 1);
+}
+
+TEST_F(PollingTest, looksForAnotherIDAlsoWhenTheClockCannotBeRead) {
+    plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::date}};
+    startConnected();
+    worker->submit(
+        watch.get(), [](BPMModel& monitor) { return monitor.sendID(u"P2"_s, false); }, [](MonitorResult) {});
+    waitFor([&] { return status.state().IDOnDevice == u"P2"; });
+    EXPECT_EQ(panel.messages.size(), 1);
+}
+
+TEST_F(PollingTest, asksForTheClockBeforeItAnnouncesTheID) {
+    plan.clockOffset = std::chrono::hours(3);
+    panel.whenAsked = [this] { EXPECT_TRUE(panel.messages.empty()); };
+    startConnected();
+    ASSERT_EQ(panel.questions.size(), 1);
+    EXPECT_EQ(panel.messages,
+              QStringList(qtTrId("monitorConnected") + u": "_s + qtTrId("monitorConnectedID").arg(u"P1"_s)));
+}
+
+TEST_F(PollingTest, tellsWhoseMonitorIsConnected) {
+    struct Case {
+        std::string ID;
+        QString words, shown;
+        std::string model;
+    };
+    for (const Case& c : {Case{"P9", qtTrId("newIDFromDevice").arg(u"P9"_s), u"P9"_s, "41"},
+                          Case{"", qtTrId("monitorWithoutID"), qtTrId("noID"), "36"}}) {
+        plan.ID = c.ID;
+        plan.model = c.model;
+        startConnected();
+        EXPECT_EQ(panel.messages, QStringList(qtTrId("Warning") + u": "_s + c.words));
+        EXPECT_EQ(text("lblMonitorID"), c.shown);
+        EXPECT_EQ(status.state().isAFib, c.model == "41");
+    }
+}
+
+TEST_F(PollingTest, noticesThatTheMonitorWasPulledOutAndPluggedIn) {
+    startConnected();
+    port->plugged = false;
+    waitFor([this] { return !status.state().isConnected; });
+    EXPECT_EQ(buttons, (QList{true, false}));
+    EXPECT_FALSE(status.state().IDOnDevice);
+    EXPECT_EQ(panel.messages.size(), 1) << "nobody is told of what he did himself";
+    port->plugged = true;
+    waitFor([this] { return panel.messages.size() == 2; });
+    EXPECT_EQ(buttons, (QList{true, false, true}));
+}
+
+TEST_F(PollingTest, takesAnotherIDOverSilently) {
+    addPatient(u"P2"_s, u"Baker"_s);
+    startConnected();
+    bool sent = false;
+    worker->submit(
+        watch.get(), [](BPMModel& monitor) { return monitor.sendID(u"P2"_s, false); },
+        [&](MonitorResult result) { sent = result == MonitorResult::success; });
+    waitFor([&] { return status.state().IDOnDevice == u"P2"; });
+    EXPECT_TRUE(sent);
+    EXPECT_EQ(panel.messages.size(), 1);
+    EXPECT_EQ(buttons, (QList{true, true})) << "other ones may be enabled now";
+}
+
+TEST_F(PollingTest, saysWhatHelpsWhenTheMonitorMayNotBeOpened) {
+    plan.faults = {{.kind = SimulatedFault::Kind::late, // it is just coming up
+                    .command = Command::version,
+                    .delay = std::chrono::milliseconds(100)}};
+    startsPlugged = false;
+    start();
+    letOpen(false);
+    waitFor([this] { return text("lblMonitorState") == describe(MonitorResult::accessDenied); });
+    letPollingRun();
+    EXPECT_TRUE(panel.messages.empty()) << "said in the window, not over and over in boxes";
+
+    letOpen(true);
+    waitFor([this] { return status.state().IDOnDevice == u"P1" && !status.isBusy(); });
+    letOpen(false);
+    waitFor([this] { return text("lblMonitorState") == describe(MonitorResult::accessDenied); });
+    EXPECT_FALSE(status.state().IDOnDevice);
+    EXPECT_EQ(buttons, (QList{true, false}));
+
+    std::vector<MonitorResult> troubles;
+    QObject::connect(&status, &MonitorStatus::changed, watch.get(),
+                     [&] { troubles.push_back(status.state().trouble); });
+    letOpen(true);
+    waitFor([this] { return status.state().isConnected && !status.isBusy(); });
+    EXPECT_EQ(troubles.front(), MonitorResult::timeOut) << "one that was away gets a short look first";
+}
+
+TEST_F(PollingTest, triesAgainWhenClockOrIDCannotBeRead) {
+    for (const Command command : {Command::date, Command::id}) {
+        plan.faults = {{.kind = SimulatedFault::Kind::badCheckField, .command = command, .times = 8}};
+        bool told = false;
+        const auto watching = QObject::connect(&status, &MonitorStatus::changed, [&] {
+            told = told || describe(status.state()).contains(describe(MonitorResult::badCheckField));
+        });
+        startConnected();
+        waitFor([this] {
+            return status.state().secondsAhead && status.state().trouble == MonitorResult::success;
+        });
+        QObject::disconnect(watching);
+        EXPECT_TRUE(told);
+        EXPECT_EQ(panel.messages.size(), 1) << "the ID is announced once";
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/device/MonitorPanel.h"
+#include "app/device/MonitorWatch.h"
+#include "support/MonitorTest.h"
+
+namespace zel {
+
+/// The watch over a monitor, and the panel that shows what it finds.
+class WatchTest : public MonitorTest {
+protected:
+    WatchTest() { addPatient(QStringLiteral("P1"), QStringLiteral("Adams")); }
+
+    /// Starts the watch, as if for the first time.
+    void start() {
+        watch.reset();
+        attach();
+        panel.messages.clear();
+        show(new MonitorPanel(status, nullptr));
+        watch = std::make_unique<MonitorWatch>(MonitorWatch::Parts{*worker, status, store, panel, clock},
+                                               std::chrono::milliseconds(1));
+        QObject::connect(watch.get(), &MonitorWatch::setHWButtons, [this](bool on) { buttons += on; });
+        watch->monitorBPM();
+        watch->setSplashClosed();
+    }
+    /// Starts it and waits until the monitor's ID has been announced.
+    void startConnected() {
+        start();
+        waitFor([this] { return !panel.messages.empty() && !status.isBusy(); });
+    }
+
+    std::unique_ptr<MonitorWatch> watch;
+    QList<bool> buttons; ///< as it wanted the pages' buttons, in turn
+};
+
+} // namespace zel

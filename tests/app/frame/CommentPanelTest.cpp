@@ -1,0 +1,87 @@
+#include "app/frame/ReadingFrame.h"
+#include "support/ReadingPageTest.h"
+
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CommentPanelTest : public ReadingPageTest {
+protected:
+    void openPanel() { open(new ReadingFrame({store, period, panel}, *new QWidget, nullptr)); }
+};
+
+} // namespace
+
+TEST_F(CommentPanelTest, whatIsTypedIsSavedWhenEditingEnds) {
+    storeComments();
+    openPanel();
+    const std::vector<std::pair<const char*, std::function<void()>>> ends{
+        {"another field", [this] { press(Qt::Key_Tab); }},
+        {"another comment", [this] { clickPart("btnNextComment"), clickPart("btnPreviousComment"); }}};
+    QString text = u"first"_s;
+    for (const auto& [how, end] : ends) {
+        typeComment(u"+"_s);
+        EXPECT_EQ(stored(u"1"_s), text) << "not while it is being typed";
+        end();
+        EXPECT_EQ(stored(u"1"_s), text += u'+') << how;
+        EXPECT_EQ(editor().toPlainText(), text);
+    }
+    QSignalSpy reloads(&store, &DataStore::reloaded);
+    editor().setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(reloads.empty()) << "nothing was changed";
+}
+
+TEST_F(CommentPanelTest, aCommentThatCannotBeSavedStays) {
+    storeComments();
+    openPanel();
+    const QByteArray before = dataFile();
+    typeComment(u"+"_s);
+    replaceDataFile("<ZEL><Patient>");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(panel.messages.size(), 1);
+    clickPart("btnNextComment");
+    EXPECT_EQ(editor().toPlainText(), u"first+"_s);
+    replaceDataFile(before);
+    clickPart("btnNextComment");
+    EXPECT_EQ(stored(u"1"_s), u"first+"_s);
+    EXPECT_EQ(editor().toPlainText(), u"second"_s);
+}
+
+TEST_F(CommentPanelTest, whatIsTypedIntoACommentThatAnotherProgramRemovedIsStoredAgain) {
+    storeYear();
+    const QByteArray without = dataFile();
+    addComment(u"1"_s, u"20260301"_s, u"20260302"_s, u"mine"_s);
+    openPanel();
+    typeComment(u"+"_s);
+    replaceDataFile(without);
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(stored(u"1"_s), u"none"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(stored(u"1"_s), u"mine+"_s);
+}
+
+TEST_F(CommentPanelTest, deletingACommentAsks) {
+    storeComments();
+    openPanel();
+    clickPart("btnNextComment");
+    panel.answers[qtTrId("DeleteComment")] = false;
+    clickPart("btnDeleteComment");
+    EXPECT_EQ(store.getSelectedComment()->CommentID, u"2"_s);
+    panel.answers[qtTrId("DeleteComment")] = true;
+    clickPart("btnDeleteComment");
+    EXPECT_EQ(stored(u"2"_s), u"none"_s);
+    EXPECT_EQ(editor().toPlainText(), u"first"_s);
+    clickPart("btnDeleteComment");
+    EXPECT_EQ(stored(u"1"_s), u"none"_s);
+    EXPECT_EQ(text("lblCommentBegin"), u"01/01/0001"_s);
+    EXPECT_FALSE(editor().isEnabled());
+    EXPECT_FALSE(page("btnDeleteComment").isEnabled());
+}
+
+} // namespace zel

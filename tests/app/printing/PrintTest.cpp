@@ -1,0 +1,230 @@
+#include "app/printing/PrintController.h"
+#include "report/ReportPdf.h"
+#include "support/FullDisk.h"
+#include "support/ScriptedChooser.h"
+#include "support/ScriptedPrinters.h"
+#include "support/WidgetTest.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The print window over an empty one.
+class PrintTest : public WidgetTest {
+protected:
+    PrintTest() {
+        addPatient(u"P1"_s, u"Adams"_s);
+        store.setCurrentID(u"P1"_s);
+        printers.known = {u"Office"_s, u"Ward"_s};
+        chooser.pdf = home.filePath(u"report.pdf"_s);
+        show(new QWidget);
+        printing = new PrintController({store, period, clock, panel, chooser, printers}, host.get());
+        QObject::connect(printing, &PrintController::said, printing,
+                         [this](const QString& text) { said = text; });
+    }
+    void storeReadings(int total) {
+        ReadingList list;
+        for (int i = 0; i < total; ++i) {
+            ReadingModel& reading = list.emplace_back();
+            reading.ReadingDate = StrToDate(u"202603010800"_s, u"yyyyMMddHHmm"_s).value_or(Instant{})
+                                  + std::chrono::hours(12 * i);
+            reading.sys = 120;
+            reading.dia = 80;
+            reading.pulse = 60;
+        }
+        ASSERT_TRUE(store.newDataTransfer(list));
+    }
+    void openPrint(int tab, PrintPurpose purpose = PrintPurpose::printer) {
+        period.setCurrentReadingTimePeriod(store.getReadingForCurID());
+        printing->showPrintPreview(tab, {}, purpose);
+        ASSERT_TRUE(printing->isVisible());
+    }
+    void choose(Section section) {
+        find<QComboBox>("printOption").setCurrentText(facts(section).text());
+        ASSERT_EQ(find<QComboBox>("printOption").currentText(), facts(section).text());
+    }
+    QImage preview() { return find<QWidget>("previewView").grab().toImage(); }
+    QByteArray pdf() const {
+        QFile file(chooser.pdf);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
+    ScriptedChooser chooser;
+    ScriptedPrinters printers;
+    PrintController* printing = nullptr; ///< the window owns it
+    QString said;
+};
+
+} // namespace
+
+TEST_F(PrintTest, theSectionsAreThoseOfTheTab) {
+    using enum Section;
+    storeReadings(3);
+    struct Case {
+        int tab;
+        std::vector<Section> offered;
+    };
+    for (const Case& c : {Case{0, {PatientProfile}},
+                          {1, {graph, histogram, correlation, comment, SWStatistics}},
+                          {2, {table, comment, SWStatistics}}}) {
+        openPrint(c.tab);
+        const auto& list = find<QComboBox>("printOption");
+        QStringList texts, offered;
+        for (int i = 0; i < list.count(); ++i)
+            texts += list.itemText(i);
+        for (const Section section : c.offered)
+            offered += facts(section).text();
+        EXPECT_EQ(texts, offered);
+        EXPECT_EQ(list.currentIndex(), 0);
+        click("cancelPrint");
+        EXPECT_FALSE(printing->isVisible());
+    }
+    EXPECT_TRUE(printOptions(3).empty());
+    EXPECT_TRUE(printers.printed.empty());
+}
+
+TEST_F(PrintTest, thePagesAreTurnedOneByOneWithinTheirLimits) {
+    storeReadings(70);
+    openPrint(2);
+    ASSERT_EQ(text("pageText"), u"1/3"_s);
+    EXPECT_FALSE(page("gotoPreviousPage").isEnabled());
+    QTest::keyClick(printing, Qt::Key_PageUp);
+    EXPECT_EQ(text("pageText"), u"1/3"_s);
+    QImage before = preview();
+    for (const QString& counter : {u"2/3"_s, u"3/3"_s}) {
+        click("gotoNextPage");
+        const QImage now = preview();
+        EXPECT_EQ(text("pageText"), counter);
+        EXPECT_NE(now, before);
+        before = now;
+    }
+    EXPECT_FALSE(page("gotoNextPage").isEnabled());
+    QTest::keyClick(printing, Qt::Key_PageDown);
+    EXPECT_EQ(text("pageText"), u"3/3"_s);
+    click("gotoPreviousPage");
+    EXPECT_EQ(text("pageText"), u"2/3"_s);
+    choose(Section::comment);
+    EXPECT_EQ(text("pageText"), u"1/0"_s) << "another section begins at its first page";
+}
+
+TEST_F(PrintTest, anEmptyTableIsPageOneOfNoneAndIsNeitherPrintedNorSaved) {
+    storeReadings(1);
+    store.setCurrentID({});
+    addPatient(u"P2"_s, u"Baker"_s);
+    store.setCurrentID(u"P2"_s);
+    openPrint(2);
+    EXPECT_EQ(text("pageText"), u"1/0"_s);
+    EXPECT_EQ(text("lblNote"), qtTrId("previewNoPage"));
+    click("printAndClose");
+    click("savePdf");
+    EXPECT_EQ(panel.messages, (QStringList{qtTrId("Warning") + u": "_s + qtTrId("printNoData"),
+                                           qtTrId("Warning") + u": "_s
+                                               + describe(ReportError{ReportErrorCode::noData, {}, {}})}));
+    EXPECT_TRUE(printers.printed.empty());
+    EXPECT_TRUE(chooser.asked.empty());
+    EXPECT_TRUE(printing->isVisible());
+}
+
+TEST_F(PrintTest, thePractitionersDetailsAreShownAtOnce) {
+    store.getSetting().physicianAddress = u"Dr. Grey\nHarbour Street 4"_s;
+    openPrint(0);
+    const QImage without = preview();
+    click("printAddAddress");
+    EXPECT_NE(preview(), without);
+    click("printAddAddress");
+    EXPECT_EQ(preview(), without);
+}
+
+TEST_F(PrintTest, withoutAPrinterOnlyTheFileCanBeHad) {
+    printers.known.clear();
+    openPrint(0, PrintPurpose::pdf);
+    EXPECT_FALSE(page("printAndClose").isEnabled());
+    QTest::keyClick(printing, Qt::Key_Return);
+    EXPECT_TRUE(pdf().startsWith("%PDF"));
+}
+
+TEST_F(PrintTest, printsOnTheChosenPrinterAndSaysWhenItHasGone) {
+    openPrint(0);
+    click("printAndClose");
+    EXPECT_FALSE(printing->isVisible());
+    EXPECT_EQ(said, qtTrId("printDone").arg(u"Office"_s));
+    const auto choosePrinter = [this](const QString& name, const char* button) {
+        openPrint(0);
+        click("printerSelection");
+        find<QComboBox>("printerList").setCurrentText(name);
+        click(button);
+    };
+    choosePrinter(u"Ward"_s, "printerCancel");
+    click("printAndClose");
+    choosePrinter(u"Ward"_s, "printerOK");
+    click("printAndClose");
+    EXPECT_EQ(printers.printed, (QStringList{u"Office: PatientProfile"_s, u"Office: PatientProfile"_s,
+                                             u"Ward: PatientProfile"_s}));
+    openPrint(0);
+    printers.known.removeLast();
+    click("printAndClose");
+    EXPECT_EQ(panel.messages,
+              QStringList(qtTrId("Warning") + u": "_s + qtTrId("printerGone").arg(u"Ward"_s)));
+    EXPECT_TRUE(printing->isVisible()) << "to choose another one";
+    EXPECT_EQ(printers.printed.size(), 3);
+}
+
+TEST_F(PrintTest, aPdfIsWrittenWholeOrNotAtAll) {
+    const QString good = chooser.pdf;
+    openPrint(0);
+    const QStringList files = QDir(home.path()).entryList(QDir::Files);
+    const QByteArray data = dataFile();
+    const auto refused = [&](const QString& path) {
+        panel.messages.clear();
+        chooser.pdf = path;
+        click("savePdf");
+        return panel.messages.size() == 1 && panel.messages.first().contains(path);
+    };
+    EXPECT_TRUE(refused(home.filePath(u"nowhere/report.pdf"_s)));
+    EXPECT_TRUE(refused(store.getZELXMLPath()));
+    EXPECT_EQ(dataFile(), data);
+    {
+        const FullDisk full(2000);
+        EXPECT_TRUE(refused(good));
+    }
+    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), files) << "no half file";
+    panel.messages.clear();
+    chooser.pdf.clear();
+    click("savePdf");
+    EXPECT_TRUE(panel.messages.empty()) << "the user changed their mind";
+    chooser.pdf = good;
+    click("savePdf");
+    EXPECT_EQ(chooser.asked.last(), u"P1-PatientProfile.pdf"_s);
+    EXPECT_TRUE(pdf().startsWith("%PDF"));
+    EXPECT_EQ(text("lblNote"), qtTrId("savedPdf").arg(good));
+    EXPECT_TRUE(printing->isVisible());
+}
+
+TEST_F(PrintTest, theWindowSurvivesThatItsRecordsAreReadAnew) {
+    storeReadings(30);
+    openPrint(2);
+    const QImage before = preview();
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(preview(), before);
+    ASSERT_TRUE(store.deleteXMLPatient(u"P1"_s));
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_FALSE(printing->isVisible()) << "nobody is left";
+    printing->showPrintPreview(2, {}, PrintPurpose::pdf);
+    EXPECT_EQ(panel.messages.last(), qtTrId("Warning") + u": "_s + qtTrId("printNoPatient"));
+    EXPECT_FALSE(printing->isVisible());
+}
+
+TEST_F(PrintTest, everyControlSaysWhatItIs) {
+    openPrint(0);
+    expectNamed(*printing);
+}
+
+} // namespace zel

@@ -1,0 +1,147 @@
+#include "app/settings/ImportFileDialog.h"
+
+#include "app/settings/SelectFolderController.h"
+#include "app/settings/XmlFileList.h"
+#include "support/ScriptedChooser.h"
+#include "support/WidgetTest.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Files to choose from, and what is none of them.
+class Folder : public QTemporaryDir {
+public:
+    Folder() {
+        put(u"b.xml"_s, "<ZEL><Patient/><MeasureRec/><MeasureRec/><Comment/></ZEL>");
+        put(u"a.xml"_s, "<ZEL><Patient/></ZEL>");
+        put(u"damaged.xml"_s, "<ZEL>");
+        put(u"UPPER.XML"_s, "<ZEL/>");
+        put(u"a.txt"_s, "<ZEL/>");
+        QDir(path()).mkdir(u"folder.xml"_s);
+        QDir(path()).mkdir(u"empty"_s);
+    }
+
+private:
+    void put(const QString& name, const QByteArray& content) const {
+        QFile file(filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(content);
+    }
+};
+
+class ImportFileDialogTest : public WidgetTest {
+protected:
+    [[nodiscard]] QWidget& window() override { return dialog; }
+    const QAbstractItemModel& list() { return *find<QTableView>("tblFiles").model(); }
+    QStringList row(int number) {
+        QStringList texts;
+        for (int column = 0; column < list().columnCount(); ++column)
+            texts += list().index(number, column).data().toString();
+        return texts;
+    }
+    void waitUntilRead() {
+        auto& files = *dialog.findChild<XmlFileList*>();
+        waitFor([&] { return !files.isReading(); });
+        QCoreApplication::processEvents();
+    }
+    void clickRow(int number, XmlFileList::Column column) {
+        auto& table = find<QTableView>("tblFiles");
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                          table.visualRect(list().index(number, column)).center());
+    }
+    QStringList names() {
+        QStringList chosen;
+        for (const QString& path : dialog.chosenFiles())
+            chosen += QFileInfo(path).fileName();
+        return chosen;
+    }
+
+    Folder folder;
+    ScriptedChooser folders;
+    ImportFileDialog dialog{folders, folder.path(), nullptr};
+};
+
+} // namespace
+
+TEST_F(ImportFileDialogTest, listsTheXMLFilesWithWhatIsInThem) {
+    ASSERT_EQ(list().rowCount(), 3) << "before any is read";
+    waitUntilRead();
+    const QString today = QDate::currentDate().toString(u"yyyy/MM/dd"_s);
+    EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, u"0"_s, u"0"_s, today}));
+    EXPECT_EQ(row(1), (QStringList{u"b.xml"_s, u"2"_s, u"1"_s, today}));
+    EXPECT_EQ(row(2), (QStringList{u"damaged.xml"_s, {}, {}, qtTrId("fileNotReadable")}));
+}
+
+TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {
+    dialog.show();
+    EXPECT_FALSE(find<QWidget>("btnImport").isEnabled());
+    clickRow(1, XmlFileList::readings);
+    EXPECT_EQ(names(), QStringList(u"b.xml"_s));
+    EXPECT_EQ(find<QPushButton>("btnImport").text(), qtTrId("importButtonFiles", 1));
+    QTest::keyClick(&find<QWidget>("tblFiles"), Qt::Key_Up);
+    QTest::keyClick(&find<QWidget>("tblFiles"), Qt::Key_Space);
+    EXPECT_EQ(names(), (QStringList{u"a.xml"_s, u"b.xml"_s}));
+    clickRow(1, XmlFileList::name);
+    EXPECT_EQ(names(), QStringList(u"a.xml"_s));
+    click("boxAll");
+    EXPECT_EQ(names().size(), 3);
+    clickRow(2, XmlFileList::date);
+    EXPECT_FALSE(find<QCheckBox>("boxAll").isChecked());
+    click("btnImport");
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(ImportFileDialogTest, anotherFolderBeginsAnew) {
+    dialog.show();
+    click("boxAll");
+    click("btnFolder");
+    EXPECT_EQ(names().size(), 3) << "no folder was chosen";
+    folders.folder = folder.filePath(u"empty"_s);
+    click("btnFolder");
+    EXPECT_TRUE(find<QWidget>("noFiles").isVisible());
+    EXPECT_TRUE(dialog.chosenFiles().isEmpty());
+    EXPECT_FALSE(find<QWidget>("btnImport").isEnabled());
+    folders.folder = folder.path();
+    click("btnFolder");
+    waitUntilRead();
+    EXPECT_EQ(row(1).at(1), u"2"_s);
+    EXPECT_TRUE(dialog.chosenFiles().isEmpty());
+}
+
+TEST_F(ImportFileDialogTest, theChooserRemembersItsFolderAndReportsACancel) {
+    SelectFolderController chooser;
+    const auto inDialog = [](const std::function<void(QWidget&)>& act) {
+        QTimer::singleShot(0, qApp, [act] { act(*QApplication::activeModalWidget()); });
+    };
+    inDialog([this](QWidget& box) {
+        dynamic_cast<QFileDialog&>(box).setDirectory(folder.path());
+        dynamic_cast<QFileDialog&>(box).selectFile(folder.path());
+        QMetaObject::invokeMethod(&box, "accept");
+    });
+    EXPECT_EQ(chooser.chooseFolder(nullptr, u"title"_s), folder.path());
+    inDialog([](QWidget& box) {
+        QTest::mouseClick(box.findChild<QWidget*>(u"boxAll"_s), Qt::LeftButton);
+        QTest::mouseClick(box.findChild<QWidget*>(u"btnImport"_s), Qt::LeftButton);
+    });
+    EXPECT_EQ(chooser.chooseFiles(nullptr).size(), 3);
+    inDialog([](QWidget& box) {
+        QTest::mouseClick(box.findChild<QWidget*>(u"boxAll"_s), Qt::LeftButton);
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_TRUE(chooser.chooseFiles(nullptr).isEmpty());
+}
+
+} // namespace zel

@@ -1,0 +1,45 @@
+#include "AppTest.h"
+
+namespace zel {
+
+using namespace std::chrono_literals;
+
+void AppTest::TearDown() {
+    app.reset();
+    MonitorTest::TearDown();
+}
+
+void AppTest::launch(AppController::Timing timing) {
+    app.reset();
+    attach();
+    panel.messages.clear();
+    const auto open = [this](const QString& path) {
+        opened += path;
+        return hasViewer;
+    };
+    app = std::make_unique<AppController>(
+        AppController::Parts{store, status, *worker, panel, clock, chooser, period, printers, open}, timing);
+    app->awakeFromNib(loaded);
+    app->applicationDidFinishLaunching(loaded);
+}
+
+void AppTest::launch() { launch({.polling = 1ms, .splash = 1ms}); }
+
+void AppTest::start() {
+    launch();
+    waitFor([this] { return !find<QWidget>("splash").isVisible(); });
+    app->mainWndow().activateWindow();
+}
+
+void AppTest::startConnected() {
+    start();
+    waitFor([this] { return !panel.messages.empty() && !status.isBusy(); });
+}
+
+void AppTest::download() {
+    find<QLabel>("lblOutcome").clear();
+    click("btnDataTransfer");
+    waitFor([this] { return !text("lblOutcome").isEmpty(); });
+}
+
+} // namespace zel

@@ -1,0 +1,121 @@
+#include "AppTest.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Leaving the roster, and the program, while something is typed there.
+class LeavingTest : public AppTest {
+protected:
+    LeavingTest() {
+        addPatient(u"P1"_s, u"Adams"_s);
+        startsPlugged = false;
+    }
+    QString value(const char* field) { return find<QLineEdit>(field).text(); }
+};
+
+} // namespace
+
+TEST_F(LeavingTest, aRefusedSaveKeepsThePatientInView) {
+    start();
+    type("FamilyName", u"-"_s);
+    const QSignalSpy closed(app.get(), &AppController::closed);
+    const auto stays = [this] {
+        EXPECT_EQ(panel.messages.size(), 1);
+        panel.messages.clear();
+        EXPECT_EQ(store.getCurrentID(), u"P1"_s);
+        EXPECT_TRUE(page("PatientViewController").isVisible());
+        EXPECT_TRUE(page("sideColumn").isVisible());
+        EXPECT_EQ(value("FamilyName"), u"-"_s);
+    };
+    click("tableBtn");
+    stays();
+    app->mainWndow().close();
+    stays();
+    EXPECT_TRUE(closed.empty());
+    panel.answers[qtTrId("SavePatient")] = false;
+    app->mainWndow().close();
+    EXPECT_EQ(closed.size(), 1);
+}
+
+TEST_F(LeavingTest, aTabIsNotChangedOverAnEntryThatDoesNotValidate) {
+    start();
+    type("Height", u"x"_s);
+    click("graphBtn");
+    EXPECT_TRUE(page("PatientViewController").isVisible());
+    EXPECT_TRUE(panel.questions.empty());
+    EXPECT_FALSE(page("Height").accessibleDescription().isEmpty());
+    EXPECT_TRUE(page("HeightProblem").isVisible());
+    type("Height", u""_s);
+    click("graphBtn");
+    EXPECT_TRUE(page("GraphViewController").isVisible());
+}
+
+TEST_F(LeavingTest, aTabGivesUpWhatIsNotWantedForAPatientWhoIsGone) {
+    addPatient(u"P2"_s, u"Baker"_s);
+    start();
+    type("PatientNotes", u"more"_s);
+    DataStore other({home.path(), home.path(), u":/templates"_s}, clock);
+    ASSERT_TRUE(other.load());
+    ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+    ASSERT_TRUE(store.loadXML());
+    panel.answers[qtTrId("SavePatient")] = false;
+    click("graphBtn");
+    EXPECT_EQ(store.getCurrentID(), u"P2"_s);
+    EXPECT_EQ(value("FamilyName"), u"Baker"_s);
+}
+
+TEST_F(LeavingTest, theOtherTabsNeedAPatient) {
+    start();
+    click("btnDeletePatient");
+    EXPECT_FALSE(page("graphBtn").isEnabled());
+    press(Qt::Key_N, Qt::ControlModifier);
+    type("ID", u"P4"_s);
+    type("FamilyName", u"Dunn"_s);
+    type("GivenNames", u"Lou"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(store.getCurrentID(), u"P4"_s);
+    EXPECT_EQ(text("lblOutcome"), qtTrId("patientSaved").arg(u"Lou Dunn"_s));
+    EXPECT_TRUE(page("graphBtn").isEnabled());
+}
+
+TEST_F(LeavingTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
+    start();
+    click("btnNewPatient");
+    type("FamilyName", u"Clark"_s);
+    panel.answers[qtTrId("SavePatient")] = false;
+    page("tblPatients").setFocus();
+    press(Qt::Key_Down);
+    QCoreApplication::processEvents(); // what is asked comes after the key
+    ASSERT_EQ(store.getCurrentID(), u"P1"_s) << "the new one is kept, unsaved";
+    panel.answers[qtTrId("SavePatient")] = true;
+    const QSignalSpy closed(app.get(), &AppController::closed);
+    press(Qt::Key_2, Qt::ControlModifier);
+    app->closeApplicaiton();
+    EXPECT_EQ(closed.count(), 0) << "an ID is missing";
+    EXPECT_TRUE(page("FamilyName").isVisible());
+    EXPECT_EQ(value("FamilyName"), u"Clark"_s);
+    panel.answers[qtTrId("SavePatient")] = false;
+    panel.questions.clear();
+    app->closeApplicaiton();
+    EXPECT_EQ(closed.count(), 1);
+    EXPECT_EQ(panel.questions.size(), 1) << "asked once";
+}
+
+TEST_F(LeavingTest, aDownloadFirstSettlesWhatWasTyped) {
+    startsPlugged = true;
+    startConnected();
+    panel.questions.clear();
+    type("PatientNotes", u"mine"_s);
+    download();
+    EXPECT_EQ(panel.questions, QStringList(qtTrId("SavePatient")));
+    EXPECT_EQ(store.getPatientByID(u"P1"_s)->PatientNotes, u"mine"_s);
+    EXPECT_EQ(store.getReadingForCurID().size(), 12U);
+}
+
+} // namespace zel

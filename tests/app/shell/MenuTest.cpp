@@ -1,0 +1,165 @@
+#include "AppTest.h"
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSignalSpy>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The dialogs over the main window, and what they do to its pages.
+class MenuTest : public AppTest {
+protected:
+    MenuTest() {
+        startsPlugged = false;
+        printers.known = {u"Office"_s};
+    }
+    /// One with a value of its own in every field.
+    void typePatient() {
+        click("btnNewPatient");
+        for (const auto& [field, text] : {std::pair("FamilyName", u"O'Neil \"Jo\" & <Co>"_s),
+                                          {"GivenNames", u"Zoë"_s},
+                                          {"ID", u"R 1"_s},
+                                          {"BirthYear", u"1956"_s},
+                                          {"Weight", u"160.5"_s},
+                                          {"Height", u"5'9\""_s},
+                                          {"Address", u"Street 1\nTown"_s},
+                                          {"PhoneEmail", u"+49 1 a@b"_s},
+                                          {"Cholestrol", u"201,5"_s},
+                                          {"FamilyHistory", u"none, \"really\""_s},
+                                          {"PatientNotes", u"a\n\nb"_s}}) {
+            QGuiApplication::clipboard()->setText(text); // also for what no key types here
+            page(field).setFocus();
+            press(Qt::Key_V, Qt::ControlModifier);
+        }
+        for (const char* list : {"Sex", "BirthMonth", "BirthDay", "Smoker", "Diabetic"})
+            QTest::keyClick(&page(list), Qt::Key_Down);
+        click("btnSavePatient");
+        ASSERT_TRUE(panel.messages.empty()) << qPrintable(panel.messages.join(u'|'));
+    }
+    /// The patients, readings and comments of the data file, each as it stands there; the patients last.
+    QStringList records() const {
+        const QRegularExpression record(u"\n    <(Patient|MeasureRec|Comment)>.*?\n    </\\1>"_s,
+                                        QRegularExpression::DotMatchesEverythingOption);
+        QStringList found;
+        for (const auto& match : record.globalMatch(QString::fromUtf8(dataFile())))
+            found += match.captured();
+        found.sort();
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(MenuTest, eachTabPrintsWhatIsOnIt) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    start();
+    for (const auto& [tab, section] : {std::pair(Qt::Key_1, Section::PatientProfile),
+                                       {Qt::Key_2, Section::graph},
+                                       {Qt::Key_3, Section::table}}) {
+        press(tab, Qt::ControlModifier);
+        press(Qt::Key_P, Qt::ControlModifier);
+        ASSERT_TRUE(page("PrintController").isVisible());
+        EXPECT_EQ(find<QComboBox>("printOption").currentText(), facts(section).text());
+        click("cancelPrint");
+    }
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_P, Qt::ControlModifier);
+    click("printAndClose");
+    EXPECT_EQ(text("lblOutcome"), qtTrId("printDone").arg(u"Office"_s));
+}
+
+TEST_F(MenuTest, withoutAPrinterOnlyTheFileCanBeHad) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    printers.known.clear();
+    start();
+    press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(panel.messages, QStringList(qtTrId("NoPrnter") + u": "_s + qtTrId("NoPrnterMsg")));
+    EXPECT_FALSE(window().findChild<QWidget*>(u"PrintController"_s));
+    press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(page("PrintController").isVisible());
+}
+
+TEST_F(MenuTest, settingsActAtOnceOnThePages) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    store.getSetting() = SettingModel::initWithDefault();
+    ASSERT_TRUE(store.saveSetting());
+    plan.records = readings(3);
+    startsPlugged = true;
+    startConnected();
+    download();
+    press(Qt::Key_3, Qt::ControlModifier);
+    const QAbstractItemModel& table = *find<QAbstractItemView>("tblReadings").model();
+    ASSERT_EQ(table.index(0, 0).data().toString(), u"01/03/2026"_s);
+    const QString downloaded = text("lblLastDownload");
+    QSignalSpy told(&table, &QAbstractItemModel::dataChanged);
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    find<QComboBox>("dateFormate").setCurrentText(u"yyyy mm dd"_s);
+    QTest::keyClick(&page("SettingController"), Qt::Key_Return);
+    ASSERT_FALSE(page("SettingController").isVisible());
+    EXPECT_EQ(table.index(0, 0).data().toString(), u"2026/03/01"_s);
+    EXPECT_FALSE(told.isEmpty());
+    EXPECT_NE(text("lblLastDownload"), downloaded);
+}
+
+TEST_F(MenuTest, aPatientTypedInExportedAndDeletedComesBackEqual) {
+    start();
+    typePatient();
+    ReadingList taken(3);
+    for (std::uint32_t i = 0; i < taken.size(); ++i) {
+        taken[i].sys = 121 + i;
+        taken[i].ReadingDate = StrToDate(u"202603011234"_s, u"yyyyMMddHHmm"_s);
+    }
+    ASSERT_EQ(store.newDataTransfer(taken).value_or(0), 3U);
+    for (const auto& words : {u"<\"one\">"_s, u"two\nlines &c"_s}) {
+        CommentModel comment;
+        comment.beginDate = comment.endDate = taken[0].ReadingDate;
+        comment.CommentID = QString::number(10001 + records().size());
+        comment.comment = words;
+        ASSERT_TRUE(store.addCommentForCurID(comment));
+    }
+    const QStringList before = records();
+    ASSERT_EQ(before.size(), 1 + 3 + 2);
+    EXPECT_FALSE(before.last().contains(QRegularExpression(u"/>|></|>0"_s))) << "every field was typed in";
+
+    const QTemporaryDir outside;
+    chooser.folder = outside.path();
+    click("settingBtn");
+    click("exportButton");
+    click("cancelButton");
+    click("btnDeletePatient");
+    ASSERT_TRUE(records().isEmpty());
+    chooser.files = {outside.filePath(u"R 1.xml"_s)};
+    click("settingBtn");
+    click("importButton");
+    EXPECT_EQ(records().join(u'|').toStdString(), before.join(u'|').toStdString());
+    EXPECT_EQ(find<QAbstractItemView>("tblPatients").model()->rowCount(), 1) << "the roster has read it";
+}
+
+TEST_F(MenuTest, helpOpensTheManual) {
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(home.path()));
+    start();
+    press(Qt::Key_F1);
+    ASSERT_EQ(opened.size(), 1);
+    EXPECT_TRUE(opened.first().startsWith(home.path()));
+    QFile manual(opened.first());
+    ASSERT_TRUE(manual.open(QFile::ReadOnly));
+    EXPECT_TRUE(manual.readAll().startsWith("%PDF"));
+    EXPECT_TRUE(panel.messages.empty());
+    hasViewer = false;
+    press(Qt::Key_F1);
+    EXPECT_EQ(panel.messages,
+              QStringList(qtTrId("OpenHelpErrorTitle") + u": "_s + qtTrId("OpenHelpErrorMsg")));
+    const QString blocked = home.filePath(u"file"_s);
+    QFile(blocked).open(QFile::WriteOnly);
+    EXPECT_TRUE(unpackHelp(u":/help.pdf"_s, blocked).isEmpty());
+    EXPECT_TRUE(unpackHelp(u":/none.pdf"_s, home.path()).isEmpty());
+}
+
+} // namespace zel

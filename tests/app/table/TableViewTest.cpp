@@ -1,0 +1,183 @@
+#include "app/table/ReadingTableModel.h"
+#include "app/table/TableViewController.h"
+#include "support/ReadingPageTest.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTest>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class TableViewTest : public ReadingPageTest {
+protected:
+    void openTable() { open(new TableViewController({store, status, period, panel})); }
+    QTableView& table() { return find<QTableView>("tblReadings"); }
+    QString cell(int row, int column, int role = Qt::DisplayRole) {
+        return table().model()->index(row, column).data(role).toString();
+    }
+    QString title(int column) { return table().model()->headerData(column, Qt::Horizontal).toString(); }
+    QStringList systolic() {
+        QStringList values;
+        for (int row = 0; row < table().model()->rowCount(); ++row)
+            values += cell(row, ReadingTableModel::sys);
+        return values;
+    }
+    void clickRow(int row) {
+        const QPoint middle = table().visualRect(table().model()->index(row, 2)).center();
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, middle);
+    }
+    QColor pixel(int row, int column, QPoint offset) {
+        const QImage image = table().viewport()->grab().toImage();
+        return image.pixelColor(table().visualRect(table().model()->index(row, column)).topLeft() + offset);
+    }
+
+    MonitorStatus status;
+};
+
+} // namespace
+
+TEST_F(TableViewTest, readingsAreListedByDateAndEqualDatesAsTheyWereStored) {
+    storeReadings(u"P1"_s, {reading(u"202603050800"_s, 131), reading(u"202603010800"_s, 121),
+                            reading(u"202603050800"_s, 132)});
+    openTable();
+    EXPECT_EQ(systolic(), (QStringList{u"121"_s, u"131"_s, u"132"_s}));
+    EXPECT_EQ(cell(0, ReadingTableModel::date), u"01/03/2026"_s);
+}
+
+TEST_F(TableViewTest, theRowsAreThoseOfThePeriod) {
+    storeYear();
+    openTable();
+    EXPECT_EQ(systolic().size(), 4);
+    clickPart("viewAll");
+    clickPart("pmOnly");
+    EXPECT_EQ(systolic(), (QStringList{u"131"_s, u"132"_s}));
+    clickPart("btnAverage");
+    EXPECT_EQ(systolic().first(), u"199"_s);
+    typeDay("beginDay", u"02032026"_s);
+    EXPECT_EQ(systolic().size(), 3) << "not while it is being typed";
+    press(Qt::Key_Return);
+    EXPECT_EQ(systolic(), (QStringList{u"122"_s, u"132"_s}));
+    clickPart("btnViewAll");
+    EXPECT_EQ(systolic().size(), 5);
+}
+
+TEST_F(TableViewTest, theTableFollowsTheSettings) {
+    storeReadings(u"P1"_s, {reading(u"202603050800"_s, 131)});
+    for (const auto& [setting, words, value] :
+         {std::tuple(0U, qtTrId("pp"), u"51"_s), std::tuple(1U, qtTrId("map"), u"93"_s)}) {
+        store.getSetting().showPPorMap = setting;
+        openTable();
+        EXPECT_EQ(title(ReadingTableModel::mapOrPP), qtTrId("columnPressure").arg(words));
+        EXPECT_EQ(cell(0, ReadingTableModel::mapOrPP), value);
+    }
+}
+
+TEST_F(TableViewTest, theMarkColumnIsTitledByReadingsThenByMonitorThenByTarget) {
+    store.setCurrentID(u"P1"_s);
+    openTable();
+    EXPECT_NE(title(ReadingTableModel::mark), qtTrId("afib"));
+    status.update([](MonitorState& state) { state.isAFib = true; });
+    EXPECT_EQ(title(ReadingTableModel::mark), qtTrId("afib"));
+    ReadingModel padReading = reading(u"202603050800"_s, 131);
+    padReading.Arrhythmia = 2;
+    storeReadings(u"P1"_s, {padReading});
+    EXPECT_EQ(title(ReadingTableModel::mark), qtTrId("pad"));
+    EXPECT_EQ(cell(0, ReadingTableModel::mark, Qt::AccessibleTextRole), u"Yes"_s);
+    ReadingModel afibReading = reading(u"202603060800"_s, 131);
+    afibReading.Arrhythmia = 4;
+    storeReadings(u"P1"_s, {afibReading});
+    EXPECT_EQ(title(ReadingTableModel::mark), qtTrId("afib"));
+    EXPECT_EQ(cell(1, ReadingTableModel::mark, Qt::AccessibleTextRole), u"No"_s);
+}
+
+TEST_F(TableViewTest, rowsAreBlackOnWhiteWhateverTheDesktopsColours) {
+    storeComments();
+    storeReadings(u"P1"_s, {reading(u"202611210800"_s, 151)}); // the day of the download
+    const QPalette before = QApplication::palette();
+    QPalette dark(Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white, Qt::black,
+                  Qt::black);
+    QApplication::setPalette(dark);
+    openTable();
+    clickPart("viewAll");
+    const QPoint corner(3, 3);
+    ASSERT_EQ(systolic(), (QStringList{u"121"_s, u"122"_s, u""_s, u"123"_s, u"151"_s}));
+    EXPECT_EQ(pixel(0, 2, corner), QColor(Qt::white));
+    EXPECT_EQ(pixel(4, 2, corner), QColor(255, 255, 205));
+    EXPECT_EQ(pixel(0, 2, {3, 0}), QColor(Qt::white)) << "the first row has no line above";
+    EXPECT_EQ(pixel(1, 2, {3, 0}), QColor(Qt::black));
+    const int middle = table().columnWidth(ReadingTableModel::mark) / 2, height = table().rowHeight(0) / 2;
+    EXPECT_EQ(pixel(0, ReadingTableModel::mark, {middle, height}), QColor(Qt::white)) << "an outline";
+    EXPECT_LT(pixel(0, ReadingTableModel::mark, {middle - 5, height}).lightness(), 160);
+    EXPECT_EQ(pixel(1, ReadingTableModel::comment, {13, height}), QColor(255, 120, 0));
+    EXPECT_EQ(pixel(2, ReadingTableModel::comment, {13, height}), QColor(255, 120, 0)) << "a day without";
+    QApplication::setPalette(before);
+}
+
+TEST_F(TableViewTest, columnsAreHiddenAndRowsAreCopiedAsTheyAreShown) {
+    storeComments();
+    openTable();
+    clickPart("btnShowMam");
+    EXPECT_TRUE(table().isColumnHidden(ReadingTableModel::mam));
+    table().setFocus();
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_EQ(lines[0], u"Date\tTime\tSYS mmHg\tDIA mmHg\tPulse 1/min\tPP mmHg\tPAD\tComment"_s);
+    EXPECT_EQ(lines[2], u"03/03/2026\t08:00 A\t122\t80\t65\t42\tNo\tfirst"_s);
+    EXPECT_EQ(lines[3], u"04/03/2026\tn.a.\tn.a.\tn.a.\tn.a.\tn.a.\tn.a.\tfirst"_s);
+}
+
+TEST_F(TableViewTest, aCommentedRowSelectsItsComment) {
+    storeComments();
+    openTable();
+    EXPECT_EQ(editor().toPlainText(), u"first"_s);
+    typeComment(u"+"_s);
+    clickRow(3);
+    EXPECT_EQ(stored(u"1"_s), u"first+"_s);
+    EXPECT_EQ(editor().toPlainText(), u"second"_s);
+    EXPECT_EQ(store.getSelectedComment()->CommentID, u"2"_s);
+    press(Qt::Key_Up);
+    press(Qt::Key_Space);
+    EXPECT_EQ(editor().toPlainText(), u"first+"_s);
+    clickPart("btnNextComment");
+    EXPECT_EQ(text("lblCommentPosition"), u"2 of 2"_s);
+    clickPart("btnSide");
+    clickRow(1);
+    EXPECT_EQ(store.getSelectedComment()->CommentID, u"2"_s) << "the panel is not shown";
+}
+
+TEST_F(TableViewTest, aDayWithoutReadingsGoesWithItsComment) {
+    storeComments();
+    openTable();
+    EXPECT_EQ(systolic().size(), 4);
+    clickPart("btnDeleteComment");
+    EXPECT_EQ(systolic().size(), 3);
+}
+
+TEST_F(TableViewTest, savingACommentLeavesTheListWhereItIs) {
+    ReadingList month;
+    for (int day = 10; day < 28; ++day)
+        for (const int hour : {10, 12, 20})
+            month.push_back(reading(u"202603%1%200"_s.arg(day).arg(hour), 120));
+    storeReadings(u"P1"_s, month);
+    addComment(u"1"_s, u"20260303"_s, u"20260304"_s, u"first"_s);
+    openTable();
+    const auto& scrolled = *table().verticalScrollBar();
+    waitFor([&] { return scrolled.value() > 9; }); // at the latest readings
+    for (const int place : {0, 9, 1000}) {
+        table().verticalScrollBar()->setValue(place);
+        typeComment(u"+"_s);
+        press(Qt::Key_Tab);
+        EXPECT_EQ(scrolled.value(), std::min(place, scrolled.maximum()));
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/device/MonitorStatus.h"
+#include "app/device/MonitorWorker.h"
+#include "monitor/SimulatedMonitor.h"
+#include "monitor/SimulatedMonitorPlan.h"
+#include "support/WidgetTest.h"
+
+#include <string>
+#include <vector>
+
+namespace zel {
+
+/// A monitor that can be plugged in and pulled out.
+class PluggedPort final : public MonitorPort {
+public:
+    explicit PluggedPort(MonitorPort& monitor) : device(monitor) {}
+    PortOpen open() override;
+    bool isOpen() const override { return device.isOpen(); }
+    bool disconnected() const override { return !plugged || device.disconnected(); }
+    bool write(std::span<const std::uint8_t> report) override { return plugged && device.write(report); }
+    int read(std::span<std::uint8_t> report) override { return plugged ? device.read(report) : -1; }
+    std::atomic<bool> plugged = true;
+    std::atomic<bool> denied = false;
+    std::atomic<int> opened = 0;
+
+private:
+    MonitorPort& device;
+};
+
+/// Widgets that talk to a monitor, which is attached as the plan says.
+class MonitorTest : public WidgetTest {
+protected:
+    MonitorTest();
+    void TearDown() override;
+
+    /// Attaches a monitor made by the plan, in the place of an earlier one.
+    void attach();
+    int readingsInMonitor();
+    /// So many records as the monitor stores them: one a day, all different.
+    static std::vector<std::string> readings(int total);
+
+    SimulatedMonitorPlan plan; ///< of P1, with 12 readings
+    MonitorStatus status;
+    bool startsPlugged = true;
+    std::unique_ptr<SimulatedMonitor> device;
+    std::unique_ptr<PluggedPort> port;
+    std::unique_ptr<MonitorWorker> worker; ///< once attached
+};
+
+} // namespace zel
