@@ -1,5 +1,6 @@
 #include "report/ReportPdf.h"
 
+#include "report/PdfCharacters.h"
 #include "report/PdfFacts.h"
 #include "report/ReportPainter.h"
 #include "store/AtomicFile.h"
@@ -62,6 +63,7 @@ tl::expected<QByteArray, ReportError> makePdf(const PrintView& view, std::span<c
         QPdfWriter writer(&buffer);
         if (!paintReport(writer, view, sections)) return failed(ReportErrorCode::notPainted);
     }
+    mendCharacters(buffer.buffer());
     QByteArray pdf = withPdfFacts(std::move(buffer.buffer()), factsOf(view.report()));
     if (pdf.isNull()) return failed(ReportErrorCode::notPainted);
     return pdf;

@@ -1,4 +1,5 @@
 #include "SampleReport.h"
+#include "report/PdfCharacters.h"
 #include "report/ReportPdf.h"
 #include "store/AtomicFile.h"
 #include "support/FullDisk.h"
@@ -72,6 +73,25 @@ TEST(Pdf, everySectionIsPrintedForAYearOfDataAndForNone) {
         for (const QString& font : said(u"pdffonts"_s, pdf).split(u'\n', Qt::SkipEmptyParts).mid(2))
             EXPECT_TRUE(font.contains(embeddedWithText)) << qPrintable(font);
         EXPECT_EQ(said(u"pdfimages"_s, pdf, {u"-list"_s}).count(u'\n'), 2) << "pictures are vectors";
+    }
+}
+
+TEST(Pdf, namesTheCharacterThatWasWrittenWhereAFontHasOneGlyphForSeveral) {
+    for (const auto& [before, after] : {
+             std::pair(
+                 "2 beginbfrange\n<0000> <0000> <0000>\n<0001> <0003> [<738B> <2F29> <0009> ]\nendbfrange",
+                 "2 beginbfrange\n<0000> <0000> <0000>\n<0001> <0003> [<738B> <5C0F> <0020> ]\nendbfrange"),
+             {"1 beginbfrange\n<0001> <0001> <2F29>\nendbfrange",
+              "1 beginbfrange\n<0001> <0001> <5C0F>\nendbfrange"},
+             {"1 beginbfrange\n<0001> <0002> <2F29>\nendbfrange",
+              "1 beginbfrange\n<0001> <0002> <2F29>\nendbfrange"},
+             {"1 beginbfrange\n<0001> <0002> [<2E9F> <2F29>]",
+              "1 beginbfrange\n<0001> <0002> [<2E9F> <2F29>]"},
+             {"(<0001> <0001> <2F29>) Tj", "(<0001> <0001> <2F29>) Tj"},
+         }) {
+        QByteArray pdf(before);
+        mendCharacters(pdf);
+        EXPECT_EQ(pdf.toStdString(), after);
     }
 }
 

@@ -1,10 +1,10 @@
 #include "app/frame/ReadingFrame.h"
 
 #include "app/frame/CommentViewController.h"
-#include "app/widgets/PageHeading.h"
-#include "app/widgets/PatientTexts.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/StatisticViewController.h"
+#include "app/widgets/PageHeading.h"
+#include "app/widgets/PatientTexts.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>

@@ -1,8 +1,8 @@
 #include "app/frame/StatisticViewController.h"
 
+#include "app/frame/StatisticView.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
-#include "app/frame/StatisticView.h"
 
 #include <QCheckBox>
 #include <QEvent>

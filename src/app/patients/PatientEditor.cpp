@@ -1,9 +1,9 @@
 #include "app/patients/PatientEditor.h"
 
-#include "app/widgets/PageHeading.h"
 #include "app/patients/PatientFieldBox.h"
 #include "app/patients/PatientFieldGroup.h"
 #include "app/patients/PatientInputs.h"
+#include "app/widgets/PageHeading.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "app/patients/PatientFieldGroup.h"
 
-#include "app/widgets/PageHeading.h"
 #include "app/patients/PatientFieldBox.h"
+#include "app/widgets/PageHeading.h"
 
 #include <QGridLayout>
 

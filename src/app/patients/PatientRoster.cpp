@@ -1,8 +1,8 @@
 #include "app/patients/PatientRoster.h"
 
-#include "app/widgets/EmptyState.h"
 #include "app/patients/PatientFilter.h"
 #include "app/patients/PatientInputs.h"
+#include "app/widgets/EmptyState.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>

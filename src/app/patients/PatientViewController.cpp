@@ -1,10 +1,10 @@
 #include "app/patients/PatientViewController.h"
 
+#include "app/device/PatientIDSender.h"
+#include "app/patients/PatientEditor.h"
+#include "app/patients/PatientRoster.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/PageHeading.h"
-#include "app/patients/PatientEditor.h"
-#include "app/device/PatientIDSender.h"
-#include "app/patients/PatientRoster.h"
 #include "app/widgets/PatientTexts.h"
 #include "store/Text.h"
 

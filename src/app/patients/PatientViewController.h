@@ -2,8 +2,8 @@
 
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
-#include "app/widgets/PageController.h"
 #include "app/patients/PatientForm.h"
+#include "app/widgets/PageController.h"
 #include "store/DataStore.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "app/printing/PrintController.h"
 
-#include "app/widgets/Log.h"
 #include "app/printing/PrintPreview.h"
 #include "app/printing/PrinterController.h"
+#include "app/widgets/Log.h"
 #include "report/ReportPdf.h"
 #include "store/ExportFile.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/widgets/FileChooser.h"
 #include "app/printing/PrintSource.h"
 #include "app/printing/Printers.h"
+#include "app/widgets/FileChooser.h"
 #include "store/MessagePanel.h"
 
 #include <QDialog>

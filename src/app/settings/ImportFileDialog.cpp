@@ -1,8 +1,8 @@
 #include "app/settings/ImportFileDialog.h"
 
+#include "app/settings/XmlFileList.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/TableLook.h"
-#include "app/settings/XmlFileList.h"
 
 #include <QCheckBox>
 #include <QDir>

@@ -2,8 +2,8 @@
 
 #include "app/settings/ExportController.h"
 #include "app/settings/ImportController.h"
-#include "app/widgets/Log.h"
 #include "app/settings/SettingForm.h"
+#include "app/widgets/Log.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

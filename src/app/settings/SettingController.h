@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/widgets/FileChooser.h"
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
+#include "app/widgets/FileChooser.h"
 #include "store/DataStore.h"
 
 #include <QDialog>

@@ -1,14 +1,14 @@
 #include "app/shell/AppController.h"
 
+#include "app/device/ProgressWindowController.h"
 #include "app/graph/GraphViewController.h"
-#include "app/widgets/Log.h"
 #include "app/patients/PatientViewController.h"
 #include "app/printing/PrintController.h"
-#include "app/device/ProgressWindowController.h"
 #include "app/settings/SettingController.h"
 #include "app/shell/SplashWindow.h"
-#include "app/table/TableViewController.h"
 #include "app/shell/WindowPlacement.h"
+#include "app/table/TableViewController.h"
+#include "app/widgets/Log.h"
 
 #include <QApplication>
 #include <QShortcut>

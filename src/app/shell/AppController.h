@@ -1,13 +1,13 @@
 #pragma once
 
 #include "analysis/DisplayPeriod.h"
-#include "app/widgets/FileChooser.h"
-#include "app/shell/HelpDocument.h"
-#include "app/shell/MainWindow.h"
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWatch.h"
 #include "app/device/MonitorWorker.h"
 #include "app/printing/Printers.h"
+#include "app/shell/HelpDocument.h"
+#include "app/shell/MainWindow.h"
+#include "app/widgets/FileChooser.h"
 #include "store/DataStore.h"
 
 #include <array>

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "analysis/DisplayPeriod.h"
-#include "app/shell/AppController.h"
-#include "app/widgets/MessageBoxPanel.h"
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
 #include "app/settings/SelectFolderController.h"
+#include "app/shell/AppController.h"
+#include "app/widgets/MessageBoxPanel.h"
 #include "store/DataStore.h"
 
 #include <memory>

@@ -1,8 +1,8 @@
 #include "app/shell/MainWindow.h"
 
+#include "app/device/MonitorPanel.h"
 #include "app/patients/DataPanel.h"
 #include "app/shell/MainMenu.h"
-#include "app/device/MonitorPanel.h"
 #include "app/widgets/PageController.h"
 
 #include <QCloseEvent>
@@ -23,8 +23,8 @@ using namespace Qt::StringLiterals;
 
 MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatus)
     : status(monitorStatus), tabs{new TabButton(u"patientBtn"_s, qtTrId("tabPatients"), this),
-                                    new TabButton(u"graphBtn"_s, qtTrId("tabChart"), this),
-                                    new TabButton(u"tableBtn"_s, qtTrId("tabReadings"), this)},
+                                  new TabButton(u"graphBtn"_s, qtTrId("tabChart"), this),
+                                  new TabButton(u"tableBtn"_s, qtTrId("tabReadings"), this)},
       contentBox(new QStackedWidget(this)), lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
     setObjectName(u"mainWndow"_s); // spelled so in the interface
     setWindowIcon(QIcon(u":/icons/zel.svg"_s));

@@ -1,8 +1,8 @@
 #include "app/shell/SplashWindow.h"
 
+#include "app/shell/WindowPlacement.h"
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
-#include "app/shell/WindowPlacement.h"
 
 #include <QIcon>
 #include <QLabel>

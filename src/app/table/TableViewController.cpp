@@ -1,11 +1,11 @@
 #include "app/table/TableViewController.h"
 
 #include "app/frame/CommentViewController.h"
-#include "app/widgets/EmptyState.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/ReadingFrame.h"
 #include "app/table/ReadingTableItemView.h"
 #include "app/table/ReadingTableModel.h"
+#include "app/widgets/EmptyState.h"
 #include "app/widgets/TableLook.h"
 
 #include <QAction>
