@@ -8,6 +8,9 @@ target_compile_options(zel_warnings INTERFACE
   # GCC 12 sees the value of an empty optional as used when it is only moved, and short strings that are joined
   # as running over when <string> comes precompiled; the sanitizers look instead.
   -Wno-maybe-uninitialized -Wno-array-bounds -Wno-stringop-overflow -Wno-restrict)
+if(CMAKE_UNITY_BUILD) # a name that only its own source file sees looks like one of a header
+  target_compile_options(zel_warnings INTERFACE -Wno-subobject-linkage -Wno-shadow)
+endif()
 
 add_library(zel_flags INTERFACE)
 target_link_libraries(zel_flags INTERFACE zel_warnings)

@@ -26,11 +26,6 @@ void DrawManager::addObject(const CommentShape& shape) {
     if (!holds(shapes, shape)) shapes.push_back(shape);
 }
 
-void DrawManager::removeObject(const CommentShape& shape) {
-    deselectObject(shape);
-    std::erase(shapes, shape);
-}
-
 void DrawManager::setObjects(std::vector<CommentShape> objects) {
     shapes = std::move(objects);
     deselectAll();
@@ -42,8 +37,6 @@ void DrawManager::selectObject(const CommentShape& shape) {
     if (holds(shapes, shape) && !isSelected(shape)) selected.push_back(shape);
 }
 
-void DrawManager::deselectObject(const CommentShape& shape) { std::erase(selected, shape); }
-void DrawManager::selectAll() { selected = shapes; }
 void DrawManager::deselectAll() { selected.clear(); }
 bool DrawManager::isSelected(const CommentShape& shape) const { return holds(selected, shape); }
 

@@ -14,15 +14,12 @@ using CommentShape = std::shared_ptr<GFXRoundRect>;
 /// The boxes on the chart, bottom first, and which of them are selected.
 class DrawManager {
 public:
-    void addObject(const CommentShape& shape); ///< once only
-    void removeObject(const CommentShape& shape);
+    void addObject(const CommentShape& shape);          ///< once only
     void setObjects(std::vector<CommentShape> objects); ///< and deselects all
     void removeAllObjects();
     [[nodiscard]] std::span<const CommentShape> objects() const { return shapes; }
 
     void selectObject(const CommentShape& shape); ///< one of the objects, once
-    void deselectObject(const CommentShape& shape);
-    void selectAll();
     void deselectAll();
     [[nodiscard]] std::span<const CommentShape> selection() const { return selected; }
     [[nodiscard]] bool isSelected(const CommentShape& shape) const;

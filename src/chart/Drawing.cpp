@@ -57,21 +57,6 @@ void textOut(Picture& picture, const QString& text, Point at, const TextAttribut
     picture.emplace_back(TextLine{text, at, attribute});
 }
 
-void textOutParagraph(Picture& picture, const QString& text, Point at, double width,
-                      const TextAttribute& attribute) {
-    constexpr int mostLines = 5;
-    int from = 0;
-    for (int line = 0; line < mostLines; ++line) {
-        const int length = getLineIndex(text, from, width, attribute);
-        if (length < 1) return;
-        QString shown = text.mid(from, length);
-        if (shown.endsWith(lineFeed)) shown.chop(1);
-        textOut(picture, shown, at, attribute, XPos::left, YPos::top);
-        at.y -= textSize(shown, attribute).height;
-        from += length;
-    }
-}
-
 int getLineIndex(const QString& text, int from, double width, const TextAttribute& attribute) {
     if (from >= text.size()) return -1;
     const auto feed = text.indexOf(lineFeed, from);

@@ -12,9 +12,6 @@ enum class YPos { bottom = 0, centre = 1, top = 3 };
 /// One line of text, placed by x and y.
 void textOut(Picture& picture, const QString& text, Point at, const TextAttribute& attribute,
              XPos x = XPos::left, YPos y = YPos::bottom);
-/// Wrapped lines that hang below \p at; at most five, the rest is dropped.
-void textOutParagraph(Picture& picture, const QString& text, Point at, double width,
-                      const TextAttribute& attribute);
 
 /// Number of characters of the line that begins at \p from; -1 at the end of the text.
 [[nodiscard]] int getLineIndex(const QString& text, int from, double width, const TextAttribute& attribute);

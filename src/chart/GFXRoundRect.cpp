@@ -29,12 +29,6 @@ void GFXRoundRect::setBounds(const Rect& bounds) {
     box.y = stripY;
 }
 
-void GFXRoundRect::setLocation(Point location) {
-    box.x = location.x;
-    box.y = stripY;
-}
-
-void GFXRoundRect::offsetLocationByX(double by) { box.x += by; }
 void GFXRoundRect::offsetLocationByY(double by) { box.y += by; }
 
 Rect GFXRoundRect::drawBounds() const { return box.inset(-(2 + strokeWidth)); }
@@ -87,11 +81,6 @@ void GFXRoundRect::drawWithSelection(Picture& picture, bool selected) const {
     const Rect drawn = drawBounds();
     qCDebug(lcChart, "get the selected round rect object");
     qCDebug(lcChart, "%g %g %g %g", drawn.x, drawn.y, drawn.width, drawn.height);
-}
-
-void GFXRoundRect::drawHandles(Picture& picture) const {
-    picture.emplace_back(FillRect{handleRect(left), Qt::red});
-    picture.emplace_back(FillRect{handleRect(right), Qt::red});
 }
 
 } // namespace zel

@@ -19,8 +19,6 @@ public:
 
     [[nodiscard]] const Rect& bounds() const { return box; }
     void setBounds(const Rect& bounds);
-    void setLocation(Point location);
-    void offsetLocationByX(double by);
     void offsetLocationByY(double by);
 
     /// What is painted at most.
@@ -39,7 +37,6 @@ public:
     [[nodiscard]] static Rect newBoundsFromBounds(const Rect& bounds, Handle handle, Point delta);
 
     void drawWithSelection(Picture& picture, bool selected) const;
-    void drawHandles(Picture& picture) const;
 
 private:
     Rect box{0, 0, 35, 15};

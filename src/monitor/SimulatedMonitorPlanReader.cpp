@@ -1,3 +1,4 @@
+#include "monitor/PlanMembers.h"
 #include "monitor/SimulatedMonitorPlan.h"
 #include "store/Dates.h"
 
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace zel {
 
@@ -43,75 +43,7 @@ constexpr std::array<KindName, 11> kindNames{{
     {"denied"_L1, Kind::denied, ""_L1},
 }};
 
-QString range(int smallest, int largest) { return u"%1-%2"_s.arg(smallest).arg(largest); }
-
-/// The members of one JSON object. Each is taken by its key; what is left over at the end is unknown. The
-/// first error is kept and everything after it is of no interest.
-class Members {
-public:
-    Members(const QJsonValue& value, QString itsPath, std::optional<PlanError>& firstError)
-        : object(value.toObject()), path(std::move(itsPath)), error(firstError) {
-        if (!value.isObject()) fail(Code::notObject, {});
-    }
-
-    [[nodiscard]] bool has(const QString& key) const { return object.contains(key); }
-
-    QString text(const QString& key, int shortest, int longest) {
-        const QJsonValue value = take(key);
-        QString text = value.toString();
-        if (!value.isString()) fail(Code::notText, key);
-        if (text.size() < shortest || text.size() > longest)
-            fail(Code::wrongLength, key,
-                 shortest == longest ? QString::number(longest) : range(shortest, longest));
-        if (std::ranges::any_of(text, [](QChar c) { return c > u'\xFF'; })) fail(Code::unencodable, key);
-        return text;
-    }
-    std::string bytes(const QString& key, int shortest, int longest) {
-        return text(key, shortest, longest).toLatin1().toStdString();
-    }
-    int whole(const QString& key, int smallest, int largest) {
-        const QJsonValue value = take(key);
-        const double number = value.toDouble();
-        const bool fits =
-            value.isDouble() && number >= smallest && number <= largest && number == std::floor(number);
-        if (!fits) fail(Code::notWhole, key, range(smallest, largest));
-        return fits ? static_cast<int>(number) : smallest;
-    }
-    std::optional<int> optionalWhole(const QString& key, int smallest, int largest) {
-        return has(key) ? std::optional(whole(key, smallest, largest)) : std::nullopt;
-    }
-    /// Calls \p each with every value of a list and its path.
-    template <class Each>
-    void list(const QString& key, int most, const Each& each) {
-        const QJsonValue value = take(key);
-        if (!value.isArray()) fail(Code::notList, key);
-        const QJsonArray values = value.toArray();
-        if (values.size() > most) fail(Code::tooMany, key, QString::number(most));
-        for (qsizetype i = 0; i < values.size() && !error; ++i)
-            each(values[i], u"%1[%2]"_s.arg(pathOf(key)).arg(i));
-    }
-    QJsonValue take(const QString& key) {
-        if (!has(key)) fail(Code::missing, key);
-        return object.take(key);
-    }
-    void finish() {
-        if (!object.isEmpty()) fail(Code::unknownKey, object.keys().constFirst());
-    }
-    void fail(Code code, const QString& key, const QString& detail = {}) {
-        if (!error) error = PlanError{code, pathOf(key), detail};
-    }
-
-private:
-    [[nodiscard]] QString pathOf(const QString& key) const {
-        return path.isEmpty() || key.isEmpty() ? path + key : path + u'.' + key;
-    }
-
-    QJsonObject object;
-    QString path;
-    std::optional<PlanError>& error;
-};
-
-QString recordTime(Members& members) {
+QString recordTime(PlanMembers& members) {
     constexpr int longestTime = 16;
     const QString text = members.text(u"time"_s, 0, longestTime);
     if (text == "undated"_L1) return u"0000000000"_s;
@@ -121,7 +53,7 @@ QString recordTime(Members& members) {
     return date ? DateToStr(*date, u"yyMMddHHmm"_s) : QString{};
 }
 
-char recordFlag(Members& members) {
+char recordFlag(PlanMembers& members) {
     const QString key = u"flag"_s;
     if (!members.has(key)) return '0';
     const QJsonValue value = members.take(key);
@@ -133,7 +65,7 @@ char recordFlag(Members& members) {
     return '0';
 }
 
-std::string readRecord(Members members) {
+std::string readRecord(PlanMembers members) {
     constexpr int length = static_cast<int>(recordLength);
     if (members.has(u"raw"_s)) {
         std::string raw = members.bytes(u"raw"_s, length, length);
@@ -150,7 +82,7 @@ std::string readRecord(Members members) {
     return encode(reading);
 }
 
-const KindName& readKind(Members& members) {
+const KindName& readKind(PlanMembers& members) {
     const QString name = members.text(u"kind"_s, 0, 40);
     const auto* known =
         std::ranges::find_if(kindNames, [&](const KindName& kind) { return kind.name == name; });
@@ -162,7 +94,7 @@ const KindName& readKind(Members& members) {
     return kindNames.front();
 }
 
-std::optional<Command> readCommand(Members& members, QLatin1StringView commands) {
+std::optional<Command> readCommand(PlanMembers& members, QLatin1StringView commands) {
     const QString name = members.text(u"command"_s, 1, 4);
     const bool opening = commands.isEmpty();
     if (opening ? name == "open"_L1 : name.size() == 1 && commands.contains(name)) {
@@ -173,7 +105,7 @@ std::optional<Command> readCommand(Members& members, QLatin1StringView commands)
     return std::nullopt;
 }
 
-SimulatedFault readFault(Members members) {
+SimulatedFault readFault(PlanMembers members) {
     constexpr int mostReports = 32 + 255 * 32 + 2 + 1;
     SimulatedFault fault;
     const KindName& kind = readKind(members);
@@ -194,7 +126,7 @@ SimulatedFault readFault(Members members) {
     return fault;
 }
 
-void readLists(Members& members, SimulatedMonitorPlan& plan, std::optional<PlanError>& error) {
+void readLists(PlanMembers& members, SimulatedMonitorPlan& plan, std::optional<PlanError>& error) {
     const auto has = [&](const QString& key) { return members.has(key); };
     if (has(u"records"_s))
         members.list(u"records"_s, mostRecords, [&](const QJsonValue& value, const QString& path) {
@@ -207,7 +139,7 @@ void readLists(Members& members, SimulatedMonitorPlan& plan, std::optional<PlanE
     if (!has(u"reportSizes"_s)) return;
     plan.reportSizes.clear();
     members.list(u"reportSizes"_s, 1000, [&](const QJsonValue& value, const QString& path) {
-        Members size(QJsonObject{{path, value}}, {}, error);
+        PlanMembers size(QJsonObject{{path, value}}, {}, error);
         plan.reportSizes.push_back(static_cast<std::size_t>(size.whole(path, 1, reportCapacity)));
     });
     if (plan.reportSizes.empty()) members.fail(Code::missing, u"reportSizes[0]"_s);
@@ -222,8 +154,8 @@ tl::expected<SimulatedMonitorPlan, PlanError> readPlan(const QByteArray& json) {
         return tl::unexpected(
             PlanError{Code::notJson, QString::number(parsing.offset), parsing.errorString()});
     std::optional<PlanError> error;
-    Members members(document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()), {},
-                    error);
+    PlanMembers members(document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()),
+                        {}, error);
     SimulatedMonitorPlan plan;
     plan.model = members.bytes(u"model"_s, 2, 2);
     plan.ID = members.bytes(u"id"_s, 0, static_cast<int>(longestID));

@@ -16,7 +16,7 @@ void fieldText(Picture& picture, const QString& text, Point at, double width, co
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
                  XPos x = XPos::left);
 
-/// As textOutParagraph(), hanging below \p at, with \p mostLines lines; the last one ends in an ellipsis if
+/// Wrapped lines that hang below \p at, \p mostLines at most; the last one ends in an ellipsis if
 /// the text goes on.
 void fieldParagraph(Picture& picture, const QString& text, Point at, double width,
                     const TextAttribute& attribute, int mostLines = 5);

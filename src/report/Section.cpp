@@ -36,10 +36,6 @@ std::optional<Section> sectionByKey(const QString& key) {
     return find([&](const SectionFacts& row) { return key == QLatin1StringView(row.key); });
 }
 
-std::optional<Section> sectionByText(const QString& text) {
-    return find([&](const SectionFacts& row) { return text == row.text(); });
-}
-
 QPageLayout::Orientation getOrientation(std::optional<Section> section) {
     return section ? facts(*section).orientation : landscape;
 }

@@ -22,8 +22,6 @@ struct SectionFacts {
 [[nodiscard]] std::span<const SectionFacts> sections();
 [[nodiscard]] const SectionFacts& facts(Section section);
 [[nodiscard]] std::optional<Section> sectionByKey(const QString& key);
-/// The section that the user reads as \p text, or none.
-[[nodiscard]] std::optional<Section> sectionByText(const QString& text);
 /// Landscape for no section, too.
 [[nodiscard]] QPageLayout::Orientation getOrientation(std::optional<Section> section);
 

@@ -67,15 +67,7 @@ void DataStore::keepSelectedComment() {
 }
 
 QString DataStore::getZELXMLPath() const { return file.getZELXMLPath(); }
-QString DataStore::getZELXMLPath_Old() const { return file.getZELXMLPath_Old(); }
 QString DataStore::getTargetString() const { return file.getTargetString(); }
-
-int DataStore::getPatientCount(const QString& path) {
-    const auto document = DataFile::readDocument(path);
-    if (!document) return 0;
-    return static_cast<int>(std::ranges::count_if(
-        document->root().children(), [](pugi::xml_node node) { return isElement(node, "Patient"); }));
-}
 
 bool DataStore::checkXmlWritable(MessagePanel& panel) const {
     if (file.isWritable()) return true;

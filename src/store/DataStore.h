@@ -33,10 +33,7 @@ public:
     [[nodiscard]] const StoreResult& lastLoad() const { return loaded; }
 
     [[nodiscard]] QString getZELXMLPath() const;
-    [[nodiscard]] QString getZELXMLPath_Old() const;
     [[nodiscard]] QString getTargetString() const;
-    /// Number of patients in the document at \p path; 0 on any failure.
-    [[nodiscard]] static int getPatientCount(const QString& path);
     /// \return false, after telling the user, if the data file may not be written
     bool checkXmlWritable(MessagePanel& panel) const;
 

@@ -78,16 +78,6 @@ QString DateToStr_EN(const Date& date, const QString& pattern) {
     return formatDate(date, pattern, getLocale(1), utcZone());
 }
 
-QString DateToWeekDayStr(const Date& date) { return DateToStr_EN(date, u"EEEE"_s); }
-
-QString getEnglishMonthStr(const Date& date) {
-    return formatDate(date, u"MMMM"_s, getLocale(0), systemZone());
-}
-
-QString getEnglishYearMonthStr(const Date& date) {
-    return formatDate(date, u"MMMM yyyy"_s, getLocale(0), systemZone());
-}
-
 Instant getNilDate() { return startOfDay(dayNumber(1, 1, 1)); }
 
 Instant getNilReadingDate() { return startOfDay(nilReadingDay); }
@@ -131,11 +121,7 @@ Instant getDateMonthAgo(Instant date, int months) {
     return U_SUCCESS(status) ? fromUDate(earlier) : date;
 }
 
-bool isBetweenDate(Instant d, Instant a, Instant b) { return a <= d && d <= b; }
-
 bool greaterInDay(Instant a, Instant b) { return localDay(a) > localDay(b); }
-
-bool greaterOrEqualInDay(Instant a, Instant b) { return localDay(a) >= localDay(b); }
 
 int GetAge(Instant birth, Instant today) {
     const auto from = civil(localDay(birth));

@@ -25,10 +25,6 @@ using Date = std::optional<Instant>;
 [[nodiscard]] QString DateToStr(const Date& date, const QString& pattern);
 /// As DateToStr, in UTC.
 [[nodiscard]] QString DateToStr_EN(const Date& date, const QString& pattern);
-/// Weekday name, in UTC.
-[[nodiscard]] QString DateToWeekDayStr(const Date& date);
-[[nodiscard]] QString getEnglishMonthStr(const Date& date);
-[[nodiscard]] QString getEnglishYearMonthStr(const Date& date);
 
 /// 0001-01-01 00:00 local time: an unknown date of birth, a comment's date that is not set.
 [[nodiscard]] Instant getNilDate();
@@ -48,10 +44,7 @@ using Date = std::optional<Instant>;
 /// Whole seconds from a to b, truncated toward zero.
 [[nodiscard]] std::int64_t SecondDiff(Instant a, Instant b);
 [[nodiscard]] Instant getDateMonthAgo(Instant date, int months);
-/// a <= d <= b, to the instant.
-[[nodiscard]] bool isBetweenDate(Instant d, Instant a, Instant b);
 [[nodiscard]] bool greaterInDay(Instant a, Instant b);
-[[nodiscard]] bool greaterOrEqualInDay(Instant a, Instant b);
 /// Whole years; a birthday on 29 February is reached on 1 March in other years.
 [[nodiscard]] int GetAge(Instant birth, Instant today);
 

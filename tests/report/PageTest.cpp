@@ -23,9 +23,8 @@ TEST(Page, geometryFollowsThePaperAndItsMargins) {
     EXPECT_EQ(at.drawingRect, (Rect{48, 132, 499, 588}));
 }
 
-TEST(Page, sectionsAreFoundByKeyAndTextAndHaveTheirOrientation) {
+TEST(Page, sectionsAreFoundByKeyAndHaveTheirOrientation) {
     EXPECT_EQ(sectionByKey(u"SWStatistics"_s), Section::SWStatistics);
-    EXPECT_EQ(sectionByText(facts(Section::comment).text()), Section::comment);
     EXPECT_EQ(sectionByKey(u"Graph"_s), std::nullopt);
     EXPECT_EQ(getOrientation(std::nullopt), QPageLayout::Landscape);
     std::vector<Section> upright;

@@ -48,16 +48,6 @@ TEST(Text, HexadecimalNumbersStopAtTheFirstOtherCharacter) {
 }
 
 TEST(Text, SmallRules) {
-    EXPECT_EQ(TruncateLines(u"one\ntwo\nthree"_s, 2), u"one\r\ntwo"_s);
-    EXPECT_EQ(TruncateLines(u"one\r\ntwo"_s, 9), u"one\r\ntwo"_s);
-    EXPECT_EQ(TruncateLines(u"one"_s, 0), u""_s);
-    EXPECT_EQ(getStrAfter(u"a/b/c"_s, u"/"_s), u"b/c"_s);
-    EXPECT_EQ(getStrAfter(u"a/"_s, u"/"_s), u""_s);
-    EXPECT_EQ(getStrAfter(u"a"_s, u"/"_s), u""_s);
-    EXPECT_TRUE(isDecimalString(u""_s));
-    EXPECT_TRUE(isDecimalString(u"1.2.3"_s));
-    EXPECT_FALSE(isDecimalString(u"12a"_s));
-    EXPECT_FALSE(isDecimalString(u"１２"_s)); // digits of another script
     EXPECT_TRUE(IsEmptyID(u"-"_s));
     EXPECT_FALSE(IsEmptyID(u" -"_s));
     EXPECT_EQ(IncreaseID(u"1000041"_s), u"1000042"_s);

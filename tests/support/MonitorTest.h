@@ -34,7 +34,7 @@ protected:
     MonitorTest();
     void TearDown() override;
 
-    /// Attaches a monitor made by the plan, in the place of an earlier one.
+    /// Attaches a monitor made by the plan, in the place of an earlier one; nothing is known of it yet.
     void attach();
     int readingsInMonitor();
     /// So many records as the monitor stores them: one a day, all different.

@@ -1,19 +1,12 @@
 #include "app/frame/CommentViewController.h"
 
+#include "app/frame/CommentForm.h"
 #include "app/widgets/Log.h"
-#include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
-#include "chart/StyleTable.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QFocusEvent>
-#include <QGridLayout>
-#include <QIcon>
-#include <QPlainTextEdit>
-#include <QPushButton>
+#include <QGuiApplication>
 #include <QScopedValueRollback>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,93 +19,26 @@ using namespace Qt::StringLiterals;
 CommentViewController::CommentViewController(DataStore& dataStore, MessagePanel& messagePanel,
                                              QWidget* parent)
     : SidePanel(u"commentPanel"_s, qtTrId("commentPanel"), parent), store(dataStore), panel(messagePanel),
-      lblPatient(new QuietLabel({}, this)), lblBeginDate(new QLabel(this)), lblEndDate(new QLabel(this)),
-      textBox(new QFrame(this)), commentText(new QPlainTextEdit(textBox)), btnPrevious(new QToolButton(this)),
-      btnNext(new QToolButton(this)), lblPosition(new QLabel(this)), btnDelete(new QPushButton(this)) {
-    build();
+      form(new CommentForm(this)) {
+    static_cast<QVBoxLayout*>(layout())->addWidget(form, 1);
+    connect(form, &CommentForm::previousWanted, this, [this] { go(false); });
+    connect(form, &CommentForm::nextWanted, this, [this] { go(true); });
+    connect(form, &CommentForm::deleteWanted, this, &CommentViewController::deleteComment);
+    connect(form, &CommentForm::textLeft, this, &CommentViewController::checkToSaveComment);
     connect(&store, &DataStore::reloaded, this, &CommentViewController::LoadData);
     connect(&store, &DataStore::currentIDChanged, this, &CommentViewController::LoadData);
     LoadData();
 }
 
-void CommentViewController::build() {
-    lblPatient->setObjectName(u"lblCommentPatient"_s);
-    lblPatient->setTextFormat(Qt::PlainText);
-    lblPatient->setWordWrap(true);
-    auto* dates = new QGridLayout;
-    dates->setHorizontalSpacing(8);
-    dates->setColumnStretch(1, 1);
-    int row = 0;
-    for (const auto& [title, value, name] :
-         {std::tuple(qtTrId("commentBegin"), lblBeginDate, u"lblCommentBegin"_s),
-          {qtTrId("commentEnd"), lblEndDate, u"lblCommentEnd"_s}}) {
-        value->setObjectName(name);
-        dates->addWidget(new QuietLabel(title, this), row, 0);
-        dates->addWidget(value, row++, 1);
-    }
-    textBox->setObjectName(u"commentBox"_s);
-    commentText->setObjectName(u"commentText"_s);
-    commentText->setAccessibleName(qtTrId("commentText"));
-    commentText->setFrameShape(QFrame::NoFrame);
-    commentText->setTabChangesFocus(true);
-    QPalette colours;
-    colours.setColor(QPalette::PlaceholderText, QColor(128, 128, 128)); // can be read on any background
-    commentText->setPalette(colours);
-    commentText->setMinimumHeight(commentText->fontMetrics().lineSpacing() * 4);
-    commentText->installEventFilter(this);
-    auto* inside = new QVBoxLayout(textBox);
-    inside->setContentsMargins(2, 2, 2, 2);
-    inside->addWidget(commentText);
-    auto* content = static_cast<QVBoxLayout*>(layout());
-    content->addWidget(lblPatient);
-    content->addSpacing(6);
-    content->addLayout(dates);
-    content->addSpacing(8);
-    content->addWidget(textBox, 1);
-    content->addSpacing(8);
-    content->addWidget(makeButtons());
-}
-
-QWidget* CommentViewController::makeButtons() {
-    auto* buttons = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(4);
-    const auto place = [&](QToolButton* button, const QString& name, Qt::ArrowType arrow,
-                           const QString& hint) {
-        button->setObjectName(name);
-        button->setArrowType(arrow);
-        button->setAccessibleName(hint);
-        button->setToolTip(hint);
-        button->setAutoRaise(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        row->addWidget(button);
-    };
-    const auto go = [this](bool forward) {
-        const auto at = shown ? indexOf(shown->CommentID) : std::nullopt;
-        if (at && (forward || *at > 0)) selectComment(forward ? *at + 1 : *at - 1);
-    };
-    place(btnPrevious, u"btnPreviousComment"_s, Qt::LeftArrow, qtTrId("previousComment"));
-    lblPosition->setObjectName(u"lblCommentPosition"_s);
-    row->addWidget(lblPosition);
-    place(btnNext, u"btnNextComment"_s, Qt::RightArrow, qtTrId("nextComment"));
-    row->addStretch(1);
-    btnDelete->setObjectName(u"btnDeleteComment"_s);
-    btnDelete->setText(qtTrId("deleteCommentButton"));
-    btnDelete->setAccessibleName(qtTrId("DeleteComment"));
-    btnDelete->setToolTip(qtTrId("deleteCommentHint"));
-    btnDelete->setIconSize({18, 18});
-    row->addWidget(btnDelete);
-    connect(btnPrevious, &QToolButton::clicked, this, [go] { go(false); });
-    connect(btnNext, &QToolButton::clicked, this, [go] { go(true); });
-    connect(btnDelete, &QPushButton::clicked, this, &CommentViewController::deleteComment);
-    return buttons;
+void CommentViewController::go(bool forward) {
+    const auto at = shown ? indexOf(shown->CommentID) : std::nullopt;
+    if (at && (forward || *at > 0)) selectComment(forward ? *at + 1 : *at - 1);
 }
 
 void CommentViewController::LoadData() {
     if (isLoading) return;
     const QScopedValueRollback loading(isLoading, true);
-    lblPatient->setText(patientHeading(store));
+    form->showPatient(patientHeading(store));
     if (isChanged() && shown->ID == store.getCurrentID()) return showPosition();
     if (isChanged() && !store.validIDinXML(shown->ID)) rescueText();
     if (const CommentModel* selected = store.getSelectedComment()) return show(*selected);
@@ -152,27 +78,18 @@ std::optional<std::size_t> CommentViewController::indexOf(const QString& comment
 void CommentViewController::show(const CommentModel& comment) {
     const bool isSame = shown && shown->CommentID == comment.CommentID && shown->comment == comment.comment;
     enableCommentUI(true);
-    if (!isSame) commentText->setPlainText(comment.comment);
-    commentText->document()->setModified(false);
-    commentText->setReadOnly(comment.CommentID.isEmpty()); // it could not be found again in the file
+    if (!isSame) form->showText(comment.comment);
+    form->settle();
+    form->setReadOnly(comment.CommentID.isEmpty()); // it could not be found again in the file
     shown = comment;
-    const int degree = static_cast<int>(comment.degree);
-    btnDelete->setIcon(QIcon(":/images/"_L1 + getCommentDeleteImage(degree) + ".svg"_L1));
-    textBox->setStyleSheet(
-        u"#commentBox { border: 2px solid %1; }"_s.arg(getCommentColor(degree, true).name()));
+    form->showDegree(static_cast<int>(comment.degree));
     updateDaetInfo(comment);
     showPosition();
 }
 
 void CommentViewController::enableCommentUI(bool enabled) {
-    commentText->setEnabled(enabled);
-    commentText->setReadOnly(!enabled);
-    btnDelete->setEnabled(enabled);
-    if (enabled) return commentText->setPlaceholderText({});
-    commentText->clear();
-    commentText->setPlaceholderText(qtTrId("noComments"));
-    btnDelete->setIcon({});
-    textBox->setStyleSheet(u"#commentBox { border: 1px solid palette(mid); }"_s);
+    form->enable(enabled);
+    if (enabled) return;
     updateDaetInfo({});
     showPosition();
 }
@@ -182,40 +99,37 @@ void CommentViewController::updateDaetInfo(const CommentModel& comment) {
     const auto text = [&format](const Date& date) {
         return DateToStr(date.value_or(getNilDate()), format.isNull() ? u"yyyy/MM/dd"_s : format);
     };
-    lblBeginDate->setText(text(comment.beginDate));
-    lblEndDate->setText(text(comment.endDate));
+    form->showDates(text(comment.beginDate), text(comment.endDate));
 }
 
 void CommentViewController::showPosition() {
-    const std::size_t total = store.getCommentForCurID().size();
-    const auto index = shown ? indexOf(shown->CommentID) : std::nullopt;
-    lblPosition->setText(index ? qtTrId("commentPosition").arg(*index + 1).arg(total) : QString());
-    btnPrevious->setEnabled(index && *index > 0);
-    btnNext->setEnabled(index && *index + 1 < total);
+    if (const auto index = shown ? indexOf(shown->CommentID) : std::nullopt)
+        form->showPosition(*index, store.getCommentForCurID().size());
+    else
+        form->showNoPosition();
 }
 
 bool CommentViewController::isChanged() const {
-    return shown && !commentText->isReadOnly() && commentText->document()->isModified()
-           && commentText->toPlainText() != shown->comment;
+    return shown && form->isEdited() && form->text() != shown->comment;
 }
 
 /// Writes a copy: on a failure, neither the store nor the panel has changed.
 StoreResult CommentViewController::save() {
     if (isLoading || !isChanged()) return {};
     CommentModel comment = *shown;
-    comment.comment = commentText->toPlainText();
+    comment.comment = form->text();
     // The patient may turn out to be gone from the file: then another one's comment is shown now.
     if (StoreResult saved = store.saveCommentToXML(comment); !saved) return saved;
     if (!shown || shown->CommentID != comment.CommentID || shown->ID != comment.ID) return {};
     shown->comment = comment.comment;
-    commentText->document()->setModified(false);
+    form->settle();
     return {};
 }
 
 /// The patient is gone from the file while a comment is being typed: nothing is left to save it to.
 void CommentViewController::rescueText() {
-    QGuiApplication::clipboard()->setText(commentText->toPlainText());
-    commentText->document()->setModified(false);
+    QGuiApplication::clipboard()->setText(form->text());
+    form->settle();
     const QString told = qtTrId("commentPatientGone").arg(shown->ID);
     // Once all has been read anew: the message waits for an answer.
     QMetaObject::invokeMethod(
@@ -248,18 +162,6 @@ void CommentViewController::deleteComment() {
     if (deleted) return LoadData();
     shown = std::move(kept);
     panel.ShowMessage(describe(deleted.error()), qtTrId("Warning"));
-}
-
-bool CommentViewController::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::FocusOut) return SidePanel::eventFilter(watched, event);
-    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    const bool isAway = reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
-    // The window itself takes the focus when the page is left, which saves and asks in one.
-    if (isAway && QApplication::focusWidget() != window()) {
-        qCInfo(lcApp, "comment textDidEndEditing");
-        checkToSaveComment();
-    }
-    return SidePanel::eventFilter(watched, event);
 }
 
 } // namespace zel

@@ -5,11 +5,9 @@
 
 #include <optional>
 
-class QPlainTextEdit;
-class QPushButton;
-class QToolButton;
-
 namespace zel {
+
+class CommentForm;
 
 /// The panel beside table and chart that shows one of the current patient's comments at a time, to be read,
 /// changed and deleted.
@@ -40,12 +38,8 @@ public:
 signals:
     void commentSelected(); ///< the store's selected comment is another one
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
-    void build();
-    QWidget* makeButtons();
+    void go(bool forward);
     void show(const CommentModel& comment);
     void showPosition();
     void rescueText();
@@ -56,15 +50,7 @@ private:
     MessagePanel& panel;
     std::optional<CommentModel> shown; ///< as it was last read or saved
     bool isLoading = false;
-    QLabel* lblPatient;
-    QLabel* lblBeginDate;
-    QLabel* lblEndDate;
-    QFrame* textBox;
-    QPlainTextEdit* commentText;
-    QToolButton* btnPrevious;
-    QToolButton* btnNext;
-    QLabel* lblPosition;
-    QPushButton* btnDelete;
+    CommentForm* form;
 };
 
 } // namespace zel

@@ -2,6 +2,7 @@
 
 #include "app/frame/PeriodMoves.h"
 #include "app/graph/BloodView.h"
+#include "app/graph/PointedReading.h"
 #include "app/graph/PulseView.h"
 
 #include <QGridLayout>
@@ -18,35 +19,14 @@ namespace {
 
 constexpr int bloodShare = 7, pulseShare = 3; ///< of the height, as on paper
 constexpr int wheelStep = 120;
-constexpr int markSize = 11;
-
-/// The reading after or before one of them, or else the first or last one of the period; null at the end.
-const ReadingModel* nextReading(const ChartSource& source, const ReadingModel* from, bool forward) {
-    const auto& readings = source.data.maReading;
-    const auto known = std::ranges::find(readings, from, &ChartReading::reading);
-    const bool isKnown = from && known != readings.end();
-    const auto isShown = [&source](const ChartReading& reading) {
-        return MatchedDataType(source.view, reading.isPMData) && !reading.reading->isUndated();
-    };
-    if (forward) {
-        const auto begin =
-            isKnown ? known + 1
-                    : std::ranges::lower_bound(readings, source.period.begin, {}, &ChartReading::date);
-        const auto next = std::find_if(begin, readings.end(), isShown);
-        return next == readings.end() ? nullptr : next->reading;
-    }
-    const auto end =
-        isKnown ? known : std::ranges::upper_bound(readings, source.period.end, {}, &ChartReading::date);
-    const auto previous = std::find_if(std::make_reverse_iterator(end), readings.rend(), isShown);
-    return previous == readings.rend() ? nullptr : previous->reading;
-}
 
 } // namespace
 
 DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayPeriod,
                              ChartComments& chartComments, QWidget* parent)
     : QWidget(parent), store(dataStore), period(displayPeriod), bloodView(new BloodView(source, this)),
-      pulseView(new PulseView(source, chartComments, this)) {
+      pulseView(new PulseView(source, chartComments, this)),
+      pointed(new PointedReading(store, source, {bloodView, pulseView}, this)) {
     setObjectName(u"DrawGraphicVC"_s);
     setFocusProxy(bloodView);
     auto* grid = new QGridLayout(this);
@@ -62,13 +42,6 @@ DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayP
     grid->addWidget(timeScroller, 2, 0);
     grid->setRowStretch(0, bloodShare);
     grid->setRowStretch(1, pulseShare);
-    for (ChartView* view : {static_cast<ChartView*>(bloodView), static_cast<ChartView*>(pulseView)}) {
-        connect(view, &ChartView::hovered, this,
-                [this, view](const ReadingModel* reading, QPoint mark) { hover(*view, reading, mark); });
-        connect(view, &ChartView::focusLeft, this, [this] {
-            if (infoView && !isHovering) infoView->hide(); // it could cover where the focus has gone
-        });
-    }
     connect(&store, &DataStore::reloaded, this, &DrawGraphicVC::reload);
     connect(&store, &DataStore::currentIDChanged, this, &DrawGraphicVC::reload);
     connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::showPeriod);
@@ -90,7 +63,7 @@ QScrollBar* DrawGraphicVC::addValueScroller(const QString& name, const QString& 
     scroller->setValue(start);
     connect(scroller, &QScrollBar::valueChanged, &view, [this, &view](int value) {
         view.setScaleBase(value + lowestBase);
-        if (infoView) infoView->hide();
+        pointed->hideInfo();
     });
     return scroller;
 }
@@ -113,7 +86,7 @@ QScrollBar* DrawGraphicVC::addTimeScroller() {
 void DrawGraphicVC::forgetPointed() {
     bloodView->invalidate();
     pulseView->invalidate();
-    point(nullptr);
+    pointed->forget();
 }
 
 void DrawGraphicVC::reload() {
@@ -174,7 +147,8 @@ void DrawGraphicVC::setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const {
 }
 
 Instant DrawGraphicVC::commentDay() const {
-    return pointed ? pointed->ReadingDate.value_or(source.period.begin) : source.period.begin;
+    const ReadingModel* reading = pointed->reading();
+    return reading ? reading->ReadingDate.value_or(source.period.begin) : source.period.begin;
 }
 
 /// A day, and more of them where a day can hardly be seen.
@@ -205,8 +179,8 @@ void DrawGraphicVC::keyPressEvent(QKeyEvent* event) {
     } else if (key == Qt::Key_Up || key == Qt::Key_Down) {
         return values->triggerAction(key == Qt::Key_Up ? QScrollBar::SliderSingleStepAdd
                                                        : QScrollBar::SliderSingleStepSub);
-    } else if (key == Qt::Key_Escape && pointed) {
-        return point(nullptr);
+    } else if (key == Qt::Key_Escape && pointed->reading()) {
+        return pointed->forget();
     } else if (movedByKey(key)) {
         return;
     }
@@ -229,45 +203,16 @@ void DrawGraphicVC::wheelEvent(QWheelEvent* event) {
 }
 
 void DrawGraphicVC::hideEvent(QHideEvent* event) {
-    point(nullptr);
+    pointed->forget();
     QWidget::hideEvent(event);
-}
-
-void DrawGraphicVC::point(const ReadingModel* reading) {
-    pointed = reading;
-    bloodView->setPointed(reading);
-    pulseView->setPointed(reading);
-    if (!reading && infoView) infoView->hide();
-    if (!reading) isHovering = false;
-}
-
-void DrawGraphicVC::hover(ChartView& view, const ReadingModel* reading, QPoint mark) {
-    if (!reading && isHovering) return point(nullptr);
-    if (!reading || reading == pointed) return;
-    point(reading);
-    isHovering = true;
-    showInfo(view, *reading, mark);
-}
-
-void DrawGraphicVC::showInfo(ChartView& view, const ReadingModel& reading, QPoint mark) {
-    const ReadingInfo info = readingInfo(reading, store);
-    view.setAccessibleDescription(spokenInfo(info));
-    if (!infoView) infoView = new BPInfoView(window());
-    // A value out of the scale has its mark out of sight.
-    const QPoint inView(std::clamp(mark.x(), 0, view.width()), std::clamp(mark.y(), 0, view.height()));
-    const QPoint at = view.mapTo(window(), inView);
-    infoView->showReading(info, QRect(at - QPoint(markSize / 2, markSize / 2), QSize(markSize, markSize)));
 }
 
 /// To the next reading or the one before, with the period after it where it lies outside.
 void DrawGraphicVC::walk(bool forward) {
-    const ReadingModel* found = nextReading(source, pointed, forward);
+    const ReadingModel* found = pointed->next(forward);
     if (!found) return;
     setTimePeriod(movedTo(source.period, *found->ReadingDate));
-    point(found);
-    isHovering = false;
-    ChartView* const view = pulseView->hasFocus() ? static_cast<ChartView*>(pulseView) : bloodView;
-    showInfo(*view, *found, view->place(*found));
+    pointed->walkTo(pulseView->hasFocus() ? static_cast<ChartView&>(*pulseView) : *bloodView, *found);
 }
 
 void DrawGraphicVC::describe() {

@@ -1,21 +1,18 @@
 #pragma once
 
 #include "analysis/DisplayPeriod.h"
-#include "app/graph/BPInfoView.h"
 #include "app/graph/ChartComments.h"
 #include "app/graph/ChartView.h"
-
-#include <QPointer>
 
 class QScrollBar;
 
 namespace zel {
 
 class BloodView;
+class PointedReading;
 class PulseView;
 
-/// Both charts with their scroll bars: moves and widens the period, and shows the reading that the pointer or
-/// the keys have come to.
+/// Both charts with their scroll bars: moves and widens the period, and walks from reading to reading.
 class DrawGraphicVC final : public QWidget {
     Q_OBJECT
 public:
@@ -51,9 +48,6 @@ private:
 
     void walk(bool forward);
     void forgetPointed();
-    void point(const ReadingModel* reading);
-    void showInfo(ChartView& view, const ReadingModel& reading, QPoint mark);
-    void hover(ChartView& view, const ReadingModel* reading, QPoint mark);
     void describe();
 
     const DataStore& store;
@@ -61,13 +55,11 @@ private:
     ChartSource source;
     BloodView* bloodView;
     PulseView* pulseView;
+    PointedReading* pointed;
     QScrollBar* bloodScroller;
     QScrollBar* pulseScroller;
     QScrollBar* timeScroller;
-    QPointer<BPInfoView> infoView; ///< the window's child, as it may reach over everything in it
-    const ReadingModel* pointed = nullptr;
-    bool isHovering = false; ///< the pointer has come to it, not the keys
-    QPoint wheelled;         ///< parts of a wheel's step, of both axes, that did not make a move yet
+    QPoint wheelled; ///< parts of a wheel's step, of both axes, that did not make a move yet
 };
 
 } // namespace zel

@@ -107,12 +107,8 @@ void GraphViewController::setView(int state) {
 
 void GraphViewController::reload() { setView(viewState); }
 
-void GraphViewController::toggleGraph() { setView(0); }
-void GraphViewController::toggleHistogram() { setView(1); }
-void GraphViewController::toggleCorrelation() { setView(2); }
-
 void GraphViewController::switchToGraph() {
-    toggleGraph();
+    setView(0);
     setFocus();
 }
 

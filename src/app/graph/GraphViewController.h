@@ -37,9 +37,6 @@ public:
     [[nodiscard]] bool leave() override;
     void checkToSaveComment() override;
 
-    void toggleGraph();
-    void toggleHistogram();
-    void toggleCorrelation();
     /// Brings the chart to the front of the page.
     void switchToGraph();
     /// 0 chart, 1 histogram, 2 correlation.

@@ -1,6 +1,7 @@
 #include "app/patients/PatientViewController.h"
 
 #include "app/device/PatientIDSender.h"
+#include "app/patients/PatientButtons.h"
 #include "app/patients/PatientEditor.h"
 #include "app/patients/PatientRoster.h"
 #include "app/widgets/EmptyState.h"
@@ -8,20 +9,16 @@
 #include "app/widgets/PatientTexts.h"
 #include "store/Text.h"
 
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
-
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
 PatientViewController::PatientViewController(const Parts& needed)
-    : parts(needed), store(needed.store),
+    : parts(needed), store(needed.store), writer(needed.store, needed.panel),
       sender(new PatientIDSender(needed.status, needed.monitor, needed.panel, this)),
       roster(new PatientRoster(needed.store, this)), editor(new PatientEditor(needed.clock, this)),
       noPatients(new EmptyState(u"noPatients"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
@@ -62,46 +59,20 @@ void PatientViewController::build() {
     column->setSpacing(12);
     column->addWidget(heading);
     column->addWidget(rosterOrAdvice, 1);
-    column->addWidget(makeButtons());
+    buttons = makeButtons();
+    column->addWidget(buttons);
 }
 
-QWidget* PatientViewController::makeButtons() {
-    auto* buttons = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    const auto* newButton =
-        addButton(*row, u"btnNewPatient"_s, qtTrId("newPatientButton"), qtTrId("newPatientHint"));
-    deleteButton =
-        addButton(*row, u"btnDeletePatient"_s, qtTrId("deletePatientButton"), qtTrId("deletePatientHint"));
-    row->addStretch(1);
-    saveButton = addButton(*row, u"btnSavePatient"_s, qtTrId("savePatientButton"), qtTrId("savePatientHint"));
-    sendIDButton = addButton(*row, u"btnSendID"_s, qtTrId("sendIDButton"), qtTrId("sendIDHint"));
-    downloadButton = addButton(*row, u"btnDataTransfer"_s, qtTrId("downloadButton"), qtTrId("downloadHint"));
-    connect(newButton, &QPushButton::clicked, this, &PatientViewController::btnNewPatient);
-    connect(deleteButton, &QPushButton::clicked, this, &PatientViewController::btnDeletePatient);
-    connect(saveButton, &QPushButton::clicked, this, &PatientViewController::btnSavePatient);
-    connect(sendIDButton, &QPushButton::clicked, this, &PatientViewController::sendID);
-    connect(downloadButton, &QPushButton::clicked, this, [this] {
+PatientButtons* PatientViewController::makeButtons() {
+    auto* made = new PatientButtons(this);
+    connect(made, &PatientButtons::newWanted, this, &PatientViewController::btnNewPatient);
+    connect(made, &PatientButtons::deleteWanted, this, &PatientViewController::btnDeletePatient);
+    connect(made, &PatientButtons::saveWanted, this, &PatientViewController::btnSavePatient);
+    connect(made, &PatientButtons::sendIDWanted, this, &PatientViewController::sendID);
+    connect(made, &PatientButtons::downloadWanted, this, [this] {
         if (leave()) emit dataTransferWanted();
     });
-    const auto press = [this](int key, const QPushButton* button) {
-        connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, button,
-                &QPushButton::click);
-    };
-    press(Qt::Key_N, newButton);
-    press(Qt::Key_D, downloadButton);
-    return buttons;
-}
-
-QPushButton* PatientViewController::addButton(QHBoxLayout& row, const QString& name, const QString& text,
-                                              const QString& hint) {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(name);
-    button->setAccessibleName(QString(text).remove(u'&'));
-    button->setToolTip(hint);
-    row.addWidget(button);
-    return button;
+    return made;
 }
 
 void PatientViewController::LoadData() { enableButtons(); }
@@ -223,28 +194,15 @@ void PatientViewController::btnNewPatient() {
 }
 
 bool PatientViewController::btnSavePatient() {
-    if (!isThere(store.getCurrentID()) || !isUnique(store.getCurrentID())) return false;
+    if (!isThere(store.getCurrentID()) || !writer.isUnique(store.getCurrentID())) return false;
     const auto found = problems();
     editor->mark(found);
     if (!found.empty()) {
-        tell(found);
+        writer.refuse(found);
         return false;
     }
     const PatientModel record = editor->shownForm().record(editor->entry());
-    const bool isNew = editor->shownForm().isNew();
-    if (const StoreResult written = isNew ? store.addXMLPatient(record) : store.saveXMLPatient(record);
-        !written) {
-        parts.panel.ShowMessage(describe(written.error()), qtTrId("Warning"));
-        return false;
-    }
-    return saved(record);
-}
-
-/// Records of the same ID cannot be told apart in the file: a change might go to the wrong one.
-bool PatientViewController::isUnique(const QString& ID) {
-    if (std::ranges::count(store.getPatientArray(), ID, &PatientModel::ID) < 2) return true;
-    parts.panel.ShowMessage(qtTrId("patientIDTwice").arg(ID), qtTrId("Warning"));
-    return false;
+    return writer.write(record, editor->shownForm().isNew()) && saved(record);
 }
 
 std::vector<PatientProblem> PatientViewController::problems() const {
@@ -256,24 +214,11 @@ std::vector<PatientProblem> PatientViewController::problems() const {
     return found;
 }
 
-/// One message, for what stands first in the order of the checks; each field says the rest.
-void PatientViewController::tell(const std::vector<PatientProblem>& found) {
-    const auto& first = *std::ranges::min_element(found, {}, &PatientProblem::kind);
-    if (first.kind == PatientProblem::Kind::missing)
-        return parts.panel.ShowMessage(qtTrId("patientsInputFields"), qtTrId("Warning"));
-    if (first.kind == PatientProblem::Kind::sameID)
-        return parts.panel.ShowMessage(first.text, qtTrId("sameIDTitle"));
-    QStringList texts;
-    for (const PatientProblem& problem : found)
-        texts += problem.text;
-    parts.panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
-}
-
 /// A record of the file that lacks an element has no place for that field, and the user has to know.
 bool PatientViewController::saved(const PatientModel& record) {
     if (editor->shownForm().isNew()) newPatient.reset();
     editor->settle();
-    loadAnew(record.ID);
+    writer.loadAnew(record.ID);
     const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
     if (!store.validIDinXML(record.ID) || formOf(record.ID).entryOf() == wanted) {
         emit said(qtTrId("patientSaved").arg(shortName(record)));
@@ -284,24 +229,14 @@ bool PatientViewController::saved(const PatientModel& record) {
     return false;
 }
 
-void PatientViewController::loadAnew(const QString& ID) {
-    store.setCurrentID(ID);
-    if (const StoreResult loaded = store.loadXML(); !loaded)
-        parts.panel.ShowMessage(describe(loaded.error()), qtTrId("Warning"));
-}
-
 void PatientViewController::btnDeletePatient() {
     const QString ID = store.getCurrentID();
-    if (!isThere(ID) || !isUnique(ID)) return;
+    if (!isThere(ID) || !writer.isUnique(ID)) return;
     const QString next = roster->neighbourOf(ID);
     if (isNewOne(ID)) return dropNewPatient(next);
     const PatientModel patient = formOf(ID).patient();
-    const QString question =
-        qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
-    if (!parts.panel.AskToErase(question, qtTrId("DeletePatient"))) return;
-    if (const StoreResult deleted = store.deleteXMLPatient(ID); !deleted)
-        return parts.panel.ShowMessage(describe(deleted.error()), qtTrId("Warning"));
-    loadAnew(next);
+    if (!writer.remove(patient)) return;
+    writer.loadAnew(next);
     emit said(qtTrId("patientDeleted").arg(shortName(patient)));
 }
 
@@ -329,10 +264,7 @@ bool PatientViewController::canSendID() const {
 
 void PatientViewController::enableButtons() {
     const bool isAnyone = isThere(store.getCurrentID());
-    saveButton->setEnabled(isAnyone);
-    deleteButton->setEnabled(isAnyone);
-    downloadButton->setEnabled(CanDataTransfer());
-    sendIDButton->setEnabled(canSendID());
+    buttons->enable({.change = isAnyone, .sendID = canSendID(), .download = CanDataTransfer()});
 }
 
 void PatientViewController::sendID() { sender->sendID(store.getCurrentID()); }

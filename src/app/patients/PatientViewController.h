@@ -3,18 +3,18 @@
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
 #include "app/patients/PatientForm.h"
+#include "app/patients/PatientWriter.h"
 #include "app/widgets/PageController.h"
 #include "store/DataStore.h"
 
 #include <optional>
 
-class QHBoxLayout;
-class QPushButton;
 class QStackedWidget;
 
 namespace zel {
 
 class EmptyState;
+class PatientButtons;
 class PatientEditor;
 class PatientIDSender;
 class PatientRoster;
@@ -58,8 +58,7 @@ signals:
 
 private:
     void build();
-    QWidget* makeButtons();
-    QPushButton* addButton(QHBoxLayout& row, const QString& name, const QString& text, const QString& hint);
+    PatientButtons* makeButtons();
     void reload();
     void open(const QString& ID);
     void showRecord(const QString& ID);
@@ -74,24 +73,19 @@ private:
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
     [[nodiscard]] std::vector<PatientProblem> problems() const;
-    void tell(const std::vector<PatientProblem>& found);
     [[nodiscard]] bool isSaveWanted();
-    [[nodiscard]] bool isUnique(const QString& ID);
     [[nodiscard]] bool saved(const PatientModel& record);
     void dropNewPatient(const QString& next);
-    void loadAnew(const QString& ID);
 
     Parts parts;
     DataStore& store;
+    PatientWriter writer;
     PatientIDSender* sender;
     PatientRoster* roster;
     PatientEditor* editor;
     EmptyState* noPatients;
     QStackedWidget* rosterOrAdvice;
-    QPushButton* deleteButton = nullptr;
-    QPushButton* saveButton = nullptr;
-    QPushButton* sendIDButton = nullptr;
-    QPushButton* downloadButton = nullptr;
+    PatientButtons* buttons = nullptr;
     struct Unsaved {
         PatientForm form;
         PatientEntry entry;

@@ -7,16 +7,10 @@
 
 #include <QDialog>
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QPushButton;
-class QToolButton;
-
 namespace zel {
 
 class PrinterController;
-class PrintPreview;
+class PrintForm;
 
 /// What the print window was opened for.
 enum class PrintPurpose { printer, pdf };
@@ -59,10 +53,6 @@ signals:
 
 private:
     void build();
-    QWidget* makeOptionRow();
-    QWidget* makeButtonRow();
-    QToolButton* addPager(const QString& name, const QString& text, const QString& hint, Qt::ArrowType arrow);
-    QPushButton* addButton(const QString& name, const QString& text, const QString& title);
     void addShortcuts();
     void setPrintOption();
     void comboBoxSelectionDidChange();
@@ -70,7 +60,6 @@ private:
     void showPreview();
     void addPhysicianInfo(bool need);
     void printerSelection();
-    void showPrinter();
     void readAnew();
     [[nodiscard]] bool print();
     void savePdf();
@@ -78,17 +67,7 @@ private:
     Parts parts;
     ScreenViews views;
     std::optional<PrintView> view;
-    QComboBox* printOption;
-    QCheckBox* printAddAddress;
-    QLabel* pageText;
-    PrintPreview* previewView;
-    QLabel* lblNote;
-    QLabel* lblPrinter;
-    QToolButton* previousButton;
-    QToolButton* nextButton;
-    QPushButton* printerButton;
-    QPushButton* savePdfButton;
-    QPushButton* printButton;
+    PrintForm* form;
     PrinterController* printerController = nullptr; ///< made on first use and kept
     int iSelectedTab = 0;
     int iTotalPages = 0;

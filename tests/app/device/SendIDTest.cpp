@@ -57,7 +57,7 @@ TEST_F(SendIDTest, keepsTheReadingsThatAreWanted) {
     waitUntilSent();
     EXPECT_EQ(panel.questions, (QStringList{qtTrId("sendID"), qtTrId("SendIDDataTitle")}));
     EXPECT_EQ(monitorHolds(), std::pair(u"P2"_s, 12));
-    EXPECT_TRUE(panel.messages.first().contains(qtTrId("monitorConnectedID").arg(u"P2"_s)));
+    EXPECT_TRUE(panel.messages.value(0).contains(qtTrId("monitorConnectedID").arg(u"P2"_s)));
     EXPECT_EQ(buttons, (QList{true, true})) << "other ones may be enabled now";
 }
 
@@ -85,7 +85,7 @@ TEST_F(SendIDTest, changesNothingWhenAStepFails) {
         panel.answers[qtTrId("SendIDDataTitle")] = keepsReadings;
         sendID();
         waitFor([this] { return !panel.messages.empty(); });
-        EXPECT_EQ(panel.messages.first(),
+        EXPECT_EQ(panel.messages.value(0),
                   qtTrId("Warning") + u": "_s + qtTrId("sendIDFailed").arg(describe(MonitorResult::timeOut)));
         EXPECT_FALSE(status.isBusy());
         EXPECT_EQ(monitorHolds(), std::pair(u"OLD"_s, 12));

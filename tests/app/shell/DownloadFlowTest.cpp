@@ -54,6 +54,10 @@ TEST_F(DownloadFlowTest, withTheMouseFromTheMonitorToTheFileAndTheTable) {
     EXPECT_FALSE(progress().isVisible());
     EXPECT_EQ(text("lblOutcome"), u"12 readings downloaded, 12 new"_s);
     EXPECT_EQ(readingsInMonitor(), 12) << "kept, as the settings say";
+    const Period all = period.getTimePeriod();
+    ASSERT_TRUE(period.pickTimePeriod(all.begin, all.begin + std::chrono::hours(48)));
+    downloadAgain();
+    EXPECT_EQ(period.getTimePeriod(), all) << "picked days give way to the readings that came";
     click("patientBtn");
     press(Qt::Key_Down);
     EXPECT_TRUE(text("lblOutcome").isEmpty()) << "it was another patient's";
@@ -94,8 +98,9 @@ TEST_F(DownloadFlowTest, doesNotHoldUpTheProgramsEnd) {
     const QSignalSpy closed(app.get(), &AppController::closed);
     app->closeApplicaiton(); // comes back only when the monitor's thread has ended
     EXPECT_EQ(closed.size(), 1);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(progress().isVisible()) << "nothing of the download goes on";
+    clock.stands = false;
+    EXPECT_FALSE(QTest::qWaitFor([this] { return !progress().isVisible(); }, 100))
+        << "nothing of the download goes on";
 }
 
 TEST_F(DownloadFlowTest, theButtonsFollowTheMonitorAndItsID) {
@@ -121,7 +126,7 @@ TEST_F(DownloadFlowTest, theButtonsFollowTheMonitorAndItsID) {
     app->dataTransfer();
     EXPECT_EQ(window().findChild<QWidget*>(u"ProgressWindowController"_s), nullptr);
     waitFor([this] { return !panel.messages.empty(); });
-    EXPECT_TRUE(panel.messages.first().contains(qtTrId("monitorConnectedID").arg(u"P2"_s)));
+    EXPECT_TRUE(panel.messages.value(0).contains(qtTrId("monitorConnectedID").arg(u"P2"_s)));
     EXPECT_EQ(enabledButtons(), download);
     EXPECT_EQ(text("lblMonitor"), qtTrId("statusConnected"));
 }

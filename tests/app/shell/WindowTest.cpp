@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QIntValidator>
 #include <QLineEdit>
-#include <QScreen>
 #include <QSignalSpy>
 #include <QStandardPaths>
 
@@ -55,8 +54,6 @@ TEST_F(WindowTest, startsInOrderAndAsksTheMonitorNothingBeforeTheSplashHasGone) 
     QObject::connect(&find<SplashWindow>("splash"), &SplashWindow::splashClosed, app.get(),
                      [&] { openedUnderSplash = port->opened; });
     EXPECT_TRUE(find<QWidget>("splash").isModal());
-    EXPECT_EQ(find<QWidget>("splash").geometry().center(),
-              QGuiApplication::primaryScreen()->availableGeometry().center());
     waitFor([this] { return status.state().isConnected; });
     EXPECT_EQ(log.take(), "monitorBPM 2 .... 0\nshow slash\nclose slash");
     EXPECT_EQ(openedUnderSplash, 0);

@@ -1,0 +1,49 @@
+#include "app/patients/PatientWriter.h"
+
+#include "app/widgets/PatientTexts.h"
+
+#include <algorithm>
+
+namespace zel {
+
+bool PatientWriter::tell(const StoreResult& result) {
+    if (!result) panel.ShowMessage(describe(result.error()), qtTrId("Warning"));
+    return result.has_value();
+}
+
+/// Records of the same ID cannot be told apart in the file: a change might go to the wrong one.
+bool PatientWriter::isUnique(const QString& ID) {
+    if (std::ranges::count(store.getPatientArray(), ID, &PatientModel::ID) < 2) return true;
+    panel.ShowMessage(qtTrId("patientIDTwice").arg(ID), qtTrId("Warning"));
+    return false;
+}
+
+/// One message, for what stands first in the order of the checks; each field says the rest.
+void PatientWriter::refuse(const std::vector<PatientProblem>& found) {
+    const auto& first = *std::ranges::min_element(found, {}, &PatientProblem::kind);
+    if (first.kind == PatientProblem::Kind::missing)
+        return panel.ShowMessage(qtTrId("patientsInputFields"), qtTrId("Warning"));
+    if (first.kind == PatientProblem::Kind::sameID)
+        return panel.ShowMessage(first.text, qtTrId("sameIDTitle"));
+    QStringList texts;
+    for (const PatientProblem& problem : found)
+        texts += problem.text;
+    panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
+}
+
+bool PatientWriter::write(const PatientModel& record, bool isNew) {
+    return tell(isNew ? store.addXMLPatient(record) : store.saveXMLPatient(record));
+}
+
+bool PatientWriter::remove(const PatientModel& patient) {
+    const QString question =
+        qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
+    return panel.AskToErase(question, qtTrId("DeletePatient")) && tell(store.deleteXMLPatient(patient.ID));
+}
+
+void PatientWriter::loadAnew(const QString& ID) {
+    store.setCurrentID(ID);
+    tell(store.loadXML());
+}
+
+} // namespace zel

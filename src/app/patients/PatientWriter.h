@@ -1,0 +1,32 @@
+#pragma once
+
+#include "app/patients/PatientForm.h"
+#include "store/DataStore.h"
+
+namespace zel {
+
+/// Writes patients' records to the data file and takes them out of it, with the checks and questions before;
+/// whatever stands against it is told to the user.
+class PatientWriter {
+public:
+    PatientWriter(DataStore& dataStore, MessagePanel& messagePanel) : store(dataStore), panel(messagePanel) {}
+
+    /// Whether the ID leads to one record only.
+    [[nodiscard]] bool isUnique(const QString& ID);
+    /// Says why an entry is not written. \p found: at least one problem
+    void refuse(const std::vector<PatientProblem>& found);
+    /// \return false if it could not be written
+    [[nodiscard]] bool write(const PatientModel& record, bool isNew);
+    /// Takes the patient out after a question. \return false if the patient is still there
+    [[nodiscard]] bool remove(const PatientModel& patient);
+    /// Reads the file anew, with that patient as the current one.
+    void loadAnew(const QString& ID);
+
+private:
+    bool tell(const StoreResult& result);
+
+    DataStore& store;
+    MessagePanel& panel;
+};
+
+} // namespace zel

@@ -1,0 +1,177 @@
+#include "app/printing/PrintForm.h"
+
+#include "app/printing/PrintPreview.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QToolButton>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLabel* plainLabel(const QString& name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+void say(QLabel& label, const QString& text) {
+    label.setText(text);
+    label.setToolTip(text);
+    label.setAccessibleName(text);
+}
+
+} // namespace
+
+PrintForm::PrintForm(QWidget* parent)
+    : QWidget(parent), printOption(new QComboBox(this)),
+      printAddAddress(new QCheckBox(qtTrId("printDetails"), this)), pageText(plainLabel(u"pageText"_s, this)),
+      previewView(new PrintPreview(this)), lblNote(plainLabel(u"lblNote"_s, this)),
+      lblPrinter(plainLabel(u"lblPrinter"_s, this)),
+      previousButton(
+          addPager(u"gotoPreviousPage"_s, qtTrId("previousPage"), qtTrId("previousHint"), Qt::LeftArrow)),
+      nextButton(addPager(u"gotoNextPage"_s, qtTrId("nextPage"), qtTrId("nextHint"), Qt::RightArrow)),
+      printerButton(addButton(u"printerSelection"_s, qtTrId("printerButton"), qtTrId("choosePrinter"))),
+      savePdfButton(addButton(u"savePdf"_s, qtTrId("savePdfButton"), qtTrId("savePdf"))),
+      printButton(addButton(u"printAndClose"_s, qtTrId("printButton"), qtTrId("print"))) {
+    build();
+    wire();
+}
+
+QToolButton* PrintForm::addPager(const QString& name, const QString& text, const QString& hint,
+                                 Qt::ArrowType arrow) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(name);
+    button->setAccessibleName(text);
+    button->setToolTip(hint);
+    button->setArrowType(arrow);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+QPushButton* PrintForm::addButton(const QString& name, const QString& text, const QString& title) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAccessibleName(title);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void PrintForm::build() {
+    previewView->setObjectName(u"previewView"_s);
+    previewView->setAccessibleName(qtTrId("previewView"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeOptionRow());
+    column->addWidget(previewView, 1);
+    column->addWidget(makeButtonRow());
+}
+
+void PrintForm::wire() {
+    connect(printOption, &QComboBox::currentIndexChanged, this, &PrintForm::chosen);
+    connect(printAddAddress, &QCheckBox::toggled, this, &PrintForm::physicianInfoWanted);
+    connect(previousButton, &QToolButton::clicked, this, &PrintForm::previousWanted);
+    connect(nextButton, &QToolButton::clicked, this, &PrintForm::nextWanted);
+    connect(printerButton, &QPushButton::clicked, this, &PrintForm::printerWanted);
+    connect(savePdfButton, &QPushButton::clicked, this, &PrintForm::pdfWanted);
+    connect(printButton, &QPushButton::clicked, this, &PrintForm::printWanted);
+}
+
+QWidget* PrintForm::makeOptionRow() {
+    auto* label = new QLabel(qtTrId("printOptionLabel"), this);
+    label->setBuddy(printOption);
+    printOption->setObjectName(u"printOption"_s);
+    printOption->setAccessibleName(qtTrId("printOption"));
+    printOption->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    printAddAddress->setObjectName(u"printAddAddress"_s);
+    printAddAddress->setAccessibleName(qtTrId("printAddAddress"));
+    printAddAddress->setToolTip(qtTrId("printDetailsHint"));
+    pageText->setAlignment(Qt::AlignCenter);
+    pageText->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
+    auto* bar = new QWidget(this);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(12, 8, 12, 8);
+    row->setSpacing(8);
+    row->addWidget(label);
+    row->addWidget(printOption);
+    row->addWidget(printAddAddress);
+    row->addStretch(1);
+    row->addWidget(previousButton);
+    row->addWidget(pageText);
+    row->addWidget(nextButton);
+    return bar;
+}
+
+QWidget* PrintForm::makeButtonRow() {
+    auto* bar = new QWidget(this);
+    lblNote->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblPrinter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QPushButton* cancel = addButton(u"cancelPrint"_s, qtTrId("cancel"), qtTrId("cancelPrint"));
+    connect(cancel, &QPushButton::clicked, this, &PrintForm::cancelWanted);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(lblPrinter, 1);
+    row->addWidget(printerButton);
+    row->addSpacing(8);
+    row->addWidget(savePdfButton);
+    row->addWidget(printButton);
+    row->addWidget(cancel);
+    auto* column = new QVBoxLayout(bar);
+    column->setContentsMargins(12, 4, 12, 8);
+    column->setSpacing(4);
+    column->addWidget(lblNote);
+    column->addLayout(row);
+    return bar;
+}
+
+void PrintForm::fitPage(const QSize& room) {
+    const QSize least = previewView->sizeHint();
+    previewView->setMinimumSize(least.boundedTo(room - (sizeHint() - least)));
+}
+
+void PrintForm::makeDefault(bool printing) { (printing ? printButton : savePdfButton)->setDefault(true); }
+
+void PrintForm::begin() { printOption->setFocus(); }
+
+void PrintForm::offer(const QStringList& sections, int first) {
+    const QSignalBlocker filling(printOption);
+    printOption->clear();
+    printOption->addItems(sections);
+    printOption->setCurrentIndex(first < printOption->count() ? first : 0);
+}
+
+int PrintForm::selectedIndex() const { return printOption->currentIndex(); }
+
+QString PrintForm::selectedText() const { return printOption->currentText(); }
+
+bool PrintForm::needsPhysicianInfo() const { return printAddAddress->isChecked(); }
+
+void PrintForm::showPage(const PrintView* view, std::optional<Section> section, int page, int total) {
+    pageText->setText(qtTrId("pageText").arg(page).arg(total));
+    pageText->setAccessibleName(qtTrId("reportPage").arg(page).arg(total));
+    previewView->setAccessibleDescription(selectedText() + ", "_L1 + pageText->accessibleName());
+    previousButton->setEnabled(page > 1);
+    nextButton->setEnabled(page < total);
+    previewView->gotoPreviewPage(view, section, page);
+}
+
+void PrintForm::forgetPage() { previewView->gotoPreviewPage(nullptr, {}, 1); }
+
+void PrintForm::showNote(const QString& text) { say(*lblNote, text); }
+
+void PrintForm::showPrinter(const QString& name) {
+    say(*lblPrinter, name.isEmpty() ? qtTrId("NoPrnter") : qtTrId("printerShown").arg(name));
+    printerButton->setEnabled(!name.isEmpty());
+    printButton->setEnabled(!name.isEmpty());
+}
+
+} // namespace zel

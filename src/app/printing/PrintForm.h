@@ -1,0 +1,76 @@
+#pragma once
+
+#include "report/PrintView.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace zel {
+
+class PrintPreview;
+
+/// The controls of the print window and what they show, and nothing of what is done with them.
+class PrintForm final : public QWidget {
+    Q_OBJECT
+public:
+    explicit PrintForm(QWidget* parent);
+
+    /// The page keeps its size where \p room is enough for it and all around it.
+    void fitPage(const QSize& room);
+    /// Has Enter print, or else save the file.
+    void makeDefault(bool printing);
+    /// Has the first control take the keys.
+    void begin();
+
+    /// Fills the list of sections and selects that of index \p first, if there is one; chosen() stays silent.
+    void offer(const QStringList& sections, int first);
+    [[nodiscard]] int selectedIndex() const; ///< -1: none
+    [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] bool needsPhysicianInfo() const;
+
+    /// Shows page \p page of \p total, with where it stands among them. \p view must outlive its being shown;
+    /// null for none.
+    void showPage(const PrintView* view, std::optional<Section> section, int page, int total);
+    /// The view shown is about to go.
+    void forgetPage();
+    void showNote(const QString& text);
+    /// Empty: there is none, and so no printing.
+    void showPrinter(const QString& name);
+
+signals:
+    void chosen(); ///< another section
+    void physicianInfoWanted(bool need);
+    void previousWanted();
+    void nextWanted();
+    void printerWanted(); ///< to choose another one
+    void pdfWanted();
+    void printWanted();
+    void cancelWanted();
+
+private:
+    void build();
+    void wire();
+    QWidget* makeOptionRow();
+    QWidget* makeButtonRow();
+    QToolButton* addPager(const QString& name, const QString& text, const QString& hint, Qt::ArrowType arrow);
+    QPushButton* addButton(const QString& name, const QString& text, const QString& title);
+
+    QComboBox* printOption;
+    QCheckBox* printAddAddress;
+    QLabel* pageText;
+    PrintPreview* previewView;
+    QLabel* lblNote;
+    QLabel* lblPrinter;
+    QToolButton* previousButton;
+    QToolButton* nextButton;
+    QPushButton* printerButton;
+    QPushButton* savePdfButton;
+    QPushButton* printButton;
+};
+
+} // namespace zel
