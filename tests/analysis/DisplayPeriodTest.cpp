@@ -101,6 +101,9 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
     EXPECT_EQ(shown(), "2019-01-01 00:00:00 2019-07-09 23:59:59");
     period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2018-01-01 10:00"}));
     EXPECT_EQ(shown(), "2018-01-01 00:00:00 2019-07-09 23:59:59");
+    select({}); // somebody without readings, until there are some of the same days
+    period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2018-01-01 10:00"}));
+    EXPECT_EQ(shown(), "2019-04-09 00:00:00 2019-07-09 23:59:59");
 }
 
 TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {

@@ -89,10 +89,12 @@ TEST(Pictures, CountTheViewsReadingsAndTheUndatedOnesIfWanted) {
 }
 
 TEST(Correlation, HasEachPairOnce) {
-    const ReadingList readings{readingAt("2019-03-02", 120, 80), readingAt("2019-03-03", 80, 120),
-                               readingAt("2019-03-04", 120, 80), readingAt("2019-03-05", largest, 0),
-                               readingAt("2019-03-06", 0, largest)};
-    const std::vector<CorrelationPoint> points{{120, 80}, {80, 120}, {largest, 0}, {0, largest}};
+    const std::vector<CorrelationPoint> points{{120, 80}, {80, 120}, {largest, 0}, {0, largest}, {1, 0},
+                                               {0, 1},    {0, 256},  {0, 1 << 16}, {0, 1U << 31}};
+    ReadingList readings;
+    for (int time = 1; time <= 2; ++time)
+        for (const CorrelationPoint& point : points)
+            readings.push_back(readingAt("2019-03-02", point.sys, point.dia));
     EXPECT_EQ(calcCorrelation(readings, during("2019-03-01", "2019-03-31")), points);
 }
 

@@ -70,11 +70,12 @@ TEST(DrawManager, FindsTheTopmostAndDrawsWhatShows) {
     const CommentShape below = shape(100, 100);
     const CommentShape above = shape(150, 100);
     const CommentShape outside = shape(900, 50);
+    const CommentShape before = shape(-90, 50);
     manager.selectObject(below);
     EXPECT_TRUE(manager.selection().empty()) << "it is not on the chart";
-    for (const CommentShape& added : {below, above, outside, below})
+    for (const CommentShape& added : {below, above, outside, before, below})
         manager.addObject(added);
-    EXPECT_THAT(manager.objects(), testing::ElementsAre(below, above, outside));
+    EXPECT_THAT(manager.objects(), testing::ElementsAre(below, above, outside, before));
 
     EXPECT_EQ(manager.objectUnderMousePoint({175, 20}), above);
     EXPECT_EQ(manager.objectUnderMousePoint({120, 20}), below);

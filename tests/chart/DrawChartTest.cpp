@@ -145,6 +145,14 @@ TEST(DrawChart, ShowsDaysOfShortPeriodsAndMonthsOfLongOnes) {
     EXPECT_EQ(chart.texts(20), QStringList{u"2019"_s});
     // From the right; the rightmost, March, never shows.
     EXPECT_EQ(chart.texts(20 + dateHeight), (QStringList{u"February"_s, u"January"_s}));
+    chart.period = daysFrom("1950-01-01", 36525);
+    EXPECT_EQ(chart.texts(20).front(), u"2049"_s);
+    auto years = chart.items<TextLine>();
+    std::erase_if(years, [](const TextLine& line) { return line.origin.y != 20; });
+    ASSERT_GT(years.size(), 10U);
+    for (std::size_t i = 1; i < years.size(); ++i) // from the right
+        EXPECT_LE(years[i].origin.x + textSize(years[i].text, years[i].attribute).width,
+                  years[i - 1].origin.x);
     chart.style = DrawBlood;
     EXPECT_TRUE(chart.texts(20).empty());
 }
@@ -243,6 +251,12 @@ TEST(DrawChart, JoinsReadingsInViewToThoseBesideIt) {
     chart.period = daysFrom("2019-03-03", 1); // between both readings
     EXPECT_TRUE(chart.points().empty());
     EXPECT_EQ(chart.items<PolyLine>().at(0).points.size(), 2U);
+    // Two marks reach into the plot; of what lies further out, only the one that is joined is drawn.
+    chart.readings.clear();
+    for (const auto& [minutes, drawn] : {std::pair{1min, 1U}, {4min, 2U}, {9min, 3U}, {12min, 3U}}) {
+        chart.readings.push_back(reading(chart.period.begin - minutes, 130, 85, 70));
+        EXPECT_EQ(chart.items<PointMarks>().at(0).points.size(), drawn) << minutes.count();
+    }
 }
 
 TEST(DrawChart, SaysThatThereIsNoData) {
@@ -256,16 +270,23 @@ TEST(DrawChart, SaysThatThereIsNoData) {
 }
 
 TEST(DrawChart, FillsDownloadDays) {
-    Chart chart;
-    for (const char* date : {"2019-03-03 09:00:00", "2019-03-03 18:00:00", "2018-03-03 09:00:00"}) {
-        chart.downloads.emplace_back().transferDate = local(date);
-        chart.downloads.back().transferDay = LocalZone().day(local(date));
+    // Those at the ends of the plot are clipped to its round corners, as the background is.
+    for (const auto& [day, clips] : {std::pair{"2019-03-01", 2}, {"2019-03-03", 1}, {"2019-03-07", 2}}) {
+        Chart chart;
+        for (const std::string& date :
+             {day + std::string(" 09:00:00"), day + std::string(" 18:00:00"),
+              std::string("2018-03-03 09:00:00"), std::string("2020-03-03 09:00:00")}) {
+            chart.downloads.emplace_back().transferDate = local(date.c_str());
+            chart.downloads.back().transferDay = LocalZone().day(local(date.c_str()));
+        }
+        auto fills = chart.items<FillRect>();
+        std::erase_if(fills, [](const FillRect& fill) { return fill.color != QColor(255, 255, 205); });
+        ASSERT_EQ(fills.size(), 1U) << day;
+        EXPECT_EQ(fills[0].rect.height, 360);
+        EXPECT_NEAR(fills[0].rect.width, 1000 / 7.0, 0.1);
+        const auto isRound = [](const BeginClip& clip) { return clip.radius > 0; };
+        EXPECT_EQ(std::ranges::count_if(chart.items<BeginClip>(), isRound), clips) << day;
     }
-    auto fills = chart.items<FillRect>();
-    std::erase_if(fills, [](const FillRect& fill) { return fill.color != QColor(255, 255, 205); });
-    ASSERT_EQ(fills.size(), 1U);
-    EXPECT_EQ(fills[0].rect.height, 360);
-    EXPECT_NEAR(fills[0].rect.width, 1000 / 7.0, 0.1);
 }
 
 TEST(DrawChart, HasAWhitePlotWithRoundCornersOnTheScreen) {

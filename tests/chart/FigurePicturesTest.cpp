@@ -104,6 +104,16 @@ TEST(DrawHistogram, LaysOutPanelsAndBars) {
     EXPECT_NEAR(shown[1].width, 100 * 2.5 / 3, 1e-9);
     EXPECT_NEAR(shown[1].y, 37 + 4 * row, 1e-9) << "the lower half of a division";
     EXPECT_NEAR(shown[2].y, 37 + 3 * height / 10, 1e-9);
+    const auto low = filled(drawHistogram(histogram(13, 6), {10, 20, 365, 117}), bars);
+    EXPECT_NEAR(low.at(0).height, 0.5 * (height - 100) / 14 - 1, 1e-9)
+        << "bars are apart in low pictures, too";
+    const auto lines = itemsOf<StraightLine>(picture);
+    for (const Rect& panel : {sys, dia, pulse}) {
+        const auto isAxis = [&](const StraightLine& line) {
+            return line.from == Point{panel.x, 37} && line.to == Point{panel.x, 237 - 30};
+        };
+        EXPECT_EQ(std::ranges::count_if(lines, isAxis), 1) << "it ends below the unit";
+    }
 
     EXPECT_TRUE(texts(picture).contains(u"240"_s) && !texts(picture).contains(u"260"_s));
     EXPECT_EQ(texts(picture).count(u"160"_s), 2) << "the diastolic panel shares the systolic scale";
@@ -172,6 +182,7 @@ TEST(DrawStatistic, ShowsARowForEachMeasure) {
     EXPECT_NEAR(boxOf(picture, u"75"_s).right(), r1, 1e-9);
     EXPECT_NEAR(boxOf(picture, u"Average"_s).top(), 139, 1e-9);
     EXPECT_NEAR(boxOf(picture, u"MAP"_s).top(), 139 - 4 * row, 1e-9);
+    EXPECT_NEAR(boxOf(picture, u"mmHg"_s).x, boxOf(picture, u"Max"_s).right() + 6, 1e-9);
 
     EXPECT_EQ(texts(drawStatistic({}, false, area)).count(u"n/a"_s), 12);
     EXPECT_TRUE(texts(drawStatistic({}, false, area)).contains(u"PP"_s));

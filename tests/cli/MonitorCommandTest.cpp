@@ -14,6 +14,24 @@ QByteArray faulty(const char* fault) {
     return QByteArray(planM1).chopped(1) + R"(, "faults": [)" + fault + "]}";
 }
 
+/// No monitor. While it is looked for the first time, the clock is set back by a day.
+class NoPort final : public MonitorPort {
+public:
+    explicit NoPort(ManualClock& around) : clock(around) {}
+    PortOpen open() override {
+        clock.advance(std::exchange(step, 0h));
+        return PortOpen::absent;
+    }
+    bool isOpen() const override { return false; }
+    bool disconnected() const override { return false; }
+    bool write(std::span<const std::uint8_t>) override { return false; }
+    int read(std::span<std::uint8_t>) override { return -1; }
+
+private:
+    ManualClock& clock;
+    std::chrono::hours step{-24};
+};
+
 TEST_F(CliTest, MonitorPrintsWhatItHolds) {
     const Outcome outcome = zelWith(planM1, {u"monitor"_s});
     EXPECT_EQ(outcome.status, 0);
@@ -50,6 +68,9 @@ TEST_F(CliTest, MonitorIsWaitedFor) {
     };
     EXPECT_THAT(waited({u"monitor"_s}, 5s, 6s), HasSubstr("No monitor was found within 5 s"));
     EXPECT_THAT(waited({u"monitor"_s, u"--wait=60"_s}, 60s, 61s), HasSubstr("within 60 s"));
+    plug(std::make_unique<NoPort>(clock));
+    EXPECT_THAT(waited({u"monitor"_s}, 5s - 24h, 6s - 24h), HasSubstr("within 5 s"));
+    plug(QByteArray());
     whenUnplugged = PortOpen::denied;
     EXPECT_THAT(waited({u"monitor"_s}, 5s, 6s), HasSubstr("70-zel.rules"));
     plug(faulty(R"({"kind": "noAnswer", "command": ">"})"));
@@ -60,6 +81,7 @@ TEST_F(CliTest, MonitorIsWaitedFor) {
     // The first query only probes, for one report, so even no waiting at all means two.
     plug(QByteArray(planM1).replace("{\"model\"", "{\"reportSizes\": [2], \"model\""));
     EXPECT_EQ(zel({u"monitor"_s, u"--wait"_s, u"0"_s}).status, 0);
+    EXPECT_EQ(zel({u"monitor"_s, u"--wait"_s, u"86400"_s}).status, 0);
 }
 
 TEST_F(CliTest, MonitorThatStopsAnsweringFailsAfterWhatIsKnown) {

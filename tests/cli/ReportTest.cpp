@@ -34,6 +34,10 @@ TEST_F(Report, everySectionIsWritten) {
     // No comments: six sections of one page each, two of them upright.
     EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 4);
     EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 2);
+    const char* const fromZEL = "/Author <feff005a0045004c>";
+    EXPECT_FALSE(written().contains(fromZEL)) << "but from the practitioner";
+    ASSERT_EQ(report(u"table"_s).status, 0);
+    EXPECT_TRUE(written().contains(fromZEL));
 }
 
 TEST_F(Report, whatCannotBePrintedIsRefusedAndLeavesNoFile) {

@@ -23,6 +23,11 @@ TEST_F(CliTest, PatientsAreListedByNameAsCsv) {
                                         "an ID longer than the monitor keeps,Adams,日本 😀\n"
                                         "2,Müller,\"Jörg, \"\"Jo\"\"\"\n");
 
+    setData(data().replace("Adams", "Ad\nams").replace("Jörg", "J&#13;rg"));
+    EXPECT_EQ(zel({u"patients"_s}).out, "id,family-name,given-names\n"
+                                        "an ID longer than the monitor keeps,\"Ad\nams\",日本 😀\n"
+                                        "2,Müller,\"J\rrg, \"\"Jo\"\"\"\n");
+
     const QByteArray before = data();
     const Outcome again = add(u"2"_s, u"Other"_s, u"Name"_s);
     EXPECT_EQ(again.status, 1);

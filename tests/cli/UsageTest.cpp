@@ -32,6 +32,8 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"monitor --wait", "wait"},
         {"monitor --wait 1.5", "whole number"},
         {"monitor --wait -1", "whole number"},
+        {"monitor --wait 86401", "whole number"},
+        {"monitor -erase", "--yes"},
         {"monitor --wait 5 --wait 6", "more than once"},
         {"--simulated-monitor= monitor", "name of a file"},
         {"patients --id A", "--add"},

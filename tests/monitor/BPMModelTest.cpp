@@ -38,15 +38,16 @@ TEST(BPMModel, LowerCaseModelCodeIsKeyedInUpperCase) {
     BPMModel model(port, clock);
     EXPECT_FALSE(model.checkIsConnected()); // the probe
     EXPECT_EQ(model.lastResult(), MonitorResult::timeOut);
-    port.answers = {reply(checked("3035303a31")), reply(checked("3035304031"))};
-    EXPECT_TRUE(model.checkIsConnected());
-    EXPECT_TRUE(model.isPAD());
+    port.answers = {reply(checked("3035304031")), reply(checked("3035303a31"))};
     EXPECT_TRUE(model.checkIsConnected()); // a model that is not known
     EXPECT_FALSE(model.isPAD() || model.isAFib());
+    EXPECT_TRUE(model.checkIsConnected());
+    EXPECT_TRUE(model.isPAD());
     port.opening = PortOpen::denied;
     port.failReads = true;
     EXPECT_FALSE(model.checkIsConnected());
     EXPECT_EQ(model.lastResult(), MonitorResult::accessDenied);
+    EXPECT_FALSE(model.isPAD());
     EXPECT_EQ(outcome(model.getBPMID()), MonitorResult::accessDenied);
 }
 

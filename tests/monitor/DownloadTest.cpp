@@ -1,6 +1,8 @@
 #include "Outcome.h"
 #include "ScriptedPort.h"
 #include "monitor/BPMModel.h"
+#include "monitor/ReadingDecoder.h"
+#include "support/LogOf.h"
 #include "support/ManualClock.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +10,7 @@
 namespace zel {
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 const std::string record = "1903221405"
@@ -61,7 +64,7 @@ TEST_F(DownloadTest, NoneOneAndAllRecords) {
     steps.clear();
     const auto one = model.getBPMCycleData(progress).value();
     ASSERT_EQ(one.size(), 1U);
-    EXPECT_EQ(one[0].ID, QStringLiteral("DEMO1"));
+    EXPECT_EQ(one[0].ID, u"DEMO1"_s);
     EXPECT_EQ(one[0].sys, 120U);
     EXPECT_EQ(steps.front(), std::pair(1, 0));
     EXPECT_EQ(steps.back(), std::pair(1, 1));
@@ -72,14 +75,77 @@ TEST_F(DownloadTest, NoneOneAndAllRecords) {
 }
 
 TEST_F(DownloadTest, LogsItsStepsInTheSameWordsAsEver) {
-    port.answers = {download(1, "01"), download(0, "00")};
-    EXPECT_EQ(
-        logOf([this] {
-            std::ignore = model.getBPMCycleData(progress);
-            std::ignore = model.getBPMCycleData(progress);
-        }),
-        "getBPMCycleData|[data begin]|read bytes iRead 32\n|test log 1|Cycle Data return 64 bytes data:\n|"
-        "get Cycle Data -->  OK|getBPMCycleData|[data begin]|get Cycle Data -->  no data");
+    auto bad = download(1, "01");
+    bad.back().back() ^= 1;
+    const auto load = [this] { std::ignore = model.getBPMCycleData(progress); };
+    const auto count = [this] { std::ignore = model.getBPMCycleDataCount(); };
+    const struct {
+        const char* what;
+        std::deque<std::vector<Report>> answers;
+        std::function<void()> act;
+        const char* lines;
+    } cases[] = {
+        {"a reading",
+         {download(1, "01")},
+         load,
+         "getBPMCycleData|[data begin]|read bytes iRead 32\n|test log 1|Cycle Data return 64 bytes data:\n|"
+         "?initWithUSBData :19032214050000000481407800000000|?readBPMDate DateTime:201903221405 ID:[DEMO1]|"
+         "?check fo no date data:201903221405|get Cycle Data -->  OK"},
+        {"none", {download(0, "00")}, load, "getBPMCycleData|[data begin]|get Cycle Data -->  no data"},
+        {"spoiled",
+         {bad, download(0, "00")},
+         load,
+         "getBPMCycleData|[data begin]|read bytes iRead 32\n|test log 1|!check sum error|"
+         "clear buffer for data count:|clear timeout|!getBPMCycleData fail at 1 times, error code:-5\n|"
+         "getBPMCycleData|[data begin]|get Cycle Data -->  no data"},
+        {"the number of readings",
+         {download(1, "01")},
+         count,
+         "getBPMCycleDataCount|[data begin]|clear buffer for data count:|?clear buffer:|?clear buffer:|"
+         "?clear buffer:|clear timeout"},
+        {"no number",
+         {},
+         count,
+         "getBPMCycleDataCount|[data begin]|!getBPMCycleDataCount fail at 1 times\n|"
+         "getBPMCycleDataCount|[data begin]|!getBPMCycleDataCount fail at 2 times\n|"
+         "getBPMCycleDataCount|[data begin]|!getBPMCycleDataCount fail at 3 times\n|"
+         "!getBPMCycleDataCount fail at 3 times, give up!\n"},
+        {"no clock",
+         {},
+         [this] { std::ignore = model.readBPMDate(); },
+         "!getBPMCycleData fail at 1 times\n|!getBPMCycleData fail at 2 times\n|"
+         "!getBPMCycleData fail at 3 times\n|!getBPMCycleData fail at 3 times, give up!\n"},
+        {"an ID",
+         {reply("")},
+         [this] { std::ignore = model.sendID(u"A Z"_s, false); },
+         "?sendID A Z|sendID result:0"},
+        {"an ID that is not taken",
+         {},
+         [this] { std::ignore = model.sendID(u"A Z"_s, false); },
+         "?sendID A Z|sendID result:-7"},
+        {"a wrong check field",
+         {reply("303530413100")},
+         [this] { std::ignore = model.getBPMVersion(); },
+         "!checkSum error res2:F  res1:0  daat2:7  data1:0\n"},
+        {"no room for one",
+         {reply("3")},
+         [this] { std::ignore = transport.getBPMData(Command::version, 1, 1); },
+         "!checkSum error : data length error"},
+        {"a record without a date",
+         {},
+         [] { std::ignore = initWithUSBData("19000000000", u"A"_s, {}); },
+         "?initWithUSBData :19000000000|?readBPMDate DateTime:201900000000 ID:[A]|"
+         "?check fo no date data:201900000000|?check fo no date data.. nildate 1:|"
+         "?check fo no date data.. nildate 2:200001010000"},
+        {"a dead handle",
+         {},
+         [this] { port.failReads = true, transport.clear_buffer(3s); },
+         "clear end of read"},
+    };
+    for (const auto& each : cases) {
+        port.answers = each.answers;
+        EXPECT_EQ(logOf(each.act), each.lines) << each.what;
+    }
 }
 
 TEST_F(DownloadTest, DeadlinesGrowWithTheAttemptAndTheSize) {
@@ -98,30 +164,33 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
         const char* name;
         std::function<void(std::vector<Report>&)> spoil;
         MonitorResult result;
+        int shown; ///< how many records the progress got to
     };
     const auto all = checked(header("03") + record + record + record);
     const Case cases[] = {
-        {"nothing", [](auto&) {}, MonitorResult::success},
+        {"nothing", [](auto&) {}, MonitorResult::success, 3},
         {"surplus in the last report",
          [](auto& r) {
              r.back().insert(r.back().end(), {'0', '0'});
              r.back()[0] += 2;
          },
-         MonitorResult::success},
-        {"refused", [](auto& r) { r[0][1] = 0x15; }, MonitorResult::noAcknowledgement},
-        {"check field", [](auto& r) { r.back().back() ^= 1; }, MonitorResult::badCheckField},
-        {"0x00 in a record", [](auto& r) { r[5][3] = 0; }, MonitorResult::badCheckField},
-        {"records run over the header's end", [&](auto& r) { r = reply(all, 7); },
-         MonitorResult::badCheckField},
-        {"more records announced than come", [](auto& r) { r[0][5] = 'F'; }, MonitorResult::timeOut},
-        {"no hexadecimal digits", [](auto& r) { r[0][4] = 'z'; }, MonitorResult::badFixedContent},
-        {"ends early", [](auto& r) { r.pop_back(); }, MonitorResult::timeOut},
+         MonitorResult::success, 3},
+        {"refused", [](auto& r) { r[0][1] = 0x15; }, MonitorResult::noAcknowledgement, 0},
+        {"check field", [](auto& r) { r.back().back() ^= 1; }, MonitorResult::badCheckField, 3},
+        {"0x00 in a record", [](auto& r) { r[5][3] = 0; }, MonitorResult::badCheckField, 3},
+        {"records run over the header's end", [&](auto& r) { r = reply(all, 14); },
+         MonitorResult::badCheckField, 3},
+        {"more records announced than come", [](auto& r) { r[0][5] = 'F'; }, MonitorResult::timeOut, 3},
+        {"no hexadecimal digits", [](auto& r) { r[0][4] = 'z'; }, MonitorResult::badFixedContent, 0},
+        {"ends early", [](auto& r) { r.pop_back(); }, MonitorResult::timeOut, 2},
     };
     for (const Case& sample : cases) {
         std::vector<Report> reports = download(3, "03");
         sample.spoil(reports);
         port.answers = {reports};
+        steps = {{0, 0}};
         EXPECT_EQ(tryOnce(1), sample.result) << sample.name;
+        EXPECT_EQ(steps.back().second, sample.shown) << sample.name;
         EXPECT_EQ(elapsed() > 3s, sample.result != MonitorResult::success) << sample.name;
     }
     port.answers = {download(3, "03")};
@@ -132,17 +201,26 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
 }
 
 TEST_F(DownloadTest, CountWaitsForTheRecordsThatFollow) {
-    port.answers = {download(3, "03")};
-    EXPECT_EQ(commands.getBPMCycleDataCount().value_or(-1), 3);
-    EXPECT_NEAR(seconds(elapsed()), 1, 0.02);
-    EXPECT_TRUE(port.queued.empty());
-    port.answers = {download(255, "FF")};
-    begin = clock.now();
-    EXPECT_EQ(commands.getBPMCycleDataCount().value_or(-1), 255);
-    EXPECT_NEAR(seconds(elapsed()), 20, 0.02);
+    const struct {
+        int count;
+        const char* hexCount;
+        double wait; ///< a second for each 300 bytes begun, 20 at most
+    } cases[] = {{3, "03", 1}, {178, "B2", 19}, {188, "BC", 20}, {255, "FF", 20}, {-1, "zF", 20}};
+    for (const auto& [count, hexCount, wait] : cases) {
+        port.answers = {download(std::abs(count), hexCount)};
+        begin = clock.now();
+        EXPECT_EQ(commands.getBPMCycleDataCount().value_or(-1), count);
+        EXPECT_NEAR(seconds(elapsed()), wait, 0.02) << hexCount;
+        EXPECT_TRUE(port.queued.empty());
+    }
     begin = clock.now();
     EXPECT_EQ(outcome(commands.getBPMCycleDataCount()), MonitorResult::timeOut);
     EXPECT_NEAR(seconds(elapsed()), 24, 0.02);
+    port.answers = {download(3, "03")};
+    port.onRead = [this] {
+        if (port.queued.size() == 1) transport.interrupt();
+    };
+    EXPECT_EQ(outcome(commands.getBPMCycleDataCount()), MonitorResult::interrupted);
 }
 
 TEST_F(DownloadTest, ThreeTriesAndNoMore) {
@@ -154,6 +232,10 @@ TEST_F(DownloadTest, ThreeTriesAndNoMore) {
     const auto failed = model.getBPMCycleData(progress);
     EXPECT_EQ(failed.error(), MonitorResult::badCheckField);
     EXPECT_EQ(port.answers.size(), 1U);
+    port.answers = {{}, {}, {}};
+    begin = clock.now();
+    EXPECT_FALSE(model.getBPMCycleData(progress));
+    EXPECT_NEAR(seconds(elapsed()), (1 + 2 + 3) * 24 + 3 * 3, 0.03) << "each try has more time";
     port.answers = {bad, bad, download(7, "07")};
     EXPECT_EQ(model.getBPMCycleDataCount().value(), 1); // the count looks at the header only
 }

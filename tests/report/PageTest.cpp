@@ -115,6 +115,12 @@ TEST(Page, textsAreShortenedOnlyWhereTheyDoNotFit) {
     EXPECT_EQ(elided(u"Hello, world"_s, width + 0.01, plain), u"Hello, world"_s);
     EXPECT_TRUE(elided(u"Hello, world"_s, width - 1, plain).endsWith(u'\u2026'));
     EXPECT_EQ(elided(u"two\nlines"_s, 500, plain), u"two lines"_s);
+    const double smallest = textSize(u"2019/12/31"_s, {.size = 6}).width;
+    for (const auto& [room, isWhole] : {std::pair{smallest + 0.01, true}, {smallest - 0.01, false}}) {
+        Picture figure;
+        fieldFigure(figure, u"2019/12/31"_s, {0, 100}, room, plain);
+        EXPECT_EQ(textsOf(figure).at(0).text == "2019/12/31"_L1, isWhole) << room;
+    }
     Picture picture;
     fieldParagraph(picture, u"1\n2\n3\n4\n5\n6"_s, {0, 100}, 200, plain);
     const auto lines = textsOf(picture);
@@ -125,17 +131,19 @@ TEST(Page, textsAreShortenedOnlyWhereTheyDoNotFit) {
 
 TEST(Page, footerShowsThePractitionerOnlyWhenAskedFor) {
     SampleReport sample;
-    const auto hasPractitioner = [&] {
+    sample.settings.physicianAddress = u"Dr. Moreau\n2\n3\n4\n5\nSixth\nSeventh"_s;
+    const auto shown = [&](const QString& begin) {
         const auto texts = textsOf(sample.view().page(std::nullopt, 1));
-        return std::ranges::any_of(texts, [](const TextLine& line) { return line.text == "Dr. Moreau"_L1; });
+        return std::ranges::any_of(texts, [&](const TextLine& line) { return line.text.startsWith(begin); });
     };
-    EXPECT_TRUE(hasPractitioner());
+    EXPECT_TRUE(shown(u"Dr. Moreau"_s) && shown(u"Sixth"_s));
+    EXPECT_FALSE(shown(u"Seventh"_s)) << "no room";
     sample.needPhysicianInfo = false;
-    EXPECT_FALSE(hasPractitioner());
+    EXPECT_FALSE(shown(u"Dr. Moreau"_s));
 }
 
-bool shows(const PrintView& view, Section section, const QString& words) {
-    const auto texts = textsOf(view.page(section, 1));
+bool shows(const PrintView& view, Section section, const QString& words, int page = 1) {
+    const auto texts = textsOf(view.page(section, page));
     return std::ranges::any_of(texts, [&](const TextLine& line) { return line.text.contains(words); });
 }
 
@@ -143,6 +151,91 @@ TEST(Page, theCorrelationsFiguresAreWholeOnEachPaper) {
     const SampleReport sample(730);
     for (const auto paper : {QPageSize::A4, QPageSize::Letter})
         EXPECT_FALSE(shows(sample.view(paper), Section::correlation, u"\u2026"_s));
+}
+
+TEST(Page, countsTheReadingsAboveTheLimits) {
+    SampleReport sample(40);
+    const std::pair<std::uint32_t, std::uint32_t> kinds[] = {{140, 90}, {141, 90}, {140, 91}, {141, 91}};
+    for (std::size_t i = 0; i < sample.readings.size(); ++i) // 4, 8, 12 and 16 of each
+        std::tie(sample.readings[i].sys, sample.readings[i].dia) =
+            kinds[(i % 10 > 0) + (i % 10 > 2) + (i % 10 > 5)];
+    for (const Section section : {Section::correlation, Section::SWStatistics}) {
+        for (const QString& words : {u"40 readings"_s, u"At or below the limits of 140/90 mmHg: 4 (10 %)"_s,
+                                     u"Only systolic above: 8 (20 %)"_s, u"Only diastolic above: 12 (30 %)"_s,
+                                     u"Both above: 16 (40 %)"_s})
+            EXPECT_TRUE(shows(sample.view(), section, words)) << qPrintable(words);
+    }
+    EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"Both above"_s, 2)) << "once is enough";
+}
+
+TEST(Page, tellsTheHalfOfTheDayThatItIsLimitedTo) {
+    using enum ViewSelection;
+    SampleReport sample(2);
+    for (const auto& [view, am, pm] :
+         {std::tuple{viewAll, false, false}, {amOnly, true, false}, {pmOnly, false, true}}) {
+        sample.selection.view = view;
+        for (const Section section : allSections()) {
+            const bool isLimited = section != Section::PatientProfile && section != Section::comment;
+            EXPECT_EQ(shows(sample.view(), section, u"before noon"_s), am && isLimited) << facts(section).key;
+            EXPECT_EQ(shows(sample.view(), section, u"from noon on"_s), pm && isLimited)
+                << facts(section).key;
+        }
+    }
+}
+
+TEST(Page, commentsTellTheirDaysAndColours) {
+    const struct {
+        const char* end;
+        QString head, colour;
+    } cases[] = {
+        {"2019-01-05", u"1   2019/01/05 – 2019/01/05  (1 day)"_s, u"Grey"_s},
+        {"2019-01-06", u"2   2019/01/05 – 2019/01/06  (2 days)"_s, u"Orange"_s},
+        {"2019-02-04", u"3   2019/01/05 – 2019/02/04  (31 days)"_s, u"Blue"_s},
+        {"2019-01-04", u"4   2019/01/05 – 2019/01/04"_s, u"Yellow"_s},
+    };
+    SampleReport sample;
+    QStringList expected;
+    for (const auto& [end, head, colour] : cases) {
+        const auto degree = static_cast<std::uint32_t>(sample.comments.size() + 1);
+        sample.addComment("2019-01-05", end, degree, u"Felt dizzy."_s);
+        expected += {head, colour, u"Felt dizzy."_s};
+    }
+    QStringList texts;
+    for (const TextLine& line : textsOf(sample.view().page(Section::comment, 1)))
+        texts += line.text;
+    EXPECT_EQ(texts.mid(texts.indexOf(expected.front()), expected.size()), expected);
+}
+
+TEST(Page, thePatientsValuesStandBesideTheirLabels) {
+    SampleReport sample;
+    sample.patient.Sex = sample.patient.Smoker = 1;
+    sample.patient.Diabetic = 2;
+    const auto texts = textsOf(sample.view().page(Section::PatientProfile, 1));
+    const std::pair<const char*, const char*> cases[] = {
+        {"Family Name", "Byron"},
+        {"Given Name(s)", "Ada"},
+        {"ID", "P-17"},
+        {"Address", "1 Long Lane"},
+        {"Date of Birth", "2"},
+        {"Sex", "Male"},
+        {"Age", "59"},
+        {"Weight(kg)", "71.5"},
+        {"Heigt(cm)", "168.0"},
+        {"Smoker", "Yes"},
+        {"Diabetic", "No"},
+        {"Cholesterol(mg/dL)", "190.0"},
+    };
+    for (const auto& [label, value] : cases) {
+        const auto name = std::ranges::find(texts, QLatin1StringView(label), &TextLine::text);
+        ASSERT_NE(name, texts.end()) << label;
+        const TextLine* beside = nullptr;
+        for (const TextLine& line : texts)
+            if (std::abs(line.origin.y - name->origin.y) < 8 && line.origin.x > name->origin.x
+                && (!beside || line.origin.x < beside->origin.x))
+                beside = &line;
+        ASSERT_TRUE(beside) << label;
+        EXPECT_EQ(beside->text, QLatin1StringView(value)) << label;
+    }
 }
 
 // In black and white, and with the days of a year.
@@ -172,6 +265,20 @@ TEST(Page, theChartsLimitsStandOutAndItsNoteTellsOnlyOfWhatIsThere) {
     EXPECT_FALSE(shows(sample.view(), Section::graph, qtTrId("reportGraphDownloads")));
     sample.settings.sysStandard = sample.settings.diaStandard = 999;
     EXPECT_EQ(lines(isDash), 0) << "outside the scale";
+
+    const Rect area = sample.view().geometry(Section::graph).drawingRect;
+    const auto isBetweenCharts = [&](const StraightLine& line) {
+        return line.width == 0.5 && line.from.y == line.to.y
+               && std::abs(line.to.y - area.y - 0.3 * area.height) < 1e-6;
+    };
+    EXPECT_EQ(lines(isBetweenCharts), 2) << "blood pressure has the larger part";
+
+    const QString note = u" outside the scales (40\u2013220 mmHg, 40\u2013120 beats per minute)"_s;
+    EXPECT_FALSE(shows(sample.view(), Section::graph, note));
+    sample.readings[0].sys = sample.readings[1].pulse = 221;
+    EXPECT_TRUE(shows(sample.view(), Section::graph, u"2 readings lie"_s + note));
+    sample.readings[0].sys = 220;
+    EXPECT_TRUE(shows(sample.view(), Section::graph, u"1 reading lies"_s + note));
 }
 
 TEST(Page, previewShowsThePageInItsBox) {

@@ -102,6 +102,10 @@ TEST(Pdf, saysWhatItIsAndTurnsItsPages) {
                              "CreationDate: +Wed Jan 15", "1 size: +842 x 595", "2 size: +595 x 842"})
         EXPECT_TRUE(info.contains(QRegularExpression(QLatin1StringView(line)))) << line << qPrintable(info);
     EXPECT_TRUE(pdf.contains("/Lang (en)"));
+    SampleReport own(1);
+    own.needPhysicianInfo = false;
+    EXPECT_TRUE(
+        said(u"pdfinfo"_s, pdfOf(own, {Section::table})).contains(QRegularExpression(u"Author: +ZEL\n"_s)));
 }
 
 TEST(Pdf, aReportWithoutPagesIsRefused) {

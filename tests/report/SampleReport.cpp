@@ -71,6 +71,8 @@ PrintView SampleReport::view(QPageSize::PageSizeId paper) const {
                         .rows = assembleReadingRows({readings, comments, downloads, selection}, zone),
                         .now = noonOf("2020-01-15"),
                         .needPhysicianInfo = needPhysicianInfo,
+                        .getShowMam = getShowMam,
+                        .getShowPad = getShowPad,
                         .getIsAfib = true};
     return {std::move(source), QPageSize(paper)};
 }

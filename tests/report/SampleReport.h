@@ -15,6 +15,8 @@ struct SampleReport {
     SettingModel settings = SettingModel::initWithDefault();
     ReadingSelection selection;
     bool needPhysicianInfo = true;
+    bool getShowMam = true;
+    bool getShowPad = true;
     LocalZone zone;
 
     /// Every value occurs once in the table: nothing stands for something else.

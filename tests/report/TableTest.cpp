@@ -66,6 +66,9 @@ TEST_F(TableTest, theHeaderNamesTheFourthMeasure) {
     sample.settings.showPPorMap = 1;
     EXPECT_NE(row(0)[600], pp);
     EXPECT_EQ(row(0).size(), 9U);
+    sample.getShowMam = sample.getShowPad = false;
+    EXPECT_EQ(row(0).size(), 7U);
+    EXPECT_TRUE(items<Circle>().empty()) << "nor in the legend";
 }
 
 TEST_F(TableTest, pagesHoldEachReadingOnceWhicheverIsDrawnFirst) {

@@ -124,7 +124,7 @@ TEST(ReadingRecord, DisplayTextsFollowTheSettings) {
              Case{"2019-03-22T00:05:00+01:00", u"mm dd yyyy"_s, u"12-hours"_s, u"03/22/2019 12:05 A"_s},
              Case{"2019-03-22T12:00:00+01:00", u"yyyy mm dd"_s, u"24-hours"_s, u"2019/03/22 12:00"_s},
              Case{"2019-03-22T23:30:00+00:00", u"yyyy mm dd"_s, u""_s, u"2019/03/23 00:30"_s},
-             Case{"2019-03-22T12:00:00+01:00", u"yyyy dd mm"_s, u"24-hours"_s, u" 12:00"_s},
+             Case{"2019-03-22T12:00:00+01:00", u"yyyy dd mm"_s, u"12-hours"_s, u" 12:00 P"_s},
              Case{"2000-01-01T08:00:00+01:00", u"dd mm yyyy"_s, u"12-hours"_s, u"n.a --:--"_s},
              Case{"", u"dd mm yyyy"_s, u"12-hours"_s, u"n.a --:--"_s},
          }) {
@@ -172,6 +172,18 @@ TEST(PatientRecord, ComparisonRules) {
     other.Weight = 70;
     other.DateOfBirth = patient.DateOfBirth = date;
     EXPECT_TRUE(patient.isTheSanme(other));
+    const auto isSameWithout = [&](auto member, const auto& value) {
+        PatientModel changed = other;
+        changed.*member = value;
+        return patient.isTheSanme(changed);
+    };
+    for (auto member :
+         {&PatientModel::ID, &PatientModel::FamilyName, &PatientModel::GivenNames, &PatientModel::Address,
+          &PatientModel::PhoneEmail, &PatientModel::FamilyHistory, &PatientModel::PatientNotes})
+        EXPECT_FALSE(isSameWithout(member, u"x"_s));
+    for (auto member : {&PatientModel::Sex, &PatientModel::Smoker, &PatientModel::Diabetic})
+        EXPECT_FALSE(isSameWithout(member, 7));
+    EXPECT_FALSE(isSameWithout(&PatientModel::DateOfBirth, date + std::chrono::hours{24}));
     other.Address = QString{};
     PatientModel third = other;
     EXPECT_FALSE(other.isTheSanme(third)); // two absent addresses count as different
@@ -209,11 +221,25 @@ TEST(Records, CommentsAndDownloadsAreLinkedByDay) {
     EXPECT_EQ(records.mdReading.at(u"B"_s).front().comment, nullptr);
 }
 
+TEST(Records, PatientsAreSortedByNameInAnyCaseAndThenByID) {
+    const auto document = XmlDocument::parse(
+        "<ZEL><Patient><ID>3</ID><FamilyName>abel</FamilyName></Patient><Patient><ID>1</ID><FamilyName>Bert"
+        "</FamilyName></Patient><Patient><ID>2</ID><FamilyName>Abel</FamilyName></Patient></ZEL>");
+    ASSERT_TRUE(document);
+    QString order;
+    for (const PatientModel& patient : Records::read(document->root(), LocalZone{}).gaPatient)
+        order += patient.ID;
+    EXPECT_EQ(order, u"231"_s);
+}
+
 TEST(Records, SettingsHaveTwoSetsOfDefaults) {
     pugi::xml_document document;
     const auto made = SettingModel::initWithXMLNode(SettingModel::makeXmlNode(document));
     SettingModel expected = SettingModel::initWithDefault();
-    EXPECT_TRUE(expected.isMetric());
+    EXPECT_TRUE(expected.isMetric() && expected.is12Hours());
+    EXPECT_EQ(std::tuple(expected.dateFormat, expected.eraseRecAfterReading, expected.showPPorMap,
+                         expected.userWhoStandard, expected.sysStandard, expected.diaStandard),
+              std::tuple(u"dd mm yyyy"_s, 1U, 0U, 1U, 140U, 90U));
     expected.metricFormat = u"lb / in"_s;
     EXPECT_EQ(made, expected);
     EXPECT_EQ(made.physicianAddress.count(u'\n'), 5);
