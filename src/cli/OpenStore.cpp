@@ -6,22 +6,10 @@
 
 namespace zel::cli {
 
-namespace {
-
-/// A file without settings is given the defaults at loading; when it may not be written, its records can
-/// still be read.
-bool leavesRecordsUnread(const StoreError& error) {
-    return error.code != StoreErrorCode::notWritable && error.code != StoreErrorCode::writeFailed
-           && error.code != StoreErrorCode::busy;
-}
-
-} // namespace
-
 OpenedStore openStore(Surroundings& around) {
     if (QDir::isRelativePath(around.paths.home)) return failed(qtTrId("CliNoHome"));
     auto store = std::make_unique<DataStore>(around.paths, around.clock);
-    const StoreResult loaded = store->load();
-    if (!loaded && leavesRecordsUnread(loaded.error())) return failed(describe(loaded.error()));
+    if (const StoreResult loaded = store->load(); !loaded) return failed(describe(loaded.error()));
     return store;
 }
 

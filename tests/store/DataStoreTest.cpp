@@ -316,7 +316,7 @@ TEST_F(DataStoreTest, LogsItsStepsInTheSameWordsAsEver) {
         {"an older version's file, and a home that is no folder",
          {},
          [&] {
-             write(store.getZELXMLPath_Old(), templateFile);
+             write(program.filePath(u"ZEL.xml"_s), templateFile);
              loadIn(program.filePath(u"ZEL_pad.xml"_s), program.path());
          },
          "./ZEL_pad.xml/ZEL.xml  file  does not  exists|"
