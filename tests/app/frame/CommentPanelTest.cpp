@@ -1,3 +1,4 @@
+#include "app/frame/CommentViewController.h"
 #include "app/frame/ReadingFrame.h"
 #include "support/ReadingPageTest.h"
 
@@ -35,6 +36,9 @@ TEST_F(CommentPanelTest, whatIsTypedIsSavedWhenEditingEnds) {
     editor().setFocus();
     press(Qt::Key_Tab);
     EXPECT_TRUE(reloads.empty()) << "nothing was changed";
+    editor().moveCursor(QTextCursor::End);
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(editor().textCursor().position(), text.size()) << "the caret stays";
 }
 
 TEST_F(CommentPanelTest, aCommentThatCannotBeSavedStays) {
@@ -51,6 +55,23 @@ TEST_F(CommentPanelTest, aCommentThatCannotBeSavedStays) {
     clickPart("btnNextComment");
     EXPECT_EQ(stored(u"1"_s), u"first+"_s);
     EXPECT_EQ(editor().toPlainText(), u"second"_s);
+    typeComment(u"+"_s);
+    replaceDataFile("<ZEL><Patient>");
+    panel.answers[qtTrId("Warning")] = false;
+    EXPECT_TRUE(find<CommentViewController>("commentPanel").leave());
+    EXPECT_EQ(editor().toPlainText(), u"second"_s) << "given up";
+}
+
+TEST_F(CommentPanelTest, aCommentThatCannotBeFoundAgainCannotBeTypedOver) {
+    storeComments();
+    QByteArray file = dataFile();
+    ASSERT_TRUE(file.contains("<CommentID>1<"));
+    replaceDataFile(file.replace("<CommentID>1<", "<CommentID><"));
+    ASSERT_TRUE(store.loadXML());
+    openPanel();
+    EXPECT_EQ(editor().toPlainText(), u"first"_s);
+    EXPECT_TRUE(editor().isReadOnly());
+    EXPECT_EQ(page("commentBox").grab().toImage().pixelColor(0, 20), QColor(255, 120, 0));
 }
 
 TEST_F(CommentPanelTest, whatIsTypedIntoACommentThatAnotherProgramRemovedIsStoredAgain) {
@@ -70,13 +91,24 @@ TEST_F(CommentPanelTest, deletingACommentAsks) {
     storeComments();
     openPanel();
     clickPart("btnNextComment");
+    EXPECT_FALSE(page("btnNextComment").isEnabled()) << "the last one";
     panel.answers[qtTrId("DeleteComment")] = false;
     clickPart("btnDeleteComment");
     EXPECT_EQ(store.getSelectedComment()->CommentID, u"2"_s);
     panel.answers[qtTrId("DeleteComment")] = true;
+    panel.whenAsked = [this] { store.setSelectedComment(u"1"_s); };
     clickPart("btnDeleteComment");
+    panel.whenAsked = [] {};
     EXPECT_EQ(stored(u"2"_s), u"none"_s);
     EXPECT_EQ(editor().toPlainText(), u"first"_s);
+    const QByteArray before = dataFile();
+    replaceDataFile("<ZEL><Patient>");
+    clickPart("btnDeleteComment");
+    EXPECT_EQ(panel.messages.size(), 1);
+    replaceDataFile(before);
+    typeComment(u"+"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(stored(u"1"_s), u"first+"_s);
     clickPart("btnDeleteComment");
     EXPECT_EQ(stored(u"1"_s), u"none"_s);
     EXPECT_EQ(text("lblCommentBegin"), u"01/01/0001"_s);

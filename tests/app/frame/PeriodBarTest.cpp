@@ -4,10 +4,12 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QDateEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace zel {
 
@@ -47,6 +49,7 @@ TEST_F(PeriodBarTest, thePeriodIsPickedByDaysOrByViewChoice) {
     EXPECT_TRUE(find<QCheckBox>("btnViewAll").isChecked());
     clickPart("pmOnly");
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::pmOnly);
+    EXPECT_TRUE(find<QCheckBox>("btnViewAll").isChecked());
     EXPECT_EQ(systolic(), u"125 120 132"_s) << "morning and evening alike";
     clickPart("btnAverage");
     EXPECT_EQ(systolic(), u"138 120 199"_s);
@@ -60,6 +63,8 @@ TEST_F(PeriodBarTest, thePeriodIsPickedByDaysOrByViewChoice) {
     clickPart("btnViewAll");
     EXPECT_TRUE(find<QRadioButton>("viewAll").isChecked());
     EXPECT_EQ(systolic(), u"125 120 132"_s);
+    clickPart("btnViewAll");
+    EXPECT_TRUE(find<QCheckBox>("btnViewAll").isChecked()) << "not to be unticked";
 }
 
 TEST_F(PeriodBarTest, daysOutOfOrderAreRefusedAndPutBack) {
@@ -86,6 +91,43 @@ TEST_F(PeriodBarTest, daysOutOfOrderAreRefusedAndPutBack) {
     EXPECT_EQ(panel.messages, QStringList(message(qtTrId("EndDate"))));
     EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s);
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
+    clickPart("viewAll");
+    QTest::mousePress(&endDay, Qt::LeftButton, {}, {endDay.width() - 8, endDay.height() / 2});
+    QTest::keyClick(days, Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::viewAll) << "the same days are no choice";
+    QWheelEvent wheel({5, 5}, endDay.mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    editor().setFocus();
+    QApplication::sendEvent(&endDay, &wheel);
+    EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s) << "the wheel only passed";
+}
+
+TEST_F(PeriodBarTest, theFrameShowsWhoseReadingsTheyAreAsTheSettingsSay) {
+    openYear();
+    auto& frame = dynamic_cast<ReadingFrame&>(*page("periodBar").parentWidget());
+    for (const auto& [format, begin] :
+         {std::pair(u"mm dd yyyy"_s, u"12/20/2025"_s), std::pair(u"yyyy mm dd"_s, u"2025/12/20"_s)}) {
+        store.getSetting().dateFormat = format;
+        frame.UpdateUIBySetting();
+        EXPECT_EQ(dayIn("beginDay"), begin);
+    }
+    EXPECT_EQ(text("lblHeading"), qtTrId("patientHeading").arg(u"Kim"_s, u"Adams"_s, u"P1"_s));
+    EXPECT_EQ(text("lblDetail"), u"6 readings, from 2025/03/01 to 2026/03/20"_s);
+    const auto lastFigures = [this] {
+        return page("statisticView").accessibleDescription().section(u'\n', 3, 3);
+    };
+    EXPECT_TRUE(lastFigures().startsWith(qtTrId("spokenPP"))) << qPrintable(lastFigures());
+    EXPECT_TRUE(lastFigures().contains(u"52"_s)) << qPrintable(lastFigures());
+    store.getSetting().showPPorMap = 1;
+    frame.UpdateUIBySetting();
+    EXPECT_TRUE(lastFigures().startsWith(qtTrId("spokenMap"))) << qPrintable(lastFigures());
+    EXPECT_TRUE(lastFigures().contains(u"93"_s)) << qPrintable(lastFigures());
+    for (const int width : {700, 1300}) {
+        host->resize(width, 700);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(page("readingSide").isVisible(), width == 1300);
+    }
 }
 
 } // namespace zel

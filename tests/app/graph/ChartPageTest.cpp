@@ -3,11 +3,15 @@
 #include "app/graph/PulseView.h"
 #include "support/ReadingPageTest.h"
 
+#include <QAction>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolButton>
+#include <QToolTip>
 
 namespace zel {
 
@@ -105,10 +109,19 @@ TEST_F(ChartPageTest, aCommentIsMadeChangedAndRemovedWithTheMouse) {
     QTest::mouseClick(&picker, Qt::LeftButton, {}, {18, 75});
     EXPECT_FALSE(picker.isVisible());
     EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 2 "_s));
+    const auto& colour = find<QToolButton>("ColorSelButton");
+    EXPECT_EQ(colour.text(), qtTrId("colourOrange"));
+    for (const auto& [key, degree] : {std::pair(Qt::Key_Up, u"3"_s), {Qt::Key_Down, u"2"_s}}) {
+        click("ColorSelButton");
+        QTest::keyClick(&picker, key);
+        QTest::keyClick(&picker, Qt::Key_Return);
+        EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 %1 "_s.arg(degree)));
+    }
     comment(u"new tablets"_s);
     EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 2 new tablets"_s));
     QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603031200"_s));
     EXPECT_TRUE(pulse().selectedBox().isNull()) << "a click on the selected box deselects it";
+    EXPECT_FALSE(find<QAction>("removeComment").isEnabled());
     press(Qt::Key_Delete);
     EXPECT_EQ(inFile().size(), 1);
     QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603031200"_s));
@@ -126,6 +139,10 @@ TEST_F(ChartPageTest, aCommentIsMadeChangedAndRemovedWithTheKeyboard) {
         << qPrintable(pulse().accessibleDescription());
     press(Qt::Key_Insert);
     EXPECT_EQ(inFile(), (QStringList{u"20260302-20260302 4 "_s, other}));
+    QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603021200"_s));
+    press(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(pulse().selectedBox(), u"1"_s) << "none was selected: the last";
+    press(Qt::Key_Up, Qt::ControlModifier);
     press(Qt::Key_Right, Qt::ShiftModifier);
     press(Qt::Key_Left, Qt::ShiftModifier | Qt::AltModifier);
     EXPECT_EQ(inFile(), (QStringList{u"20260301-20260303 4 "_s, other}));
@@ -176,6 +193,15 @@ TEST_F(ChartPageTest, aDragThatCannotEndAsItShouldLosesNothing) {
     replaceDataFile(file);
 
     pull();
+    CommentModel newer = *store.getCommentForCurID().front();
+    newer.comment = u"newer"_s;
+    ASSERT_TRUE(store.saveCommentToXML(newer));
+    release();
+    EXPECT_EQ(inFile(), QStringList(u"20260303-20260307 2 newer"_s));
+    replaceDataFile(file);
+    ASSERT_TRUE(store.loadXML());
+
+    pull();
     QByteArray without = file;
     const auto first = without.indexOf("<Comment>");
     without.remove(first, without.lastIndexOf("</Comment>") + 10 - first);
@@ -191,6 +217,10 @@ TEST_F(ChartPageTest, anEdgeKeepsTheDaysInOrderAndThoseOutOfSight) {
     openChart(u"20260303"_s, u"20260312"_s);
     drag(pulse(), strip(u"202603050000"_s), strip(u"202603061200"_s));
     EXPECT_EQ(inFile(), QStringList(u"20260301-20260306 2 mine"_s)) << "its begin is before the period";
+    showDays(u"20260228"_s, u"20260305"_s);
+    drag(pulse(), strip(u"202603010000"_s), strip(u"202603021200"_s));
+    EXPECT_EQ(inFile(), QStringList(u"20260302-20260306 2 mine"_s)) << "its end is after the period";
+    drag(pulse(), strip(u"202603020000"_s), strip(u"202603010600"_s));
     showDays(u"20260301"_s, u"20260310"_s);
     drag(pulse(), strip(u"202603010000"_s), strip(u"202603081200"_s));
     EXPECT_EQ(inFile(), QStringList(u"20260306-20260308 2 mine"_s)) << "past the other edge";
@@ -221,8 +251,11 @@ TEST_F(ChartPageTest, commentsAreDroppedIntoTheStripOfAShortPeriodOnly) {
 }
 
 TEST_F(ChartPageTest, aReadingsMarkShowsItsValuesInPlainWords) {
-    addComment(u"1"_s, u"20260303"_s, u"20260303"_s, u"mine"_s);
+    addComment(u"1"_s, u"20260303"_s, u"20260303"_s, u"<b>mine"_s);
     openChart(u"20260301"_s, u"20260310"_s);
+    QHelpEvent help(QEvent::ToolTip, strip(u"202603031200"_s), {100, 100});
+    QApplication::sendEvent(&pulse(), &help);
+    EXPECT_TRUE(QToolTip::text().contains(u"&lt;b&gt;mine"_s)) << qPrintable(QToolTip::text());
     blood().grab();
     const ReadingModel& third = store.getReadingForCurID().at(2);
     const QPoint mark = blood().place(third);
@@ -231,7 +264,7 @@ TEST_F(ChartPageTest, aReadingsMarkShowsItsValuesInPlainWords) {
     ASSERT_TRUE(info.isVisible());
     EXPECT_EQ(blood().accessibleDescription(),
               u"Date: 03/03/2026\nTime: 08:00 A\nSystolic: 113 mmHg\nDiastolic: 80 mmHg\n"
-              "Pulse: 65 per minute\nPP: 33 mmHg\nMAM: No\nPAD: No\nComment: mine"_s);
+              "Pulse: 65 per minute\nPP: 33 mmHg\nMAM: No\nPAD: No\nComment: <b>mine"_s);
     EXPECT_EQ(info.accessibleName(), blood().accessibleDescription());
     EXPECT_FALSE(info.geometry().contains(blood().mapTo(&window(), mark)));
     EXPECT_TRUE(window().rect().contains(info.geometry()));
@@ -239,10 +272,19 @@ TEST_F(ChartPageTest, aReadingsMarkShowsItsValuesInPlainWords) {
     QStringList values;
     for (const QLabel* label : info.findChildren<QLabel*>())
         if (label->isVisible()) values += label->text();
-    EXPECT_TRUE(values.contains(u"114 mmHg"_s) && !values.contains(u"mine"_s))
+    EXPECT_TRUE(values.contains(u"114 mmHg"_s) && !values.contains(u"<b>mine"_s))
         << qPrintable(values.join(u'|'));
     QTest::mouseMove(&blood(), mark + QPoint(0, 20));
     EXPECT_FALSE(info.isVisible());
+    showDays(u"20260301"_s, u"20260306"_s);
+    QTest::mouseMove(&blood(), blood().place(third));
+    EXPECT_TRUE(info.isVisible()) << "its mark has moved with the period";
+    ReadingModel fibrillation = third;
+    fibrillation.Arrhythmia = 4;
+    store.getSetting().showPPorMap = 1;
+    const QString words = spokenInfo(readingInfo(fibrillation, store));
+    EXPECT_TRUE(words.contains(qtTrId("map") + u": 93 mmHg"_s)) << qPrintable(words);
+    EXPECT_TRUE(words.contains(qtTrId("afib") + u": No"_s)) << qPrintable(words);
 }
 
 TEST(PlaceBesideTest, thePanelNeitherCoversTheMarkNorLeavesTheWindow) {
@@ -298,6 +340,19 @@ TEST_F(ChartPageTest, theKeysReachReadingsOutsideThePeriod) {
     for (int times = 0; times < 2; ++times)
         press(Qt::Key_Left, Qt::ControlModifier);
     EXPECT_EQ(shown(), u"20260309-20260311"_s);
+    storeReadings(u"P1"_s, {reading(u"200001010000"_s, 199)});
+    showDays(u"20260301"_s, u"20260303"_s);
+    press(Qt::Key_Right, Qt::ControlModifier);
+    press(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(shown(), u"20260301-20260303"_s) << "an undated reading has no place";
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    period.setSelectViewIndex(ViewSelection::pmOnly);
+    press(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(pulse().accessibleDescription(), qtTrId("chartKeys").arg(qtTrId("readingCount", 0)))
+        << "all are of the morning";
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    showDays(u"20260308"_s, u"20260310"_s);
+    press(Qt::Key_Right, Qt::ControlModifier);
     const auto& info = page("BPInfoView");
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Backtab}) {
         press(Qt::Key_Left, Qt::ControlModifier);
@@ -310,6 +365,11 @@ TEST_F(ChartPageTest, theKeysReachReadingsOutsideThePeriod) {
 TEST_F(ChartPageTest, theSwitchAndTheScalesAreWhatAPrintLooksLike) {
     openChart(u"20260301"_s, u"20260310"_s);
     auto& controller = find<GraphViewController>("GraphViewController");
+    const QPixmap before = blood().grab();
+    store.getSetting().sysStandard = 120;
+    controller.UpdateUIBySetting();
+    EXPECT_NE(blood().grab().toImage(), before.toImage()) << "the line of the limit has moved";
+    store.getSetting().diaStandard = 80;
     click("toggleHistogram");
     EXPECT_EQ(controller.drawViewState(), 1);
     EXPECT_TRUE(page("HistogramView").accessibleDescription().contains(u"110 to 119, in 90 percent"_s));

@@ -32,7 +32,8 @@ PatientModel sample() {
     return patient;
 }
 
-const Instant today = *StrToDate(u"202611210900"_s, u"yyyyMMddHHmm"_s);
+/// Not before main(), which sets the time zone.
+Instant today() { return *StrToDate(u"202611210900"_s, u"yyyyMMddHHmm"_s); }
 
 std::string shown(const QString& text) { return text.toStdString(); }
 
@@ -84,6 +85,8 @@ TEST(PatientMeasuresTest, takesWhatIsPlainlyMeantAndRefusesTheRest) {
     expectTaken(kg, {{"72.5", {"72.5", "72,5", " 72.5 kg "}},
                      {"72", {"72kg", "72\u00A0kg"}},
                      {"", {"", "  ", "0"}},
+                     {"0.2", {"0.2"}},
+                     {"1000", {"1000"}},
                      {refused,
                       {"-3", "\u22123", "+72", "1,200", "1.200,5", "72.5.1", "1e2", "nan", "72 lb", "seventy",
                        "1001", "0.1", "99999999999999999999"}}});
@@ -91,7 +94,11 @@ TEST(PatientMeasuresTest, takesWhatIsPlainlyMeantAndRefusesTheRest) {
                      {"160", {"160 pounds"}},
                      {"2200", {"2200"}},
                      {refused, {"2205", "72 kg"}}});
-    expectTaken(cm, {{"175", {"175"}}, {"175.26", {"175,26 cm"}}, {refused, {"1.75", "5/9", "301", "-3"}}});
+    expectTaken(cm, {{"175", {"175"}},
+                     {"20", {"20"}},
+                     {"300", {"300"}},
+                     {"175.26", {"175,26 cm"}},
+                     {refused, {"1.75", "5/9", "301", "-3"}}});
     expectTaken(
         feet, {{"5/9", {"5/9", "5 / 9", "5'9\"", "5\u2019 9\u201D", "5\u20329\u2033", "5'9''", "5 ft 9 in"}},
                {"5/0", {"5ft"}},
@@ -99,9 +106,11 @@ TEST(PatientMeasuresTest, takesWhatIsPlainlyMeantAndRefusesTheRest) {
                {"5/9.5", {"5/9.5", "5/9,5"}},
                {"", {"0/0", ""}},
                {refused, {"5/13", "5/12", "5/-1", "69", "-3", "5/", "5/9/1", "0/5", "175 cm"}}});
-    expectTaken(
-        cholestrolText,
-        {{"200", {"200", "200 mg/dL"}}, {"201.5", {"201,5"}}, {"", {""}}, {refused, {"5.2", "5001"}}});
+    expectTaken(cholestrolText, {{"200", {"200", "200 mg/dL"}},
+                                 {"201.5", {"201,5"}},
+                                 {"5000", {"5000"}},
+                                 {"", {""}},
+                                 {refused, {"5.2", "5001"}}});
 }
 
 TEST(PatientFormTest, whatIsLeftAloneKeepsItsValueToTheLastDigit) {
@@ -114,7 +123,7 @@ TEST(PatientFormTest, whatIsLeftAloneKeepsItsValueToTheLastDigit) {
         PatientEntry fields = form.entryOf();
         fields[PhoneEmail] = u"a b\nc"_s; // what an input makes of it
         form.setShown(fields);
-        EXPECT_FALSE(form.isChanged(fields, today));
+        EXPECT_FALSE(form.isChanged(fields, today()));
         fields[PatientNotes] = u"new"_s;
         const PatientModel changed = form.record(fields);
         EXPECT_EQ(changed.Weight, 72.54F);
@@ -124,7 +133,7 @@ TEST(PatientFormTest, whatIsLeftAloneKeepsItsValueToTheLastDigit) {
         EXPECT_EQ(changed.PhoneEmail, record.PhoneEmail);
         EXPECT_EQ(changed.DateOfBirth, record.DateOfBirth);
         EXPECT_EQ(changed.PatientNotes, u"new"_s);
-        EXPECT_TRUE(form.problems(fields, today).empty());
+        EXPECT_TRUE(form.problems(fields, today()).empty());
     }
 }
 
@@ -163,10 +172,10 @@ TEST(PatientFormTest, aChangeOfUnitsKeepsWhatIsTypedToTheLastDigit) {
         const PatientEntry height = with(before, Height, typed);
         const PatientEntry kept = before.inUnitsOf(units(!isMetric), height);
         EXPECT_EQ(after.record(kept).Height, before.record(height).Height) << shown(kept[Height]);
-        EXPECT_TRUE(after.problems(kept, today).empty());
+        EXPECT_TRUE(after.problems(kept, today()).empty());
     }
     const PatientEntry inches = with(stored(false), Height, u"69"_s);
-    EXPECT_FALSE(metric.problems(stored(false).inUnitsOf(units(true), inches), today).empty()) << "not cm";
+    EXPECT_FALSE(metric.problems(stored(false).inUnitsOf(units(true), inches), today()).empty()) << "not cm";
 }
 
 TEST(PatientFormTest, textsAreCleanedOfWhatCannotBeMeant) {
@@ -187,11 +196,12 @@ TEST(PatientFormTest, textsAreCleanedOfWhatCannotBeMeant) {
               &PatientModel::GivenNames},
              {FamilyName, longName, longName, &PatientModel::FamilyName},
              {Address, u"One\r\n\"Two\"\n"_s, u"One\n\"Two\"\n"_s, &PatientModel::Address},
+             {Address, u"One\tTwo"_s, u"One\tTwo"_s, &PatientModel::Address},
              {PatientNotes, u" \n "_s, u""_s, &PatientModel::PatientNotes},
          }) {
         PatientEntry entry = complete();
         entry[field] = typed;
-        EXPECT_TRUE(form.problems(entry, today).empty()) << shown(typed.left(40));
+        EXPECT_TRUE(form.problems(entry, today()).empty()) << shown(typed.left(40));
         EXPECT_EQ(shown(form.record(entry).*text), shown(taken));
     }
 }
@@ -202,12 +212,12 @@ TEST(PatientFormTest, namesAndIDAreRequired) {
         for (const auto& typed : {u""_s, u"-"_s, u"  "_s, u" - "_s, u"\n"_s}) {
             PatientEntry entry = complete();
             entry[field] = typed;
-            const auto found = blank().problems(entry, today);
+            const auto found = blank().problems(entry, today());
             ASSERT_EQ(found.size(), 1U) << shown(typed);
             EXPECT_EQ(found.front(), (PatientProblem{field, Kind::missing, qtTrId("fieldMissing")}));
         }
     }
-    EXPECT_TRUE(blank().problems(complete(), today).empty());
+    EXPECT_TRUE(blank().problems(complete(), today()).empty());
 }
 
 TEST(PatientFormTest, aNewIDIsOneThatAMonitorKeeps) {
@@ -215,12 +225,12 @@ TEST(PatientFormTest, aNewIDIsOneThatAMonitorKeeps) {
          {u"\U0001F600"_s, u"Øre"_s, u"twelve-chars"_s, QString(10000, u'9'), u"a\nb\u2028é"_s}) {
         PatientEntry entry = complete();
         entry[ID] = typed;
-        EXPECT_EQ(shown(blank().refusal(ID, entry, today)), shown(qtTrId("IDRefused")));
+        EXPECT_EQ(shown(blank().refusal(ID, entry, today())), shown(qtTrId("IDRefused")));
     }
     PatientModel old = sample();
     old.ID = u"an older, longer identifier"_s;
     const PatientForm form(old, units(true), false);
-    EXPECT_TRUE(form.problems(with(form, PatientNotes, u"new"_s), today).empty())
+    EXPECT_TRUE(form.problems(with(form, PatientNotes, u"new"_s), today()).empty())
         << "an ID that is there is not judged";
 }
 
@@ -230,7 +240,7 @@ TEST(PatientFormTest, aDateOfBirthIsADayThatHasBeenOrNone) {
         std::vector<const char*> days; ///< year/month/day
     };
     for (const auto& [refusal, days] : std::initializer_list<Case>{
-             {u""_s, {"/0/0", "1970/1/31", " 1970 /1/31", "2024/2/29", "2026/11/21"}},
+             {u""_s, {"/0/0", "1970/1/31", " 1970 /1/31", "2024/2/29", "2026/11/21", "1896/1/1"}},
              {qtTrId("birthYearRefused"),
               {"199/1/1", "19a0/1/1", "19 0/1/1", "-970/1/1", "1970./1/1", "\u0661\u0669\u0667\u0660/1/1"}},
              {qtTrId("birthDateIncomplete"), {"1970/0/0", "1970/5/0", "/5/1"}},
@@ -245,7 +255,7 @@ TEST(PatientFormTest, aDateOfBirthIsADayThatHasBeenOrNone) {
             const QStringList parts = QString::fromUtf8(day).split(u'/');
             for (const auto& [field, part] : {std::pair(BirthYear, 0), {BirthMonth, 1}, {BirthDay, 2}})
                 entry[field] = parts[part];
-            EXPECT_EQ(shown(form.refusal(BirthYear, entry, today)), shown(refusal)) << day;
+            EXPECT_EQ(shown(form.refusal(BirthYear, entry, today())), shown(refusal)) << day;
         }
     }
     const PatientForm form = stored();
@@ -284,12 +294,16 @@ TEST(PatientFormTest, everyChangeIsNoticedAndNoOtherIs) {
              {FamilyHistory, u"x"_s, true},
              {PatientNotes, u"x"_s, true},
          })
-        EXPECT_EQ(form.isChanged(with(form, field, typed), today), isChange) << shown(typed);
+        EXPECT_EQ(form.isChanged(with(form, field, typed), today()), isChange) << shown(typed);
+    PatientModel inSpring = sample();
+    inSpring.DateOfBirth = StrToDate(u"19800406"_s, u"yyyyMMdd"_s); // a day of 23 hours
+    const PatientForm spring(inSpring, units(true), false);
+    EXPECT_TRUE(spring.isChanged(with(spring, BirthDay, u"7"_s), today()));
     PatientModel withoutNotes = sample();
     withoutNotes.PatientNotes = QString();
     const PatientForm lacking(withoutNotes, units(true), false);
-    EXPECT_TRUE(lacking.isChanged(with(lacking, PatientNotes, u"x"_s), today));
-    EXPECT_FALSE(blank().isChanged(blank().entryOf(), today));
+    EXPECT_TRUE(lacking.isChanged(with(lacking, PatientNotes, u"x"_s), today()));
+    EXPECT_FALSE(blank().isChanged(blank().entryOf(), today()));
 }
 
 TEST(PatientFormTest, whatIsTypedStaysOverARecordThatHasChanged) {

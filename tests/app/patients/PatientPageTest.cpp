@@ -7,8 +7,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace zel {
 
@@ -91,9 +93,11 @@ TEST_F(PatientPageTest, aNewPatientIsTypedInAndSaved) {
     press(Qt::Key_Tab);
     QTest::keyClicks(QApplication::focusWidget(), u" P3 "_s);
     choose("Sex", 1);
-    type("BirthYear", u"1956"_s);
     choose("BirthMonth", 11);
     choose("BirthDay", 22);
+    type("BirthYear", u"2026"_s);
+    EXPECT_EQ(text("lblAge"), u""_s) << "not born yet";
+    type("BirthYear", u"1956"_s);
     EXPECT_EQ(text("lblAge"), u"Age 69"_s) << "the birthday is tomorrow";
     type("Weight", u"72,5"_s);
     type("Height", u"175"_s);
@@ -127,13 +131,19 @@ TEST_F(PatientPageTest, whatIsMissingOrTakenIsNotSaved) {
     type("FamilyName", u"Clark"_s);
     type("GivenNames", u"Jo"_s);
     type("ID", u"P1"_s);
+    type("Weight", u"-3"_s);
     EXPECT_EQ(problemAt("FamilyName"), u""_s);
     save();
     EXPECT_EQ(panel.messages.takeFirst(), qtTrId("sameIDTitle") + u": "_s + qtTrId("sameID").arg(u"P1"_s));
     EXPECT_EQ(problemAt("ID"), qtTrId("sameID").arg(u"P1"_s));
+    panel.answers[qtTrId("SavePatient")] = false;
+    clickRow(1);
+    EXPECT_EQ(value("ID") + problemAt("ID"), u"P1"_s) << "nothing is wrong with the one who has it";
+    clickRow(0);
     EXPECT_EQ(value("FamilyName"), u"Clark"_s);
     EXPECT_EQ(patient(u"P1"_s).FamilyName, u"Adams"_s);
     type("ID", u"P3"_s);
+    type("Weight", {});
     save();
     EXPECT_TRUE(store.validIDinXML(u"P3"_s));
 }
@@ -163,12 +173,14 @@ TEST_F(PatientPageTest, aRefusedEntrySaysSoAtItsFieldWhenItIsLeft) {
     EXPECT_EQ(patient(u"P1"_s).DateOfBirth, StrToDate(u"19700228"_s, u"yyyyMMdd"_s));
 }
 
-TEST_F(PatientPageTest, lineBreaksPastedIntoANameAreBlanks) {
+TEST_F(PatientPageTest, whatIsPastedIsKeptButLineBreaksInANameAreBlanks) {
     start();
+    find<QPlainTextEdit>("PatientNotes").insertPlainText(u"a\u00A0b"_s);
     find<QLineEdit>("FamilyName").selectAll();
     paste("FamilyName", u"van\nder\r\nBerg"_s);
     save();
     EXPECT_EQ(patient(u"P1"_s).FamilyName, u"van der Berg"_s);
+    EXPECT_EQ(patient(u"P1"_s).PatientNotes, u"a\u00A0b"_s);
 }
 
 TEST_F(PatientPageTest, leavingAChangedPatientAsks) {
@@ -176,6 +188,11 @@ TEST_F(PatientPageTest, leavingAChangedPatientAsks) {
     clickRow(1);
     EXPECT_TRUE(panel.questions.empty());
     type("PatientNotes", u"mine"_s);
+    auto& sex = find<QComboBox>("Sex");
+    QWheelEvent wheel({5, 5}, sex.mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&sex, &wheel);
+    EXPECT_EQ(sex.currentIndex(), 0) << "the wheel only passed";
     panel.answers[qtTrId("SavePatient")] = false;
     clickRow(0);
     EXPECT_EQ(panel.questions, QStringList(qtTrId("SavePatient")));
@@ -209,8 +226,14 @@ TEST_F(PatientPageTest, aRefusedSaveKeepsThePatientInView) {
     stays();
     EXPECT_FALSE(patients().settle());
     stays();
+    status.update([](MonitorState& state) { state.isConnected = true, state.IDOnDevice = u"P1"_s; });
+    const QSignalSpy transfers(&patients(), &PatientViewController::dataTransferWanted);
+    click("btnDataTransfer");
+    stays();
+    EXPECT_TRUE(transfers.empty());
     panel.answers[qtTrId("SavePatient")] = false;
     EXPECT_TRUE(patients().settle());
+    EXPECT_EQ(value("FamilyName"), u"Adams"_s) << "given up";
 }
 
 TEST_F(PatientPageTest, aWriteErrorIsToldAndLosesNothing) {
@@ -250,16 +273,20 @@ TEST_F(PatientPageTest, thereIsOneUnsavedNewPatientWhoIsKeptUntilSavedOrDeleted)
 
 TEST_F(PatientPageTest, deletingAsksAndGoesToTheNeighbour) {
     addPatient(u"P3"_s, u"Clark"_s);
+    addPatient(u"P0"_s, u"<b>Aaron"_s);
     start();
-    clickRow(1);
+    EXPECT_TRUE(table().model()->index(0, 0).data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;Aaron"_s));
+    clickRow(2);
     panel.answers[qtTrId("DeletePatient")] = false;
     click("btnDeletePatient");
-    EXPECT_EQ(rows(), 3);
+    EXPECT_EQ(rows(), 4);
     panel.answers[qtTrId("DeletePatient")] = true;
     type("PatientNotes", u"typed before"_s);
     click("btnDeletePatient");
     EXPECT_FALSE(store.validIDinXML(u"P2"_s));
     EXPECT_EQ(store.getCurrentID(), u"P3"_s);
+    click("btnDeletePatient");
+    EXPECT_EQ(store.getCurrentID(), u"P1"_s) << "the last one's neighbour is above";
     click("btnDeletePatient");
     click("btnDeletePatient");
     EXPECT_TRUE(page("noPatients").isVisible());
@@ -297,6 +324,11 @@ TEST_F(PatientPageTest, theSearchNarrowsTheListAndChoosesNobody) {
     press(Qt::Key_Escape);
     EXPECT_EQ(rows(), 3);
     EXPECT_EQ(table().currentIndex().row(), 1);
+    QTest::keyClicks(&search, u"bak"_s);
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(rows(), 4);
+    QTest::keyClicks(&search, u"bak"_s);
+    EXPECT_EQ(rows(), 2) << "the new patient is always there";
 }
 
 TEST_F(PatientPageTest, whatIsTypedOutlivesAReloadAndAChangeOfUnits) {
@@ -322,6 +354,7 @@ TEST_F(PatientPageTest, whatIsTypedOutlivesThePatientsRemovalByAnotherProgram) {
               qtTrId("Warning") + u": "_s + qtTrId("patientGone").arg(u"Kim Adams"_s));
     replaceDataFile("spoilt");
     EXPECT_FALSE(store.loadXML());
+    EXPECT_EQ(panel.messages.size(), 1) << "nobody has gone from a file that cannot be read";
     replaceDataFile(both);
     ASSERT_TRUE(store.loadXML());
     ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));

@@ -87,6 +87,8 @@ TEST_F(PrintTest, theSectionsAreThoseOfTheTab) {
         click("cancelPrint");
         EXPECT_FALSE(printing->isVisible());
     }
+    printing->showPrintPreview(1, {.drawViewState = 2}, PrintPurpose::printer);
+    EXPECT_EQ(find<QComboBox>("printOption").currentText(), facts(correlation).text()) << "as on the screen";
     EXPECT_TRUE(printOptions(3).empty());
     EXPECT_TRUE(printers.printed.empty());
 }
@@ -95,12 +97,13 @@ TEST_F(PrintTest, thePagesAreTurnedOneByOneWithinTheirLimits) {
     storeReadings(70);
     openPrint(2);
     ASSERT_EQ(text("pageText"), u"1/3"_s);
+    waitFor([this] { return printing->isActiveWindow(); }); // for the keys
     EXPECT_FALSE(page("gotoPreviousPage").isEnabled());
     QTest::keyClick(printing, Qt::Key_PageUp);
     EXPECT_EQ(text("pageText"), u"1/3"_s);
     QImage before = preview();
     for (const QString& counter : {u"2/3"_s, u"3/3"_s}) {
-        click("gotoNextPage");
+        QTest::keyClick(printing, Qt::Key_PageDown);
         const QImage now = preview();
         EXPECT_EQ(text("pageText"), counter);
         EXPECT_NE(now, before);
@@ -111,6 +114,8 @@ TEST_F(PrintTest, thePagesAreTurnedOneByOneWithinTheirLimits) {
     EXPECT_EQ(text("pageText"), u"3/3"_s);
     click("gotoPreviousPage");
     EXPECT_EQ(text("pageText"), u"2/3"_s);
+    click("gotoNextPage");
+    EXPECT_EQ(text("pageText"), u"3/3"_s);
     choose(Section::comment);
     EXPECT_EQ(text("pageText"), u"1/0"_s) << "another section begins at its first page";
 }
@@ -141,17 +146,29 @@ TEST_F(PrintTest, thePractitionersDetailsAreShownAtOnce) {
     EXPECT_NE(preview(), without);
     click("printAddAddress");
     EXPECT_EQ(preview(), without);
+    click("printAddAddress");
+    ASSERT_TRUE(store.saveSetting());
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_NE(preview(), without) << "read anew";
+    click("cancelPrint");
+    openPrint(0);
+    EXPECT_NE(preview(), without) << "opened anew";
 }
 
 TEST_F(PrintTest, withoutAPrinterOnlyTheFileCanBeHad) {
     printers.known.clear();
     openPrint(0, PrintPurpose::pdf);
+    EXPECT_EQ(printing->windowTitle(), qtTrId("savePdf"));
     EXPECT_FALSE(page("printAndClose").isEnabled());
     QTest::keyClick(printing, Qt::Key_Return);
     EXPECT_TRUE(pdf().startsWith("%PDF"));
 }
 
 TEST_F(PrintTest, printsOnTheChosenPrinterAndSaysWhenItHasGone) {
+    printers.usual = u"Ward"_s;
+    openPrint(0);
+    EXPECT_EQ(text("lblPrinter"), qtTrId("printerShown").arg(u"Ward"_s));
+    printers.usual.clear();
     openPrint(0);
     click("printAndClose");
     EXPECT_FALSE(printing->isVisible());
@@ -164,11 +181,19 @@ TEST_F(PrintTest, printsOnTheChosenPrinterAndSaysWhenItHasGone) {
     };
     choosePrinter(u"Ward"_s, "printerCancel");
     click("printAndClose");
+    printers.onLetter = u"Ward"_s;
     choosePrinter(u"Ward"_s, "printerOK");
+    EXPECT_EQ(text("lblPrinter"), qtTrId("printerShown").arg(u"Ward"_s));
+    click("savePdf");
+    EXPECT_TRUE(pdf().contains("MediaBox [0 0 792.")) << "on that one's paper";
     click("printAndClose");
     EXPECT_EQ(printers.printed, (QStringList{u"Office: PatientProfile"_s, u"Office: PatientProfile"_s,
                                              u"Ward: PatientProfile"_s}));
+    printers.fails = true;
     openPrint(0);
+    click("printAndClose");
+    EXPECT_EQ(panel.messages.takeFirst(), qtTrId("Warning") + u": "_s + qtTrId("printFailed").arg(u"Ward"_s));
+    printers.fails = false;
     printers.known.removeLast();
     click("printAndClose");
     EXPECT_EQ(panel.messages,
@@ -214,12 +239,37 @@ TEST_F(PrintTest, theWindowSurvivesThatItsRecordsAreReadAnew) {
     const QImage before = preview();
     ASSERT_TRUE(store.loadXML());
     EXPECT_EQ(preview(), before);
+    EXPECT_EQ(text("pageText"), u"1/2"_s);
+    period.setTimePeriod(period.getTimePeriod().begin, period.getTimePeriod().begin + std::chrono::days(3));
+    EXPECT_EQ(text("pageText"), u"1/1"_s);
+    store.setCurrentID({});
+    EXPECT_FALSE(printing->isVisible()) << "nobody is selected";
+    store.setCurrentID(u"P1"_s);
+    openPrint(2);
     ASSERT_TRUE(store.deleteXMLPatient(u"P1"_s));
     ASSERT_TRUE(store.loadXML());
     EXPECT_FALSE(printing->isVisible()) << "nobody is left";
     printing->showPrintPreview(2, {}, PrintPurpose::pdf);
     EXPECT_EQ(panel.messages.last(), qtTrId("Warning") + u": "_s + qtTrId("printNoPatient"));
     EXPECT_FALSE(printing->isVisible());
+}
+
+TEST_F(PrintTest, paperShowsWhatTheScreenDoes) {
+    storeReadings(3);
+    ReadingModel pad = store.getReadingForCurID().front();
+    pad.Arrhythmia = 2;
+    *pad.ReadingDate += std::chrono::hours(48);
+    ASSERT_TRUE(store.newDataTransfer({pad}));
+    period.setCurrentReadingTimePeriod(store.getReadingForCurID());
+    ScreenViews views{.getShowMam = false, .isMonitorAFib = true};
+    views.lowerChart.iScaleBase = 33;
+    auto source = printSource(store, period, clock, views);
+    ASSERT_TRUE(source);
+    EXPECT_FALSE(source->getShowMam || !source->getShowPad);
+    EXPECT_FALSE(source->getIsAfib) << "the readings are of another kind";
+    EXPECT_EQ(source->lowerChart.iScaleBase, 33);
+    const PrintView view(std::move(*source), QPageSize(QPageSize::A4));
+    EXPECT_EQ(SystemPrinters().print(u"nowhere"_s, view, Section::table), PrintResult::noPrinter);
 }
 
 TEST_F(PrintTest, everyControlSaysWhatItIs) {

@@ -1,4 +1,5 @@
 #include "SettingDialogTest.h"
+#include "app/settings/ImportController.h"
 
 #include <QDir>
 #include <QProgressBar>
@@ -90,6 +91,11 @@ TEST_F(ExportTest, asksOnceBeforeFilesAreReplaced) {
             << qPrintable(told);
         EXPECT_EQ(told.contains(qtTrId("exportKept", 2)), !replace);
     }
+    QFile::remove(path(u"P002.xml"_s));
+    panel.whenAsked = [this] { put(u"P002.xml"_s, "newer"); };
+    click("exportButton");
+    EXPECT_EQ(content(u"P002.xml"_s), "newer") << "nobody was asked about it";
+    EXPECT_TRUE(message().contains(qtTrId("ExportMsg", 2).arg(outside.path())));
 }
 
 TEST_F(ExportTest, namesEachFileThatFailedAndWritesTheOthers) {
@@ -133,6 +139,9 @@ TEST_F(ExportTest, ofACSVFileNeedsAPatient) {
     addPatients(2);
     store.setCurrentID(u"P002"_s);
     ASSERT_TRUE(page("csvButton").isEnabled());
+    store.setCurrentID(u"gone"_s);
+    EXPECT_FALSE(page("csvButton").isEnabled());
+    store.setCurrentID(u"P002"_s);
     click("csvButton");
     EXPECT_EQ(files(), QStringList(u"P002.csv"_s));
     EXPECT_TRUE(content(u"P002.csv"_s).contains("date,time,sys(mmHg)"));
@@ -155,6 +164,27 @@ TEST_F(ExportTest, importTellsOfEachFileAndReloadsOnce) {
     EXPECT_TRUE(told.contains(qtTrId("importedFiles", 1) + u"\nnew.xml"_s)) << qPrintable(told);
     EXPECT_TRUE(told.contains(qtTrId("importRefused", 2))) << qPrintable(told);
     EXPECT_TRUE(told.contains(u"known.xml"_s) && told.contains(u"broken.xml"_s)) << qPrintable(told);
+}
+
+TEST_F(ExportTest, aCancelledImportTellsWhatItTookAndWhatItLeft) {
+    for (int number = 1; number <= 6; ++number) {
+        const QString name = u"N%1.xml"_s.arg(number);
+        put(name, patientFile("N" + QByteArray::number(number)));
+        chooser.files += path(name);
+    }
+    open();
+    auto& window = find<QWidget>("importProgress");
+    QObject::connect(
+        window.findChild<QProgressBar*>(), &QProgressBar::valueChanged, &dialog(), [&](int done) {
+            if (done == 2) QTest::mouseClick(window.findChild<QWidget*>(u"btnCancelSteps"_s), Qt::LeftButton);
+        });
+    click("importButton");
+    waitFor([this] { return !panel.messages.empty(); });
+    EXPECT_TRUE(message().contains(qtTrId("importCancelled", 4)));
+    EXPECT_EQ(store.getPatientArray().size(), 2U);
+    const QString told = describe(ImportOutcome{.taken = {{u"a.xml"_s, {1, 2, 3}}}});
+    EXPECT_TRUE(told.contains(qtTrId("readingCount", 2)) && told.contains(qtTrId("commentCount", 3)))
+        << qPrintable(told);
 }
 
 TEST_F(ExportTest, importOfNothingReloadsNothing) {

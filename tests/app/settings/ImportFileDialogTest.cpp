@@ -88,6 +88,8 @@ TEST_F(ImportFileDialogTest, listsTheXMLFilesWithWhatIsInThem) {
 TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {
     dialog.show();
     EXPECT_FALSE(find<QWidget>("btnImport").isEnabled());
+    QTest::mouseClick(find<QTableView>("tblFiles").viewport(), Qt::RightButton, {}, {8, 8});
+    EXPECT_TRUE(names().isEmpty());
     clickRow(1, XmlFileList::readings);
     EXPECT_EQ(names(), QStringList(u"b.xml"_s));
     EXPECT_EQ(find<QPushButton>("btnImport").text(), qtTrId("importButtonFiles", 1));
@@ -139,6 +141,17 @@ TEST_F(ImportFileDialogTest, theChooserRemembersItsFolderAndReportsACancel) {
     EXPECT_EQ(chooser.chooseFiles(nullptr).size(), 3);
     inDialog([](QWidget& box) {
         QTest::mouseClick(box.findChild<QWidget*>(u"boxAll"_s), Qt::LeftButton);
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_TRUE(chooser.chooseFiles(nullptr).isEmpty());
+    inDialog([this](QWidget& box) {
+        dynamic_cast<QFileDialog&>(box).setDirectory(folder.filePath(u"empty"_s));
+        dynamic_cast<QFileDialog&>(box).selectFile(u"report"_s);
+        QMetaObject::invokeMethod(&box, "accept");
+    });
+    EXPECT_EQ(chooser.choosePdf(nullptr, u"title"_s, u"x"_s), folder.filePath(u"empty/report.pdf"_s));
+    inDialog([](QWidget& box) {
+        EXPECT_TRUE(box.findChild<QWidget*>(u"noFiles"_s)->isVisible()) << "the same folder";
         QTest::keyClick(&box, Qt::Key_Escape);
     });
     EXPECT_TRUE(chooser.chooseFiles(nullptr).isEmpty());

@@ -138,6 +138,7 @@ TEST_F(SettingTest, whatIsNoEntryIsShownAsWhatItCountsAs) {
     odd.metricFormat.clear();
     odd.eraseRecAfterReading = 2;
     odd.showPPorMap = 7;
+    odd.userWhoStandard = 2;
     odd.sysStandard = 4000000000U;
     const bool was12Hours = odd.is12Hours(), wasMetric = odd.isMetric();
     store.getSetting() = odd;
@@ -149,6 +150,7 @@ TEST_F(SettingTest, whatIsNoEntryIsShownAsWhatItCountsAs) {
     EXPECT_EQ(setting.isMetric(), wasMetric);
     EXPECT_EQ(setting.eraseRecAfterReading, 0U) << "only 1 empties the monitor";
     EXPECT_EQ(setting.showPPorMap, 1U);
+    EXPECT_EQ(setting.userWhoStandard, 0U);
     EXPECT_EQ(setting.sysStandard, 4000000000U);
 }
 
@@ -191,7 +193,7 @@ TEST_F(SettingTest, theClockButtonNeedsAMonitorAndTellsHowItWent) {
         plan.faults = {
             {.kind = SimulatedFault::Kind::noAnswer, .command = Command::setDate, .times = refusals}};
         open();
-        status.update([](MonitorState& state) { state.isConnected = true; });
+        status.update([](MonitorState& state) { state.isConnected = true, state.secondsAhead = 90; });
         ASSERT_TRUE(page("sendButton").isEnabled());
         click("sendButton");
         EXPECT_FALSE(page("sendButton").isEnabled()) << "not twice at once";
@@ -201,6 +203,7 @@ TEST_F(SettingTest, theClockButtonNeedsAMonitorAndTellsHowItWent) {
         EXPECT_TRUE(panel.messages.first().startsWith(qtTrId("TimeSync")));
         EXPECT_EQ(panel.messages.first().contains(qtTrId("clockSet")), refusals == 0);
         EXPECT_EQ(panel.messages.first().contains(describe(MonitorResult::timeOut)), refusals > 0);
+        EXPECT_EQ(status.state().secondsAhead, refusals == 0 ? 0 : 90);
         EXPECT_FALSE(status.isBusy());
         EXPECT_TRUE(page("sendButton").isEnabled());
     }

@@ -66,6 +66,11 @@ TEST_F(TableViewTest, theRowsAreThoseOfThePeriod) {
     EXPECT_EQ(systolic(), (QStringList{u"122"_s, u"132"_s}));
     clickPart("btnViewAll");
     EXPECT_EQ(systolic().size(), 5);
+    for (const auto& [field, day] : {std::pair("beginDay", u"01042025"_s), {"endDay", u"01052025"_s}}) {
+        typeDay(field, day);
+        press(Qt::Key_Return);
+    }
+    EXPECT_TRUE(page("noneInPeriod").isVisible());
 }
 
 TEST_F(TableViewTest, theTableFollowsTheSettings) {
@@ -90,6 +95,7 @@ TEST_F(TableViewTest, theMarkColumnIsTitledByReadingsThenByMonitorThenByTarget) 
     storeReadings(u"P1"_s, {padReading});
     EXPECT_EQ(title(ReadingTableModel::mark), qtTrId("pad"));
     EXPECT_EQ(cell(0, ReadingTableModel::mark, Qt::AccessibleTextRole), u"Yes"_s);
+    EXPECT_EQ(cell(0, ReadingTableModel::mam, Qt::AccessibleTextRole), u"No"_s);
     ReadingModel afibReading = reading(u"202603060800"_s, 131);
     afibReading.Arrhythmia = 4;
     storeReadings(u"P1"_s, {afibReading});
@@ -99,7 +105,9 @@ TEST_F(TableViewTest, theMarkColumnIsTitledByReadingsThenByMonitorThenByTarget) 
 
 TEST_F(TableViewTest, rowsAreBlackOnWhiteWhateverTheDesktopsColours) {
     storeComments();
-    storeReadings(u"P1"_s, {reading(u"202611210800"_s, 151)}); // the day of the download
+    ReadingModel found = reading(u"202611210800"_s, 151); // the day of the download
+    found.Arrhythmia = 2;
+    storeReadings(u"P1"_s, {found});
     const QPalette before = QApplication::palette();
     QPalette dark(Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white, Qt::black,
                   Qt::black);
@@ -117,12 +125,35 @@ TEST_F(TableViewTest, rowsAreBlackOnWhiteWhateverTheDesktopsColours) {
     EXPECT_LT(pixel(0, ReadingTableModel::mark, {middle - 5, height}).lightness(), 160);
     EXPECT_EQ(pixel(1, ReadingTableModel::comment, {13, height}), QColor(255, 120, 0));
     EXPECT_EQ(pixel(2, ReadingTableModel::comment, {13, height}), QColor(255, 120, 0)) << "a day without";
+    EXPECT_EQ(pixel(4, ReadingTableModel::mark, {middle, height}), QColor(Qt::black)) << "a finding";
+    EXPECT_EQ(pixel(0, ReadingTableModel::mam, {middle, height}), QColor(Qt::white));
+    EXPECT_EQ(pixel(0, ReadingTableModel::comment, {8, height}), QColor(Qt::white)) << "no comment";
+    EXPECT_EQ(pixel(1, ReadingTableModel::comment, {8, height}), QColor(Qt::black)) << "the selected comment";
+    EXPECT_NE(pixel(3, ReadingTableModel::comment, {8, height}), QColor(Qt::black));
+    const auto hasWords = [&](int row, int from, int to) {
+        const QRect cells = table().visualRect(table().model()->index(row, from))
+                            | table().visualRect(table().model()->index(row, to));
+        const QImage image = table().viewport()->grab(cells.adjusted(30, 4, 0, -4)).toImage();
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (image.pixelColor(x, y).lightness() < 100) return true;
+        return false;
+    };
+    EXPECT_TRUE(hasWords(1, ReadingTableModel::comment, ReadingTableModel::comment));
+    EXPECT_FALSE(hasWords(2, ReadingTableModel::comment, ReadingTableModel::comment)) << "where it begins";
+    EXPECT_TRUE(hasWords(2, ReadingTableModel::time, ReadingTableModel::mark)) << "a day without a reading";
+    EXPECT_EQ(cell(2, ReadingTableModel::date, Qt::AccessibleTextRole),
+              qtTrId("dayWithoutReading").arg(u"04/03/2026"_s));
+    EXPECT_EQ(cell(4, ReadingTableModel::date, Qt::AccessibleTextRole),
+              qtTrId("dayOfDownload").arg(u"21/11/2026"_s));
     QApplication::setPalette(before);
 }
 
 TEST_F(TableViewTest, columnsAreHiddenAndRowsAreCopiedAsTheyAreShown) {
     storeComments();
+    addComment(u"3"_s, u"20260301"_s, u"20260301"_s, u"two\nlines\t"_s);
     openTable();
+    EXPECT_EQ(cell(0, ReadingTableModel::comment, Qt::ToolTipRole), u"two\nlines\t"_s);
     clickPart("btnShowMam");
     EXPECT_TRUE(table().isColumnHidden(ReadingTableModel::mam));
     table().setFocus();
@@ -131,8 +162,16 @@ TEST_F(TableViewTest, columnsAreHiddenAndRowsAreCopiedAsTheyAreShown) {
     const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
     ASSERT_EQ(lines.size(), 6);
     EXPECT_EQ(lines[0], u"Date\tTime\tSYS mmHg\tDIA mmHg\tPulse 1/min\tPP mmHg\tPAD\tComment"_s);
+    EXPECT_TRUE(lines[1].endsWith(u"\tNo\ttwo lines"_s)) << qPrintable(lines[1]);
     EXPECT_EQ(lines[2], u"03/03/2026\t08:00 A\t122\t80\t65\t42\tNo\tfirst"_s);
     EXPECT_EQ(lines[3], u"04/03/2026\tn.a.\tn.a.\tn.a.\tn.a.\tn.a.\tn.a.\tfirst"_s);
+    clickRow(3);
+    QTest::mouseClick(table().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      table().visualRect(table().model()->index(0, 2)).center());
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QStringList({lines[0], lines[1], lines[4], {}}).join(u'\n'))
+        << "in the list's order";
 }
 
 TEST_F(TableViewTest, aCommentedRowSelectsItsComment) {
@@ -149,6 +188,10 @@ TEST_F(TableViewTest, aCommentedRowSelectsItsComment) {
     EXPECT_EQ(editor().toPlainText(), u"first+"_s);
     clickPart("btnNextComment");
     EXPECT_EQ(text("lblCommentPosition"), u"2 of 2"_s);
+    table().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lblCommentPosition"), u"1 of 2"_s);
+    clickPart("btnNextComment");
     clickPart("btnSide");
     clickRow(1);
     EXPECT_EQ(store.getSelectedComment()->CommentID, u"2"_s) << "the panel is not shown";
@@ -172,11 +215,13 @@ TEST_F(TableViewTest, savingACommentLeavesTheListWhereItIs) {
     openTable();
     const auto& scrolled = *table().verticalScrollBar();
     waitFor([&] { return scrolled.value() > 9; }); // at the latest readings
+    table().setCurrentIndex(table().model()->index(3, 0));
     for (const int place : {0, 9, 1000}) {
         table().verticalScrollBar()->setValue(place);
         typeComment(u"+"_s);
         press(Qt::Key_Tab);
         EXPECT_EQ(scrolled.value(), std::min(place, scrolled.maximum()));
+        EXPECT_EQ(table().currentIndex().row(), 3);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "app/widgets/MessageBoxPanel.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -47,9 +48,11 @@ TEST(MessageBoxPanelTest, keepsTheButtonOfALongMessageOnTheScreen) {
         QWidget* box = QApplication::activeModalWidget();
         EXPECT_LT(box->height(), box->screen()->availableSize().height());
         EXPECT_TRUE(box->findChild<QWidget*>(u"longText"_s)->isVisible());
+        EXPECT_EQ(qobject_cast<QMessageBox*>(box)->textFormat(), Qt::PlainText) << "no file name is markup";
+        EXPECT_EQ(qobject_cast<QMessageBox*>(box)->icon(), QMessageBox::Warning);
         QTest::mouseClick(box->findChild<QWidget*>(u"btnOK"_s), Qt::LeftButton);
     });
-    panel.ShowMessage(u"One file of many, each on its line\n"_s.repeated(200), u"title"_s);
+    panel.ShowMessage(u"One file of many, each on its line\n"_s.repeated(200), qtTrId("Warning"));
 }
 
 } // namespace zel
