@@ -29,7 +29,3 @@ function(zel_precompiled_kind room result)
   endif()
   set(${result} ${kind} PARENT_SCOPE)
 endfunction()
-
-zel_precompiled(core LINKS Qt6::Core)
-zel_precompiled(gui LINKS Qt6::Gui)
-zel_precompiled(widgets LINKS Qt6::Widgets)

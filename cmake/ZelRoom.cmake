@@ -1,13 +1,17 @@
 # The flags that all code is built with, and the one way to declare a room.
 
+include(${CMAKE_CURRENT_LIST_DIR}/ZelPrecompiled.cmake)
+
 add_library(zel_warnings INTERFACE)
 target_compile_options(zel_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wduplicated-branches
   -Wlogical-op -Wformat=2 -Wimplicit-fallthrough -Werror
-  # GCC 12 sees the value of an empty optional as used when it is only moved, and short strings that are joined
-  # as running over when <string> comes precompiled; the sanitizers look instead.
-  -Wno-maybe-uninitialized -Wno-array-bounds -Wno-stringop-overflow -Wno-restrict)
+  # GCC 12 sees the value of an empty optional as used when it is only moved; the sanitizers look instead.
+  -Wno-maybe-uninitialized)
+if(ZEL_PRECOMPILED) # GCC 12 sees strings that are joined as running over when <string> comes precompiled
+  target_compile_options(zel_warnings INTERFACE -Wno-array-bounds -Wno-stringop-overflow -Wno-restrict)
+endif()
 if(CMAKE_UNITY_BUILD) # a name that only its own source file sees looks like one of a header
   target_compile_options(zel_warnings INTERFACE -Wno-subobject-linkage -Wno-shadow)
 endif()
@@ -23,7 +27,9 @@ if(ZEL_SANITIZE)
   target_link_options(zel_flags INTERFACE -fsanitize=${ZEL_SANITIZE})
 endif()
 
-include(${CMAKE_CURRENT_LIST_DIR}/ZelPrecompiled.cmake)
+zel_precompiled(core LINKS Qt6::Core)
+zel_precompiled(gui LINKS Qt6::Gui)
+zel_precompiled(widgets LINKS Qt6::Widgets)
 
 # zel_room(NAME SOURCES file... DOORS library...): the library zel_NAME of a room, or of a wing (app_graph).
 # DOORS are the only rooms and libraries that its code may use; tests/walls checks the includes as well.

@@ -1,5 +1,5 @@
 // What most files of the rooms below the windows include, compiled once. Every file still names what it uses:
-// clang-tidy compiles them without this header.
+// the release build does without this header.
 #include <algorithm>
 #include <array>
 #include <chrono>

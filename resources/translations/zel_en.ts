@@ -10,38 +10,52 @@
     <message id="ExportSameFileName"><translation>The file %1 was not written: this disk takes its name for the one of the file just written for the patient below. Please export to a disk that tells capital letters from small ones.</translation></message>
     <message id="Female"><translation>Female</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: a patient with the ID “%2” is already in the list. Patients are never overwritten, so nothing was taken from the file.</translation></message>
+    <message id="ImportBadID"><translation>%1: the ID “%2” in the file has a line end or another control character in it, with which it could never be saved or sent to a monitor. Nothing was taken from the file.</translation></message>
     <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
     <message id="ImportNoID"><translation>%1: a patient in the file has no ID. Nothing was taken from it.</translation></message>
     <message id="ImportNoPatient"><translation>%1: there is no patient in the file. Nothing was taken from it.</translation></message>
     <message id="ImportNotReadable"><translation>%1: the file cannot be read, or is none that this program has exported. Nothing was taken from it.</translation></message>
     <message id="ImportNotStored"><translation>%1: what the file holds could not be stored. Nothing was taken from it.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: two patients in the file have the same ID, “%2”. Nothing was taken from it.</translation></message>
-    <message id="ImportTooLarge"><translation>%1: the file is larger than 1 GiB. Nothing was taken from it.</translation></message>
+    <message id="ImportTooLarge"><translation>%1: the file is larger than 512 MiB. Nothing was taken from it.</translation></message>
+    <message id="LimitDiastolic"><translation>The diastolic limit is %1.</translation></message>
+    <message id="LimitOrder"><translation>The diastolic limit has to be below the systolic one.</translation></message>
+    <message id="LimitSystolic"><translation>The systolic limit is %1.</translation></message>
     <message id="Male"><translation>Male</translation></message>
-    <message id="SettingLimit"><translation>a whole number from 0 to %1</translation></message>
+    <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
     <message id="SettingText"><translation>any text without control characters</translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
+    <message id="StoreDiskFull"><translation>The disk is full: %1 could not be written. What was there is as it was. Please make room on the disk, then try again.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
+    <message id="StoreLockBlocked"><translation>%1 is in the place where programs note that they work on the data file, and is no such note. Nothing was changed; please move it away, then try again.</translation></message>
     <message id="StoreNoSuchRecord"><translation>There is no patient with the ID “%1”.</translation></message>
     <message id="StoreNotCreated"><translation>There is no data file yet, and %1 could not be made. Please check that its folder may be written and the disk is not full, then start the program again.</translation></message>
+    <message id="StoreNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut the older content may be there again. Please check the disk; the monitor's readings are kept in the monitor.</translation></message>
     <message id="StoreNotParsed"><translation>The data file %1 is damaged or is no data file of this program. It is left as it is, and nothing can be saved until it is readable again: repair it, put a copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreNotReadable"><translation>The data file %1 cannot be read. It is left as it is, and nothing can be saved until it is readable again.</translation></message>
     <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
+    <message id="StoreQuotaReached"><translation>You may store no more on this disk (its quota is reached): %1 could not be written. What was there is as it was. Please delete what you do not need, or ask for more space, then try again.</translation></message>
+    <message id="StoreSizeLimit"><translation>Files may not become so large here: %1 could not be written. What was there is as it was. Please ask who looks after this computer about its limit for the size of files.</translation></message>
+    <message id="StoreTooLarge"><translation>The data file %1 is larger than 512 MiB, which this program does not read. It is left as it is, and nothing can be saved: put a smaller copy in its place, or move it away to start with a new one.</translation></message>
+    <message id="StoreUnreadable"><translation>The data file %1 was left as it was: what was to be saved could not be read again afterwards.</translation></message>
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
     <message id="Warning"><translation>Warning</translation></message>
     <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>It holds bytes that are not in its encoding, %1.</translation></message>
+    <message id="XmlControlCharacter"><translation>It holds a control character, which such a file may not.</translation></message>
     <message id="XmlEncodingUnknown"><translation>Its encoding, %1, is not known.</translation></message>
     <message id="XmlEntityNotTaken"><translation>It refers to an entity or a character that is not taken; only the five of XML itself and its characters are.</translation></message>
     <message id="XmlErrorNearLine"><translation>Near line %1: %2</translation></message>
     <message id="XmlMisplacedDeclaration"><translation>A declaration stands where none may be.</translation></message>
     <message id="XmlNoRoot"><translation>It holds no element.</translation></message>
     <message id="XmlNotWritable"><translation>The data file cannot be written: changes and downloaded readings cannot be saved. Please check the permissions of the file and of its folder.</translation></message>
-    <message id="XmlNulByte"><translation>It holds a NUL character.</translation></message>
     <message id="XmlSeveralRoots"><translation>It holds more than one root element.</translation></message>
     <message id="XmlTextOutsideRoot"><translation>It holds text outside its root element.</translation></message>
+    <message id="XmlTooDeep"><translation>Its elements lie within each other by more than %1 levels.</translation></message>
+    <message id="XmlTooLarge"><translation>It would be larger than 512 MiB.</translation></message>
+    <message id="XmlTooManyParts"><translation>It holds more than %1 elements and attributes.</translation></message>
     <message id="XmlWrongRoot"><translation>Its root element is “%1”, not “ZEL”.</translation></message>
 </context>
 <context>
@@ -49,12 +63,15 @@
     <message id="monitorAccessDenied"><translation>A monitor is connected, but this program may not use it: another program is using it, or permission for the USB device is missing.</translation></message>
     <message id="monitorBadCheckField"><translation>The monitor's answer arrived damaged and was not used. Please try again.</translation></message>
     <message id="monitorBadFixedContent"><translation>The monitor's answer could not be understood and was not used. Please try again.</translation></message>
+    <message id="monitorClockNotSet"><translation>The monitor's clock is not set.</translation></message>
     <message id="monitorInterrupted"><translation>The exchange with the monitor was stopped before it was complete.</translation></message>
     <message id="monitorNoAcknowledgement"><translation>The monitor did not accept the command. Please switch it off and on and try again.</translation></message>
     <message id="monitorNoDevice"><translation>No monitor is connected. Please plug it in and try again.</translation></message>
+    <message id="monitorNotTaken"><translation>The monitor acknowledged it, but still holds something else. Please try again.</translation></message>
     <message id="monitorReadFailed"><translation>The connection to the monitor broke off. Please check the cable and try again.</translation></message>
     <message id="monitorSuccess"><translation>The monitor did what it was asked.</translation></message>
     <message id="monitorTimeOut"><translation>The monitor did not answer in time. Please check that it is switched on and try again.</translation></message>
+    <message id="monitorUnconfirmed"><translation>It was sent to the monitor, but what the monitor holds now could not be read. Please look before you try again.</translation></message>
     <message id="monitorUnfitID"><translation>The monitor cannot keep this ID, so nothing was sent. An ID for the monitor has 1 to 11 letters, digits or signs without accents.</translation></message>
     <message id="monitorWriteFailed"><translation>The monitor does not take what is sent to it. Please unplug it, plug it in again and try once more.</translation></message>
     <message id="simulatedMissing"><translation>The value of “%1” is missing.</translation></message>
@@ -117,6 +134,8 @@
     <message id="clockNotSetAtGreeting"><translation>The clock of the monitor could not be set. %1</translation></message>
     <message id="clockRight"><translation>In step with this computer</translation></message>
     <message id="clockSet"><translation>done. It shows this computer’s time now.</translation></message>
+    <message id="clockUnset"><translation>Not set</translation></message>
+    <message id="clockUnsetAsk"><translation>The monitor’s clock is not set, so its readings get no date and time. Set it to this computer’s time?</translation></message>
     <message id="colourAction"><translation>Colour: %1</translation></message>
     <message id="colourBlue"><translation>Blue</translation></message>
     <message id="colourButton"><translation>Colour of the comment</translation></message>
@@ -143,6 +162,7 @@ mmHg</translation></message>
     <message id="commentBegin"><translation>From</translation></message>
     <message id="commentCount" numerus="yes"><translation><numerusform>%n comment</numerusform><numerusform>%n comments</numerusform></translation></message>
     <message id="commentEnd"><translation>To</translation></message>
+    <message id="commentInClipboard"><translation>The comment that was typed when the program was ended could not be saved; its text is in the clipboard now: paste it where you want to keep it. %1</translation></message>
     <message id="commentNotSaved"><translation>The comment was not saved; your text is still in its field. %1</translation></message>
     <message id="commentPanel"><translation>Comment</translation></message>
     <message id="commentPatientGone"><translation>The patient %1 is no longer in the data file, so that the comment that you were typing cannot be stored there. Your text is in the clipboard now: paste it where you want to keep it.</translation></message>
@@ -153,7 +173,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="commentText"><translation>Text of the comment</translation></message>
     <message id="commentUnchanged"><translation>The comment could not be saved. %1</translation></message>
     <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? This cannot be undone.</translation></message>
-    <message id="confirmSendID"><translation>Write the ID %1 into the monitor? From then on its readings belong to this patient.</translation></message>
+    <message id="confirmSendID"><translation>%2 Write the ID %1 into it? From then on its readings belong to this patient.</translation></message>
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
     <message id="copyRows"><translation>Copy</translation></message>
     <message id="correlationView"><translation>Systolic against diastolic pressure</translation></message>
@@ -182,16 +202,20 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="downloadHint"><translation>Fetch the readings from the monitor (Ctrl+D). The monitor must be connected and hold this patient’s ID.</translation></message>
     <message id="downloadNew" numerus="yes"><translation><numerusform>%1, %n new</numerusform><numerusform>%1, %n new</numerusform></translation></message>
     <message id="downloadNothingNew"><translation>%1, none new: all of them were stored before</translation></message>
+    <message id="downloadNotReadBack"><translation>%1. The data file could not be read afterwards, so that the monitor was not erased. %2</translation></message>
     <message id="downloadNotStored"><translation>The readings could not be stored. They are still in the monitor. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>The readings in the monitor belong to another ID than this patient’s, so nothing was stored. Please connect this patient’s monitor and try again.</translation></message>
     <message id="downloadProgress"><translation>Download progress</translation></message>
     <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
     <message id="downloadStopping"><translation>Stopping …</translation></message>
+    <message id="downloadWaiting" numerus="yes"><translation><numerusform>Nothing comes from the monitor. The download waits for it, for %n second at most. You can cancel it: nothing is lost.</numerusform><numerusform>Nothing comes from the monitor. The download waits for it, for %n seconds at most. You can cancel it: nothing is lost.</numerusform></translation></message>
     <message id="DupNewPatient"><translation>There is a new patient already that is not saved yet: the first one of the list. Please save or delete it first.</translation></message>
     <message id="EndDate"><translation>The last day has to be after the first one, so that the period spans two days or more. The dates were left as they were.</translation></message>
     <message id="endEarlier"><translation>End a day earlier</translation></message>
     <message id="endLater"><translation>End a day later</translation></message>
     <message id="eraseFailed"><translation>%1. The readings are safely stored, but the monitor could not be emptied: it still holds them. %2</translation></message>
+    <message id="eraseNotSeen"><translation>%1. The readings are safely stored, but whether the monitor is empty now could not be seen. %2</translation></message>
+    <message id="eraseThem"><translation>&amp;Delete</translation></message>
     <message id="exportAll"><translation>Export all patients as XML files</translation></message>
     <message id="exportAlsoFailed"><translation>The same happened to: %1</translation></message>
     <message id="exportButton"><translation>&amp;Export all …</translation></message>
@@ -229,6 +253,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fieldWeightLb"><translation>Weight (lb)</translation></message>
     <message id="fileBeingRead"><translation>reading …</translation></message>
     <message id="fileNotReadable"><translation>not readable</translation></message>
+    <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
     <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Please give feet and inches with a stroke between them, such as 5/9. Inches go up to 11.</translation></message>
     <message id="histogramView"><translation>Distribution of the values</translation></message>
@@ -259,6 +284,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="infoLine"><translation>%1: %2</translation></message>
     <message id="infoPulse"><translation>Pulse</translation></message>
     <message id="infoSys"><translation>Systolic</translation></message>
+    <message id="keep"><translation>&amp;Keep</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
     <message id="mainMenu"><translation>Main menu</translation></message>
     <message id="map"><translation>MAP</translation></message>
@@ -278,9 +304,17 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="monitorDownloading"><translation>Downloading readings …</translation></message>
     <message id="monitorErasing"><translation>Emptying the monitor …</translation></message>
     <message id="monitorGreeting"><translation>Reading the monitor’s clock and ID …</translation></message>
+    <message id="monitorHoldsNone"><translation>The monitor holds no ID now.</translation></message>
+    <message id="monitorHoldsOther"><translation>The monitor now holds the ID %1, which belongs to no patient here.</translation></message>
+    <message id="monitorHoldsPatient"><translation>The monitor now holds the ID %1, of %2.</translation></message>
+    <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>It holds %n reading.</numerusform><numerusform>It holds %n readings.</numerusform></translation></message>
+    <message id="monitorHoldsUnknown"><translation>Which ID the monitor holds now could not be read.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorLooking"><translation>Looking for a monitor …</translation></message>
+    <message id="monitorNotAnswering"><translation>Attached, but not answering as it should. %1</translation></message>
     <message id="monitorNotConnected"><translation>Not connected. Attach the monitor to a USB port.</translation></message>
     <message id="monitorPanel"><translation>Monitor</translation></message>
+    <message id="monitorReadingsUnknown"><translation>How many readings it holds could not be read.</translation></message>
     <message id="monitorReady"><translation>Connected</translation></message>
     <message id="monitorSendingID"><translation>Writing the ID into the monitor …</translation></message>
     <message id="monitorSettingClock"><translation>Setting the monitor’s clock …</translation></message>
@@ -398,10 +432,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="sendClockButton"><translation>Set the &amp;clock</translation></message>
     <message id="sendID"><translation>Send ID to the monitor</translation></message>
     <message id="sendIDButton"><translation>&amp;Send ID</translation></message>
-    <message id="SendIDDataMsg" numerus="yes"><translation><numerusform>The monitor still holds %n reading. Keep it in the monitor? “Yes” keeps it for this patient, “No” deletes it from the monitor for good.</numerusform><numerusform>The monitor still holds %n readings. Keep them in the monitor? “Yes” keeps them for this patient, “No” deletes them from the monitor for good.</numerusform></translation></message>
+    <message id="SendIDDataMsg" numerus="yes"><translation><numerusform>It still holds %n reading. Before the ID %1 is written into it: keep this reading for the new ID, or delete it from the monitor for good?</numerusform><numerusform>It still holds %n readings. Before the ID %1 is written into it: keep these readings for the new ID, or delete them from the monitor for good?</numerusform></translation></message>
     <message id="SendIDDataTitle"><translation>Readings in the monitor</translation></message>
-    <message id="sendIDFailed"><translation>The ID was not sent to the monitor. %1</translation></message>
-    <message id="sendIDHint"><translation>Write this patient’s ID into the connected monitor, which holds another one.</translation></message>
+    <message id="sendIDFailed"><translation>Sending the ID to the monitor failed. %1</translation></message>
+    <message id="sendIDFailedErased"><translation>The readings in the monitor were deleted, but sending the ID to it failed. %1</translation></message>
+    <message id="sendIDHint"><translation>Write this patient’s ID into the connected monitor, which holds another one or none.</translation></message>
     <message id="settingCancel"><translation>Close without saving</translation></message>
     <message id="settingData"><translation>Patient data</translation></message>
     <message id="settingDate"><translation>Date format</translation></message>
@@ -456,9 +491,15 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="statisticAll"><translation>All days with readings</translation></message>
     <message id="statisticAllHint"><translation>Take the whole time from the first reading to the last. To take a part of it, pick other dates above.</translation></message>
     <message id="statisticPanel"><translation>Statistics</translation></message>
+    <message id="statusBroken"><translation>Monitor attached, connection fails</translation></message>
     <message id="statusConnected"><translation>Monitor connected</translation></message>
+    <message id="statusDamaged"><translation>Monitor attached, damaged answers</translation></message>
+    <message id="statusLocked"><translation>Monitor attached, no permission</translation></message>
     <message id="statusNotConnected"><translation>No monitor</translation></message>
+    <message id="statusRefusing"><translation>Monitor attached, refuses commands</translation></message>
+    <message id="statusSilent"><translation>Monitor attached, but silent</translation></message>
     <message id="stepProgress"><translation>%1 of %2 files</translation></message>
+    <message id="storedNotReadBack"><translation>The change is stored, but the data file could not be read afterwards. %1</translation></message>
     <message id="Synchronization"><translation>Set the monitor’s clock?</translation></message>
     <message id="synctimeAsk"><translation>The monitor’s clock is %1. Set it to this computer’s time, so that new readings get the right date and time?</translation></message>
     <message id="tabChart"><translation>&amp;Chart</translation></message>
@@ -471,6 +512,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
+    <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
+    <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>
+    <message id="unsavedTitle"><translation>Not saved yet</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 per minute</translation></message>
     <message id="viewAll"><translation>&amp;All</translation></message>
@@ -556,12 +600,14 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="CliAmAndPm"><translation>Give either --am or --pm, not both.</translation></message>
     <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
     <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
+    <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
     <message id="CliBadPaper"><translation>--paper needs A4 or Letter, not '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait needs a whole number of seconds from 0 to %1.</translation></message>
     <message id="CliClockUnread"><translation>The monitor's clock could not be read. %1</translation></message>
     <message id="CliClockUnset"><translation>The monitor's clock could not be set. %1</translation></message>
     <message id="CliCountUnread"><translation>The number of readings in the monitor could not be read. %1</translation></message>
     <message id="CliDownloadFailed"><translation>The readings could not be downloaded, and nothing was stored. %1 They are still in the monitor: please try again.</translation></message>
+    <message id="CliDownloadNotReadBack"><translation>The readings are stored, but the data file could not be read afterwards, so that the monitor was not erased. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>The downloaded readings could not be stored. %1 They are still in the monitor.</translation></message>
     <message id="CliEraseAfterFailed"><translation>The readings are safely stored, but the monitor's memory could not be erased afterwards. %1 You can erase it with 'zel monitor --erase --yes'.</translation></message>
     <message id="CliEraseFailed"><translation>The monitor's memory could not be erased. %1</translation></message>
@@ -642,8 +688,9 @@ Options:
        zel monitor --send-id ID [OPTION]...
        zel monitor --erase --yes [OPTION]...
 
-Prints the attached monitor's model, arrhythmia detection (pad, afib or none), ID, clock and number of
-readings, one 'key: value' a line. Counting the readings may take up to 20 s.
+Prints the attached monitor's model, arrhythmia detection (pad, afib or none), ID, clock (or 'not set') and
+number of readings, one 'key: value' a line. Counting the readings may take up to 20 s. What is changed is
+read back; the command fails when it is not so.
 
 Options:
   --set-clock                  set the monitor's clock to this computer's, and print it
@@ -769,6 +816,7 @@ Options:
     <message id="CliTryHelp"><translation>Try '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>
     <message id="CliUnknownCommand"><translation>There is no command '%1'.</translation></message>
+    <message id="CliWaiting"><translation>Waiting for the monitor, for at most another %1 s. Ctrl-C cancels.</translation></message>
     <message id="CliYesAlone"><translation>--yes goes with --erase.</translation></message>
 </context>
 </TS>

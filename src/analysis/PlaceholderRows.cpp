@@ -10,6 +10,9 @@ using std::chrono::minutes;
 
 namespace {
 
+// A century of days. Only dates that are wrong make more, and then millions.
+constexpr std::size_t mostPlaceholders = 36'525;
+
 /// One walk over readings and comments, both in order; what it has covered it does not cover again.
 class PlaceholderPass {
 public:
@@ -60,7 +63,7 @@ private:
         Instant date = std::max(from, period.begin);
         if (const DayNumber day = date <= last ? zone.day(date) : noDay; noDay < day && day <= lastDone)
             date = daysLater(date, lastDone - day + 1, zone);
-        for (; date <= last; date = daysLater(date, 1, zone))
+        for (; date <= last && made.size() < mostPlaceholders; date = daysLater(date, 1, zone))
             made.push_back({.ReadingDate = date, .day = zone.day(date)});
     }
 };

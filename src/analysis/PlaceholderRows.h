@@ -7,7 +7,8 @@
 
 namespace zel {
 
-/// Rows for the days of \p period that a comment covers and that have no reading, by date.
+/// Rows for the days of \p period that a comment covers and that have no reading, by date; no more
+/// than 36,525, a century.
 /// \p readings by date, not empty; \p comments by begin date
 [[nodiscard]] std::vector<ReadingRow> addNArecords(std::span<const ReadingRow> readings,
                                                    const CommentList& comments, const Period& period,

@@ -25,7 +25,8 @@ tl::expected<QString, Failure> checkMonitorID(BPMModel& model, const Request& re
 
 tl::expected<ReadingList, Failure> receive(BPMModel& model, Surroundings& around) {
     ProgressLine progress(around);
-    auto readings = model.getBPMCycleData([&](int total, int done) { progress.show(total, done); });
+    auto readings = model.getBPMCycleData([&](int total, int done) { progress.show(total, done); },
+                                          [&](std::chrono::seconds left) { progress.waiting(left); });
     if (!readings) return failed(qtTrId("CliDownloadFailed").arg(describe(readings.error())));
     return std::move(*readings);
 }
@@ -48,6 +49,8 @@ CommandResult transfer(BPMModel& model, DataStore& store, const QString& monitor
     if (!added) return failed(qtTrId("CliDownloadUnsaved").arg(describe(added.error())));
     printLine(around.out, u"downloaded: "_s + QString::number(downloaded));
     printLine(around.out, u"new: "_s + QString::number(*added));
+    if (const StoreResult& loaded = store.lastLoad(); !loaded)
+        return failed(qtTrId("CliDownloadNotReadBack").arg(describe(loaded.error())));
     if (downloaded == 0 || store.getSetting().eraseRecAfterReading != 1) return {};
     return emptyMonitor(model, monitorID, store.getCurrentID());
 }

@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/MonitorConnection.h"
+#include "cli/ProgressLine.h"
 #include "cli/Usage.h"
 
 namespace zel::cli {
@@ -26,13 +27,18 @@ CommandResult printID(BPMModel& model, Surroundings& around) {
 
 CommandResult printClock(BPMModel& model, Surroundings& around) {
     const auto clock = model.readBPMDate();
+    if (!clock && clock.error() == MonitorResult::clockNotSet) {
+        printValue(around, u"clock"_s, u"not set"_s);
+        return {};
+    }
     if (!clock) return failed(qtTrId("CliClockUnread").arg(describe(clock.error())));
     printValue(around, u"clock"_s, DateToStr(*clock, u"yyyy-MM-dd HH:mm:ss"_s));
     return {};
 }
 
 CommandResult printCount(BPMModel& model, Surroundings& around) {
-    const auto count = model.getBPMCycleDataCount();
+    ProgressLine progress(around);
+    const auto count = model.getBPMCycleDataCount([&](std::chrono::seconds left) { progress.waiting(left); });
     if (!count) return failed(qtTrId("CliCountUnread").arg(describe(count.error())));
     printValue(around, u"readings"_s, QString::number(*count));
     return {};

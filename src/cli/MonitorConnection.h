@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Command.h"
+#include "cli/StopSignals.h"
 #include "monitor/BPMModel.h"
 
 #include <chrono>
@@ -12,6 +13,7 @@ namespace zel::cli {
 struct MonitorConnection {
     std::unique_ptr<MonitorPort> port;
     std::unique_ptr<BPMModel> model;
+    std::unique_ptr<StopSignals> stop;
     QString version; ///< its model code
 };
 

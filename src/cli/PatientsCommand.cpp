@@ -2,6 +2,7 @@
 #include "cli/Csv.h"
 #include "cli/OpenStore.h"
 #include "cli/Usage.h"
+#include "monitor/BPMModel.h"
 #include "store/Text.h"
 
 #include <algorithm>
@@ -41,16 +42,25 @@ tl::expected<QString, Failure> field(const Request& request, const QString& opti
     return value;
 }
 
+/// As the editor takes it: one that a monitor can keep.
+tl::expected<QString, Failure> idField(const Request& request) {
+    auto ID = field(request, u"id"_s);
+    if (ID && !BPMModel::fitsMonitor(*ID)) return wrongUsage(qtTrId("CliBadID"));
+    return ID;
+}
+
 tl::expected<PatientModel, Failure> newPatient(const Request& request) {
     PatientModel patient;
     patient.DateOfBirth = getNilDate();
     const auto fill = [&](QString PatientModel::*member, const QString& option) -> CommandResult {
         return field(request, option).map([&](const QString& value) { patient.*member = value; });
     };
-    const CommandResult filled =
-        fill(&PatientModel::ID, u"id"_s)
-            .and_then([&] { return fill(&PatientModel::FamilyName, u"family-name"_s); })
-            .and_then([&] { return fill(&PatientModel::GivenNames, u"given-names"_s); });
+    const auto ID = idField(request);
+    if (!ID) return tl::unexpected(ID.error());
+    patient.ID = *ID;
+    const CommandResult filled = fill(&PatientModel::FamilyName, u"family-name"_s).and_then([&] {
+        return fill(&PatientModel::GivenNames, u"given-names"_s);
+    });
     if (!filled) return tl::unexpected(filled.error());
     return patient;
 }

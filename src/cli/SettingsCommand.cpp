@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/OpenStore.h"
 #include "cli/Usage.h"
+#include "store/PressureLimits.h"
 #include "store/SettingKeys.h"
 
 #include <QSet>
@@ -75,7 +76,7 @@ void print(const SettingKey& key, const SettingModel& setting, Surroundings& aro
     printLine(around.out, QLatin1StringView{key.name} + u": "_s + escaped(key.text(setting)));
 }
 
-/// The first of the settings that the file did not keep, since one of an older version may have no place for
+/// The first of the settings that the file does not keep, since one of an older version may have no place for
 /// it; null if all are as \p meant.
 const SettingKey* notKept(const Assignments& wanted, const SettingModel& meant, const SettingModel& kept) {
     const auto found = std::ranges::find_if(
@@ -83,29 +84,28 @@ const SettingKey* notKept(const Assignments& wanted, const SettingModel& meant, 
     return found == wanted.end() ? nullptr : found->key;
 }
 
-CommandResult save(DataStore& store, const SettingModel& setting) {
-    store.getSetting() = setting;
-    StoreResult saved = store.saveSetting();
-    if (saved) saved = store.loadXML();
-    if (!saved) return failed(describe(saved.error()));
-    return {};
+/// Whether one of the limits is changed, and what is wrong with the two then: one may be wrong only beside
+/// the other, which stands in the file.
+std::optional<LimitProblem> limitsRefused(const SettingModel& before, const SettingModel& meant) {
+    if (before.sysStandard == meant.sysStandard && before.diaStandard == meant.diaStandard)
+        return std::nullopt;
+    return limitProblem(meant.sysStandard, meant.diaStandard);
 }
 
-/// All of them or none.
+/// All of them or none, and no others.
 CommandResult change(const Assignments& wanted, Surroundings& around) {
     const OpenedStore opened = openStoreForWriting(around);
     if (!opened) return tl::unexpected(opened.error());
     DataStore& store = **opened;
-    const SettingModel before = store.getSetting();
-    SettingModel meant = before;
+    const SettingModel shown = store.getSetting();
+    SettingModel meant = shown;
     for (const auto& [key, value] : wanted)
         key->set(meant, value);
-    if (CommandResult saved = save(store, meant); !saved) return saved;
-    if (const SettingKey* lost = notKept(wanted, meant, store.getSetting())) {
-        return save(store, before).and_then([lost]() -> CommandResult {
-            return failed(qtTrId("CliSettingNotKept").arg(QLatin1StringView{lost->name}));
-        });
-    }
+    if (const auto problem = limitsRefused(shown, meant)) return failed(describe(*problem));
+    const auto kept = store.changeSetting(shown, meant, DataStore::WithoutPlace::changeNothing);
+    if (!kept) return failed(describe(kept.error()));
+    if (const SettingKey* lost = notKept(wanted, meant, *kept))
+        return failed(qtTrId("CliSettingNotKept").arg(QLatin1StringView{lost->name}));
     for (const Assignment& one : wanted)
         print(*one.key, meant, around);
     return {};

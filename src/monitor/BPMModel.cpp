@@ -43,6 +43,11 @@ constexpr std::array<CapabilityRow, 16> gsVersionSpec{{
 }};
 
 constexpr int mostTries = 3;
+constexpr std::chrono::seconds headerWait{24};
+constexpr std::chrono::seconds quietTime{3};
+constexpr std::chrono::seconds silentModelWait{6}; ///< twice as long as for one answer
+/// A clock that was just set is off by the time that setting and reading it took.
+constexpr auto clockTolerance = std::chrono::seconds{30};
 const QString timePattern = u"yyyyMMddHHmmss"_s;
 
 /// Tries up to three times and says in the log what failed; an interrupted try is the last one.
@@ -73,7 +78,37 @@ QString fromMonitor(std::string_view bytes) {
     return QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
 }
 
-Instant inMilliseconds(WallTime time) { return std::chrono::floor<std::chrono::milliseconds>(time); }
+/// How long a monitor that says nothing keeps the tries waiting that come after this one. Each waits for the
+/// header, longer than the one before, and then for a quiet line.
+std::chrono::seconds laterDownloads(int attempt) {
+    std::chrono::seconds time = quietTime;
+    for (int later = attempt + 1; later <= mostTries; ++later)
+        time += later * headerWait + quietTime;
+    return time;
+}
+
+WaitNotice withLaterTries(const WaitNotice& waiting, std::chrono::seconds later) {
+    if (!waiting) return {};
+    return [=](std::chrono::seconds left) { waiting(left + later); };
+}
+
+/// The computer's local time.
+QString localTimeText(const Clock& clock) {
+    return DateToStr(std::chrono::floor<std::chrono::milliseconds>(clock.now()), timePattern);
+}
+
+/// Whether a change that was acknowledged was made: some other report may have been taken for the
+/// acknowledgement, and no monitor acknowledges the frame behind it.
+/// \param held what the monitor says afterwards
+template <class T, class Right>
+MonitorResult confirmed(const MonitorExpected<T>& held, const Right& isRight) {
+    if (held) return isRight(*held) ? MonitorResult::success : MonitorResult::notTaken;
+    switch (held.error()) {
+    case MonitorResult::interrupted: return MonitorResult::interrupted;
+    case MonitorResult::clockNotSet: return MonitorResult::notTaken;
+    default: return MonitorResult::unconfirmed;
+    }
+}
 
 } // namespace
 
@@ -81,12 +116,40 @@ struct BPMModel::Link {
     Link(MonitorPort& port, Clock& wallClock)
         : clock(wallClock), transport(port, wallClock), commands(transport) {}
 
+    MonitorExpected<QString> askVersion();
+    /// One try of a download. Its records are read by what the model can find, so the model is asked first;
+    /// records of a device that was opened anew since may be another model's.
+    MonitorExpected<CycleData> downloadOnce(const DownloadProgress& progress, int attempt,
+                                            const WaitNotice& waiting);
+
     Clock& clock;
     MonitorTransport transport;
     MonitorCommands commands;
     QString gsVersion; ///< model code of the monitor last asked; empty after a failure
     MonitorResult lastResult = MonitorResult::noDevice;
 };
+
+MonitorExpected<QString> BPMModel::Link::askVersion() {
+    gsVersion.clear();
+    const auto reply = commands.getBPMVersion();
+    if (!reply) return tl::unexpected(reply.error());
+    gsVersion = fromMonitor(std::string_view(*reply).substr(versionPrefix.size(), 2)).toUpper();
+    return gsVersion;
+}
+
+MonitorExpected<CycleData> BPMModel::Link::downloadOnce(const DownloadProgress& progress, int attempt,
+                                                        const WaitNotice& waiting) {
+    auto version = askVersion();
+    if (!version && version.error() == MonitorResult::timeOut) {
+        if (waiting) waiting(silentModelWait * (mostTries - attempt) + silentModelWait / 2);
+        version = askVersion(); // the first may have been a probe
+    }
+    if (!version) return tl::unexpected(version.error());
+    const int asked = transport.openings();
+    auto data = commands.getBPMCycleData(progress, attempt, withLaterTries(waiting, laterDownloads(attempt)));
+    if (data && transport.openings() != asked) return tl::unexpected(MonitorResult::readFailed);
+    return data;
+}
 
 BPMModel::BPMModel(MonitorPort& port, Clock& clock) : link(std::make_unique<Link>(port, clock)) {}
 BPMModel::~BPMModel() = default;
@@ -102,13 +165,7 @@ bool BPMModel::checkIsConnected() {
     return IsConnected();
 }
 
-MonitorExpected<QString> BPMModel::getBPMVersion() {
-    link->gsVersion.clear();
-    const auto reply = link->commands.getBPMVersion();
-    if (!reply) return tl::unexpected(reply.error());
-    link->gsVersion = fromMonitor(std::string_view(*reply).substr(versionPrefix.size(), 2)).toUpper();
-    return link->gsVersion;
-}
+MonitorExpected<QString> BPMModel::getBPMVersion() { return link->askVersion(); }
 
 MonitorExpected<QString> BPMModel::getBPMID() {
     return link->commands.getBPMID().map([](const std::string& ID) { return TrimStr(fromMonitor(ID)); });
@@ -119,18 +176,28 @@ MonitorResult BPMModel::sendID(const QString& ID, bool clear) {
     if (!fitsMonitor(ID)) return MonitorResult::unfitID;
     const MonitorResult result = link->commands.sendID(ID.toLatin1().toStdString(), clear);
     qCInfo(lcMonitor, "sendID result:%i", static_cast<int>(result));
-    return result;
+    if (result != MonitorResult::success) return result;
+    auto held = getBPMID();
+    for (int tries = 1; !held && tries < mostTries && held.error() != MonitorResult::interrupted; ++tries)
+        held = getBPMID();
+    const MonitorResult taken = confirmed(held, [&](const QString& now) { return now == ID; });
+    if (taken != MonitorResult::success || !clear) return taken;
+    return confirmed(getBPMCycleDataCount(), [](int count) { return count == 0; });
 }
 
 MonitorResult BPMModel::eraseData(const QString& currentID) { return sendID(currentID, true); }
 
-MonitorExpected<int> BPMModel::getBPMCycleDataCount() {
-    return withRetries("getBPMCycleDataCount", [this](int) { return link->commands.getBPMCycleDataCount(); });
+MonitorExpected<int> BPMModel::getBPMCycleDataCount(const WaitNotice& waiting) {
+    return withRetries("getBPMCycleDataCount", [&](int attempt) {
+        return link->commands.getBPMCycleDataCount(
+            withLaterTries(waiting, headerWait * (mostTries - attempt)));
+    });
 }
 
-MonitorExpected<std::vector<ReadingModel>> BPMModel::getBPMCycleData(const DownloadProgress& progress) {
+MonitorExpected<std::vector<ReadingModel>> BPMModel::getBPMCycleData(const DownloadProgress& progress,
+                                                                     const WaitNotice& waiting) {
     const auto data = withRetries(
-        "getBPMCycleData", [&](int attempt) { return link->commands.getBPMCycleData(progress, attempt); },
+        "getBPMCycleData", [&](int attempt) { return link->downloadOnce(progress, attempt, waiting); },
         [](int tries, MonitorResult result) {
             qCWarning(lcMonitor, "getBPMCycleData fail at %i times, error code:%i\n", tries,
                       static_cast<int>(result));
@@ -153,14 +220,22 @@ MonitorExpected<Instant> BPMModel::readBPMDate() {
     const auto reply = withRetries("getBPMCycleData", [this](int) { return link->commands.getBPMDate(); });
     if (!reply) return tl::unexpected(reply.error());
     const QString r = fromMonitor(*reply);
+    if (r.startsWith("0000"_L1)) return tl::unexpected(MonitorResult::clockNotSet); // no month and no day
     const Date date = StrToDate(u"20"_s + r.mid(4, 2) + r.left(4) + r.mid(8, 6), timePattern);
     if (!date) return tl::unexpected(MonitorResult::badFixedContent);
     return *date;
 }
 
 MonitorResult BPMModel::setBPMDate() {
-    const QString now = DateToStr(inMilliseconds(link->clock.now()), timePattern);
-    return link->commands.setBPMDate(now.toLatin1().toStdString());
+    const QString now = localTimeText(link->clock);
+    const MonitorResult result = link->commands.setBPMDate(now.toLatin1().toStdString());
+    if (result != MonitorResult::success) return result;
+    // Both by way of the same text, so that an hour that comes twice is the same one.
+    const auto isRight = [this](Instant held) {
+        const Date right = StrToDate(localTimeText(link->clock), timePattern);
+        return right && std::chrono::abs(*right - held) < clockTolerance;
+    };
+    return confirmed(readBPMDate(), isRight);
 }
 
 void BPMModel::quietLine() {
@@ -170,6 +245,7 @@ void BPMModel::quietLine() {
 
 void BPMModel::interrupt() { link->transport.interrupt(); }
 void BPMModel::resume() { link->transport.resume(); }
+bool BPMModel::isInterrupted() const { return link->transport.isInterrupted(); }
 
 bool BPMModel::fitsMonitor(const QString& ID) {
     const auto printable = [](QChar c) { return c >= u' ' && c <= u'~'; };

@@ -35,19 +35,25 @@ public:
     MonitorExpected<QString> getBPMVersion();
     /// The ID stored in the monitor, trimmed; may be empty.
     MonitorExpected<QString> getBPMID();
-    /// Writes the ID; \p clear also empties the memory. An ID that does not fit (fitsMonitor) is refused with
-    /// unfitID, as the monitor would keep another one than was meant.
+    /// Writes the ID and reads it back; \p clear also empties the memory, and counts what is left. An ID that
+    /// does not fit (fitsMonitor) is refused with unfitID, as the monitor would keep another one than was
+    /// meant. \return notTaken when the monitor then holds something else, unconfirmed when that could not be
+    /// read
     MonitorResult sendID(const QString& ID, bool clear);
     /// Empties the monitor's memory, by sending \p currentID with the clear flag.
     MonitorResult eraseData(const QString& currentID);
     /// Number of stored readings. Takes 1 to 20 s, as the monitor then sends them all.
-    MonitorExpected<int> getBPMCycleDataCount();
-    /// All stored readings in the monitor's order, after at most three tries; empty when it holds none.
+    MonitorExpected<int> getBPMCycleDataCount(const WaitNotice& waiting = {});
+    /// All stored readings in the monitor's order, after at most three tries; empty when it holds none. Each
+    /// try asks for the model code first, which gives a record's flag its meaning, and fails without it.
+    /// \p waiting tells of waits, with the time that all tries may still take while nothing comes.
     /// Leaves the monitor's memory alone: it may be erased once the readings are on disk.
-    MonitorExpected<std::vector<ReadingModel>> getBPMCycleData(const DownloadProgress& progress);
-    /// The monitor's clock; badFixedContent if what it says is no date.
+    MonitorExpected<std::vector<ReadingModel>> getBPMCycleData(const DownloadProgress& progress,
+                                                               const WaitNotice& waiting = {});
+    /// The monitor's clock; clockNotSet if it has no month and no day, badFixedContent if what else it says
+    /// is no date.
     MonitorExpected<Instant> readBPMDate();
-    /// Sets the monitor's clock to the computer's local time.
+    /// Sets the monitor's clock to the computer's local time and reads it back. \return as sendID()
     MonitorResult setBPMDate();
 
     /// Discards for 3 s what the monitor still sends of a download that was given up, so that the next
@@ -58,6 +64,7 @@ public:
     /// within one read. From any thread.
     void interrupt();
     void resume();
+    [[nodiscard]] bool isInterrupted() const;
 
     /// 1 to 11 printable ASCII characters without blanks at the ends: what the monitor keeps and gives back.
     [[nodiscard]] static bool fitsMonitor(const QString& ID);

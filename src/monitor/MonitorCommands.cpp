@@ -15,6 +15,8 @@ constexpr int identityUnits = 12;
 constexpr int versionUnits = 6;
 constexpr int dateUnits = 33;
 constexpr auto headerLimit = 24s;
+/// Behind the last byte of a download: what still comes then shows that the header's count was wrong.
+constexpr auto surplusListening = 300ms;
 constexpr std::size_t headerIDOffset = 8;
 constexpr std::size_t hexIDLength = 2 * longestID;
 /// Each started 300 bytes buys the monitor one unit of time.
@@ -52,7 +54,9 @@ MonitorExpected<std::string> MonitorCommands::getBPMID() {
 }
 
 MonitorExpected<std::string> MonitorCommands::getBPMVersion() {
-    auto reply = transport.getBPMData(Command::version, versionReplyLength, versionUnits);
+    // Some monitors take two seconds for this one, and none is known before it has answered.
+    auto reply = transport.getBPMData(Command::version, versionReplyLength, versionUnits,
+                                      MonitorTransport::slowestAnswer);
     if (!reply) return reply;
     if (!checkFixed(*reply, 0, versionPrefix) || !checkFixed(*reply, versionSuffixOffset, versionSuffix))
         return tl::unexpected(MonitorResult::badFixedContent);
@@ -70,36 +74,49 @@ MonitorResult MonitorCommands::sendRecordsCommand() {
     return sent;
 }
 
-MonitorExpected<int> MonitorCommands::getBPMCycleDataCount() {
+MonitorExpected<int> MonitorCommands::getBPMCycleDataCount(const WaitNotice& waiting) {
     qCInfo(lcMonitor, "getBPMCycleDataCount");
     const auto lock = transport.exchange();
     if (const auto sent = sendRecordsCommand(); sent != MonitorResult::success) return tl::unexpected(sent);
-    const auto head = transport.gather({.wanted = recordsHeaderLength, .limit = headerLimit});
+    const auto head =
+        transport.gather({.wanted = recordsHeaderLength, .limit = headerLimit, .onWait = waiting});
     if (!head) return tl::unexpected(head.error());
     const auto count = recordCount(*head);
     qCInfo(lcMonitor, "clear buffer for data count:");
-    transport.clear_buffer(drainTime(bytesToCome(head->size(), count.value_or(mostRecords))));
+    const std::size_t rest = bytesToCome(head->size(), count.value_or(mostRecords));
+    const std::size_t discarded = transport.clear_buffer(drainTime(rest));
     if (transport.isInterrupted()) return tl::unexpected(MonitorResult::interrupted);
+    // The last report may bring a few bytes too many, but no record more than was announced.
+    if (count && discarded > rest + reportCapacity) return tl::unexpected(MonitorResult::badCheckField);
+    if (count && discarded < rest) {
+        const auto behind = transport.listen(surplusListening);
+        if (!behind) return tl::unexpected(behind.error());
+        // It has stopped sending, and did not send as much as it announced.
+        if (behind->empty()) return tl::unexpected(MonitorResult::badCheckField);
+    }
     return count;
 }
 
-MonitorExpected<CycleData> MonitorCommands::getBPMCycleData(const DownloadProgress& progress, int attempt) {
+MonitorExpected<CycleData> MonitorCommands::getBPMCycleData(const DownloadProgress& progress, int attempt,
+                                                            const WaitNotice& waiting) {
     qCInfo(lcMonitor, "getBPMCycleData");
     const auto lock = transport.exchange();
     if (const auto sent = sendRecordsCommand(); sent != MonitorResult::success) return tl::unexpected(sent);
-    auto data = download(progress, attempt);
+    auto data = download(progress, attempt, waiting);
     if (!data) transport.clearAndClose();
     return data;
 }
 
-MonitorExpected<CycleData> MonitorCommands::download(const DownloadProgress& progress, int attempt) {
-    const auto head = transport.gather({.wanted = recordsHeaderLength, .limit = attempt * headerLimit});
+MonitorExpected<CycleData> MonitorCommands::download(const DownloadProgress& progress, int attempt,
+                                                     const WaitNotice& waiting) {
+    const auto head =
+        transport.gather({.wanted = recordsHeaderLength, .limit = attempt * headerLimit, .onWait = waiting});
     if (!head) return tl::unexpected(head.error());
     const auto count = recordCount(*head);
     if (!count) return tl::unexpected(count.error());
     progress(*count, 0);
-    if (*count == 0) return CycleData{};
-    auto bytes = gatherRecords(*head, *count, progress, attempt);
+    if (*count == 0) return confirmEmpty(*head);
+    auto bytes = gatherRecords(*head, *count, progress, attempt, waiting);
     if (!bytes) return tl::unexpected(bytes.error());
     progress(*count, *count);
     const std::string_view hexID = std::string_view(*head).substr(headerIDOffset, hexIDLength);
@@ -108,8 +125,20 @@ MonitorExpected<CycleData> MonitorCommands::download(const DownloadProgress& pro
     return CycleData{convertAsciiArray(hexID), std::move(*bytes), *count};
 }
 
+/// No check field is asked for when the header announces nothing, but one that comes has to be right.
+MonitorExpected<CycleData> MonitorCommands::confirmEmpty(std::string_view head) {
+    const auto behind = transport.listen(surplusListening);
+    if (!behind) return tl::unexpected(behind.error());
+    const std::string all = std::string{head} + *behind;
+    if (all.size() == recordsHeaderLength) return CycleData{};
+    if (all.size() == recordsHeaderLength + checkFieldLength && checkSum(all)) return CycleData{};
+    qCWarning(lcMonitor, "check sum error");
+    return tl::unexpected(MonitorResult::badCheckField);
+}
+
 MonitorExpected<std::string> MonitorCommands::gatherRecords(std::string_view head, int count,
-                                                            const DownloadProgress& progress, int attempt) {
+                                                            const DownloadProgress& progress, int attempt,
+                                                            const WaitNotice& waiting) {
     qCInfo(lcMonitor, "read bytes iRead %d\n", static_cast<int>(head.size()));
     const std::size_t size =
         recordsHeaderLength + static_cast<std::size_t>(count) * recordLength + checkFieldLength;
@@ -124,8 +153,8 @@ MonitorExpected<std::string> MonitorCommands::gatherRecords(std::string_view hea
         progress(count, static_cast<int>((gathered + early) / recordLength));
     };
     const auto limit = attempt * (static_cast<int>(rest / bytesPerUnit) + 1) * 2s;
-    const auto records =
-        transport.gather({.wanted = rest, .limit = limit, .acknowledged = false, .onReport = onReport});
+    const auto records = transport.gather(
+        {.wanted = rest, .limit = limit, .acknowledged = false, .onReport = onReport, .onWait = waiting});
     if (!records) return tl::unexpected(records.error());
     const std::string_view fitting = std::string_view(*records).substr(0, size - recordsHeaderLength);
     bytes.replace(recordsHeaderLength, fitting.size(), fitting);
@@ -134,7 +163,11 @@ MonitorExpected<std::string> MonitorCommands::gatherRecords(std::string_view hea
         qCWarning(lcMonitor, "check sum error");
         return tl::unexpected(MonitorResult::badCheckField);
     }
-    return bytes;
+    const auto behind = transport.listen(surplusListening);
+    if (!behind) return tl::unexpected(behind.error());
+    if (behind->empty()) return bytes;
+    qCWarning(lcMonitor, "more records than announced");
+    return tl::unexpected(MonitorResult::badCheckField);
 }
 
 MonitorResult MonitorCommands::sendFrame(Command command, std::string_view frame) {
@@ -146,6 +179,14 @@ MonitorResult MonitorCommands::sendFrame(Command command, std::string_view frame
 }
 
 MonitorResult MonitorCommands::sendID(std::string_view ID, bool clear) {
+    if (clear) {
+        // What was asked before, and told its readings, has gone if the device has to be opened now: another
+        // one may be in its place, whose readings nobody has.
+        const auto lock = transport.exchange();
+        const int before = transport.openings();
+        if (const auto opened = transport.my_hid_open(); opened != MonitorResult::success) return opened;
+        if (transport.openings() != before) return MonitorResult::readFailed;
+    }
     return sendFrame(Command::sendID, idFrame(ID, clear));
 }
 

@@ -30,18 +30,22 @@ public:
     /// The clock-and-settings reply: "MMddyy", two characters without use, "HHmmss", settings.
     [[nodiscard]] MonitorExpected<std::string> getBPMDate();
     /// Number of stored records. The monitor sends them all, which is waited for.
-    [[nodiscard]] MonitorExpected<int> getBPMCycleDataCount();
+    [[nodiscard]] MonitorExpected<int> getBPMCycleDataCount(const WaitNotice& waiting = {});
     /// \param attempt 1, 2 or 3: scales the time-outs
-    [[nodiscard]] MonitorExpected<CycleData> getBPMCycleData(const DownloadProgress& progress, int attempt);
+    [[nodiscard]] MonitorExpected<CycleData> getBPMCycleData(const DownloadProgress& progress, int attempt,
+                                                             const WaitNotice& waiting = {});
     [[nodiscard]] MonitorResult sendID(std::string_view ID, bool clear);
     /// \param time 14 characters, "yyyyMMddHHmmss"
     [[nodiscard]] MonitorResult setBPMDate(std::string_view time);
 
 private:
     [[nodiscard]] MonitorResult sendRecordsCommand();
-    [[nodiscard]] MonitorExpected<CycleData> download(const DownloadProgress& progress, int attempt);
+    [[nodiscard]] MonitorExpected<CycleData> download(const DownloadProgress& progress, int attempt,
+                                                      const WaitNotice& waiting);
+    [[nodiscard]] MonitorExpected<CycleData> confirmEmpty(std::string_view head);
     [[nodiscard]] MonitorExpected<std::string> gatherRecords(std::string_view head, int count,
-                                                             const DownloadProgress& progress, int attempt);
+                                                             const DownloadProgress& progress, int attempt,
+                                                             const WaitNotice& waiting);
     [[nodiscard]] MonitorResult sendFrame(Command command, std::string_view frame);
 
     MonitorTransport& transport;

@@ -15,6 +15,9 @@ QString describe(MonitorResult result) {
     case MonitorResult::accessDenied: return qtTrId("monitorAccessDenied");
     case MonitorResult::interrupted: return qtTrId("monitorInterrupted");
     case MonitorResult::unfitID: return qtTrId("monitorUnfitID");
+    case MonitorResult::clockNotSet: return qtTrId("monitorClockNotSet");
+    case MonitorResult::notTaken: return qtTrId("monitorNotTaken");
+    case MonitorResult::unconfirmed: return qtTrId("monitorUnconfirmed");
     }
     return {};
 }

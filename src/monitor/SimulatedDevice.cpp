@@ -48,6 +48,21 @@ std::size_t reportsBefore(const SimulatedFault& fault, std::size_t all) {
     return std::min(all, fault.afterReports ? static_cast<std::size_t>(*fault.afterReports) : usual);
 }
 
+void spoilByte(Report& report) { report[report[0]] ^= 1U; }
+
+/// Behind the data of a report; behind a full one, in a report of its own.
+void addByte(std::vector<Report>& reports, std::size_t index) {
+    Report& report = reports[index];
+    if (report[0] < reportCapacity) {
+        report[++report[0]] = '0';
+        return;
+    }
+    Report extra(reportLength);
+    extra[0] = 1;
+    extra[1] = '0';
+    reports.insert(reports.begin() + static_cast<std::ptrdiff_t>(index) + 1, std::move(extra));
+}
+
 std::chrono::milliseconds inMilliseconds(std::chrono::microseconds time) {
     return std::chrono::floor<std::chrono::milliseconds>(time);
 }
@@ -55,7 +70,8 @@ std::chrono::milliseconds inMilliseconds(std::chrono::microseconds time) {
 } // namespace
 
 SimulatedDevice::SimulatedDevice(SimulatedMonitorPlan given, const Clock& wallClock)
-    : plan(std::move(given)), clock(wallClock), clockOffset(plan.clockOffset), settings(ginitialParam) {}
+    : plan(std::move(given)), clock(wallClock), clockOffset(plan.clockOffset), isClockSet(plan.isClockSet),
+      settings(ginitialParam) {}
 
 void SimulatedDevice::reset() {
     queue.clear();
@@ -97,9 +113,14 @@ void SimulatedDevice::answer(Command command, const std::optional<SimulatedFault
     const bool breaksOff = kind == Kind::halfAnswer || kind == Kind::unplug || kind == Kind::readError;
     if (fault && breaksOff) reports.resize(reportsBefore(*fault, reports.size()));
     if (kind == Kind::wrongAcknowledgement && !reports.empty()) reports.front()[1] = refusal;
-    const WallTime due = fault ? clock.now() + fault->delay : WallTime{};
-    for (Report& report : reports)
-        queue.push_back({.report = std::move(report), .notBefore = due});
+    const std::size_t hit = fault ? reportsBefore(*fault, reports.size()) : 0;
+    if (kind == Kind::wrongByte && hit < reports.size()) spoilByte(reports[hit]);
+    if (kind == Kind::surplusByte && hit < reports.size()) addByte(reports, hit);
+    for (std::size_t i = 0; i < reports.size(); ++i) {
+        const bool isLate = kind == Kind::late && i >= hit;
+        queue.push_back(
+            {.report = std::move(reports[i]), .notBefore = isLate ? clock.now() + fault->delay : WallTime{}});
+    }
     if (kind == Kind::unplug) queue.push_back({.kind = DeviceEvent::Kind::unplug, .fault = *fault});
     if (kind == Kind::readError) queue.push_back({.kind = DeviceEvent::Kind::readError});
     const bool taken = !fault || kind == Kind::late;
@@ -123,6 +144,7 @@ std::string SimulatedDevice::replyTo(Command command) const {
 }
 
 std::string SimulatedDevice::dateReply() const {
+    if (!isClockSet) return withCheckField("00000020000000" + settings);
     const Instant time = std::chrono::floor<std::chrono::milliseconds>(clock.now()) + clockOffset;
     return withCheckField(DateToStr(time, u"MMddyy'20'HHmmss"_s).toLatin1().toStdString() + settings);
 }
@@ -178,6 +200,7 @@ void SimulatedDevice::takeClock(std::string_view given) {
     const Date time = StrToDate(u"20"_s + text.mid(4, 2) + text.left(4) + text.mid(8), u"yyyyMMddHHmmss"_s);
     if (!time) return;
     clockOffset = inMilliseconds(*time - clock.now());
+    isClockSet = true;
     const std::string_view newSettings =
         given.substr(clockTextLength, given.size() - clockTextLength - checkFieldLength);
     settings.replace(0, newSettings.size(), newSettings);

@@ -43,6 +43,7 @@ private:
     SimulatedMonitorPlan plan;
     const Clock& clock;
     std::chrono::milliseconds clockOffset;
+    bool isClockSet;
     std::string settings;
     std::optional<Command> frameFor; ///< the command whose long data frame is being received
     std::string frame;

@@ -22,6 +22,9 @@ struct SimulatedFault {
         badFixedContent,
         halfAnswer,
         late,
+        wrongByte,
+        surplusByte,
+        notTaken, ///< acknowledged, but nothing changes
         unplug,
         readError,
         writeError,
@@ -29,9 +32,10 @@ struct SimulatedFault {
         denied,
     };
     Kind kind = Kind::noAnswer;
-    std::optional<Command> command{};      ///< none: the opening of the device
-    std::optional<int> times{};            ///< how often it shows; always when none
-    std::optional<int> afterReports{};     ///< reports of the answer that come before it
+    std::optional<Command> command{}; ///< none: the opening of the device
+    std::optional<int> times{};       ///< how often it shows; always when none
+    std::optional<int>
+        afterReports{}; ///< reports of the answer that come before it, or before the one it hits
     std::chrono::milliseconds delay{0};    ///< of a late answer
     std::optional<int> replugAfterOpens{}; ///< after an unplug: openings that fail before it is back
     std::optional<std::chrono::milliseconds> replugAfter{};
@@ -54,6 +58,7 @@ struct SimulatedMonitorPlan {
     std::string model = "41";
     std::string ID = "DEMO1";
     std::chrono::seconds clockOffset{0};                  ///< the monitor's clock minus the computer's
+    bool isClockSet = true;                               ///< else it says zeros until it is set
     std::vector<std::string> records{};                   ///< 32 bytes each
     std::vector<std::size_t> reportSizes{reportCapacity}; ///< data bytes of a reply's reports, in turn
     std::vector<SimulatedFault> faults{};

@@ -29,13 +29,16 @@ struct KindName {
 };
 constexpr auto everyCommand = "\"#$&'>"_L1;
 constexpr auto everyReply = "\"$&>"_L1;
-constexpr std::array<KindName, 11> kindNames{{
+constexpr std::array<KindName, 14> kindNames{{
     {"noAnswer"_L1, Kind::noAnswer, everyCommand},
     {"wrongAcknowledgement"_L1, Kind::wrongAcknowledgement, everyCommand},
     {"badCheckField"_L1, Kind::badCheckField, everyReply},
     {"badFixedContent"_L1, Kind::badFixedContent, "$>"_L1},
     {"halfAnswer"_L1, Kind::halfAnswer, everyReply},
     {"late"_L1, Kind::late, everyCommand},
+    {"wrongByte"_L1, Kind::wrongByte, everyReply},
+    {"surplusByte"_L1, Kind::surplusByte, everyReply},
+    {"notTaken"_L1, Kind::notTaken, "#'"_L1},
     {"unplug"_L1, Kind::unplug, everyCommand},
     {"readError"_L1, Kind::readError, everyCommand},
     {"writeError"_L1, Kind::writeError, everyCommand},
@@ -105,6 +108,12 @@ std::optional<Command> readCommand(PlanMembers& members, QLatin1StringView comma
     return std::nullopt;
 }
 
+bool hitsOneReport(Kind kind) {
+    constexpr std::array kinds{Kind::halfAnswer, Kind::unplug,      Kind::readError,
+                               Kind::wrongByte,  Kind::surplusByte, Kind::late};
+    return std::ranges::find(kinds, kind) != kinds.end();
+}
+
 SimulatedFault readFault(PlanMembers members) {
     constexpr int mostReports = 32 + 255 * 32 + 2 + 1;
     SimulatedFault fault;
@@ -112,9 +121,8 @@ SimulatedFault readFault(PlanMembers members) {
     fault.kind = kind.kind;
     fault.command = readCommand(members, kind.commands);
     fault.times = members.optionalWhole(u"times"_s, 1, mostTimes);
-    const bool breaksOff =
-        fault.kind == Kind::halfAnswer || fault.kind == Kind::unplug || fault.kind == Kind::readError;
-    if (breaksOff) fault.afterReports = members.optionalWhole(u"afterReports"_s, 0, mostReports);
+    if (hitsOneReport(fault.kind))
+        fault.afterReports = members.optionalWhole(u"afterReports"_s, 0, mostReports);
     if (fault.kind == Kind::late)
         fault.delay = std::chrono::milliseconds{members.whole(u"delayMs"_s, 1, longestDelay)};
     if (fault.kind == Kind::unplug) {
@@ -161,6 +169,11 @@ tl::expected<SimulatedMonitorPlan, PlanError> readPlan(const QByteArray& json) {
     plan.ID = members.bytes(u"id"_s, 0, static_cast<int>(longestID));
     plan.clockOffset = std::chrono::seconds{
         members.optionalWhole(u"clockOffsetSeconds"_s, -longestOffset, longestOffset).value_or(0)};
+    if (members.has(u"clock"_s)) {
+        const QString clock = members.text(u"clock"_s, 0, 40);
+        plan.isClockSet = clock != "unset"_L1;
+        if (plan.isClockSet && clock != "set"_L1) members.fail(Code::notAllowed, u"clock"_s, u"set, unset"_s);
+    }
     readLists(members, plan, error);
     members.finish();
     if (error) return tl::unexpected(*error);

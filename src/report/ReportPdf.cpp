@@ -76,7 +76,7 @@ tl::expected<void, ReportError> writePdf(const PrintView& view, std::span<const 
     return replaceFile(path, *pdf).map_error([](const StoreError& error) {
         const bool isWritable = error.code != StoreErrorCode::notWritable;
         return ReportError{isWritable ? ReportErrorCode::writeFailed : ReportErrorCode::notWritable,
-                           error.path, error.detail};
+                           error.path, isWritable && error.detail.isEmpty() ? describe(error) : error.detail};
     });
 }
 

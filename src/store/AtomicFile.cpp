@@ -1,71 +1,132 @@
 #include "store/AtomicFile.h"
 
 #include "store/Log.h"
+#include "store/NewFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+QString systemWords(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
 
 tl::unexpected<StoreError> failed(StoreErrorCode code, const QString& path, const QString& detail) {
     return tl::unexpected{StoreError{code, path, detail}};
 }
 
-/// \return the system's error number, 0 for success
-int flushFolder(const QString& folder) {
-    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return errno;
-    const int error = ::fsync(handle) == 0 ? 0 : errno;
-    ::close(handle);
-    return error == EINVAL ? 0 : error; // a file system that has nothing to flush
+tl::unexpected<StoreError> unwritten(int error, const QString& path) {
+    return tl::unexpected{writeError(error, path)};
 }
 
-/// True once every byte is in the temporary file. On a full disk commit() alone can report success for a
-/// file that was cut short.
-bool writeWhole(QSaveFile& file, const QByteArray& content) {
-    return file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError
-           && file.size() == content.size() && ::fsync(file.handle()) == 0;
+class Handle {
+public:
+    explicit Handle(int opened) : handle{opened} {}
+    ~Handle() {
+        if (handle >= 0) ::close(handle);
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    [[nodiscard]] int get() const { return handle; }
+    [[nodiscard]] bool isOpen() const { return handle >= 0; }
+
+private:
+    int handle;
+};
+
+/// \return the system's error number, 0 for success
+int flushFolder(const QString& folder, NewFile& file) {
+    const Handle handle{::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    if (!handle.isOpen()) return file.flushFileSystem(); // it may be written, but not read
+    if (::fsync(handle.get()) == 0) return 0;
+    return errno == EINVAL ? 0 : errno; // a file system that has nothing to flush
+}
+
+QString realPath(const QString& path) {
+    const QFileInfo info{path};
+    return info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
+}
+
+/// Hidden, and unlike any name that a user gives to a copy of the file.
+QString temporaryPrefix(const QString& target) {
+    const QFileInfo info{target};
+    return info.path() + u"/."_s + info.fileName() + u".new-"_s;
+}
+
+int keepOwner(NewFile& file, const QString& target) {
+    struct stat before {};
+    if (::stat(QFile::encodeName(target).constData(), &before) != 0) return errno == ENOENT ? 0 : errno;
+    return file.setOwner(before.st_uid, before.st_gid, before.st_mode & 0777U);
 }
 
 } // namespace
+
+StoreError writeError(int error, const QString& path) {
+    switch (error) {
+    case ENOSPC: return {StoreErrorCode::diskFull, path, {}};
+    case EDQUOT: return {StoreErrorCode::quotaReached, path, {}};
+    case EFBIG: return {StoreErrorCode::sizeLimit, path, {}};
+    case EACCES:
+    case EPERM:
+    case ENOENT:
+    case ENOTDIR:
+    case EROFS: return {StoreErrorCode::notWritable, path, systemWords(error)};
+    default: return {StoreErrorCode::writeFailed, path, systemWords(error)};
+    }
+}
 
 StoreResult replaceFile(const QString& path, const QByteArray& content) {
     const QFileInfo info{path};
     // A device or a pipe would be gone for good.
     if (info.exists() && !info.isFile()) return failed(StoreErrorCode::notWritable, path, {});
-    const QString target = info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
-    QSaveFile file{target};
-    file.setDirectWriteFallback(false);
-    if (!file.open(QIODevice::WriteOnly))
-        return failed(StoreErrorCode::notWritable, path, file.errorString());
-    if (!info.exists()) file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    if (!writeWhole(file, content)) {
-        file.cancelWriting();
-        return failed(StoreErrorCode::writeFailed, path, {});
-    }
-    if (!file.commit()) return failed(StoreErrorCode::writeFailed, path, file.errorString());
-    // The new content is in its place already; not being able to say when it is there for good is no failure.
-    if (const int error = flushFolder(QFileInfo{target}.absolutePath())) {
+    const QString target = realPath(path);
+    auto file = NewFile::create(temporaryPrefix(target));
+    if (!file) return unwritten(file.error(), path);
+    if (const int error = keepOwner(*file, target)) return unwritten(error, path);
+    if (const int error = file->write(content)) return unwritten(error, path);
+    if (const int error = file->flush()) return unwritten(error, path);
+    if (const int error = file->takePlace(target)) return unwritten(error, path);
+    if (const int error = flushFolder(QFileInfo{target}.absolutePath(), *file)) {
         qCWarning(lcStore, "The folder of %s could not be flushed: %s", qUtf8Printable(target),
                   std::strerror(error));
+        return failed(StoreErrorCode::notFlushed, path, systemWords(error));
     }
     return {};
 }
 
+void removeDeadReplacements(const QString& path) { removeDeadFiles(temporaryPrefix(realPath(path))); }
+
 tl::expected<QByteArray, StoreError> readFile(const QString& path) {
-    QFile file{path};
-    if (!file.open(QIODevice::ReadOnly)) return failed(StoreErrorCode::notReadable, path, file.errorString());
-    QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return failed(StoreErrorCode::notReadable, path, file.errorString());
+    // Opening a pipe would wait for who writes into it.
+    const Handle handle{::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)};
+    if (!handle.isOpen()) return failed(StoreErrorCode::notReadable, path, systemWords(errno));
+    struct stat status {};
+    if (::fstat(handle.get(), &status) != 0)
+        return failed(StoreErrorCode::notReadable, path, systemWords(errno));
+    if (!S_ISREG(status.st_mode)) return failed(StoreErrorCode::notReadable, path, qtTrId("ImportNoFile"));
+    // Some files do not know their size, and a file may grow meanwhile.
+    constexpr qint64 step = qint64{1} << 20;
+    QByteArray content;
+    content.reserve(std::min<qint64>(status.st_size, largestFile) + step);
+    for (ssize_t count = 1; count > 0;) {
+        const qsizetype done = content.size();
+        if (std::max<qint64>(status.st_size, done) > largestFile)
+            return failed(StoreErrorCode::tooLarge, path, {});
+        content.resize(std::max<qint64>(status.st_size, done) + step);
+        count = ::read(handle.get(), content.data() + done, static_cast<std::size_t>(content.size() - done));
+        if (count < 0) return failed(StoreErrorCode::notReadable, path, systemWords(errno));
+        content.resize(done + count);
+    }
     return content;
 }
 

@@ -9,10 +9,23 @@ namespace zel {
 
 /// Replaces the file's content whole or not at all: a temporary file beside it is written, flushed to the
 /// disk and renamed over it, and the folder is flushed too, so that a power cut after success loses nothing.
-/// Symbolic links are followed, permissions kept; a new file is for its owner alone (0600).
+/// Symbolic links are followed, permissions and owner kept; a new file is for its owner alone (0600).
+/// \return notFlushed if the file has been replaced, but may be the older one again after a power cut; after
+/// any other error it is as it was
 [[nodiscard]] StoreResult replaceFile(const QString& path, const QByteArray& content);
 
-/// The whole file.
+/// Removes what programs left beside the file when they were killed while they replaced it.
+void removeDeadReplacements(const QString& path);
+
+/// The largest file that is read, in bytes.
+inline constexpr qint64 largestFile = qint64{512} << 20;
+
+/// The whole file. Only a regular file is opened: a pipe or a device has no end to wait for.
+/// \return notReadable or tooLarge
 [[nodiscard]] tl::expected<QByteArray, StoreError> readFile(const QString& path);
+
+/// What the system's error number of a failed write means to the user; writeFailed with the system's words if
+/// it is none of a full disk, a quota and a size limit.
+[[nodiscard]] StoreError writeError(int error, const QString& path);
 
 } // namespace zel

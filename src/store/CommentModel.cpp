@@ -6,13 +6,18 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using C = CommentModel;
 constexpr std::array commentChildren{
-    xml::text<C, &C::ID>("ID"),           xml::text<C, &C::CommentID>("CommentID"),
-    xml::number<C, &C::degree>("Degree"), xml::date<C, &C::beginDate>("BeginDate"),
-    xml::date<C, &C::endDate>("EndDate"), xml::text<C, &C::comment>("Comment"),
+    xml::text<C, &C::ID>("ID"),
+    xml::text<C, &C::CommentID>("CommentID"),
+    xml::number<C, &C::degree>("Degree"),
+    xml::localDate<C, &C::beginDate>("BeginDate"),
+    xml::localDate<C, &C::endDate>("EndDate"),
+    xml::text<C, &C::comment>("Comment"),
 };
 constexpr std::span<const XmlChild<C>> commentTable{commentChildren};
 
@@ -21,6 +26,7 @@ constexpr std::span<const XmlChild<C>> commentTable{commentChildren};
 CommentModel CommentModel::initWithXMLNode(pugi::xml_node element, const LocalZone& zone) {
     CommentModel comment;
     readChildren(comment, element, commentTable);
+    if (comment.CommentID.isNull()) comment.CommentID = u""_s; // a null text selects none
     comment.beginDay = zone.day(comment.beginDate);
     comment.endDay = zone.day(comment.endDate);
     return comment;
@@ -28,16 +34,17 @@ CommentModel CommentModel::initWithXMLNode(pugi::xml_node element, const LocalZo
 
 pugi::xml_node CommentModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("Comment");
-    addMissingChildren(element, commentTable);
+    addChildren(element, commentTable);
     return element;
 }
 
-void CommentModel::addMissingXmlChildren(pugi::xml_node element) {
-    addMissingChildren(element, commentTable);
+void CommentModel::updateXMLNode(pugi::xml_node element, const CommentModel* before) const {
+    writeChildren(*this, element, commentTable, before);
 }
 
-void CommentModel::updateXMLNode(pugi::xml_node element) const {
-    writeChildren(*this, element, commentTable);
+bool CommentModel::isSame(const CommentModel& other) const {
+    return ID == other.ID && CommentID == other.CommentID && degree == other.degree
+           && beginDate == other.beginDate && endDate == other.endDate && comment == other.comment;
 }
 
 } // namespace zel

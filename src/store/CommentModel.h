@@ -13,9 +13,9 @@ namespace zel {
 /// A note that the user attaches to a period of a patient's readings.
 struct CommentModel {
     QString ID;               ///< the owning patient's
-    QString CommentID;        ///< finds the comment in the file and keeps the selection over a reload
+    QString CommentID;        ///< with the patient's ID, finds the comment in the file; may be empty
     std::uint32_t degree = 0; ///< colour class, an index into the comment colours
-    Date beginDate;
+    Date beginDate;           ///< the day in the file's text, whatever the time zone
     Date endDate;
     QString comment;
     bool isSelected = false;
@@ -28,10 +28,11 @@ struct CommentModel {
     static CommentModel initWithXMLNode(pugi::xml_node element, const LocalZone& zone);
     /// A new, empty Comment element as \p root's last child.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
-    /// Completes an element that was copied from another record's with what a new one is made with.
-    static void addMissingXmlChildren(pugi::xml_node element);
-    /// Sets the text of each existing child whose name is known; adds none.
-    void updateXMLNode(pugi::xml_node element) const;
+    /// Sets the text of each existing child whose name is known; adds none. Fields that are as in \p before
+    /// keep the element's text.
+    void updateXMLNode(pugi::xml_node element, const CommentModel* before = nullptr) const;
+    /// Equal in all that the file holds.
+    [[nodiscard]] bool isSame(const CommentModel& other) const;
 };
 
 } // namespace zel

@@ -6,11 +6,11 @@
 
 #include <QString>
 
-class QLockFile;
-
 #include <functional>
 
 namespace zel {
+
+class FileLock;
 
 /// Where the store finds its files.
 struct StorePaths {
@@ -32,7 +32,7 @@ public:
     /// Writes ".target" with "pad" if it is missing. A program in a read-only folder just keeps "pad".
     void checkAndMakeTargetFile() const;
     /// Makes sure that the data file exists: moves an older version's file into place, else copies the
-    /// template.
+    /// template. Removes what a killed program left beside it.
     [[nodiscard]] StoreResult checkXMLFileExist() const;
     /// Both the file and its folder, since a write replaces the file.
     [[nodiscard]] bool isWritable() const;
@@ -42,7 +42,8 @@ public:
     enum class Edit { changed, unchanged };
     using Change = std::function<Edit(pugi::xml_node root)>;
     /// Reads the file, lets \p change edit it and, if it did, replaces it; other programs' edits wait
-    /// meanwhile. Nothing is written if any step fails.
+    /// meanwhile. Nothing is written if any step fails, or if the result could not be read again; after
+    /// notFlushed it is written.
     [[nodiscard]] StoreResult edit(const Change& change) const;
 
     /// Reads and checks any document of this kind, such as an older one or one to be imported.
@@ -51,7 +52,7 @@ public:
 private:
     [[nodiscard]] QString folder() const;
     void moveOldXml() const;
-    [[nodiscard]] StoreResult takeTurn(QLockFile& lock) const;
+    [[nodiscard]] StoreResult takeTurn(FileLock& lock) const;
     [[nodiscard]] StoreResult editInTurn(const Change& change) const;
     StorePaths paths;
     Clock& clock;

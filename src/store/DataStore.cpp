@@ -46,11 +46,17 @@ StoreResult DataStore::readRecords() {
     }
     records = Records::read(document->root(), LocalZone{});
     keepSelectedComment();
-    if (records.hasSetting) return {};
-    pugi::xml_document defaults;
-    records.gSettingModel = SettingModel::initWithXMLNode(SettingModel::makeXmlNode(defaults));
-    // The file gains the settings now if it can; a read-only one is reported by checkXmlWritable.
-    std::ignore = saveSetting();
+    if (!records.hasSetting) {
+        pugi::xml_document defaults;
+        records.gSettingModel = SettingModel::initWithXMLNode(SettingModel::makeXmlNode(defaults));
+        // The file gains the settings now if it can; a read-only one is reported by checkXmlWritable.
+        std::ignore = file.edit([](pugi::xml_node root) {
+            if (firstElement(root, "SystemSetting")) return DataFile::Edit::unchanged;
+            SettingModel::makeXmlNode(root);
+            return DataFile::Edit::changed;
+        });
+    }
+    settingAsRead = records.gSettingModel;
     return {};
 }
 
@@ -58,7 +64,8 @@ void DataStore::keepSelectedComment() {
     bool isFound = false;
     for (const auto& [ID, comments] : records.mdComment) {
         for (const auto& comment : comments) {
-            comment->isSelected = !selectedCommentID.isNull() && comment->CommentID == selectedCommentID;
+            comment->isSelected = !isFound && !selectedCommentID.isNull() && ID == selectedPatientID
+                                  && comment->CommentID == selectedCommentID;
             isFound = isFound || comment->isSelected;
         }
     }
@@ -79,6 +86,7 @@ QString DataStore::getMaxID(Counter kind) const { return records.getMaxID(kind);
 
 void DataStore::setSelectedComment(const QString& commentID) {
     selectedCommentID = commentID;
+    selectedPatientID = currentID;
     keepSelectedComment();
 }
 

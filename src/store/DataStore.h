@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace zel {
@@ -26,10 +27,11 @@ public:
 
     /// Start-up: makes sure that ".target" and the data file exist, then loads.
     StoreResult load();
-    /// Reads the whole file. On an error all lists are empty, and every write is refused until the file can
-    /// be read again. Emits reloaded() in any case.
+    /// Reads the whole file. On an error all lists are empty, and a write reads the file first, and is
+    /// refused if it cannot be read yet. Emits reloaded() in any case.
     StoreResult loadXML();
-    /// How the last load went.
+    /// How the last load went. A write that succeeded and reloads is a success, however its reload went: it
+    /// shows here.
     [[nodiscard]] const StoreResult& lastLoad() const { return loaded; }
 
     [[nodiscard]] QString getZELXMLPath() const;
@@ -37,19 +39,34 @@ public:
     /// \return false, after telling the user, if the data file may not be written
     bool checkXmlWritable(MessagePanel& panel) const;
 
-    /// Writes one patient, replacing the one with its ID or adding a new one; does not reload.
-    [[nodiscard]] StoreResult saveXMLPatient(const PatientModel& patient);
+    /// Writes one patient, over the one with its ID or as a new one; does not reload. The fields that are as
+    /// in \p asRead, the patient before it was changed here, stay as they are in the file by now.
+    [[nodiscard]] StoreResult saveXMLPatient(const PatientModel& patient,
+                                             const std::optional<PatientModel>& asRead = {});
     /// Writes a new patient; alreadyKnown if the file holds one of that ID by now. Does not reload.
     [[nodiscard]] StoreResult addXMLPatient(const PatientModel& patient);
-    /// Removes the patient, its readings and comments; its download log stays. Does not reload.
+    /// Removes the patient, its readings and comments; its download log stays. A patient without an ID is the
+    /// one that getPatientByID() gives, and has no readings. Does not reload.
     [[nodiscard]] StoreResult deleteXMLPatient(const QString& ID);
-    /// Writes getSetting().
+    /// Writes what was changed in getSetting() since it was read.
     [[nodiscard]] StoreResult saveSetting();
+    /// What becomes of a change of several settings when the file has no place for one of them.
+    enum class WithoutPlace { leaveOut, changeNothing };
+    /// Writes the settings in which \p wanted differs from \p shown; the others stay as they are in the file
+    /// by now. Does not reload. \return what the file has place for, as it is written
+    [[nodiscard]] tl::expected<SettingModel, StoreError>
+    changeSetting(SettingModel shown, SettingModel wanted, WithoutPlace withoutPlace);
 
-    /// Stores what a download brought for the current patient, in the monitor's order, leaving out what is
-    /// stored already, with one log entry if anything is new; reloads.
-    /// \return how many readings were new; on an error nothing was stored
-    [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(ReadingList downloaded);
+    /// Stores what a download brought for the patient, in the monitor's order, leaving out what is stored
+    /// already, with one log entry if anything is new; reloads.
+    /// \return how many readings were new; on an error nothing was stored: noSuchRecord if the patient is no
+    /// longer in the file
+    [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(const QString& ID,
+                                                                        ReadingList downloaded);
+    /// For the current patient.
+    [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(ReadingList downloaded) {
+        return newDataTransfer(QString{currentID}, std::move(downloaded));
+    }
 
     /// Reads the data file for an export of its patients.
     [[nodiscard]] tl::expected<PatientExport, StoreError> beginExport() const;
@@ -64,11 +81,15 @@ public:
     [[nodiscard]] QString getMaxID(Counter kind) const;
 
     /// Stores a new comment of the current patient, numbered anew if its number is missing or taken; reloads.
-    /// \return the number it has
+    /// \return the number it has; noSuchRecord if the patient is no longer in the file
     [[nodiscard]] tl::expected<QString, StoreError> addCommentForCurID(CommentModel comment);
-    [[nodiscard]] StoreResult saveCommentToXML(const CommentModel& comment);
-    [[nodiscard]] StoreResult deleteSelectedCommentToXML();
-    void setSelectedComment(const QString& commentID); ///< null text: none
+    /// Writes one comment, found by its patient and number, or adds it if it has gone; reloads. The fields
+    /// that are as in \p asRead, the comment before it was changed here, stay as they are in the file by now.
+    /// \return noSuchRecord if the patient has gone, too
+    [[nodiscard]] StoreResult saveCommentToXML(CommentModel comment, std::optional<CommentModel> asRead = {});
+    [[nodiscard]] StoreResult deleteSelectedCommentToXML(); ///< reloads
+    /// Selects a comment of the current patient. Null text: none.
+    void setSelectedComment(const QString& commentID);
     [[nodiscard]] const CommentModel* getSelectedComment() const;
 
     void setCurrentID(const QString& ID); ///< emits currentIDChanged() on a change
@@ -90,16 +111,21 @@ signals:
 
 private:
     StoreResult readRecords();
+    [[nodiscard]] StoreResult edit(const DataFile::Change& change);
+    [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
-    [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, std::size_t count) const;
+    [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,
+                                                  std::size_t count) const;
     void keepSelectedComment();
 
     DataFile file;
     Clock& clock;
     Records records;
+    SettingModel settingAsRead = records.gSettingModel;
     StoreResult loaded;
     QString currentID;
-    QString selectedCommentID;
+    QString selectedCommentID; ///< null: none; numbers of different patients may be equal
+    QString selectedPatientID;
 };
 
 } // namespace zel

@@ -50,7 +50,7 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& pa
     ImportCounts counts;
     QString known;
     // Checked against the file as it is at the write: another program may have added the patient.
-    const StoreResult stored = file.edit([&](pugi::xml_node root) {
+    const StoreResult stored = edit([&](pugi::xml_node root) {
         known = knownPatient(root, imported->root());
         if (!known.isNull()) return DataFile::Edit::unchanged;
         counts = importRecords(root, imported->root());

@@ -1,6 +1,7 @@
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
 #include "store/Log.h"
+#include "store/NewReadings.h"
 #include "store/RecordXml.h"
 #include "store/Text.h"
 
@@ -17,7 +18,7 @@ int removeElementsOf(pugi::xml_node root, const char* name, const QString& ID) {
     int removed = 0;
     for (pugi::xml_node at = root.first_child(); at;) {
         const pugi::xml_node next = at.next_sibling();
-        if (isElement(at, name) && elementText(at.child("ID")) == ID && root.remove_child(at)) ++removed;
+        if (isElement(at, name) && childText(at, "ID") == ID && root.remove_child(at)) ++removed;
         at = next;
     }
     return removed;
@@ -27,6 +28,10 @@ tl::unexpected<StoreError> refused(const QString& ID) {
     return tl::unexpected{StoreError{StoreErrorCode::invalidRecord, ID, {}}};
 }
 
+tl::unexpected<StoreError> noSuch(const QString& ID) {
+    return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
+}
+
 /// An ID that the file cannot hold as it is would never be found again.
 bool canBeID(const QString& ID) {
     return !IsEmptyID(ID) && std::ranges::none_of(ID, [](QChar c) { return c < u' ' || c.isNonCharacter(); })
@@ -34,40 +39,37 @@ bool canBeID(const QString& ID) {
 }
 
 void insertPatient(pugi::xml_node root, const PatientModel& patient) {
-    const pugi::xml_node last = lastElement(root, "Patient");
-    pugi::xml_node element = PatientModel::makeXmlNode(root);
-    if (last) element = root.insert_move_after(element, last);
-    patient.updateXMLNode(element, true);
+    patient.updateXMLNode(insertElement<PatientModel>(root, lastElement(root, "Patient")), true);
 }
 
-void insertComment(pugi::xml_node root, const CommentModel& comment) {
-    comment.updateXMLNode(insertElement<CommentModel>(root, lastElement(root, "Comment")));
+bool hasPatient(pugi::xml_node root, const QString& ID) {
+    return static_cast<bool>(findElement(root, "Patient", "ID", ID));
+}
+
+/// Of several patients without an ID, the one that reads as it was read.
+pugi::xml_node findPatientWithoutID(pugi::xml_node root, const PatientModel& asRead) {
+    return root.find_child([&asRead](pugi::xml_node node) {
+        return isElement(node, "Patient") && PatientModel::initWithXMLNode(node) == asRead;
+    });
 }
 
 /// After the patient's last reading, so that a patient's readings stay together; after all if it has none.
 pugi::xml_node placeForReadings(pugi::xml_node root, const QString& ID) {
     const pugi::xml_node last = lastElement(root, "MeasureRec");
     for (pugi::xml_node at = last; at; at = at.previous_sibling()) {
-        if (isElement(at, "MeasureRec") && elementText(at.child("ID")) == ID) return at;
+        if (isElement(at, "MeasureRec") && childText(at, "ID") == ID) return at;
     }
     return last;
 }
 
-/// Those that are not stored yet, for the patient and with numbers of their own. They are compared with the
-/// stored ones only: two equal readings of one download are both kept.
-ReadingList newReadings(const Records& stored, const QString& ID, ReadingList downloaded) {
-    const ReadingList& known = stored.readingsOf(ID);
-    std::erase_if(downloaded, [&known](const ReadingModel& reading) {
-        return std::ranges::any_of(known, [&](const ReadingModel& old) { return old.isSame(reading); });
-    });
-    QString next = stored.getMaxID(Records::Counter::reading);
-    for (ReadingModel& reading : downloaded) {
+/// For the patient and with numbers of their own.
+void number(ReadingList& readings, const QString& ID, QString next) {
+    for (ReadingModel& reading : readings) {
         qCInfo(lcStore, "add new reading......");
         reading.ID = ID;
         reading.RecID = next;
         next = IncreaseID(next);
     }
-    return downloaded;
 }
 
 void saveXMLDataTransfer(pugi::xml_node root, const DataTransferLogModel& log, const ReadingList& readings) {
@@ -81,16 +83,30 @@ void saveXMLDataTransfer(pugi::xml_node root, const DataTransferLogModel& log, c
 
 } // namespace
 
-StoreResult DataStore::editAndReload(const DataFile::Change& change) {
-    if (StoreResult written = file.edit(change); !written) return written;
-    return loadXML();
+/// After a failed load, what is in memory is not what the file holds, which may have been repaired by now.
+StoreResult DataStore::edit(const DataFile::Change& change) {
+    if (!loaded) {
+        loaded = readRecords();
+        if (loaded) emit reloaded();
+    }
+    if (loaded) return file.edit(change);
+    qCWarning(lcStore, "Could not write document out...");
+    return loaded;
 }
 
-StoreResult DataStore::saveXMLPatient(const PatientModel& patient) {
+StoreResult DataStore::editAndReload(const DataFile::Change& change) {
+    StoreResult written = edit(change);
+    if (written) std::ignore = loadXML();
+    return written;
+}
+
+StoreResult DataStore::saveXMLPatient(const PatientModel& patient,
+                                      const std::optional<PatientModel>& asRead) {
     if (!canBeID(patient.ID)) return refused(patient.ID);
-    return file.edit([&patient](pugi::xml_node root) {
+    // By value: the records that they may be of are read anew after a failed load.
+    return edit([patient, asRead](pugi::xml_node root) {
         if (const auto known = findElement(root, "Patient", "ID", patient.ID)) {
-            patient.updateXMLNode(known, false);
+            patient.updateXMLNode(known, false, asRead ? &*asRead : nullptr);
             return Edit::changed;
         }
         insertPatient(root, patient);
@@ -101,8 +117,8 @@ StoreResult DataStore::saveXMLPatient(const PatientModel& patient) {
 StoreResult DataStore::addXMLPatient(const PatientModel& patient) {
     if (!canBeID(patient.ID)) return refused(patient.ID);
     bool isKnown = false;
-    StoreResult added = file.edit([&](pugi::xml_node root) {
-        isKnown = static_cast<bool>(findElement(root, "Patient", "ID", patient.ID));
+    StoreResult added = edit([&](pugi::xml_node root) {
+        isKnown = hasPatient(root, patient.ID);
         if (!isKnown) insertPatient(root, patient);
         return isKnown ? Edit::unchanged : Edit::changed;
     });
@@ -111,8 +127,8 @@ StoreResult DataStore::addXMLPatient(const PatientModel& patient) {
 }
 
 StoreResult DataStore::deleteXMLPatient(const QString& ID) {
-    if (IsEmptyID(ID)) return refused(ID);
-    return file.edit([&ID](pugi::xml_node root) {
+    if (IsEmptyID(ID)) return deleteWithoutID(ID);
+    return edit([&ID](pugi::xml_node root) {
         if (!root.remove_child(findElement(root, "Patient", "ID", ID))) {
             qCDebug(lcStore, "delete node ID:%s error, no node found = ", qUtf8Printable(ID));
         }
@@ -126,29 +142,55 @@ StoreResult DataStore::deleteXMLPatient(const QString& ID) {
     });
 }
 
-StoreResult DataStore::saveSetting() {
-    return file.edit([this](pugi::xml_node root) {
-        pugi::xml_node element = firstElement(root, "SystemSetting");
-        if (!element) element = SettingModel::makeXmlNode(root);
-        records.gSettingModel.updateXMLNode(element);
-        return Edit::changed;
+/// Readings and comments without an ID are nobody's, and stay.
+StoreResult DataStore::deleteWithoutID(const QString& ID) {
+    const PatientModel* known = getPatientByID(ID);
+    if (!known) return refused(ID);
+    return edit([asRead = *known](pugi::xml_node root) {
+        return root.remove_child(findPatientWithoutID(root, asRead)) ? Edit::changed : Edit::unchanged;
     });
 }
 
-tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(ReadingList downloaded) {
-    if (IsEmptyID(currentID)) return refused(currentID);
+StoreResult DataStore::saveSetting() {
+    const auto saved = changeSetting(settingAsRead, records.gSettingModel, WithoutPlace::leaveOut);
+    return saved.map([this](const SettingModel& kept) { settingAsRead = records.gSettingModel = kept; });
+}
+
+tl::expected<SettingModel, StoreError> DataStore::changeSetting(SettingModel shown, SettingModel wanted,
+                                                                WithoutPlace withoutPlace) {
+    SettingModel kept;
+    const auto write = [&](pugi::xml_node root) {
+        pugi::xml_node element = firstElement(root, "SystemSetting");
+        if (!element) element = SettingModel::makeXmlNode(root);
+        SettingModel meant = SettingModel::initWithXMLNode(element);
+        meant.takeChanges(shown, wanted);
+        wanted.updateXMLNode(element, &shown);
+        kept = SettingModel::initWithXMLNode(element);
+        const bool isWhole = kept == meant;
+        return isWhole || withoutPlace == WithoutPlace::leaveOut ? Edit::changed : Edit::unchanged;
+    };
+    return edit(write).map([&kept] { return kept; });
+}
+
+tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(const QString& ID, ReadingList downloaded) {
+    if (IsEmptyID(ID)) return refused(ID);
     std::size_t count = 0;
+    bool isKnown = false;
     // Compared and numbered against the file as it is at the write: another program may have stored something
-    // since it was read.
+    // since it was read, or removed the patient.
     StoreResult stored = editAndReload([&](pugi::xml_node root) {
+        isKnown = hasPatient(root, ID);
+        if (!isKnown) return Edit::unchanged;
         const Records current = Records::read(root, LocalZone{});
-        const ReadingList added = newReadings(current, currentID, std::move(downloaded));
+        ReadingList added = newReadings(root, ID, std::move(downloaded));
         count = added.size();
         if (added.empty()) return Edit::unchanged;
-        saveXMLDataTransfer(root, newDataLog(current, count), added);
+        number(added, ID, current.getMaxID(Counter::reading));
+        saveXMLDataTransfer(root, newDataLog(current, ID, count), added);
         return Edit::changed;
     });
     if (!stored) return tl::unexpected{stored.error()};
+    if (!isKnown) return noSuch(ID);
     if (count > 0) {
         qCInfo(lcStore, "add new reading......1");
         qCInfo(lcStore, "add new reading......2");
@@ -156,49 +198,15 @@ tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(ReadingList dow
     return count;
 }
 
-DataTransferLogModel DataStore::newDataLog(const Records& stored, std::size_t count) const {
+DataTransferLogModel DataStore::newDataLog(const Records& stored, const QString& ID,
+                                           std::size_t count) const {
     DataTransferLogModel entry;
-    entry.ID = currentID;
+    entry.ID = ID;
     entry.RecID = stored.getMaxID(Counter::dataLog);
     entry.transferDate = std::chrono::floor<std::chrono::milliseconds>(clock.now());
     entry.transferDay = LocalZone{}.day(entry.transferDate);
     entry.numofRecord = static_cast<std::uint32_t>(count);
     return entry;
-}
-
-tl::expected<QString, StoreError> DataStore::addCommentForCurID(CommentModel comment) {
-    if (IsEmptyID(currentID)) return refused(currentID);
-    comment.ID = currentID;
-    if (comment.CommentID.isEmpty()) comment.CommentID = getMaxID(Records::Counter::comment);
-    // Another program may have used the number since the file was read.
-    const StoreResult added = editAndReload([&comment](pugi::xml_node root) {
-        while (findElement(root, "Comment", "CommentID", comment.CommentID))
-            comment.CommentID = IncreaseID(comment.CommentID);
-        insertComment(root, comment);
-        return Edit::changed;
-    });
-    return added.map([&comment] { return comment.CommentID; });
-}
-
-StoreResult DataStore::saveCommentToXML(const CommentModel& comment) {
-    return editAndReload([&comment](pugi::xml_node root) {
-        if (const auto known = findElement(root, "Comment", "CommentID", comment.CommentID)) {
-            comment.updateXMLNode(known);
-        } else {
-            qCDebug(lcStore, "nodesForXPath failed %s", qUtf8Printable(comment.CommentID));
-            insertComment(root, comment);
-        }
-        return Edit::changed;
-    });
-}
-
-StoreResult DataStore::deleteSelectedCommentToXML() {
-    const CommentModel* selected = getSelectedComment();
-    if (!selected) return {};
-    return editAndReload([ID = selected->CommentID](pugi::xml_node root) {
-        root.remove_child(findElement(root, "Comment", "CommentID", ID));
-        return Edit::changed;
-    });
 }
 
 } // namespace zel

@@ -28,12 +28,8 @@ DataTransferLogModel DataTransferLogModel::initWithXMLNode(pugi::xml_node elemen
 
 pugi::xml_node DataTransferLogModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("DataTransferLog");
-    addMissingChildren(element, dataTransferLogTable);
+    addChildren(element, dataTransferLogTable);
     return element;
-}
-
-void DataTransferLogModel::addMissingXmlChildren(pugi::xml_node element) {
-    addMissingChildren(element, dataTransferLogTable);
 }
 
 void DataTransferLogModel::updateXMLNode(pugi::xml_node element) const {

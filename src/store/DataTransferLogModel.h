@@ -23,8 +23,6 @@ struct DataTransferLogModel {
     static DataTransferLogModel initWithXMLNode(pugi::xml_node element, const LocalZone& zone);
     /// A new, empty DataTransferLog element as \p root's last child.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
-    /// Completes an element that was copied from another record's with what a new one is made with.
-    static void addMissingXmlChildren(pugi::xml_node element);
     /// Sets the text of each existing child whose name is known; adds none.
     void updateXMLNode(pugi::xml_node element) const;
 };

@@ -150,7 +150,14 @@ LocalZone::DayMinute LocalZone::dayMinute(const Date& date) const {
     return {dayOf(wall), static_cast<int>(sinceMidnight / std::chrono::minutes{1})};
 }
 
-bool isUndatedDay(DayNumber day) { return day == nilReadingDay || day < dayNumber(2, 1, 1); }
+Date LocalZone::wallClock(const Date& date) const {
+    if (!date) return {};
+    return *date + offsetAt(*zone->zone, *date, false);
+}
+
+bool isNilDay(DayNumber day) { return day < dayNumber(2, 1, 1); }
+
+bool isUndatedDay(DayNumber day) { return day == nilReadingDay || isNilDay(day); }
 
 QString dayText(DayNumber day) { return dayText(day, u"yyyy/MM/dd"_s); }
 

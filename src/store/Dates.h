@@ -67,12 +67,16 @@ public:
         int minute = 0;
     };
     [[nodiscard]] DayMinute dayMinute(const Date& date) const;
+    /// What the clocks show, as if they stood in UTC; none for no date.
+    [[nodiscard]] Date wallClock(const Date& date) const;
 
 private:
     struct Zone;
     std::unique_ptr<Zone> zone;
 };
 
+/// noDay, and whatever isNilDate() takes for no date.
+[[nodiscard]] bool isNilDay(DayNumber day);
 /// noDay, 2000-01-01, and whatever isNilDate() takes for no date.
 [[nodiscard]] bool isUndatedDay(DayNumber day);
 /// The day as "yyyy/MM/dd"; empty for noDay.

@@ -1,12 +1,13 @@
 #include "store/ExportFile.h"
 
+#include "store/AtomicFile.h"
+#include "store/NewFile.h"
+
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
@@ -27,18 +28,21 @@ bool beginsEscape(QByteArrayView text) {
            && (text[1] == '~' || (text.size() > 2 && isHexDigit(text[1]) && isHexDigit(text[2])));
 }
 
+/// Disks of other systems, such as most USB sticks, take none of the signs.
 bool cannotStand(QByteArrayView text) {
+    constexpr QByteArrayView signs{"/\\:*?\"<>|"};
     const char c = text.front();
-    return c == '/' || (c >= 0 && c < ' ') || c == '\x7F' || (c == '%' && beginsEscape(text));
+    return signs.contains(c) || (c >= 0 && c < ' ') || c == '\x7F' || (c == '%' && beginsEscape(text));
 }
 
 QByteArray escaped(char c) { return '%' + QByteArray{1, c}.toHex().toUpper(); }
 
 QByteArray escapedName(const QByteArray& ID) {
     if (ID.isEmpty()) return "%";
-    if (ID == "." || ID == "..") return escaped('.').repeated(ID.size());
-    QByteArray name;
-    for (qsizetype i = 0; i < ID.size(); ++i)
+    // A name that begins with a point is hidden.
+    const bool isHidden = ID.startsWith('.');
+    QByteArray name = isHidden ? escaped('.') : QByteArray{};
+    for (qsizetype i = isHidden ? 1 : 0; i < ID.size(); ++i)
         name += cannotStand(QByteArrayView{ID}.sliced(i)) ? escaped(ID[i]) : ID.sliced(i, 1);
     return name;
 }
@@ -64,21 +68,16 @@ tl::unexpected<StoreError> systemRefused(StoreErrorCode code, const QString& pat
     return refused(code, path, QString::fromLocal8Bit(std::strerror(errno)));
 }
 
-bool writeWhole(QTemporaryFile& file, const QByteArray& content) {
-    return file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError
-           && file.size() == content.size();
-}
+/// Short, since the file's own name may be as long as a name can be.
+QString exportPrefix(const QString& folder) { return folder + u"/.zel-"_s; }
 
-/// Written beside its place and renamed, which replaces what is there at once. The temporary name is short,
-/// since the file's own may be as long as a name can be.
+/// Written beside its place and renamed, which replaces what is there at once.
 StoreResult place(const QString& path, const QByteArray& content) {
-    QTemporaryFile file{QFileInfo{path}.path() + u"/.zel-XXXXXX"_s};
-    if (!file.open()) return refused(StoreErrorCode::notWritable, path, file.errorString());
-    if (!writeWhole(file, content)) return refused(StoreErrorCode::writeFailed, path);
-    const QByteArray from = QFile::encodeName(file.fileName());
-    if (std::rename(from.constData(), QFile::encodeName(path).constData()) != 0)
-        return systemRefused(StoreErrorCode::writeFailed, path);
-    file.setAutoRemove(false);
+    auto file = NewFile::create(exportPrefix(QFileInfo{path}.path()));
+    if (!file) return tl::unexpected{writeError(file.error(), path)};
+    int error = file->write(content);
+    if (error == 0) error = file->takePlace(path);
+    if (error != 0) return tl::unexpected{writeError(error, path)};
     return {};
 }
 
@@ -106,6 +105,7 @@ StoreResult writeExport(const QString& path, const QByteArray& content, Replace 
 }
 
 StoreResult flushExports(const QString& folder) {
+    removeDeadFiles(exportPrefix(folder));
     const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return systemRefused(StoreErrorCode::writeFailed, folder);
     const bool isFlushed = ::syncfs(handle) == 0;

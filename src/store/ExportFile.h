@@ -24,7 +24,7 @@ enum class Replace { no, yes };
 [[nodiscard]] StoreResult writeExport(const QString& path, const QByteArray& content, Replace replace,
                                       const QString& dataFile);
 
-/// Waits until everything written to the folder is on the disk.
+/// Waits until everything written to the folder is on the disk. Removes what a killed export left there.
 [[nodiscard]] StoreResult flushExports(const QString& folder);
 
 } // namespace zel

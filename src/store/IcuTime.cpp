@@ -3,8 +3,10 @@
 #include <unicode/gregocal.h>
 #include <unicode/smpdtfmt.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace zel {
 
@@ -20,6 +22,9 @@ QString fromIcu(const icu::UnicodeString& text) {
     return QString::fromUtf16(text.getBuffer(), text.length());
 }
 
+constexpr qsizetype longestDate = 30; // characters of the longest form, "yyyy-MM-ddTHH:mm:ss.SSS+hh:mm"
+constexpr double farthest = 10'000 * 366.0 * 24 * 60 * 60 * 1000; // ms: ten thousand years from 1970
+
 /// A strict formatter of the purely Gregorian calendar, or none for a pattern that is none.
 std::unique_ptr<icu::SimpleDateFormat> formatter(const QString& pattern, const char* locale,
                                                  std::unique_ptr<icu::TimeZone> zone) {
@@ -32,6 +37,22 @@ std::unique_ptr<icu::SimpleDateFormat> formatter(const QString& pattern, const c
     format->setLenient(false);
     if (U_FAILURE(status)) return nullptr;
     return format;
+}
+
+/// Making a formatter takes a hundred times as long as using it. Each thread has its own, since using one
+/// changes it.
+const icu::SimpleDateFormat* parserOf(const QString& pattern) {
+    struct Parser {
+        QString pattern;
+        std::unique_ptr<icu::SimpleDateFormat> format;
+    };
+    constexpr std::size_t enough = 8; // the program's own patterns
+    thread_local std::vector<Parser> parsers;
+    const auto known = std::ranges::find(parsers, pattern, &Parser::pattern);
+    if (known != parsers.end()) return known->format.get();
+    if (parsers.size() == enough) parsers.clear();
+    parsers.push_back({pattern, formatter(pattern, getLocale(1), utcZone())});
+    return parsers.back().format.get();
 }
 
 } // namespace
@@ -64,15 +85,17 @@ QString formatDate(const Date& date, const QString& pattern, const char* locale,
     return fromIcu(text);
 }
 
-/// Reads the whole text, fields without a zone as UTC.
 Date parseAsUtc(const QString& text, const QString& pattern) {
-    const auto parsing = formatter(pattern, getLocale(1), utcZone());
+    // ICU divides by zero over some dozens of digits of a second.
+    if (text.size() > longestDate) return {};
+    const auto* parsing = parserOf(pattern);
     if (!parsing) return {};
     const icu::UnicodeString source = toIcu(text);
     icu::ParsePosition position{0};
     const UDate date = parsing->parse(source, position);
     if (position.getIndex() == 0 || position.getIndex() != source.length()) return {};
-    return fromUDate(date);
+    // Days are counted in whole numbers.
+    return std::abs(date) <= farthest ? Date{fromUDate(date)} : Date{};
 }
 
 } // namespace zel

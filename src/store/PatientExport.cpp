@@ -37,7 +37,7 @@ PatientExport::PatientExport(XmlDocument read, QString path)
 
 void PatientExport::sort(const Child& child) {
     if (!isPersonal(child.node)) return common.push_back(child);
-    const QString ID = elementText(child.node.child("ID"));
+    const QString ID = childText(child.node, "ID");
     std::vector<Child>& own = personal[ID];
     const auto isPatient = [](const Child& known) { return isElement(known.node, "Patient"); };
     if (isPatient(child) && std::ranges::none_of(own, isPatient)) IDs += ID;

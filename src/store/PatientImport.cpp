@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
 #include <array>
 
 namespace zel {
@@ -28,6 +29,7 @@ QString sentence(ImportRefusalCode code) {
     case ImportRefusalCode::tooLarge: return qtTrId("ImportTooLarge");
     case ImportRefusalCode::noPatient: return qtTrId("ImportNoPatient");
     case ImportRefusalCode::noID: return qtTrId("ImportNoID");
+    case ImportRefusalCode::badID: return qtTrId("ImportBadID");
     case ImportRefusalCode::sameIDTwice: return qtTrId("ImportSameIDTwice");
     case ImportRefusalCode::alreadyKnown: return qtTrId("ImportAlreadyKnown");
     case ImportRefusalCode::notStored: return qtTrId("ImportNotStored");
@@ -74,6 +76,21 @@ QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) 
     return texts;
 }
 
+/// Such an ID would be another patient's than the one without them, and none that a monitor keeps.
+void trimIDs(pugi::xml_node root) {
+    for (const pugi::xml_node node : root.children()) {
+        const bool isPersonal =
+            std::ranges::any_of(personalKinds, [node](const char* kind) { return isElement(node, kind); });
+        if (!isPersonal) continue;
+        for (const pugi::xml_node ID : node.children("ID"))
+            setElementText(ID, TrimStr(elementText(ID)));
+    }
+}
+
+bool hasControl(const QString& ID) {
+    return std::ranges::any_of(ID, [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
 } // namespace
 
 QString describe(const ImportRefusal& refusal) {
@@ -90,7 +107,11 @@ tl::expected<XmlDocument, ImportRefusal> readImport(const QString& path) {
         return refused(ImportRefusalCode::notReadable, path, qtTrId("ImportNoFile"));
     if (file.size() > largestImport) return refused(ImportRefusalCode::tooLarge, path);
     auto document = DataFile::readDocument(path);
-    if (document) return std::move(*document);
+    if (document) {
+        trimIDs(document->root());
+        return std::move(*document);
+    }
+    if (document.error().code == StoreErrorCode::tooLarge) return refused(ImportRefusalCode::tooLarge, path);
     qCDebug(lcStore, "load xml for %s error", qUtf8Printable(path));
     return refused(ImportRefusalCode::notReadable, path, document.error().detail);
 }
@@ -106,6 +127,10 @@ std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString&
     }
     qCDebug(lcStore, "itemNodes = %lld", static_cast<long long>(IDs.size()));
     if (IDs.isEmpty()) return ImportRefusal{ImportRefusalCode::noPatient, path, {}, {}};
+    for (const char* kind : personalKinds) {
+        for (const QString& ID : textsOf(imported, kind, "ID"))
+            if (hasControl(ID)) return ImportRefusal{ImportRefusalCode::badID, path, ID.simplified(), {}};
+    }
     return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // Patients from an exported file into the data file.
 
+#include "store/AtomicFile.h"
 #include "store/StoreError.h"
 #include "store/XmlDocument.h"
 
@@ -18,6 +19,7 @@ enum class ImportRefusalCode {
     tooLarge,     ///< above largestImport
     noPatient,    ///< there is no patient in it
     noID,         ///< a patient in it has no ID
+    badID,        ///< an ID in it has a control character, with which it could never be saved or sent
     sameIDTwice,  ///< two patients in it have the same ID
     alreadyKnown, ///< a patient of the list has the ID
     notStored,    ///< the data file could not be read or written; detail says why
@@ -27,7 +29,7 @@ enum class ImportRefusalCode {
 struct ImportRefusal {
     ImportRefusalCode code;
     QString path;   ///< the file
-    QString ID;     ///< the patient's, for sameIDTwice and alreadyKnown
+    QString ID;     ///< the patient's, for badID, sameIDTwice and alreadyKnown
     QString detail; ///< words for the user; may be empty
 
     bool operator==(const ImportRefusal&) const = default;
@@ -44,10 +46,11 @@ struct ImportCounts {
 };
 
 /// The largest file that is read, in bytes.
-inline constexpr qint64 largestImport = qint64{1} << 30;
+inline constexpr qint64 largestImport = largestFile;
 
 // The steps of DataStore::importXml().
 
+/// The file, without the blanks around IDs.
 [[nodiscard]] tl::expected<XmlDocument, ImportRefusal> readImport(const QString& path);
 
 /// What is wrong with the patients of the document read from \p path, if anything.

@@ -45,7 +45,7 @@ constexpr std::array patientChildren{
     xml::text<P, &P::GivenNames>("GivenNames"),
     xml::text<P, &P::Address>("Address"),
     xml::text<P, &P::PhoneEmail>("PhoneEmail"),
-    xml::date<P, &P::DateOfBirth>("DateOfBirth"),
+    xml::localDate<P, &P::DateOfBirth>("DateOfBirth"),
     measure<&P::Weight>("Weight"),
     measure<&P::Height>("Height"),
     choice<&P::Sex>("Sex"),
@@ -72,19 +72,20 @@ float numberIn(const QString& text) { return static_cast<float>(leadingNumber(te
 PatientModel PatientModel::initWithXMLNode(pugi::xml_node element) {
     PatientModel patient;
     readChildren(patient, element, patientTable);
+    if (patient.ID.isNull()) patient.ID = u""_s; // a null text is nobody
     patient.makeUpDisplayName();
     return patient;
 }
 
 pugi::xml_node PatientModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("Patient");
-    addMissingChildren(element, patientTable);
+    addChildren(element, patientTable);
     return element;
 }
 
-void PatientModel::updateXMLNode(pugi::xml_node element, bool copyPrimary) const {
-    writeChildren(*this, element,
-                  copyPrimary ? patientTable : patientTable.subspan(1)); // the ID stands first
+void PatientModel::updateXMLNode(pugi::xml_node element, bool copyPrimary, const PatientModel* before) const {
+    const auto table = copyPrimary ? patientTable : patientTable.subspan(1); // the ID stands first
+    writeChildren(*this, element, table, before);
 }
 
 void PatientModel::makeUpDisplayName() { DisplayName = FamilyName + u',' + GivenNames; }

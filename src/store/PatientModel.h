@@ -19,21 +19,24 @@ struct PatientModel {
     QString GivenNames;
     QString Address;
     QString PhoneEmail;
-    Date DateOfBirth;          ///< getNilDate() when unknown
-    float Weight = 0;          ///< kg; 0 when not given
-    float Height = 0;          ///< cm; 0 when not given
-    std::int32_t Sex = 0;      ///< 1 male, else female
+    Date DateOfBirth;     ///< the day in the file's text, whatever the time zone; getNilDate() when unknown
+    float Weight = 0;     ///< kg; 0 when not given
+    float Height = 0;     ///< cm; 0 when not given
+    std::int32_t Sex = 0; ///< 1 male, else female
     std::int32_t Smoker = 0;   ///< 1 yes, else no
     std::int32_t Diabetic = 0; ///< 1 yes, else no
     float Cholestrol = 0;      ///< mg/dL; 0 when not given; spelled so in the file format
     QString FamilyHistory;
     QString PatientNotes;
 
+    bool operator==(const PatientModel&) const = default;
+
     static PatientModel initWithXMLNode(pugi::xml_node element);
     /// A new, empty Patient element as \p root's last child.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
-    /// Sets the text of each existing child whose name is known; the ID only with \p copyPrimary.
-    void updateXMLNode(pugi::xml_node element, bool copyPrimary) const;
+    /// Sets the text of each existing child whose name is known; the ID only with \p copyPrimary. Fields that
+    /// are as in \p before keep the element's text.
+    void updateXMLNode(pugi::xml_node element, bool copyPrimary, const PatientModel* before = nullptr) const;
     void makeUpDisplayName();
 
     // Measures as the user reads and types them, in the unit system of the settings; empty for 0.

@@ -70,12 +70,8 @@ ReadingModel ReadingModel::initWithXMLNode(pugi::xml_node element) {
 
 pugi::xml_node ReadingModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("MeasureRec");
-    addMissingChildren(element, readingTable);
+    addChildren(element, readingTable);
     return element;
-}
-
-void ReadingModel::addMissingXmlChildren(pugi::xml_node element) {
-    addMissingChildren(element, readingTable);
 }
 
 void ReadingModel::updateXMLNode(pugi::xml_node element) const {
@@ -83,9 +79,12 @@ void ReadingModel::updateXMLNode(pugi::xml_node element) const {
 }
 
 bool ReadingModel::isSame(const ReadingModel& other) const {
-    return ReadingDate == other.ReadingDate && Arrhythmia == other.Arrhythmia && pulse == other.pulse
-           && dia == other.dia && sys == other.sys && map == other.map && pp == other.pp && mam == other.mam;
+    const bool isSameDate =
+        ReadingDate == other.ReadingDate || (isNilDate(ReadingDate) && isNilDate(other.ReadingDate));
+    return isSameDate && values() == other.values();
 }
+
+ReadingModel::Values ReadingModel::values() const { return {Arrhythmia, pulse, dia, sys, map, pp, mam}; }
 
 bool ReadingModel::isUndated() const { return isUndatedDay(day); }
 

@@ -7,6 +7,7 @@
 
 #include <pugixml.hpp>
 
+#include <array>
 #include <cstdint>
 
 namespace zel {
@@ -42,13 +43,15 @@ struct ReadingModel {
     /// A new, empty MeasureRec element as \p root's last child. It has a child Error where reading and
     /// updating use Erorr; both are given so by the file format.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
-    /// Completes an element that was copied from another reading's with what a new one is made with.
-    static void addMissingXmlChildren(pugi::xml_node element);
     /// Sets the text of each existing child whose name is known; adds none.
     void updateXMLNode(pugi::xml_node element) const;
 
-    /// Equal in date and every measured value; ID, RecID and display state are not compared.
+    /// Equal in date and every measured value; ID, RecID and display state are not compared. No date and the
+    /// file's text for none are one.
     [[nodiscard]] bool isSame(const ReadingModel& other) const;
+    /// Every measured value.
+    using Values = std::array<std::uint32_t, 7>;
+    [[nodiscard]] Values values() const;
     /// Without a usable date: none, the monitor's marker, or year 1, which the file writes for none.
     [[nodiscard]] bool isUndated() const;
     [[nodiscard]] bool isPad() const;

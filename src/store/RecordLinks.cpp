@@ -3,6 +3,7 @@
 #include "store/Log.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace zel {
 
@@ -32,30 +33,52 @@ void logLink(const ReadingModel& reading, const CommentModel& comment) {
             yesNo(reading.bAtEnd));
 }
 
-void link(const CommentModel& comment, const std::vector<ReadingModel*>& sorted) {
+/// The readings that have no comment yet, by their place.
+class FreeReadings {
+public:
+    explicit FreeReadings(std::size_t total) : next(total + 1) { std::iota(next.begin(), next.end(), 0U); }
+
+    /// The first at or after \p place.
+    std::size_t from(std::size_t place) {
+        while (next[place] != place)
+            place = next[place] = next[next[place]];
+        return place;
+    }
+    void take(std::size_t place) { next[place] = place + 1; }
+
+private:
+    std::vector<std::size_t> next; ///< itself, or a later place up to which none is free
+};
+
+void link(const CommentModel& comment, const std::vector<ReadingModel*>& sorted, FreeReadings& freeReadings) {
     qCDebug(lcStore, "ID %s", qUtf8Printable(comment.ID));
     qCDebug(lcStore, "comment period %s %s", qUtf8Printable(comment.strBeginDate()),
             qUtf8Printable(comment.strEndDate()));
-    ReadingModel* last = nullptr;
     const auto first = firstFrom(sorted, comment.beginDay);
-    for (auto at = first; at != sorted.end(); ++at) {
-        ReadingModel& reading = **at;
-        if (at == first) reading.bAtBegin = true;
-        if (reading.day > comment.endDay) break;
-        reading.comment = &comment;
-        logLink(reading, comment);
-        last = &reading;
+    if (first == sorted.end()) return;
+    (*first)->bAtBegin = true;
+    if ((*first)->day > comment.endDay) return;
+    const auto end = std::ranges::upper_bound(first, sorted.end(), comment.endDay, {},
+                                              [](const ReadingModel* reading) { return reading->day; });
+    const auto placeOf = [&](auto at) { return static_cast<std::size_t>(at - sorted.begin()); };
+    for (auto at = freeReadings.from(placeOf(first)); at < placeOf(end); at = freeReadings.from(at)) {
+        sorted[at]->comment = &comment;
+        freeReadings.take(at);
+        logLink(*sorted[at], comment);
     }
-    if (last) last->bAtEnd = true;
+    (*std::prev(end))->bAtEnd = true;
 }
 
 } // namespace
 
+/// From the last comment to the first: where several cover a reading the last one has it, and no reading is
+/// looked at once for each of them.
 void setCommentInReading(const CommentList& comments, ReadingList& readings) {
     if (comments.empty()) return;
     const auto sorted = byDate(readings);
-    for (const auto& comment : comments)
-        link(*comment, sorted);
+    FreeReadings freeReadings{sorted.size()};
+    for (std::size_t i = comments.size(); i-- > 0;)
+        link(*comments[i], sorted, freeReadings);
 }
 
 void setDataLogInReading(const DataLogList& log, ReadingList& readings) {
@@ -63,7 +86,9 @@ void setDataLogInReading(const DataLogList& log, ReadingList& readings) {
     const auto sorted = byDate(readings);
     for (const DataTransferLogModel& entry : log) {
         qCDebug(lcStore, "ID %s", qUtf8Printable(entry.ID));
-        for (auto at = firstFrom(sorted, entry.transferDay); at != sorted.end(); ++at) {
+        auto at = firstFrom(sorted, entry.transferDay);
+        if (at != sorted.end() && (*at)->bYellowBackground) continue; // an earlier download of that day
+        for (; at != sorted.end(); ++at) {
             if ((*at)->day > entry.transferDay) break;
             (*at)->bYellowBackground = true;
         }

@@ -1,5 +1,6 @@
 #include "store/SettingKeys.h"
 
+#include "store/PressureLimits.h"
 #include "store/RecordXml.h"
 
 #include <algorithm>
@@ -23,11 +24,11 @@ QString plainText(const S& setting) {
     return setting.*Member;
 }
 
-template <auto Member>
-bool setNumber(S& setting, const QString& text, std::uint32_t most) {
+template <auto Member, LimitRange Range>
+bool setNumber(S& setting, const QString& text) {
     const bool isWhole = !text.isEmpty() && text.size() <= 3
                          && std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    if (!isWhole || text.toUInt() > most) return false;
+    if (!isWhole || !Range.takes(text.toUInt())) return false;
     setting.*Member = text.toUInt();
     return true;
 }
@@ -44,17 +45,15 @@ constexpr SettingKey list(const char* name) {
 }
 
 template <auto Member>
-constexpr SettingKey choice(const char* name) {
-    return {name, numberText<Member>,
-            [](S& setting, const QString& text) { return setNumber<Member>(setting, text, 1); },
+constexpr SettingKey zeroOrOne(const char* name) {
+    return {name, numberText<Member>, setNumber<Member, LimitRange{1, 1}>,
             [] { return qtTrId("SettingOneOf").arg(u"0, 1"_s); }};
 }
 
-template <auto Member>
+/// By itself; limitProblem() judges it beside the other one.
+template <auto Member, LimitRange Range>
 constexpr SettingKey limit(const char* name) {
-    return {name, numberText<Member>,
-            [](S& setting, const QString& text) { return setNumber<Member>(setting, text, largestLimit); },
-            [] { return qtTrId("SettingLimit").arg(largestLimit); }};
+    return {name, numberText<Member>, setNumber<Member, Range>, [] { return describe(Range); }};
 }
 
 /// A text field keeps line ends and tabs, and no other control characters.
@@ -68,11 +67,11 @@ constexpr std::array keys{
     list<&S::dateFormat, dateFormats>("DateFormat"),
     list<&S::timeFormat, timeFormats>("TimeFormat"),
     list<&S::metricFormat, metricFormats>("MetricFormat"),
-    choice<&S::eraseRecAfterReading>("EraseRecAfterReading"),
-    choice<&S::showPPorMap>("ShowPPorMap"),
-    choice<&S::userWhoStandard>("UserWhoStandard"),
-    limit<&S::sysStandard>("SysStandard"),
-    limit<&S::diaStandard>("DiaStandard"),
+    zeroOrOne<&S::eraseRecAfterReading>("EraseRecAfterReading"),
+    zeroOrOne<&S::showPPorMap>("ShowPPorMap"),
+    zeroOrOne<&S::userWhoStandard>("UserWhoStandard"),
+    limit<&S::sysStandard, systolicLimits>("SysStandard"),
+    limit<&S::diaStandard, diastolicLimits>("DiaStandard"),
     SettingKey{"PhysicianAddress", plainText<&S::physicianAddress>,
                [](S& setting, const QString& text) {
                    if (!isTyped(text)) return false;

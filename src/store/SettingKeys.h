@@ -30,7 +30,4 @@ struct SettingKey {
 [[nodiscard]] QStringList timeFormats();
 [[nodiscard]] QStringList metricFormats();
 
-/// The largest limit in mmHg that can be set.
-inline constexpr std::uint32_t largestLimit = 999;
-
 } // namespace zel

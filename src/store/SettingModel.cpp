@@ -47,15 +47,22 @@ SettingModel SettingModel::initWithXMLNode(pugi::xml_node element) {
 
 pugi::xml_node SettingModel::makeXmlNode(pugi::xml_node root) {
     const pugi::xml_node element = root.append_child("SystemSetting");
-    addMissingChildren(element, settingTable);
+    addChildren(element, settingTable);
     SettingModel defaults = initWithDefault();
     defaults.metricFormat = u"lb / in"_s;
     defaults.updateXMLNode(element);
     return element;
 }
 
-void SettingModel::updateXMLNode(pugi::xml_node element) const {
-    writeChildren(*this, element, settingTable);
+void SettingModel::updateXMLNode(pugi::xml_node element, const SettingModel* before) const {
+    writeChildren(*this, element, settingTable, before);
+}
+
+void SettingModel::takeChanges(const SettingModel& shown, const SettingModel& wanted) {
+    for (const XmlChild<S>& known : settingTable) {
+        const QString text = known.write(wanted);
+        if (text != known.write(shown)) known.read(*this, text.toStdString());
+    }
 }
 
 QString SettingModel::getDateFormat() const {

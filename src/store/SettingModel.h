@@ -27,8 +27,12 @@ struct SettingModel {
     /// A new SystemSetting element with the file format's defaults, as \p root's last child. Its unit system
     /// is "lb / in" where initWithDefault's is "kg / cm"; both are given so.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
-    /// Sets the text of each existing child whose name is known; adds none.
-    void updateXMLNode(pugi::xml_node element) const;
+    /// Sets the text of each existing child whose name is known; adds none. Fields that are as in \p before
+    /// keep the element's text.
+    void updateXMLNode(pugi::xml_node element, const SettingModel* before = nullptr) const;
+
+    /// Takes over what \p wanted has other than \p shown.
+    void takeChanges(const SettingModel& shown, const SettingModel& wanted);
 
     /// Unicode date pattern of dateFormat, or a null text for a value that is none.
     [[nodiscard]] QString getDateFormat() const;

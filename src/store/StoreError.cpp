@@ -8,10 +8,17 @@ QString sentence(StoreErrorCode code) {
     switch (code) {
     case StoreErrorCode::notReadable: return qtTrId("StoreNotReadable");
     case StoreErrorCode::notCreated: return qtTrId("StoreNotCreated");
+    case StoreErrorCode::tooLarge: return qtTrId("StoreTooLarge");
     case StoreErrorCode::notParsed: return qtTrId("StoreNotParsed");
     case StoreErrorCode::notWritable: return qtTrId("StoreNotWritable");
     case StoreErrorCode::writeFailed: return qtTrId("StoreWriteFailed");
+    case StoreErrorCode::diskFull: return qtTrId("StoreDiskFull");
+    case StoreErrorCode::quotaReached: return qtTrId("StoreQuotaReached");
+    case StoreErrorCode::sizeLimit: return qtTrId("StoreSizeLimit");
+    case StoreErrorCode::notFlushed: return qtTrId("StoreNotFlushed");
+    case StoreErrorCode::unreadable: return qtTrId("StoreUnreadable");
     case StoreErrorCode::busy: return qtTrId("StoreBusy");
+    case StoreErrorCode::lockBlocked: return qtTrId("StoreLockBlocked");
     case StoreErrorCode::noSuchRecord: return qtTrId("StoreNoSuchRecord");
     case StoreErrorCode::alreadyKnown: return qtTrId("StoreAlreadyKnown");
     case StoreErrorCode::invalidRecord: return qtTrId("StoreInvalidRecord");

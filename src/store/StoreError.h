@@ -9,10 +9,17 @@ namespace zel {
 enum class StoreErrorCode {
     notReadable,   ///< the file is not there or may not be read
     notCreated,    ///< there is none yet, and it could not be made
+    tooLarge,      ///< above largestFile
     notParsed,     ///< its content is no well-formed XML, or its root is not ZEL
     notWritable,   ///< the file or its folder may not be written
     writeFailed,   ///< writing began and failed; the file is as it was before
+    diskFull,      ///< as writeFailed
+    quotaReached,  ///< as writeFailed: the user may store no more on this disk
+    sizeLimit,     ///< as writeFailed: files may not become so large here
+    notFlushed,    ///< the file was replaced, but may be the older one again after a power cut
+    unreadable,    ///< as writeFailed: what was to be written could not be read again
     busy,          ///< another program holds the file
+    lockBlocked,   ///< a folder or another thing, the path, is in the place of the file's lock
     noSuchRecord,  ///< no record with the given ID
     alreadyKnown,  ///< a record with the given ID exists
     invalidRecord, ///< the record lacks what it needs to be stored
@@ -21,7 +28,7 @@ enum class StoreErrorCode {
     sameFileName,  ///< the disk takes the file for the one just written for the patient in detail
 };
 
-/// Why the store could not do what it was asked. Nothing was changed.
+/// Why the store could not do what it was asked. Nothing was changed, but for notFlushed.
 struct StoreError {
     StoreErrorCode code;
     QString path;   ///< the file concerned, or the ID for the record codes

@@ -65,6 +65,15 @@ Date parseUsualForm(std::string_view text) {
            + milliseconds{hasMilliseconds ? digits(fraction.substr(1)) : 0};
 }
 
+/// Without the digits beyond milliseconds.
+QString withMilliseconds(QString text) {
+    const auto begin = text.indexOf(u'.') + 1;
+    if (begin == 0) return text;
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    const auto end = std::find_if_not(text.begin() + begin, text.end(), isDigit) - text.begin();
+    return end > begin + 3 ? text.remove(begin + 3, end - begin - 3) : text;
+}
+
 /// Any form that the rule of the file format takes: the last colon belongs to the zone, a point to
 /// milliseconds.
 Date parseAnyForm(const QString& text) {
@@ -74,7 +83,7 @@ Date parseAnyForm(const QString& text) {
         return {};
     }
     const bool hasMilliseconds = text.contains(u'.');
-    return parseAsUtc(QString{text}.remove(colon, 1),
+    return parseAsUtc(withMilliseconds(QString{text}.remove(colon, 1)),
                       hasMilliseconds ? u"yyyy-MM-dd'T'HH:mm:ss'.'SSSZZZ"_s : u"yyyy-MM-dd'T'HH:mm:ssZZZ"_s);
 }
 
@@ -83,7 +92,22 @@ Date parseAnyForm(const QString& text) {
 Date XMLStrToDate(std::string_view text) {
     if (text == emptyDateText) return getNilDate();
     if (const Date usual = parseUsualForm(text)) return usual;
+    constexpr std::size_t longest = 100; // with more digits of a second than any clock has
+    if (text.size() > longest) return {};
     return parseAnyForm(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+Date XMLStrToWallClock(std::string_view text) {
+    if (!XMLStrToDate(text)) return {};
+    return XMLStrToDate(std::string{text.substr(0, text.find_last_of("+-"))} + "+00:00");
+}
+
+Date XMLStrToLocalDate(std::string_view text) {
+    const Date date = XMLStrToDate(text);
+    const Date wall = XMLStrToWallClock(text);
+    if (!date || !wall) return date;
+    const auto zone = systemZone();
+    return *date + offsetAt(*zone, *date, false) == *wall ? *date : *wall - offsetAt(*zone, *wall, true);
 }
 
 QString XMLDateToStr(const Date& date) {

@@ -6,8 +6,8 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
+#include <unordered_set>
 
 namespace zel {
 
@@ -29,44 +29,96 @@ struct ByteWriter final : pugi::xml_writer {
     }
 };
 
-/// Which characters that call for a closer look the text holds. Such files are rare, and the parser's tree
-/// would have to be walked for them.
+/// How much a file may hold: what is parsed takes 64 bytes for each element, attribute and piece of text.
+constexpr std::size_t mostParts = 10'000'000;
+constexpr int mostLevels = 100;
+
+/// What the text holds that calls for a closer look or for a refusal before it is parsed.
 struct Survey {
-    bool hasNul = false;
+    bool hasControl = false; ///< a control character, which would not be read again once written
     bool hasAmpersand = false;
-    bool hasEqualsSign = false; ///< after the declaration: perhaps an attribute's
+    bool hasEqualsSign = false;   ///< after the declaration: perhaps an attribute's
+    bool hasNonCharacter = false; ///< U+FFFE or U+FFFF
+    bool hasCdata = false;
+    std::size_t parts = 0; ///< at least as many as elements and attributes
 };
+
+bool isControl(char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }
+
+void surveyBlock(std::string_view block, Survey& seen) {
+    std::size_t marks = 0;
+    bool hasControl = false;
+    bool hasAmpersand = false;
+    bool hasSuspect = false;
+    for (const char c : block) {
+        hasControl |= isControl(c);
+        hasAmpersand |= c == '&';
+        hasSuspect |= c == '\xEF';
+        marks += (c == '<' || c == '=') ? 1U : 0U;
+    }
+    seen.hasControl = seen.hasControl || hasControl;
+    seen.hasAmpersand = seen.hasAmpersand || hasAmpersand;
+    seen.hasNonCharacter = seen.hasNonCharacter || hasSuspect; // until it has been looked at
+    seen.parts += marks;
+}
 
 Survey survey(std::string_view text) {
     Survey seen;
-    if (text.starts_with("<?xml")) text.remove_prefix(std::min(text.find("?>"), text.size()));
-    // Block by block, so that a large file goes through memory once and not three times.
+    const auto declarationEnd = text.starts_with("<?xml") ? text.find("?>") : 0;
+    seen.hasEqualsSign = text.find('=', std::min(declarationEnd, text.size())) != text.npos;
+    seen.hasCdata = text.find("<![CDATA[") != text.npos;
+    // Block by block, so that a large file goes through memory once.
     constexpr std::size_t blockSize = std::size_t{64} * 1024;
-    for (; !text.empty(); text.remove_prefix(std::min(blockSize, text.size()))) {
-        const std::string_view block = text.substr(0, blockSize);
-        seen.hasNul = seen.hasNul || block.find('\0') != block.npos;
-        seen.hasAmpersand = seen.hasAmpersand || block.find('&') != block.npos;
-        seen.hasEqualsSign = seen.hasEqualsSign || block.find('=') != block.npos;
-    }
+    for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(std::min(blockSize, rest.size())))
+        surveyBlock(rest.substr(0, blockSize), seen);
+    seen.hasNonCharacter =
+        seen.hasNonCharacter
+        && (text.find("\xEF\xBF\xBE") != text.npos || text.find("\xEF\xBF\xBF") != text.npos);
     return seen;
 }
 
-struct DoubleAttributeSearch final : pugi::xml_tree_walker {
-    bool found = false;
-    bool for_each(pugi::xml_node& element) override {
-        for (auto one = element.first_attribute(); one; one = one.next_attribute()) {
-            for (auto other = one.next_attribute(); other; other = other.next_attribute()) {
-                found = found || std::strcmp(one.name(), other.name()) == 0;
-            }
-        }
-        return !found;
+/// What is wrong with a text before it is parsed, or an empty text.
+QString textFault(std::string_view text, const Survey& seen) {
+    if (seen.hasControl) return qtTrId("XmlControlCharacter");
+    if (seen.hasNonCharacter) return qtTrId("XmlControlCharacter");
+    const auto last = text.find_last_not_of(" \t\r\n");
+    // The parser lets one more character pass.
+    if (last != text.npos && text[last] != '>') return qtTrId("XmlTextOutsideRoot");
+    // An end tag is no part; counting them takes as long again, and is rarely needed.
+    std::size_t ends = 0;
+    if (seen.parts > mostParts)
+        for (auto at = text.find("</"); at != text.npos; at = text.find("</", at + 2))
+            ++ends;
+    return seen.parts - std::min(ends, seen.parts) > mostParts ? qtTrId("XmlTooManyParts").arg(mostParts)
+                                                               : QString{};
+}
+
+bool hasDoubleAttribute(pugi::xml_node element) {
+    // Linear, since an element may have any number of attributes.
+    std::unordered_set<std::string_view> names;
+    const auto isKnown = [&names](pugi::xml_attribute one) { return !names.insert(one.name()).second; };
+    return element.first_attribute() && element.first_attribute().next_attribute()
+           && std::ranges::any_of(element.attributes(), isKnown);
+}
+
+/// Looks at the elements one by one, without recursion.
+struct TreeSearch final : pugi::xml_tree_walker {
+    explicit TreeSearch(bool attributes) : looksAtAttributes{attributes} {}
+    const bool looksAtAttributes;
+    bool isDeep = false;
+    bool hasDouble = false;
+    bool for_each(pugi::xml_node& node) override {
+        isDeep = node.type() == pugi::node_element && depth() >= mostLevels;
+        hasDouble = looksAtAttributes && hasDoubleAttribute(node);
+        return !isDeep && !hasDouble;
     }
 };
 
-bool hasDoubleAttribute(pugi::xml_document& tree) {
-    DoubleAttributeSearch search;
+QString treeFault(pugi::xml_document& tree, const Survey& seen) {
+    TreeSearch search{seen.hasEqualsSign};
     tree.traverse(search);
-    return search.found;
+    if (search.isDeep) return qtTrId("XmlTooDeep").arg(mostLevels);
+    return search.hasDouble ? qtTrId("XmlAttributeTwice") : QString{};
 }
 
 bool isXmlCharacter(std::uint32_t code) {
@@ -155,14 +207,15 @@ tl::expected<XmlDocument, QString> XmlDocument::parse(QByteArray file) {
     const std::string_view text{document.buffer.constData(),
                                 static_cast<std::size_t>(document.buffer.size())};
     const Survey seen = survey(text);
-    if (seen.hasNul) return tl::unexpected{qtTrId("XmlNulByte")};
+    if (const QString fault = textFault(text, seen); !fault.isEmpty()) return tl::unexpected{fault};
     if (seen.hasAmpersand && !referencesAreSafe(text)) return tl::unexpected{qtTrId("XmlEntityNotTaken")};
-    const auto result = document.tree.load_buffer_inplace(document.buffer.data(), text.size(), parseFlags,
-                                                          pugi::encoding_utf8);
+    // Beside a text that is embedded in its element, a CDATA section would not be written back.
+    const unsigned flags = seen.hasCdata ? parseFlags & ~pugi::parse_embed_pcdata : parseFlags;
+    const auto result =
+        document.tree.load_buffer_inplace(document.buffer.data(), text.size(), flags, pugi::encoding_utf8);
     if (!result) return tl::unexpected{parserWords(result, document.buffer)};
     if (const QString fault = documentFault(document.tree); !fault.isEmpty()) return tl::unexpected{fault};
-    if (seen.hasEqualsSign && hasDoubleAttribute(document.tree))
-        return tl::unexpected{qtTrId("XmlAttributeTwice")};
+    if (const QString fault = treeFault(document.tree, seen); !fault.isEmpty()) return tl::unexpected{fault};
     return document;
 }
 

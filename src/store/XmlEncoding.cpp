@@ -6,6 +6,7 @@
 #include <unicode/ucnv.h>
 #include <unicode/unistr.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -55,7 +56,17 @@ struct CloseConverter {
 };
 using Converter = std::unique_ptr<UConverter, CloseConverter>;
 
+/// Anything else would make markup of its own where it is written back, or ask the converter for options.
+bool isEncodingName(const QByteArray& name) {
+    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    const auto isOfName = [&](char c) {
+        return isLetter(c) || (c >= '0' && c <= '9') || c == '.' || c == '_' || c == '-';
+    };
+    return !name.isEmpty() && isLetter(name.front()) && std::ranges::all_of(name, isOfName);
+}
+
 Converter openConverter(const XmlEncoding& encoding) {
+    if (!isEncodingName(encoding.name)) return nullptr;
     UErrorCode status = U_ZERO_ERROR;
     Converter converter{ucnv_open(encoding.name.constData(), &status)};
     return U_SUCCESS(status) ? std::move(converter) : nullptr;

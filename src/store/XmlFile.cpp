@@ -24,6 +24,8 @@ XmlFile XmlFile::read(const QString& path) {
     const QFileInfo info{path};
     XmlFile file{.FullPath = path, .sFileName = info.fileName(), .backupTime = {}};
     if (!file.sFileName.endsWith(".xml"_L1)) return file;
+    file.isLarge = info.size() > largestCounted;
+    if (file.isLarge) return file;
     const auto document = readImport(path);
     if (!document) {
         qCWarning(lcStore, "_export  create xml doc failed");

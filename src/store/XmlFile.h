@@ -15,8 +15,12 @@ struct XmlFile {
     /// The day on which it was made, or last changed where the file system does not tell, as "yyyy/MM/dd".
     QString backupTime;
 
-    /// Reads the file if its name ends in ".xml", in this case. One that is not read, is damaged, or is too
-    /// large to be imported has its names only.
+    bool isLarge = false; ///< above largestCounted: not read, though it may be imported
+    /// Counting must neither hold up a list of files nor fill the memory.
+    static constexpr qint64 largestCounted = qint64{64} << 20;
+
+    /// Reads the file if its name ends in ".xml", in this case. One that is not read or is damaged has its
+    /// names only.
     [[nodiscard]] static XmlFile read(const QString& path);
     [[nodiscard]] bool isRead() const { return !backupTime.isEmpty(); }
 };

@@ -102,5 +102,14 @@ TEST(PlaceholderRows, CommentWithoutAnyDateMakesNone) {
     EXPECT_EQ(sample.words(), "03-03/08:30");
 }
 
+/// A reading of a clock gone wrong must not make millions of rows.
+TEST(PlaceholderRows, AreNoMoreThanACentury) {
+    Sample sample;
+    sample.readings = readingsAt({"1000-01-01 09:00", "9999-12-31 09:00"});
+    sample.comment("1000-01-01", "9999-12-31");
+    sample.selection = during("1000-01-01", "9999-12-31");
+    EXPECT_EQ(sample.rows().rows.size(), 36'527U);
+}
+
 } // namespace
 } // namespace zel

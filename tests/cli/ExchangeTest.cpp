@@ -104,7 +104,8 @@ TEST_F(CliExchangeTest, SettingsAreShownAndChangedAllOrNone) {
         return zel(words);
     };
     const std::pair<QStringList, const char*> refused[] = {
-        {{u"SysStandard=120"_s, u"DiaStandard=1000"_s}, "DiaStandard takes a whole number from 0 to 999"},
+        {{u"SysStandard=120"_s, u"DiaStandard=1000"_s},
+         "DiaStandard takes 0 for none, or a whole number from 30 to 160"},
         {{u"MetricFormat=stone"_s}, "“kg / cm”, “lb / in”, not 'stone'"},
         {{u"sysStandard=120"_s}, "no setting 'sysStandard'"},
         {{u"SysStandard"_s}, "KEY=VALUE"},
@@ -117,9 +118,15 @@ TEST_F(CliExchangeTest, SettingsAreShownAndChangedAllOrNone) {
     }
     EXPECT_EQ(zel({u"settings"_s}).out, before.out);
 
-    EXPECT_EQ(set({u"SysStandard=007"_s, u"PhysicianAddress=A=B\\\\C\\nD\\x"_s}).out,
-              "SysStandard: 7\nPhysicianAddress: A=B\\\\C\\nD\\\\x\n");
+    EXPECT_EQ(set({u"SysStandard=099"_s, u"PhysicianAddress=A=B\\\\C\\nD\\x"_s}).out,
+              "SysStandard: 99\nPhysicianAddress: A=B\\\\C\\nD\\\\x\n");
     EXPECT_TRUE(data().contains("A=B\\C\nD\\x<"));
+
+    const Outcome crossed = set({u"SysStandard=90"_s}); // the file has 90 for the other
+    EXPECT_EQ(crossed.status, 1);
+    EXPECT_THAT(crossed.err, HasSubstr("has to be below"));
+    EXPECT_THAT(zel({u"settings"_s}).out, HasSubstr("SysStandard: 99\n"));
+    EXPECT_EQ(set({u"SysStandard=90"_s, u"DiaStandard=60"_s}).status, 0) << "both at once";
 }
 
 TEST_F(CliExchangeTest, SettingThatTheFileHasNoPlaceForIsToldAndNoneIsChanged) {

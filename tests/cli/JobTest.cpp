@@ -1,4 +1,5 @@
 #include "cli/CliTest.h"
+#include "support/DamageAfterWrite.h"
 
 #include <QFile>
 
@@ -51,15 +52,52 @@ private:
     bool pulled = false;
 };
 
+/// Does something when its readings are asked for.
+class WatchedPort final : public MonitorPort {
+public:
+    WatchedPort(std::unique_ptr<MonitorPort> device, std::function<void()> act)
+        : port(std::move(device)), whenAsked(std::move(act)) {}
+    PortOpen open() override { return port->open(); }
+    bool isOpen() const override { return port->isOpen(); }
+    bool disconnected() const override { return port->disconnected(); }
+    bool write(std::span<const std::uint8_t> report) override {
+        if (report.back() == '"') whenAsked();
+        return port->write(report);
+    }
+    int read(std::span<std::uint8_t> report) override { return port->read(report); }
+
+private:
+    std::unique_ptr<MonitorPort> port;
+    std::function<void()> whenAsked;
+};
+
 TEST_F(JobTest, MonitorSwappedDuringTheDownloadIsRefused) {
     plug(std::make_unique<SwappedPort>(monitor(planM1), monitor(QByteArray(planM1).replace("M1", "M2"))));
     expectRefused(zel(downloadM1), "another monitor");
+}
+
+TEST_F(JobTest, PatientWhoGoesDuringTheDownloadIsTold) {
+    const QByteArray without = QByteArray(before).replace("<ID>M1</ID>", "<ID>M9</ID>");
+    plug(std::make_unique<WatchedPort>(monitor(planM1), [this, &without] { setData(before = without); }));
+    expectRefused(zel(downloadM1), "no patient with the ID “M1”");
+    EXPECT_THAT(zel({u"monitor"_s}).out, HasSubstr("readings: 4\n")) << "nothing is erased";
+}
+
+TEST_F(JobTest, DownloadThatCannotBeReadBackIsStored) {
+    plug(planM1);
+    const DamageAfterWrite damage(dataFile());
+    const Outcome outcome = zel(downloadM1);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "downloaded: 4\nnew: 4\n");
+    EXPECT_THAT(outcome.err, HasSubstr("The readings are stored, but"));
+    EXPECT_THAT(zel({u"monitor"_s}).out, HasSubstr("readings: 4\n"));
 }
 
 TEST_F(JobTest, ReadingsWhoseDateIsNoneAreUndated) {
     const QByteArray plan =
         R"({"model": "37", "id": "M1", "records": [{"raw": "zz13450000c000000481407800000000"}]})";
     ASSERT_EQ(zelWith(plan, downloadM1).out, "downloaded: 1\nnew: 1\n");
+    EXPECT_EQ(zelWith(plan, downloadM1).out, "downloaded: 1\nnew: 0\n");
     EXPECT_THAT(zel(readingsM1).out, HasSubstr("\nn.a,--:--,120,"));
     EXPECT_THAT(zel(readingsM1 + QStringList{u"--to=2026-11-03"_s}).out, testing::Not(HasSubstr("n.a")));
 }

@@ -1,5 +1,9 @@
 #include "cli/CliTest.h"
 
+#include <csignal>
+#include <iostream>
+#include <unistd.h>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -45,6 +49,40 @@ TEST_F(CliTest, MonitorPrintsWhatItHolds) {
                     HasSubstr(std::string("\narrhythmia: ") + arrhythmia + "\n"));
 }
 
+/// A monitor at whose third chunk of a frame the user stops the program; it may block from then on.
+class StoppedPort final : public MonitorPort {
+public:
+    StoppedPort(std::unique_ptr<MonitorPort> monitor, bool isBlocking)
+        : port(std::move(monitor)), blocks(isBlocking) {}
+    PortOpen open() override { return port->open(); }
+    bool isOpen() const override { return port->isOpen(); }
+    bool disconnected() const override { return port->disconnected(); }
+    bool write(std::span<const std::uint8_t> report) override {
+        const bool isChunk = report[0] == 0xFF;
+        if (isChunk) std::cerr << "chunk " << ++chunks << '\n';
+        if (isChunk && chunks == 3) std::raise(SIGINT);
+        while (chunks == 3 && blocks)
+            pause();
+        return port->write(report);
+    }
+    int read(std::span<std::uint8_t> report) override { return port->read(report); }
+
+private:
+    std::unique_ptr<MonitorPort> port;
+    bool blocks;
+    int chunks = 0;
+};
+
+TEST_F(CliTest, SignalFinishesTheFrameAndThenEndsTheProgram) {
+    const QStringList send{u"monitor"_s, u"--send-id"_s, u"NEW 7"_s};
+    const auto stopAt = [&](bool blocks) {
+        plug(std::make_unique<StoppedPort>(monitor(planM1), blocks));
+        std::cerr << zel(send).out;
+    };
+    EXPECT_EXIT(stopAt(false), testing::KilledBySignal(SIGINT), "chunk 9\nchunk 10\n");
+    EXPECT_EXIT(stopAt(true), testing::KilledBySignal(SIGINT), "chunk 3\n$") << "a device that blocks";
+}
+
 TEST_F(CliTest, MonitorIsChangedAsTold) {
     plug(planM1);
     EXPECT_THAT(zel({u"monitor"_s, u"--set-clock"_s}).out, StartsWith("clock: 2026-11-21 09:00:0"));
@@ -54,6 +92,14 @@ TEST_F(CliTest, MonitorIsChangedAsTold) {
     EXPECT_THAT(zel({u"monitor"_s}).out, testing::EndsWith("\nreadings: 4\n"));
     EXPECT_EQ(zel({u"monitor"_s, u"--erase"_s, u"--yes"_s}).out, "readings: 0\n");
     EXPECT_THAT(zel({u"monitor"_s}).out, HasSubstr("\nid: NEW 7\n"));
+}
+
+TEST_F(CliTest, MonitorWhoseClockIsNotSetIsPrintedWhole) {
+    plug(QByteArray(planM1).replace("\"clockOffsetSeconds\": 30", "\"clock\": \"unset\""));
+    const Outcome outcome = zel({u"monitor"_s});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.out, testing::EndsWith("\nid: M1\nclock: not set\nreadings: 4\n"));
+    EXPECT_THAT(zel({u"monitor"_s, u"--set-clock"_s}).out, StartsWith("clock: 2026-11-21 09:0"));
 }
 
 TEST_F(CliTest, MonitorIsWaitedFor) {
@@ -76,12 +122,19 @@ TEST_F(CliTest, MonitorIsWaitedFor) {
     plug(faulty(R"({"kind": "noAnswer", "command": ">"})"));
     EXPECT_THAT(waited({u"monitor"_s}, 5s, 15s), HasSubstr("did not answer"));
 
-    plug(faulty(R"({"kind": "absent", "command": "open", "times": 9})"));
+    plug(faulty(R"({"kind": "absent", "command": "open", "times": 2})"));
     EXPECT_EQ(zel({u"monitor"_s}).status, 0);
     // The first query only probes, for one report, so even no waiting at all means two.
     plug(QByteArray(planM1).replace("{\"model\"", "{\"reportSizes\": [2], \"model\""));
     EXPECT_EQ(zel({u"monitor"_s, u"--wait"_s, u"0"_s}).status, 0);
     EXPECT_EQ(zel({u"monitor"_s, u"--wait"_s, u"86400"_s}).status, 0);
+    for (const int delay : {100, 250, 900, 1500, 2000}) {
+        const auto slow = R"({"kind": "late", "command": ">", "delayMs": %1})";
+        plug(faulty(QByteArray(slow).replace("%1", QByteArray::number(delay)).constData()));
+        for (const auto& wait : {u"0"_s, u"5"_s})
+            EXPECT_THAT(zel({u"monitor"_s, u"--wait"_s, wait}).out, HasSubstr("id: M1\nclock: 2026-11-2"))
+                << delay;
+    }
 }
 
 TEST_F(CliTest, MonitorThatStopsAnsweringFailsAfterWhatIsKnown) {
@@ -117,6 +170,14 @@ TEST_F(CliTest, MonitorChangeThatFailsIsTold) {
         const Outcome outcome = zel(arguments);
         EXPECT_EQ(outcome.status, 1);
         EXPECT_THAT(outcome.err, HasSubstr(reason));
+    }
+    plug(faulty(R"({"kind": "notTaken", "command": "#"}, {"kind": "notTaken", "command": "'"})")
+             .replace("\": 30", "\": 90"));
+    for (const auto& [arguments, reason] : cases) {
+        const Outcome outcome = zel(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, testing::AllOf(HasSubstr(reason), HasSubstr("still holds something else")));
     }
     plug(QByteArray(planM1).replace("\"M1\"", "\"\""));
     EXPECT_THAT(zel({u"monitor"_s, u"--erase"_s, u"--yes"_s}).err, HasSubstr("--send-id"));

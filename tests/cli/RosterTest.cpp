@@ -18,14 +18,14 @@ TEST_F(CliTest, PatientsAreListedByNameAsCsv) {
     };
     EXPECT_EQ(zel({u"patients"_s}).out, "id,family-name,given-names\n");
     EXPECT_EQ(add(u"2"_s, u"Müller"_s, u"Jörg, \"Jo\""_s).status, 0);
-    EXPECT_EQ(add(u"an ID longer than the monitor keeps"_s, u"Adams"_s, u"日本 😀"_s).status, 0);
+    EXPECT_EQ(add(u"11 letters."_s, u"Adams"_s, u"日本 😀"_s).status, 0);
     EXPECT_EQ(zel({u"patients"_s}).out, "id,family-name,given-names\n"
-                                        "an ID longer than the monitor keeps,Adams,日本 😀\n"
+                                        "11 letters.,Adams,日本 😀\n"
                                         "2,Müller,\"Jörg, \"\"Jo\"\"\"\n");
 
     setData(data().replace("Adams", "Ad\nams").replace("Jörg", "J&#13;rg"));
     EXPECT_EQ(zel({u"patients"_s}).out, "id,family-name,given-names\n"
-                                        "an ID longer than the monitor keeps,\"Ad\nams\",日本 😀\n"
+                                        "11 letters.,\"Ad\nams\",日本 😀\n"
                                         "2,Müller,\"J\rrg, \"\"Jo\"\"\"\n");
 
     const QByteArray before = data();

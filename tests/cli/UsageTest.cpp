@@ -41,6 +41,8 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"patients --add --id A --given-names G", "--family-name is missing"},
         {"patients --add --id A --family-name F", "--given-names is missing"},
         {"patients --add --id - --family-name F --given-names G", "--id must not"},
+        {"patients --add --id twelve-signs --family-name F --given-names G", "--id must be 1 to 11"},
+        {"patients --add --id Müller --family-name F --given-names G", "--id must be 1 to 11"},
         {"patients --add --id A --family-name - --given-names G", "--family-name must not"},
         {"patients --add --id A --family-name F --given-names \tG", "--given-names must not"},
         {"patients --add --id A\u0085B --family-name F --given-names G", "--id must not"},

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <thread>
 
 namespace zel {
@@ -73,6 +74,16 @@ TEST_F(BPMModelTest, WritesAndReadsBackTheID) {
     EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"A1"_s);
 }
 
+TEST_F(BPMModelTest, ErasesNoMonitorThatWasPluggedInSince) {
+    const int held = model.getBPMCycleDataCount().value_or(0);
+    port.unplug();
+    port.plug();
+    EXPECT_EQ(model.eraseData(u"A1"_s), MonitorResult::readFailed);
+    EXPECT_EQ(model.getBPMCycleDataCount().value_or(0), held);
+    EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"DEMO1"_s);
+    EXPECT_EQ(model.eraseData(u"A1"_s), MonitorResult::success) << "once it has been asked again";
+}
+
 TEST_F(BPMModelTest, SetsTheMonitorsClock) {
     SimulatedMonitorPlan plan;
     plan.clockOffset = -3661s;
@@ -85,6 +96,50 @@ TEST_F(BPMModelTest, SetsTheMonitorsClock) {
     EXPECT_NEAR(seconds(lag()), 1, 1); // the frame takes 1.2 s
     clock.advance(40 * 24h);
     EXPECT_NEAR(seconds(lag()), 1, 1);
+}
+
+TEST_F(BPMModelTest, ChangeThatWasNotMadeFails) {
+    using Kind = SimulatedFault::Kind;
+    const auto sendID = [](BPMModel& monitor) { return monitor.sendID(u"NEW"_s, false); };
+    const auto erase = [](BPMModel& monitor) { return monitor.eraseData(u"DEMO1"_s); };
+    const auto setClock = [](BPMModel& monitor) { return monitor.setBPMDate(); };
+    const struct {
+        const char* what;
+        std::function<MonitorResult(BPMModel&)> change;
+        Kind kind;
+        Command command;
+        int times;
+        MonitorResult result;
+    } cases[] = {
+        {"ID", sendID, Kind::notTaken, Command::sendID, 1, MonitorResult::notTaken},
+        {"ID unread", sendID, Kind::noAnswer, Command::id, 3, MonitorResult::unconfirmed},
+        {"ID read late", sendID, Kind::wrongByte, Command::id, 2, MonitorResult::success},
+        {"erased", erase, Kind::notTaken, Command::sendID, 1, MonitorResult::notTaken},
+        {"erased, unread", erase, Kind::noAnswer, Command::records, 3, MonitorResult::unconfirmed},
+        {"clock", setClock, Kind::notTaken, Command::setDate, 1, MonitorResult::notTaken},
+        {"clock unread", setClock, Kind::badCheckField, Command::date, 3, MonitorResult::unconfirmed},
+    };
+    for (const auto& [what, change, kind, command, times, result] : cases) {
+        SimulatedMonitorPlan plan = builtInPlan(clock.now());
+        plan.clockOffset = 31s;
+        plan.isClockSet = kind != Kind::badCheckField;
+        plan.faults = {{.kind = kind, .command = command, .times = times}};
+        SimulatedMonitor faulty(plan, clock);
+        BPMModel monitor(faulty, clock);
+        std::ignore = monitor.checkIsConnected();
+        EXPECT_EQ(change(monitor), result) << what;
+    }
+}
+
+TEST_F(BPMModelTest, ClockThatWasNeverSetIsNoFailure) {
+    SimulatedMonitorPlan plan;
+    plan.isClockSet = false;
+    SimulatedMonitor unset(plan, clock);
+    BPMModel monitor(unset, clock);
+    std::ignore = monitor.checkIsConnected();
+    EXPECT_EQ(outcome(monitor.readBPMDate()), MonitorResult::clockNotSet);
+    EXPECT_EQ(monitor.setBPMDate(), MonitorResult::success);
+    EXPECT_NEAR(seconds(clock.now() - monitor.readBPMDate().value()), 1, 1);
 }
 
 TEST_F(BPMModelTest, ClockThatSaysNoDate) {

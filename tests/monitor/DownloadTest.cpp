@@ -39,7 +39,10 @@ std::vector<Report> download(int count, const std::string& hexCount, std::size_t
 
 class DownloadTest : public testing::Test {
 protected:
-    void SetUp() override { begin = clock.now(); }
+    void SetUp() override {
+        begin = clock.now();
+        port.versionAnswer = reply(checked("3035304131"));
+    }
     [[nodiscard]] std::chrono::microseconds elapsed() const { return clock.now() - begin; }
     MonitorResult tryOnce(int attempt) {
         begin = clock.now();
@@ -79,6 +82,10 @@ TEST_F(DownloadTest, LogsItsStepsInTheSameWordsAsEver) {
     bad.back().back() ^= 1;
     const auto load = [this] { std::ignore = model.getBPMCycleData(progress); };
     const auto count = [this] { std::ignore = model.getBPMCycleDataCount(); };
+    const auto version = [this] {
+        port.versionAnswer.reset();
+        std::ignore = model.getBPMVersion();
+    };
     const struct {
         const char* what;
         std::deque<std::vector<Report>> answers;
@@ -125,7 +132,7 @@ TEST_F(DownloadTest, LogsItsStepsInTheSameWordsAsEver) {
          "?sendID A Z|sendID result:-7"},
         {"a wrong check field",
          {reply("303530413100")},
-         [this] { std::ignore = model.getBPMVersion(); },
+         version,
          "!checkSum error res2:F  res1:0  daat2:7  data1:0\n"},
         {"no room for one",
          {reply("3")},
@@ -167,6 +174,7 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
         int shown; ///< how many records the progress got to
     };
     const auto all = checked(header("03") + record + record + record);
+    const auto two = checked(header("02") + record + record) + record + "00";
     const Case cases[] = {
         {"nothing", [](auto&) {}, MonitorResult::success, 3},
         {"surplus in the last report",
@@ -182,6 +190,26 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
          MonitorResult::badCheckField, 3},
         {"more records announced than come", [](auto& r) { r[0][5] = 'F'; }, MonitorResult::timeOut, 3},
         {"no hexadecimal digits", [](auto& r) { r[0][4] = 'z'; }, MonitorResult::badFixedContent, 0},
+        {"fewer records announced than come, the check field right by chance",
+         [&](auto& r) {
+             r = reply(two.substr(0, 32));
+             for (Report& report : reportsOf(two.substr(32), reportCapacity))
+                 r.push_back(report);
+         },
+         MonitorResult::badCheckField, 2},
+        {"none announced, three come", [](auto& r) { r[0][5] = '0'; }, MonitorResult::badCheckField, 0},
+        {"none announced, wrong check field",
+         [](auto& r) {
+             r = download(0, "00");
+             r.back().back() ^= 1;
+         },
+         MonitorResult::badCheckField, 0},
+        {"none announced, no check field",
+         [](auto& r) {
+             r = download(0, "00");
+             r.pop_back();
+         },
+         MonitorResult::success, 0},
         {"ends early", [](auto& r) { r.pop_back(); }, MonitorResult::timeOut, 2},
     };
     for (const Case& sample : cases) {
@@ -221,6 +249,36 @@ TEST_F(DownloadTest, CountWaitsForTheRecordsThatFollow) {
         if (port.queued.size() == 1) transport.interrupt();
     };
     EXPECT_EQ(outcome(commands.getBPMCycleDataCount()), MonitorResult::interrupted);
+    transport.resume();
+    port.onRead = [] {};
+    for (const char* hexCount : {"00", "02"}) { // three come
+        port.answers = {download(3, hexCount)};
+        EXPECT_EQ(outcome(commands.getBPMCycleDataCount()), MonitorResult::badCheckField) << hexCount;
+    }
+}
+
+TEST_F(DownloadTest, AsksForTheModelFirstAndFailsWithoutIt) {
+    // A record's flag 0x01 is a finding, on the models that detect one.
+    const std::string found = record.substr(0, 10) + '\x01' + record.substr(11);
+    const std::string all = checked(header("01") + found);
+    const auto answer = [&] {
+        auto reports = reply(all.substr(0, 32));
+        for (Report& report : reportsOf(all.substr(32), reportCapacity))
+            reports.push_back(std::move(report));
+        return reports;
+    };
+    port.opening = PortOpen::absent;
+    EXPECT_FALSE(model.checkIsConnected());
+    port.opening = PortOpen::opened;
+    port.answers = {answer()};
+    const auto readings = model.getBPMCycleData(progress).value();
+    ASSERT_EQ(readings.size(), 1U);
+    EXPECT_EQ(readings[0].Arrhythmia, 5U) << "though the poll before it found no monitor";
+
+    port.versionAnswer.reset();
+    port.answers = {{}, {}, {}, {}, {}, {}, answer()};
+    EXPECT_EQ(outcome(model.getBPMCycleData(progress)), MonitorResult::timeOut);
+    EXPECT_EQ(port.answers.size(), 1U) << "the readings were never asked for";
 }
 
 TEST_F(DownloadTest, ThreeTriesAndNoMore) {
@@ -246,7 +304,7 @@ TEST_F(DownloadTest, InterruptedDownloadIsNotTriedAgain) {
         if (port.queued.size() == 100) model.interrupt();
     };
     EXPECT_EQ(model.getBPMCycleData(progress).error(), MonitorResult::interrupted);
-    EXPECT_EQ(port.written.size(), 1U);
+    EXPECT_EQ(port.written.size(), 2U) << "the questions for the model and for the readings";
     EXPECT_LT(elapsed(), 1s);
     model.resume();
     port.answers = {download(1, "01")};

@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <numeric>
+#include <optional>
 #include <string>
 
 namespace zel {
@@ -15,6 +16,7 @@ namespace zel {
 class ScriptedPort final : public MonitorPort {
 public:
     std::deque<std::vector<Report>> answers;
+    std::optional<std::vector<Report>> versionAnswer; ///< instead of the next one, to that question
     std::deque<Report> queued;
     std::vector<Report> written;
     PortOpen opening = PortOpen::opened;
@@ -23,6 +25,7 @@ public:
     int opens = 0;
     int reads = 0;
     std::function<void()> onRead = [] {};
+    std::function<void()> onWrite = [] {};
 
     PortOpen open() override {
         ++opens;
@@ -36,7 +39,13 @@ public:
         if (failWrites) failed = true;
         if (failWrites) return false;
         written.emplace_back(report.begin(), report.end());
-        if (report[0] != commandPreamble[0] || answers.empty()) return true;
+        onWrite();
+        if (report[0] != commandPreamble[0]) return true;
+        if (versionAnswer && report.back() == static_cast<std::uint8_t>(Command::version)) {
+            queued.insert(queued.end(), versionAnswer->begin(), versionAnswer->end());
+            return true;
+        }
+        if (answers.empty()) return true;
         for (Report& answer : answers.front())
             queued.push_back(std::move(answer));
         answers.pop_front();

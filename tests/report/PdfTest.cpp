@@ -77,19 +77,16 @@ TEST(Pdf, everySectionIsPrintedForAYearOfDataAndForNone) {
 }
 
 TEST(Pdf, namesTheCharacterThatWasWrittenWhereAFontHasOneGlyphForSeveral) {
+    const std::string glyph = "1 beginbfrange\n<0001> <0001> ", end = "\nendbfrange";
     for (const auto& [before, after] : {
-             std::pair(
-                 "2 beginbfrange\n<0000> <0000> <0000>\n<0001> <0003> [<738B> <2F29> <0009> ]\nendbfrange",
-                 "2 beginbfrange\n<0000> <0000> <0000>\n<0001> <0003> [<738B> <5C0F> <0020> ]\nendbfrange"),
-             {"1 beginbfrange\n<0001> <0001> <2F29>\nendbfrange",
-              "1 beginbfrange\n<0001> <0001> <5C0F>\nendbfrange"},
-             {"1 beginbfrange\n<0001> <0002> <2F29>\nendbfrange",
-              "1 beginbfrange\n<0001> <0002> <2F29>\nendbfrange"},
-             {"1 beginbfrange\n<0001> <0002> [<2E9F> <2F29>]",
-              "1 beginbfrange\n<0001> <0002> [<2E9F> <2F29>]"},
+             std::pair(glyph + "<2F29>" + end, glyph + "<5C0F>" + end),
+             {glyph + "[<738B> <2F29> <0009> <2EE2> <2EE9> <2EF0> <2ED1> <2E9F> <2E80> ]" + end,
+              glyph + "[<738B> <5C0F> <0020> <9A6C> <9EC4> <9F99> <9577> <6BCD> <2E80> ]" + end},
+             {"1 beginbfrange\n<0001> <0002> <2F29>" + end, "1 beginbfrange\n<0001> <0002> <2F29>" + end},
+             {glyph + "<2F29>", glyph + "<2F29>"}, // without an end it is no map
              {"(<0001> <0001> <2F29>) Tj", "(<0001> <0001> <2F29>) Tj"},
          }) {
-        QByteArray pdf(before);
+        QByteArray pdf = QByteArray::fromStdString(before);
         mendCharacters(pdf);
         EXPECT_EQ(pdf.toStdString(), after);
     }

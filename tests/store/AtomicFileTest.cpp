@@ -1,5 +1,6 @@
 #include "store/AtomicFile.h"
 
+#include "store/NewFile.h"
 #include "support/FullDisk.h"
 
 #include <QDir>
@@ -8,7 +9,24 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+bool flushOfFoldersFails = false;
+}
+
+/// In the library's place: a disk whose folders cannot be flushed.
+extern "C" int fsync(int handle) {
+    struct stat status {};
+    if (flushOfFoldersFails && fstat(handle, &status) == 0 && S_ISDIR(status.st_mode)) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_fsync, handle));
+}
 
 namespace zel {
 namespace {
@@ -54,6 +72,57 @@ TEST_F(AtomicFileTest, PipesAndDevicesAreNotReplaced) {
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().code, StoreErrorCode::notWritable);
     EXPECT_FALSE(QFileInfo{path}.isFile());
+    EXPECT_EQ(readFile(path).error().code, StoreErrorCode::notReadable)
+        << "and it does not wait for a writer";
+}
+
+TEST_F(AtomicFileTest, FolderThatCannotBeFlushedIsNoSuccess) {
+    ASSERT_TRUE(replaceFile(path, "one"));
+    flushOfFoldersFails = true;
+    const auto result = replaceFile(path, "two");
+    flushOfFoldersFails = false;
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().code, StoreErrorCode::notFlushed);
+    EXPECT_EQ(readFile(path).value(), "two") << "it is in its place, as the error says";
+    EXPECT_EQ(filesInFolder(), 1);
+}
+
+TEST_F(AtomicFileTest, OwnerIsKept) {
+    if (geteuid() != 0) GTEST_SKIP() << "only the superuser gives files away";
+    ASSERT_TRUE(replaceFile(path, "one"));
+    const QByteArray name = QFile::encodeName(path);
+    ASSERT_EQ(chown(name.constData(), 1234, 1235), 0);
+    ASSERT_TRUE(replaceFile(path, "two"));
+    struct stat status {};
+    stat(name.constData(), &status);
+    EXPECT_EQ(status.st_uid, 1234U);
+    EXPECT_EQ(status.st_gid, 1235U);
+    EXPECT_EQ(mode(path), 0600U);
+}
+
+TEST_F(AtomicFileTest, OnlyWhatKilledProgramsLeftIsRemoved) {
+    const QString prefix = folder.filePath(u".ZEL.xml.new-"_s);
+    const QString dead = prefix + u"aB3xYz"_s;
+    const QStringList others{path, path + u".backup"_s, prefix + u"longer-than-such-a-name"_s};
+    for (const QString& each : QStringList{dead} + others)
+        ASSERT_TRUE(QFile{each}.open(QIODevice::WriteOnly));
+    auto live = NewFile::create(prefix);
+    ASSERT_TRUE(live);
+    removeDeadReplacements(path);
+    EXPECT_FALSE(QFileInfo::exists(dead));
+    for (const QString& each : others)
+        EXPECT_TRUE(QFileInfo::exists(each)) << each.toStdString();
+    EXPECT_EQ(live->takePlace(path), 0) << "the one that is being written is still there";
+}
+
+TEST(WriteError, IsToldAsWhatItIs) {
+    const std::pair<int, StoreErrorCode> cases[]{{ENOSPC, StoreErrorCode::diskFull},
+                                                 {EDQUOT, StoreErrorCode::quotaReached},
+                                                 {EFBIG, StoreErrorCode::sizeLimit},
+                                                 {EACCES, StoreErrorCode::notWritable},
+                                                 {EIO, StoreErrorCode::writeFailed}};
+    for (const auto& [error, code] : cases)
+        EXPECT_EQ(writeError(error, u"x"_s).code, code) << error;
 }
 
 TEST_F(AtomicFileTest, DiskThatFillsUpLeavesTheFileAsItWas) {
@@ -62,7 +131,7 @@ TEST_F(AtomicFileTest, DiskThatFillsUpLeavesTheFileAsItWas) {
         const FullDisk full{limit};
         const auto result = replaceFile(path, QByteArray(100'000, 'x'));
         ASSERT_FALSE(result) << limit;
-        EXPECT_EQ(result.error().code, StoreErrorCode::writeFailed) << limit;
+        EXPECT_EQ(result.error().code, StoreErrorCode::sizeLimit) << limit;
     }
     EXPECT_EQ(readFile(path).value(), "one");
     EXPECT_EQ(filesInFolder(), 1);

@@ -1,6 +1,7 @@
 #include "store/DataStore.h"
 
 #include "store/AtomicFile.h"
+#include "store/FileLock.h"
 #include "store/XmlFile.h"
 #include "support/FullDisk.h"
 #include "support/LogOf.h"
@@ -9,11 +10,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace zel {
 namespace {
@@ -42,6 +44,10 @@ struct DataStoreTest : testing::Test {
     static void write(const QString& file, const QByteArray& content) {
         QDir{}.mkpath(QFileInfo{file}.path());
         ASSERT_TRUE(replaceFile(file, content));
+    }
+    /// With a patient A, and readings and comments that may be of others.
+    void dataFileOfA(const QByteArray& records) {
+        dataFile("<SystemSetting/><Patient><ID>A</ID></Patient>" + records);
     }
     void dataFile(const QByteArray& records) { write(path, "<ZEL>\n" + records + "</ZEL>\n"); }
     [[nodiscard]] QByteArray content() const { return readFile(path).value_or(QByteArray{}); }
@@ -178,8 +184,9 @@ TEST_F(DataStoreTest, DeletingAPatientLeavesItsDownloadLog) {
 }
 
 TEST_F(DataStoreTest, DownloadNumbersStoresAndLogsOnlyWhatIsNew) {
-    dataFile("<SystemSetting/><MeasureRec><ID>A</ID><RecID>1000041</RecID></MeasureRec><MeasureRec><ID>B</"
-             "ID><RecID>7</RecID></MeasureRec>");
+    dataFileOfA(
+        "<Patient><ID>new</ID></Patient><MeasureRec own='1'><ID>A</ID><RecID>1000041</RecID>"
+        "<Erorr>3</Erorr><Own>x</Own></MeasureRec><MeasureRec><ID>B</ID><RecID>7</RecID></MeasureRec>");
     int chosen = 0;
     QObject::connect(&store, &DataStore::currentIDChanged, [&chosen] { ++chosen; });
     ASSERT_TRUE(store.load());
@@ -188,13 +195,14 @@ TEST_F(DataStoreTest, DownloadNumbersStoresAndLogsOnlyWhatIsNew) {
     EXPECT_EQ(chosen, 1);
     EXPECT_EQ(store.newDataTransfer({reading(120), reading(121), reading(120)}).value(),
               3U); // equal ones of one download are kept
-    EXPECT_EQ(
-        order(),
-        "SystemSetting: MeasureRec:A1000041 MeasureRec:A1000042 MeasureRec:A1000043 MeasureRec:A1000044 "
-        "MeasureRec:B7 DataTransferLog:A100001");
+    EXPECT_EQ(order(), "SystemSetting: Patient:A Patient:new MeasureRec:A1000041 MeasureRec:A1000042 "
+                       "MeasureRec:A1000043 MeasureRec:A1000044 "
+                       "MeasureRec:B7 DataTransferLog:A100001");
     ASSERT_EQ(store.getReadingForCurID().size(), 4U);
-    EXPECT_TRUE(
-        store.getReadingForCurID()[2].isSame(reading(121))); // the copied element had no children of its own
+    EXPECT_TRUE(store.getReadingForCurID()[2].isSame(reading(121)));
+    EXPECT_EQ(content().count("<Error />"), 3);
+    for (const char* own : {" own=", "<Erorr>", "<Own>"})
+        EXPECT_EQ(content().count(own), 1) << "not the new ones': " << own;
     const auto& log = store.getTrasferLogForCurID().at(0);
     EXPECT_EQ(log.numofRecord, 3U);
     EXPECT_EQ(log.transferDate, std::chrono::floor<std::chrono::seconds>(clock.now()));
@@ -210,7 +218,7 @@ TEST_F(DataStoreTest, DownloadNumbersStoresAndLogsOnlyWhatIsNew) {
 }
 
 TEST_F(DataStoreTest, DownloadSeesWhatAnotherProgramStored) {
-    dataFile("<SystemSetting/>");
+    dataFileOfA("");
     ASSERT_TRUE(store.load());
     DataStore other{{home.path(), program.path(), program.path()}, clock};
     ASSERT_TRUE(other.load());
@@ -223,8 +231,8 @@ TEST_F(DataStoreTest, DownloadSeesWhatAnotherProgramStored) {
 }
 
 TEST_F(DataStoreTest, CommentsAreAddedChangedAndRemoved) {
-    dataFile("<SystemSetting/><MeasureRec><ID>A</ID><RecID>1</RecID><ReadingDate>2019-03-22T08:00:00+01:00</"
-             "ReadingDate></MeasureRec>");
+    dataFileOfA("<MeasureRec><ID>A</ID><RecID>1</RecID><ReadingDate>2019-03-22T08:00:00+01:00</ReadingDate>"
+                "</MeasureRec>");
     ASSERT_TRUE(store.load());
     store.setCurrentID(u"A"_s);
     CommentModel comment;
@@ -242,23 +250,23 @@ TEST_F(DataStoreTest, CommentsAreAddedChangedAndRemoved) {
     EXPECT_EQ(store.getSelectedComment()->comment, u"second"_s);
     comment.CommentID = u"10002"_s; // not in the file yet
     ASSERT_TRUE(store.saveCommentToXML(comment));
-    EXPECT_EQ(order(), "SystemSetting: MeasureRec:A1 Comment:A10001 Comment:A10002");
+    EXPECT_EQ(order(), "SystemSetting: Patient:A MeasureRec:A1 Comment:A10001 Comment:A10002");
     ASSERT_TRUE(store.deleteSelectedCommentToXML());
-    EXPECT_EQ(order(), "SystemSetting: MeasureRec:A1 Comment:A10002");
+    EXPECT_EQ(order(), "SystemSetting: Patient:A MeasureRec:A1 Comment:A10002");
     comment.CommentID = u"10001"_s;
     ASSERT_TRUE(store.saveCommentToXML(comment));
     EXPECT_EQ(store.getSelectedComment(), nullptr) << "nor is a later one of that number";
 }
 
 TEST_F(DataStoreTest, FailedWriteStoresNothingAndSaysSo) {
-    dataFile("<SystemSetting/>");
+    dataFileOfA("");
     ASSERT_TRUE(store.load());
     EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::invalidRecord); // nobody's
     store.setCurrentID(u"A"_s);
     const QByteArray before = content();
     {
         const FullDisk full{static_cast<rlim_t>(before.size() + 100)};
-        EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::writeFailed);
+        EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::sizeLimit);
     }
     EXPECT_EQ(content(), before);
     EXPECT_EQ(store.newDataTransfer({reading(120)}).value(), 1U);
@@ -267,20 +275,85 @@ TEST_F(DataStoreTest, FailedWriteStoresNothingAndSaysSo) {
 TEST_F(DataStoreTest, WaitsItsTurnWhileAnotherProgramHoldsTheFile) {
     dataFile("<SystemSetting/>");
     const QByteArray before = content();
-    QLockFile other{path + u".lock"_s};
-    ASSERT_TRUE(other.tryLock(0));
-    EXPECT_EQ(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)).error().code, StoreErrorCode::busy);
-    EXPECT_EQ(std::chrono::floor<std::chrono::seconds>(clock.slept()), std::chrono::seconds{3});
-    EXPECT_EQ(content(), before);
-    other.unlock();
+    {
+        FileLock other{path};
+        QFile::setPermissions(path, QFile::permissions(path) | QFileDevice::ReadGroup);
+        ASSERT_EQ(other.tryTake(), FileLock::Attempt::taken);
+        EXPECT_TRUE(QFile::permissions(other.path()) & QFileDevice::ReadGroup) << "others can wait for it";
+        // However long it is at work.
+        std::filesystem::last_write_time(other.path().toStdString(), std::filesystem::file_time_type::min());
+        EXPECT_EQ(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)).error().code, StoreErrorCode::busy);
+        EXPECT_EQ(std::chrono::floor<std::chrono::seconds>(clock.slept()), std::chrono::seconds{3});
+        EXPECT_EQ(content(), before);
+    }
     EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
 }
 
+TEST_F(DataStoreTest, WhatCouldNotBeReadAgainNeverTakesTheFilesPlace) {
+    dataFile("<SystemSetting/>");
+    const QByteArray before = content();
+    const DataFile file{{home.path(), program.path(), program.path()}, clock};
+    const std::function<void(pugi::xml_node)> spoilings[]{
+        [](pugi::xml_node root) { root.append_attribute("a").set_value("\x01"); },
+        [](pugi::xml_node root) { root.append_child("not a name"); },
+        [](pugi::xml_node root) {
+            for (int level = 0; level < 100; ++level)
+                root = root.append_child("a");
+        }};
+    for (const auto& spoil : spoilings) {
+        const StoreResult result = file.edit([&spoil](pugi::xml_node root) {
+            spoil(root);
+            return DataFile::Edit::changed;
+        });
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().code, StoreErrorCode::unreadable);
+        EXPECT_EQ(content(), before);
+    }
+}
+
+TEST_F(DataStoreTest, HomesThatShareOneFileByALinkTakeTurns) {
+    dataFile("<SystemSetting/>");
+    const QTemporaryDir otherHome;
+    const QString otherPath = otherHome.filePath(u"Library/Application Support/ZELMac/ZEL.xml"_s);
+    QDir{}.mkpath(QFileInfo{otherPath}.path());
+    ASSERT_TRUE(QFile::link(path, otherPath));
+    ManualClock otherClock;
+    const DataFile own{{home.path(), program.path(), program.path()}, clock};
+    const DataFile linked{{otherHome.path(), program.path(), program.path()}, otherClock};
+    const StoreResult done = own.edit([&](pugi::xml_node) {
+        const auto change = [](pugi::xml_node) { return DataFile::Edit::changed; };
+        const StoreResult second = linked.edit(change);
+        EXPECT_TRUE(!second && second.error().code == StoreErrorCode::busy);
+        return DataFile::Edit::unchanged;
+    });
+    EXPECT_TRUE(done);
+}
+
+TEST_F(DataStoreTest, WhatKilledProgramsLeftHoldsNobodyUp) {
+    const QString lock = path + u".lock"_s;
+    const QString temporary = QFileInfo{path}.path() + u"/.ZEL.xml.new-abcdef"_s;
+    dataFile("<SystemSetting/>");
+    write(temporary, "half a file");
+    ASSERT_TRUE(store.load());
+    EXPECT_FALSE(QFileInfo::exists(temporary));
+    write(lock, "");
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+    ASSERT_TRUE(QDir{}.mkdir(lock));
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"B"_s, u"Baker"_s)));
+    EXPECT_FALSE(QFileInfo::exists(lock));
+    ASSERT_TRUE(QDir{}.mkpath(lock + u"/own"_s));
+    const StoreResult blocked = store.saveXMLPatient(patient(u"C"_s, u"Clark"_s));
+    ASSERT_FALSE(blocked);
+    EXPECT_EQ(blocked.error(), (StoreError{StoreErrorCode::lockBlocked, lock, {}}));
+    EXPECT_EQ(clock.slept(), std::chrono::seconds{0}) << "nobody has waited";
+}
+
 TEST_F(DataStoreTest, NumbersOfRecordsWithoutAPatientAreTakenToo) {
-    dataFile("<SystemSetting/><Comment><CommentID>10001</CommentID><Comment>orphan</Comment></Comment>"
-             "<Comment><ID>A</ID><CommentID>99999999999999999999</CommentID></Comment><?Comment instruction?>"
-             "<MeasureRec><ID>A</ID><RecID>1000050</RecID></MeasureRec><MeasureRec><RecID>1000007</RecID></"
-             "MeasureRec>");
+    dataFileOfA(
+        "<Comment><CommentID>10001</CommentID><Comment>orphan</Comment></Comment>"
+        "<Comment><ID>A</ID><CommentID>99999999999999999999</CommentID></Comment><?Comment instruction?>"
+        "<MeasureRec><ID>A</ID><RecID>1000050</RecID></MeasureRec><MeasureRec><RecID>1000007</RecID></"
+        "MeasureRec>");
     ASSERT_TRUE(store.load());
     store.setCurrentID(u"A"_s);
     EXPECT_EQ(store.getMaxID(DataStore::Counter::comment), u"10002"_s);
@@ -332,6 +405,7 @@ TEST_F(DataStoreTest, LogsItsStepsInTheSameWordsAsEver) {
          "<DataTransferLog/>",
          [&] {
              std::ignore = store.loadXML();
+             store.setCurrentID(u"A"_s);
              store.setSelectedComment(u"9"_s);
          },
          "~/ZEL.xml  file  does  exists|xml data loaded from filepath:~/ZEL.xml|"
@@ -343,15 +417,15 @@ TEST_F(DataStoreTest, LogsItsStepsInTheSameWordsAsEver) {
          "?ID A|?comment period 2019/03/22 2019/03/23|"
          "?readingModel comment:ill  date:2019/03/22 08:00 begin:YES end:NO|"
          "?isSelected FALSE|?isSelected YES"},
-        {"a download", "<SystemSetting/>",
+        {"a download", "<SystemSetting/><Patient><ID>A</ID></Patient>",
          [&] {
              store.setCurrentID(u"A"_s);
              std::ignore = store.newDataTransfer({reading(120)});
          },
-         "xml data loaded from filepath:~/ZEL.xml|?itemNodes = 0|reading itemNodes count = 0|"
+         "xml data loaded from filepath:~/ZEL.xml|?itemNodes = 1|reading itemNodes count = 0|"
          "add new reading......|write document out...|~/ZEL.xml  file  does  exists|"
          "xml data loaded from filepath:~/ZEL.xml|?new Mutable Array data log for ID A|"
-         "?new Mutable Array reading for ID A |?itemNodes = 0|reading itemNodes count = 1|?ID A|"
+         "?new Mutable Array reading for ID A |?itemNodes = 1|reading itemNodes count = 1|?ID A|"
          "?isSelected FALSE|add new reading......1|add new reading......2"},
         {"nobody to delete", "<SystemSetting/>", [&] { std::ignore = store.deleteXMLPatient(u"A"_s); },
          "xml data loaded from filepath:~/ZEL.xml|?delete node ID:A error, no node found = |"
@@ -362,9 +436,9 @@ TEST_F(DataStoreTest, LogsItsStepsInTheSameWordsAsEver) {
              comment.CommentID = u"7"_s;
              std::ignore = store.saveCommentToXML(comment);
          },
-         "xml data loaded from filepath:~/ZEL.xml|?nodesForXPath failed 7|write document out...|"
-         "~/ZEL.xml  file  does  exists|xml data loaded from filepath:~/ZEL.xml|"
-         "!error: add comment for empty ID|?itemNodes = 0|reading itemNodes count = 0|?isSelected FALSE"},
+         "xml data loaded from filepath:~/ZEL.xml|?nodesForXPath failed 7|"
+         "~/ZEL.xml  file  does  exists|xml data loaded from filepath:~/ZEL.xml|?itemNodes = 0|reading "
+         "itemNodes count = 0|?isSelected FALSE"},
         {"a damaged file", "<",
          [&] {
              std::ignore = store.loadXML();
@@ -375,7 +449,8 @@ TEST_F(DataStoreTest, LogsItsStepsInTheSameWordsAsEver) {
          },
          "~/ZEL.xml  file  does  exists|!nodesForXPath failed XmlErrorNearLine|"
          "!_export  create xml doc failed|?load xml for ~/ZEL.xml error|!_export  create xml doc failed|"
-         "?itemNodes = 1|!Could not write document out...|!import  create xml doc failed"},
+         "?itemNodes = 1|~/ZEL.xml  file  does  exists|!nodesForXPath failed XmlErrorNearLine|!Could not "
+         "write document out...|!import  create xml doc failed"},
         {"an export, a second one to the same place, and a folder that goes", "<Patient><ID>A</ID></Patient>",
          [&] {
              QDir folder{home.filePath(u"out"_s)};

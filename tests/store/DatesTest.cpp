@@ -1,22 +1,13 @@
 #include "store/XmlDate.h"
+#include "support/InZone.h"
 
 #include <gtest/gtest.h>
-#include <unicode/timezone.h>
 
 namespace zel {
 namespace {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-/// The computer's time zone for the length of a test.
-class InZone {
-public:
-    explicit InZone(const char* name) { icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(name)); }
-    ~InZone() { icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone("Europe/Berlin")); }
-    InZone(const InZone&) = delete;
-    InZone& operator=(const InZone&) = delete;
-};
 
 Instant local(const QString& text) { return StrToDate(text, u"yyyy-MM-dd HH:mm:ss"_s).value(); }
 
@@ -42,6 +33,13 @@ TEST(Dates, ReadTheFilesForm) {
              XmlDateCase{"2019-03-22", ""},
              XmlDateCase{"", ""},
              XmlDateCase{":", ""},
+             XmlDateCase{"2019-03-22T14:05:00.5+08:00", "2019-03-22 06:05:00.500"},
+             // Dozens of digits once ended the program inside ICU.
+             XmlDateCase{"2019-03-22T14:05:00.12345678901234567890123456789012345+08:00",
+                         "2019-03-22 06:05:00.123"},
+             XmlDateCase{"2019-03-22T14:05:00000000000000000000000000000000000000.000+08:00", ""},
+             XmlDateCase{"99999999999999999-03-22T14:05:00+08:00", ""},
+             XmlDateCase{"99999-03-22T14:05:00+08:00", ""},
          }) {
         const Date date = XMLStrToDate(text);
         EXPECT_EQ(date ? DateToStr_EN(date, u"yyyy-MM-dd HH:mm:ss.SSS"_s).toStdString() : "", utc) << text;
@@ -87,6 +85,13 @@ TEST(Dates, UndatedIsTheWholeFirstDayOf2000) {
     EXPECT_TRUE(isNilReadingDate(local(u"2000-01-01 23:59:59"_s)));
     EXPECT_FALSE(isNilReadingDate(local(u"2000-01-02 00:00:00"_s)));
     EXPECT_FALSE(isNilReadingDate(local(u"1999-12-31 23:59:59"_s)));
+}
+
+TEST(Dates, LongTextsAreNoDates) {
+    const std::string digits(10'000'000, '1');
+    EXPECT_FALSE(XMLStrToDate("2019-03-22T14:05:00." + digits + "+08:00"));
+    EXPECT_FALSE(StrToDate(QString::fromStdString(digits), u"SSS"_s));
+    EXPECT_FALSE(StrToDate(u"1234567890123456789012345678901234567890"_s, u"SSS"_s));
 }
 
 TEST(Dates, PatternsMustMatchWhole) {

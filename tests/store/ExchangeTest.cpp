@@ -142,14 +142,24 @@ TEST_F(ExchangeTest, DamagedDataFileIsNotExported) {
 TEST(ExportFileName, StaysInTheFolderAndIsNeverAnothersName) {
     const QString widest = QString{251, u'a'};
     const std::pair<QString, QString> cases[] = {
-        {u"DEMO 1"_s, u"DEMO 1.xml"_s}, {u"Jörg 😀"_s, u"Jörg 😀.xml"_s},
-        {u".a"_s, u".a.xml"_s},         {u"."_s, u"%2E.xml"_s},
-        {u".."_s, u"%2E%2E.xml"_s},     {u"..."_s, u"....xml"_s},
-        {u"/"_s, u"%2F.xml"_s},         {u"../../x"_s, u"..%2F..%2Fx.xml"_s},
-        {u"%2F"_s, u"%252F.xml"_s},     {u"100%"_s, u"100%.xml"_s},
-        {u"%/"_s, u"%%2F.xml"_s},       {u"%~1"_s, u"%25~1.xml"_s},
-        {u"a\nb"_s, u"a%0Ab.xml"_s},    {QString{QChar{0}}, u"%00.xml"_s},
-        {QString{}, u"%.xml"_s},        {widest, widest + u".xml"_s},
+        {u"DEMO 1"_s, u"DEMO 1.xml"_s},
+        {u"Jörg 😀"_s, u"Jörg 😀.xml"_s},
+        {u".a"_s, u"%2Ea.xml"_s},
+        {u"."_s, u"%2E.xml"_s},
+        {u".."_s, u"%2E..xml"_s},
+        {u"..."_s, u"%2E...xml"_s},
+        {u"/"_s, u"%2F.xml"_s},
+        {u"../../x"_s, u"%2E.%2F..%2Fx.xml"_s},
+        {u"%2F"_s, u"%252F.xml"_s},
+        {u"100%"_s, u"100%.xml"_s},
+        {u"%/"_s, u"%%2F.xml"_s},
+        {u"%~1"_s, u"%25~1.xml"_s},
+        {u"a\nb"_s, u"a%0Ab.xml"_s},
+        {QString{QChar{0}}, u"%00.xml"_s},
+        {u"a.:*?\"<>|\\"_s, u"a.%3A%2A%3F%22%3C%3E%7C%5C.xml"_s},
+        {u"%2E"_s, u"%252E.xml"_s},
+        {QString{}, u"%.xml"_s},
+        {widest, widest + u".xml"_s},
     };
     for (const auto& [ID, name] : cases)
         EXPECT_EQ(exportFileName(ID, u".xml"_s), name);
@@ -229,8 +239,8 @@ TEST_F(ExchangeTest, FailedExportLeavesNothingBehind) {
     EXPECT_FALSE(exportXml(u"B2"_s, Replace::yes));
     {
         const FullDisk disk{100};
-        EXPECT_EQ(exportXml(u"A1"_s).error().code, Code::writeFailed);
-        EXPECT_EQ(store.exportCSV(out.path(), u"A1"_s, Replace::no).error().code, Code::writeFailed);
+        EXPECT_EQ(exportXml(u"A1"_s).error().code, Code::sizeLimit);
+        EXPECT_EQ(store.exportCSV(out.path(), u"A1"_s, Replace::no).error().code, Code::sizeLimit);
     }
     EXPECT_EQ(QDir{out.path()}.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{u"B2.xml"_s});
@@ -347,6 +357,13 @@ TEST_F(ExchangeTest, RefusedImportChangesNothing) {
         {"<ZEL><MeasureRec><ID>N</ID></MeasureRec></ZEL>", Refusal::noPatient},
         {"<ZEL><Patient><ID>N</ID></Patient><Patient/></ZEL>", Refusal::noID},
         {"<ZEL><Patient><ID>-</ID></Patient></ZEL>", Refusal::noID},
+        {"<ZEL><Patient><ID> \n </ID></Patient></ZEL>", Refusal::noID},
+        {"<ZEL><Patient><ID>N\nM</ID></Patient></ZEL>", Refusal::badID, u"N M"_s},
+        {"<ZEL><Patient><ID>N</ID></Patient><MeasureRec><ID>N\tM</ID></MeasureRec></ZEL>", Refusal::badID,
+         u"N M"_s},
+        {"<ZEL><Patient><ID> A1\n</ID></Patient></ZEL>", Refusal::alreadyKnown, u"A1"_s},
+        {"<ZEL><Patient><ID>N</ID></Patient><Patient><ID>N </ID></Patient></ZEL>", Refusal::sameIDTwice,
+         u"N"_s},
         {"<ZEL><Patient><ID>N</ID></Patient>", Refusal::notReadable},
         {"<OTHER><Patient><ID>N</ID></Patient></OTHER>", Refusal::notReadable},
         {"<!DOCTYPE ZEL [<!ENTITY e SYSTEM 'ZEL.xml'>]><ZEL><Patient><ID>&e;</ID></Patient></ZEL>",
@@ -367,7 +384,7 @@ TEST_F(ExchangeTest, RefusedImportChangesNothing) {
     QFile large{out.filePath(u"large.xml"_s)};
     ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(largestImport + 1));
     EXPECT_EQ(store.importXml(large.fileName()).error().code, Refusal::tooLarge);
-    EXPECT_FALSE(XmlFile::read(large.fileName()).isRead());
+    EXPECT_TRUE(XmlFile::read(large.fileName()).isLarge);
 
     const QString good = importFile("<ZEL><Patient><ID>N</ID></Patient></ZEL>");
     {

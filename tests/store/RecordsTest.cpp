@@ -221,6 +221,27 @@ TEST(Records, CommentsAndDownloadsAreLinkedByDay) {
     EXPECT_EQ(records.mdReading.at(u"B"_s).front().comment, nullptr);
 }
 
+/// Looked at pair by pair, these would be ten thousand million: minutes.
+TEST(Records, ManyCommentsOverManyReadingsOfOneDayAreLinkedInTime) {
+    ReadingList readings(100'000);
+    for (ReadingModel& reading : readings)
+        reading.day = 100;
+    CommentList comments;
+    DataLogList downloads(100'000);
+    for (DataTransferLogModel& download : downloads) {
+        download.transferDay = 100;
+        auto comment = std::make_unique<CommentModel>();
+        comment->beginDay = 99;
+        comment->endDay = 101;
+        comments.push_back(std::move(comment));
+    }
+    setCommentInReading(comments, readings);
+    setDataLogInReading(downloads, readings);
+    EXPECT_EQ(readings.front().comment, comments.back().get());
+    EXPECT_EQ(readings.back().comment, comments.back().get());
+    EXPECT_TRUE(readings.front().bAtBegin && readings.back().bAtEnd && readings.back().bYellowBackground);
+}
+
 TEST(Records, PatientsAreSortedByNameInAnyCaseAndThenByID) {
     const auto document = XmlDocument::parse(
         "<ZEL><Patient><ID>3</ID><FamilyName>abel</FamilyName></Patient><Patient><ID>1</ID><FamilyName>Bert"

@@ -1,5 +1,7 @@
 #include "store/SettingKeys.h"
 
+#include "store/PressureLimits.h"
+
 #include <gtest/gtest.h>
 
 namespace zel {
@@ -20,8 +22,10 @@ TEST(SettingKeys, TakeWhatAControlCouldStore) {
         {"EraseRecAfterReading", {u"0"_s, u"1"_s}, {u"2"_s, u"-1"_s, u"yes"_s, u""_s}},
         {"ShowPPorMap", {u"0"_s, u"1"_s}, {u"2"_s}},
         {"UserWhoStandard", {u"0"_s, u"1"_s}, {u"2"_s}},
-        {"SysStandard", {u"0"_s, u"999"_s}, {u"1000"_s, u"-1"_s, u"+1"_s, u" 1"_s, u"1.5"_s, u"١"_s, u""_s}},
-        {"DiaStandard", {u"0"_s, u"999"_s}, {u"1000"_s, u"9 9"_s}},
+        {"SysStandard",
+         {u"0"_s, u"60"_s, u"260"_s},
+         {u"59"_s, u"261"_s, u"1000"_s, u"-1"_s, u"+90"_s, u" 90"_s, u"90.5"_s, u"٩٩"_s, u""_s}},
+        {"DiaStandard", {u"0"_s, u"30"_s, u"160"_s}, {u"29"_s, u"161"_s, u"9 9"_s}},
         {"PhysicianAddress", {u""_s, u" Dr. A\n\tB \"C\" 😀\n"_s}, {u"a\rb"_s, u"a\x1B[m"_s}},
     };
     ASSERT_EQ(settingKeys().size(), std::size(cases));
@@ -40,6 +44,26 @@ TEST(SettingKeys, TakeWhatAControlCouldStore) {
         EXPECT_EQ(setting, before);
     }
     EXPECT_FALSE(settingKey(u"dateFormat"_s));
+}
+
+TEST(PressureLimits, OneIsJudgedBesideTheOther) {
+    struct Case {
+        std::uint32_t systolic, diastolic;
+        std::optional<LimitProblem> problem;
+    };
+    for (const Case& one : {Case{140, 90, {}},
+                            {0, 0, {}},
+                            {0, 160, {}},
+                            {60, 0, {}},
+                            {91, 90, {}},
+                            {90, 90, LimitProblem::order},
+                            {80, 90, LimitProblem::order},
+                            {59, 90, LimitProblem::systolic},
+                            {999, 999, LimitProblem::systolic},
+                            {0, 29, LimitProblem::diastolic},
+                            {260, 161, LimitProblem::diastolic}})
+        EXPECT_EQ(limitProblem(one.systolic, one.diastolic), one.problem)
+            << one.systolic << '/' << one.diastolic;
 }
 
 } // namespace

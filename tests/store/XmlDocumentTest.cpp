@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 namespace zel {
@@ -42,6 +43,19 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
                                 "B"),
              spoiled("A&amp;B", "A\xC3"),
              spoiled("A&amp;B", std::string{"A\0B", 3}),
+             spoiled("A&amp;B", "A\x01"
+                                "B"),
+             spoiled("a & b", "a\x1F"
+                              "b"),
+             spoiled("version=\"1.0\"", "version=\"\x01\""),
+             spoiled("A&amp;B", "A\xEF\xBF\xBE"
+                                "B"),
+             spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"US-ASCII<\""),
+             spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"ISO-8859-1&amp;\""),
+             spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"ISO-8859-1,swaplfnl\""),
+             good + "x",
+             good.substr(0, good.size() - 2),
+             std::string{"<ZEL/>x"},
              "<!DOCTYPE ZEL [<!ENTITY e \"x\">]>" + spoiled("A&amp;B", "&e;").substr(22),
              spoiled("A&amp;B", "A&#0;B"),
              spoiled("A&amp;B", "A&#xD800;B"),
@@ -84,6 +98,56 @@ TEST(XmlDocument, ChangedTextReplacesAllPiecesAndKeepsWhatIsBetween) {
     EXPECT_TRUE(saved->root().child("A").child("B"));
     EXPECT_EQ(elementText(saved->root().child("C")), u""_s);
     EXPECT_EQ(elementText(saved->root().child("D")), u"]]>\r\n\r"_s);
+}
+
+/// Whatever is taken is written in a form that is taken, and is not changed by another round.
+TEST(XmlDocument, WhatIsTakenIsWrittenSoThatItIsTakenAgain) {
+    const std::string kinds =
+        "<?xml version='1.0' encoding='utf-8'?><!DOCTYPE ZEL><!-- c --><ZEL a='1' b=\"&lt;\">"
+        "one<![CDATA[<two>&]]>three&amp;<A> \r\n </A><B>\xC3\xA4&#13;</B><?pi x?></ZEL>";
+    const std::string signs = "<>&;'\"=?!-/[] xA9#\r\n\t\x01\x7F\xC3\xEF";
+    std::minstd_rand random{7};
+    const auto below = [&random](std::size_t end) { return random() % end; };
+    int taken = 0;
+    for (int round = 0; round < 20'000; ++round) {
+        std::string text = round % 2 == 0 ? kinds : good;
+        for (std::size_t change = below(4); change > 0; --change) {
+            const std::size_t at = below(text.size());
+            if (below(2) == 0)
+                text[at] = signs[below(signs.size())];
+            else
+                text.insert(at, text.substr(below(text.size()), below(30)));
+        }
+        const auto document = XmlDocument::parse(QByteArray::fromStdString(text));
+        const auto written = document ? document->serialise() : tl::unexpected{QString{}};
+        if (!written) continue;
+        ++taken;
+        const auto again = XmlDocument::parse(*written);
+        ASSERT_TRUE(again) << text << "\nis written as\n" << written->toStdString();
+        ASSERT_EQ(again->serialise().value(), *written) << text;
+    }
+    EXPECT_GT(taken, 2000) << "enough of them to mean something";
+}
+
+TEST(XmlDocument, TextBesideCdataIsKept) {
+    const QByteArray text = "<ZEL>\n    <A>one<![CDATA[<two>]]>three</A>\n    <B>4</B>\n</ZEL>\n";
+    EXPECT_EQ(XmlDocument::parse(text)->serialise().value(), text);
+}
+
+/// Each of these few megabytes took seconds, gigabytes or the program's stack.
+TEST(XmlDocument, RefusesWhatWouldTakeTooMuch) {
+    const auto levels = [](qsizetype count) {
+        return "<ZEL>" + QByteArray{"<a>"}.repeated(count) + QByteArray{"</a>"}.repeated(count) + "</ZEL>";
+    };
+    EXPECT_TRUE(XmlDocument::parse(levels(99)));
+    EXPECT_FALSE(XmlDocument::parse(levels(100)));
+    EXPECT_FALSE(XmlDocument::parse(levels(200'000)));
+    EXPECT_FALSE(XmlDocument::parse("<ZEL>" + QByteArray{"<a/>"}.repeated(10'000'000) + "</ZEL>"));
+    QByteArray element = "<ZEL";
+    for (int i = 0; i < 100'000; ++i)
+        element += " a" + QByteArray::number(i) + "=''";
+    EXPECT_TRUE(XmlDocument::parse(element + "/>")) << "many, but each once; compared in linear time";
+    EXPECT_FALSE(XmlDocument::parse(element + " a0=''/>"));
 }
 
 struct EncodingCase {

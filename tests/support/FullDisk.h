@@ -1,15 +1,13 @@
 #pragma once
 
-#include <csignal>
 #include <sys/resource.h>
 
 namespace zel {
 
-/// While it lives, no file of this process grows beyond so many bytes, as on a full disk.
+/// While it lives, no file of this process grows beyond so many bytes, much as on a full disk.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &before);
         const rlimit limit{bytes, before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);

@@ -1,5 +1,9 @@
 #include "support/MonitorTest.h"
 
+#include "monitor/MonitorFrames.h"
+
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -8,6 +12,35 @@ PortOpen PluggedPort::open() {
     ++opened;
     if (denied) return PortOpen::denied;
     return plugged ? device.open() : PortOpen::absent;
+}
+
+bool PluggedPort::write(std::span<const std::uint8_t> report) {
+    if (!plugged) return false;
+    const bool isFrame = report[0] == 0xFF;
+    if (isFrame && keepsNothing) return true;
+    const auto command = isFrame ? Command{} : static_cast<Command>(report[commandPreamble.size()]);
+    if (command == Command::records) ++recordsAsked;
+    if (command == Command::setDate && !keepsNothing) isClockUnset = false;
+    if (command != Command::date || !isClockUnset) return device.write(report);
+    std::string reply(dateReplyLength, '0');
+    const CheckField check = replyCheckField(reply);
+    reply.replace(dateReplyLength - checkFieldLength, checkFieldLength, {check.high, check.low});
+    reply.insert(reply.begin(), static_cast<char>(acknowledgement));
+    for (std::size_t i = 0; i < reply.size(); i += reportCapacity) {
+        const std::string part = reply.substr(i, reportCapacity);
+        unsetClock.emplace_back(Report{static_cast<std::uint8_t>(part.size())});
+        unsetClock.back().insert(unsetClock.back().end(), part.begin(), part.end());
+    }
+    return true;
+}
+
+int PluggedPort::read(std::span<std::uint8_t> report) {
+    if (!plugged) return -1;
+    if (unsetClock.empty()) return device.read(report);
+    const Report next = std::move(unsetClock.front());
+    unsetClock.pop_front();
+    std::ranges::copy(next, report.begin());
+    return static_cast<int>(next.size());
 }
 
 MonitorTest::MonitorTest() {

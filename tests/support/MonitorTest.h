@@ -6,26 +6,32 @@
 #include "monitor/SimulatedMonitorPlan.h"
 #include "support/WidgetTest.h"
 
+#include <deque>
 #include <string>
 #include <vector>
 
 namespace zel {
 
-/// A monitor that can be plugged in and pulled out.
+/// A monitor that can be plugged in and pulled out, may lack a time, and may keep nothing of what it
+/// acknowledges.
 class PluggedPort final : public MonitorPort {
 public:
     explicit PluggedPort(MonitorPort& monitor) : device(monitor) {}
     PortOpen open() override;
     bool isOpen() const override { return device.isOpen(); }
     bool disconnected() const override { return !plugged || device.disconnected(); }
-    bool write(std::span<const std::uint8_t> report) override { return plugged && device.write(report); }
-    int read(std::span<std::uint8_t> report) override { return plugged ? device.read(report) : -1; }
+    bool write(std::span<const std::uint8_t> report) override;
+    int read(std::span<std::uint8_t> report) override;
     std::atomic<bool> plugged = true;
     std::atomic<bool> denied = false;
     std::atomic<int> opened = 0;
+    std::atomic<int> recordsAsked = 0;
+    std::atomic<bool> isClockUnset = false; ///< until it is set
+    std::atomic<bool> keepsNothing = false; ///< of ID, clock and erasing
 
 private:
     MonitorPort& device;
+    std::deque<Report> unsetClock; ///< that answer's reports
 };
 
 /// Widgets that talk to a monitor, which is attached as the plan says.

@@ -6,6 +6,8 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace zel {
 
@@ -16,14 +18,29 @@ public:
         messages += title + QStringLiteral(": ") + text;
         whenShown();
     }
-    bool AskMessage(const QString&, const QString& title) override {
+    bool AskMessage(const QString& text, const QString& title) override {
         questions += title;
+        asked = text;
         whenAsked();
         return answers.value(title, true);
     }
+    KeepAnswer AskToKeep(const QString& text, const QString& title) override {
+        questions += title;
+        asked = text;
+        whenAsked();
+        return keepAnswer;
+    }
+    void interject(QObject* context, std::function<void()> speak) override {
+        if (!isTyping) return MessagePanel::interject(context, std::move(speak));
+        heldBack.push_back(std::move(speak));
+    }
 
     QStringList messages;
-    QStringList questions;        ///< titles only
+    QStringList questions; ///< titles only
+    QString asked;         ///< the text of the last one
+    KeepAnswer keepAnswer = KeepAnswer::keep;
+    bool isTyping = false; ///< what comes by itself is held back
+    std::vector<std::function<void()>> heldBack;
     QHash<QString, bool> answers; ///< by title; yes when not told
     std::function<void()> whenAsked = [] {};
     std::function<void()> whenShown = [] {};

@@ -21,6 +21,7 @@ class TestClock final : public Clock {
 public:
     [[nodiscard]] WallTime now() const override { return manual.now(); }
     void sleep(std::chrono::microseconds duration) override;
+    void advance(std::chrono::microseconds step) { manual.advance(step); }
     std::atomic<bool> stands = false;
 
 private:

@@ -7,7 +7,7 @@ import re
 import sys
 
 BELOW = ("store", "monitor", "analysis", "chart", "report")
-PAGE = ("store", "analysis", "chart", "app/widgets", "app/device", "app/frame")
+PAGE = ("store", "analysis", "chart", "app/widgets", "app/frame")
 PAGES = ("app/patients", "app/table", "app/graph", "app/printing", "app/settings")
 
 # A room, or a wing of one (app/graph), and what its code may use beside its own.
@@ -21,10 +21,10 @@ DOORS = {
     "app/device": ("store", "monitor", "app/widgets"),
     "app/frame": ("store", "analysis", "chart", "app/widgets", "app/device"),
     "app/patients": ("store", "monitor", "app/widgets", "app/device"),
-    "app/table": PAGE,
+    "app/table": (*PAGE, "app/device"),
     "app/graph": PAGE,
     "app/printing": ("store", "analysis", "chart", "report", "app/widgets"),
-    "app/settings": ("store", "monitor", "app/widgets", "app/device"),
+    "app/settings": ("store", "app/widgets", "app/device"),
     "app/shell": (*BELOW, "app/widgets", "app/device", "app/frame", *PAGES),
     "cli": BELOW,
 }
@@ -34,7 +34,7 @@ WINGED = {room.split("/")[0] for room in DOORS if "/" in room}
 QT_MODULES = {
     "chart": ("Gui", "Svg"),
     "report": ("Gui",),
-    "app": ("Gui", "Widgets", "Svg"),
+    "app": ("Gui", "Widgets"),
     "app/printing": ("Gui", "Widgets", "PrintSupport"),
 }
 

@@ -28,6 +28,9 @@ struct MonitorState {
     bool isAFib = false;                      ///< the attached model reports atrial fibrillation
     std::optional<QString> IDOnDevice;        ///< once it was read; empty when the monitor holds none
     std::optional<std::int64_t> secondsAhead; ///< of the monitor's clock, against the computer's
+    bool isClockUnset = false;                ///< the monitor's clock shows no time at all
+    /// Queries in a row that an attached monitor left without a proper answer, 2 for more as well.
+    int unanswered = 0;
     MonitorActivity activity = MonitorActivity::none;
     MonitorResult trouble = MonitorResult::success; ///< what went wrong last and was not mended since
 
@@ -40,6 +43,9 @@ struct MonitorState {
 
 /// A clock that is this far off, or more, is worth a question.
 inline constexpr std::int64_t clockToleranceSeconds = 61;
+
+/// The state in a few words, for a line.
+[[nodiscard]] QString describeShortly(const MonitorState& state);
 
 /// The one place that knows the monitor's state; announces every change. Main thread only.
 class MonitorStatus final : public QObject {

@@ -1,5 +1,6 @@
 #include "app/device/MonitorWatch.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace zel {
@@ -12,10 +13,19 @@ struct MonitorWatch::Answer {
 
 namespace {
 
-/// Whole seconds by which the monitor's clock was ahead when it was asked.
-MonitorExpected<std::int64_t> readSecondsAhead(BPMModel& monitor, const Clock& clock) {
+/// Whole seconds by which the monitor's clock was ahead when it was asked; none when it is not set.
+MonitorExpected<std::optional<std::int64_t>> readSecondsAhead(BPMModel& monitor, const Clock& clock) {
     const auto asked = std::chrono::floor<std::chrono::seconds>(clock.now());
-    return monitor.readBPMDate().map([asked](Instant date) { return SecondDiff(asked, date); });
+    const auto date = monitor.readBPMDate();
+    if (date) return SecondDiff(asked, *date);
+    if (date.error() == MonitorResult::clockNotSet) return std::nullopt;
+    return tl::unexpected(date.error());
+}
+
+/// An attached monitor that gave no proper answer.
+bool isUnanswered(MonitorResult result) {
+    return result != MonitorResult::success && result != MonitorResult::noDevice
+           && result != MonitorResult::accessDenied && result != MonitorResult::interrupted;
 }
 
 } // namespace
@@ -49,11 +59,12 @@ void MonitorWatch::monitorAsked(const Answer& answer) {
         next.isConnected = answer.isConnected;
         next.isAFib = answer.isAFib;
         if (changed || !answer.isConnected) next.trouble = answer.result;
+        next.unanswered = isUnanswered(answer.result) ? std::min(2, next.unanswered + 1) : 0;
     });
     if (!answer.isConnected) {
         if (changed) emit setHWButtons(false);
         scheduleNext();
-    } else if (!IDAnnounced) {
+    } else if (!isGreeted) {
         greet([this] { scheduleNext(); });
     } else {
         checkHWSwitchUser();
@@ -61,16 +72,19 @@ void MonitorWatch::monitorAsked(const Answer& answer) {
 }
 
 void MonitorWatch::forgetMonitor() {
+    isGreeted = false;
     clockChecked = false;
     clockFailures = 0;
     IDAnnounced = false;
     parts.status.update([](MonitorState& next) {
         next.IDOnDevice.reset();
         next.secondsAhead.reset();
+        next.isClockUnset = false;
     });
 }
 
 void MonitorWatch::updateUI() {
+    isGreeted = false;
     clockChecked = false;
     clockFailures = 0;
     IDAnnounced = false;
@@ -78,8 +92,10 @@ void MonitorWatch::updateUI() {
     emit setHWButtons(false);
 }
 
-/// Does what a newly connected monitor still lacks; what fails is tried again in the next cycle.
+/// Does what is due for a newly connected monitor. What fails is tried again in the next cycles, behind the
+/// user's back: an ID that cannot be read must not keep him from sending another.
 void MonitorWatch::greet(const Step& next) {
+    isGreeted = true;
     setTrouble(MonitorResult::success);
     parts.status.setActivity(MonitorActivity::greeting);
     checkClock([this, next] { announceID(next); });
@@ -88,12 +104,13 @@ void MonitorWatch::greet(const Step& next) {
 void MonitorWatch::checkClock(const Step& next) {
     if (clockChecked) return next();
     const auto read = [&clock = parts.clock](BPMModel& monitor) { return readSecondsAhead(monitor, clock); };
-    parts.monitor.submit(this, read, [this, next](const MonitorExpected<std::int64_t>& secondsAhead) {
-        if (secondsAhead) return clockRead(*secondsAhead, next);
-        ++clockFailures;
-        setTrouble(secondsAhead.error());
-        next();
-    });
+    parts.monitor.submit(this, read,
+                         [this, next](const MonitorExpected<std::optional<std::int64_t>>& secondsAhead) {
+                             if (secondsAhead) return clockRead(*secondsAhead, next);
+                             ++clockFailures;
+                             setTrouble(secondsAhead.error());
+                             next();
+                         });
 }
 
 /// A clock that could not be read when the monitor came is tried a few times more, behind all that matters
@@ -108,37 +125,47 @@ void MonitorWatch::checkClockAgain(const Step& next) {
     });
 }
 
-void MonitorWatch::clockRead(std::int64_t secondsAhead, const Step& next) {
+void MonitorWatch::clockRead(std::optional<std::int64_t> secondsAhead, const Step& next) {
     clockChecked = true;
-    parts.status.update([=](MonitorState& state) { state.secondsAhead = secondsAhead; });
-    if (std::abs(secondsAhead) < clockToleranceSeconds
-        || !parts.panel.AskMessage(qtTrId("synctimeAsk").arg(describeClock(parts.status.state())),
-                                   qtTrId("Synchronization")))
-        return next();
+    parts.status.update([=](MonitorState& state) {
+        state.secondsAhead = secondsAhead;
+        state.isClockUnset = !secondsAhead;
+    });
+    if (secondsAhead && std::abs(*secondsAhead) < clockToleranceSeconds) return next();
+    parts.panel.interject(this, [this, next] {
+        const MonitorState& state = parts.status.state();
+        const QString question =
+            state.isClockUnset ? qtTrId("clockUnsetAsk") : qtTrId("synctimeAsk").arg(describeClock(state));
+        if (!parts.panel.AskMessage(question, qtTrId("Synchronization"))) return next();
+        putClockRight(next);
+    });
+}
+
+void MonitorWatch::putClockRight(const Step& next) {
     const auto set = [](BPMModel& monitor) { return monitor.setBPMDate(); };
     parts.monitor.submit(this, set, [this, next](MonitorResult result) {
         setTrouble(result);
-        if (result == MonitorResult::success)
-            parts.status.update([](MonitorState& state) { state.secondsAhead = 0; });
-        else
-            parts.panel.ShowMessage(qtTrId("clockNotSetAtGreeting").arg(describe(result)), qtTrId("Warning"));
-        next();
+        if (result == MonitorResult::success) {
+            parts.status.update([](MonitorState& state) {
+                state.secondsAhead = 0;
+                state.isClockUnset = false;
+            });
+            return next();
+        }
+        parts.panel.interject(this,
+                              [this, next, told = qtTrId("clockNotSetAtGreeting").arg(describe(result))] {
+                                  parts.panel.ShowMessage(told, qtTrId("Warning"));
+                                  next();
+                              });
     });
 }
 
 void MonitorWatch::announceID(const Step& next) {
-    if (IDAnnounced) {
-        parts.status.setActivity(MonitorActivity::none);
-        return next();
-    }
     const auto read = [](BPMModel& monitor) { return monitor.getBPMID(); };
     parts.monitor.submit(this, read, [this, next](const MonitorExpected<QString>& ID) {
-        IDAnnounced = ID.has_value();
         parts.status.setActivity(MonitorActivity::none);
-        if (ID)
-            showIDInfo(*ID, true, true);
-        else
-            setTrouble(ID.error());
+        if (ID) return showIDInfo(*ID, next);
+        setTrouble(ID.error());
         next();
     });
 }
@@ -147,21 +174,31 @@ void MonitorWatch::announceID(const Step& next) {
 void MonitorWatch::checkHWSwitchUser() {
     const auto read = [](BPMModel& monitor) { return monitor.getBPMID(); };
     parts.monitor.submit(this, read, [this](const MonitorExpected<QString>& ID) {
-        if (!parts.status.isBusy()) {
-            setTrouble(ID ? MonitorResult::success : ID.error());
-            if (ID && *ID != parts.status.state().IDOnDevice) showIDInfo(*ID, true, false);
-        }
-        checkClockAgain([this] { scheduleNext(); });
+        const Step next = [this] { checkClockAgain([this] { scheduleNext(); }); };
+        if (parts.status.isBusy()) return next();
+        setTrouble(ID ? MonitorResult::success : ID.error());
+        if (ID && !IDAnnounced) return showIDInfo(*ID, next);
+        if (ID && *ID != parts.status.state().IDOnDevice) takeOver(*ID);
+        next();
     });
 }
 
-void MonitorWatch::showIDInfo(const QString& ID, bool isHWExist, bool showDlg) {
-    parts.status.update([&](MonitorState& next) {
-        next.IDOnDevice = ID;
-        next.isConnected = isHWExist;
+void MonitorWatch::takeOver(const QString& ID) {
+    parts.status.update([&](MonitorState& next) { next.IDOnDevice = ID; });
+    emit setHWButtons(true);
+}
+
+void MonitorWatch::showIDInfo(const QString& ID, const Step& next) {
+    IDAnnounced = true;
+    takeOver(ID);
+    parts.panel.interject(this, [this, ID, next] {
+        // While it waited, the user may have begun what it would have told him to do.
+        if (!parts.status.isBusy() && parts.status.state().IDOnDevice == ID) tellID(ID);
+        next();
     });
-    emit setHWButtons(isHWExist);
-    if (!showDlg) return;
+}
+
+void MonitorWatch::tellID(const QString& ID) {
     if (parts.store.validIDinXML(ID))
         parts.panel.ShowMessage(qtTrId("monitorConnectedID").arg(ID), qtTrId("monitorConnected"));
     else if (ID.isEmpty())

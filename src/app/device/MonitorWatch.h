@@ -44,10 +44,14 @@ private:
     void greet(const Step& next);
     void checkClock(const Step& next);
     void checkClockAgain(const Step& next);
-    void clockRead(std::int64_t secondsAhead, const Step& next);
+    /// None for a clock that is not set.
+    void clockRead(std::optional<std::int64_t> secondsAhead, const Step& next);
+    void putClockRight(const Step& next);
     void announceID(const Step& next);
     void checkHWSwitchUser();
-    void showIDInfo(const QString& ID, bool isHWExist, bool showDlg);
+    void takeOver(const QString& ID);
+    void showIDInfo(const QString& ID, const Step& next);
+    void tellID(const QString& ID);
     void setTrouble(MonitorResult result);
     void scheduleNext() { timer.start(); }
 
@@ -55,6 +59,7 @@ private:
     QTimer timer;
     bool isSplashClosed = false;
     // Since the monitor was plugged in:
+    bool isGreeted = false;
     bool clockChecked = false;
     int clockFailures = 0;
     bool IDAnnounced = false;

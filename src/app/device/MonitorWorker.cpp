@@ -1,5 +1,7 @@
 #include "app/device/MonitorWorker.h"
 
+#include <QDeadlineTimer>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -10,7 +12,9 @@ MonitorWorker::MonitorWorker(MonitorPort& port, Clock& clock) : model(port, cloc
     thread.start();
 }
 
-MonitorWorker::~MonitorWorker() { stop(); }
+MonitorWorker::~MonitorWorker() {
+    if (!stop()) thread.wait();
+}
 
 void MonitorWorker::run(std::function<void()> work) {
     if (!stopped) jobs.post(std::move(work));
@@ -22,12 +26,12 @@ void MonitorWorker::hand(const QPointer<QObject>& context, std::function<void()>
     });
 }
 
-void MonitorWorker::stop() {
-    if (stopped) return;
+bool MonitorWorker::stop(std::chrono::milliseconds longest) {
+    if (stopped) return thread.isFinished();
     stopped = true;
     model.interrupt();
     thread.quit();
-    thread.wait();
+    return thread.wait(QDeadlineTimer(longest));
 }
 
 } // namespace zel

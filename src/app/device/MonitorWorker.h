@@ -35,7 +35,9 @@ public:
     void interrupt() { model.interrupt(); }
     void resume() { model.resume(); }
     /// Ends what is under way and joins the thread; later jobs are dropped.
-    void stop();
+    /// \return false when a device that blocks has held the thread for longer than this, and still does: it
+    /// then uses the port, and the destructor waits for it
+    bool stop(std::chrono::milliseconds longest = std::chrono::seconds{2});
 
 private:
     void run(std::function<void()> work);

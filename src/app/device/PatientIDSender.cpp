@@ -1,54 +1,93 @@
 #include "app/device/PatientIDSender.h"
 
+#include "app/widgets/PatientTexts.h"
+
 namespace zel {
 
-PatientIDSender::PatientIDSender(MonitorStatus& monitorStatus, MonitorWorker& monitorWorker,
-                                 MessagePanel& messagePanel, QObject* parent)
-    : QObject(parent), status(monitorStatus), monitor(monitorWorker), panel(messagePanel) {}
+namespace {
+
+std::optional<QString> known(const MonitorExpected<QString>& ID) {
+    return ID ? std::optional(*ID) : std::nullopt;
+}
+
+} // namespace
+
+PatientIDSender::PatientIDSender(const Parts& needed, QObject* parent) : QObject(parent), parts(needed) {}
 
 void PatientIDSender::sendID(const QString& ID) {
     if (!BPMModel::fitsMonitor(ID))
-        return panel.ShowMessage(qtTrId("IDNotForMonitor").arg(ID), qtTrId("Warning"));
+        return parts.panel.ShowMessage(qtTrId("IDNotForMonitor").arg(ID), qtTrId("Warning"));
     // Busy from the question on, so that nothing else is begun with the monitor behind it.
-    status.setActivity(MonitorActivity::asking);
-    if (!panel.AskMessage(qtTrId("confirmSendID").arg(ID), qtTrId("sendID")))
-        return status.setActivity(MonitorActivity::none);
-    status.setActivity(MonitorActivity::counting);
-    const auto count = [](BPMModel& model) { return model.getBPMCycleDataCount(); };
-    monitor.submit(this, count, [this, ID](const MonitorExpected<int>& readings) {
-        if (readings)
-            readingsCounted(ID, *readings);
-        else
-            giveUp(readings.error());
+    parts.status.setActivity(MonitorActivity::asking);
+    const QString question = qtTrId("confirmSendID").arg(ID, whose(parts.status.state().IDOnDevice));
+    if (!parts.panel.AskMessage(question, qtTrId("sendID")))
+        return parts.status.setActivity(MonitorActivity::none);
+    parts.status.setActivity(MonitorActivity::counting);
+    parts.monitor.submit(this, ask, [this, ID](const Holding& holding) { readingsCounted(ID, holding); });
+}
+
+PatientIDSender::Holding PatientIDSender::ask(BPMModel& monitor) {
+    return {monitor.getBPMID(), monitor.getBPMCycleDataCount()};
+}
+
+void PatientIDSender::readingsCounted(const QString& ID, const Holding& holding) {
+    if (!holding.readings) return giveUp(qtTrId("sendIDFailed").arg(describe(holding.readings.error())));
+    if (*holding.readings == 0) return write(ID, false);
+    // Counting takes a while, and nobody waits for it with his hands still.
+    parts.panel.interject(this, [this, ID, holding] { askForReadings(ID, holding); });
+}
+
+void PatientIDSender::askForReadings(const QString& ID, const Holding& holding) {
+    const QString question =
+        whose(known(holding.ID)) + u' ' + qtTrId("SendIDDataMsg", *holding.readings).arg(ID);
+    switch (parts.panel.AskToKeep(question, qtTrId("SendIDDataTitle"))) {
+    case KeepAnswer::keep: return write(ID, false);
+    case KeepAnswer::erase: return erase(ID);
+    case KeepAnswer::cancel: return parts.status.setActivity(MonitorActivity::none);
+    }
+}
+
+void PatientIDSender::erase(const QString& ID) {
+    parts.status.setActivity(MonitorActivity::erasing);
+    const auto job = [ID](BPMModel& model) { return model.eraseData(ID); };
+    parts.monitor.submit(this, job, [this, ID](MonitorResult result) {
+        if (result != MonitorResult::success) return changeFailed(result, false);
+        write(ID, true);
     });
 }
 
-void PatientIDSender::readingsCounted(const QString& ID, int count) {
-    if (count == 0 || panel.AskMessage(qtTrId("SendIDDataMsg", count), qtTrId("SendIDDataTitle")))
-        return writeID(ID);
-    status.setActivity(MonitorActivity::erasing);
-    const auto erase = [ID](BPMModel& model) { return model.eraseData(ID); };
-    monitor.submit(this, erase, [this, ID](MonitorResult result) {
-        if (result == MonitorResult::success)
-            writeID(ID);
-        else
-            giveUp(result);
-    });
-}
-
-void PatientIDSender::writeID(const QString& ID) {
-    status.setActivity(MonitorActivity::sendingID);
-    const auto write = [ID](BPMModel& model) { return model.sendID(ID, false); };
-    monitor.submit(this, write, [this](MonitorResult result) {
-        if (result != MonitorResult::success) return giveUp(result);
-        status.setActivity(MonitorActivity::none);
+void PatientIDSender::write(const QString& ID, bool isErased) {
+    parts.status.setActivity(MonitorActivity::sendingID);
+    const auto job = [ID](BPMModel& model) { return model.sendID(ID, false); };
+    parts.monitor.submit(this, job, [this, isErased](MonitorResult result) {
+        if (result != MonitorResult::success) return changeFailed(result, isErased);
+        parts.status.setActivity(MonitorActivity::none);
         emit sent();
     });
 }
 
-void PatientIDSender::giveUp(MonitorResult result) {
-    status.setActivity(MonitorActivity::none);
-    panel.ShowMessage(qtTrId("sendIDFailed").arg(describe(result)), qtTrId("Warning"));
+/// What was begun may have left another ID, or no readings: the user is told what there is now.
+void PatientIDSender::changeFailed(MonitorResult result, bool isErased) {
+    const QString told =
+        (isErased ? qtTrId("sendIDFailedErased") : qtTrId("sendIDFailed")).arg(describe(result));
+    parts.monitor.submit(this, ask, [this, told](const Holding& holding) {
+        const QString readings = holding.readings ? qtTrId("monitorHoldsReadings", *holding.readings)
+                                                  : qtTrId("monitorReadingsUnknown");
+        giveUp(told + u'\n' + whose(known(holding.ID)) + u' ' + readings);
+    });
+}
+
+void PatientIDSender::giveUp(const QString& told) {
+    parts.status.setActivity(MonitorActivity::none);
+    parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
+}
+
+QString PatientIDSender::whose(const std::optional<QString>& ID) const {
+    if (!ID) return qtTrId("monitorHoldsUnknown");
+    if (ID->isEmpty()) return qtTrId("monitorHoldsNone");
+    const PatientModel* patient = parts.store.getPatientByID(*ID);
+    return patient ? qtTrId("monitorHoldsPatient").arg(*ID, shortName(*patient))
+                   : qtTrId("monitorHoldsOther").arg(*ID);
 }
 
 } // namespace zel

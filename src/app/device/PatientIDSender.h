@@ -2,7 +2,7 @@
 
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
-#include "store/MessagePanel.h"
+#include "store/DataStore.h"
 
 #include <QObject>
 
@@ -12,21 +12,35 @@ namespace zel {
 class PatientIDSender final : public QObject {
     Q_OBJECT
 public:
-    PatientIDSender(MonitorStatus& monitorStatus, MonitorWorker& monitorWorker, MessagePanel& messagePanel,
-                    QObject* parent = nullptr);
+    struct Parts {
+        MonitorStatus& status;
+        MonitorWorker& monitor;
+        const DataStore& store;
+        MessagePanel& panel;
+    };
+    explicit PatientIDSender(const Parts& needed, QObject* parent = nullptr);
     void sendID(const QString& ID);
 
 signals:
     void sent();
 
 private:
-    void readingsCounted(const QString& ID, int count);
-    void writeID(const QString& ID);
-    void giveUp(MonitorResult result);
+    /// What the monitor says that it holds.
+    struct Holding {
+        MonitorExpected<QString> ID;
+        MonitorExpected<int> readings;
+    };
+    [[nodiscard]] static Holding ask(BPMModel& monitor);
 
-    MonitorStatus& status;
-    MonitorWorker& monitor;
-    MessagePanel& panel;
+    void readingsCounted(const QString& ID, const Holding& holding);
+    void askForReadings(const QString& ID, const Holding& holding);
+    void erase(const QString& ID);
+    void write(const QString& ID, bool isErased);
+    void changeFailed(MonitorResult result, bool isErased);
+    void giveUp(const QString& told);
+    [[nodiscard]] QString whose(const std::optional<QString>& ID) const;
+
+    Parts parts;
 };
 
 } // namespace zel

@@ -26,7 +26,8 @@ QString describe(const DownloadOutcome& outcome) {
 
 ProgressWindowController::ProgressWindowController(const Parts& needed, QWidget* parent)
     : QDialog(parent), parts(needed), lblPatient(new QLabel(this)), lblProcess(new QLabel(this)),
-      barProgress(new QProgressBar(this)), btnCancel(new QPushButton(qtTrId("cancel"), this)) {
+      lblWaiting(new QLabel(this)), barProgress(new QProgressBar(this)),
+      btnCancel(new QPushButton(qtTrId("cancel"), this)) {
     setObjectName(u"ProgressWindowController"_s);
     setWindowTitle(qtTrId("download"));
     setAccessibleName(qtTrId("download"));
@@ -42,6 +43,11 @@ void ProgressWindowController::build() {
     lblPatient->setWordWrap(true);
     lblProcess->setObjectName(u"lblProcess"_s);
     lblProcess->setTextFormat(Qt::PlainText);
+    lblWaiting->setObjectName(u"lblWaiting"_s);
+    lblWaiting->setTextFormat(Qt::PlainText);
+    lblWaiting->setWordWrap(true);
+    lblWaiting->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    lblWaiting->setMinimumHeight(3 * lblWaiting->fontMetrics().lineSpacing()); // the window does not jump
     barProgress->setObjectName(u"barProgress"_s);
     barProgress->setAccessibleName(qtTrId("downloadProgress"));
     barProgress->setRange(0, 100);
@@ -56,6 +62,7 @@ void ProgressWindowController::build() {
     column->addWidget(lblPatient);
     column->addWidget(barProgress);
     column->addWidget(lblProcess);
+    column->addWidget(lblWaiting);
     column->addWidget(advice);
     auto* row = new QHBoxLayout;
     row->addStretch(1);
@@ -71,6 +78,7 @@ void ProgressWindowController::showProgress() {
     patientID = parts.store.getCurrentID();
     barProgress->setValue(0);
     lblProcess->setText(qtTrId("downloadStarting"));
+    lblWaiting->clear();
     btnCancel->setEnabled(true);
     if (const PatientModel* patient = parts.store.getPatientByID(patientID))
         lblPatient->setText(
@@ -83,22 +91,30 @@ void ProgressWindowController::showProgress() {
 void ProgressWindowController::dataTransfer() {
     parts.status.setActivity(MonitorActivity::downloading);
     const auto download = [this, &worker = parts.monitor, home = QPointer<QObject>(this)](BPMModel& monitor) {
-        return monitor.getBPMCycleData([&, this](int total, int done) {
-            worker.hand(home, [this, total, done] { setProcessInfo(total, done); });
-        });
+        return monitor.getBPMCycleData(
+            [&, this](int total, int done) {
+                worker.hand(home, [this, total, done] { setProcessInfo(total, done); });
+            },
+            [&, this](std::chrono::seconds left) { worker.hand(home, [this, left] { showWaiting(left); }); });
     };
     parts.monitor.submit(this, download, [this](MonitorExpected<ReadingList> readings) {
         parts.monitor.resume();
         underWay = false;
+        lblWaiting->clear();
         downloaded(std::move(readings));
     });
 }
 
 void ProgressWindowController::setProcessInfo(int total, int current) {
+    lblWaiting->clear();
     if (current < highestShown) return;
     highestShown = current;
     lblProcess->setText(qtTrId("ProgressProcessInfo").arg(current).arg(total));
     barProgress->setValue(total > 0 ? std::min(current, total) * 100 / total : 0);
+}
+
+void ProgressWindowController::showWaiting(std::chrono::seconds left) {
+    if (!cancelled) lblWaiting->setText(qtTrId("downloadWaiting", static_cast<int>(left.count())));
 }
 
 void ProgressWindowController::reject() {
@@ -106,6 +122,7 @@ void ProgressWindowController::reject() {
     cancelled = true;
     btnCancel->setEnabled(false);
     lblProcess->setText(qtTrId("downloadStopping"));
+    lblWaiting->clear();
     parts.monitor.interrupt();
 }
 
@@ -129,9 +146,14 @@ void ProgressWindowController::quietMonitor() {
 
 void ProgressWindowController::storeReadings(ReadingList readings) {
     DownloadOutcome outcome{.downloaded = readings.size()};
-    const auto added = parts.store.newDataTransfer(std::move(readings));
+    const auto added = parts.store.newDataTransfer(patientID, std::move(readings));
     if (!added) return finish({.failure = qtTrId("downloadNotStored").arg(describe(added.error()))});
     outcome.added = *added;
+    // Stored, but nobody can see it yet: the monitor keeps its readings.
+    if (const StoreResult& loaded = parts.store.lastLoad(); !loaded) {
+        outcome.failure = qtTrId("downloadNotReadBack").arg(describe(outcome), describe(loaded.error()));
+        return finish(outcome);
+    }
     if (std::as_const(parts.store).getSetting().eraseRecAfterReading == 1)
         eraseMonitor(outcome);
     else
@@ -144,7 +166,9 @@ void ProgressWindowController::eraseMonitor(const DownloadOutcome& stored) {
     const auto erase = [ID = patientID](BPMModel& monitor) { return monitor.eraseData(ID); };
     parts.monitor.submit(this, erase, [this, stored](MonitorResult result) {
         DownloadOutcome outcome = stored;
-        if (result != MonitorResult::success)
+        if (result == MonitorResult::unconfirmed)
+            outcome.failure = qtTrId("eraseNotSeen").arg(describe(stored), describe(result));
+        else if (result != MonitorResult::success)
             outcome.failure = qtTrId("eraseFailed").arg(describe(stored), describe(result));
         finish(outcome);
     });

@@ -40,6 +40,8 @@ public:
     void showProgress();
     /// \p current readings of \p total have come; a report below the highest one shown is ignored.
     void setProcessInfo(int total, int current);
+    /// Nothing comes from the monitor, which is waited for at most so long.
+    void showWaiting(std::chrono::seconds left);
     /// The user's way out (Esc, the close button, Cancel): ends the exchange with the monitor.
     void reject() override;
 
@@ -62,6 +64,7 @@ private:
     bool cancelled = false;
     QLabel* lblPatient;
     QLabel* lblProcess;
+    QLabel* lblWaiting;
     QProgressBar* barProgress;
     QPushButton* btnCancel;
 };

@@ -80,7 +80,7 @@ void CommentViewController::show(const CommentModel& comment) {
     enableCommentUI(true);
     if (!isSame) form->showText(comment.comment);
     form->settle();
-    form->setReadOnly(comment.CommentID.isEmpty()); // it could not be found again in the file
+    form->setReadOnly(comment.CommentID.isEmpty()); // of several, the panel finds the first only
     shown = comment;
     form->showDegree(static_cast<int>(comment.degree));
     updateDaetInfo(comment);
@@ -119,11 +119,19 @@ StoreResult CommentViewController::save() {
     CommentModel comment = *shown;
     comment.comment = form->text();
     // The patient may turn out to be gone from the file: then another one's comment is shown now.
-    if (StoreResult saved = store.saveCommentToXML(comment); !saved) return saved;
+    StoreResult saved = store.saveCommentToXML(comment, *shown);
     if (!shown || shown->CommentID != comment.CommentID || shown->ID != comment.ID) return {};
+    if (!saved) return saved;
     shown->comment = comment.comment;
     form->settle();
+    tellIfNotReadBack();
     return {};
+}
+
+void CommentViewController::tellIfNotReadBack() {
+    const StoreResult& loaded = store.lastLoad();
+    if (!loaded)
+        panel.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())), qtTrId("Warning"));
 }
 
 /// The patient is gone from the file while a comment is being typed: nothing is left to save it to.
@@ -132,8 +140,9 @@ void CommentViewController::rescueText() {
     form->settle();
     const QString told = qtTrId("commentPatientGone").arg(shown->ID);
     // Once all has been read anew: the message waits for an answer.
+    const auto tell = [this, told] { panel.ShowMessage(told, qtTrId("Warning")); };
     QMetaObject::invokeMethod(
-        this, [this, told] { panel.ShowMessage(told, qtTrId("Warning")); }, Qt::QueuedConnection);
+        this, [this, tell] { panel.interject(this, tell); }, Qt::QueuedConnection);
 }
 
 bool CommentViewController::checkToSaveComment() {
@@ -145,21 +154,50 @@ bool CommentViewController::checkToSaveComment() {
 bool CommentViewController::leave() {
     const StoreResult saved = save();
     if (saved) return true;
-    if (panel.AskMessage(qtTrId("commentStay").arg(describe(saved.error())), qtTrId("Warning"))) return false;
+    if (panel.AskBeforeLosing(qtTrId("commentStay").arg(describe(saved.error())), qtTrId("Warning")))
+        return false;
     shown.reset();
     LoadData();
     return true;
+}
+
+QJsonArray CommentViewController::saveQuietly() {
+    if (save()) return {};
+    return {QJsonObject{{u"name"_s, patientHeading(store)},
+                        {u"ID"_s, shown->ID},
+                        {u"CommentID"_s, shown->CommentID},
+                        {u"text"_s, form->text()}}};
+}
+
+void CommentViewController::takeUp(const QJsonObject& draft) {
+    store.setCurrentID(draft[u"ID"_s].toString());
+    const auto index = indexOf(draft[u"CommentID"_s].toString());
+    const QString text = draft[u"text"_s].toString();
+    StoreResult saved = tl::unexpected(StoreError{StoreErrorCode::noSuchRecord, store.getCurrentID(), {}});
+    if (index) {
+        CommentModel comment = *store.getCommentForCurID().at(*index);
+        comment.comment = text;
+        saved = store.saveCommentToXML(comment);
+    }
+    if (saved) return;
+    QGuiApplication::clipboard()->setText(text);
+    panel.ShowMessage(qtTrId("commentInClipboard").arg(describe(saved.error())), qtTrId("Warning"));
 }
 
 void CommentViewController::deleteComment() {
     const CommentModel* selected = store.getSelectedComment();
     if (!selected) return;
     const QString ID = selected->CommentID;
+    const QString patientID = selected->ID;
     if (!panel.AskToErase(qtTrId("DeleteTheComment"), qtTrId("DeleteComment"))) return;
-    store.setSelectedComment(ID); // another may be selected since it was asked
+    if (store.getCurrentID() != patientID) return; // whose comment may have the same number
+    store.setSelectedComment(ID);                  // another may be selected since it was asked
     auto kept = std::exchange(shown, std::nullopt);
     const StoreResult deleted = store.deleteSelectedCommentToXML();
-    if (deleted) return LoadData();
+    if (deleted) {
+        tellIfNotReadBack();
+        return LoadData();
+    }
     shown = std::move(kept);
     panel.ShowMessage(describe(deleted.error()), qtTrId("Warning"));
 }

@@ -3,6 +3,9 @@
 #include "app/widgets/SidePanel.h"
 #include "store/DataStore.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 #include <optional>
 
 namespace zel {
@@ -29,6 +32,10 @@ public:
     bool checkToSaveComment();
     /// As checkToSaveComment(), and if that fails asks whether to stay. \return false if so
     [[nodiscard]] bool leave();
+    /// As save(). \return what could not be saved, for takeUp() at the next start
+    [[nodiscard]] QJsonArray saveQuietly();
+    /// Saves such a text; where that cannot be, tells why and puts it into the clipboard.
+    void takeUp(const QJsonObject& draft);
     void deleteComment();
     /// A text that can be changed, or a blank panel.
     void enableCommentUI(bool enabled);
@@ -43,6 +50,7 @@ private:
     void show(const CommentModel& comment);
     void showPosition();
     void rescueText();
+    void tellIfNotReadBack();
     [[nodiscard]] bool isChanged() const;
     [[nodiscard]] std::optional<std::size_t> indexOf(const QString& commentID) const;
 

@@ -47,8 +47,11 @@ const CommentModel* ChartComments::find(const QString& CommentID) const {
 bool ChartComments::select(const QString& CommentID) { return panel->setCommentScroll(CommentID); }
 
 bool ChartComments::tell(const StoreResult& result) {
+    const StoreResult& loaded = store.lastLoad();
     if (!result)
         messages.ShowMessage(qtTrId("commentUnchanged").arg(describe(result.error())), qtTrId("Warning"));
+    else if (!loaded)
+        messages.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())), qtTrId("Warning"));
     return result.has_value();
 }
 
@@ -58,7 +61,9 @@ void ChartComments::create(CommentModel comment) {
 }
 
 bool ChartComments::save(const CommentModel& comment) {
-    if (!tell(store.saveCommentToXML(comment))) return false;
+    const CommentModel* known = find(comment.CommentID);
+    const auto asRead = known ? std::optional<CommentModel>(*known) : std::nullopt;
+    if (!tell(store.saveCommentToXML(comment, asRead))) return false;
     select(comment.CommentID);
     return true;
 }

@@ -128,6 +128,13 @@ bool GraphViewController::leave() { return frame->comments().leave(); }
 
 void GraphViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
 
+QJsonArray GraphViewController::saveQuietly() { return frame->comments().saveQuietly(); }
+
+bool GraphViewController::takeUp(const QJsonObject& draft) {
+    frame->comments().takeUp(draft);
+    return true;
+}
+
 void GraphViewController::setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const {
     charts->setupDrawChart(pulse, blood);
 }

@@ -36,6 +36,8 @@ public:
     void setHWButtons(bool) override {}
     [[nodiscard]] bool leave() override;
     void checkToSaveComment() override;
+    [[nodiscard]] QJsonArray saveQuietly() override;
+    [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
 
     /// Brings the chart to the front of the page.
     void switchToGraph();

@@ -2,6 +2,7 @@
 
 #include "app/device/PatientIDSender.h"
 #include "app/patients/PatientButtons.h"
+#include "app/patients/PatientDraft.h"
 #include "app/patients/PatientEditor.h"
 #include "app/patients/PatientRoster.h"
 #include "app/widgets/EmptyState.h"
@@ -13,13 +14,15 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
 PatientViewController::PatientViewController(const Parts& needed)
     : parts(needed), store(needed.store), writer(needed.store, needed.panel),
-      sender(new PatientIDSender(needed.status, needed.monitor, needed.panel, this)),
+      sender(new PatientIDSender({needed.status, needed.monitor, needed.store, needed.panel}, this)),
       roster(new PatientRoster(needed.store, this)), editor(new PatientEditor(needed.clock, this)),
       noPatients(new EmptyState(u"noPatients"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
       rosterOrAdvice(new QStackedWidget(this)) {
@@ -118,8 +121,8 @@ void PatientViewController::reload() {
 
 void PatientViewController::tellIfGone() {
     if (!store.lastLoad() || !isGone(store.getCurrentID())) return;
-    const QString name = shortName(editor->shownForm().patient());
-    parts.panel.ShowMessage(qtTrId("patientGone").arg(name), qtTrId("Warning"));
+    const QString told = qtTrId("patientGone").arg(shortName(editor->shownForm().patient()));
+    parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }
 
 void PatientViewController::open(const QString& ID) {
@@ -171,15 +174,58 @@ void PatientViewController::forget() {
 bool PatientViewController::settle() {
     const bool wasNewOne = isNewOne(store.getCurrentID());
     if (!leave()) return false;
-    const Instant today = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
-    if (wasNewOne || !newPatient || !newPatient->form.isChanged(newPatient->entry, today)) return true;
+    if (wasNewOne || !newPatient || !newPatient->form.isChanged(newPatient->entry, today())) return true;
     open(u"-"_s);
     return leave();
 }
 
+/// Nobody is there to be asked: what leaving would ask about is taken to be wanted.
+bool PatientViewController::isSavedQuietly(const PatientForm& form, const PatientEntry& entry) {
+    const PatientModel record = form.record(entry);
+    const auto others = std::ranges::count(store.getPatientArray(), record.ID, &PatientModel::ID);
+    if (others != (form.isNew() ? 0 : 1) || !form.problems(entry, today()).empty()) return false;
+    return (form.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record)).has_value();
+}
+
+QJsonArray PatientViewController::saveQuietly() {
+    QJsonArray unsaved;
+    const auto save = [&](const PatientForm& form, const PatientEntry& entry) {
+        if (!isSavedQuietly(form, entry)) unsaved.append(draftOf(form, entry));
+    };
+    const bool isNewShown = isNewOne(store.getCurrentID());
+    // The new one first: it stays open beside another when they are taken up.
+    if (newPatient && !isNewShown && newPatient->form.isChanged(newPatient->entry, today()))
+        save(newPatient->form, newPatient->entry);
+    if (isThere(store.getCurrentID()) && editor->isChanged()) save(editor->shownForm(), editor->entry());
+    return unsaved;
+}
+
+bool PatientViewController::takeUp(const QJsonObject& draft) {
+    const QString ID = draft[u"ID"_s].toString();
+    if (editor->isChanged() && !isNewOne(store.getCurrentID())) return false; // one after the other
+    if (!ID.isEmpty() && store.validIDinXML(ID)) {
+        open(ID);
+        editor->showPatient(formOf(ID), typedIn(draft, formOf(ID).entryOf()));
+        return true;
+    }
+    if (newPatient) return false;
+    const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
+    PatientEntry entry = blank.entryOf();
+    entry[PatientField::ID] = ID; // of a patient who is gone meanwhile
+    newPatient = {blank, typedIn(draft, entry)};
+    roster->showAll();
+    roster->reload(true);
+    open(u"-"_s);
+    return true;
+}
+
+Instant PatientViewController::today() const {
+    return std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
+}
+
 bool PatientViewController::isSaveWanted() {
     const QString name = shortName(editor->shownForm().record(editor->entry()));
-    return parts.panel.AskMessage(qtTrId("confirmSendSave").arg(name), qtTrId("SavePatient"));
+    return parts.panel.AskBeforeLosing(qtTrId("confirmSendSave").arg(name), qtTrId("SavePatient"));
 }
 
 void PatientViewController::btnNewPatient() {
@@ -202,7 +248,7 @@ bool PatientViewController::btnSavePatient() {
         return false;
     }
     const PatientModel record = editor->shownForm().record(editor->entry());
-    return writer.write(record, editor->shownForm().isNew()) && saved(record);
+    return writer.write(record, editor->shownForm()) && saved(record);
 }
 
 std::vector<PatientProblem> PatientViewController::problems() const {
@@ -216,15 +262,19 @@ std::vector<PatientProblem> PatientViewController::problems() const {
 
 /// A record of the file that lacks an element has no place for that field, and the user has to know.
 bool PatientViewController::saved(const PatientModel& record) {
+    const PatientForm before(editor->shownForm().patient(), store.getSetting(), false);
+    const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
     if (editor->shownForm().isNew()) newPatient.reset();
     editor->settle();
     writer.loadAnew(record.ID);
-    const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
-    if (!store.validIDinXML(record.ID) || formOf(record.ID).entryOf() == wanted) {
+    // What was not changed here, another program may have changed.
+    const PatientEntry kept = formOf(record.ID).entryOf();
+    const PatientEntry meant = keepTyped(wanted, before.entryOf(), kept);
+    if (!store.validIDinXML(record.ID) || kept == meant) {
         emit said(qtTrId("patientSaved").arg(shortName(record)));
         return true;
     }
-    editor->showPatient(formOf(record.ID), wanted);
+    editor->showPatient(formOf(record.ID), meant);
     parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
     return false;
 }
@@ -251,13 +301,14 @@ bool PatientViewController::CanDataTransfer() const {
     return isMonitorFree() && store.getCurrentID() == parts.status.state().IDOnDevice;
 }
 
-/// Connected, its ID known, nothing under way, and a patient to do something for.
+/// Connected, nothing under way, and a patient to do something for.
 bool PatientViewController::isMonitorFree() const {
     const MonitorState& state = parts.status.state();
-    return state.isConnected && state.IDOnDevice && !parts.status.isBusy()
-           && store.validIDinXML(store.getCurrentID()) && !IsEmptyID(store.getCurrentID());
+    return state.isConnected && !parts.status.isBusy() && store.validIDinXML(store.getCurrentID())
+           && !IsEmptyID(store.getCurrentID());
 }
 
+/// Also when the ID that the monitor holds cannot be read: another one is the remedy.
 bool PatientViewController::canSendID() const {
     return isMonitorFree() && store.getCurrentID() != parts.status.state().IDOnDevice;
 }

@@ -39,6 +39,9 @@ public:
     [[nodiscard]] bool leave() override;
     /// As leave(), for the new patient that was left unsaved as well: nothing typed may be lost after this.
     [[nodiscard]] bool settle();
+    [[nodiscard]] QJsonArray saveQuietly() override;
+    /// Shows it in the editor, to be completed and saved.
+    [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
     /// A monitor is connected and holds the selected patient's ID.
     [[nodiscard]] bool CanDataTransfer() const;
 
@@ -69,6 +72,8 @@ private:
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();
     void forget();
+    [[nodiscard]] Instant today() const;
+    [[nodiscard]] bool isSavedQuietly(const PatientForm& form, const PatientEntry& entry);
     [[nodiscard]] PatientForm formOf(const QString& ID) const;
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;

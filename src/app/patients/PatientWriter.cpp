@@ -1,6 +1,7 @@
 #include "app/patients/PatientWriter.h"
 
 #include "app/widgets/PatientTexts.h"
+#include "store/Text.h"
 
 #include <algorithm>
 
@@ -13,7 +14,7 @@ bool PatientWriter::tell(const StoreResult& result) {
 
 /// Records of the same ID cannot be told apart in the file: a change might go to the wrong one.
 bool PatientWriter::isUnique(const QString& ID) {
-    if (std::ranges::count(store.getPatientArray(), ID, &PatientModel::ID) < 2) return true;
+    if (IsEmptyID(ID) || std::ranges::count(store.getPatientArray(), ID, &PatientModel::ID) < 2) return true;
     panel.ShowMessage(qtTrId("patientIDTwice").arg(ID), qtTrId("Warning"));
     return false;
 }
@@ -31,8 +32,8 @@ void PatientWriter::refuse(const std::vector<PatientProblem>& found) {
     panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
 }
 
-bool PatientWriter::write(const PatientModel& record, bool isNew) {
-    return tell(isNew ? store.addXMLPatient(record) : store.saveXMLPatient(record));
+bool PatientWriter::write(const PatientModel& record, const PatientForm& shown) {
+    return tell(shown.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record, shown.patient()));
 }
 
 bool PatientWriter::remove(const PatientModel& patient) {
@@ -43,7 +44,8 @@ bool PatientWriter::remove(const PatientModel& patient) {
 
 void PatientWriter::loadAnew(const QString& ID) {
     store.setCurrentID(ID);
-    tell(store.loadXML());
+    if (const StoreResult loaded = store.loadXML(); !loaded)
+        panel.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())), qtTrId("Warning"));
 }
 
 } // namespace zel

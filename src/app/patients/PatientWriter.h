@@ -11,15 +11,16 @@ class PatientWriter {
 public:
     PatientWriter(DataStore& dataStore, MessagePanel& messagePanel) : store(dataStore), panel(messagePanel) {}
 
-    /// Whether the ID leads to one record only.
+    /// Whether the ID leads to one record only. One without an ID is found by all that it holds.
     [[nodiscard]] bool isUnique(const QString& ID);
     /// Says why an entry is not written. \p found: at least one problem
     void refuse(const std::vector<PatientProblem>& found);
+    /// Writes what \p record has other than the patient that the form shows, or all of a new one.
     /// \return false if it could not be written
-    [[nodiscard]] bool write(const PatientModel& record, bool isNew);
+    [[nodiscard]] bool write(const PatientModel& record, const PatientForm& shown);
     /// Takes the patient out after a question. \return false if the patient is still there
     [[nodiscard]] bool remove(const PatientModel& patient);
-    /// Reads the file anew, with that patient as the current one.
+    /// Reads the file anew after a write, with that patient as the current one.
     void loadAnew(const QString& ID);
 
 private:

@@ -106,9 +106,15 @@ QWidget* SettingController::makeButtons() {
 
 void SettingController::showSetting() {
     form->fill(std::as_const(parts.store).getSetting());
+    form->store(shown);
     enableButtons();
     open();
     form->begin();
+}
+
+void SettingController::scrollToFocus() {
+    auto* scroll = findChild<QScrollArea*>(u"settingScroll"_s);
+    if (QWidget* field = focusWidget()) scroll->ensureWidgetVisible(field);
 }
 
 void SettingController::enableButtons() {
@@ -118,20 +124,21 @@ void SettingController::enableButtons() {
 }
 
 void SettingController::closeSetting() {
-    SettingModel& setting = parts.store.getSetting();
-    const SettingModel before = setting;
-    form->store(setting);
-    const SettingModel wanted = setting;
-    if (const StoreResult saved = parts.store.saveSetting(); !saved) {
-        setting = before;
+    if (!form->takesLimits()) return scrollToFocus();
+    SettingModel wanted;
+    form->store(wanted);
+    const auto saved = parts.store.changeSetting(shown, wanted, DataStore::WithoutPlace::leaveOut);
+    if (!saved) {
         const QString why = describe(saved.error());
         return parts.panel.ShowMessage(qtTrId("settingsNotSaved").arg(why), qtTrId("Warning"));
     }
     accept();
-    // Read back: an element of an older version may have no place for all of them.
+    SettingModel meant = *saved;
+    meant.takeChanges(shown, wanted);
     if (const StoreResult loaded = parts.store.loadXML(); !loaded)
-        parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
-    else if (setting != wanted)
+        parts.panel.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())),
+                                qtTrId("dataFileUnreadable"));
+    else if (*saved != meant) // an element of an older version may have no place for all of them
         parts.panel.ShowMessage(qtTrId("settingsPartlySaved"), qtTrId("Warning"));
 }
 
@@ -147,10 +154,13 @@ void SettingController::clockSent(MonitorResult result) {
     sendButton->setText(qtTrId("sendClockButton"));
     parts.status.update([=](MonitorState& next) {
         next.activity = MonitorActivity::none;
-        if (isSet) next.secondsAhead = 0;
+        if (!isSet) return;
+        next.secondsAhead = 0;
+        next.isClockUnset = false;
     });
     const QString how = isSet ? qtTrId("clockSet") : qtTrId("clockNotSet").arg(describe(result));
-    parts.panel.ShowMessage(qtTrId("TimeSyncMsg").arg(how), qtTrId("TimeSync"));
+    const QString told = qtTrId("TimeSyncMsg").arg(how);
+    parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("TimeSync")); });
 }
 
 } // namespace zel

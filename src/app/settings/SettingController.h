@@ -46,12 +46,14 @@ private:
     QWidget* makeDataGroup();
     QWidget* makeButtons();
     QPushButton* addButton(const QString& name, const QString& text, const QString& title);
+    void scrollToFocus();
     void enableButtons();
     void send();
     void clockSent(MonitorResult result);
 
     Parts parts;
     SettingForm* form;
+    SettingModel shown{}; ///< what the controls held when they were filled
     ExportController* exporter;
     ImportController* importer;
     QPushButton* sendButton;

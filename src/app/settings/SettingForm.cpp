@@ -76,7 +76,7 @@ SettingForm::SettingForm(QWidget* parent)
       useWHOStandard(
           named(new QCheckBox(qtTrId("settingWHOButton")), u"useWHOStandard"_s, qtTrId("settingWHO"))),
       sys(named(new QLineEdit, u"sys"_s, qtTrId("settingSys"))),
-      dia(named(new QLineEdit, u"dia"_s, qtTrId("settingDia"))),
+      dia(named(new QLineEdit, u"dia"_s, qtTrId("settingDia"))), lblLimitProblem(new QLabel),
       physisian(named(new QPlainTextEdit, u"physisian"_s, qtTrId("settingPhysician"))),
       numberFormater(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,3}"_s), this)) {
     build();
@@ -134,6 +134,11 @@ QGroupBox* SettingForm::makeLimitGroup() {
     QWidget* diaRow = withUnit(dia, numberFormater);
     form->addRow(qtTrId("settingSysLabel"), sysRow);
     form->addRow(qtTrId("settingDiaLabel"), diaRow);
+    lblLimitProblem->setObjectName(u"lblLimitProblem"_s);
+    lblLimitProblem->setTextFormat(Qt::PlainText);
+    lblLimitProblem->setWordWrap(true);
+    lblLimitProblem->hide();
+    form->addRow(lblLimitProblem);
     for (const auto& [row, field] : {std::pair(sysRow, sys), std::pair(diaRow, dia)})
         qobject_cast<QLabel*>(form->labelForField(row))->setBuddy(field);
     return group;
@@ -169,6 +174,7 @@ void SettingForm::fill(const SettingModel& setting) {
     useWHOStandard->setChecked(setting.userWhoStandard == 1);
     sys->setText(QString::number(setting.sysStandard));
     dia->setText(QString::number(setting.diaStandard));
+    tellLimitProblem(std::nullopt);
     physisian->setPlainText(setting.physicianAddress);
 }
 
@@ -182,6 +188,24 @@ void SettingForm::store(SettingModel& setting) const {
     setting.sysStandard = sys->text().toUInt(); // 0 for an emptied field
     setting.diaStandard = dia->text().toUInt();
     setting.physicianAddress = textOf(*physisian);
+}
+
+bool SettingForm::takesLimits() {
+    const auto problem = limitProblem(sys->text().toUInt(), dia->text().toUInt());
+    tellLimitProblem(problem);
+    if (!problem) return true;
+    QLineEdit* field = problem == LimitProblem::systolic ? sys : dia;
+    field->setFocus();
+    field->selectAll();
+    return false;
+}
+
+void SettingForm::tellLimitProblem(std::optional<LimitProblem> problem) {
+    const QString words = problem ? describe(*problem) : QString();
+    lblLimitProblem->setText(u"\u26A0 "_s + words);
+    lblLimitProblem->setVisible(problem.has_value());
+    for (QLineEdit* field : {sys, dia})
+        field->setAccessibleDescription(words);
 }
 
 void SettingForm::begin() { dateFormate->setFocus(); }
@@ -199,8 +223,12 @@ int SettingForm::setSelectItem(QComboBox& list, const QString& text) {
 void SettingForm::standardCheckChanged(bool checked) {
     sys->setText(checked ? QString::number(whoSystolic) : QString());
     dia->setText(checked ? QString::number(whoDiastolic) : QString());
+    tellLimitProblem(std::nullopt);
 }
 
-void SettingForm::standardChaged() { useWHOStandard->setChecked(false); }
+void SettingForm::standardChaged() {
+    useWHOStandard->setChecked(false);
+    tellLimitProblem(std::nullopt);
+}
 
 } // namespace zel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/PressureLimits.h"
 #include "store/SettingModel.h"
 
 #include <QWidget>
@@ -25,6 +26,8 @@ public:
 
     /// Shows \p setting in every control.
     void fill(const SettingModel& setting);
+    /// \return false when the limits in their fields are refused; the user is told at these
+    [[nodiscard]] bool takesLimits();
     /// Takes every control over into \p setting.
     void store(SettingModel& setting) const;
     /// Has the first control take the keys.
@@ -44,6 +47,7 @@ private:
     QGroupBox* makeLimitGroup();
     QGroupBox* makeMonitorGroup();
     QGroupBox* makePhysicianGroup();
+    void tellLimitProblem(std::optional<LimitProblem> problem);
     void standardCheckChanged(bool checked);
     void standardChaged(); // spelled so in the interface
 
@@ -55,6 +59,7 @@ private:
     QCheckBox* useWHOStandard;
     QLineEdit* sys;
     QLineEdit* dia;
+    QLabel* lblLimitProblem;
     QPlainTextEdit* physisian;  // spelled so in the interface
     QValidator* numberFormater; // spelled so in the interface
     QVBoxLayout* monitorBox = nullptr;

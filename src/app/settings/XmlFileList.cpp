@@ -91,6 +91,7 @@ bool XmlFileList::setData(const QModelIndex& index, const QVariant& value, int r
 QString XmlFileList::text(const Row& row, Column column) const {
     if (column == name) return row.file.sFileName;
     if (!row.isRead) return column == date ? qtTrId("fileBeingRead") : QString();
+    if (row.file.isLarge) return column == date ? qtTrId("fileTooLargeToCount") : QString();
     if (!row.file.isRead()) return column == date ? qtTrId("fileNotReadable") : QString();
     if (column == readings) return QString::number(row.file.measureRec);
     return column == comments ? QString::number(row.file.comment) : row.file.backupTime;

@@ -6,6 +6,7 @@
 #include "app/printing/PrintController.h"
 #include "app/settings/SettingController.h"
 #include "app/shell/SplashWindow.h"
+#include "app/shell/UnsavedFile.h"
 #include "app/shell/WindowPlacement.h"
 #include "app/table/TableViewController.h"
 #include "app/widgets/Log.h"
@@ -13,6 +14,9 @@
 #include <QApplication>
 #include <QShortcut>
 #include <QStandardPaths>
+
+#include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -68,6 +72,7 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     if (isClosing) return;
     window.show();
     if (!loaded) parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
+    if (loaded) offerUnsaved();
     if (isClosing) return;
     splash = new SplashWindow(&window);
     connect(splash, &SplashWindow::splashClosed, this, [this] {
@@ -128,7 +133,9 @@ void AppController::transferFinished(const DownloadOutcome& outcome) {
     window.activateWindow();
     displayAfterDataTransfer();
     window.showOutcome(describe(outcome));
-    if (!outcome.failure.isEmpty()) parts.panel.ShowMessage(outcome.failure, qtTrId("Warning"));
+    if (outcome.failure.isEmpty()) return;
+    const auto tell = [this, told = outcome.failure] { parts.panel.ShowMessage(told, qtTrId("Warning")); };
+    parts.panel.interject(this, tell);
 }
 
 void AppController::displayAfterDataTransfer() {
@@ -209,14 +216,55 @@ void AppController::UpdateUIBySetting() {
 
 void AppController::closeApplicaiton() {
     if (!graphPage->leave() || !tablePage->leave()) return;
-    if (patientPage->settle()) return terminate();
+    if (patientPage->settle()) return end();
     if (!patientPage->isVisible()) changeTab(0); // what is still to be settled is there
 }
 
 void AppController::terminate() {
+    if (std::exchange(isTerminated, true)) return; // asked twice
+    keepUnsaved();
+    end();
+}
+
+void AppController::keepUnsaved() {
+    const UnsavedFile file(parts.store.getZELXMLPath());
+    QJsonArray drafts = file.read();
+    const auto before = drafts.size();
+    for (PageController* page : pages) {
+        for (const QJsonValue unsaved : page->saveQuietly()) {
+            QJsonObject draft = unsaved.toObject();
+            draft[u"page"_s] = page->objectName();
+            drafts.append(draft);
+        }
+    }
+    if (drafts.size() == before) return;
+    if (const StoreResult kept = file.write(drafts); !kept)
+        qCWarning(lcApp, "What was typed could not be kept: %s", qUtf8Printable(describe(kept.error())));
+}
+
+/// What was typed when the program was ended the last time.
+void AppController::offerUnsaved() {
+    const UnsavedFile file(parts.store.getZELXMLPath());
+    QJsonArray left;
+    for (const QJsonValue draft : file.read())
+        if (!isSettled(draft.toObject())) left.append(draft);
+    if (const StoreResult kept = file.write(left); !kept)
+        parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
+}
+
+/// \return false if it is to be offered again; nothing is dropped by an answer that changes nothing elsewhere
+bool AppController::isSettled(const QJsonObject& draft) {
+    const QString name = draft[u"name"_s].toString();
+    const QString title = qtTrId("unsavedTitle");
+    const auto page = std::ranges::find(pages, draft[u"page"_s].toString(), &PageController::objectName);
+    if (isClosing || page == pages.end()) return false;
+    if (!parts.panel.AskMessage(qtTrId("unsavedFound").arg(name), title))
+        return !isClosing && parts.panel.AskToErase(qtTrId("unsavedDelete").arg(name), title);
+    return (*page)->takeUp(draft);
+}
+
+void AppController::end() {
     isClosing = true;
-    for (PageController* page : pages)
-        page->saveQuietly();
     parts.monitor.stop();
     emit closed();
 }

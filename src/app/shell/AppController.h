@@ -68,13 +68,18 @@ public:
     void savePatient();
     /// Quits, unless what was typed is to be saved and cannot be.
     void closeApplicaiton(); // spelled so in the interface
-    void terminate();        ///< quits without a question
+    /// Quits without a question: what was typed is saved if it can be, and else offered at the next start.
+    void terminate();
 
 signals:
     void closed(); ///< the monitor's thread has ended; nothing is left to do
 
 private:
     void showPageInView();
+    void end();
+    void keepUnsaved();
+    void offerUnsaved();
+    [[nodiscard]] bool isSettled(const QJsonObject& draft);
     void UpdateUIBySetting();
     void reload();
     void changeUser();
@@ -96,6 +101,7 @@ private:
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     bool isClosing = false;
+    bool isTerminated = false;
 };
 
 } // namespace zel

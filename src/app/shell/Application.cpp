@@ -14,6 +14,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 
 namespace zel {
 
@@ -115,7 +116,11 @@ int runApplication(int argc, char** argv) {
         controller.awakeFromNib(global.loaded);
         controller.applicationDidFinishLaunching(global.loaded);
     });
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    // A thread that a blocking device holds cannot be joined. Everything is saved: nothing is left to be
+    // done.
+    if (!global.monitor.stop()) std::_Exit(status);
+    return status;
 }
 
 } // namespace zel

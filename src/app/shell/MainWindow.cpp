@@ -135,9 +135,10 @@ void MainWindow::makeShortcuts() {
 
 void MainWindow::showMonitor() {
     const MonitorState& state = status.state();
-    const QString text = state.isConnected ? qtTrId("statusConnected") : qtTrId("statusNotConnected");
-    lblMonitor->setText(status.isBusy() ? describe(state) : text);
+    lblMonitor->setText(describeShortly(state));
+    lblMonitor->setToolTip(describe(state));
     lblMonitor->setAccessibleName(lblMonitor->text());
+    lblMonitor->setAccessibleDescription(describe(state));
 }
 
 void MainWindow::UpdateUIBySetting() { dataPanel->showState(); }

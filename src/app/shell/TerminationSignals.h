@@ -8,8 +8,8 @@ class QSocketNotifier;
 
 namespace zel {
 
-/// Turns SIGINT and SIGTERM into a Qt signal. Made before any other thread is, which then inherits that they
-/// are not delivered to it.
+/// Turns SIGINT, SIGTERM and SIGHUP into a Qt signal. Made before any other thread is, which then inherits
+/// that they are not delivered to it.
 class TerminationSignals final : public QObject {
     Q_OBJECT
 public:

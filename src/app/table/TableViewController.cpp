@@ -176,7 +176,12 @@ bool TableViewController::leave() { return frame->comments().leave(); }
 
 void TableViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
 
-void TableViewController::saveQuietly() { static_cast<void>(frame->comments().save()); }
+QJsonArray TableViewController::saveQuietly() { return frame->comments().saveQuietly(); }
+
+bool TableViewController::takeUp(const QJsonObject& draft) {
+    frame->comments().takeUp(draft);
+    return true;
+}
 
 void TableViewController::refreshTable() { tblReadings->viewport()->update(); }
 

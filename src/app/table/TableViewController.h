@@ -32,7 +32,8 @@ public:
     void setHWButtons(bool connected) override;
     [[nodiscard]] bool leave() override;
     void checkToSaveComment() override;
-    void saveQuietly() override;
+    [[nodiscard]] QJsonArray saveQuietly() override;
+    [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
     /// Titles the mark column by what the readings, or else the monitor, can tell.
     void setPadTitle();
     /// Redraws, with nothing read anew.

@@ -11,6 +11,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <utility>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -48,6 +50,30 @@ void keepOnScreen(QMessageBox& box) {
     scroll->setWidget(words);
 }
 
+/// For a box that comes by itself: the key that is on its way to a field must not answer it. A button can be
+/// reached with Tab, and then takes Enter as well.
+void takeNoKeys(QMessageBox& box) {
+    for (auto* button : box.findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+        button->setShortcut({}); // a letter alone would press it
+    }
+    box.setFocusPolicy(Qt::StrongFocus);
+    box.setFocus();
+    QObject::connect(qApp, &QApplication::focusChanged, &box, [&box](QWidget*, QWidget* now) {
+        auto* button = qobject_cast<QPushButton*>(now);
+        if (button && box.isAncestorOf(button)) button->setAutoDefault(true);
+    });
+}
+
+QPushButton* addButton(QMessageBox& box, const QString& name, const QString& text) {
+    // Not the roles of a yes and a no, which would make one of them the answer of Enter and of Esc.
+    QPushButton* button = box.addButton(text, QMessageBox::ActionRole);
+    button->setObjectName(name);
+    button->setAccessibleName(QString(text).remove(u'&'));
+    return button;
+}
+
 /// A message belongs to the dialog that is open, where there is one.
 QWidget* ownerOver(QWidget* window) {
     QWidget* dialog = QApplication::activeModalWidget();
@@ -60,34 +86,62 @@ void MessageBoxPanel::ShowMessage(const QString& text, const QString& title) {
     QMessageBox box(ownerOver(window));
     fill(box, text, title);
     box.setIcon(title == qtTrId("Warning") ? QMessageBox::Warning : QMessageBox::Information);
-    QPushButton* ok = box.addButton(qtTrId("ok"), QMessageBox::AcceptRole);
-    ok->setObjectName(u"btnOK"_s);
-    keepOnScreen(box);
-    box.exec();
+    QPushButton* ok = addButton(box, u"btnOK"_s, qtTrId("ok"));
+    box.setEscapeButton(ok);
+    open(box, ok);
 }
 
 bool MessageBoxPanel::AskMessage(const QString& text, const QString& title) {
-    return ask(text, title, Preset::yes);
+    return ask(text, title, Kind::harmless);
 }
 
 bool MessageBoxPanel::AskToErase(const QString& text, const QString& title) {
-    return ask(text, title, Preset::no);
+    return ask(text, title, Kind::erasing);
 }
 
-bool MessageBoxPanel::ask(const QString& text, const QString& title, Preset preset) {
+bool MessageBoxPanel::AskBeforeLosing(const QString& text, const QString& title) {
+    return ask(text, title, Kind::losing);
+}
+
+bool MessageBoxPanel::ask(const QString& text, const QString& title, Kind kind) {
     QMessageBox box(ownerOver(window));
     fill(box, text, title);
     box.setIcon(QMessageBox::Question);
-    QPushButton* yes = box.addButton(qtTrId("yes"), QMessageBox::YesRole);
-    yes->setObjectName(u"btnYes"_s);
-    // Not the role of a "no", which Esc would press: one question's "no" empties the monitor.
-    QPushButton* no = box.addButton(qtTrId("no"), QMessageBox::ActionRole);
-    no->setObjectName(u"btnNo"_s);
-    box.setDefaultButton(preset == Preset::yes ? yes : no);
-    if (preset == Preset::no) box.setEscapeButton(no); // which keeps everything
-    keepOnScreen(box);
-    box.exec();
+    QPushButton* yes = addButton(box, u"btnYes"_s, qtTrId("yes"));
+    QPushButton* no = addButton(box, u"btnNo"_s, qtTrId("no"));
+    if (kind != Kind::losing) box.setEscapeButton(no);
+    open(box, kind == Kind::erasing ? no : yes);
     return box.clickedButton() == yes;
+}
+
+KeepAnswer MessageBoxPanel::AskToKeep(const QString& text, const QString& title) {
+    QMessageBox box(ownerOver(window));
+    fill(box, text, title);
+    box.setIcon(QMessageBox::Question);
+    const QPushButton* keep = addButton(box, u"btnKeep"_s, qtTrId("keep"));
+    const QPushButton* erase = addButton(box, u"btnErase"_s, qtTrId("eraseThem"));
+    QPushButton* cancel = addButton(box, u"btnCancel"_s, qtTrId("cancel"));
+    box.setEscapeButton(cancel);
+    open(box, cancel);
+    if (box.clickedButton() == keep) return KeepAnswer::keep;
+    return box.clickedButton() == erase ? KeepAnswer::erase : KeepAnswer::cancel;
+}
+
+void MessageBoxPanel::open(QMessageBox& box, QPushButton* preset) {
+    keepOnScreen(box);
+    if (std::exchange(isUnasked, false))
+        takeNoKeys(box);
+    else
+        box.setDefaultButton(preset);
+    box.exec();
+}
+
+void MessageBoxPanel::interject(QObject* context, std::function<void()> speak) {
+    keyboard.whenStill(context, [this, speak = std::move(speak)] {
+        isUnasked = true;
+        speak();
+        isUnasked = false;
+    });
 }
 
 } // namespace zel

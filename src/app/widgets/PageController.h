@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QWidget>
 
 namespace zel {
@@ -20,7 +22,10 @@ public:
     /// A comment that is being edited is saved; before a command that others' data depend on.
     virtual void checkToSaveComment() {}
     /// The program is ended from outside: saves what is being edited if it can, and tells nobody.
-    virtual void saveQuietly() {}
+    /// \return what could not be saved, each with "name", whom it is about
+    [[nodiscard]] virtual QJsonArray saveQuietly() { return {}; }
+    /// Goes on with what saveQuietly() could not save when the program ended. \return false if it cannot now
+    [[nodiscard]] virtual bool takeUp(const QJsonObject&) { return false; }
 };
 
 } // namespace zel

@@ -1,7 +1,9 @@
 #include "WatchTest.h"
 #include "app/device/ProgressWindowController.h"
+#include "support/DamageAfterWrite.h"
 
 #include <QProgressBar>
+#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 
@@ -94,6 +96,42 @@ TEST_F(DownloadTest, erasesNothingThatCouldNotBeStored) {
     EXPECT_EQ(readingsInMonitor(), 12);
 }
 
+TEST_F(DownloadTest, forAPatientWhoGoesMeanwhileStoresAndErasesNothing) {
+    setEraseAfterReading(true);
+    addPatient(u"P2"_s, u"Baker"_s);
+    startConnected();
+    const QByteArray both = dataFile();
+    const QByteArray without = QByteArray(both).replace("<ID>P1</ID>", "<ID>P9</ID>");
+    begin();
+    replaceDataFile(without);
+    const StoreError gone{StoreErrorCode::noSuchRecord, u"P1"_s, {}};
+    EXPECT_EQ(describe(end()), qtTrId("downloadNotStored").arg(describe(gone)));
+    EXPECT_EQ(dataFile(), without);
+    EXPECT_EQ(readingsInMonitor(), 12);
+
+    replaceDataFile(both);
+    ASSERT_TRUE(store.loadXML());
+    store.setCurrentID(u"P1"_s);
+    begin();
+    store.setCurrentID(u"P2"_s); // as a reload of the roster may
+    EXPECT_EQ(end(), all);
+    EXPECT_TRUE(store.getReadingForCurID().empty());
+    store.setCurrentID(u"P1"_s);
+    EXPECT_EQ(store.getReadingForCurID().size(), 12U);
+}
+
+TEST_F(DownloadTest, thatCannotBeReadBackIsToldAsStoredAndErasesNothing) {
+    setEraseAfterReading(true);
+    startConnected();
+    const DamageAfterWrite damage(store.getZELXMLPath());
+    begin();
+    const DownloadOutcome ended = end();
+    EXPECT_EQ(ended.added, 12U);
+    EXPECT_EQ(describe(ended),
+              qtTrId("downloadNotReadBack").arg(describe(all), describe(store.lastLoad().error())));
+    EXPECT_EQ(readingsInMonitor(), 12);
+}
+
 TEST_P(FailingDownloadTest, storesNothingSaysWhyAndWorksTheNextTime) {
     setEraseAfterReading(true);
     plan.faults = {GetParam().fault};
@@ -144,6 +182,40 @@ TEST_F(DownloadTest, neverStoresAnotherMonitorsReadings) {
     const QByteArray before = dataFile();
     EXPECT_EQ(describe(download()), qtTrId("downloadOtherMonitor"));
     EXPECT_EQ(dataFile(), before);
+}
+
+TEST_F(DownloadTest, saysHowLongItWaitsForASilentMonitor) {
+    using namespace std::chrono_literals;
+    plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::records}};
+    startConnected();
+    clock.stands = true; // what is waited for passes only as it is told to
+    begin();
+    waitFor([this] { return port->recordsAsked > 0; });
+    const auto seconds = [this] {
+        return text("lblWaiting").remove(QRegularExpression(u"[^0-9]"_s)).toInt();
+    };
+    waitFor([&] {
+        clock.advance(1s);
+        return seconds() > 0;
+    });
+    const int first = seconds();
+    EXPECT_LE(first, 150) << "three tries";
+    clock.advance(10s);
+    waitFor([&] { return seconds() <= first - 10; });
+    click("btnCancel");
+    EXPECT_TRUE(text("lblWaiting").isEmpty());
+    clock.stands = false;
+    EXPECT_TRUE(end().cancelled);
+    EXPECT_TRUE(text("lblWaiting").isEmpty());
+}
+
+TEST_F(DownloadTest, saysWhenTheMonitorIsNotEmptiedAfterAll) {
+    setEraseAfterReading(true);
+    prepare = [this] { port->keepsNothing = true; };
+    startConnected();
+    EXPECT_EQ(download().failure,
+              qtTrId("eraseFailed").arg(describe(all), describe(MonitorResult::notTaken)));
+    EXPECT_EQ(readingsInMonitor(), 12);
 }
 
 TEST_F(DownloadTest, progressNeverGoesBack) {

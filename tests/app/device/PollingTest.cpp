@@ -66,6 +66,86 @@ TEST_F(PollingTest, asksOnceWhenTheClockCannotBeSet) {
     EXPECT_EQ(panel.questions.size(), 1);
 }
 
+TEST_F(PollingTest, asksInWordsOfItsOwnAboutAClockThatIsNotSet) {
+    prepare = [this] { port->isClockUnset = true; };
+    for (const bool sets : {false, true}) {
+        panel.answers[qtTrId("Synchronization")] = sets;
+        panel.questions.clear();
+        startConnected();
+        EXPECT_EQ(panel.questions, QStringList(qtTrId("Synchronization")));
+        EXPECT_EQ(panel.asked, qtTrId("clockUnsetAsk"));
+        EXPECT_EQ(text("lblMonitorClock"), sets ? qtTrId("clockRight") : qtTrId("clockUnset"));
+        EXPECT_EQ(port->isClockUnset, !sets);
+        letPollingRun();
+        EXPECT_EQ(panel.questions.size(), 1);
+    }
+}
+
+TEST_F(PollingTest, looksWhetherTheClockWasSet) {
+    plan.clockOffset = std::chrono::hours(3);
+    for (const bool isUnset : {true, false}) {
+        prepare = [&] {
+            port->keepsNothing = true;
+            port->isClockUnset = isUnset;
+        };
+        start();
+        waitFor([this] { return panel.messages.size() == 2 && !status.isBusy(); });
+        EXPECT_TRUE(panel.messages.value(0).contains(describe(MonitorResult::notTaken)))
+            << qPrintable(panel.messages.value(0));
+    }
+    EXPECT_EQ(text("lblMonitorClock"), qtTrId("clockAhead").arg(qtTrId("clockHours", 3)));
+}
+
+TEST_F(PollingTest, saysNothingWhileTheUserTypes) {
+    plan.clockOffset = std::chrono::hours(3);
+    panel.isTyping = true;
+    start();
+    waitFor([this] { return panel.heldBack.size() == 1; });
+    EXPECT_TRUE(panel.questions.empty());
+    std::exchange(panel.heldBack, {}).front()();
+    EXPECT_EQ(panel.questions.size(), 1);
+    waitFor([this] { return panel.heldBack.size() == 1; });
+    EXPECT_EQ(status.state().IDOnDevice, u"P1") << "the window shows it all the same";
+    EXPECT_TRUE(panel.messages.empty());
+    status.setActivity(MonitorActivity::downloading);
+    std::exchange(panel.heldBack, {}).front()();
+    EXPECT_TRUE(panel.messages.empty()) << "the user has gone on without it";
+}
+
+TEST_F(PollingTest, saysThatAnAttachedMonitorDoesNotAnswer) {
+    using Kind = SimulatedFault::Kind;
+    struct Case {
+        Kind kind;
+        MonitorResult why;
+        QString shortly;
+    };
+    for (const Case& c :
+         {Case{Kind::noAnswer, MonitorResult::timeOut, qtTrId("statusSilent")},
+          Case{Kind::badCheckField, MonitorResult::badCheckField, qtTrId("statusDamaged")},
+          Case{Kind::badFixedContent, MonitorResult::badFixedContent, qtTrId("statusDamaged")},
+          Case{Kind::wrongAcknowledgement, MonitorResult::noAcknowledgement, qtTrId("statusRefusing")},
+          Case{Kind::writeError, MonitorResult::writeFailed, qtTrId("statusBroken")}}) {
+        SCOPED_TRACE(c.shortly.toStdString());
+        plan.faults = {{.kind = c.kind, .command = Command::version}};
+        start();
+        QStringList shown;
+        const auto watching =
+            QObject::connect(&status, &MonitorStatus::changed, [&] { shown += describe(status.state()); });
+        waitFor(
+            [&] { return text("lblMonitorState") == qtTrId("monitorNotAnswering").arg(describe(c.why)); });
+        QObject::disconnect(watching);
+        EXPECT_FALSE(shown.contains(qtTrId("monitorNotConnected")));
+        EXPECT_EQ(describeShortly(status.state()), c.shortly);
+    }
+    startsPlugged = false;
+    start();
+    letOpen(false);
+    waitFor([this] { return describeShortly(status.state()) == qtTrId("statusLocked"); });
+    port->denied = false;
+    waitFor([this] { return describeShortly(status.state()) == qtTrId("statusNotConnected"); });
+    EXPECT_EQ(text("lblMonitorState"), qtTrId("monitorNotConnected"));
+}
+
 TEST_F(PollingTest, looksForAnotherIDAlsoWhenTheClockCannotBeRead) {
     plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::date}};
     startConnected();

@@ -15,9 +15,12 @@ protected:
     }
     void sendID(const QString& ID = u"P2"_s) {
         startConnected();
+        ask(ID);
+    }
+    void ask(const QString& ID) {
         panel.messages.clear();
         panel.questions.clear();
-        sender = std::make_unique<PatientIDSender>(status, *worker, panel);
+        sender = std::make_unique<PatientIDSender>(PatientIDSender::Parts{status, *worker, store, panel});
         QObject::connect(sender.get(), &PatientIDSender::sent, watch.get(), &MonitorWatch::updateUI);
         sender->sendID(ID);
     }
@@ -53,19 +56,48 @@ TEST_F(SendIDTest, stopsWhenTheUserSaysNo) {
 
 TEST_F(SendIDTest, keepsTheReadingsThatAreWanted) {
     sendID();
+    EXPECT_TRUE(panel.asked.contains(qtTrId("monitorHoldsOther").arg(u"OLD"_s)));
     EXPECT_EQ(text("lblMonitorState"), qtTrId("monitorCounting")) << "the window says what it is doing";
     waitUntilSent();
     EXPECT_EQ(panel.questions, (QStringList{qtTrId("sendID"), qtTrId("SendIDDataTitle")}));
+    EXPECT_TRUE(panel.asked.contains(qtTrId("monitorHoldsOther").arg(u"OLD"_s)));
     EXPECT_EQ(monitorHolds(), std::pair(u"P2"_s, 12));
     EXPECT_TRUE(panel.messages.value(0).contains(qtTrId("monitorConnectedID").arg(u"P2"_s)));
     EXPECT_EQ(buttons, (QList{true, true})) << "other ones may be enabled now";
 }
 
 TEST_F(SendIDTest, deletesTheReadingsThatAreNotWanted) {
-    panel.answers[qtTrId("SendIDDataTitle")] = false;
+    plan.ID = "P1";
+    panel.keepAnswer = KeepAnswer::erase;
     sendID();
     waitUntilSent();
+    EXPECT_TRUE(panel.asked.contains(u"Adams"_s)) << "whose they were: " << qPrintable(panel.asked);
     EXPECT_EQ(monitorHolds(), std::pair(u"P2"_s, 0));
+}
+
+TEST_F(SendIDTest, leavesAllAsItIsWhenTheUserCancels) {
+    panel.keepAnswer = KeepAnswer::cancel;
+    sendID();
+    waitFor([this] { return panel.questions.size() == 2 && !status.isBusy(); });
+    EXPECT_EQ(monitorHolds(), std::pair(u"OLD"_s, 12));
+}
+
+TEST_F(SendIDTest, isTheRemedyForAnIDThatCannotBeRead) {
+    plan.faults = {{.kind = SimulatedFault::Kind::badFixedContent, .command = Command::id}};
+    start();
+    waitFor([this] { return status.state().trouble == MonitorResult::badFixedContent && !status.isBusy(); });
+    bool wasBusy = false;
+    const auto watching =
+        QObject::connect(&status, &MonitorStatus::changed, [&] { wasBusy |= status.isBusy(); });
+    for (int i = 0; i < 3; ++i) // cycles of the polling, each of which asks for it
+        std::ignore = monitorHolds();
+    QObject::disconnect(watching);
+    EXPECT_FALSE(wasBusy) << "the button stays enabled";
+    ask(u"P2"_s);
+    waitFor([this] { return !panel.messages.empty(); });
+    EXPECT_TRUE(panel.asked.contains(qtTrId("monitorHoldsUnknown")));
+    EXPECT_TRUE(panel.messages.value(0).contains(describe(MonitorResult::unconfirmed)))
+        << "this one's ID stays unreadable: " << qPrintable(panel.messages.value(0));
 }
 
 TEST_F(SendIDTest, asksNothingAboutAnEmptyMonitor) {
@@ -75,20 +107,81 @@ TEST_F(SendIDTest, asksNothingAboutAnEmptyMonitor) {
     EXPECT_EQ(panel.questions, QStringList(qtTrId("sendID")));
 }
 
-TEST_F(SendIDTest, changesNothingWhenAStepFails) {
-    const SimulatedFault notCounted{
-        .kind = SimulatedFault::Kind::noAnswer, .command = Command::records, .times = 3};
-    const SimulatedFault notTaken{.kind = SimulatedFault::Kind::noAnswer, .command = Command::sendID};
-    for (const auto& [fault, keepsReadings] :
-         {std::pair(notCounted, true), {notTaken, true}, {notTaken, false}}) {
-        plan.faults = {fault};
-        panel.answers[qtTrId("SendIDDataTitle")] = keepsReadings;
+TEST_F(SendIDTest, saysWhatTheMonitorHoldsWhenAStepFails) {
+    using Kind = SimulatedFault::Kind;
+    const SimulatedFault notTaken{.kind = Kind::noAnswer, .command = Command::sendID};
+    const SimulatedFault takenOnce{.kind = Kind::late, .command = Command::sendID, .times = 1};
+    const SimulatedFault countedOnce{.kind = Kind::late, .command = Command::records, .times = 1};
+    const SimulatedFault notCounted{.kind = Kind::noAnswer, .command = Command::records, .times = 3};
+    const QString silence = describe(MonitorResult::timeOut), ignored = describe(MonitorResult::notTaken);
+    struct Case {
+        const char* what;
+        std::vector<SimulatedFault> faults;
+        KeepAnswer answer;
+        bool keepsNothing;
+        QString told, IDAfter;
+        int readingsAfter;
+    };
+    const Case cases[] = {
+        {"not counted",
+         {notCounted},
+         KeepAnswer::keep,
+         false,
+         qtTrId("sendIDFailed").arg(silence),
+         u"OLD"_s,
+         12},
+        {"not written",
+         {notTaken},
+         KeepAnswer::keep,
+         false,
+         qtTrId("sendIDFailed").arg(silence),
+         u"OLD"_s,
+         12},
+        {"not erased",
+         {notTaken},
+         KeepAnswer::erase,
+         false,
+         qtTrId("sendIDFailed").arg(silence),
+         u"OLD"_s,
+         12},
+        {"erased only",
+         {takenOnce, notTaken},
+         KeepAnswer::erase,
+         false,
+         qtTrId("sendIDFailedErased").arg(silence),
+         u"P2"_s,
+         0},
+        {"acknowledged only", {}, KeepAnswer::keep, true, qtTrId("sendIDFailed").arg(ignored), u"OLD"_s, 12},
+        {"erasing acknowledged only",
+         {},
+         KeepAnswer::erase,
+         true,
+         qtTrId("sendIDFailed").arg(ignored),
+         u"OLD"_s,
+         12},
+        {"erased, but who knows",
+         {countedOnce, notCounted},
+         KeepAnswer::erase,
+         false,
+         qtTrId("sendIDFailed").arg(describe(MonitorResult::unconfirmed)),
+         u"P2"_s,
+         0},
+    };
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.what);
+        plan.faults = one.faults;
+        panel.keepAnswer = one.answer;
+        prepare = [&] { port->keepsNothing = one.keepsNothing; };
         sendID();
         waitFor([this] { return !panel.messages.empty(); });
-        EXPECT_EQ(panel.messages.value(0),
-                  qtTrId("Warning") + u": "_s + qtTrId("sendIDFailed").arg(describe(MonitorResult::timeOut)));
+        const QString told = panel.messages.value(0);
+        EXPECT_TRUE(told.contains(one.told)) << qPrintable(told);
+        if (one.what != cases[0].what) {
+            EXPECT_TRUE(told.contains(one.IDAfter)) << qPrintable(told);
+            EXPECT_TRUE(told.contains(qtTrId("monitorHoldsReadings", one.readingsAfter))) << qPrintable(told);
+        }
         EXPECT_FALSE(status.isBusy());
-        EXPECT_EQ(monitorHolds(), std::pair(u"OLD"_s, 12));
+        EXPECT_EQ(monitorHolds(), std::pair(one.IDAfter, one.readingsAfter));
     }
 }
 

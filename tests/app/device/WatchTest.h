@@ -15,6 +15,7 @@ protected:
     void start() {
         watch.reset();
         attach();
+        prepare();
         panel.messages.clear();
         show(new MonitorPanel(status, nullptr));
         watch = std::make_unique<MonitorWatch>(MonitorWatch::Parts{*worker, status, store, panel, clock},
@@ -29,6 +30,7 @@ protected:
         waitFor([this] { return !panel.messages.empty() && !status.isBusy(); });
     }
 
+    std::function<void()> prepare = [] {}; ///< the monitor, just attached
     std::unique_ptr<MonitorWatch> watch;
     QList<bool> buttons; ///< as it wanted the pages' buttons, in turn
 };

@@ -1,5 +1,6 @@
 #include "app/frame/CommentViewController.h"
 #include "app/frame/ReadingFrame.h"
+#include "support/DamageAfterWrite.h"
 #include "support/ReadingPageTest.h"
 
 #include <QPlainTextEdit>
@@ -85,6 +86,54 @@ TEST_F(CommentPanelTest, whatIsTypedIntoACommentThatAnotherProgramRemovedIsStore
     EXPECT_EQ(stored(u"1"_s), u"none"_s);
     press(Qt::Key_Tab);
     EXPECT_EQ(stored(u"1"_s), u"mine+"_s);
+}
+
+TEST_F(CommentPanelTest, anotherPatientsCommentOfTheSameNumberIsLeftAlone) {
+    storeComments();
+    store.setCurrentID(u"P2"_s);
+    addComment(u"3"_s, u"20260303"_s, u"20260304"_s, u"of P2"_s);
+    replaceDataFile(dataFile().replace("<CommentID>3<", "<CommentID>1<"));
+    ASSERT_TRUE(store.loadXML());
+    store.setCurrentID(u"P1"_s);
+    openPanel();
+    store.setCurrentID(u"P2"_s);
+    EXPECT_EQ(editor().toPlainText(), u"of P2"_s);
+    typeComment(u"+"_s);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(dataFile().contains(">of P2+<") && dataFile().contains(">first<")) << dataFile().constData();
+    panel.whenAsked = [this] { store.setCurrentID(u"P1"_s); }; // as a reload of the roster may
+    clickPart("btnDeleteComment");
+    EXPECT_EQ(store.getCommentForCurID().size(), 2U);
+    panel.whenAsked = [] {};
+    store.setCurrentID(u"P2"_s);
+    clickPart("btnDeleteComment");
+    EXPECT_TRUE(store.getCommentForCurID().empty());
+    EXPECT_TRUE(dataFile().contains(">first<"));
+}
+
+TEST_F(CommentPanelTest, howAnUnusualSaveWentIsTold) {
+    storeComments();
+    openPanel();
+    typeComment(u"+"_s);
+    const QByteArray before = dataFile();
+    const QByteArray gone =
+        QByteArray(before)
+            .replace("<ID>P1</ID>\n        <FamilyName>", "<ID>P9</ID>\n        <FamilyName>")
+            .replace("<CommentID>1<", "<CommentID>8<");
+    replaceDataFile(gone);
+    press(Qt::Key_Tab);
+    const StoreError noPatient{StoreErrorCode::noSuchRecord, u"P1"_s, {}};
+    EXPECT_EQ(panel.messages,
+              QStringList(qtTrId("Warning") + u": "_s + qtTrId("commentNotSaved").arg(describe(noPatient))));
+    EXPECT_EQ(dataFile(), gone) << "nothing is stored for a patient who has gone";
+    EXPECT_EQ(editor().toPlainText(), u"first+"_s);
+    panel.messages.clear();
+    replaceDataFile(before);
+    const DamageAfterWrite damage(store.getZELXMLPath());
+    editor().setFocus();
+    press(Qt::Key_Tab);
+    ASSERT_EQ(panel.messages.size(), 1);
+    EXPECT_TRUE(panel.messages.first().contains(qtTrId("storedNotReadBack").section(u'%', 0, 0)));
 }
 
 TEST_F(CommentPanelTest, deletingACommentAsks) {

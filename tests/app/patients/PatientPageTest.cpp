@@ -342,6 +342,34 @@ TEST_F(PatientPageTest, whatIsTypedOutlivesAReloadAndAChangeOfUnits) {
     EXPECT_EQ(find<QWidget>("Weight").accessibleName(), qtTrId("fieldWeightLb"));
 }
 
+TEST_F(PatientPageTest, savingKeepsWhatAnotherProgramWroteInTheMeantime) {
+    start();
+    type("PatientNotes", u"mine"_s);
+    DataStore other({home.path(), home.path(), u":/templates"_s}, clock);
+    ASSERT_TRUE(other.load());
+    PatientModel moved = *other.getPatientByID(u"P1"_s);
+    moved.Address = u"elsewhere"_s;
+    ASSERT_TRUE(other.saveXMLPatient(moved));
+    save();
+    EXPECT_EQ(patient(u"P1"_s).Address, u"elsewhere"_s);
+    EXPECT_EQ(patient(u"P1"_s).PatientNotes, u"mine"_s);
+    EXPECT_TRUE(panel.messages.empty()) << qPrintable(panel.messages.join(u'\n'));
+    EXPECT_EQ(find<QPlainTextEdit>("Address").toPlainText(), u"elsewhere"_s);
+}
+
+TEST_F(PatientPageTest, patientsWithoutAnIDCanBeDeleted) {
+    replaceDataFile(dataFile().replace("<ID>P1</ID>", "<ID/>").replace("<ID>P2</ID>", ""));
+    ASSERT_TRUE(store.loadXML());
+    addPatient(u"P3"_s, u"Clark"_s);
+    start();
+    for (const int left : {2, 1}) {
+        clickRow(0);
+        click("btnDeletePatient");
+        EXPECT_EQ(rows(), left) << qPrintable(panel.messages.join(u'\n'));
+    }
+    EXPECT_EQ(rowID(0), u"P3"_s);
+}
+
 TEST_F(PatientPageTest, whatIsTypedOutlivesThePatientsRemovalByAnotherProgram) {
     start();
     type("PatientNotes", u"mine"_s);

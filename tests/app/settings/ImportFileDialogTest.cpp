@@ -83,6 +83,10 @@ TEST_F(ImportFileDialogTest, listsTheXMLFilesWithWhatIsInThem) {
     EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, u"0"_s, u"0"_s, today}));
     EXPECT_EQ(row(1), (QStringList{u"b.xml"_s, u"2"_s, u"1"_s, today}));
     EXPECT_EQ(row(2), (QStringList{u"damaged.xml"_s, {}, {}, qtTrId("fileNotReadable")}));
+    ASSERT_TRUE(QFile::resize(folder.filePath(u"a.xml"_s), XmlFile::largestCounted + 1));
+    dialog.findChild<XmlFileList*>()->setFolder(folder.path());
+    waitUntilRead();
+    EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, {}, {}, qtTrId("fileTooLargeToCount")}));
 }
 
 TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {

@@ -1,8 +1,11 @@
 #include "SettingDialogTest.h"
+#include "store/PressureLimits.h"
 #include "support/FullDisk.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QRadioButton>
 
 namespace zel {
 
@@ -121,6 +124,7 @@ TEST_F(SettingTest, theWHOBoxAndTheLimitsFollowEachOther) {
     };
     for (const Case& c : cases) {
         store.getSetting() = SettingModel::initWithDefault();
+        save();
         open();
         c.act();
         click("okButton");
@@ -139,19 +143,72 @@ TEST_F(SettingTest, whatIsNoEntryIsShownAsWhatItCountsAs) {
     odd.eraseRecAfterReading = 2;
     odd.showPPorMap = 7;
     odd.userWhoStandard = 2;
-    odd.sysStandard = 4000000000U;
-    const bool was12Hours = odd.is12Hours(), wasMetric = odd.isMetric();
     store.getSetting() = odd;
+    save();
+    open();
+    EXPECT_EQ(find<QComboBox>("dateFormate").currentText(), u"dd mm yyyy"_s);
+    EXPECT_EQ(find<QComboBox>("timeFormate").currentText() == u"12-hours"_s, odd.is12Hours());
+    EXPECT_EQ(find<QComboBox>("metricFormate").currentText() == u"kg / cm"_s, odd.isMetric());
+    EXPECT_FALSE(find<QCheckBox>("eraseMeasures").isChecked()) << "only 1 empties the monitor";
+    EXPECT_TRUE(find<QRadioButton>("displayMAP").isChecked());
+    EXPECT_FALSE(find<QCheckBox>("useWHOStandard").isChecked()) << "only 1 counts";
+    const QByteArray before = dataFile();
+    click("okButton");
+    EXPECT_EQ(dataFile(), before) << "what is not changed stays as it is";
+}
+
+TEST_F(SettingTest, refusesLimitsThatMakeNoSense) {
+    replaceDataFile(dataFile().replace("<SysStandard>140<", "<SysStandard>4000000000<"));
+    ASSERT_TRUE(store.loadXML()); // as another program may have left it
     open();
     click("okButton");
-    const SettingModel& setting = store.getSetting();
-    EXPECT_EQ(setting.dateFormat, u"dd mm yyyy"_s);
-    EXPECT_EQ(setting.is12Hours(), was12Hours);
-    EXPECT_EQ(setting.isMetric(), wasMetric);
-    EXPECT_EQ(setting.eraseRecAfterReading, 0U) << "only 1 empties the monitor";
-    EXPECT_EQ(setting.showPPorMap, 1U);
-    EXPECT_EQ(setting.userWhoStandard, 0U);
-    EXPECT_EQ(setting.sysStandard, 4000000000U);
+    EXPECT_TRUE(text("lblLimitProblem").contains(describe(LimitProblem::systolic)));
+    struct Case {
+        const char *sys, *dia, *focus;
+        LimitProblem problem;
+    };
+    for (const Case& one :
+         {Case{"20", "", "sys", LimitProblem::systolic}, Case{"261", "90", "sys", LimitProblem::systolic},
+          Case{"140", "161", "dia", LimitProblem::diastolic}, Case{"90", "90", "dia", LimitProblem::order}}) {
+        SCOPED_TRACE(one.sys);
+        type("sys", QString::fromLatin1(one.sys));
+        type("dia", QString::fromLatin1(one.dia));
+        EXPECT_FALSE(page("lblLimitProblem").isVisible()) << "not while it is being mended";
+        click("okButton");
+        EXPECT_TRUE(dialog().isVisible());
+        EXPECT_TRUE(page("lblLimitProblem").isVisible());
+        EXPECT_TRUE(text("lblLimitProblem").contains(describe(one.problem)));
+        EXPECT_EQ(dialog().focusWidget(), &page(one.focus));
+        EXPECT_EQ(store.getSetting().sysStandard, 4000000000U);
+    }
+    click("cancelButton");
+    open();
+    EXPECT_FALSE(page("lblLimitProblem").isVisible()) << "nothing left over";
+    click("useWHOStandard");
+    click("useWHOStandard");
+    click("okButton");
+    EXPECT_FALSE(dialog().isVisible());
+    EXPECT_EQ(store.getSetting().sysStandard, 140U);
+}
+
+TEST_F(SettingTest, OKWritesOnlyWhatWasChangedInTheDialog) {
+    const QByteArray elsewhere = dataFile().replace("<SysStandard>140<", "<SysStandard>130<");
+    open();
+    replaceDataFile(elsewhere);
+    ASSERT_TRUE(store.loadXML()); // as an import into the open dialog does
+    click("displayMAP");
+    click("okButton");
+    EXPECT_EQ(dataFile(), QByteArray(elsewhere).replace("<ShowPPorMap>0<", "<ShowPPorMap>1<"));
+    EXPECT_EQ(store.getSetting().sysStandard, 130U);
+    EXPECT_TRUE(panel.messages.empty());
+
+    replaceDataFile("<ZEL>");
+    EXPECT_FALSE(store.loadXML());
+    open();
+    replaceDataFile(elsewhere);
+    click("displayPP");
+    click("okButton");
+    EXPECT_EQ(dataFile(), elsewhere) << "no defaults over a repaired file";
 }
 
 TEST_F(SettingTest, aFailedWriteLosesNothing) {
@@ -187,13 +244,15 @@ TEST_F(SettingTest, theClockButtonNeedsAMonitorAndTellsHowItWent) {
     open();
     EXPECT_FALSE(page("sendButton").isEnabled());
     startsPlugged = true;
-    for (const int refusals : {0, 1000}) {
+    plan.clockOffset = std::chrono::hours(3);
+    for (const auto& [refusals, keepsNothing] : {std::pair(0, false), {1000, false}, {0, true}}) {
         host.reset();
         panel.messages.clear();
         plan.faults = {
             {.kind = SimulatedFault::Kind::noAnswer, .command = Command::setDate, .times = refusals}};
         open();
-        status.update([](MonitorState& state) { state.isConnected = true, state.secondsAhead = 90; });
+        port->keepsNothing = keepsNothing;
+        status.update([](MonitorState& state) { state.isConnected = true; });
         ASSERT_TRUE(page("sendButton").isEnabled());
         click("sendButton");
         EXPECT_FALSE(page("sendButton").isEnabled()) << "not twice at once";
@@ -201,9 +260,9 @@ TEST_F(SettingTest, theClockButtonNeedsAMonitorAndTellsHowItWent) {
         waitFor([this] { return !panel.messages.empty(); });
         ASSERT_EQ(panel.messages.size(), 1);
         EXPECT_TRUE(panel.messages.first().startsWith(qtTrId("TimeSync")));
-        EXPECT_EQ(panel.messages.first().contains(qtTrId("clockSet")), refusals == 0);
+        EXPECT_EQ(panel.messages.first().contains(qtTrId("clockSet")), refusals == 0 && !keepsNothing);
         EXPECT_EQ(panel.messages.first().contains(describe(MonitorResult::timeOut)), refusals > 0);
-        EXPECT_EQ(status.state().secondsAhead, refusals == 0 ? 0 : 90);
+        EXPECT_EQ(panel.messages.first().contains(describe(MonitorResult::notTaken)), keepsNothing);
         EXPECT_FALSE(status.isBusy());
         EXPECT_TRUE(page("sendButton").isEnabled());
     }

@@ -111,6 +111,15 @@ TEST_F(DownloadFlowTest, theButtonsFollowTheMonitorAndItsID) {
         startConnected();
         EXPECT_EQ(enabledButtons(), enabled) << ID;
     }
+    plan.faults = {{.kind = SimulatedFault::Kind::badCheckField, .command = Command::id}};
+    start();
+    waitFor([&] { return enabledButtons() == sendID; }); // the remedy for an ID that cannot be read
+    plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::version}};
+    start();
+    waitFor([&] { return text("lblMonitor") == qtTrId("statusSilent"); });
+    EXPECT_EQ(enabledButtons(), none);
+    plan.faults.clear();
+    startConnected();
     port->plugged = false;
     waitFor([this] { return !status.state().isConnected; });
     EXPECT_EQ(enabledButtons(), none);

@@ -107,6 +107,60 @@ TEST_F(LeavingTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
     EXPECT_EQ(panel.questions.size(), 1) << "asked once";
 }
 
+TEST_F(LeavingTest, beingEndedFromOutsideSavesWhatWasTyped) {
+    start();
+    type("PatientNotes", u"mine"_s);
+    click("btnNewPatient");
+    type("FamilyName", u"Clark"_s);
+    type("GivenNames", u"Lou"_s);
+    type("ID", u"P2"_s);
+    panel.questions.clear();
+    app->terminate();
+    EXPECT_TRUE(panel.questions.empty());
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(store.getPatientByID(u"P1"_s)->PatientNotes, u"mine"_s);
+    ASSERT_TRUE(store.validIDinXML(u"P2"_s));
+    EXPECT_EQ(store.getPatientByID(u"P2"_s)->GivenNames, u"Lou"_s);
+    panel.questions.clear();
+    start();
+    EXPECT_TRUE(panel.questions.empty()) << "nothing is left to be offered";
+}
+
+TEST_F(LeavingTest, whatCannotBeSavedAtTheEndIsOfferedAtTheNextStart) {
+    const QString title = qtTrId("unsavedTitle");
+    start();
+    click("btnNewPatient");
+    type("FamilyName", u"Clark"_s);
+    panel.answers[qtTrId("SavePatient")] = false;
+    page("tblPatients").setFocus();
+    press(Qt::Key_Down);
+    QCoreApplication::processEvents();
+    type("Height", u"x"_s);
+    app->terminate();
+    app->terminate(); // a second signal
+
+    panel.answers[title] = false;
+    panel.questions.clear();
+    start();
+    EXPECT_EQ(panel.questions, (QStringList{title, title, title, title})) << "take it up, else delete it";
+    EXPECT_EQ(value("Height"), QString()) << "neither: it waits";
+    panel.answers[title] = true;
+    panel.questions.clear();
+    start();
+    EXPECT_EQ(panel.questions, (QStringList{title, title}));
+    EXPECT_EQ(value("Height"), u"x"_s);
+    EXPECT_EQ(value("FamilyName"), u"Adams"_s);
+    type("Height", QString());
+    panel.answers[qtTrId("SavePatient")] = true;
+    page("tblPatients").setFocus();
+    press(Qt::Key_Up);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(value("FamilyName"), u"Clark"_s);
+    panel.questions.clear();
+    start();
+    EXPECT_FALSE(panel.questions.contains(title)) << "once taken up it is not offered again";
+}
+
 TEST_F(LeavingTest, aDownloadFirstSettlesWhatWasTyped) {
     startsPlugged = true;
     startConnected();

@@ -1,6 +1,7 @@
 #include "AppTest.h"
 #include "app/graph/GraphViewController.h"
 #include "app/table/ReadingTableModel.h"
+#include "store/FileLock.h"
 #include "support/ReadingPageTest.h"
 
 #include <QClipboard>
@@ -23,7 +24,8 @@ protected:
         addPatient(u"P2"_s, u"Baker"_s);
         startsPlugged = false;
     }
-    [[nodiscard]] QWidget& readingPage() override { return page("TableViewController"); }
+    [[nodiscard]] QWidget& readingPage() override { return page(pageName); }
+    const char* pageName = "TableViewController";
     void openTable() {
         start();
         click("tableBtn");
@@ -132,6 +134,33 @@ TEST_F(ReadingPagesTest, whatIsTypedIsSavedWhenThePageIsLeft) {
         end();
         EXPECT_EQ(stored(u"1"_s), text += u'+') << how;
         EXPECT_EQ(editor().toPlainText(), text);
+    }
+}
+
+TEST_F(ReadingPagesTest, whatIsTypedWhenTheProgramIsEndedFromOutsideIsNotLost) {
+    storeComments();
+    const std::pair<const char*, const char*> pages[]{{"graphBtn", "GraphViewController"},
+                                                      {"tableBtn", "TableViewController"}};
+    for (const auto& [tab, name] : pages) {
+        pageName = name;
+        start();
+        click(tab);
+        const QString before = stored(u"1"_s);
+        typeComment(u"+"_s);
+        {
+            FileLock other(store.getZELXMLPath());
+            ASSERT_EQ(other.tryTake(), FileLock::Attempt::taken);
+            app->terminate();
+        }
+        EXPECT_EQ(stored(u"1"_s), before) << "another program was at work";
+        panel.questions.clear();
+        start();
+        EXPECT_EQ(panel.questions, QStringList(qtTrId("unsavedTitle")));
+        EXPECT_EQ(stored(u"1"_s), before + u'+') << tab;
+        click(tab);
+        typeComment(u"-"_s);
+        app->terminate();
+        EXPECT_EQ(stored(u"1"_s), before + u"+-"_s) << tab;
     }
 }
 

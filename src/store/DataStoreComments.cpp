@@ -1,0 +1,96 @@
+#include "store/DataStore.h"
+#include "store/DocumentElements.h"
+#include "store/Log.h"
+#include "store/RecordXml.h"
+#include "store/Text.h"
+
+namespace zel {
+
+namespace {
+
+using Edit = DataFile::Edit;
+
+tl::unexpected<StoreError> noPatient(const QString& ID) {
+    return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
+}
+
+bool isPatient(pugi::xml_node root, const QString& ID) {
+    return static_cast<bool>(findElement(root, "Patient", "ID", ID));
+}
+
+void insertComment(pugi::xml_node root, const CommentModel& comment) {
+    comment.updateXMLNode(insertElement<CommentModel>(root, lastElement(root, "Comment")));
+}
+
+/// By patient and number; of several such, the one that still reads as it was read, or none.
+pugi::xml_node findComment(pugi::xml_node root, const CommentModel& asRead) {
+    const LocalZone zone;
+    pugi::xml_node found;
+    bool isOnly = true;
+    for (const pugi::xml_node node : root.children()) {
+        if (!isElement(node, "Comment") || childText(node, "CommentID") != asRead.CommentID) continue;
+        if (childText(node, "ID") != asRead.ID) continue;
+        if (CommentModel::initWithXMLNode(node, zone).isSame(asRead)) return node;
+        isOnly = !found;
+        found = node;
+    }
+    return isOnly ? found : pugi::xml_node{};
+}
+
+/// No other comment's, also of those without a patient.
+QString freeCommentNumber(pugi::xml_node root, const QString& wanted) {
+    if (!findElement(root, "Comment", "CommentID", wanted)) return wanted;
+    constexpr auto kind = Records::Counter::comment;
+    Records counters;
+    for (const pugi::xml_node node : root.children()) {
+        if (isElement(node, "Comment")) counters.countID(kind, childText(node, "CommentID"));
+    }
+    return counters.getMaxID(kind);
+}
+
+} // namespace
+
+tl::expected<QString, StoreError> DataStore::addCommentForCurID(CommentModel comment) {
+    if (IsEmptyID(currentID)) return tl::unexpected{StoreError{StoreErrorCode::invalidRecord, currentID, {}}};
+    comment.ID = currentID;
+    if (comment.CommentID.isEmpty()) comment.CommentID = getMaxID(Records::Counter::comment);
+    bool isKnown = false;
+    // Another program may have used the number since the file was read, or removed the patient.
+    const StoreResult added = editAndReload([&](pugi::xml_node root) {
+        isKnown = isPatient(root, comment.ID);
+        if (!isKnown) return Edit::unchanged;
+        comment.CommentID = freeCommentNumber(root, comment.CommentID);
+        insertComment(root, comment);
+        return Edit::changed;
+    });
+    if (added && !isKnown) return noPatient(comment.ID);
+    return added.map([&comment] { return comment.CommentID; });
+}
+
+StoreResult DataStore::saveCommentToXML(CommentModel comment, std::optional<CommentModel> asRead) {
+    bool isKnown = true;
+    StoreResult saved = editAndReload([&](pugi::xml_node root) {
+        if (const auto known = findComment(root, asRead.value_or(comment))) {
+            comment.updateXMLNode(known, asRead ? &*asRead : nullptr);
+            return Edit::changed;
+        }
+        qCDebug(lcStore, "nodesForXPath failed %s", qUtf8Printable(comment.CommentID));
+        isKnown = isPatient(root, comment.ID);
+        if (!isKnown) return Edit::unchanged;
+        insertComment(root, comment);
+        return Edit::changed;
+    });
+    if (saved && !isKnown) return noPatient(comment.ID);
+    return saved;
+}
+
+StoreResult DataStore::deleteSelectedCommentToXML() {
+    const CommentModel* selected = getSelectedComment();
+    if (!selected) return {};
+    return editAndReload([asRead = *selected](pugi::xml_node root) {
+        root.remove_child(findComment(root, asRead));
+        return Edit::changed;
+    });
+}
+
+} // namespace zel
