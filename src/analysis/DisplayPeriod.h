@@ -18,7 +18,7 @@ public:
 
     /// Always whole days: the first second of one to the last second of another.
     [[nodiscard]] const Period& getTimePeriod() const { return display; }
-    /// A missing end becomes getFirstDayOfThisYear() as it is.
+    /// A missing end becomes the first day of this year as it is.
     void setTimePeriod(Date begin, Date end);
     /// The instants of the patient's earliest dated reading and of the latest reading.
     [[nodiscard]] const Period& getDataPeriod() const { return data; }
@@ -47,7 +47,6 @@ public:
 
     /// Comments may be placed on the chart: the display period spans fewer than 47 days.
     [[nodiscard]] bool isValidCommentTimeRange() const;
-    [[nodiscard]] Instant getFirstDayOfThisYear() const { return firstDayOfThisYear; }
     [[nodiscard]] ReadingSelection selection() const { return {display, view, includeUndated}; }
 
     /// The later of three calendar months before \p end and \p begin.

@@ -27,7 +27,6 @@ public:
 
     [[nodiscard]] const ReportSource& report() const { return source; }
     [[nodiscard]] const QPageSize& paper() const { return paperSize; }
-    void setPaper(const QPageSize& paper) { paperSize = paper; }
     void setNeedPhysicianInfo(bool need) { source.needPhysicianInfo = need; }
 
 private:

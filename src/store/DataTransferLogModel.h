@@ -18,7 +18,6 @@ struct DataTransferLogModel {
     std::uint32_t numofRecord = 0; ///< how many new readings it brought
     DayNumber transferDay = noDay;
 
-    [[nodiscard]] QString strTransferDate() const { return dayText(transferDay); } ///< "yyyy/MM/dd"
 
     static DataTransferLogModel initWithXMLNode(pugi::xml_node element, const LocalZone& zone);
     /// A new, empty DataTransferLog element as \p root's last child.

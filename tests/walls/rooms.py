@@ -45,6 +45,17 @@ LIBRARIES = (
     ("ICU", r"unicode/", r"ICU::", ("store",)),
 )
 
+# What tests share, tests/support/NAME.h and .cpp: the room or wing that each stands on; the others need the store alone.
+SUPPORT = {
+    "ReadingPageTest": "app/frame",
+    "ScriptedChooser": "app/widgets",
+    "ScriptedPrinters": "app/printing",
+    "MonitorTest": "app/device",
+    "WidgetTest": "app/widgets",
+}
+# Folders of tests that are no room's, and the room that they are held to; None: whatever they like.
+OTHER_TESTS = {"printing": "app/printing", "realusb": "monitor", "walls": None, "data": None}
+
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 
 
@@ -111,7 +122,8 @@ def linked_words(path):
 
 
 def links_room_wrong(room, word):
-    library = re.match(r"zel_(\w+)$", word)
+    """Also for what tests share: zel_test_device brings the wing device."""
+    library = re.match(r"zel_(\w+)$", re.sub(r"^zel_test_", "zel_app_", word))
     return library and room_wrong(room, room_of(library[1].replace("app_", "app/", 1)))
 
 
@@ -131,7 +143,10 @@ def findings(source, qt_headers):
         if room == ".":
             continue  # main, which ties the rooms together
         if room in WINGED and not any(name.endswith((".h", ".cpp")) for name in names):
-            continue  # the list of its wings
+            path = os.path.join(folder, "CMakeLists.txt")  # the list of its wings, which links nothing
+            words = linked_words(path) if "CMakeLists.txt" in names else []
+            yield from (f"{path}: links {w} through a wall" for w in words if re.match(r"zel_|Qt6::", w))
+            continue
         if room not in DOORS:
             yield f"{folder}: is a room that tests/walls/rooms.py does not know"
             continue
@@ -146,21 +161,34 @@ def findings(source, qt_headers):
 def test_include_findings(room, path):
     with open(path, encoding="utf-8") as file:
         for number, line in enumerate(file, 1):
-            found = INCLUDE.match(line)
-            if found and room_wrong(room, room_of(found[2])):
+            if not (found := INCLUDE.match(line)):
+                continue
+            name = os.path.splitext(found[2])[0]
+            used = SUPPORT.get(name.removeprefix("support/"), "store") if name.startswith("support/") else room_of(found[2])
+            if ".." in found[2] or room_wrong(room, used):
                 yield f"{path}:{number}: {found[2]} is not of this room or behind its doors"
+
+
+def test_room(folder, name):
+    """The room that a file of the tests is held to; "" where there is none."""
+    if folder == "support":
+        return SUPPORT.get(os.path.splitext(name)[0], "store")
+    return OTHER_TESTS.get(folder, room_of(folder) if room_of(folder) in DOORS else "")
 
 
 def test_findings(tests):
     """The tests of a room see and link what the room does; libraries are theirs to choose."""
-    for room in DOORS:
-        for folder, _, names in sorted(os.walk(os.path.join(tests, room))):
-            for name in sorted(names):
-                path = os.path.join(folder, name)
-                if name.endswith((".h", ".cpp")):
+    for folder, _, names in sorted(os.walk(tests)):
+        at = os.path.relpath(folder, tests)
+        for name in sorted(names):
+            path, room = os.path.join(folder, name), test_room(at, name)
+            if name.endswith((".h", ".cpp")):
+                if room == "":
+                    yield f"{path}: is in no room's or wing's folder of tests"
+                elif room:
                     yield from test_include_findings(room, path)
-                elif name == "CMakeLists.txt":
-                    yield from (f"{path}: links {w} through a wall" for w in linked_words(path) if links_room_wrong(room, w))
+            elif name == "CMakeLists.txt" and room and at != "support":
+                yield from (f"{path}: links {w} through a wall" for w in linked_words(path) if links_room_wrong(room, w))
 
 
 if __name__ == "__main__":

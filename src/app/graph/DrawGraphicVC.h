@@ -26,7 +26,6 @@ public:
     /// The styles of the charts on the screen, for a pair that is to look like them.
     void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
     [[nodiscard]] PulseView& getPulseView() { return *pulseView; }
-    [[nodiscard]] BloodView& getBloodView() { return *bloodView; }
     /// The day that a comment is for that is made without pointing at a place.
     [[nodiscard]] Instant commentDay() const;
 

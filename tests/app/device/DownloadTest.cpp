@@ -158,6 +158,45 @@ INSTANTIATE_TEST_SUITE_P(Faults, FailingDownloadTest,
                                                  MonitorResult::badCheckField}),
                          [](const auto& parameter) { return parameter.param.name; });
 
+TEST_F(DownloadTest, aFaultOfTheLineLeavesFileAndMonitorInOrderAndTheNextDownloadWorks) {
+    using enum SimulatedFault::Kind;
+    using namespace std::chrono_literals;
+    setEraseAfterReading(true);
+    const QByteArray before = dataFile();
+    const std::vector<std::pair<Command, int>> answers{{Command::version, 1},
+                                                       {Command::id, 3},
+                                                       {Command::date, 11},
+                                                       {Command::records, 40}}; // reports of each
+    for (const auto& [command, reports] : answers) {
+        for (const auto kind : {unplug, halfAnswer, wrongByte, surplusByte, late}) {
+            for (const int report : {0, reports / 2, reports - 1}) {
+                SCOPED_TRACE(testing::Message()
+                             << static_cast<int>(command) << ' ' << static_cast<int>(kind) << ' ' << report);
+                replaceDataFile(before);
+                ASSERT_TRUE(store.loadXML());
+                plan.faults = {{.kind = kind,
+                                .command = command,
+                                .times = 1,
+                                .afterReports = report,
+                                .delay = 4s,
+                                .replugAfterOpens = 2}};
+                startConnected();
+                DownloadOutcome how = download();
+                if (how != all) {
+                    EXPECT_NE(how.failure, QString());
+                    EXPECT_EQ(dataFile(), before);
+                    EXPECT_EQ(readingsInMonitor(), 12);
+                    waitFor([this] { return status.state().IDOnDevice && !status.isBusy(); });
+                    how = download();
+                }
+                EXPECT_EQ(how, all) << qPrintable(describe(how));
+                EXPECT_EQ(store.getReadingForCurID().size(), 12U);
+                EXPECT_EQ(readingsInMonitor(), 0);
+            }
+        }
+    }
+}
+
 TEST_F(DownloadTest, endsWhenTheUserCancelsIt) {
     plan.faults = {{.kind = SimulatedFault::Kind::noAnswer, .command = Command::records, .times = 1}};
     startConnected();

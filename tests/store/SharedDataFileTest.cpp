@@ -1,0 +1,114 @@
+#include "DataStoreTest.h"
+#include "store/FileLock.h"
+#include "support/FullDisk.h"
+
+#include <filesystem>
+
+namespace zel {
+namespace {
+
+TEST_F(DataStoreTest, DownloadSeesWhatAnotherProgramStored) {
+    dataFileOfA("");
+    ASSERT_TRUE(store.load());
+    DataStore other{{home.path(), program.path(), program.path()}, clock};
+    ASSERT_TRUE(other.load());
+    other.setCurrentID(u"A"_s);
+    store.setCurrentID(u"A"_s);
+    EXPECT_EQ(other.newDataTransfer({reading(120)}).value(), 1U);
+    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121)}).value(), 1U);
+    EXPECT_EQ(store.getReadingForCurID().at(0).RecID, u"1000001"_s);
+    EXPECT_EQ(store.getReadingForCurID().at(1).RecID, u"1000002"_s);
+}
+
+TEST_F(DataStoreTest, FailedWriteStoresNothingAndSaysSo) {
+    dataFileOfA("");
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::invalidRecord); // nobody's
+    store.setCurrentID(u"A"_s);
+    const QByteArray before = content();
+    {
+        const FullDisk full{static_cast<rlim_t>(before.size() + 100)};
+        EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::sizeLimit);
+    }
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(store.newDataTransfer({reading(120)}).value(), 1U);
+}
+
+TEST_F(DataStoreTest, WaitsItsTurnWhileAnotherProgramHoldsTheFile) {
+    dataFile("<SystemSetting/>");
+    const QByteArray before = content();
+    {
+        FileLock other{path};
+        QFile::setPermissions(path, QFile::permissions(path) | QFileDevice::ReadGroup);
+        ASSERT_EQ(other.tryTake(), FileLock::Attempt::taken);
+        EXPECT_TRUE(QFile::permissions(other.path()) & QFileDevice::ReadGroup) << "others can wait for it";
+        // However long it is at work.
+        std::filesystem::last_write_time(other.path().toStdString(), std::filesystem::file_time_type::min());
+        EXPECT_EQ(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)).error().code, StoreErrorCode::busy);
+        EXPECT_EQ(std::chrono::floor<std::chrono::seconds>(clock.slept()), std::chrono::seconds{3});
+        EXPECT_EQ(content(), before);
+    }
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+}
+
+TEST_F(DataStoreTest, WhatCouldNotBeReadAgainNeverTakesTheFilesPlace) {
+    dataFile("<SystemSetting/>");
+    const QByteArray before = content();
+    const DataFile file{{home.path(), program.path(), program.path()}, clock};
+    const std::function<void(pugi::xml_node)> spoilings[]{
+        [](pugi::xml_node root) { root.append_attribute("a").set_value("\x01"); },
+        [](pugi::xml_node root) { root.append_child("not a name"); },
+        [](pugi::xml_node root) {
+            for (int level = 0; level < 100; ++level)
+                root = root.append_child("a");
+        }};
+    for (const auto& spoil : spoilings) {
+        const StoreResult result = file.edit([&spoil](pugi::xml_node root) {
+            spoil(root);
+            return DataFile::Edit::changed;
+        });
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().code, StoreErrorCode::unreadable);
+        EXPECT_EQ(content(), before);
+    }
+}
+
+TEST_F(DataStoreTest, HomesThatShareOneFileByALinkTakeTurns) {
+    dataFile("<SystemSetting/>");
+    const QTemporaryDir otherHome;
+    const QString otherPath = otherHome.filePath(u"Library/Application Support/ZELMac/ZEL.xml"_s);
+    QDir{}.mkpath(QFileInfo{otherPath}.path());
+    ASSERT_TRUE(QFile::link(path, otherPath));
+    ManualClock otherClock;
+    const DataFile own{{home.path(), program.path(), program.path()}, clock};
+    const DataFile linked{{otherHome.path(), program.path(), program.path()}, otherClock};
+    const StoreResult done = own.edit([&](pugi::xml_node) {
+        const auto change = [](pugi::xml_node) { return DataFile::Edit::changed; };
+        const StoreResult second = linked.edit(change);
+        EXPECT_TRUE(!second && second.error().code == StoreErrorCode::busy);
+        return DataFile::Edit::unchanged;
+    });
+    EXPECT_TRUE(done);
+}
+
+TEST_F(DataStoreTest, WhatKilledProgramsLeftHoldsNobodyUp) {
+    const QString lock = path + u".lock"_s;
+    const QString temporary = QFileInfo{path}.path() + u"/.ZEL.xml.new-abcdef"_s;
+    dataFile("<SystemSetting/>");
+    write(temporary, "half a file");
+    ASSERT_TRUE(store.load());
+    EXPECT_FALSE(QFileInfo::exists(temporary));
+    write(lock, "");
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"A"_s, u"Abel"_s)));
+    ASSERT_TRUE(QDir{}.mkdir(lock));
+    EXPECT_TRUE(store.saveXMLPatient(patient(u"B"_s, u"Baker"_s)));
+    EXPECT_FALSE(QFileInfo::exists(lock));
+    ASSERT_TRUE(QDir{}.mkpath(lock + u"/own"_s));
+    const StoreResult blocked = store.saveXMLPatient(patient(u"C"_s, u"Clark"_s));
+    ASSERT_FALSE(blocked);
+    EXPECT_EQ(blocked.error(), (StoreError{StoreErrorCode::lockBlocked, lock, {}}));
+    EXPECT_EQ(clock.slept(), std::chrono::seconds{0}) << "nobody has waited";
+}
+
+} // namespace
+} // namespace zel
