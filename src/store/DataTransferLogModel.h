@@ -18,7 +18,6 @@ struct DataTransferLogModel {
     std::uint32_t numofRecord = 0; ///< how many new readings it brought
     DayNumber transferDay = noDay;
 
-
     static DataTransferLogModel initWithXMLNode(pugi::xml_node element, const LocalZone& zone);
     /// A new, empty DataTransferLog element as \p root's last child.
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
