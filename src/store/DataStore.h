@@ -55,7 +55,7 @@ public:
     /// Writes the settings in which \p wanted differs from \p shown; the others stay as they are in the file
     /// by now. Does not reload. \return what the file has place for, as it is written
     [[nodiscard]] tl::expected<SettingModel, StoreError>
-    changeSetting(SettingModel shown, SettingModel wanted, WithoutPlace withoutPlace);
+    changeSetting(const SettingModel& shown, const SettingModel& wanted, WithoutPlace withoutPlace);
 
     /// Stores what a download brought for the patient, in the monitor's order, leaving out what is stored
     /// already, with one log entry if anything is new; reloads.

@@ -156,10 +156,11 @@ StoreResult DataStore::saveSetting() {
     return saved.map([this](const SettingModel& kept) { settingAsRead = records.gSettingModel = kept; });
 }
 
-tl::expected<SettingModel, StoreError> DataStore::changeSetting(SettingModel shown, SettingModel wanted,
-                                                                WithoutPlace withoutPlace) {
+tl::expected<SettingModel, StoreError>
+DataStore::changeSetting(const SettingModel& shown, const SettingModel& wanted, WithoutPlace withoutPlace) {
     SettingModel kept;
-    const auto write = [&](pugi::xml_node root) {
+    // By value: they may be the settings that are read anew after a failed load.
+    const auto write = [&kept, withoutPlace, shown, wanted](pugi::xml_node root) {
         pugi::xml_node element = firstElement(root, "SystemSetting");
         if (!element) element = SettingModel::makeXmlNode(root);
         SettingModel meant = SettingModel::initWithXMLNode(element);
