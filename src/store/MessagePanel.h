@@ -35,7 +35,7 @@ public:
     }
     /// For what comes by itself: calls \p speak once the user is not typing, and what that shows or asks
     /// first takes no keys that were meant for something else. Dropped when \p context dies.
-    virtual void interject(QObject* context, std::function<void()> speak) {
+    virtual void interject(QObject* context, const std::function<void()>& speak) {
         if (context) speak();
     }
 };

@@ -13,6 +13,7 @@ namespace {
 struct Likeness {
     Date time;
     ReadingModel::Values values;
+    // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy 14 takes the comparison with 0 for a pointer's
     auto operator<=>(const Likeness&) const = default;
 };
 

@@ -165,7 +165,7 @@ TEST_F(MonitorTransportTest, WaitsEndInTime) {
 TEST_F(MonitorTransportTest, ClockThatIsSetBackDoesNotMakeAWaitLast) {
     const std::pair<std::chrono::milliseconds, double> cases[] = {{24h, 1.5}, {1100ms, 1.5}, {900ms, 1.9}};
     for (const auto& [step, longest] : cases) { // a step of a second at most is waited for
-        port.onRead = [this, step, reads = 0]() mutable {
+        port.onRead = [this, step = step, reads = 0]() mutable {
             if (++reads == 500) clock.advance(-step);
         };
         const auto before = clock.slept();

@@ -30,9 +30,9 @@ public:
         whenAsked();
         return keepAnswer;
     }
-    void interject(QObject* context, std::function<void()> speak) override {
-        if (!isTyping) return MessagePanel::interject(context, std::move(speak));
-        heldBack.push_back(std::move(speak));
+    void interject(QObject* context, const std::function<void()>& speak) override {
+        if (!isTyping) return MessagePanel::interject(context, speak);
+        heldBack.push_back(speak);
     }
 
     QStringList messages;

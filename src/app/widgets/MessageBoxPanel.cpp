@@ -136,8 +136,8 @@ void MessageBoxPanel::open(QMessageBox& box, QPushButton* preset) {
     box.exec();
 }
 
-void MessageBoxPanel::interject(QObject* context, std::function<void()> speak) {
-    keyboard.whenStill(context, [this, speak = std::move(speak)] {
+void MessageBoxPanel::interject(QObject* context, const std::function<void()>& speak) {
+    keyboard.whenStill(context, [this, speak] {
         isUnasked = true;
         speak();
         isUnasked = false;

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool AskToErase(const QString& text, const QString& title) override;
     [[nodiscard]] bool AskBeforeLosing(const QString& text, const QString& title) override;
     [[nodiscard]] KeepAnswer AskToKeep(const QString& text, const QString& title) override;
-    void interject(QObject* context, std::function<void()> speak) override;
+    void interject(QObject* context, const std::function<void()>& speak) override;
 
 private:
     enum class Kind { harmless, erasing, losing };

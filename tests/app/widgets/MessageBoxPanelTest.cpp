@@ -72,7 +72,7 @@ TEST(MessageBoxPanelTest, escAndTheCloseBoxAnswerWhatChangesNothing) {
     }
     for (const auto& [button, answer] :
          {std::pair("btnKeep", KeepAnswer::keep), std::pair("btnErase", KeepAnswer::erase)}) {
-        onBox([button](QWidget& box) { pressButton(box, button); });
+        onBox([button = button](QWidget& box) { pressButton(box, button); });
         EXPECT_EQ(panel.AskToKeep(u"text"_s, u"title"_s), answer);
     }
     onBox([](QWidget& box) { pressButton(box, "btnNo"); });
