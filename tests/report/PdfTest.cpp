@@ -77,7 +77,7 @@ TEST(Pdf, everySectionIsPrintedForAYearOfDataAndForNone) {
 }
 
 TEST(Pdf, namesTheCharacterThatWasWrittenWhereAFontHasOneGlyphForSeveral) {
-    const std::string glyph = "1 beginbfrange\n<0001> <0001> ", end = "\nendbfrange";
+    const QByteArray glyph = "1 beginbfrange\n<0001> <0001> ", end = "\nendbfrange";
     for (const auto& [before, after] : {
              std::pair(glyph + "<2F29>" + end, glyph + "<5C0F>" + end),
              {glyph + "[<738B> <2F29> <0009> <2EE2> <2EE9> <2EF0> <2ED1> <2E9F> <2E80> ]" + end,
@@ -86,9 +86,9 @@ TEST(Pdf, namesTheCharacterThatWasWrittenWhereAFontHasOneGlyphForSeveral) {
              {glyph + "<2F29>", glyph + "<2F29>"}, // without an end it is no map
              {"(<0001> <0001> <2F29>) Tj", "(<0001> <0001> <2F29>) Tj"},
          }) {
-        QByteArray pdf = QByteArray::fromStdString(before);
+        QByteArray pdf = before;
         mendCharacters(pdf);
-        EXPECT_EQ(pdf.toStdString(), after);
+        EXPECT_EQ(pdf, after) << before.constData();
     }
 }
 
