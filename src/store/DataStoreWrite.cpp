@@ -96,7 +96,8 @@ StoreResult DataStore::edit(const DataFile::Change& change) {
 
 StoreResult DataStore::editAndReload(const DataFile::Change& change) {
     StoreResult written = edit(change);
-    if (written) std::ignore = loadXML();
+    const bool isInPlace = written || written.error().code == StoreErrorCode::notFlushed;
+    if (isInPlace) std::ignore = loadXML();
     return written;
 }
 

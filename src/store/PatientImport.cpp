@@ -3,6 +3,7 @@
 #include "store/DataFile.h"
 #include "store/DocumentElements.h"
 #include "store/Log.h"
+#include "store/RecordXml.h"
 #include "store/Records.h"
 #include "store/Text.h"
 
@@ -57,13 +58,13 @@ void renumber(const std::vector<pugi::xml_node>& copies, QSet<QString> taken) {
     for (const QString& number : taken)
         counters.countID(kind, number);
     for (const pugi::xml_node copy : copies)
-        counters.countID(kind, elementText(copy.child("CommentID")));
+        counters.countID(kind, childText(copy, "CommentID"));
     for (const pugi::xml_node copy : copies) {
-        QString number = elementText(copy.child("CommentID"));
+        QString number = childText(copy, "CommentID");
         if (taken.contains(number)) {
             number = counters.getMaxID(kind);
             counters.countID(kind, number);
-            setElementText(copy.child("CommentID"), number);
+            setElementText(firstElement(copy, "CommentID"), number);
         }
         taken.insert(number);
     }
@@ -72,7 +73,7 @@ void renumber(const std::vector<pugi::xml_node>& copies, QSet<QString> taken) {
 QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) {
     QSet<QString> texts;
     for (const pugi::xml_node node : root.children())
-        if (isElement(node, kind)) texts.insert(elementText(node.child(child)));
+        if (isElement(node, kind)) texts.insert(childText(node, child));
     return texts;
 }
 
@@ -120,7 +121,7 @@ std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString&
     QSet<QString> IDs;
     for (const pugi::xml_node node : imported.children()) {
         if (!isElement(node, "Patient")) continue;
-        const QString ID = elementText(node.child("ID"));
+        const QString ID = childText(node, "ID");
         if (IsEmptyID(ID)) return ImportRefusal{ImportRefusalCode::noID, path, {}, {}};
         if (IDs.contains(ID)) return ImportRefusal{ImportRefusalCode::sameIDTwice, path, ID, {}};
         IDs.insert(ID);

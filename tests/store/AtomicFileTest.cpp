@@ -1,7 +1,9 @@
 #include "store/AtomicFile.h"
 
+#include "store/DataStore.h"
 #include "store/NewFile.h"
 #include "support/FullDisk.h"
+#include "support/ManualClock.h"
 
 #include <QDir>
 #include <QFile>
@@ -74,6 +76,9 @@ TEST_F(AtomicFileTest, PipesAndDevicesAreNotReplaced) {
     EXPECT_FALSE(QFileInfo{path}.isFile());
     EXPECT_EQ(readFile(path).error().code, StoreErrorCode::notReadable)
         << "and it does not wait for a writer";
+    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, path + u".link"_s));
+    EXPECT_EQ(readFile(path + u".link"_s).error().code, StoreErrorCode::notReadable)
+        << "and it does not read without end";
 }
 
 TEST_F(AtomicFileTest, FolderThatCannotBeFlushedIsNoSuccess) {
@@ -85,6 +90,22 @@ TEST_F(AtomicFileTest, FolderThatCannotBeFlushedIsNoSuccess) {
     EXPECT_EQ(result.error().code, StoreErrorCode::notFlushed);
     EXPECT_EQ(readFile(path).value(), "two") << "it is in its place, as the error says";
     EXPECT_EQ(filesInFolder(), 1);
+}
+
+TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
+    ManualClock clock;
+    DataStore store{{folder.path(), folder.path(), folder.path()}, clock};
+    QDir{}.mkpath(QFileInfo{store.getZELXMLPath()}.path());
+    ASSERT_TRUE(
+        replaceFile(store.getZELXMLPath(), "<ZEL><SystemSetting/><Patient><ID>A</ID></Patient></ZEL>"));
+    ASSERT_TRUE(store.loadXML());
+    store.setCurrentID(u"A"_s);
+    flushOfFoldersFails = true;
+    const auto added = store.addCommentForCurID({});
+    flushOfFoldersFails = false;
+    ASSERT_FALSE(added);
+    EXPECT_EQ(added.error().code, StoreErrorCode::notFlushed);
+    EXPECT_EQ(store.getCommentForCurID().size(), 1U);
 }
 
 TEST_F(AtomicFileTest, OwnerIsKept) {

@@ -1,4 +1,5 @@
 #include "app/patients/PatientViewController.h"
+#include "support/DamageAfterWrite.h"
 #include "support/MonitorTest.h"
 
 #include <QApplication>
@@ -248,6 +249,12 @@ TEST_F(PatientPageTest, aWriteErrorIsToldAndLosesNothing) {
     replaceDataFile(before);
     save();
     EXPECT_EQ(patient(u"P1"_s).PatientNotes, u"mine"_s);
+    panel.messages.clear();
+    type("PatientNotes", u"more"_s);
+    const DamageAfterWrite damage(store.getZELXMLPath());
+    save();
+    ASSERT_EQ(panel.messages.size(), 1);
+    EXPECT_TRUE(panel.messages.first().contains(qtTrId("storedNotReadBack").section(u'%', 0, 0)));
 }
 
 TEST_F(PatientPageTest, thereIsOneUnsavedNewPatientWhoIsKeptUntilSavedOrDeleted) {

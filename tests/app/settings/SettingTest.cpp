@@ -1,5 +1,6 @@
 #include "SettingDialogTest.h"
 #include "store/PressureLimits.h"
+#include "support/DamageAfterWrite.h"
 #include "support/FullDisk.h"
 
 #include <QCheckBox>
@@ -227,6 +228,16 @@ TEST_F(SettingTest, aFailedWriteLosesNothing) {
     ASSERT_TRUE(dialog().isVisible());
     click("okButton");
     EXPECT_EQ(store.getSetting(), changed) << "all that was entered was still there";
+}
+
+TEST_F(SettingTest, aSaveThatCannotBeReadBackIsToldAsASave) {
+    open();
+    changeEverything();
+    const DamageAfterWrite damage(store.getZELXMLPath());
+    click("okButton");
+    EXPECT_FALSE(dialog().isVisible());
+    ASSERT_EQ(panel.messages.size(), 1);
+    EXPECT_TRUE(panel.messages.first().contains(qtTrId("storedNotReadBack").section(u'%', 0, 0)));
 }
 
 TEST_F(SettingTest, tellsWhatTheFileHadNoPlaceFor) {

@@ -1,7 +1,10 @@
 #include "AppTest.h"
+#include "app/shell/TerminationSignals.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
+
+#include <csignal>
 
 namespace zel {
 
@@ -108,6 +111,23 @@ TEST_F(LeavingTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
 }
 
 TEST_F(LeavingTest, beingEndedFromOutsideSavesWhatWasTyped) {
+    TerminationSignals termination;
+    termination.watch();
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        start();
+        QObject::connect(&termination, &TerminationSignals::terminated, app.get(), &AppController::terminate);
+        const QSignalSpy closed(app.get(), &AppController::closed);
+        const QString notes = u"before signal %1"_s.arg(signal);
+        type("PatientNotes", notes);
+        ASSERT_EQ(std::raise(signal), 0);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(closed.count(), 1) << signal;
+        ASSERT_TRUE(store.loadXML());
+        EXPECT_EQ(store.getPatientByID(u"P1"_s)->PatientNotes, notes);
+    }
+}
+
+TEST_F(LeavingTest, theEndSavesEveryPatientThatWasTyped) {
     start();
     type("PatientNotes", u"mine"_s);
     click("btnNewPatient");
