@@ -6,6 +6,7 @@
     <name>store</name>
     <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
     <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>
+    <message id="ExportNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut it may be missing. Please check the disk.</translation></message>
     <message id="ExportNotWritten"><translation>The file %1 could not be written. Please check that the folder is there, that you may write in it, and that the disk is not full.</translation></message>
     <message id="ExportSameFileName"><translation>The file %1 was not written: this disk takes its name for the one of the file just written for the patient below. Please export to a disk that tells capital letters from small ones.</translation></message>
     <message id="Female"><translation>Female</translation></message>

@@ -43,8 +43,16 @@ QString sentence(ReportErrorCode code) {
     case ReportErrorCode::notPainted: return qtTrId("reportNotPainted");
     case ReportErrorCode::notWritable: return qtTrId("reportNotWritable");
     case ReportErrorCode::writeFailed: return qtTrId("reportWriteFailed");
+    case ReportErrorCode::notFlushed: return qtTrId("ExportNotFlushed");
     }
     return {};
+}
+
+ReportError reportError(const StoreError& error) {
+    using enum ReportErrorCode;
+    if (error.code == StoreErrorCode::notFlushed) return {notFlushed, error.path, error.detail};
+    if (error.code == StoreErrorCode::notWritable) return {notWritable, error.path, error.detail};
+    return {writeFailed, error.path, error.detail.isEmpty() ? describe(error) : error.detail};
 }
 
 } // namespace
@@ -73,11 +81,7 @@ tl::expected<void, ReportError> writePdf(const PrintView& view, std::span<const 
                                          const QString& path) {
     const auto pdf = makePdf(view, sections);
     if (!pdf) return tl::unexpected(pdf.error());
-    return replaceFile(path, *pdf).map_error([](const StoreError& error) {
-        const bool isWritable = error.code != StoreErrorCode::notWritable;
-        return ReportError{isWritable ? ReportErrorCode::writeFailed : ReportErrorCode::notWritable,
-                           error.path, isWritable && error.detail.isEmpty() ? describe(error) : error.detail};
-    });
+    return replaceFile(path, *pdf).map_error(reportError);
 }
 
 } // namespace zel

@@ -16,9 +16,10 @@ enum class ReportErrorCode {
     notPainted,  ///< the pages could not be turned into a PDF
     notWritable, ///< the file or its folder may not be written
     writeFailed, ///< writing began and failed, as on a full disk
+    notFlushed,  ///< the PDF is there, but may be gone after a power cut
 };
 
-/// Why there is no PDF. A file that was there before is as it was.
+/// Why there is no PDF. A file that was there before is as it was, but for notFlushed.
 struct ReportError {
     ReportErrorCode code;
     QString path;   ///< the file concerned, if any

@@ -38,6 +38,8 @@ QString withDetail(const QString& text, const StoreError& error) {
 QString describe(const StoreError& error) { return withDetail(sentence(error.code).arg(error.path), error); }
 
 QString describeExport(const StoreError& error) {
+    if (error.code == StoreErrorCode::notFlushed)
+        return withDetail(qtTrId("ExportNotFlushed").arg(error.path), error);
     const bool isWriting =
         error.code == StoreErrorCode::notWritable || error.code == StoreErrorCode::writeFailed;
     return isWriting ? withDetail(qtTrId("ExportNotWritten").arg(error.path), error) : describe(error);
