@@ -1,0 +1,62 @@
+// Every call of the system on the data file's folder fails once while the window saves, or downloads.
+#include "AppTest.h"
+#include "support/FailingCalls.h"
+
+#include <QPlainTextEdit>
+
+#include <cerrno>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class FailedCallTest : public AppTest {
+protected:
+    FailedCallTest() { addPatient(u"DEMO1"_s, u"Adams"_s); }
+
+    /// \p act with each call failing in turn, from the same file; \p check sees the file as \p act makes it.
+    void eachCall(const std::function<void()>& prepare, const std::function<void()>& act,
+                  const std::function<void(bool isStored)>& check) {
+        const QByteArray before = dataFile();
+        for (const int error : {EIO, ENOSPC, EACCES, EINTR}) {
+            for (unsigned nth = 1; !HasFailure(); ++nth) {
+                replaceDataFile(before);
+                ASSERT_TRUE(store.loadXML());
+                prepare();
+                panel.messages.clear();
+                QByteArray call;
+                {
+                    const FailingCalls failing(home.path(), nth, error);
+                    act();
+                    call = FailingCalls::failed();
+                }
+                SCOPED_TRACE(call.toStdString() + ", call " + std::to_string(nth) + ", error "
+                             + std::to_string(error));
+                check(dataFile() != before);
+                if (call.isEmpty()) break; // there are no more
+            }
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(FailedCallTest, WhatWasTypedIsStoredOrStillThere) {
+    startsPlugged = false;
+    start();
+    int number = 0;
+    QString typed;
+    eachCall([&] { type("PatientNotes", typed = QString::number(++number)); },
+             [&] { press(Qt::Key_S, Qt::ControlModifier); },
+             [&](bool isStored) {
+                 EXPECT_TRUE(isStored || !panel.messages.empty());
+                 const bool isShown = find<QPlainTextEdit>("PatientNotes").toPlainText() == typed;
+                 EXPECT_TRUE(isStored || isShown);
+                 EXPECT_EQ(isStored, dataFile().contains("<PatientNotes>" + typed.toUtf8()));
+             });
+    EXPECT_GT(number, 40);
+}
+
+} // namespace zel
