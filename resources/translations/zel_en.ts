@@ -23,6 +23,7 @@
     <message id="LimitOrder"><translation>The diastolic limit has to be below the systolic one.</translation></message>
     <message id="LimitSystolic"><translation>The systolic limit is %1.</translation></message>
     <message id="Male"><translation>Male</translation></message>
+    <message id="NotBackedUp"><translation>No copy of the data file could be made in %1 before this change. %2</translation></message>
     <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
     <message id="SettingText"><translation>any text without control characters</translation></message>
@@ -31,6 +32,8 @@
     <message id="StoreDiskFull"><translation>The disk is full: %1 could not be written. What was there is as it was. Please make room on the disk, then try again.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 is in the place where programs note that they work on the data file, and is no such note. Nothing was changed; please move it away, then try again.</translation></message>
+    <message id="StoreNoRoomForBackup"><translation>No copy of the data file is kept in %1: all copies together may take a tenth of the free disk, which is less than the file.</translation></message>
+    <message id="StoreNoSuchBackup"><translation>There is no copy of the data file that is called “%1”.</translation></message>
     <message id="StoreNoSuchRecord"><translation>There is no patient with the ID “%1”.</translation></message>
     <message id="StoreNotCreated"><translation>There is no data file yet, and %1 could not be made. Please check that its folder may be written and the disk is not full, then start the program again.</translation></message>
     <message id="StoreNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut the older content may be there again. Please check the disk; the monitor's readings are kept in the monitor.</translation></message>
@@ -599,6 +602,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <name>cli</name>
     <message id="CliAddMissing"><translation>--id, --family-name and --given-names go with --add.</translation></message>
     <message id="CliAmAndPm"><translation>Give either --am or --pm, not both.</translation></message>
+    <message id="CliBackupUsage"><translation>Say list, create, or restore and a copy's name.</translation></message>
     <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
     <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
     <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
@@ -634,6 +638,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
   export-csv export a patient and the readings as a CSV file
   import     take in patients from exported XML files
   settings   show the settings, or change some
+  backup     list the copies of the data file, make one, or go back to one
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
@@ -641,6 +646,22 @@ Options:
   --version                    show the version
 
 Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage.</translation></message>
+    <message id="CliHelpBackup"><translation>Usage: zel backup list
+       zel backup create
+       zel backup restore NAME
+
+Before the first change of a day the data file is copied into the folder Backups beside it. The copies of
+the last 14 days are kept, and one a month for two years, as long as they take no more than a tenth of the
+free disk.
+
+list      prints the copies as CSV, the newest first, and what is in them
+create    makes another copy now, and prints 'written: FILE'
+restore   puts a copy in the data file's place, and prints 'restored: NAME'; what was there is kept as another
+          copy, whose name it prints ('kept: NAME'), so that restoring that one takes it back
+
+Options:
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
     <message id="CliHelpDownload"><translation>Usage: zel download --patient ID [--any-monitor] [OPTION]...
 
 Downloads the monitor's readings, stores those that are not stored yet, and prints how many were

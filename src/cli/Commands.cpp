@@ -47,9 +47,10 @@ void printLine(std::ostream& stream, const QString& text) {
     stream << text.toStdString() << '\n' << std::flush;
 }
 
-std::array<Command, 10> commands() {
-    return {monitorCommand(), patientsCommand(),  downloadCommand(),  readingsCommand(), statisticsCommand(),
-            reportCommand(),  exportXmlCommand(), exportCsvCommand(), importCommand(),   settingsCommand()};
+std::array<Command, 11> commands() {
+    return {monitorCommand(),    patientsCommand(), downloadCommand(),  readingsCommand(),
+            statisticsCommand(), reportCommand(),   exportXmlCommand(), exportCsvCommand(),
+            importCommand(),     settingsCommand(), backupCommand()};
 }
 
 std::optional<Command> commandByName(const QString& name) {

@@ -1,10 +1,13 @@
 #include "cli/OpenStore.h"
 
 #include "cli/ConsolePanel.h"
+#include "cli/Usage.h"
 
 #include <QDir>
 
 namespace zel::cli {
+
+using namespace Qt::StringLiterals;
 
 OpenedStore openStore(Surroundings& around) {
     if (QDir::isRelativePath(around.paths.home)) return failed(qtTrId("CliNoHome"));
@@ -16,7 +19,10 @@ OpenedStore openStore(Surroundings& around) {
 OpenedStore openStoreForWriting(Surroundings& around) {
     OpenedStore store = openStore(around);
     ConsolePanel panel(around.err);
-    if (store && !(*store)->checkXmlWritable(panel)) return failed({});
+    if (!store) return store;
+    if (!(*store)->checkXmlWritable(panel)) return failed({});
+    QObject::connect(store->get(), &DataStore::notBackedUp,
+                     [&around](const QString& why) { complain(around, u"zel"_s, why); });
     return store;
 }
 

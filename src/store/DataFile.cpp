@@ -156,6 +156,14 @@ StoreResult DataFile::editInTurn(const Change& change) const {
     return written;
 }
 
+StoreResult DataFile::replace(const QByteArray& content, const std::function<StoreResult()>& keep) const {
+    const QString path = getZELXMLPath();
+    FileLock lock{linksFollowed(path)};
+    if (StoreResult turn = takeTurn(lock); !turn) return turn;
+    if (StoreResult kept = keep(); !kept) return kept;
+    return replaceFile(path, content);
+}
+
 StoreResult DataFile::edit(const Change& change) const {
     StoreResult result = editInTurn(change);
     if (!result) qCWarning(lcStore, "Could not write document out...");

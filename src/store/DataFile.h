@@ -46,6 +46,11 @@ public:
     /// notFlushed it is written.
     [[nodiscard]] StoreResult edit(const Change& change) const;
 
+    /// Puts a whole document, checked before, in the file's place, in its turn among other programs; \p keep
+    /// sees what is there first, and the file stays as it is if it fails.
+    [[nodiscard]] StoreResult replace(const QByteArray& content,
+                                      const std::function<StoreResult()>& keep) const;
+
     /// Reads and checks any document of this kind, such as an older one or one to be imported.
     [[nodiscard]] static tl::expected<XmlDocument, StoreError> readDocument(const QString& path);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/Backups.h"
 #include "store/Clock.h"
 #include "store/DataFile.h"
 #include "store/MessagePanel.h"
@@ -33,6 +34,9 @@ public:
     /// How the last load went. A write that succeeded and reloads is a success, however its reload went: it
     /// shows here.
     [[nodiscard]] const StoreResult& lastLoad() const { return loaded; }
+
+    /// Copies of the data file: one is kept before the first change of a day.
+    [[nodiscard]] const Backups& backups() const { return copies; }
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getTargetString() const;
@@ -108,10 +112,13 @@ public:
 signals:
     void reloaded();
     void currentIDChanged();
+    /// A change was made without the copy that is due before it. \p why: for the user
+    void notBackedUp(const QString& why);
 
 private:
     StoreResult readRecords();
     [[nodiscard]] StoreResult edit(const DataFile::Change& change);
+    void keepBackup();
     [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
     [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,
@@ -120,6 +127,7 @@ private:
 
     DataFile file;
     Clock& clock;
+    Backups copies{file, clock};
     Records records;
     SettingModel settingAsRead = records.gSettingModel;
     StoreResult loaded;

@@ -89,9 +89,23 @@ StoreResult DataStore::edit(const DataFile::Change& change) {
         loaded = readRecords();
         if (loaded) emit reloaded();
     }
-    if (loaded) return file.edit(change);
+    if (loaded)
+        return file.edit([&](pugi::xml_node root) {
+            const Edit made = change(root);
+            if (made == Edit::changed) keepBackup(); // in this program's turn: the file is still as it was
+            return made;
+        });
     qCWarning(lcStore, "Could not write document out...");
     return loaded;
+}
+
+/// A change is not held up by a copy that fails.
+void DataStore::keepBackup() {
+    const StoreResult kept = copies.keepDaily();
+    if (kept) return;
+    const QString why = kept.error().detail.isEmpty() ? describe(kept.error()) : kept.error().detail;
+    qCWarning(lcStore, "No backup was made: %s", qUtf8Printable(why));
+    emit notBackedUp(qtTrId("NotBackedUp").arg(copies.folder(), why));
 }
 
 StoreResult DataStore::editAndReload(const DataFile::Change& change) {

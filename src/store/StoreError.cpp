@@ -24,6 +24,8 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::invalidRecord: return qtTrId("StoreInvalidRecord");
     case StoreErrorCode::alreadyExists: return qtTrId("ExportAlreadyExists");
     case StoreErrorCode::isDataFile: return qtTrId("ExportIsDataFile");
+    case StoreErrorCode::noSuchBackup: return qtTrId("StoreNoSuchBackup");
+    case StoreErrorCode::noRoomForBackup: return qtTrId("StoreNoRoomForBackup");
     case StoreErrorCode::sameFileName: return qtTrId("ExportSameFileName");
     }
     return {};

@@ -39,6 +39,9 @@ protected:
             QDir{}.mkpath(QFileInfo{dataFile()}.path());
             setData(stored);
             QDir{home()}.mkdir(u"out"_s);
+            QDir{}.mkpath(backup.section(u'/', 0, -2));
+            QFile file{backup};
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("<ZEL><SystemSetting/></ZEL>") > 0);
         }
         plug(planM1);
         clock.set(start); // the log of downloads has the time
@@ -58,12 +61,18 @@ protected:
         return found;
     }
 
+    static Files withoutBackups(Files all) {
+        std::erase_if(all, [](const auto& file) { return file.first.contains(u"/Backups/"_s); });
+        return all;
+    }
+
     [[nodiscard]] std::string held() { return zel({u"monitor"_s}).out; }
 
     void tryEachCall(const Job& job);
     void checkAfterwards(const Outcome& outcome, const Files& before, const Files& after);
 
     WallTime start = clock.now();
+    QString backup = QFileInfo{dataFile()}.path() + u"/Backups/ZEL-2026-11-20.xml"_s;
     QByteArray stored;
     unsigned tried = 0;
 };
@@ -80,7 +89,8 @@ void FailedCallTest::checkAfterwards(const Outcome& outcome, const Files& before
     }
     for (const auto& [name, content] : before)
         EXPECT_TRUE(now.contains(name)) << name.toStdString() << " is gone";
-    const bool isDone = now == after;
+    const bool lacksBackup = outcome.err.find("No copy") != std::string::npos;
+    const bool isDone = now == after || (lacksBackup && withoutBackups(now) == withoutBackups(after));
     const bool saysDone = outcome.status == 0;
     EXPECT_TRUE(isDone || !saysDone) << "said to be done";
     EXPECT_TRUE(saysDone || !outcome.err.empty()) << "a failure is told";
@@ -123,8 +133,9 @@ void FailedCallTest::tryEachCall(const Job& job) {
             SCOPED_TRACE(job.what + (": call " + std::to_string(nth) + ", " + call.toStdString() + ", error ")
                          + std::to_string(error) + "\n" + outcome.out + outcome.err);
             checkAfterwards(outcome, before, after);
-            EXPECT_TRUE(outcome.status != 0 || call != "fsync" || error == shortTransfer)
-                << "what may be gone after a power cut is told";
+            const bool isTold = outcome.status != 0 || !outcome.err.empty();
+            EXPECT_TRUE(isTold || call != "fsync" || error == shortTransfer)
+                << "what a power cut may undo is told";
             if (HasFailure()) return;
         }
     }
@@ -154,6 +165,8 @@ TEST_F(FailedCallTest, LeavesTheFilesAsTheyWereOrAsTheyShouldBe) {
     tryEachCall(
         {"report",
          {u"report"_s, u"--patient=M1"_s, u"--section=table"_s, u"--output="_s + home() + u"/out/r.pdf"_s}});
+    tryEachCall({"backup", {u"backup"_s, u"create"_s}});
+    tryEachCall({"restore", {u"backup"_s, u"restore"_s, u"ZEL-2026-11-20.xml"_s}});
     stored = withoutReadings;
     tryEachCall({"download", {u"download"_s, u"--patient=M1"_s}});
     stored = "<ZEL><SystemSetting/></ZEL>";

@@ -1,0 +1,132 @@
+#include "store/Backups.h"
+
+#include "store/AtomicFile.h"
+#include "store/Log.h"
+#include "store/Records.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto ownersAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+
+DayNumber lastDay(const Records& records) {
+    DayNumber last = noDay;
+    for (const auto& [ID, readings] : records.mdReading) {
+        for (const auto& reading : readings)
+            if (!reading.isUndated()) last = std::max(last, reading.day);
+    }
+    return last;
+}
+
+std::size_t readingCount(const Records& records) {
+    std::size_t count = 0;
+    for (const auto& [ID, readings] : records.mdReading)
+        count += readings.size();
+    return count;
+}
+
+tl::unexpected<StoreError> refusal(StoreErrorCode code, const QString& path) {
+    return tl::unexpected{StoreError{code, path, {}}};
+}
+
+/// A copy made in the same second has the place.
+QString freeName(const QString& folder, BackupKind kind, Instant now) {
+    QString name = backupName(kind, now);
+    while (QFileInfo::exists(folder + u'/' + name))
+        name = backupName(kind, now += std::chrono::seconds{1});
+    return name;
+}
+
+} // namespace
+
+Instant Backups::now() const { return std::chrono::floor<std::chrono::milliseconds>(clock.now()); }
+
+QString Backups::folder() const { return QFileInfo{file.getZELXMLPath()}.path() + u"/Backups"_s; }
+
+QString Backups::path(const QString& name) const { return folder() + u'/' + name; }
+
+std::vector<Backup> Backups::list() const {
+    std::vector<Backup> found;
+    for (const QFileInfo& info : QDir{folder()}.entryInfoList(QDir::Files)) {
+        auto copy = backupOfName(info.fileName());
+        if (!copy) continue;
+        copy->size = info.size();
+        found.push_back(std::move(*copy));
+    }
+    sortNewestFirst(found);
+    return found;
+}
+
+tl::expected<BackupContent, StoreError> Backups::content(const QString& name) const {
+    if (!backupOfName(name) || !QFileInfo::exists(path(name)))
+        return refusal(StoreErrorCode::noSuchBackup, name);
+    const auto document = DataFile::readDocument(path(name));
+    if (!document) return tl::unexpected{document.error()};
+    const Records records = Records::read(document->root(), LocalZone{});
+    return BackupContent{records.gaPatient.size(), readingCount(records), lastDay(records)};
+}
+
+std::optional<Backup> Backups::newestReadable() const {
+    for (const Backup& copy : list())
+        if (content(copy.name)) return copy;
+    return std::nullopt;
+}
+
+StoreResult Backups::copyTo(const QString& name) const {
+    QDir{}.mkpath(folder());
+    QFile::setPermissions(folder(), ownersAlone);
+    const auto bytes = readFile(file.getZELXMLPath());
+    if (!bytes) return tl::unexpected{bytes.error()};
+    return replaceFile(path(name), *bytes);
+}
+
+void Backups::removeSuperfluous() const {
+    const qint64 free = QStorageInfo{folder()}.bytesAvailable();
+    for (const Backup& copy : superfluousBackups(list(), LocalZone{}.day(now()), free)) {
+        const bool isRemoved = QFile::remove(path(copy.name));
+        qCInfo(lcStore, "backup %s %s", qUtf8Printable(copy.name),
+               isRemoved ? "removed" : "could not be removed");
+    }
+}
+
+StoreResult Backups::keepDaily() const {
+    const QString name = backupName(BackupKind::daily, now());
+    if (QFileInfo::exists(path(name))) return {};
+    if (StoreResult copied = copyTo(name); !copied) return copied;
+    removeSuperfluous();
+    if (!QFileInfo::exists(path(name))) return refusal(StoreErrorCode::noRoomForBackup, folder());
+    return {};
+}
+
+tl::expected<QString, StoreError> Backups::create() const {
+    const QString name = freeName(folder(), BackupKind::made, now());
+    return copyTo(name).map([&name] { return name; });
+}
+
+tl::expected<QString, StoreError> Backups::restore(const QString& name) const {
+    if (const auto readable = content(name); !readable) return tl::unexpected{readable.error()};
+    const auto bytes = readFile(path(name));
+    if (!bytes) return tl::unexpected{bytes.error()};
+    QString kept;
+    const auto keep = [&]() -> StoreResult {
+        if (!QFileInfo::exists(file.getZELXMLPath())) return {};
+        const auto present = DataFile::readDocument(file.getZELXMLPath());
+        if (!present && present.error().code == StoreErrorCode::notReadable)
+            return tl::unexpected{present.error()}; // nothing of it could be kept
+        kept = freeName(folder(), present ? BackupKind::replaced : BackupKind::damaged, now());
+        return copyTo(kept);
+    };
+    return file.replace(*bytes, keep).map([&kept] { return kept; });
+}
+
+} // namespace zel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "store/BackupRules.h"
+#include "store/DataFile.h"
+
+namespace zel {
+
+/// What a copy of the data file holds, for the user to choose by.
+struct BackupContent {
+    std::size_t patients = 0;
+    std::size_t readings = 0;
+    DayNumber lastReading = noDay; ///< noDay without a dated reading
+};
+
+/// Copies of the data file in the folder "Backups" beside it, for its owner alone.
+class Backups {
+public:
+    /// Both must outlive it.
+    Backups(const DataFile& dataFile, const Clock& wallClock) : file{dataFile}, clock{wallClock} {}
+
+    [[nodiscard]] QString folder() const;
+    /// Newest first; files of other names are not looked at.
+    [[nodiscard]] std::vector<Backup> list() const;
+    /// As for the data file itself; other errors when the copy cannot be read.
+    [[nodiscard]] tl::expected<BackupContent, StoreError> content(const QString& name) const;
+    /// The newest one that can be read; none if there is none.
+    [[nodiscard]] std::optional<Backup> newestReadable() const;
+
+    /// Copies the data file as it is, unless that was done today, and removes what is kept no longer. To be
+    /// called before a change.
+    [[nodiscard]] StoreResult keepDaily() const;
+    /// Copies the data file as it is. \return the copy's name
+    [[nodiscard]] tl::expected<QString, StoreError> create() const;
+    /// Puts the copy in the data file's place, and keeps what was there as another one. Does not reload.
+    /// \return the name of what was there; empty: there was nothing
+    [[nodiscard]] tl::expected<QString, StoreError> restore(const QString& name) const;
+
+private:
+    [[nodiscard]] QString path(const QString& name) const;
+    [[nodiscard]] StoreResult copyTo(const QString& name) const;
+    void removeSuperfluous() const;
+    [[nodiscard]] Instant now() const;
+    const DataFile& file;
+    const Clock& clock;
+};
+
+} // namespace zel
