@@ -1,5 +1,7 @@
 #include "HelpLook.h"
 
+#include "HelpFigures.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -103,11 +105,12 @@ void dressTable(QTextTable& table) {
     }
 }
 
-/// A chapter begins where what it begins with, often a picture, still fits on the page.
+/// A chapter begins where what it begins with still fits on the page; a picture leaves no half of one empty.
 void breakPages(QTextDocument& document) {
     const double page = document.pageSize().height();
     for (QTextBlock block = document.begin().next(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() != chapterLevel) continue;
+        if (isFigure(block.next())) floatFigure(document, block);
         const double begin = document.documentLayout()->blockBoundingRect(block).top();
         const double end = document.documentLayout()->blockBoundingRect(block.next()).bottom();
         if (std::floor(begin / page) == std::floor(end / page) && std::fmod(begin, page) < page * 0.85)

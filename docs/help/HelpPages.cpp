@@ -90,7 +90,8 @@ void paintText(QPainter& painter, QTextDocument& document, int index) {
     const QSizeF size = document.pageSize();
     painter.save();
     painter.translate(side, top - index * size.height());
-    document.drawContents(&painter, QRectF(0, index * size.height(), size.width(), size.height()));
+    constexpr double bleed = 1; // of a picture at the top of the next page
+    document.drawContents(&painter, QRectF(0, index * size.height(), size.width(), size.height() - bleed));
     painter.restore();
 }
 

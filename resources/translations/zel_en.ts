@@ -95,12 +95,25 @@
     <message id="simulatedWrongLength"><translation>The value of “%1” must have this number of characters: %2</translation></message>
 </context>
 <context>
+    <name>analysis</name>
+    <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
+    <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
+    <message id="leftOut"><translation>%1 not counted</translation></message>
+    <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
+    <message id="leftUndated" numerus="yes"><translation><numerusform>%n undated one</numerusform><numerusform>%n undated ones</numerusform></translation></message>
+    <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n without any date</numerusform><numerusform>%n without any date</numerusform></translation></message>
+    <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="rowsCut"><translation>The comments cover more days without a reading than the list can show: at most %1, so that some are missing.</translation></message>
+</context>
+<context>
     <name>app</name>
+    <message id="aboutData"><translation>Data file: %1</translation></message>
+    <message id="aboutLicence"><translation>Licence: all rights reserved. ZEL uses Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (Unicode licence) and expected (CC0), each under its own licence.</translation></message>
     <message id="addComment"><translation>Add a comment</translation></message>
     <message id="addCommentHint"><translation>Drag this to a day in the strip below the pulse chart to add a comment there. With the keyboard, press it or the Insert key.</translation></message>
     <message id="addCommentTooLong"><translation>Comments can be added while the period has 47 days or fewer.</translation></message>
-    <message id="addDay"><translation>Widen the period by a day at each end</translation></message>
-    <message id="addDayHint"><translation>Widen the period by a day at each end (+)</translation></message>
+    <message id="addDay"><translation>More days: one more at each end of the period</translation></message>
+    <message id="addDayHint"><translation>More days: one more at each end of the period (+)</translation></message>
     <message id="afib"><translation>AFib</translation></message>
     <message id="age"><translation>Age %1</translation></message>
     <message id="answerNo"><translation>No</translation></message>
@@ -140,11 +153,12 @@
     <message id="clockSet"><translation>done. It shows this computer’s time now.</translation></message>
     <message id="clockUnset"><translation>Not set</translation></message>
     <message id="clockUnsetAsk"><translation>The monitor’s clock is not set, so its readings get no date and time. Set it to this computer’s time?</translation></message>
+    <message id="closeWindow"><translation>Close</translation></message>
     <message id="colourAction"><translation>Colour: %1</translation></message>
     <message id="colourBlue"><translation>Blue</translation></message>
     <message id="colourButton"><translation>Colour of the comment</translation></message>
     <message id="colourGrey"><translation>Dark grey</translation></message>
-    <message id="colourHint"><translation>Choose the colour for new comments and for the selected one.</translation></message>
+    <message id="colourHint"><translation>Choose the colour for new comments, and for the comment that you selected by a click or a key.</translation></message>
     <message id="colourOrange"><translation>Orange</translation></message>
     <message id="colourPicker"><translation>Colour of the comment</translation></message>
     <message id="colourYellow"><translation>Yellow</translation></message>
@@ -164,8 +178,15 @@ mmHg</translation></message>
 mmHg</translation></message>
     <message id="columnTime"><translation>Time</translation></message>
     <message id="commentBegin"><translation>From</translation></message>
+    <message id="commentBeginDay"><translation>First day of the comment</translation></message>
     <message id="commentCount" numerus="yes"><translation><numerusform>%n comment</numerusform><numerusform>%n comments</numerusform></translation></message>
+    <message id="commentDayHint"><translation>Type a date and press Enter.</translation></message>
+    <message id="commentDayOrder"><translation>The last day of a comment cannot be before its first day. The dates were left as they were.</translation></message>
+    <message id="commentDayUnread"><translation>“%1” is no date that a comment can have: type it in the form %2, with a year from 1900. The dates were left as they were.</translation></message>
+    <message id="commentEmpty"><translation>The new comment for %1 has no text. Remove it?</translation></message>
+    <message id="commentEmptyTitle"><translation>Comment without a text</translation></message>
     <message id="commentEnd"><translation>To</translation></message>
+    <message id="commentEndDay"><translation>Last day of the comment</translation></message>
     <message id="commentInClipboard"><translation>The comment that was typed when the program was ended could not be saved; its text is in the clipboard now: paste it where you want to keep it. %1</translation></message>
     <message id="commentNotSaved"><translation>The comment was not saved; your text is still in its field. %1</translation></message>
     <message id="commentPanel"><translation>Comment</translation></message>
@@ -177,6 +198,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="commentText"><translation>Text of the comment</translation></message>
     <message id="commentUnchanged"><translation>The comment could not be saved. %1</translation></message>
     <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? This cannot be undone.</translation></message>
+    <message id="confirmPrintSave"><translation>The data of %1 have been changed, and paper shows what is saved. Save the changes before printing?</translation></message>
     <message id="confirmSendID"><translation>%2 Write the ID %1 into it? From then on its readings belong to this patient.</translation></message>
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
     <message id="copyRows"><translation>Copy</translation></message>
@@ -187,6 +209,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="DateError"><translation>Check the dates</translation></message>
     <message id="dayHint"><translation>Type a date and press Enter, or open the calendar with the arrow.</translation></message>
     <message id="dayOfDownload"><translation>%1, day of a download</translation></message>
+    <message id="daysButtons"><translation>Days</translation></message>
     <message id="dayWithoutReading"><translation>%1, no reading on this day</translation></message>
     <message id="DeleteComment"><translation>Delete comment</translation></message>
     <message id="deleteCommentButton"><translation>Delete…</translation></message>
@@ -283,7 +306,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="importTaken"><translation>%1: %2, %3, %4</translation></message>
     <message id="importTitle"><translation>Import patients</translation></message>
     <message id="includeUndated"><translation>Undated readings</translation></message>
-    <message id="includeUndatedHint"><translation>Also show and count the readings that the monitor stored without a date. Can be chosen while all days are shown.</translation></message>
+    <message id="includeUndatedHint"><translation>Also show and count the readings that the monitor stored without a date.</translation></message>
     <message id="infoDia"><translation>Diastolic</translation></message>
     <message id="infoLine"><translation>%1: %2</translation></message>
     <message id="infoPulse"><translation>Pulse</translation></message>
@@ -291,7 +314,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="keep"><translation>&amp;Keep</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
     <message id="mainMenu"><translation>Main menu</translation></message>
+    <message id="manualChapters"><translation>Chapters</translation></message>
+    <message id="manualTitle"><translation>Manual</translation></message>
     <message id="map"><translation>MAP</translation></message>
+    <message id="menuAbout"><translation>&amp;About ZEL</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuHelp"><translation>&amp;Help</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
@@ -299,8 +325,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuQuit"><translation>&amp;Quit</translation></message>
     <message id="menuSavePdf"><translation>Save as P&amp;DF …</translation></message>
     <message id="menuSettings"><translation>&amp;Settings …</translation></message>
-    <message id="minusDay"><translation>Narrow the period by a day at each end</translation></message>
-    <message id="minusDayHint"><translation>Narrow the period by a day at each end (−)</translation></message>
+    <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
+    <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="monitorClock"><translation>Clock</translation></message>
     <message id="monitorConnected"><translation>Monitor connected</translation></message>
     <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Choose this patient and press Download to fetch the readings.</translation></message>
@@ -333,6 +359,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="nextHint"><translation>Next page (Page Down)</translation></message>
     <message id="nextPage"><translation>Next page</translation></message>
     <message id="no"><translation>&amp;No</translation></message>
+    <message id="noCommentPage"><translation>No comments</translation></message>
+    <message id="noCommentPageAdvice"><translation>This patient has no comments yet. They are placed on the chart.</translation></message>
     <message id="noComments"><translation>No comment yet. Comments are placed on the chart.</translation></message>
     <message id="NoData"><translation>No readings yet</translation></message>
     <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
@@ -344,19 +372,20 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="none"><translation>none</translation></message>
     <message id="noneInPeriod"><translation>No readings in this period</translation></message>
     <message id="noneInPeriodAdvice"><translation>Pick other dates above, or choose All. Readings without a date are shown when Undated readings is ticked, too.</translation></message>
+    <message id="nonePrintedAdvice"><translation>Close this window and pick other dates on the page Readings or Chart, or choose All there. Readings without a date are printed when Undated readings is ticked.</translation></message>
+    <message id="noPage"><translation>No page</translation></message>
     <message id="noPatientFound"><translation>No patient found</translation></message>
     <message id="noPatientFoundAdvice"><translation>No name and no ID holds what is searched for.</translation></message>
     <message id="noPatients"><translation>No patients yet</translation></message>
     <message id="noPatientsAdvice"><translation>Press New to enter the first one.</translation></message>
     <message id="noPatientSelected"><translation>No patient selected</translation></message>
+    <message id="noPrinterNote"><translation>This computer knows no printer. You can save the pages as a PDF, or set up a printer in the system’s settings.</translation></message>
     <message id="NoPrnter"><translation>No printer</translation></message>
-    <message id="NoPrnterMsg"><translation>This computer knows no printer, so nothing can be printed. Please set one up in the system’s settings and try again. To keep the pages as a file, choose File &gt; Save as PDF.</translation></message>
+    <message id="NoPrnterMsg"><translation>This computer knows no printer, so nothing can be printed. Please set one up in the system’s settings and try again, or save the pages as a PDF.</translation></message>
     <message id="notes"><translation>Notes</translation></message>
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
-    <message id="OpenHelpErrorMsg"><translation>The manual could not be opened. Please check that a program for PDF files is installed and that your home folder can be written.</translation></message>
-    <message id="OpenHelpErrorTitle"><translation>Manual</translation></message>
     <message id="pad"><translation>PAD</translation></message>
     <message id="pageChart"><translation>Chart</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
@@ -386,7 +415,6 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="periodTo"><translation>&amp;to</translation></message>
     <message id="personalData"><translation>Personal data</translation></message>
     <message id="pp"><translation>PP</translation></message>
-    <message id="previewNoPage"><translation>There is no page: this section holds no data for this patient and period.</translation></message>
     <message id="previewView"><translation>Page preview</translation></message>
     <message id="previousComment"><translation>Previous comment</translation></message>
     <message id="previousHint"><translation>Previous page (Page Up)</translation></message>
@@ -402,9 +430,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="printerGone"><translation>The printer “%1” is not there any more, so nothing was printed. Please check that it is switched on and connected, or choose another one.</translation></message>
     <message id="printerLabel"><translation>P&amp;rinter</translation></message>
     <message id="printerShown"><translation>Printer: %1</translation></message>
-    <message id="printFailed"><translation>The pages could not be handed over to the printer “%1”. Please check its queue and that the disk is not full, then try again.</translation></message>
+    <message id="printFailed"><translation>The pages could not be handed over whole to the printer “%1”. The job was taken back, and nothing is printed. Please check its queue and that the disk is not full, then try again.</translation></message>
     <message id="printNoData"><translation>There is nothing to print: this section holds no data for this patient and period.</translation></message>
-    <message id="printNoPatient"><translation>There is no patient whose report could be printed. Please choose or enter one first.</translation></message>
+    <message id="printNoPatient"><translation>There is no patient whose report could be printed. Please choose one, or enter and save a new one first.</translation></message>
     <message id="printOption"><translation>Section to print</translation></message>
     <message id="printOptionLabel"><translation>&amp;Section</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
@@ -414,15 +442,18 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="ProgressProcessInfo"><translation>%1 of %2 readings</translation></message>
     <message id="pulseChart"><translation>Pulse over time, with the comments</translation></message>
     <message id="pulseScroller"><translation>Move the pulse scale</translation></message>
-    <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="readingList"><translation>List of readings</translation></message>
+    <message id="readingsCounted"><translation>%1. Counted: %2</translation></message>
     <message id="readingsFromTo"><translation>%1, from %2 to %3</translation></message>
+    <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
     <message id="riskFactors"><translation>Risk factors</translation></message>
     <message id="sameID"><translation>The ID %1 belongs to another patient of the list. Nothing was saved yet; please choose another ID.</translation></message>
     <message id="sameIDTitle"><translation>ID taken</translation></message>
     <message id="savedPdf"><translation>Saved as %1</translation></message>
+    <message id="saveIt"><translation>&amp;Save</translation></message>
+    <message id="saveNot"><translation>&amp;Don’t save</translation></message>
     <message id="SavePatient"><translation>Save patient</translation></message>
     <message id="savePatientButton"><translation>Sa&amp;ve</translation></message>
     <message id="savePatientHint"><translation>Save what was typed (Ctrl+S).</translation></message>
@@ -495,6 +526,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="statisticAll"><translation>All days with readings</translation></message>
     <message id="statisticAllHint"><translation>Take the whole time from the first reading to the last. To take a part of it, pick other dates above.</translation></message>
     <message id="statisticPanel"><translation>Statistics</translation></message>
+    <message id="statisticWholeDay"><translation>All times of day: %1</translation></message>
     <message id="statusBroken"><translation>Monitor attached, connection fails</translation></message>
     <message id="statusConnected"><translation>Monitor connected</translation></message>
     <message id="statusDamaged"><translation>Monitor attached, damaged answers</translation></message>
@@ -512,7 +544,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="tabReadings"><translation>&amp;Readings</translation></message>
     <message id="tabShown"><translation>shown now</translation></message>
     <message id="timeScroller"><translation>Move the period through the readings</translation></message>
-    <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl it widens and narrows the period.</translation></message>
+    <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
@@ -524,16 +556,21 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="viewAll"><translation>&amp;All</translation></message>
     <message id="viewAllHint"><translation>All readings, from the first day to the last.</translation></message>
     <message id="viewAM"><translation>A&amp;M</translation></message>
-    <message id="viewAMHint"><translation>The readings before noon, of all days.</translation></message>
+    <message id="viewAMHint"><translation>The readings before noon, of the days shown.</translation></message>
+    <message id="viewChoiceNeeded"><translation>The period shown is the last three months, or was picked or moved. Press All first; then this can be chosen.</translation></message>
     <message id="viewPM"><translation>&amp;PM</translation></message>
-    <message id="viewPMHint"><translation>The readings from noon on, of all days.</translation></message>
+    <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
 </context>
 <context>
     <name>chart</name>
+    <message id="aboveScale" numerus="yes"><translation><numerusform>%n reading above the scale</numerusform><numerusform>%n readings above the scale</numerusform></translation></message>
+    <message id="aboveScaleShort"><translation>%1 above</translation></message>
     <message id="average"><translation>Average</translation></message>
+    <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
+    <message id="belowScaleShort"><translation>%1 below</translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolic too high</translation></message>
     <message id="evening"><translation>Evening</translation></message>
@@ -541,6 +578,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="min"><translation>Min</translation></message>
     <message id="mmHg"><translation>mmHg</translation></message>
     <message id="morning"><translation>Morning</translation></message>
+    <message id="noEveningReadings"><translation>No readings from noon on in this period</translation></message>
+    <message id="noMorningReadings"><translation>No readings before noon in this period</translation></message>
+    <message id="noReadingsInPeriod"><translation>No readings in this period</translation></message>
     <message id="normal"><translation>Normal</translation></message>
     <message id="P/min"><translation>1/min</translation></message>
     <message id="pulse"><translation>Pulse</translation></message>
@@ -560,31 +600,42 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="mam"><translation>MAM</translation></message>
     <message id="No"><translation>No</translation></message>
     <message id="PatientProfile"><translation>Patient profile</translation></message>
+    <message id="reportAllComments"><translation>Comments of all times, not only of this period</translation></message>
+    <message id="reportAllTimesOfDay"><translation>%1, all times of day</translation></message>
     <message id="reportAverage"><translation>average of several measurements</translation></message>
-    <message id="reportBlue"><translation>Blue</translation></message>
     <message id="reportBothAbove"><translation>Both above: %1</translation></message>
-    <message id="reportCorrelationNote"><translation>Each square is a reading, or several with the same values, in mmHg; the lines are the limits.</translation></message>
+    <message id="reportCommentBars"><translation>Bars: comments, by number</translation></message>
+    <message id="reportContinued"><translation>%1, continued</translation></message>
+    <message id="reportCorrelationLimits" numerus="yes"><translation><numerusform>The line is the limit.</numerusform><numerusform>The lines are the limits.</numerusform></translation></message>
+    <message id="reportCorrelationNote"><translation>Each square is a reading, or several with the same values, in mmHg.</translation></message>
+    <message id="reportCutTexts"><translation>…: cut here; the whole text stands on the next page.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
     <message id="reportDiaAbove"><translation>Only diastolic above: %1</translation></message>
     <message id="reportDocument"><translation>Blood-pressure report: %1 (%2)</translation></message>
+    <message id="reportDownloadDay"><translation>↓ yellow: download</translation></message>
+    <message id="reportEmptySections"><translation>Empty, so not in this report: %1</translation></message>
     <message id="reportEveningOnly"><translation>Only readings from noon on are shown</translation></message>
-    <message id="reportFindingUnknown"><translation>N.A. not known</translation></message>
+    <message id="reportFindingUnknown"><translation>N.A.: not known</translation></message>
     <message id="reportFound"><translation>detected</translation></message>
+    <message id="reportGoesOn"><translation>goes on on the next page</translation></message>
     <message id="reportGraphComments"><translation>Numbered boxes: comments.</translation></message>
     <message id="reportGraphDownloads"><translation>↓: day of a download.</translation></message>
-    <message id="reportGraphNote"><translation>Upper line: systolic pressure, lower line: diastolic pressure. Dashed lines: the limits of %1.</translation></message>
-    <message id="reportGrey"><translation>Grey</translation></message>
+    <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>The limit of %1 lies outside the scale.</numerusform><numerusform>The limits of %1 lie outside the scale.</numerusform></translation></message>
+    <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Dashed line: the limit of %1.</numerusform><numerusform>Dashed lines: the limits of %1.</numerusform></translation></message>
+    <message id="reportGraphNote"><translation>Upper line: systolic pressure, lower line: diastolic pressure.</translation></message>
     <message id="reportHistogramNote"><translation>The length of a bar is the share of all readings, in percent, that lie within its 10 mmHg or 10 beats per minute.</translation></message>
-    <message id="reportKeepLimits"><translation>At or below the limits of %1: %2</translation></message>
+    <message id="reportKeepLimits" numerus="yes"><translation><numerusform>At or below %1: %2</numerusform><numerusform>At or below the limits of %1: %2</numerusform></translation></message>
+    <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
+    <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
     <message id="reportMorningOnly"><translation>Only readings before noon are shown</translation></message>
     <message id="reportNoData"><translation>There is nothing to print: the chosen sections hold no data for this patient and period. No file was written.</translation></message>
+    <message id="reportNoDate"><translation>n.a: no date</translation></message>
+    <message id="reportNoLimits"><translation>No limits are set.</translation></message>
+    <message id="reportNoReading"><translation>n.a.: no reading</translation></message>
     <message id="reportNotFound"><translation>not detected</translation></message>
     <message id="reportNotPainted"><translation>The pages could not be turned into a PDF. No file was written.</translation></message>
     <message id="reportNotWritable"><translation>The file %1 could not be written. Please check that its folder is there and that you may write in it.</translation></message>
-    <message id="reportOrange"><translation>Orange</translation></message>
-    <message id="reportOtherMarks"><translation>↓ yellow: day of a download.   n.a.: day without a reading.   Bars: comments, by number.</translation></message>
-    <message id="reportOutsideScale" numerus="yes"><translation><numerusform>%n reading lies outside the scales (%1 mmHg, %2 beats per minute) and is not shown whole.</numerusform><numerusform>%n readings lie outside the scales (%1 mmHg, %2 beats per minute) and are not shown whole.</numerusform></translation></message>
     <message id="reportPage"><translation>Page %1 of %2</translation></message>
     <message id="reportPatient"><translation>Patient Name=%1 %2  ID=%3</translation></message>
     <message id="reportPeriod"><translation>From: %1 To: %2</translation></message>
@@ -592,7 +643,6 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="reportYears"><translation>years</translation></message>
-    <message id="reportYellow"><translation>Yellow</translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
@@ -614,6 +664,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="CliDownloadFailed"><translation>The readings could not be downloaded, and nothing was stored. %1 They are still in the monitor: please try again.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>The readings are stored, but the data file could not be read afterwards, so that the monitor was not erased. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>The downloaded readings could not be stored. %1 They are still in the monitor.</translation></message>
+    <message id="CliEmptySections"><translation>Empty, so not in the report: %1</translation></message>
     <message id="CliEraseAfterFailed"><translation>The readings are safely stored, but the monitor's memory could not be erased afterwards. %1 You can erase it with 'zel monitor --erase --yes'.</translation></message>
     <message id="CliEraseFailed"><translation>The monitor's memory could not be erased. %1</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
@@ -741,7 +792,8 @@ Prints a patient's readings as CSV, the oldest first, with the header
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Pressures are in mmHg, the pulse in beats per minute.
 A reading that the monitor stored without a date has n.a and --:-- instead; it is left out when a period,
 --am or --pm is given, unless --undated is given, too. A day without readings that a comment covers has a
-line with its date, and n.a. for the rest.
+line with its date, and n.a. for the rest; if there are too many of these to list them all, a sentence on
+standard error says so.
 
 Options:
   --patient ID                 whose readings
@@ -800,7 +852,8 @@ Options:
 
 Prints the average, the minimum and the maximum of a patient's readings, a measure a line:
 'sys: AVERAGE MIN MAX', then dia, pulse, and map or pp as the settings say. Pressures are in mmHg, the
-pulse in beats per minute. Where there is no reading, each is n/a.
+pulse in beats per minute. Where there is no reading, each is n/a. How many readings are counted, and
+how many are left out for which reason, goes to standard error.
 
 Options:
   --patient ID                 whose readings

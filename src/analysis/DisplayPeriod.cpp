@@ -43,26 +43,33 @@ void DisplayPeriod::setTimePeriod(Date begin, Date end) {
     change([&] {
         display = {begin ? DateToDayBoundary(*begin, true) : firstDayOfThisYear,
                    end ? DateToDayBoundary(*end, false) : firstDayOfThisYear};
+        if (view == ViewSelection::viewAll && !isWholeDataPeriod()) leaveViewChoice();
     });
+}
+
+void DisplayPeriod::leaveViewChoice() {
+    view = ViewSelection::custom;
+    includeUndated = false;
 }
 
 void DisplayPeriod::setDataPeriod(const Period& period) { data = period; }
 
 void DisplayPeriod::setSelectViewIndex(ViewSelection chosen) {
     change([&] {
+        if (chosen == ViewSelection::custom) return leaveViewChoice();
         view = chosen;
         if (view == ViewSelection::viewAll) display = wholeDays(data);
     });
 }
 
 void DisplayPeriod::setIncludeNoDatetimeData(bool include) {
-    change([&] { includeUndated = include; });
+    change([&] { includeUndated = include && view != ViewSelection::custom; });
 }
 
 bool DisplayPeriod::pickTimePeriod(Instant begin, Instant end) {
     if (!greaterInDay(end, begin)) return false;
     change([&] {
-        view = ViewSelection::custom;
+        leaveViewChoice();
         display = wholeDays({begin, end});
     });
     return true;
@@ -75,18 +82,13 @@ void DisplayPeriod::setChangeUser(bool isChanged) {
 
 void DisplayPeriod::setCurrentReadingTimePeriod(const ReadingList& readings) {
     const auto dated = datedPeriod(readings);
-    hasDatedReading = dated.has_value();
-    if (dated) setDataPeriod(*dated);
-    if (dated)
-        setTimePeriod(getDefaultBeginDisplayDate(dated->begin, dated->end), dated->end);
-    else
-        setTimePeriod(firstDayOfThisYear, firstDayOfThisYear);
+    setDataPeriod(dated.value_or(Period{firstDayOfThisYear, firstDayOfThisYear}));
+    setTimePeriod(getDefaultBeginDisplayDate(data.begin, data.end), data.end);
 }
 
 void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
     const auto dated = datedPeriod(readings);
-    if (!dated || (hasDatedReading && *dated == data)) return;
-    hasDatedReading = true;
+    if (!dated || *dated == data) return;
     setDataPeriod(*dated);
     if (view == ViewSelection::viewAll) display = wholeDays(data);
     if (display == wholeDays({firstDayOfThisYear, firstDayOfThisYear}))
@@ -96,11 +98,10 @@ void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
 
 void DisplayPeriod::adjustViewAll() {
     if (!changedUser || DayDiff(data.begin, data.end) >= viewAllDays) return;
-    change([&] {
-        view = ViewSelection::viewAll;
-        if (hasDatedReading) display = wholeDays(data);
-    });
+    setSelectViewIndex(ViewSelection::viewAll);
 }
+
+bool DisplayPeriod::isWholeDataPeriod() const { return display == wholeDays(data); }
 
 bool DisplayPeriod::isValidCommentTimeRange() const {
     return DayDiff(display.begin, display.end) < commentPlacingDays;

@@ -18,16 +18,21 @@ public:
 
     /// Always whole days: the first second of one to the last second of another.
     [[nodiscard]] const Period& getTimePeriod() const { return display; }
-    /// A missing end becomes the first day of this year as it is.
+    /// A missing end becomes the first day of this year as it is. Other days than those of viewAll make the
+    /// view custom.
     void setTimePeriod(Date begin, Date end);
-    /// The instants of the patient's earliest dated reading and of the latest reading.
+    /// The instants of the patient's earliest dated reading and of the latest reading; without a dated
+    /// reading the first day of this year.
     [[nodiscard]] const Period& getDataPeriod() const { return data; }
+    /// The display period is the days of the data period.
+    [[nodiscard]] bool isWholeDataPeriod() const;
     void setDataPeriod(const Period& period);
 
     [[nodiscard]] ViewSelection getSelectViewIndex() const { return view; }
     /// Choosing viewAll also shows the whole data period.
     void setSelectViewIndex(ViewSelection selection);
     [[nodiscard]] bool getIncludeNoDatetimeData() const { return includeUndated; }
+    /// Undated readings are of no day: they are left out of a custom view.
     void setIncludeNoDatetimeData(bool include);
     /// Days that the user picked: sets the view selection to custom.
     /// \return false, and nothing changes, unless begin's day is before end's
@@ -59,6 +64,7 @@ signals:
 private:
     /// Announces what \p assign changes, once and only if it is a change.
     void change(const std::function<void()>& assign);
+    void leaveViewChoice();
 
     Instant firstDayOfThisYear;
     Period display;
@@ -66,7 +72,6 @@ private:
     ViewSelection view = ViewSelection::custom;
     bool includeUndated = false;
     bool changedUser = true;
-    bool hasDatedReading = false; ///< the data period is the current patient's
 };
 
 } // namespace zel

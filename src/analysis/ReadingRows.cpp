@@ -26,15 +26,16 @@ void add(ReadingRows& list, const ReadingModel& reading, Instant date, DayNumber
 void addDated(ReadingRows& list, const ReadingList& readings, const ReadingSelection& selection) {
     list.rows.reserve(readings.size());
     for (const ReadingModel& reading : readings)
-        if (!reading.isUndated() && selection.period.contains(*reading.ReadingDate)
-            && MatchedDataType(selection.view, reading.isPMData))
+        if (!hasUndatedMarker(reading) && isListed(reading, selection))
             add(list, reading, *reading.ReadingDate, reading.day);
     sortByDate(list.rows);
 }
 
-void addPlaceholders(Rows& rows, const ReadingRowSource& source, const LocalZone& zone) {
+void addPlaceholders(ReadingRows& list, const ReadingRowSource& source, const LocalZone& zone) {
+    Rows& rows = list.rows;
     if (rows.empty()) return;
-    const Rows made = addNArecords(rows, source.comments, source.selection.period, zone);
+    const auto [made, isCut] = addNArecords(rows, source.comments, source.selection.period, zone);
+    list.isCut = isCut;
     const auto readings = static_cast<Rows::difference_type>(rows.size());
     rows.insert(rows.end(), made.begin(), made.end());
     std::ranges::inplace_merge(rows, rows.begin() + readings, {}, &ReadingRow::ReadingDate);
@@ -118,10 +119,14 @@ QString ReadingRow::strDisplayDate(const SettingModel& settings) const {
     return isUndatedDay(day) ? u"n.a"_s : dayText(day, settings.getDateFormat());
 }
 
+QString describeCut(const ReadingRows& list) {
+    return list.isCut ? qtTrId("rowsCut").arg(mostPlaceholders) : QString();
+}
+
 ReadingRows assembleReadingRows(const ReadingRowSource& source, const LocalZone& zone) {
     ReadingRows list;
     addDated(list, source.readings, source.selection);
-    addPlaceholders(list.rows, source, zone);
+    addPlaceholders(list, source, zone);
     if (source.selection.includeUndated) addUndated(list, source.readings, zone);
     drawTopLines(list.rows);
     qCDebug(lcAnalysis, "afib:%s pad:%s ", list.isAFib ? "afib" : "not afib", list.isPad ? "pad" : "not pad");

@@ -29,7 +29,11 @@ struct ReadingRows {
     std::vector<ReadingRow> rows; ///< by date; undated readings first
     bool isAFib = false;          ///< some reading is from an AFib-capable monitor
     bool isPad = false;           ///< some reading is from a PAD-capable monitor
+    bool isCut = false;           ///< days without a reading are missing: no list has so many
 };
+
+/// That the list leaves out days of comments, and how many it can have; empty where it has them all.
+[[nodiscard]] QString describeCut(const ReadingRows& list);
 
 /// Everything the list is made of. The lists must outlive the rows.
 struct ReadingRowSource {

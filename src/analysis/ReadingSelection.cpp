@@ -26,6 +26,18 @@ bool hasUndatedMarker(const ReadingModel& reading) {
     return !reading.ReadingDate || reading.day == markerDay;
 }
 
+bool isListed(const ReadingModel& reading, const ReadingSelection& selection) {
+    if (hasUndatedMarker(reading)) return selection.includeUndated;
+    return !reading.isUndated() && selection.period.contains(*reading.ReadingDate)
+           && MatchedDataType(selection.view, reading.isPMData);
+}
+
+bool isInStatistic(const ReadingModel& reading, const ReadingSelection& selection) {
+    ReadingSelection wholeDays = selection;
+    wholeDays.view = ViewSelection::custom;
+    return reading.ReadingDate && isListed(reading, wholeDays);
+}
+
 bool isCounted(const ReadingModel& reading, const ReadingSelection& selection) {
     if (selection.includeUndated && hasUndatedMarker(reading)) return true;
     return reading.ReadingDate && selection.period.contains(*reading.ReadingDate)

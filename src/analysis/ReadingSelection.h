@@ -39,6 +39,12 @@ struct ReadingSelection {
 /// The monitor stored the reading without a valid clock, or the file gives no date at all.
 [[nodiscard]] bool hasUndatedMarker(const ReadingModel& reading);
 
+/// Whether the list of readings has the reading.
+[[nodiscard]] bool isListed(const ReadingModel& reading, const ReadingSelection& selection);
+
+/// Whether the statistics count the reading. Unlike elsewhere, the half of the day does not matter.
+[[nodiscard]] bool isInStatistic(const ReadingModel& reading, const ReadingSelection& selection);
+
 /// Whether histogram and correlation count the reading.
 [[nodiscard]] bool isCounted(const ReadingModel& reading, const ReadingSelection& selection);
 

@@ -15,13 +15,6 @@ namespace {
 
 constexpr std::uint32_t largestMinimum = 32766;
 
-/// Unlike in pictures, the half of the day does not matter.
-bool isKept(const ReadingModel& reading, const ReadingSelection& selection) {
-    if (!reading.ReadingDate) return false;
-    if (hasUndatedMarker(reading)) return selection.includeUndated;
-    return !reading.isUndated() && selection.period.contains(*reading.ReadingDate);
-}
-
 void add(MeasureStatistic& measure, std::uint32_t value) {
     measure.minimum = std::min(measure.minimum, value);
     measure.maximum = std::max(measure.maximum, value);
@@ -47,7 +40,7 @@ void log(const StatisticFigures& figures) {
 StatisticFigures calcStatistic(const ReadingList& readings, const ReadingSelection& selection, bool showMap) {
     StatisticFigures figures;
     for (const ReadingModel& reading : readings) {
-        if (!isKept(reading, selection)) continue;
+        if (!isInStatistic(reading, selection)) continue;
         add(figures.sys, reading.sys);
         add(figures.dia, reading.dia);
         add(figures.pulse, reading.pulse);

@@ -6,12 +6,17 @@ namespace zel {
 
 namespace {
 
-constexpr double belowBase = 20;  ///< the plot begins that much below the base value
-constexpr double bloodSpan = 180; ///< mmHg from the bottom to the top of the plot
-constexpr double pulseSpan = 80;  ///< beats per minute
+constexpr int belowBase = 20;  ///< the plot begins that much below the base value
+constexpr int bloodSpan = 180; ///< mmHg from the bottom to the top of the plot
+constexpr int pulseSpan = 80;  ///< beats per minute
 
-double valueToY(const ChartScale& scale, double value, double span) {
+double valueToY(const ChartScale& scale, double value, int span) {
     return scale.chartRect.y + (value - scale.iScaleBase + belowBase) * scale.chartRect.height / span;
+}
+
+ScaleRange rangeOf(const ChartScale& scale, int span) {
+    const std::int64_t least = std::int64_t{scale.iScaleBase} - belowBase;
+    return {least, least + span};
 }
 
 } // namespace
@@ -29,5 +34,9 @@ ChartScale::ChartScale(const Rect& total, const Period& shown, bool noBaseArea, 
 double ChartScale::mapValToY(double value) const { return valueToY(*this, value, bloodSpan); }
 
 double ChartScale::mapPulseValToY(double value) const { return valueToY(*this, value, pulseSpan); }
+
+ScaleRange ChartScale::bloodRange() const { return rangeOf(*this, bloodSpan); }
+
+ScaleRange ChartScale::pulseRange() const { return rangeOf(*this, pulseSpan); }
 
 } // namespace zel

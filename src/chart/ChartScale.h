@@ -2,6 +2,7 @@
 
 #include "analysis/ReadingSelection.h"
 #include "chart/Geometry.h"
+#include "chart/OffScale.h"
 #include "chart/TimeScale.h"
 
 namespace zel {
@@ -28,6 +29,8 @@ struct ChartScale {
 
     [[nodiscard]] double mapValToY(double value) const;      ///< mmHg
     [[nodiscard]] double mapPulseValToY(double value) const; ///< beats per minute
+    [[nodiscard]] ScaleRange bloodRange() const;             ///< mmHg
+    [[nodiscard]] ScaleRange pulseRange() const;             ///< beats per minute
 };
 
 } // namespace zel

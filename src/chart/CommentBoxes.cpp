@@ -33,13 +33,16 @@ std::vector<CommentBox> commentBoxes(const CommentList& comments, const Period& 
         boxes.push_back({comment->CommentID,
                          getCommentColor(comment->degree, true),
                          {x, dateHeight, scale.calcXPos(shown.end) - x, commentHeight},
-                         comment->isSelected});
+                         comment->isSelected,
+                         dates->begin<period.begin, DateToDayBoundary(dates->end, true)> period.end});
     }
     return boxes;
 }
 
 CommentShape createCommentInRect(DrawManager& manager, const CommentBox& box, double bottom) {
     auto shape = std::make_shared<GFXRoundRect>(box.CommentID, box.strokeColour, box.bounds);
+    shape->isCutLeft = box.isCutLeft;
+    shape->isCutRight = box.isCutRight;
     shape->offsetLocationByY(bottom);
     manager.addObject(shape);
     if (box.isSelected) manager.selectObject(shape);

@@ -14,6 +14,8 @@ struct CommentBox {
     QColor strokeColour;
     Rect bounds; ///< above the bottom of the chart
     bool isSelected = false;
+    bool isCutLeft = false; ///< it begins before the period
+    bool isCutRight = false;
 };
 
 /// Boxes for the comments that begin or end in the period, as far as they lie in it. A comment that covers

@@ -17,7 +17,9 @@ namespace {
 
 constexpr int captionAttribute = 1;
 constexpr int noDataAttribute = 4;
-constexpr int cornerRadius = 5;
+constexpr int plotCornerRadius = 5;
+constexpr double besideFrame = 4; ///< a printed chart's frame runs just inside the plot
+constexpr double noteGap = 4;     ///< between a note and the plot's edges
 
 /// White, with rounded corners on the screen. Only what lies beside a corner is painted twice, the second
 /// time through the round clip, which takes a hundred times as long.
@@ -28,7 +30,7 @@ void drawBackground(Picture& picture, const ChartScale& scale, bool forPrint) {
         picture.push_back(FillRect{total, Qt::white});
         return;
     }
-    const double corner = std::min<double>(cornerRadius, std::max(0.0, white.height) / 2);
+    const double corner = std::min<double>(plotCornerRadius, std::max(0.0, white.height) / 2);
     const QColor beside = fixColor(gcScaleBackgroundColor);
     picture.push_back(FillRect{{total.x, total.y, total.width, corner}, beside});
     picture.push_back(FillRect{{total.x, total.top() - corner, total.width, corner}, beside});
@@ -36,7 +38,7 @@ void drawBackground(Picture& picture, const ChartScale& scale, bool forPrint) {
         FillRect{{total.x, total.y, std::min(scaleWidth + 0.0, total.width), total.height}, beside});
     picture.push_back(
         FillRect{{white.x, white.y + corner, white.width, white.height - 2 * corner}, Qt::white});
-    picture.push_back(BeginClip{white, cornerRadius});
+    picture.push_back(BeginClip{white, plotCornerRadius});
     picture.push_back(FillRect{{white.x, white.y, white.width, corner}, Qt::white});
     picture.push_back(FillRect{{white.x, white.top() - corner, white.width, corner}, Qt::white});
     picture.push_back(EndClip{});
@@ -51,7 +53,7 @@ void drawDownloadDays(Picture& picture, const ChartScale& scale, const std::vect
         const double x = scale.time.calcXPos(day.begin);
         const FillRect fill{{x, scale.chartRect.y, scale.time.calcXPos(day.end) - x, scale.chartRect.height},
                             fixColor(gcYellowBackgroundcolor)};
-        const Rect between = scale.whiteRect.inset(cornerRadius);
+        const Rect between = scale.whiteRect.inset(plotCornerRadius);
         const bool free = forPrint || (between.x <= x && fill.rect.right() <= between.right());
         if (free)
             picture.push_back(fill);
@@ -59,20 +61,22 @@ void drawDownloadDays(Picture& picture, const ChartScale& scale, const std::vect
             besideCorner.push_back(fill);
     }
     if (!besideCorner.empty()) {
-        picture.push_back(BeginClip{scale.whiteRect, cornerRadius});
+        picture.push_back(BeginClip{scale.whiteRect, plotCornerRadius});
         picture.insert(picture.end(), besideCorner.begin(), besideCorner.end());
         picture.push_back(EndClip{});
     }
     picture.push_back(EndClip{});
 }
 
-void drawNoData(Picture& picture, const Rect& rect) {
-    textOut(picture, qtTrId("NoData"), {rect.x + rect.width / 2, rect.y + rect.height / 2},
-            attribute(noDataAttribute), XPos::centre, YPos::centre);
+void drawInTheMiddle(Picture& picture, const QString& text, const Rect& rect) {
+    textOut(picture, text, {rect.x + rect.width / 2, rect.y + rect.height / 2}, attribute(noDataAttribute),
+            XPos::centre, YPos::centre);
 }
 
-void DrawAlphaLine(Picture& picture, const ChartScale& scale, double value) {
-    const double y = scale.mapValToY(value);
+/// \p limit in mmHg; 0: none.
+void DrawAlphaLine(Picture& picture, const ChartScale& scale, std::uint32_t limit) {
+    if (limit == 0) return;
+    const double y = scale.mapValToY(limit);
     picture.push_back(
         StraightLine{{scale.chartRect.x, y}, {scale.chartRect.right(), y}, 2, fixColor(gcBloodRedLinecolor)});
 }
@@ -89,14 +93,40 @@ void drawLines(Picture& picture, std::vector<PolyLine>& lines) {
         picture.emplace_back(std::move(line));
 }
 
+void addMarks(Picture& picture, PointMarks& marks, bool wanted, bool bordered) {
+    if (!wanted) return;
+    marks.bordered = bordered;
+    picture.emplace_back(std::move(marks));
+}
+
+QString noReadingsText(ViewSelection view) {
+    switch (view) {
+    case ViewSelection::amOnly: return qtTrId("noMorningReadings");
+    case ViewSelection::pmOnly: return qtTrId("noEveningReadings");
+    default: return qtTrId("noReadingsInPeriod");
+    }
+}
+
+/// What the plot does not show: readings, or some of them. On paper, the marks of downloads hang at its top.
+void drawNotes(Picture& picture, const ChartScale& scale, const ChartStyle& style, const ReadingLines& made) {
+    const Rect& plot = scale.chartRect;
+    if (made.inPeriod == 0) drawInTheMiddle(picture, noReadingsText(style.showDataType), plot);
+    const double side = style.CompareType ? plot.width / 2 : noteGap; // the caption stands at the left
+    const double top = style.forPrint ? downloadMarkHeight : noteGap;
+    drawOffScale(picture, made.offScale,
+                 {plot.x + side, plot.y, plot.width - side - noteGap, plot.height - top});
+}
+
 void drawBloodChart(Picture& picture, const ChartScale& scale, const ChartInput& input) {
     ReadingLines made = bloodLines(input.data.maReading, scale, input.style.showDataType);
     qCDebug(lcChart, "drawBloodChart data count %zu", made.count);
-    if (input.style.bTrack) picture.emplace_back(std::move(made.marks));
+    addMarks(picture, made.marks, input.style.bTrack && !input.style.forPrint, true);
     DrawAlphaLine(picture, scale, input.sysStandard);
     DrawAlphaLine(picture, scale, input.diaStandard);
     picture.emplace_back(std::move(made.ticks));
+    addMarks(picture, made.marks, input.style.forPrint, false); // over the limits and the ticks
     drawLines(picture, made.lines);
+    drawNotes(picture, scale, input.style, made);
 }
 
 void drawPulseChart(Picture& picture, const ChartScale& scale, const ChartInput& input) {
@@ -106,6 +136,7 @@ void drawPulseChart(Picture& picture, const ChartScale& scale, const ChartInput&
     made.marks.bordered = false;
     picture.emplace_back(std::move(made.marks));
     drawLines(picture, made.lines);
+    drawNotes(picture, scale, input.style, made);
 }
 
 void logPeriod(const ChartLayout& layout) {
@@ -133,11 +164,12 @@ ChartLayout drawChart(const ChartInput& input, const LocalZone& zone) {
     else
         drawPulseScale(picture, scale);
     if (!input.data.hasData()) {
-        drawNoData(picture, scale.totalRect);
+        drawInTheMiddle(picture, qtTrId("NoData"), scale.totalRect);
         return layout;
     }
     logPeriod(layout);
-    drawTimeAxis(picture, scale, !style.noBaseArea, zone);
+    drawTimeAxis(picture, scale, zone);
+    if (!style.noBaseArea) drawDateLabels(picture, scale, style.forPrint ? besideFrame : 0, zone);
     picture.push_back(BeginClip{scale.chartRect});
     if (style.showBlood)
         drawBloodChart(picture, scale, input);

@@ -30,12 +30,15 @@ inline constexpr ChartStyle DrawPulse{.myID = QLatin1StringView("pulse"), .bTrac
 inline constexpr ChartStyle DrawPulsePlain{
     .noBaseArea = true, .showBlood = true, .myID = QLatin1StringView("pulse")};
 
+/// Stays free at the top of a printed plot, for whoever marks the days of downloads there.
+inline constexpr double downloadMarkHeight = 10;
+
 /// Everything that a chart is made of.
 struct ChartInput {
     const ChartData& data;
     Period period;                 ///< whole days
-    std::uint32_t sysStandard = 0; ///< mmHg
-    std::uint32_t diaStandard = 0; ///< mmHg
+    std::uint32_t sysStandard = 0; ///< mmHg; 0: no limit
+    std::uint32_t diaStandard = 0; ///< mmHg; 0: no limit
     ChartStyle style;
     Rect totalRect;
 };

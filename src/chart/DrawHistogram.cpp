@@ -15,6 +15,9 @@ namespace {
 constexpr double panelGap = 5;          ///< between the two panels that share a scale
 constexpr double axisEndsBelowTop = 30; ///< room for the unit
 constexpr int percentStep = 10;
+constexpr int pressureDivide = 14; ///< divisions of the value scales
+constexpr int pulseDivide = 10;
+constexpr double titleIndent = 2;
 
 struct Panel {
     Rect rect;
@@ -24,8 +27,6 @@ struct Panel {
 };
 
 std::array<Panel, 3> panels(const Rect& rect) {
-    constexpr int pressureDivide = 14;
-    constexpr int pulseDivide = 10;
     const double width = (rect.width - leftMargin - panelGap - leftMargin) / 3;
     const auto at = [&](double x) {
         return Rect{x, rect.y + bottomMargin, width, rect.height - bottomMargin};
@@ -44,12 +45,13 @@ void drawHVerticalScale(Picture& picture, const Panel& panel, double topMargin) 
     const Rect& rect = panel.rect;
     const PanelScale scale{Axis::vertical, panel.divide, valueStep, rect.height - topMargin};
     drawGrid(picture, rect, scale);
-    textOut(picture, panel.title, {rect.x + 2, rect.top() - 2}, attribute(1), XPos::left, YPos::top);
+    textOut(picture, panel.title, {rect.x + titleIndent, rect.top() - titleIndent}, attribute(1), XPos::left,
+            YPos::top);
     const Point axisEnd{rect.x, std::max(rect.y, rect.top() - axisEndsBelowTop)};
     picture.emplace_back(StraightLine{{rect.x, rect.y}, axisEnd, 2, Qt::black});
     if (panel.unit.isEmpty()) return;
     drawNumbers(picture, rect, scale);
-    textOut(picture, panel.unit, {rect.x, rect.y + scale.length}, attribute(7), XPos::right, YPos::centre);
+    drawUnit(picture, rect, panel.unit, rect.y + scale.length, false);
 }
 
 // Spelled so with the other drawing steps.
@@ -69,7 +71,7 @@ void drawBars(Picture& picture, const Panel& panel, const HistogramMeasure& meas
     const double row = (rect.height - topMargin) / panel.divide;
     const double thickness = 0.5 * row - std::max(row / 10, 1.0);
     if (thickness <= 0 || measure.percentDivisions < 1) return;
-    picture.emplace_back(BeginClip{rect});
+    picture.emplace_back(BeginClip{{rect.x, rect.y, rect.width, rect.height - topMargin}});
     for (int index = 0; index < histogramClassTotal; ++index) {
         const double share = measure.share[static_cast<std::size_t>(index)];
         if (share <= 0) continue;
@@ -80,9 +82,30 @@ void drawBars(Picture& picture, const Panel& panel, const HistogramMeasure& meas
     picture.emplace_back(EndClip{});
 }
 
+/// Beside the title, where no bar reaches.
+Rect besideTitle(const Panel& panel, double topMargin) {
+    constexpr double gap = 6;
+    const double left = panel.rect.x + titleIndent + textSize(panel.title, attribute(1)).width + gap;
+    return {left, panel.rect.top() - titleIndent - topMargin, panel.rect.right() - titleIndent - left,
+            topMargin + 1};
+}
+
 } // namespace
 
-Picture drawHistogram(const HistogramFigures& figures, const Rect& rect) {
+HistogramOffScale histogramOffScale(const ReadingList& readings, const ReadingSelection& selection) {
+    constexpr ScaleRange pressure{0, pressureDivide * valueStep - 1};
+    constexpr ScaleRange beats{0, pulseDivide * valueStep - 1};
+    HistogramOffScale counts{};
+    for (const ReadingModel& reading : readings) {
+        if (!isCounted(reading, selection)) continue;
+        countOffScale(counts[0], {{reading.sys, pressure}});
+        countOffScale(counts[1], {{reading.dia, pressure}});
+        countOffScale(counts[2], {{reading.pulse, beats}});
+    }
+    return counts;
+}
+
+Picture drawHistogram(const HistogramFigures& figures, const HistogramOffScale& offScale, const Rect& rect) {
     Picture picture{BeginClip{rect}, FillRect{rect, fixColor(gcScaleBackgroundColor)}};
     const auto shown = panels(rect);
     const std::array measures{&figures.sys, &figures.dia, &figures.pulse};
@@ -93,6 +116,7 @@ Picture drawHistogram(const HistogramFigures& figures, const Rect& rect) {
         drawHosizotalScale(picture, shown[index].rect, measures[index]->percentDivisions);
         drawHVerticalScale(picture, shown[index], topMargin);
         if (figures.total > 0) drawBars(picture, shown[index], *measures[index], topMargin);
+        drawOffScale(picture, offScale[index], besideTitle(shown[index], topMargin));
     }
     picture.emplace_back(EndClip{});
     return picture;

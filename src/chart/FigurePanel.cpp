@@ -46,4 +46,11 @@ void drawNumbers(Picture& picture, const Rect& panel, const PanelScale& scale) {
     }
 }
 
+void drawUnit(Picture& picture, const Rect& panel, const QString& unit, double y, bool hangs) {
+    TextAttribute font = attribute(7);
+    while (font.size > 1 && textSize(unit, font).width > leftMargin - 2 * edgeGap)
+        --font.size;
+    textOut(picture, unit, {panel.x - edgeGap, y}, font, XPos::right, hangs ? YPos::top : YPos::centre);
+}
+
 } // namespace zel

@@ -22,6 +22,9 @@ void drawGrid(Picture& picture, const Rect& panel, const PanelScale& scale);
 /// The numbers of the divisions in the margin outside the panel, as many as there is room for.
 void drawNumbers(Picture& picture, const Rect& panel, const PanelScale& scale);
 
+/// The unit of a vertical scale, in the margin beside the panel and clear of panel and edge.
+void drawUnit(Picture& picture, const Rect& panel, const QString& unit, double y, bool hangs);
+
 inline constexpr double leftMargin = 30;   ///< holds the numbers of a vertical scale
 inline constexpr double bottomMargin = 17; ///< holds those of a horizontal one
 inline constexpr double numberGap = 4;     ///< between the numbers and the panel they belong to

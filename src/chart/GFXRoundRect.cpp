@@ -35,9 +35,11 @@ Rect GFXRoundRect::drawBounds() const { return box.inset(-(2 + strokeWidth)); }
 bool GFXRoundRect::containsPoint(Point point) const { return drawBounds().contains(point); }
 
 Rect GFXRoundRect::handleRect(Handle handle) const {
-    constexpr double width = 5;
-    const double edge = handle == left ? box.x : box.right();
-    return {edge - 2, box.y, width, box.height};
+    constexpr double width = 9, mostInside = 4;
+    const bool isLeft = handle == left;
+    const double inside = std::min(mostInside, std::floor(std::abs(box.width) / 3));
+    const double x = isLeft ? box.x + inside - width : box.right() - inside;
+    return {x, box.y, (isLeft ? isCutLeft : isCutRight) ? 0 : width, box.height};
 }
 
 bool GFXRoundRect::handleContainsPoint(Point point) const {

@@ -16,6 +16,9 @@ public:
     QString CommentID;
     QColor strokeColour;
     double strokeWidth = 1;
+    /// The comment goes on where it is not seen: there is no edge to be pulled.
+    bool isCutLeft = false;
+    bool isCutRight = false;
 
     [[nodiscard]] const Rect& bounds() const { return box; }
     void setBounds(const Rect& bounds);
@@ -26,6 +29,8 @@ public:
     [[nodiscard]] bool containsPoint(Point point) const;
 
     enum Handle { none = 0, left = 1, right = 2 };
+    /// Wide enough to be hit; of a narrow box, most of it lies outside, so that its body can be clicked.
+    /// Empty where the box is cut.
     [[nodiscard]] Rect handleRect(Handle handle) const;
     [[nodiscard]] bool handleContainsPoint(Point point) const;
     [[nodiscard]] Handle handleAtPoint(Point point) const;

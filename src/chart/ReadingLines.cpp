@@ -53,6 +53,14 @@ Point pulsePoint(const ChartScale& scale, const ChartReading& reading, double x)
     return {x, std::trunc(scale.mapPulseValToY(reading.pulse))};
 }
 
+/// Counts a reading by its values, if it lies in the period.
+void countInPeriod(ReadingLines& made, const ChartScale& scale, Instant date,
+                   std::initializer_list<ScaledValue> values) {
+    if (date < scale.time.begin || date > scale.time.end) return;
+    ++made.inPeriod;
+    countOffScale(made.offScale, values);
+}
+
 /// Calls \p add with each accepted reading, its x, and whether it is joined to the one before.
 template <class Add>
 void forEachAccepted(std::span<const ChartReading> readings, const ChartScale& scale, ViewSelection view,
@@ -73,6 +81,7 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
     ReadingLines made;
     made.marks.points.reserve(2 * readings.size());
     std::vector<PolyLine> diaRuns;
+    const ScaleRange range = scale.bloodRange();
     made.ticks.color = fixColor(gcBloodWhiteLinecolor);
     made.ticks.ticks.reserve(readings.size());
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
@@ -83,6 +92,7 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
         made.marks.points.push_back(sys);
         made.marks.points.push_back(dia);
         made.ticks.ticks.push_back({x, sys.y, dia.y});
+        countInPeriod(made, scale, reading.date, {{reading.sys, range}, {reading.dia, range}});
     });
     made.count = made.ticks.ticks.size();
     made.lines.insert(made.lines.end(), std::make_move_iterator(diaRuns.begin()),
@@ -93,11 +103,13 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
 ReadingLines pulseLines(const std::vector<ChartReading>& all, const ChartScale& scale, ViewSelection view) {
     const auto readings = readingsAround(all, periodInReach(scale), view);
     ReadingLines made;
+    const ScaleRange range = scale.pulseRange();
     made.marks.points.reserve(readings.size());
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
         const Point pulse = pulsePoint(scale, reading, x);
         addToRun(made.lines, pulse, joined);
         made.marks.points.push_back(pulse);
+        countInPeriod(made, scale, reading.date, {{reading.pulse, range}});
     });
     made.count = made.marks.points.size();
     return made;

@@ -14,7 +14,11 @@ namespace zel {
 /// Days from one grid line to the next.
 [[nodiscard]] int gridStep(int days);
 
-/// Grid lines of days, and with \p labels their numbers and names in the date strip.
-void drawTimeAxis(Picture& picture, const ChartScale& scale, bool labels, const LocalZone& zone);
+/// Grid lines of days; none for a single day.
+void drawTimeAxis(Picture& picture, const ChartScale& scale, const LocalZone& zone);
+
+/// Numbers of the days, or names of the months, and years in the strips, \p leftGap or more from the plot's
+/// left side.
+void drawDateLabels(Picture& picture, const ChartScale& scale, double leftGap, const LocalZone& zone);
 
 } // namespace zel

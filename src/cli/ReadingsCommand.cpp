@@ -66,9 +66,11 @@ CommandResult runReadings(const Request& request, Surroundings& around) {
                                       (*store)->getTrasferLogForCurID(), selection};
         QStringList lines(u"date,time,sys,dia,pulse,map,pp,mam,arrhythmia"_s);
         if (isAll) lines += withoutAnyDate(readings);
-        for (const ReadingRow& row : assembleReadingRows(source, LocalZone{}).rows)
+        const ReadingRows list = assembleReadingRows(source, LocalZone{});
+        for (const ReadingRow& row : list.rows)
             lines += line(row);
         printLine(around.out, lines.join(u'\n'));
+        if (list.isCut) printLine(around.err, describeCut(list));
     });
 }
 

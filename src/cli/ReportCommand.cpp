@@ -2,6 +2,7 @@
 #include "cli/OpenStore.h"
 #include "cli/PeriodOptions.h"
 #include "cli/Usage.h"
+#include "report/ReportDocument.h"
 #include "report/ReportPdf.h"
 
 #include <QFileInfo>
@@ -79,26 +80,26 @@ ReadingSelection selectionOf(const Order& order, const DataStore& store, const C
             order.days.isOpen()};
 }
 
-CommandResult writeReport(const Order& order, bool practitioner, const DataStore& store, const Clock& clock) {
-    const ReadingSelection selection = selectionOf(order, store, clock);
-    ReadingRows rows = assembleReadingRows(
-        {store.getReadingForCurID(), store.getCommentForCurID(), store.getTrasferLogForCurID(), selection},
-        LocalZone{});
-    const bool isAFib = rows.isAFib;
-    const PrintView view({.patient = *store.getPatientByID(order.ID),
-                          .readings = store.getReadingForCurID(),
-                          .comments = store.getCommentForCurID(),
-                          .downloads = store.getTrasferLogForCurID(),
-                          .settings = store.getSetting(),
-                          .selection = selection,
-                          .rows = std::move(rows),
-                          .now = std::chrono::floor<Instant::duration>(clock.now()),
-                          .needPhysicianInfo = practitioner,
-                          .getIsAfib = isAFib},
-                         QPageSize(order.paper));
-    return writePdf(view, order.sections, order.output).map_error([](const ReportError& error) {
-        return Failure{ExitStatus::failed, describe(error)};
-    });
+/// Says which sections of those asked for have no page.
+void tellEmptySections(const PrintView& view, const Order& order, Surroundings& around) {
+    QStringList keys;
+    const ReportDocument document(view, order.sections);
+    for (const Section section : document.emptySections())
+        keys += QLatin1StringView(facts(section).key);
+    if (!keys.isEmpty()) printLine(around.err, qtTrId("CliEmptySections").arg(keys.join(u", "_s)));
+}
+
+CommandResult writeReport(const Order& order, bool practitioner, const DataStore& store,
+                          Surroundings& around) {
+    auto source = reportSource(store, selectionOf(order, store, around.clock), around.clock);
+    if (!source) return failed(qtTrId("CliNoSuchPatient").arg(order.ID));
+    source->needPhysicianInfo = practitioner;
+    const PrintView view(std::move(*source), QPageSize(order.paper));
+    const auto written = writePdf(view, order.sections, order.output);
+    if (!written) return failed(describe(written.error()));
+    printLine(around.out, u"written: "_s + order.output);
+    tellEmptySections(view, order, around);
+    return {};
 }
 
 CommandResult runReport(const Request& request, Surroundings& around) {
@@ -110,9 +111,7 @@ CommandResult runReport(const Request& request, Surroundings& around) {
     if (CommandResult safe = checkOutput(**store, order->output); !safe) return safe;
     (*store)->setCurrentID(order->ID);
     const bool practitioner = request.options.isSet(u"practitioner"_s);
-    CommandResult result = writeReport(*order, practitioner, **store, around.clock);
-    if (result) printLine(around.out, u"written: "_s + order->output);
-    return result;
+    return writeReport(*order, practitioner, **store, around);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "analysis/ReadingCount.h"
 #include "analysis/Statistic.h"
 #include "cli/Commands.h"
 #include "cli/OpenStore.h"
@@ -36,6 +37,7 @@ CommandResult runStatistics(const Request& request, Surroundings& around) {
                                          .includeUndated = request.options.isSet(u"undated"_s)};
         const bool showMap = (*store)->getSetting().showPPorMap != 0;
         print(calcStatistic(readings, selection, showMap), showMap, around);
+        printLine(around.err, describe(countReadings(readings, selection, isInStatistic)));
     });
 }
 

@@ -11,10 +11,10 @@ QString commentNumber(const CommentList& comments, const CommentModel& comment) 
 
 QString commentColorName(const CommentModel& comment) {
     switch (comment.degree) {
-    case 1: return qtTrId("reportGrey");
-    case 3: return qtTrId("reportBlue");
-    case 4: return qtTrId("reportYellow");
-    default: return qtTrId("reportOrange");
+    case 1: return qtTrId("colourGrey");
+    case 3: return qtTrId("colourBlue");
+    case 4: return qtTrId("colourYellow");
+    default: return qtTrId("colourOrange");
     }
 }
 

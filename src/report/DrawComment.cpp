@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const TextAttribute smallFont{};
-const TextAttribute boldFont{.bold = true};
 constexpr double barWidth = 6;
 
 double itemHeight() { return (2 * lineHeight(smallFont) + 3 * DrawComment::yMargin) * 2; }
@@ -36,38 +35,38 @@ int DrawComment::iItemsPerPage(const Rect& rect) {
     return std::max(1, static_cast<int>(std::ceil(rect.height / itemHeight())));
 }
 
-int DrawComment::needPages(const Rect& rect) const {
-    const int perPage = iItemsPerPage(rect);
-    return (static_cast<int>(report.comments.size()) + perPage - 1) / perPage;
+CommentPages layOutComments(const ReportSource& report, const Rect& rect) {
+    // As many as are counted fit: the last one would else stand in the footer.
+    const double least = rect.height / DrawComment::iItemsPerPage(rect);
+    const double width = rect.width - barWidth - 2 * DrawComment::xMargin;
+    CommentPages layout;
+    std::vector<TextItem> items;
+    for (const auto& comment : report.comments) {
+        layout.lines.push_back(wrapped(comment->comment, width, smallFont));
+        items.push_back({static_cast<int>(layout.lines.back().size()), least});
+    }
+    layout.pages = textPages(items, rect.height, lineHeight(smallFont), 2 * DrawComment::yMargin);
+    return layout;
 }
 
 void DrawComment::drawRect(Picture& picture, const Rect& rect, int page) const {
-    const int perPage = iItemsPerPage(rect);
-    const auto from = std::size_t(std::max(0, page - 1)) * std::size_t(perPage);
-    const std::size_t until = std::min(report.comments.size(), from + std::size_t(perPage));
-    // As many as are counted fit: the last one would else stand in the footer.
-    const double height = rect.height / perPage;
     picture.emplace_back(FillRect{rect, Qt::white});
-    for (std::size_t index = from; index < until; ++index) {
-        const double bottom = rect.top() - height * static_cast<double>(index - from + 1);
-        drawItem(picture, {rect.x, bottom, rect.width, height}, *report.comments[index]);
+    const auto index = static_cast<std::size_t>(page) - 1;
+    if (index >= layout.pages.size()) return; // the frame of a list that has none
+    double top = rect.top();
+    for (const TextPart& part : layout.pages[index]) {
+        top -= part.height;
+        drawItem(picture, {rect.x, top, rect.width, part.height}, part);
     }
 }
 
-void DrawComment::drawItem(Picture& picture, const Rect& item, const CommentModel& comment) const {
-    const double line = lineHeight(smallFont);
+void DrawComment::drawItem(Picture& picture, const Rect& item, const TextPart& part) const {
+    const CommentModel& comment = *report.comments[part.item];
     const QColor color = getCommentColor(comment.degree, true);
     picture.emplace_back(FillRect{{item.x, item.y + yMargin, barWidth, item.height - 2 * yMargin}, color});
-    const double left = item.x + barWidth + xMargin;
-    const double width = item.right() - left - xMargin;
-    const double headBase = item.top() - yMargin - line;
-    const QString colorName = commentColorName(comment);
-    const double nameWidth = textSize(colorName, smallFont).width;
+    const Rect box{item.x + barWidth + xMargin, item.y, item.width - barWidth - 2 * xMargin, item.height};
     const QString head = commentNumber(report.comments, comment) + u"   "_s + days(comment, report.settings);
-    fieldText(picture, head, {left, headBase}, width - nameWidth - xMargin, boldFont);
-    textOut(picture, colorName, {left + width, headBase}, smallFont, XPos::right);
-    const int lines = static_cast<int>((headBase - item.y - yMargin) / line);
-    fieldParagraph(picture, comment.comment, {left, headBase}, width, smallFont, lines);
+    drawTextPart(picture, box, {head, commentColorName(comment)}, layout.lines[part.item], part);
     picture.emplace_back(StraightLine{{item.x, item.y}, {item.right(), item.y}, 0.5, Qt::gray});
 }
 

@@ -2,27 +2,38 @@
 
 #include "chart/Picture.h"
 #include "report/ReportSource.h"
+#include "report/TextPages.h"
+
+#include <QStringList>
 
 namespace zel {
+
+/// How a patient's comments lie on pages: worked out once, since all before it decide where one stands.
+struct CommentPages {
+    std::vector<QStringList> lines; ///< of each comment
+    TextPages pages;                ///< none for no comments
+};
+/// On pages with that body.
+[[nodiscard]] CommentPages layOutComments(const ReportSource& report, const Rect& rect);
 
 /// The patient's comments on a report's pages.
 class DrawComment {
 public:
-    static constexpr double xMargin = 8, yMargin = 4;
+    static constexpr double xMargin = 8, yMargin = textPartMargin;
 
-    /// \p source must outlive it.
-    explicit DrawComment(const ReportSource& source) : report(source) {}
+    /// Both must outlive it.
+    DrawComment(const ReportSource& source, const CommentPages& laidOut) : report(source), layout(laidOut) {}
 
+    /// Short comments on a page; longer ones grow.
     [[nodiscard]] static int iItemsPerPage(const Rect& rect);
-    /// None for no comments.
-    [[nodiscard]] int needPages(const Rect& rect) const;
     /// The comments of a page, counted from 1.
     void drawRect(Picture& picture, const Rect& rect, int page) const;
 
 private:
-    void drawItem(Picture& picture, const Rect& item, const CommentModel& comment) const;
+    void drawItem(Picture& picture, const Rect& item, const TextPart& part) const;
 
     const ReportSource& report;
+    const CommentPages& layout;
 };
 
 } // namespace zel

@@ -2,6 +2,7 @@
 
 #include "report/FieldText.h"
 
+#include <algorithm>
 #include <array>
 
 namespace zel {
@@ -14,10 +15,17 @@ const TextAttribute labelFont{};
 const TextAttribute blockFont{.size = 12, .bold = true};
 const TextAttribute valueFont{.size = 12};
 const TextAttribute unitFont{.size = 8};
+const TextAttribute twoLineFont{.size = 7};
 
 constexpr Size design{746, 340}; ///< as the page's body on A4, landscape
-constexpr double blockInset = 8, fieldHeight = 19;
+constexpr double blockInset = 8, fieldHeight = 19, textIndent = 5;
 constexpr int blockRadius = 5;
+constexpr int smallestValue = 7;                                 ///< on one line
+constexpr int addressLines = 3, historyLines = 4, noteLines = 5; ///< where none needs another's room
+
+struct FormText {
+    QString label, text;
+};
 
 /// Draws at places of the design, whose y runs downwards from its top.
 class Sheet {
@@ -36,22 +44,43 @@ public:
         fieldText(picture, text, {box.x, box.y + baseOf(box, labelFont)}, box.width, labelFont);
     }
     /// A white box with the value, and its unit behind it.
-    void field(const Rect& place, const QString& value, const QString& unit = {}) {
+    void field(const Rect& place, const QString& label, const QString& value, const QString& unit = {}) {
         const Rect box = mapped(place);
         picture.emplace_back(FillRect{box, Qt::white});
         const double unitWidth = value.isEmpty() ? 0 : textSize(unit, unitFont).width;
-        const Point at{box.x + 5, box.y + baseOf(box, valueFont)};
-        fieldText(picture, value, at, box.width - 10 - unitWidth, valueFont);
+        const double width = box.width - 2 * textIndent - unitWidth;
+        drawValue(box, label, value, width);
         if (unitWidth > 0)
             textOut(picture, unit, {box.right() - 4, box.y + baseOf(box, unitFont)}, unitFont, XPos::right);
     }
-    void paragraph(const Rect& place, const QString& text, int lines) {
+    void paragraph(const Rect& place, const QString& label, const QString& text, int lines) {
         const Rect box = mapped(place);
         picture.emplace_back(FillRect{box, Qt::white});
-        fieldParagraph(picture, text, {box.x + 5, box.top() - 2}, box.width - 10, labelFont, lines);
+        if (linesOf(place.width, text, lines) > lines) cut.push_back({label, text});
+        fieldParagraph(picture, text, {box.x + textIndent, box.top() - 2}, box.width - 2 * textIndent,
+                       labelFont, lines);
     }
+    /// That the text takes in a paragraph of that width; one more than \p most for all that take more.
+    [[nodiscard]] int linesOf(double width, const QString& text, int most) const {
+        const double room = width * across - 2 * textIndent;
+        return static_cast<int>(wrapped(text, room, labelFont, most + 1).size());
+    }
+    [[nodiscard]] double paragraphLine() const { return lineHeight(labelFont) / down; }
+    [[nodiscard]] std::vector<FormText> cutTexts() && { return std::move(cut); }
 
 private:
+    /// In smaller type, then in two lines, before it is cut.
+    void drawValue(const Rect& box, const QString& label, const QString& value, double width) {
+        TextAttribute font = valueFont;
+        while (font.size > smallestValue && !isWhole(value, width, font))
+            --font.size;
+        const Point at{box.x + textIndent, box.y + baseOf(box, font)};
+        if (isWhole(value, width, font)) return fieldText(picture, value, at, width, font);
+        if (wrapped(value, width, twoLineFont, 3).size() <= 2)
+            return fieldParagraph(picture, value, {at.x, box.top() - 1}, width, twoLineFont, 2);
+        cut.push_back({label, value});
+        fieldText(picture, value, at, width, font);
+    }
     [[nodiscard]] Rect mapped(const Rect& place) const {
         const double height = place.height * down;
         return {rect.x + place.x * across, rect.top() - place.y * down - height, place.width * across,
@@ -65,6 +94,7 @@ private:
     Rect rect;
     double across;
     double down;
+    std::vector<FormText> cut;
 };
 
 /// Label and value side by side.
@@ -73,12 +103,12 @@ struct Row {
 };
 void row(Sheet& sheet, const Row& at, const QString& label, const QString& value, const QString& unit = {}) {
     sheet.label(at.x, at.y, label, at.labelWidth);
-    sheet.field({at.x + at.labelWidth, at.y, at.fieldWidth, fieldHeight}, value, unit);
+    sheet.field({at.x + at.labelWidth, at.y, at.fieldWidth, fieldHeight}, label, value, unit);
 }
 
 /// Day, month and year in boxes of their own, each above its name.
-void drawBirth(Sheet& sheet, const PatientModel& patient) {
-    sheet.label(22, 174, u"Date of Birth"_s, 88);
+void drawBirth(Sheet& sheet, const PatientModel& patient, double y) {
+    sheet.label(22, y, u"Date of Birth"_s, 88);
     struct Part {
         const char* label;
         QString pattern;
@@ -88,22 +118,39 @@ void drawBirth(Sheet& sheet, const PatientModel& patient) {
         {{"Day", u"d"_s, 110, 50}, {"Month", u"M"_s, 170, 50}, {"Year", u"yyyy"_s, 230, 70}}};
     for (const Part& part : parts) {
         const Date& birth = patient.DateOfBirth;
+        const QString label = QLatin1StringView(part.label);
         const QString value = isNilDate(birth) ? QString() : DateToStr(birth, part.pattern);
-        sheet.field({part.x, 174, part.width, fieldHeight}, value);
-        sheet.label(part.x, 192, QLatin1StringView(part.label), part.width);
+        sheet.field({part.x, y, part.width, fieldHeight}, label, value);
+        sheet.label(part.x, y + 18, label, part.width);
     }
 }
 
-void drawPersonal(Sheet& sheet, const PatientModel& patient) {
-    sheet.block({0, 0, 373, 224}, u"Personal Data"_s);
-    constexpr double x = 22, labelWidth = 88, fieldWidth = 240;
+constexpr double addressWidth = 240, historyWidth = 252, notesWidth = 702;
+
+/// Lines by which the upper blocks grow at the cost of the notes below.
+int growthOf(const Sheet& sheet, const PatientModel& patient) {
+    const int most = noteLines - 1;
+    const auto over = [&](double width, const QString& text, int usual) {
+        return sheet.linesOf(width, text, usual + most) - usual;
+    };
+    const int wanted = std::max({0, over(addressWidth, patient.Address, addressLines),
+                                 over(historyWidth, patient.FamilyHistory, historyLines)});
+    const int notes = std::max(1, sheet.linesOf(notesWidth, patient.PatientNotes, noteLines));
+    return std::clamp(noteLines - notes, 0, std::min(wanted, most));
+}
+
+void drawPersonal(Sheet& sheet, const PatientModel& patient, int growth) {
+    const double more = growth * sheet.paragraphLine();
+    sheet.block({0, 0, 373, 224 + more}, u"Personal Data"_s);
+    constexpr double x = 22, labelWidth = 88, fieldWidth = addressWidth;
     row(sheet, {x, 34, labelWidth, fieldWidth}, u"Family Name"_s, patient.FamilyName);
     row(sheet, {x, 57, labelWidth, fieldWidth}, u"Given Name(s)"_s, patient.GivenNames);
     row(sheet, {x, 80, labelWidth, fieldWidth}, u"ID"_s, patient.ID);
     sheet.label(x, 103, u"Address"_s, labelWidth);
-    sheet.paragraph({x + labelWidth, 103, fieldWidth, 42}, patient.Address, 3);
-    row(sheet, {x, 149, labelWidth, fieldWidth}, u"Phone / E-Mail"_s, patient.PhoneEmail);
-    drawBirth(sheet, patient);
+    sheet.paragraph({x + labelWidth, 103, fieldWidth, 42 + more}, u"Address"_s, patient.Address,
+                    addressLines + growth);
+    row(sheet, {x, 149 + more, labelWidth, fieldWidth}, u"Phone / E-Mail"_s, patient.PhoneEmail);
+    drawBirth(sheet, patient, 174 + more);
 }
 
 QString sexText(std::int32_t sex) {
@@ -113,12 +160,13 @@ QString sexText(std::int32_t sex) {
 
 QString yesNo(std::int32_t answer) { return answer == 1 ? qtTrId("Yes") : qtTrId("No"); }
 
-void drawRisks(Sheet& sheet, const ReportSource& report) {
+void drawRisks(Sheet& sheet, const ReportSource& report, int growth) {
     const PatientModel& patient = report.patient;
     const bool isMetric = report.settings.isMetric();
     const bool hasBirth = !isNilDate(patient.DateOfBirth);
     const QString age = hasBirth ? QString::number(GetAge(*patient.DateOfBirth, report.now)) : QString();
-    sheet.block({373, 0, 373, 224}, u"Risk Factor"_s);
+    const double more = growth * sheet.paragraphLine();
+    sheet.block({373, 0, 373, 224 + more}, u"Risk Factor"_s);
     constexpr double left = 395, right = 571, fieldWidth = 76, labelWidth = 76;
     row(sheet, {left, 34, labelWidth, fieldWidth}, u"Sex"_s, sexText(patient.Sex));
     row(sheet, {right, 34, labelWidth, fieldWidth}, u"Age"_s, age, qtTrId("reportYears"));
@@ -129,20 +177,53 @@ void drawRisks(Sheet& sheet, const ReportSource& report) {
         patient.getHeightStr(report.settings));
     row(sheet, {left, 94, labelWidth, fieldWidth}, u"Smoker"_s, yesNo(patient.Smoker));
     row(sheet, {right, 94, labelWidth, fieldWidth}, u"Diabetic"_s, yesNo(patient.Diabetic));
-    row(sheet, {left, 124, 176, fieldWidth}, u"Cholesterol(mg/dL)"_s, patient.getCholestrolStr());
+    row(sheet, {left, 124, right - left + labelWidth, fieldWidth}, u"Cholesterol(mg/dL)"_s,
+        patient.getCholestrolStr());
     sheet.label(left, 154, u"Family history"_s, labelWidth);
-    sheet.paragraph({left + labelWidth, 154, 252, 54}, patient.FamilyHistory, 4);
+    sheet.paragraph({left + labelWidth, 154, historyWidth, 54 + more}, u"Family history"_s,
+                    patient.FamilyHistory, historyLines + growth);
+}
+
+/// \return what its fields cut
+std::vector<FormText> drawForm(Picture& picture, const ReportSource& report, const Rect& rect) {
+    picture.emplace_back(FillRect{rect, Qt::white});
+    Sheet sheet(picture, rect);
+    const int growth = growthOf(sheet, report.patient);
+    const double more = growth * sheet.paragraphLine();
+    drawPersonal(sheet, report.patient, growth);
+    drawRisks(sheet, report, growth);
+    sheet.block({0, 224 + more, 746, 116 - more}, u"Patient Notes"_s);
+    sheet.paragraph({22, 254 + more, notesWidth, 70 - more}, u"Patient Notes"_s, report.patient.PatientNotes,
+                    noteLines - growth);
+    return std::move(sheet).cutTexts();
 }
 
 } // namespace
 
-void drawPatient(Picture& picture, const ReportSource& report, const Rect& rect) {
-    picture.emplace_back(FillRect{rect, Qt::white});
-    Sheet sheet(picture, rect);
-    drawPersonal(sheet, report.patient);
-    drawRisks(sheet, report);
-    sheet.block({0, 224, 746, 116}, u"Patient Notes"_s);
-    sheet.paragraph({22, 254, 702, 70}, report.patient.PatientNotes, 5);
+PatientPages layOutPatient(const ReportSource& report, const Rect& rect) {
+    const double line = lineHeight(labelFont), margins = 3 * textPartMargin;
+    PatientPages layout;
+    std::vector<TextItem> items;
+    Picture form;
+    for (const auto& [label, text] : drawForm(form, report, rect)) {
+        layout.cut.push_back({label, wrapped(text, rect.width - 2 * blockInset, labelFont)});
+        items.push_back({static_cast<int>(layout.cut.back().lines.size()), 3 * line + margins});
+    }
+    layout.more = textPages(items, rect.height, line, margins);
+    return layout;
+}
+
+void drawPatient(Picture& picture, const ReportSource& report, const PatientPages& layout, const Rect& rect,
+                 int page) {
+    const auto index = static_cast<std::size_t>(page) - 2;
+    if (page < 2 || index >= layout.more.size()) return void(drawForm(picture, report, rect));
+    double top = rect.top();
+    for (const TextPart& part : layout.more[index]) {
+        top -= part.height;
+        const CutText& text = layout.cut[part.item];
+        const Rect box = Rect{rect.x + blockInset, top, rect.width - 2 * blockInset, part.height};
+        drawTextPart(picture, box, {text.label, {}}, text.lines, part);
+    }
 }
 
 } // namespace zel

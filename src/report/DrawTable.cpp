@@ -21,6 +21,7 @@ constexpr double titleBase = 7;   ///< of a title above its row's bottom, the un
 constexpr double textBase = 1;    ///< of a text above its row's bottom
 constexpr double mark = 8;        ///< diameter of a filled or outlined circle
 constexpr double summaryGap = 10; ///< below the statistics
+constexpr int smallestRow = 7;
 
 const TextAttribute cellFont{};
 const TextAttribute columnUnitFont{.size = 7};
@@ -42,20 +43,28 @@ void title(Picture& picture, const Rect& row, double from, double to, const QStr
     if (!unit.isEmpty()) textOut(picture, unit, {name.at.x, row.y + 1}, columnUnitFont);
 }
 
-void text(Picture& picture, const Rect& row, double from, double to, const QString& words,
+/// In one type, as large as a date has room for beside the time.
+TableRow tableRow(const Rect& place) {
+    TextAttribute font = cellFont;
+    const double room = field(place, xDate, xTime, textBase).width;
+    while (font.size > smallestRow && textSize(u"0000/00/00"_s, font).width > room)
+        --font.size;
+    return {place, font, textSize(u"000"_s, font).width};
+}
+
+void text(Picture& picture, const TableRow& row, double from, double to, const QString& words,
           double indent = 0) {
     const Field cell = field(row, from, to, textBase, indent);
-    fieldFigure(picture, words, cell.at, cell.width, cellFont);
+    fieldFigure(picture, words, cell.at, cell.width, row.font);
 }
 
 /// Ends under the end of a three-digit number that begins at the column.
-void number(Picture& picture, const Rect& row, double from, double to, std::uint32_t value,
-            double threeDigits) {
+void number(Picture& picture, const TableRow& row, double from, double to, std::uint32_t value) {
     const Field cell = field(row, from, to, textBase);
     const QString words = QString::number(value);
     const bool isShort = words.size() <= 3;
-    const Point at{isShort ? cell.at.x + threeDigits : cell.at.x, cell.at.y};
-    fieldFigure(picture, words, at, cell.width, cellFont, isShort ? XPos::right : XPos::left);
+    const Point at{isShort ? cell.at.x + row.threeDigits : cell.at.x, cell.at.y};
+    fieldFigure(picture, words, at, cell.width, row.font, isShort ? XPos::right : XPos::left);
 }
 
 Point markCentre(const Rect& row, double column) {
@@ -94,12 +103,15 @@ void DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forT
     const Rect area = page == 1 ? firstPageRect(rect, forTable) : rect;
     const int from = page < 2 ? 0 : (page - 2) * perPage + firstPageItems;
     const int until = std::min(rowTotal(), from + (page == 1 ? firstPageItems : perPage));
-    Rect row{area.x, std::trunc(area.top() - rowHeight), area.width, rowHeight};
+    TableRow row = tableRow({area.x, std::trunc(area.top() - rowHeight), area.width, rowHeight});
     picture.emplace_back(FillRect{area, Qt::white});
     drawHeader(picture, row);
+    const CommentModel* named = nullptr; // a page names its first, which may have begun on the one before
     for (int index = from; index < until; ++index) {
         row.y -= rowHeight;
-        drawReading(picture, row, report.rows.rows[static_cast<std::size_t>(index)], index == from);
+        const ReadingRow& reading = report.rows.rows[static_cast<std::size_t>(index)];
+        drawReading(picture, row, reading, reading.comment != named);
+        named = reading.comment;
     }
 }
 
@@ -118,25 +130,25 @@ void DrawTable::drawHeader(Picture& picture, const Rect& row) const {
     picture.emplace_back(StraightLine{{row.x, row.y}, {row.right(), row.y}, 1, Qt::black});
 }
 
-void DrawTable::drawReading(Picture& picture, const Rect& row, const ReadingRow& reading,
-                            bool opensPage) const {
+void DrawTable::drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading,
+                            bool opensRun) const {
     if (reading.bYellowBackground) picture.emplace_back(FillRect{row, Qt::yellow});
     if (reading.bDrawTopLine)
         picture.emplace_back(StraightLine{{row.x, row.top()}, {row.right(), row.top()}, 1, Qt::black});
     text(picture, row, xDate, xTime, reading.strDisplayDate(report.settings));
     if (reading.bYellowBackground)
         textOut(picture, u"\u2193"_s, {field(row, xMam, xPad, 0).at.x - columnGap, row.y + textBase},
-                cellFont, XPos::right);
+                row.font, XPos::right);
     if (reading.isNA()) {
         text(picture, row, xSys, xDia, u"n.a."_s);
     } else {
         drawMarks(picture, row, *reading.reading);
         drawMeasures(picture, row, *reading.reading);
     }
-    drawComment(picture, row, reading, opensPage || reading.bAtBegin);
+    drawComment(picture, row, reading, opensRun || reading.bAtBegin);
 }
 
-void DrawTable::drawMarks(Picture& picture, const Rect& row, const ReadingModel& reading) const {
+void DrawTable::drawMarks(Picture& picture, const TableRow& row, const ReadingModel& reading) const {
     if (report.getShowMam && reading.mam == 1)
         picture.emplace_back(Circle{markCentre(row, xMam), mark, true, Qt::black});
     if (!report.getShowPad) return;
@@ -147,18 +159,17 @@ void DrawTable::drawMarks(Picture& picture, const Rect& row, const ReadingModel&
         text(picture, row, xPad, xSys, u"N.A."_s);
 }
 
-void DrawTable::drawMeasures(Picture& picture, const Rect& row, const ReadingModel& reading) const {
-    const double threeDigits = textSize(u"000"_s, cellFont).width;
+void DrawTable::drawMeasures(Picture& picture, const TableRow& row, const ReadingModel& reading) const {
     text(picture, row, xTime, xMam, reading.strDisplayTime(report.settings), timeIndent);
-    number(picture, row, xSys, xDia, reading.sys, threeDigits);
-    number(picture, row, xDia, xPulse, reading.dia, threeDigits);
-    number(picture, row, xPulse, xMap, reading.pulse, threeDigits);
+    number(picture, row, xSys, xDia, reading.sys);
+    number(picture, row, xDia, xPulse, reading.dia);
+    number(picture, row, xPulse, xMap, reading.pulse);
     const bool isPP = report.settings.showPPorMap == 0;
-    number(picture, row, xMap, xComment, isPP ? reading.pp : reading.map, threeDigits);
+    number(picture, row, xMap, xComment, isPP ? reading.pp : reading.map);
 }
 
 /// A bar in the comment's colour along its rows, closed at both ends, with its number and first words.
-void DrawTable::drawComment(Picture& picture, const Rect& row, const ReadingRow& reading,
+void DrawTable::drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading,
                             bool isNamed) const {
     if (reading.comment == nullptr) return;
     const Field cell = field(row, xComment, baseWidth, textBase);
@@ -169,7 +180,7 @@ void DrawTable::drawComment(Picture& picture, const Rect& row, const ReadingRow&
     if (reading.bAtEnd) picture.emplace_back(FillRect{{bar.x, bar.y, 8, 2}, color});
     if (!isNamed) return;
     const QString words = commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
-    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, cell.width + columnGap - 6, cellFont);
+    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, cell.width + columnGap - 6, row.font);
 }
 
 } // namespace zel

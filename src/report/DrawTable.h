@@ -5,6 +5,12 @@
 
 namespace zel {
 
+/// The place of a row, and the type of all that it says.
+struct TableRow : Rect {
+    TextAttribute font;
+    double threeDigits = 0; ///< width of a number
+};
+
 /// The reading rows of a report's pages.
 class DrawTable {
 public:
@@ -26,11 +32,11 @@ public:
 private:
     [[nodiscard]] int rowTotal() const { return static_cast<int>(report.rows.rows.size()); }
     void drawHeader(Picture& picture, const Rect& row) const;
-    /// \p opensPage: names its comment, which may have begun on the page before.
-    void drawReading(Picture& picture, const Rect& row, const ReadingRow& reading, bool opensPage) const;
-    void drawMeasures(Picture& picture, const Rect& row, const ReadingModel& reading) const;
-    void drawMarks(Picture& picture, const Rect& row, const ReadingModel& reading) const;
-    void drawComment(Picture& picture, const Rect& row, const ReadingRow& reading, bool isNamed) const;
+    /// \p opensRun: names its comment, which the row above does not have.
+    void drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading, bool opensRun) const;
+    void drawMeasures(Picture& picture, const TableRow& row, const ReadingModel& reading) const;
+    void drawMarks(Picture& picture, const TableRow& row, const ReadingModel& reading) const;
+    void drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading, bool isNamed) const;
 
     const ReportSource& report;
 };

@@ -22,11 +22,23 @@ QString oneLine(const QString& text) {
     return line;
 }
 
-QString paragraphText(const QString& text, int mostLines) {
-    QString shown = text.left(mostCharacters * mostLines);
-    shown.remove(u'\r');
-    std::ranges::replace(shown, u'\t', u' ');
-    return shown;
+/// A space with an accent of its own is written.
+bool isBreakingBlank(const QString& text, qsizetype index) {
+    return index < text.size() && text[index] == u' '
+           && (index + 1 == text.size() || !text[index + 1].isMark());
+}
+
+QStringView withoutBlanksAtEnd(QStringView line) {
+    while (line.endsWith(u' '))
+        line.chop(1);
+    return line;
+}
+
+/// Where the line after one that was broken for its width begins.
+qsizetype afterBreak(const QString& text, qsizetype index) {
+    while (isBreakingBlank(text, index))
+        ++index;
+    return index < text.size() && text[index] == u'\n' ? index + 1 : index;
 }
 
 } // namespace
@@ -34,10 +46,13 @@ QString paragraphText(const QString& text, int mostLines) {
 double lineHeight(const TextAttribute& attribute) { return textSize(u"2013"_s, attribute).height; }
 
 QString elided(const QString& text, double width, const TextAttribute& attribute) {
-    QString line = oneLine(text);
-    if (line.size() == text.size() && textSize(line, attribute).width <= width) return line;
+    if (isWhole(text, width, attribute)) return oneLine(text);
     // A character more than fits makes sure that the ellipsis comes where the text was cut before.
-    return QFontMetricsF(attribute.font()).elidedText(line + u'\u2026', Qt::ElideRight, width);
+    return QFontMetricsF(attribute.font()).elidedText(oneLine(text) + u'\u2026', Qt::ElideRight, width);
+}
+
+bool isWhole(const QString& text, double width, const TextAttribute& attribute) {
+    return text.size() <= mostCharacters && textSize(oneLine(text), attribute).width <= width;
 }
 
 void fieldText(Picture& picture, const QString& text, Point at, double width, const TextAttribute& attribute,
@@ -58,20 +73,33 @@ void fieldFigure(Picture& picture, const QString& text, Point at, double width, 
     picture.emplace_back(TextLine{text, at, attribute});
 }
 
+QStringList wrapped(const QString& text, double width, const TextAttribute& attribute, qsizetype mostLines) {
+    QString shown = text;
+    shown.remove(u'\r');
+    std::ranges::replace(shown, u'\t', u' ');
+    QStringList lines;
+    for (qsizetype from = 0; from < shown.size() && lines.size() < mostLines;) {
+        const qsizetype end =
+            from + std::max(1, getLineIndex(shown, static_cast<int>(from), width, attribute));
+        const bool isEnded = shown[end - 1] == u'\n';
+        const QStringView line = QStringView(shown).sliced(from, end - from - (isEnded ? 1 : 0));
+        from = isEnded ? end : afterBreak(shown, end);
+        lines += (isEnded || from >= shown.size() ? line : withoutBlanksAtEnd(line)).toString();
+    }
+    return lines;
+}
+
 void fieldParagraph(Picture& picture, const QString& text, Point at, double width,
                     const TextAttribute& attribute, int mostLines) {
-    const QString shown = paragraphText(text, mostLines);
+    QStringList lines = wrapped(text.left(mostCharacters * mostLines), width, attribute, mostLines + 1);
+    if (lines.size() > mostLines) {
+        lines.removeLast();
+        lines.last() = elided(lines.last() + u'\u2026', width, attribute);
+    }
     const double height = lineHeight(attribute);
-    qsizetype from = 0;
-    for (int line = 1; line <= mostLines; ++line) {
-        const int length = getLineIndex(shown, static_cast<int>(from), width, attribute);
-        if (length < 1) return;
-        const bool goesOn = line == mostLines && from + length < shown.size();
-        QString words = shown.mid(from, length);
-        if (words.endsWith(u'\n')) words.chop(1);
-        if (goesOn) words = elided(words + u'\u2026', width, attribute);
-        textOut(picture, words, {at.x, at.y - height * (line - 1)}, attribute, XPos::left, YPos::top);
-        from += length;
+    for (const QString& line : std::as_const(lines)) {
+        textOut(picture, line, at, attribute, XPos::left, YPos::top);
+        at.y -= height;
     }
 }
 

@@ -3,10 +3,15 @@
 
 #include "chart/Drawing.h"
 
+#include <limits>
+
 namespace zel {
 
 /// As much of the first line as the width takes, ending in an ellipsis if that is not all.
 [[nodiscard]] QString elided(const QString& text, double width, const TextAttribute& attribute);
+
+/// Whether one line of that width takes all of it.
+[[nodiscard]] bool isWhole(const QString& text, double width, const TextAttribute& attribute);
 
 /// One line; a text that is too long ends in an ellipsis at the field's edge.
 void fieldText(Picture& picture, const QString& text, Point at, double width, const TextAttribute& attribute,
@@ -15,6 +20,10 @@ void fieldText(Picture& picture, const QString& text, Point at, double width, co
 /// A figure or a date, which loses its meaning when it is cut: set smaller where it is too long.
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
                  XPos x = XPos::left);
+
+/// The text's lines, \p mostLines at most. Blanks and line ends that it is broken at are in none of them.
+[[nodiscard]] QStringList wrapped(const QString& text, double width, const TextAttribute& attribute,
+                                  qsizetype mostLines = std::numeric_limits<qsizetype>::max());
 
 /// Wrapped lines that hang below \p at, \p mostLines at most; the last one ends in an ellipsis if
 /// the text goes on.

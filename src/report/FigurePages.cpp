@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const TextAttribute plainFont{};
+const TextAttribute lineFont{};
 const TextAttribute headingFont{.size = 12, .bold = true};
 constexpr double noteGap = 4;
 
@@ -24,20 +24,37 @@ Rect drawWords(Picture& picture, const Rect& rect, const QString& heading, const
     double y = rect.top() - lineHeight(headingFont);
     fieldText(picture, heading, {rect.x, y}, rect.width, headingFont);
     for (const QString& line : lines) {
-        y -= lineHeight(plainFont) + 1;
-        fieldText(picture, line, {rect.x, y}, rect.width, plainFont);
+        y -= lineHeight(lineFont) + 1;
+        fieldFigure(picture, line, {rect.x, y}, rect.width, lineFont);
     }
     return {rect.x, rect.y, rect.width, std::max(0.0, y - noteGap - rect.y)};
 }
 
 QString keepBothText(const LimitShares& shares, const ReportSource& report) {
-    return qtTrId("reportKeepLimits").arg(limitsText(report), shareText(shares.keepBoth, shares.total));
+    const Limits limits = limitsOf(report);
+    if (limits.count() == 0) return qtTrId("reportNoLimits");
+    return qtTrId("reportKeepLimits", limits.count())
+        .arg(limitsText(limits), shareText(shares.keepBoth, shares.total));
 }
 
-QStringList tooHighTexts(const LimitShares& shares) {
-    return {qtTrId("reportSysAbove").arg(shareText(shares.sysTooHigh, shares.total)),
-            qtTrId("reportDiaAbove").arg(shareText(shares.diaTooHigh, shares.total)),
-            qtTrId("reportBothAbove").arg(shareText(shares.bothTooHigh, shares.total))};
+/// For each limit that there is.
+QStringList tooHighTexts(const LimitShares& shares, const Limits& limits) {
+    QStringList texts;
+    if (limits.sys > 0) texts += qtTrId("reportSysAbove").arg(shareText(shares.sysTooHigh, shares.total));
+    if (limits.dia > 0) texts += qtTrId("reportDiaAbove").arg(shareText(shares.diaTooHigh, shares.total));
+    if (limits.count() == 2)
+        texts += qtTrId("reportBothAbove").arg(shareText(shares.bothTooHigh, shares.total));
+    return texts;
+}
+
+QString correlationNote(const Limits& limits) {
+    QString note = qtTrId("reportCorrelationNote");
+    if (limits.count() > 0) note += u' ' + qtTrId("reportCorrelationLimits", limits.count());
+    return note;
+}
+
+bool isHalfOfDay(ViewSelection view) {
+    return view == ViewSelection::amOnly || view == ViewSelection::pmOnly;
 }
 
 LimitShares sharesOf(const ReportSource& report, ViewSelection view) {
@@ -53,19 +70,21 @@ void drawHistogramPage(Picture& picture, const ReportSource& report, const Rect&
     const QString heading = qtTrId("reportReadings", static_cast<int>(figures.total));
     const Rect left = drawWords(picture, rect, heading, {qtTrId("reportHistogramNote")});
     picture.emplace_back(BeginClip{left});
-    append(picture, drawHistogram(figures, left));
+    append(picture, drawHistogram(figures, histogramOffScale(report.readings, report.selection), left));
     picture.emplace_back(EndClip{});
     drawBlackFrames(picture, left);
 }
 
 void drawCorrelationPage(Picture& picture, const ReportSource& report, const Rect& rect) {
     const LimitShares shares = sharesOf(report, report.selection.view);
+    const Limits limits = limitsOf(report);
     const Rect left = drawWords(picture, rect, qtTrId("reportReadings", shares.total),
-                                {keepBothText(shares, report), tooHighTexts(shares).join(u"     "_s),
-                                 qtTrId("reportCorrelationNote")});
+                                {keepBothText(shares, report), tooHighTexts(shares, limits).join(u"     "_s),
+                                 correlationNote(limits)});
     picture.emplace_back(BeginClip{left});
     append(picture, drawCorrelation(calcCorrelation(report.readings, report.selection),
-                                    report.settings.sysStandard, report.settings.diaStandard, left));
+                                    correlationOffScale(report.readings, report.selection), limits.sys,
+                                    limits.dia, left));
     picture.emplace_back(EndClip{});
     drawBlackFrames(picture, left);
 }
@@ -77,8 +96,10 @@ void drawStatisticSummary(Picture& picture, const ReportSource& report, const Re
     append(picture, drawStatistic(figures, showMap, {rect.x, rect.y, tableWidth, rect.height}));
     const LimitShares shares = sharesOf(report, ViewSelection::custom);
     const Rect words{rect.x + tableWidth, rect.y, rect.width - tableWidth, rect.height};
-    drawWords(picture, words, qtTrId("reportReadings", shares.total),
-              QStringList(keepBothText(shares, report)) + tooHighTexts(shares));
+    QString heading = qtTrId("reportReadings", shares.total);
+    if (isHalfOfDay(report.selection.view)) heading = qtTrId("reportAllTimesOfDay").arg(heading);
+    drawWords(picture, words, heading,
+              QStringList(keepBothText(shares, report)) + tooHighTexts(shares, limitsOf(report)));
 }
 
 } // namespace zel

@@ -1,8 +1,7 @@
 #include "report/GraphPage.h"
 
 #include "chart/CommentBoxes.h"
-#include "chart/TimeAxis.h"
-#include "report/CommentLook.h"
+#include "report/CommentNumbers.h"
 #include "report/FieldText.h"
 
 #include <algorithm>
@@ -17,39 +16,49 @@ namespace {
 
 const TextAttribute noteFont{.size = 8};
 const TextAttribute boldNoteFont{.size = 8, .bold = true};
+constexpr int legendLines = 2;
 constexpr double besideNumbers = 1.5; ///< the numbers of the scale end where the plot begins
 constexpr double pulseShare = 0.3;    ///< of the height; half for a second blood-pressure chart
 constexpr double crowdedGrid = 4;     ///< days that stand nearer than this would shade the plot
 
-/// The comments' boxes, each with its number above it: the days' own numbers stand inside.
-void drawComments(Picture& picture, const ReportSource& report, const ChartScale& scale) {
+/// The comments' boxes, with their numbers above them: the days' own numbers stand inside.
+/// \return whether there are any
+bool drawComments(Picture& picture, const ReportSource& report, const ChartScale& scale) {
     DrawManager manager;
-    const auto boxes = commentBoxes(report.comments, report.selection.period, scale.time);
-    for (CommentBox box : boxes) {
+    std::vector<NumberedBox> numbered;
+    for (CommentBox box : commentBoxes(report.comments, report.selection.period, scale.time)) {
         box.isSelected = false;
         const CommentShape shape = createCommentInRect(manager, box, scale.totalRect.y);
         const auto comment =
             std::ranges::find(report.comments, box.CommentID, [](const auto& one) { return one->CommentID; });
-        if (comment == report.comments.end()) continue;
-        textOut(picture, commentNumber(report.comments, **comment),
-                {std::max(shape->bounds().x, scale.chartRect.x) + 3, scale.chartRect.y + 1}, boldNoteFont);
+        const auto index = static_cast<int>(comment - report.comments.begin());
+        numbered.push_back({shape->bounds().x, index + 1});
     }
+    const Point at{scale.chartRect.x, scale.chartRect.y + 1};
+    for (const CommentNumber& number : commentNumbers(numbered, at, scale.chartRect.width, boldNoteFont))
+        picture.emplace_back(TextLine{number.text, number.origin, boldNoteFont});
     manager.drawComments(picture, scale.totalRect);
+    return !numbered.empty();
 }
 
-/// The limits' own lines are pale, and lost in black and white.
-void drawLimitDashes(Picture& picture, const ReportSource& report, const ChartScale& scale) {
+void drawDashes(Picture& picture, const Rect& plot, double y) {
     constexpr double dash = 5, period = 9;
-    const Rect& plot = scale.chartRect;
-    for (const auto limit : {report.settings.sysStandard, report.settings.diaStandard}) {
-        const double y = scale.mapValToY(limit);
-        if (y < plot.y || y > plot.top()) continue;
-        const int count = static_cast<int>((plot.width - dash) / period);
-        for (int i = 0; i <= count; ++i) {
-            const double x = plot.x + i * period;
-            picture.emplace_back(StraightLine{{x, y}, {x + dash, y}, 0.75, Qt::black});
-        }
+    const int count = static_cast<int>((plot.width - dash) / period);
+    for (int i = 0; i <= count; ++i) {
+        const double x = plot.x + i * period;
+        picture.emplace_back(StraightLine{{x, y}, {x + dash, y}, 0.75, Qt::black});
     }
+}
+
+/// The limits' own lines are pale, and lost in black and white. \return those that lie in the plot
+Limits drawLimitDashes(Picture& picture, const Limits& limits, const ChartScale& scale) {
+    const auto drawn = [&](std::uint32_t limit) -> std::uint32_t {
+        const ScaleRange range = scale.bloodRange();
+        if (limit == 0 || limit < range.least || limit > range.most) return 0;
+        drawDashes(picture, scale.chartRect, scale.mapValToY(limit));
+        return limit;
+    };
+    return {drawn(limits.sys), drawn(limits.dia)};
 }
 
 /// A year's days as hairlines, so that the readings stand out on paper.
@@ -63,17 +72,36 @@ void thinCrowdedGrid(Picture& picture) {
     }
 }
 
-/// The pale colour of a download day does not show in black and white.
-void drawDownloadMarks(Picture& picture, const ChartData& data, const ChartScale& scale) {
+/// The pale colour of a download day does not show in black and white. \return whether one is marked
+bool drawDownloadMarks(Picture& picture, const ChartData& data, const ChartScale& scale) {
+    const QString arrow = u"\u2193"_s;
+    const double half = textSize(arrow, noteFont).width / 2 + besideNumbers; // clear of the frame
+    const Rect& plot = scale.chartRect;
+    bool isMarked = false;
     for (const Period& day : data.downloadDays) {
         const double x = (scale.time.calcXPos(day.begin) + scale.time.calcXPos(day.end)) / 2;
-        if (x < scale.chartRect.x || x > scale.chartRect.right()) continue;
-        textOut(picture, u"\u2193"_s, {x, scale.chartRect.top()}, noteFont, XPos::centre, YPos::top);
+        if (x < plot.x || x > plot.right()) continue;
+        const double seen = std::clamp(x, plot.x + half, std::max(plot.x + half, plot.right() - half));
+        textOut(picture, arrow, {seen, plot.top()}, noteFont, XPos::centre, YPos::top);
+        isMarked = true;
     }
+    return isMarked;
 }
 
-void drawChartIn(Picture& picture, const ReportSource& report, const ChartData& data, ChartStyle style,
-                 const Rect& rect) {
+ChartMarks drawMarks(Picture& picture, const ReportSource& report, const ChartData& data,
+                     const ChartStyle& style, const ChartLayout& layout) {
+    ChartMarks marks;
+    if (style.showBlood) marks.limits = drawLimitDashes(picture, limitsOf(report), layout.scale);
+    marks.readings = data.hasData();
+    if (!marks.readings) return marks;
+    if (layout.bShowComment && !style.noBaseArea)
+        marks.comments = drawComments(picture, report, layout.scale);
+    if (style.showBlood) marks.downloads = drawDownloadMarks(picture, data, layout.scale);
+    return marks;
+}
+
+ChartMarks drawChartIn(Picture& picture, const ReportSource& report, const ChartData& data, ChartStyle style,
+                       const Rect& rect) {
     style.forPrint = true;
     style.bTrack = false;
     style.showDataType = report.selection.view;
@@ -82,47 +110,28 @@ void drawChartIn(Picture& picture, const ReportSource& report, const ChartData& 
                                    LocalZone());
     thinCrowdedGrid(layout.picture);
     append(picture, std::move(layout.picture));
-    if (style.showBlood) drawLimitDashes(picture, report, layout.scale);
-    if (data.hasData() && layout.bShowComment && !style.noBaseArea)
-        drawComments(picture, report, layout.scale);
-    if (data.hasData() && style.showBlood) drawDownloadMarks(picture, data, layout.scale);
+    const ChartMarks marks = drawMarks(picture, report, data, style, layout);
     const Rect& plot = layout.scale.whiteRect;
     drawBlackFrames(picture, {plot.x + besideNumbers, plot.y, plot.width - besideNumbers, plot.height});
+    return marks;
 }
 
-/// The values that a chart has room for.
-struct Range {
-    std::int64_t least, most;
-
-    explicit Range(const ChartStyle& style) {
-        least = style.iScaleBase - 20;
-        most = style.iScaleBase + (style.showBlood ? 160 : 60);
-    }
-    [[nodiscard]] bool holds(std::uint32_t value) const { return least <= value && value <= most; }
-    [[nodiscard]] QString text() const { return QString::number(least) + u'\u2013' + QString::number(most); }
-};
-
-int countOutside(const ReportSource& report, const Range& blood, const Range& lower) {
-    const bool isPulse = !report.lowerChart.showBlood;
-    return static_cast<int>(std::ranges::count_if(report.readings, [&](const ReadingModel& reading) {
-        return isCounted(reading, report.selection) && !reading.isUndated()
-               && !(blood.holds(reading.sys) && blood.holds(reading.dia)
-                    && (!isPulse || lower.holds(reading.pulse)));
-    }));
+QString limitsNote(const Limits& limits, const Limits& shown) {
+    if (limits.count() == 0) return qtTrId("reportNoLimits");
+    const Limits hidden{shown.sys > 0 ? 0 : limits.sys, shown.dia > 0 ? 0 : limits.dia};
+    QStringList note;
+    if (shown.count() > 0) note += qtTrId("reportGraphLimits", shown.count()).arg(limitsText(shown));
+    if (hidden.count() > 0) note += qtTrId("reportGraphHiddenLimits", hidden.count()).arg(limitsText(hidden));
+    return note.join(u' ');
 }
 
 /// What the chart shows, and no more.
-QString graphNote(const ReportSource& report) {
-    const Period& shown = report.selection.period;
-    const LocalZone zone;
-    QStringList note(qtTrId("reportGraphNote").arg(limitsText(report)));
-    const bool hasDownload = std::ranges::any_of(report.downloads, [&](const auto& download) {
-        return shown.begin <= download.transferDate && download.transferDate <= shown.end;
-    });
-    if (hasDownload) note += qtTrId("reportGraphDownloads");
-    const bool hasBoxes =
-        !report.comments.empty() && isShortPeriod(zone.day(shown.end) - zone.day(shown.begin));
-    if (hasBoxes) note += qtTrId("reportGraphComments");
+QString graphNote(const ReportSource& report, const ChartMarks& marks) {
+    QStringList note;
+    if (marks.readings) note += qtTrId("reportGraphNote");
+    note += limitsNote(limitsOf(report), marks.limits);
+    if (marks.downloads) note += qtTrId("reportGraphDownloads");
+    if (marks.comments) note += qtTrId("reportGraphComments");
     return note.join(u' ');
 }
 
@@ -138,35 +147,43 @@ void drawBlackFrames(Picture& picture, const Rect& rect) {
             StraightLine{corners[corner], corners[(corner + 1) % corners.size()], 0.5, Qt::black});
 }
 
-QString limitsText(const ReportSource& report) {
-    return qtTrId("reportLimits").arg(report.settings.sysStandard).arg(report.settings.diaStandard);
+Limits limitsOf(const ReportSource& report) {
+    return {report.settings.sysStandard, report.settings.diaStandard};
 }
 
-void drawGraph(Picture& picture, const ReportSource& report, const Rect& rect) {
+QString limitsText(const Limits& limits) {
+    if (limits.count() == 2) return qtTrId("reportLimits").arg(limits.sys).arg(limits.dia);
+    if (limits.sys > 0) return qtTrId("reportLimitSys").arg(limits.sys);
+    return limits.dia > 0 ? qtTrId("reportLimitDia").arg(limits.dia) : QString();
+}
+
+ChartMarks drawGraph(Picture& picture, const ReportSource& report, const Rect& rect) {
     const ChartData data = makeChartData(report.readings, report.downloads);
     const double lower = rect.height * (report.lowerChart.showBlood ? 0.5 : pulseShare);
-    drawChartIn(picture, report, data, report.lowerChart, {rect.x, rect.y, rect.width, lower});
-    drawChartIn(picture, report, data, report.bloodChart,
-                {rect.x, rect.y + lower, rect.width, rect.height - lower});
+    const ChartMarks below =
+        drawChartIn(picture, report, data, report.lowerChart, {rect.x, rect.y, rect.width, lower});
+    ChartMarks marks = drawChartIn(picture, report, data, report.bloodChart,
+                                   {rect.x, rect.y + lower, rect.width, rect.height - lower});
+    marks.comments = marks.comments || below.comments;
+    return marks;
 }
 
 void drawTrend(Picture& picture, const ReportSource& report, const Rect& rect) {
-    constexpr double gap = 10;
+    constexpr double gap = 8; // above and below the legend
+    const double legend = legendLines * lineHeight(noteFont) + 4;
     const ChartData data = makeChartData(report.readings, report.downloads);
     ChartStyle style = report.bloodChart;
     style.noBaseArea = false;
-    drawChartIn(picture, report, data, style, {rect.x, rect.y + gap, rect.width, rect.height - gap});
+    const double bottom = rect.y + gap + legend;
+    const ChartMarks marks =
+        drawChartIn(picture, report, data, style, {rect.x, bottom, rect.width, rect.height - gap - legend});
+    drawGraphLegend(picture, report, marks, {rect.x, rect.y + gap}, rect.width);
 }
 
-void drawGraphLegend(Picture& picture, const ReportSource& report, Point at, double width) {
-    const double height = lineHeight(noteFont);
-    fieldText(picture, graphNote(report), {at.x, at.y + height}, width, noteFont);
-    const Range blood(report.bloodChart);
-    const Range lower(report.lowerChart);
-    const int outside = countOutside(report, blood, lower);
-    if (outside == 0) return;
-    fieldText(picture, qtTrId("reportOutsideScale", outside).arg(blood.text(), lower.text()), at, width,
-              boldNoteFont);
+void drawGraphLegend(Picture& picture, const ReportSource& report, const ChartMarks& marks, Point at,
+                     double width) {
+    const double top = at.y + legendLines * lineHeight(noteFont);
+    fieldParagraph(picture, graphNote(report, marks), {at.x, top}, width, noteFont, legendLines);
 }
 
 } // namespace zel

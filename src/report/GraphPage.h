@@ -5,17 +5,35 @@
 
 namespace zel {
 
+/// Limits of the settings, in mmHg; 0: none.
+struct Limits {
+    std::uint32_t sys = 0;
+    std::uint32_t dia = 0;
+
+    [[nodiscard]] int count() const { return int{sys > 0} + int{dia > 0}; }
+};
+
+/// What stands on a printed chart and has to be explained.
+struct ChartMarks {
+    Limits limits;         ///< those that lie in its scale
+    bool readings = false; ///< of any period
+    bool comments = false;
+    bool downloads = false;
+};
+
 /// The blood-pressure chart over the pulse chart.
-void drawGraph(Picture& picture, const ReportSource& report, const Rect& rect);
-/// The blood-pressure chart alone.
+[[nodiscard]] ChartMarks drawGraph(Picture& picture, const ReportSource& report, const Rect& rect);
+/// How to read the charts, in two lines of which the lower one stands on \p at.
+void drawGraphLegend(Picture& picture, const ReportSource& report, const ChartMarks& marks, Point at,
+                     double width);
+/// The blood-pressure chart alone, with its legend.
 void drawTrend(Picture& picture, const ReportSource& report, const Rect& rect);
-/// How to read the charts, and how many readings their scales leave out, in lines that stand on \p at.
-void drawGraphLegend(Picture& picture, const ReportSource& report, Point at, double width);
 
 /// A thin black frame.
 void drawBlackFrames(Picture& picture, const Rect& rect);
 void append(Picture& picture, Picture part);
-/// The two limits of the settings, such as "140/90 mmHg".
-[[nodiscard]] QString limitsText(const ReportSource& report);
+/// Such as "140/90 mmHg"; empty for none.
+[[nodiscard]] QString limitsText(const Limits& limits);
+[[nodiscard]] Limits limitsOf(const ReportSource& report);
 
 } // namespace zel

@@ -11,8 +11,8 @@ LimitShares limitShares(const ReadingList& readings, const ReadingSelection& sel
     LimitShares shares;
     for (const ReadingModel& reading : readings) {
         if (!isCounted(reading, selection)) continue;
-        const bool sys = reading.sys > settings.sysStandard;
-        const bool dia = reading.dia > settings.diaStandard;
+        const bool sys = settings.sysStandard > 0 && reading.sys > settings.sysStandard;
+        const bool dia = settings.diaStandard > 0 && reading.dia > settings.diaStandard;
         ++shares.total;
         ++(sys ? (dia ? shares.bothTooHigh : shares.sysTooHigh)
                : (dia ? shares.diaTooHigh : shares.keepBoth));

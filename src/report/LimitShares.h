@@ -6,7 +6,8 @@
 
 namespace zel {
 
-/// How many of the counted readings keep the limits of the settings, at the limit or below it.
+/// How many of the counted readings keep the limits of the settings, at the limit or below it; a limit of 0
+/// is none.
 struct LimitShares {
     int total = 0;
     int keepBoth = 0;

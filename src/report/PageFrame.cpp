@@ -1,5 +1,6 @@
 #include "report/PageFrame.h"
 
+#include "analysis/ReadingCount.h"
 #include "report/FieldText.h"
 
 namespace zel {
@@ -10,34 +11,46 @@ namespace {
 
 const TextAttribute plainFont{};
 const TextAttribute boldFont{.bold = true};
-const TextAttribute practitionerFont{.size = 10};
-constexpr int practitionerLines = 6; ///< as the settings suggest them
+const TextAttribute countFont{.size = 9};
+const TextAttribute emptyFont{.size = 9, .bold = true};
+constexpr int smallestName = 8;
+constexpr int practitionerSize = 10, smallestPractitioner = 7;
 const TextAttribute pageNumberFont{.size = 10};
 const QColor titleBackgroundColor(206, 219, 239);
 
 constexpr double titleIndent = 6, dateIndent = 27, logoWidth = 117, logoHeight = 54, logoIndent = 120,
-                 besideLogo = 130, practitionerTop = 90, gap = 12;
+                 besideLogo = 130, practitionerTop = 90, gap = 12, legendTop = 21, aboveLegend = 6;
 
-QString patientText(const PatientModel& patient, double width) {
+QString patientText(const PatientModel& patient, double width, const TextAttribute& font) {
     const auto title = [](const QString& given, const QString& family, const QString& ID) {
         return qtTrId("reportPatient").arg(given, family, ID);
     };
-    const QString ID = elided(patient.ID, width / 3, plainFont);
-    const double room = width - textSize(title({}, {}, ID), plainFont).width;
-    const QString given = elided(patient.GivenNames, room, plainFont);
-    const QString family = elided(patient.FamilyName, room, plainFont);
-    const bool fits = textSize(given, plainFont).width + textSize(family, plainFont).width <= room;
+    const QString ID = elided(patient.ID, width / 3, font);
+    const double room = width - textSize(title({}, {}, ID), font).width;
+    const QString given = elided(patient.GivenNames, room, font);
+    const QString family = elided(patient.FamilyName, room, font);
+    const bool fits = textSize(given, font).width + textSize(family, font).width <= room;
     if (fits) return title(given, family, ID);
-    return title(elided(given, room / 2, plainFont), elided(family, room / 2, plainFont), ID);
+    return title(elided(given, room / 2, font), elided(family, room / 2, font), ID);
+}
+
+/// In smaller type before a name is cut.
+void drawPatientName(Picture& picture, const PatientModel& patient, Point at, double width) {
+    const QString whole = qtTrId("reportPatient").arg(patient.GivenNames, patient.FamilyName, patient.ID);
+    TextAttribute font = plainFont;
+    while (font.size > smallestName && !isWhole(whole, width, font))
+        --font.size;
+    textOut(picture, patientText(patient, width, font), at, font);
 }
 
 QString day(Instant date, const ReportSource& report) {
     return DateToStr(date, report.settings.getDateFormat());
 }
 
-/// The half of the day that the section is limited to; empty for both.
-QString halfOfDay(const ReportSource& report, Section section) {
-    if (section == Section::PatientProfile || section == Section::comment) return {};
+/// Which of the readings the section shows, or that the period above is not its own; empty for all.
+QString shownPart(const ReportSource& report, Section section) {
+    if (section == Section::comment) return qtTrId("reportAllComments");
+    if (section == Section::PatientProfile) return {};
     switch (report.selection.view) {
     case ViewSelection::amOnly: return qtTrId("reportMorningOnly");
     case ViewSelection::pmOnly: return qtTrId("reportEveningOnly");
@@ -45,23 +58,83 @@ QString halfOfDay(const ReportSource& report, Section section) {
     }
 }
 
+bool isInChart(const ReadingModel& reading, const ReadingSelection& selection) {
+    return isCounted(reading, selection) && !hasUndatedMarker(reading);
+}
+
+/// Which readings the section counts; none for one that is about something else.
+CountRule countRule(Section section) {
+    switch (section) {
+    case Section::graph: return isInChart;
+    case Section::histogram:
+    case Section::correlation: return isCounted;
+    case Section::table: return isListed;
+    case Section::SWStatistics: return isInStatistic;
+    case Section::PatientProfile:
+    case Section::comment: break;
+    }
+    return nullptr;
+}
+
+/// Beside a heading of the section's own that counts them, only if some are left out.
+QString countText(const ReportSource& report, Section section) {
+    const CountRule rule = countRule(section);
+    if (!rule) return {};
+    ReadingSelection selection = report.selection;
+    selection.includeUndated = selection.includeUndated && section != Section::graph;
+    const ReadingCount count = countReadings(report.readings, selection, rule);
+    const bool isHeaded = section != Section::graph && section != Section::table;
+    return isHeaded && describeLeftOut(count).isEmpty() ? QString() : describe(count);
+}
+
+/// What a document's first page says of the sections that it lacks.
+QString emptyText(const PagePlace& place) {
+    if (place.number != 1 || place.emptySections.isEmpty()) return {};
+    return qtTrId("reportEmptySections").arg(place.emptySections.join(u", "_s));
+}
+
+/// One line; neither text takes the other's room.
+void drawCounts(Picture& picture, Point at, double width, const QString& count, const QString& empty) {
+    const double forCount = empty.isEmpty() ? width : count.isEmpty() ? 0 : width * 0.6;
+    fieldFigure(picture, count, at, forCount, countFont);
+    fieldFigure(picture, empty, {at.x + width, at.y}, width - forCount - (forCount > 0 ? gap : 0), emptyFont,
+                XPos::right);
+}
+
+/// Above the legend and apart from it: in smaller type where there is more than usual, then without line
+/// ends.
+void drawPractitioner(Picture& picture, const Rect& foot, QString text) {
+    constexpr double height = practitionerTop - legendTop - aboveLegend;
+    const double width = foot.width - besideLogo;
+    TextAttribute font{.size = practitionerSize};
+    const auto room = [&] { return static_cast<int>(height / lineHeight(font)); };
+    const auto fits = [&] { return wrapped(text, width, font, room() + 1).size() <= room(); };
+    while (font.size > smallestPractitioner && !fits())
+        --font.size;
+    if (!fits()) text.replace(u'\n', u", "_s);
+    fieldParagraph(picture, text, {foot.x + titleIndent, foot.y + practitionerTop}, width, font, room());
+}
+
 } // namespace
 
 double patientTitleHeight() { return static_cast<int>(2 * lineHeight(plainFont) + 20); }
 
-void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section) {
+void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section,
+                      const PagePlace& place) {
     const double height = lineHeight(plainFont);
     const Point first{at.titleRect.x + titleIndent, at.titleRect.y - height};
     const double width = at.titleRect.width - 2 * titleIndent;
-    textOut(picture, patientText(report.patient, width), first, plainFont);
+    drawPatientName(picture, report.patient, first, width);
     const Point second{first.x, first.y - height};
     const QString period =
         qtTrId("reportPeriod")
             .arg(day(report.selection.period.begin, report), day(report.selection.period.end, report));
     const double periodWidth = textSize(period, plainFont).width;
     textOut(picture, period, second, plainFont);
-    fieldText(picture, halfOfDay(report, section), {second.x + width, second.y}, width - periodWidth - gap,
+    fieldText(picture, shownPart(report, section), {second.x + width, second.y}, width - periodWidth - gap,
               boldFont, XPos::right);
+    drawCounts(picture, {second.x, second.y - lineHeight(countFont)}, width, countText(report, section),
+               emptyText(place));
 }
 
 void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, const QString& section) {
@@ -78,16 +151,13 @@ void drawFooter(Picture& picture, const PageGeometry& at, const ReportSource& re
     const Rect& foot = at.footerRect;
     picture.emplace_back(
         ImageItem{u"printlogo"_s, {foot.right() - logoIndent, foot.y + 2, logoWidth, logoHeight}});
-    if (!report.needPhysicianInfo) return;
-    fieldParagraph(picture, report.settings.physicianAddress,
-                   {foot.x + titleIndent, foot.y + practitionerTop}, foot.width - besideLogo,
-                   practitionerFont, practitionerLines);
+    if (report.needPhysicianInfo) drawPractitioner(picture, foot, report.settings.getPractitioner());
 }
 
-void drawPageNumber(Picture& picture, const PageGeometry& at, int number, int total) {
-    const Point place{at.footerRect.right() - 3, at.footerRect.y + practitionerTop};
-    textOut(picture, qtTrId("reportPage").arg(number).arg(total), place, pageNumberFont, XPos::right,
-            YPos::top);
+void drawPageNumber(Picture& picture, const PageGeometry& at, const PagePlace& place) {
+    const Point corner{at.footerRect.right() - 3, at.footerRect.y + practitionerTop};
+    textOut(picture, qtTrId("reportPage").arg(place.number).arg(place.total), corner, pageNumberFont,
+            XPos::right, YPos::top);
 }
 
 Point legendPlace(const PageGeometry& at) { return {at.footerRect.x + titleIndent, at.footerRect.y + 2}; }

@@ -6,17 +6,28 @@
 #include "report/ReportSource.h"
 #include "report/Section.h"
 
+#include <QStringList>
+
 namespace zel {
+
+/// Where a page stands in its document, and what its first page says of that.
+struct PagePlace {
+    int number = 1; ///< from 1
+    int total = 1;
+    QStringList emptySections; ///< that were asked for, too; as the user reads them
+};
 
 /// Room that the patient title takes at the head of the body.
 [[nodiscard]] double patientTitleHeight();
-/// Name, ID and reporting period. The ID stays readable beside a name of any length.
-void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section);
+/// Name, ID and reporting period, and how many readings count in it. The ID stays readable beside a name of
+/// any length.
+void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section,
+                      const PagePlace& place);
 /// The band with the section's name, the program's and today's date.
 void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, const QString& section);
 /// The logo, and the practitioner's details if they are wanted.
 void drawFooter(Picture& picture, const PageGeometry& at, const ReportSource& report);
-void drawPageNumber(Picture& picture, const PageGeometry& at, int number, int total);
+void drawPageNumber(Picture& picture, const PageGeometry& at, const PagePlace& place);
 
 /// The foot of the footer beside the logo, where a legend stands.
 [[nodiscard]] Point legendPlace(const PageGeometry& at);

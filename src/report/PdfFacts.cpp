@@ -2,6 +2,8 @@
 
 #include <QList>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -41,6 +43,19 @@ QByteArray infoObject(const PdfFacts& facts) {
            + ")\n/CreationDate (D:" + date + "Z)\n>>";
 }
 
+/// The numbers of the page objects, in order.
+std::vector<qsizetype> pageObjects(const QByteArray& pdf, const QByteArray& catalog) {
+    const QByteArray tree = flatDictionary(pdf, numberAfterLast(catalog, "/Pages"));
+    const qsizetype begin = tree.indexOf('[', tree.indexOf("/Kids"));
+    const qsizetype end = tree.indexOf(']', begin);
+    if (begin < 0 || end < 0) return {};
+    std::vector<qsizetype> numbers;
+    const QList<QByteArray> words = tree.mid(begin + 1, end - begin - 1).simplified().split(' ');
+    for (qsizetype i = 0; i + 2 < words.size(); i += 3) // "12 0 R"
+        numbers.push_back(words[i].toLongLong());
+    return numbers;
+}
+
 /// Appends objects, and says where each stands.
 class Update {
 public:
@@ -65,6 +80,29 @@ QByteArray entry(const char* name, qsizetype value, const char* end = "") {
     return QByteArray(name) + ' ' + QByteArray::number(value) + end;
 }
 
+/// The outline as objects from \p first on: its root, then one for each bookmark. \return how many
+qsizetype addOutline(Update& update, qsizetype first, const std::vector<PdfBookmark>& bookmarks,
+                     const std::vector<qsizetype>& pages) {
+    const auto total = static_cast<qsizetype>(bookmarks.size());
+    update.object(first, "<<\n/Type /Outlines\n" + entry("/First", first + 1, " 0 R\n")
+                             + entry("/Last", first + total, " 0 R\n") + entry("/Count", total, "\n>>"));
+    for (qsizetype i = 0; i < total; ++i) {
+        const PdfBookmark& mark = bookmarks[static_cast<std::size_t>(i)];
+        const qsizetype own = first + 1 + i;
+        update.object(own, "<<\n/Title " + textString(mark.title) + entry("\n/Parent", first, " 0 R")
+                               + (i > 0 ? entry("\n/Prev", own - 1, " 0 R") : QByteArray())
+                               + (i + 1 < total ? entry("\n/Next", own + 1, " 0 R") : QByteArray())
+                               + entry("\n/Dest [", pages.at(mark.page), " 0 R /Fit]\n>>"));
+    }
+    return total + 1;
+}
+
+/// The outline is open where there is a choice.
+QByteArray outlineEntry(qsizetype outline, std::size_t bookmarks) {
+    if (bookmarks == 0) return {};
+    return entry("\n/Outlines", outline, " 0 R\n") + (bookmarks > 1 ? "/PageMode /UseOutlines\n" : "");
+}
+
 } // namespace
 
 QByteArray withPdfFacts(QByteArray pdf, const PdfFacts& facts) {
@@ -73,14 +111,19 @@ QByteArray withPdfFacts(QByteArray pdf, const PdfFacts& facts) {
     const qsizetype root = numberAfterLast(pdf, "/Root");
     const qsizetype previous = numberAfterLast(pdf, "startxref");
     const QByteArray catalog = flatDictionary(pdf, root);
-    if (size < 0 || info < 0 || previous < 0 || catalog.isEmpty()) return {};
+    const std::vector<qsizetype> pages = pageObjects(pdf, catalog);
+    const bool areThere = std::ranges::all_of(
+        facts.bookmarks, [&](const PdfBookmark& mark) { return mark.page < pages.size(); });
+    if (size < 0 || info < 0 || previous < 0 || catalog.isEmpty() || !areThere) return {};
     if (!pdf.endsWith('\n')) pdf += '\n';
     Update update(pdf);
     update.object(info, infoObject(facts));
-    update.object(root, "<<" + catalog + "/Lang (" + facts.language
-                            + ")\n/ViewerPreferences << /DisplayDocTitle true >>\n>>");
-    update.finish(entry("/Size", size) + entry("\n/Info", info, " 0 R") + entry("\n/Root", root, " 0 R")
-                  + entry("\n/Prev", previous));
+    const bool isMarked = !facts.bookmarks.empty();
+    const qsizetype added = isMarked ? addOutline(update, size, facts.bookmarks, pages) : 0;
+    update.object(root, "<<" + catalog + outlineEntry(size, facts.bookmarks.size()) + "/Lang ("
+                            + facts.language + ")\n/ViewerPreferences << /DisplayDocTitle true >>\n>>");
+    update.finish(entry("/Size", size + added) + entry("\n/Info", info, " 0 R")
+                  + entry("\n/Root", root, " 0 R") + entry("\n/Prev", previous));
     return pdf;
 }
 

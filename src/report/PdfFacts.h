@@ -5,7 +5,15 @@
 #include <QByteArray>
 #include <QString>
 
+#include <vector>
+
 namespace zel {
+
+/// Where a part of a PDF begins.
+struct PdfBookmark {
+    QString title;
+    std::size_t page = 0; ///< from 0
+};
 
 /// What a PDF says about itself.
 struct PdfFacts {
@@ -13,7 +21,8 @@ struct PdfFacts {
     QString author;
     QString creator;
     Instant created{};
-    QByteArray language = "en"; ///< as in BCP 47
+    std::vector<PdfBookmark> bookmarks{}; ///< in the order of their pages
+    QByteArray language = "en";           ///< as in BCP 47
 };
 
 /// The PDF with those facts in place of its own, as an incremental update behind what is there. A null array

@@ -10,11 +10,17 @@
 
 namespace zel {
 
+PrintView::PrintView(ReportSource report, const QPageSize& paper)
+    : source(std::move(report)), paperSize(paper),
+      comments(layOutComments(source, geometry(Section::comment).drawingRect)),
+      profile(layOutPatient(source, geometry(Section::PatientProfile).drawingRect)) {}
+
 int PrintView::getTotalPages(std::optional<Section> printSelection) const {
     const Rect drawing = geometry(printSelection).drawingRect;
     if (printSelection == Section::table) return DrawTable(source).needPages(drawing, true);
     if (printSelection == Section::SWStatistics) return DrawTable(source).needPages(drawing, false);
-    if (printSelection == Section::comment) return DrawComment(source).needPages(drawing);
+    if (printSelection == Section::comment) return static_cast<int>(comments.pages.size());
+    if (printSelection == Section::PatientProfile) return 1 + static_cast<int>(profile.more.size());
     return 1;
 }
 
@@ -26,27 +32,35 @@ PageGeometry PrintView::geometry(std::optional<Section> printSelection) const {
 }
 
 Picture PrintView::page(std::optional<Section> printSelection, int number) const {
+    return page(printSelection, number, {number, getTotalPages(printSelection), {}});
+}
+
+Picture PrintView::page(std::optional<Section> printSelection, int number, const PagePlace& place) const {
     const PageGeometry at = geometry(printSelection);
     Picture picture;
     if (printSelection) {
-        drawPatientTitle(picture, at, source, *printSelection);
+        drawPatientTitle(picture, at, source, *printSelection, place);
         drawBody(picture, at, *printSelection, number);
     }
     drawTitle(picture, at, source, printSelection ? facts(*printSelection).text() : QString());
     drawFooter(picture, at, source);
-    drawPageNumber(picture, at, number, getTotalPages(printSelection));
+    drawPageNumber(picture, at, place);
     return picture;
 }
 
 void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const {
     switch (section) {
     case Section::graph:
-        drawGraph(picture, source, at.drawingRect);
-        return drawGraphLegend(picture, source, legendPlace(at), legendWidth(at));
-    case Section::PatientProfile: return drawPatient(picture, source, at.drawingRect);
+        return drawGraphLegend(picture, source, drawGraph(picture, source, at.drawingRect), legendPlace(at),
+                               legendWidth(at));
+    case Section::PatientProfile:
+        drawPatient(picture, source, profile, at.drawingRect, number);
+        return drawPatientNote(picture, profile, number, legendPlace(at), legendWidth(at));
     case Section::histogram: return drawHistogramPage(picture, source, at.drawingRect);
     case Section::correlation: return drawCorrelationPage(picture, source, at.drawingRect);
-    case Section::comment: return DrawComment(source).drawRect(picture, at.drawingRect, number);
+    case Section::comment:
+        DrawComment(source, comments).drawRect(picture, at.drawingRect, number);
+        return drawCommentLegend(picture, source, legendPlace(at), legendWidth(at));
     case Section::SWStatistics: return drawSummaryStat(picture, at, number);
     case Section::table:
         DrawTable(source).drawRect(picture, at.drawingRect, number, true);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "chart/Picture.h"
-#include "report/PageGeometry.h"
+#include "report/DrawComment.h"
+#include "report/DrawPatient.h"
+#include "report/PageFrame.h"
 #include "report/ReportSource.h"
 #include "report/Section.h"
 
@@ -16,7 +18,7 @@ namespace zel {
 class PrintView {
 public:
     /// What \p report refers to must outlive the view. \p paper is upright.
-    PrintView(ReportSource report, const QPageSize& paper) : source(std::move(report)), paperSize(paper) {}
+    PrintView(ReportSource report, const QPageSize& paper);
 
     /// Pages of the section; one, without a body, for none. An empty table or comment list has no page.
     [[nodiscard]] int getTotalPages(std::optional<Section> printSelection) const;
@@ -24,6 +26,9 @@ public:
     [[nodiscard]] PageGeometry geometry(std::optional<Section> printSelection) const;
     /// The page, counted from 1, in points of the paper of geometry().
     [[nodiscard]] Picture page(std::optional<Section> printSelection, int number) const;
+    /// The same where the section is a part of a document.
+    [[nodiscard]] Picture page(std::optional<Section> printSelection, int number,
+                               const PagePlace& place) const;
 
     [[nodiscard]] const ReportSource& report() const { return source; }
     [[nodiscard]] const QPageSize& paper() const { return paperSize; }
@@ -35,6 +40,8 @@ private:
 
     ReportSource source;
     QPageSize paperSize;
+    CommentPages comments;
+    PatientPages profile;
 };
 
 } // namespace zel

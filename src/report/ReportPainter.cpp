@@ -1,6 +1,7 @@
 #include "report/ReportPainter.h"
 
 #include "chart/PicturePainter.h"
+#include "report/ReportDocument.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -18,25 +19,29 @@ bool setLayout(QPagedPaintDevice& device, const PrintView& view, Section section
     return device.setPageLayout(layout);
 }
 
-void paintPage(QPainter& painter, const PrintView& view, Section section, int number) {
+void paintPage(QPainter& painter, const Picture& picture, double height) {
     painter.save();
     painter.scale(painter.device()->logicalDpiX() / pointsPerInch,
                   painter.device()->logicalDpiY() / pointsPerInch);
-    paintPicture(painter, view.page(section, number), view.geometry(section).pageSize.height);
+    paintPicture(painter, picture, height);
     painter.restore();
+}
+
+bool beginPage(QPagedPaintDevice& device, QPainter& painter, const PrintView& view,
+               const ReportDocument::Page& page) {
+    if (page.number == 1 && !setLayout(device, view, page.section)) return false;
+    return painter.isActive() ? device.newPage() : painter.begin(&device);
 }
 
 } // namespace
 
 bool paintReport(QPagedPaintDevice& device, const PrintView& view, std::span<const Section> sections) {
+    const ReportDocument document(view, sections);
     QPainter painter;
-    for (const Section section : sections) {
-        const int total = view.getTotalPages(section);
-        for (int number = 1; number <= total; ++number) {
-            const bool isLaidOut = number > 1 || setLayout(device, view, section);
-            if (!isLaidOut || !(painter.isActive() ? device.newPage() : painter.begin(&device))) return false;
-            paintPage(painter, view, section, number);
-        }
+    for (std::size_t index = 0; index < document.pages().size(); ++index) {
+        const ReportDocument::Page& page = document.pages()[index];
+        if (!beginPage(device, painter, view, page)) return false;
+        paintPage(painter, document.page(index), view.geometry(page.section).pageSize.height);
     }
     return painter.isActive() && painter.end();
 }

@@ -12,8 +12,8 @@ class QRectF;
 
 namespace zel {
 
-/// Paints all pages of the sections, each on a page of its own orientation: on a printer or into a PDF.
-/// \return false if the device failed, or there is no page
+/// Paints all pages of the sections as one document, each on a page of its own orientation: on a printer or
+/// into a PDF. \return false if the device failed, or there is no page
 [[nodiscard]] bool paintReport(QPagedPaintDevice& device, const PrintView& view,
                                std::span<const Section> sections);
 

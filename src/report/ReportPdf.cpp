@@ -2,13 +2,12 @@
 
 #include "report/PdfCharacters.h"
 #include "report/PdfFacts.h"
+#include "report/ReportDocument.h"
 #include "report/ReportPainter.h"
 #include "store/AtomicFile.h"
 
 #include <QBuffer>
 #include <QPdfWriter>
-
-#include <algorithm>
 
 namespace zel {
 
@@ -20,21 +19,26 @@ tl::unexpected<ReportError> failed(ReportErrorCode code) { return tl::unexpected
 
 /// The practice, by the first line of its details if they are in the report; else the program.
 QString author(const ReportSource& report) {
-    const QString practice = report.settings.physicianAddress.section(u'\n', 0, 0).trimmed();
+    const QString practice = report.settings.getPractitioner().section(u'\n', 0, 0).trimmed();
     return report.needPhysicianInfo && !practice.isEmpty() ? practice.left(200) : u"ZEL"_s;
 }
 
-PdfFacts factsOf(const ReportSource& report) {
+std::vector<PdfBookmark> bookmarksOf(const ReportDocument& document) {
+    std::vector<PdfBookmark> bookmarks;
+    for (std::size_t index = 0; index < document.pages().size(); ++index)
+        if (document.pages()[index].number == 1)
+            bookmarks.push_back({facts(document.pages()[index].section).text(), index});
+    return bookmarks;
+}
+
+PdfFacts factsOf(const ReportSource& report, const ReportDocument& document) {
     const PatientModel& patient = report.patient;
     const QString name = (patient.GivenNames.left(200) + u' ' + patient.FamilyName.left(200)).trimmed();
     return {.title = qtTrId("reportDocument").arg(name, patient.ID.left(200)),
             .author = author(report),
             .creator = u"ZEL "_s + QStringLiteral(ZEL_VERSION),
-            .created = report.now};
-}
-
-bool hasPages(const PrintView& view, std::span<const Section> sections) {
-    return std::ranges::any_of(sections, [&](Section section) { return view.getTotalPages(section) > 0; });
+            .created = report.now,
+            .bookmarks = bookmarksOf(document)};
 }
 
 QString sentence(ReportErrorCode code) {
@@ -64,7 +68,8 @@ QString describe(const ReportError& error) {
 }
 
 tl::expected<QByteArray, ReportError> makePdf(const PrintView& view, std::span<const Section> sections) {
-    if (!hasPages(view, sections)) return failed(ReportErrorCode::noData);
+    const ReportDocument document(view, sections);
+    if (document.pages().empty()) return failed(ReportErrorCode::noData);
     QBuffer buffer;
     if (!buffer.open(QIODevice::WriteOnly)) return failed(ReportErrorCode::notPainted);
     {
@@ -72,7 +77,7 @@ tl::expected<QByteArray, ReportError> makePdf(const PrintView& view, std::span<c
         if (!paintReport(writer, view, sections)) return failed(ReportErrorCode::notPainted);
     }
     mendCharacters(buffer.buffer());
-    QByteArray pdf = withPdfFacts(std::move(buffer.buffer()), factsOf(view.report()));
+    QByteArray pdf = withPdfFacts(std::move(buffer.buffer()), factsOf(view.report(), document));
     if (pdf.isNull()) return failed(ReportErrorCode::notPainted);
     return pdf;
 }

@@ -3,9 +3,13 @@
 #include "analysis/ReadingRows.h"
 #include "analysis/ReadingSelection.h"
 #include "chart/DrawChart.h"
+#include "store/Clock.h"
+#include "store/DataStore.h"
 #include "store/PatientModel.h"
 #include "store/RecordLinks.h"
 #include "store/SettingModel.h"
+
+#include <optional>
 
 namespace zel {
 
@@ -27,5 +31,10 @@ struct ReportSource {
     ChartStyle lowerChart = DrawPulse; ///< the graph page's charts, for what they show on the screen
     ChartStyle bloodChart = DrawBlood;
 };
+
+/// The report of the store's current patient, none if there is no such; the rest as for a report that is
+/// printed without a screen. Refers to the store's records, and so is good until the store's next load.
+[[nodiscard]] std::optional<ReportSource> reportSource(const DataStore& store,
+                                                       const ReadingSelection& selection, const Clock& clock);
 
 } // namespace zel

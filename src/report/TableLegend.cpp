@@ -2,6 +2,8 @@
 
 #include "report/FieldText.h"
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -50,12 +52,34 @@ void drawMarkMeanings(Picture& picture, const ReportSource& report, Point at, do
     line.words(qtTrId("reportAverage"), itemGap);
 }
 
+void drawOtherMarks(Picture& picture, const ReadingRows& rows, Point at, double width) {
+    LegendLine line(picture, at, width);
+    const auto explain = [&](const QString& text, auto&& isSuch) {
+        if (std::ranges::any_of(rows.rows, isSuch)) line.words(text, itemGap);
+    };
+    explain(qtTrId("reportDownloadDay"), [](const ReadingRow& row) { return row.bYellowBackground; });
+    explain(qtTrId("reportNoReading"), [](const ReadingRow& row) { return row.isNA(); });
+    explain(qtTrId("reportNoDate"), [](const ReadingRow& row) { return isUndatedDay(row.day); });
+    explain(qtTrId("reportCommentBars"), [](const ReadingRow& row) { return row.comment != nullptr; });
+}
+
 } // namespace
 
 void drawTableLegend(Picture& picture, const ReportSource& report, Point at, double width) {
-    const double height = lineHeight(legendFont);
-    drawMarkMeanings(picture, report, {at.x, at.y + height}, width);
-    LegendLine(picture, at, width).words(qtTrId("reportOtherMarks"), itemGap);
+    drawMarkMeanings(picture, report, {at.x, at.y + lineHeight(legendFont)}, width);
+    drawOtherMarks(picture, report.rows, at, width);
+}
+
+void drawCommentLegend(Picture& picture, const ReportSource& report, Point at, double width) {
+    const bool isAnyUndated = std::ranges::any_of(report.comments, [](const auto& comment) {
+        return isUndatedDay(comment->beginDay) || isUndatedDay(comment->endDay);
+    });
+    if (isAnyUndated) fieldText(picture, qtTrId("reportNoDate"), at, width, legendFont);
+}
+
+void drawPatientNote(Picture& picture, const PatientPages& profile, int page, Point at, double width) {
+    if (page == 1 && !profile.more.empty())
+        fieldText(picture, qtTrId("reportCutTexts"), at, width, legendFont);
 }
 
 } // namespace zel

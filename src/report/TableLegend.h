@@ -1,11 +1,16 @@
 #pragma once
 
 #include "chart/Picture.h"
+#include "report/DrawPatient.h"
 #include "report/ReportSource.h"
 
 namespace zel {
 
 /// What the marks of the reading table mean, in lines that stand on \p at.
 void drawTableLegend(Picture& picture, const ReportSource& report, Point at, double width);
+/// The same for the comments' page.
+void drawCommentLegend(Picture& picture, const ReportSource& report, Point at, double width);
+/// That the profile's form has cut texts, which stand in full behind it.
+void drawPatientNote(Picture& picture, const PatientPages& profile, int page, Point at, double width);
 
 } // namespace zel

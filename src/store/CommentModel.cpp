@@ -43,7 +43,7 @@ void CommentModel::updateXMLNode(pugi::xml_node element, const CommentModel* bef
 }
 
 bool CommentModel::isSame(const CommentModel& other) const {
-    return ID == other.ID && CommentID == other.CommentID && degree == other.degree
+    return ID == other.ID && numberInFile() == other.numberInFile() && degree == other.degree
            && beginDate == other.beginDate && endDate == other.endDate && comment == other.comment;
 }
 

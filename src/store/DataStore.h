@@ -44,7 +44,8 @@ public:
     bool checkXmlWritable(MessagePanel& panel) const;
 
     /// Writes one patient, over the one with its ID or as a new one; does not reload. The fields that are as
-    /// in \p asRead, the patient before it was changed here, stay as they are in the file by now.
+    /// in \p asRead, the patient before it was changed here, stay as they are in the file by now;
+    /// noSuchRecord, after a reload, if that patient is no longer there.
     [[nodiscard]] StoreResult saveXMLPatient(const PatientModel& patient,
                                              const std::optional<PatientModel>& asRead = {});
     /// Writes a new patient; alreadyKnown if the file holds one of that ID by now. Does not reload.

@@ -28,7 +28,7 @@ pugi::xml_node findComment(pugi::xml_node root, const CommentModel& asRead) {
     pugi::xml_node found;
     bool isOnly = true;
     for (const pugi::xml_node node : root.children()) {
-        if (!isElement(node, "Comment") || childText(node, "CommentID") != asRead.CommentID) continue;
+        if (!isElement(node, "Comment") || childText(node, "CommentID") != asRead.numberInFile()) continue;
         if (childText(node, "ID") != asRead.ID) continue;
         if (CommentModel::initWithXMLNode(node, zone).isSame(asRead)) return node;
         isOnly = !found;
@@ -69,8 +69,11 @@ tl::expected<QString, StoreError> DataStore::addCommentForCurID(CommentModel com
 
 StoreResult DataStore::saveCommentToXML(CommentModel comment, std::optional<CommentModel> asRead) {
     bool isKnown = true;
+    const CommentModel sought = asRead.value_or(comment);
+    if (comment.fileNumber) comment.CommentID = *comment.fileNumber; // what is only known here is not written
+    if (asRead && asRead->fileNumber) asRead->CommentID = *asRead->fileNumber;
     StoreResult saved = editAndReload([&](pugi::xml_node root) {
-        if (const auto known = findComment(root, asRead.value_or(comment))) {
+        if (const auto known = findComment(root, sought)) {
             comment.updateXMLNode(known, asRead ? &*asRead : nullptr);
             return Edit::changed;
         }

@@ -118,15 +118,21 @@ StoreResult DataStore::editAndReload(const DataFile::Change& change) {
 StoreResult DataStore::saveXMLPatient(const PatientModel& patient,
                                       const std::optional<PatientModel>& asRead) {
     if (!canBeID(patient.ID)) return refused(patient.ID);
+    bool isGone = false;
     // By value: the records that they may be of are read anew after a failed load.
-    return edit([patient, asRead](pugi::xml_node root) {
+    StoreResult saved = edit([patient, asRead, &isGone](pugi::xml_node root) {
         if (const auto known = findElement(root, "Patient", "ID", patient.ID)) {
             patient.updateXMLNode(known, false, asRead ? &*asRead : nullptr);
             return Edit::changed;
         }
-        insertPatient(root, patient);
-        return Edit::changed;
+        isGone = asRead.has_value();
+        if (!isGone) insertPatient(root, patient);
+        return isGone ? Edit::unchanged : Edit::changed;
     });
+    if (!isGone) return saved;
+    saved = noSuch(patient.ID);
+    std::ignore = loadXML();
+    return saved;
 }
 
 StoreResult DataStore::addXMLPatient(const PatientModel& patient) {

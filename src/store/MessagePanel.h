@@ -9,6 +9,8 @@ namespace zel {
 
 /// What becomes of something that is there.
 enum class KeepAnswer { keep, erase, cancel };
+/// What becomes of something that was typed.
+enum class SaveAnswer { save, discard, cancel };
 
 /// How the program speaks to its user. The window shows modal panels, the command line writes to standard
 /// error, tests script the answers. Main thread only.
@@ -32,6 +34,10 @@ public:
     [[nodiscard]] virtual KeepAnswer AskToKeep(const QString& text, const QString& title) {
         ShowMessage(text, title);
         return KeepAnswer::cancel;
+    }
+    /// Save it, do not, or go on with nothing, which is what Esc and the close box answer.
+    [[nodiscard]] virtual SaveAnswer AskToSave(const QString& text, const QString& title) {
+        return AskMessage(text, title) ? SaveAnswer::save : SaveAnswer::discard;
     }
     /// For what comes by itself: calls \p speak once the user is not typing, and what that shows or asks
     /// first takes no keys that were meant for something else. Dropped when \p context dies.

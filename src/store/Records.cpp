@@ -5,11 +5,15 @@
 #include "store/Text.h"
 
 #include <QCollator>
+#include <QSet>
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace zel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,6 +48,24 @@ void sortByBegin(CommentList& comments) {
     std::ranges::stable_sort(comments, {}, [](const auto& comment) { return comment->beginDate; });
 }
 
+/// A comment that has no number, or an earlier one's, gets a key of its own, the same with every load.
+void tellApart(const CommentList& comments) {
+    QSet<QString> known{QString()};
+    std::vector<CommentModel*> unclear;
+    for (const auto& comment : comments) {
+        if (known.contains(comment->CommentID)) unclear.push_back(comment.get());
+        known.insert(comment->CommentID);
+    }
+    int number = 0;
+    for (CommentModel* comment : unclear) {
+        QString key;
+        do
+            key = u"#%1"_s.arg(++number);
+        while (known.contains(key));
+        comment->fileNumber = std::exchange(comment->CommentID, key);
+    }
+}
+
 /// One record by its element's name; elements that are none of these are left alone.
 void readRecord(Records& records, pugi::xml_node element, const LocalZone& zone) {
     if (element.type() != pugi::node_element) return;
@@ -69,6 +91,7 @@ void logCounts(const Records& records) {
 
 void linkAll(Records& records) {
     for (auto& [ID, comments] : records.mdComment) {
+        tellApart(comments);
         sortByBegin(comments);
         if (const auto found = records.mdReading.find(ID); found != records.mdReading.end()) {
             setCommentInReading(comments, found->second);

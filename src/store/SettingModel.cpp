@@ -2,6 +2,8 @@
 
 #include "store/RecordXml.h"
 
+#include <QStringList>
+
 #include <array>
 
 namespace zel {
@@ -70,6 +72,13 @@ QString SettingModel::getDateFormat() const {
     if (dateFormat == "mm dd yyyy"_L1) return u"MM/dd/yyyy"_s;
     if (dateFormat == "yyyy mm dd"_L1) return u"yyyy/MM/dd"_s;
     return {};
+}
+
+QString SettingModel::getPractitioner() const {
+    const QStringList suggested = initWithDefault().physicianAddress.split(u'\n');
+    QStringList own = physicianAddress.split(u'\n');
+    own.removeIf([&](const QString& line) { return suggested.contains(line.trimmed()); });
+    return own.join(u'\n').trimmed();
 }
 
 bool SettingModel::isMetric() const { return metricFormat == "kg / cm"_L1; }

@@ -36,6 +36,8 @@ struct SettingModel {
 
     /// Unicode date pattern of dateFormat, or a null text for a value that is none.
     [[nodiscard]] QString getDateFormat() const;
+    /// The practitioner's lines without those that a new data file suggests: what is nobody's own.
+    [[nodiscard]] QString getPractitioner() const;
     [[nodiscard]] bool isMetric() const;
     [[nodiscard]] bool is12Hours() const;
 };

@@ -64,7 +64,51 @@ TEST_F(DisplayPeriodTest, NewPatientOpensWithAllOfAShortTimeOrTheLastMonthsOfALo
         EXPECT_EQ(period.getSelectViewIndex(), c.view) << c.shown;
         EXPECT_EQ(shown(), c.shown);
     }
-    EXPECT_EQ(period.getDataPeriod().begin, at("2018-05-01 10:00")) << "as it was, without a dated reading";
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    EXPECT_EQ(shown(), "2026-01-01 00:00:00 2026-01-01 23:59:59") << "not the days of somebody else";
+    EXPECT_TRUE(period.isWholeDataPeriod());
+}
+
+TEST_F(DisplayPeriodTest, AViewOfAllDaysEndsWhereOtherDaysAreShown) {
+    const ReadingList readings = readingsAt({"2019-03-01 10:00", "2019-03-08 18:00"});
+    struct Case {
+        const char* begin;
+        const char* end;
+        ViewSelection before;
+        ViewSelection after;
+    };
+    const Case cases[] = {
+        {"2019-03-01 20:00", "2019-03-08 07:00", ViewSelection::viewAll, ViewSelection::viewAll},
+        {"2019-02-28", "2019-03-09", ViewSelection::viewAll, ViewSelection::custom},
+        {"2019-03-01", "2019-03-07", ViewSelection::viewAll, ViewSelection::custom},
+        {"2019-03-02", "2019-03-07", ViewSelection::pmOnly, ViewSelection::pmOnly},
+    };
+    for (const Case& c : cases) {
+        select(readings);
+        period.setSelectViewIndex(c.before);
+        period.setIncludeNoDatetimeData(true);
+        period.setTimePeriod(at(c.begin), at(c.end));
+        EXPECT_EQ(period.getSelectViewIndex(), c.after) << c.begin;
+        EXPECT_EQ(period.getIncludeNoDatetimeData(), c.after != ViewSelection::custom) << c.begin;
+    }
+}
+
+TEST_F(DisplayPeriodTest, UndatedReadingsAreOutWhereTheirChoiceIs) {
+    const ReadingList readings = readingsAt({"2019-03-01 10:00", "2019-03-08 18:00"});
+    const auto include = [&] {
+        period.setSelectViewIndex(ViewSelection::viewAll);
+        period.setIncludeNoDatetimeData(true);
+        EXPECT_TRUE(period.getIncludeNoDatetimeData());
+    };
+    select(readings);
+    include();
+    EXPECT_TRUE(period.pickTimePeriod(at("2019-03-01"), at("2019-03-08")));
+    EXPECT_FALSE(period.getIncludeNoDatetimeData());
+    period.setIncludeNoDatetimeData(true);
+    EXPECT_FALSE(period.getIncludeNoDatetimeData());
+    include();
+    select(readingsAt({"2000-01-01 08:00", "2019-01-01", "2019-07-08"})); // somebody else
+    EXPECT_FALSE(period.getIncludeNoDatetimeData());
 }
 
 TEST_F(DisplayPeriodTest, PickedDaysAreAtLeastTwoAndEndTheViewChoice) {
@@ -103,7 +147,8 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
     EXPECT_EQ(shown(), "2018-01-01 00:00:00 2019-07-09 23:59:59");
     select({}); // somebody without readings, until there are some of the same days
     period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2018-01-01 10:00"}));
-    EXPECT_EQ(shown(), "2019-04-09 00:00:00 2019-07-09 23:59:59");
+    EXPECT_EQ(shown(), "2018-01-01 00:00:00 2019-07-09 23:59:59");
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::viewAll);
 }
 
 TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
@@ -115,8 +160,8 @@ TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
     period.setSelectViewIndex(ViewSelection::custom);
     period.setChangeUser(true);
     EXPECT_EQ(changes, 1);
-    period.setIncludeNoDatetimeData(true);
     period.setSelectViewIndex(ViewSelection::amOnly);
+    period.setIncludeNoDatetimeData(true);
     period.setChangeUser(true);
     EXPECT_EQ(changes, 4);
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);

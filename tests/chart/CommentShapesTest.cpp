@@ -29,18 +29,28 @@ TEST(GFXRoundRect, HandlesAreTheEdges) {
         Point point;
         GFXRoundRect::Handle handle;
         bool contained;
-    } cases[]{{{98, 15}, GFXRoundRect::left, true},    {{102.9, 28}, GFXRoundRect::left, true},
-              {{103, 20}, GFXRoundRect::none, true},   {{147.9, 20}, GFXRoundRect::none, true},
-              {{148, 20}, GFXRoundRect::right, true},  {{152.9, 20}, GFXRoundRect::right, true},
-              {{153, 20}, GFXRoundRect::none, false},  {{100, 14}, GFXRoundRect::none, true},
-              {{97, 20}, GFXRoundRect::none, true},    {{96.9, 20}, GFXRoundRect::none, false},
+    } cases[]{{{95, 15}, GFXRoundRect::left, false},   {{103.9, 28}, GFXRoundRect::left, true},
+              {{104, 20}, GFXRoundRect::none, true},   {{145.9, 20}, GFXRoundRect::none, true},
+              {{146, 20}, GFXRoundRect::right, true},  {{154.9, 20}, GFXRoundRect::right, false},
+              {{155, 20}, GFXRoundRect::none, false},  {{100, 14}, GFXRoundRect::none, true},
+              {{97, 14}, GFXRoundRect::none, true},    {{94.9, 20}, GFXRoundRect::none, false},
               {{125, 11.9}, GFXRoundRect::none, false}};
     for (const auto& each : cases) {
         EXPECT_EQ(wide.handleAtPoint(each.point), each.handle) << each.point.x << ' ' << each.point.y;
         EXPECT_EQ(wide.handleContainsPoint(each.point), each.handle != GFXRoundRect::none);
         EXPECT_EQ(wide.containsPoint(each.point), each.contained);
     }
-    EXPECT_EQ(box(100, 3).handleAtPoint({101, 20}), GFXRoundRect::left) << "the left one of two is first";
+    for (const double width : {0.0, 3.0, 12.0, 50.0, -40.0}) {
+        for (const auto handle : {GFXRoundRect::left, GFXRoundRect::right})
+            EXPECT_GE(box(100, width).handleRect(handle).width, 8) << width;
+    }
+    EXPECT_EQ(box(100, 6).handleAtPoint({103, 20}), GFXRoundRect::none) << "a narrow box can be clicked";
+    GFXRoundRect cut = wide;
+    cut.isCutLeft = true;
+    EXPECT_EQ(cut.handleAtPoint({100, 20}), GFXRoundRect::none);
+    EXPECT_EQ(cut.handleAtPoint({150, 20}), GFXRoundRect::right);
+    cut.isCutRight = true;
+    EXPECT_FALSE(cut.handleContainsPoint({150, 20}));
     EXPECT_EQ(GFXRoundRect(u"1"_s, Qt::black, {}).handleAtPoint({500, 500}), GFXRoundRect::right);
 }
 
@@ -115,11 +125,13 @@ TEST_F(CommentDates, BoxesSpanTheDaysInThePeriod) {
         const char* what;
         const char *begin, *end;
         const char *shownBegin, *shownEnd; ///< null: no box
+        const char* cut = "";              ///< at which sides
     } cases[]{
         {"inside", "03-21 08:00:00", "03-23 09:00:00", "03-21 00:00:00", "03-23 23:59:59"},
-        {"over the beginning", "03-01 00:00:00", "03-21 23:59:59", "03-20 00:00:00", "03-21 23:59:59"},
-        {"over the end", "03-27 00:00:00", "05-01 23:59:59", "03-27 00:00:00", "04-02 23:59:59"},
-        {"the last second", "04-02 23:59:59", "05-01 23:59:59", "04-02 00:00:00", "04-02 23:59:59"},
+        {"over the beginning", "03-01 00:00:00", "03-21 23:59:59", "03-20 00:00:00", "03-21 23:59:59",
+         "left"},
+        {"over the end", "03-27 00:00:00", "05-01 23:59:59", "03-27 00:00:00", "04-02 23:59:59", "right"},
+        {"the last second", "04-02 23:59:59", "05-01 23:59:59", "04-02 00:00:00", "04-02 23:59:59", "right"},
         {"in the wrong order", "03-23 00:00:00", "03-21 00:00:00", "03-21 00:00:00", "03-23 23:59:59"},
         {"all of it", "03-20 00:00:00", "04-02 23:59:59", "03-20 00:00:00", "04-02 23:59:59"},
         {"over both ends", "03-19 23:59:59", "04-03 00:00:00", nullptr, nullptr},
@@ -137,6 +149,10 @@ TEST_F(CommentDates, BoxesSpanTheDaysInThePeriod) {
         if (boxes.empty()) continue;
         EXPECT_NEAR(boxes[0].bounds.x, x(each.shownBegin), 1e-6) << each.what;
         EXPECT_NEAR(boxes[0].bounds.right(), x(each.shownEnd), 1e-6) << each.what;
+        DrawManager manager;
+        const CommentShape made = createCommentInRect(manager, boxes[0], 0);
+        EXPECT_EQ(made->isCutLeft, each.cut == std::string("left")) << each.what;
+        EXPECT_EQ(made->isCutRight, each.cut == std::string("right")) << each.what;
         EXPECT_EQ(boxes[0].strokeColour, QColor(255, 194, 0));
     }
     CommentList dateless;

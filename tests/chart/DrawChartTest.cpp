@@ -43,12 +43,13 @@ struct Chart {
                          reading(local("2019-03-04 20:00:00"), 140, 90, 75, true)};
     DataLogList downloads;
     Period period = daysFrom("2019-03-01", 7);
+    std::uint32_t sysStandard = 140;
     ChartStyle style = DrawPulse;
     Rect total = rect;
 
     [[nodiscard]] ChartLayout layout() const {
         const ChartData data = makeChartData(readings, downloads);
-        return drawChart({data, period, 140, 90, style, total}, LocalZone());
+        return drawChart({data, period, sysStandard, 90, style, total}, LocalZone());
     }
     [[nodiscard]] std::vector<ChartPoint> points() const {
         const ChartData data = makeChartData(readings, downloads);
@@ -143,10 +144,9 @@ TEST(DrawChart, ShowsDaysOfShortPeriodsAndMonthsOfLongOnes) {
     chart.period = daysFrom("2019-01-20", 48);
     EXPECT_FALSE(chart.layout().bShowComment);
     EXPECT_EQ(chart.texts(20), QStringList{u"2019"_s});
-    // From the right; the rightmost, March, never shows.
-    EXPECT_EQ(chart.texts(20 + dateHeight), (QStringList{u"February"_s, u"January"_s}));
+    EXPECT_EQ(chart.texts(20 + dateHeight), (QStringList{u"January"_s, u"February"_s, u"March"_s}));
     chart.period = daysFrom("1950-01-01", 36525);
-    EXPECT_EQ(chart.texts(20).front(), u"2049"_s);
+    EXPECT_EQ(chart.texts(20).front(), u"2047"_s) << "there is no room for the last one";
     auto years = chart.items<TextLine>();
     std::erase_if(years, [](const TextLine& line) { return line.origin.y != 20; });
     ASSERT_GT(years.size(), 10U);
@@ -155,6 +155,15 @@ TEST(DrawChart, ShowsDaysOfShortPeriodsAndMonthsOfLongOnes) {
                   years[i - 1].origin.x);
     chart.style = DrawBlood;
     EXPECT_TRUE(chart.texts(20).empty());
+
+    chart.style = DrawPulse;
+    chart.period = daysFrom("2019-03-03", 1);
+    EXPECT_EQ(chart.texts(20), QStringList{u"March 2019"_s}) << "a single day has its date";
+    EXPECT_EQ(chart.texts(20 + dateHeight - 1), QStringList{u"3"_s});
+    const auto nameX = [&] { return chart.items<TextLine>().at(4).origin.x; };
+    EXPECT_EQ(nameX(), 39);
+    chart.style.forPrint = true;
+    EXPECT_EQ(nameX(), 39 + 4) << "beside the frame";
 }
 
 TEST(DrawChart, CountsDaysAsTheCalendarDoes) {
@@ -214,6 +223,8 @@ TEST(DrawChart, DrawsReadingsOfTheChosenHalfOfTheDay) {
         EXPECT_EQ(chart.points().size(), 2 * count);
         EXPECT_EQ(chart.items<Ticks>().at(0).ticks.size(), count);
         EXPECT_EQ(chart.items<StraightLine>().size(), 7U + 8U + 2U); // days, values and both limits stay
+        chart.sysStandard = 0;
+        EXPECT_EQ(chart.items<StraightLine>().size(), 7U + 8U + 1U) << "0 is no limit";
     }
 }
 
@@ -257,6 +268,82 @@ TEST(DrawChart, JoinsReadingsInViewToThoseBesideIt) {
         chart.readings.push_back(reading(chart.period.begin - minutes, 130, 85, 70));
         EXPECT_EQ(chart.items<PointMarks>().at(0).points.size(), drawn) << minutes.count();
     }
+}
+
+// On the screen the pointer finds them; on paper a reading alone would leave no trace.
+TEST(DrawChart, MarksReadingsOnPaperToo) {
+    Chart chart;
+    chart.readings.pop_back();
+    for (const auto& [style, marks] : {std::pair{DrawBlood, 2U}, {DrawPulse, 1U}}) {
+        chart.style = style;
+        chart.style.bTrack = false;
+        chart.style.forPrint = true;
+        const Picture picture = chart.layout().picture;
+        const auto printed = chart.items<PointMarks>();
+        ASSERT_EQ(printed.size(), 1U);
+        EXPECT_FALSE(printed[0].bordered);
+        EXPECT_EQ(printed[0].points.size(), marks);
+        const auto mark = std::ranges::find_if(
+            picture, [](const PictureItem& item) { return std::holds_alternative<PointMarks>(item); });
+        EXPECT_TRUE(std::none_of(mark, picture.end(), [](const PictureItem& item) {
+            return std::holds_alternative<Ticks>(item);
+        })) << "a tick would bleach the mark";
+    }
+}
+
+TEST(DrawChart, TellsOfReadingsBeyondItsScale) {
+    Chart chart;
+    const struct {
+        std::uint32_t sys, dia, pulse;
+        int base;
+        QString blood, beats;
+    } cases[]{{220, 40, 120, 60, {}, {}},
+              {221, 40, 39, 60, u"1 reading above the scale"_s, u"1 reading below the scale"_s},
+              {200, 39, 121, 60, u"1 reading below the scale"_s, u"1 reading above the scale"_s},
+              {220, 40, 60, 80, u"2 readings below the scale"_s, u"1 reading below the scale"_s},
+              {221, 39, 60, 60, u"1 reading above the scale, 1 reading below the scale"_s, {}}};
+    for (const auto& each : cases) {
+        chart.readings = {reading(local("2019-03-02 08:00:00"), each.sys, each.dia, each.pulse),
+                          reading(local("2019-03-04 08:00:00"), 120, 59, 59),
+                          reading(local("2019-03-08 08:00:00"), 500, 0, 500)};
+        for (const auto& [style, note] : {std::pair{DrawBlood, each.blood}, {DrawPulse, each.beats}}) {
+            chart.style = style;
+            chart.style.iScaleBase = each.base;
+            const TextLine last = chart.items<TextLine>().back();
+            EXPECT_EQ(last.text.contains(u"scale"_s) ? last.text : QString(), note) << each.sys;
+        }
+    }
+    chart.total.width = 29 + 150;
+    chart.style.iScaleBase = 300;
+    EXPECT_EQ(chart.items<TextLine>().back().text, u"2 readings below the scale"_s);
+    chart.style.CompareType = true;
+    EXPECT_EQ(chart.items<TextLine>().at(chart.items<TextLine>().size() - 2).text, u"2 below"_s)
+        << "beside the caption";
+    chart.style.CompareType = false;
+    chart.total.width = 29 + 100;
+    EXPECT_EQ(chart.items<TextLine>().back().text, u"2 below"_s);
+}
+
+TEST(DrawChart, SaysThatThePeriodHasNoReadings) {
+    using enum ViewSelection;
+    Chart chart; // a reading before noon on 2 March, one after noon on 4 March
+    const struct {
+        const char* day;
+        ViewSelection view;
+        QString note;
+    } cases[]{{"2019-03-02", viewAll, {}},
+              {"2019-03-03", custom, u"No readings in this period"_s},
+              {"2019-03-02", pmOnly, u"No readings from noon on in this period"_s},
+              {"2019-03-04", amOnly, u"No readings before noon in this period"_s},
+              {"2019-03-04", pmOnly, {}}};
+    for (const auto& each : cases)
+        for (const ChartStyle& style : {DrawBlood, DrawPulse}) {
+            chart.style = style;
+            chart.style.showDataType = each.view;
+            chart.period = daysFrom(each.day, 1);
+            const QString last = chart.items<TextLine>().back().text;
+            EXPECT_EQ(last.startsWith(u"No readings"_s) ? last : QString(), each.note) << each.day;
+        }
 }
 
 TEST(DrawChart, SaysThatThereIsNoData) {

@@ -88,7 +88,7 @@ const QColor bars(12, 98, 170, 204);
 
 TEST(DrawHistogram, LaysOutPanelsAndBars) {
     const Rect area{10, 20, 365, 217};
-    const Picture picture = drawHistogram(histogram(13, 6), area);
+    const Picture picture = drawHistogram(histogram(13, 6), {}, area);
     const Rect sys{40, 37, 100, 200};
     const Rect dia{145, 37, 100, 200};
     const Rect pulse{275, 37, 100, 200};
@@ -104,7 +104,7 @@ TEST(DrawHistogram, LaysOutPanelsAndBars) {
     EXPECT_NEAR(shown[1].width, 100 * 2.5 / 3, 1e-9);
     EXPECT_NEAR(shown[1].y, 37 + 4 * row, 1e-9) << "the lower half of a division";
     EXPECT_NEAR(shown[2].y, 37 + 3 * height / 10, 1e-9);
-    const auto low = filled(drawHistogram(histogram(13, 6), {10, 20, 365, 117}), bars);
+    const auto low = filled(drawHistogram(histogram(13, 6), {}, {10, 20, 365, 117}), bars);
     EXPECT_NEAR(low.at(0).height, 0.5 * (height - 100) / 14 - 1, 1e-9)
         << "bars are apart in low pictures, too";
     const auto lines = itemsOf<StraightLine>(picture);
@@ -126,22 +126,27 @@ TEST(DrawHistogram, LaysOutPanelsAndBars) {
 TEST(DrawHistogram, WithoutReadingsHasScalesAndNoBars) {
     HistogramFigures none = histogram(13, 6);
     none.total = 0;
-    const Picture picture = drawHistogram(none, {0, 0, 365, 217});
+    const Picture picture = drawHistogram(none, {}, {0, 0, 365, 217});
     EXPECT_TRUE(filled(picture, bars).empty());
     EXPECT_TRUE(texts(picture).contains(u"120"_s));
 }
 
 TEST(DrawHistogram, ValuesAboveAPanelShowNowhere) {
     const Rect area{50, 50, 365, 217};
-    const QImage image = painted(drawHistogram(histogram(29, 27), area), 500, 320);
+    const QImage image = painted(drawHistogram(histogram(29, 27), {}, area), 500, 320);
     EXPECT_TRUE(keptOutside(image, area));
+    HistogramFigures shown = histogram(28, 20); // their bars would begin where the scales end
+    const QImage above = painted(drawHistogram(shown, {}, area), 500, 320);
+    shown.sys.share.fill(0);
+    shown.pulse.share.fill(0);
+    EXPECT_EQ(above, painted(drawHistogram(shown, {}, area), 500, 320));
 }
 
 TEST(DrawCorrelation, PointsLimitsAndPlotFitTogether) {
     const Rect area{10, 20, 270, 217}; // the plot is 240 by 200: a unit for each mmHg
     const Rect plot{40, 37, 240, 200};
     const Picture picture =
-        drawCorrelation(std::array<CorrelationPoint, 2>{{{135, 85}, {0, 0}}}, 135, 85, area);
+        drawCorrelation(std::array<CorrelationPoint, 2>{{{135, 85}, {0, 0}}}, {}, 135, 85, area);
     EXPECT_THAT(filled(picture, Qt::white), testing::ElementsAre(plot));
     EXPECT_THAT(itemsOf<PointMarks>(picture).at(0).points,
                 testing::ElementsAre(Point{175, 122}, Point{40, 37}));
@@ -164,9 +169,61 @@ TEST(DrawCorrelation, PointsLimitsAndPlotFitTogether) {
 TEST(DrawCorrelation, PointsOutsideThePlotShowNowhere) {
     const Rect area{30, 40, 270, 217};
     const std::array<CorrelationPoint, 3> outside{{{243, 100}, {100, 203}, {4294967295, 4294967295}}};
-    const QImage image = painted(drawCorrelation(outside, 135, 85, area), 400, 300);
-    EXPECT_EQ(image, painted(drawCorrelation({}, 135, 85, area), 400, 300));
-    EXPECT_TRUE(keptOutside(painted(drawCorrelation(outside, 999, 4294967295, area), 400, 300), area));
+    const QImage image = painted(drawCorrelation(outside, {}, 135, 85, area), 400, 300);
+    EXPECT_EQ(image, painted(drawCorrelation({}, {}, 135, 85, area), 400, 300));
+    EXPECT_TRUE(keptOutside(painted(drawCorrelation(outside, {}, 999, 4294967295, area), 400, 300), area));
+}
+
+TEST(FigurePictures, TellOfReadingsBeyondTheirScales) {
+    const struct {
+        std::uint32_t sys, dia, pulse;
+        std::array<int, 3> noBar;
+        int noPoint;
+    } cases[]{{240, 200, 199, {0, 0, 0}, 0}, {241, 100, 200, {0, 0, 1}, 1},
+              {120, 201, 60, {0, 0, 0}, 1},  {279, 279, 0, {0, 0, 0}, 1},
+              {280, 100, 60, {1, 0, 0}, 1},  {UINT32_MAX, 280, 60, {1, 1, 0}, 1}};
+    const ReadingSelection everything{{Instant(), Instant(std::chrono::days{1})}, ViewSelection::viewAll};
+    ReadingList readings;
+    std::array<OffScale, 3> noBar{};
+    OffScale noPoint;
+    for (const auto& each : cases) {
+        ReadingModel& reading = readings.emplace_back();
+        reading.ReadingDate = Instant();
+        reading.sys = each.sys, reading.dia = each.dia, reading.pulse = each.pulse;
+        for (std::size_t panel = 0; panel < 3; ++panel)
+            noBar.at(panel).above += each.noBar.at(panel);
+        noPoint.above += each.noPoint;
+        EXPECT_EQ(histogramOffScale(readings, everything), noBar) << each.sys;
+        EXPECT_EQ(correlationOffScale(readings, everything), noPoint) << each.sys;
+    }
+    ReadingSelection later = everything;
+    later.period.begin += std::chrono::hours{1};
+    EXPECT_EQ(histogramOffScale(readings, later), HistogramOffScale{}) << "not counted at all";
+    EXPECT_EQ(correlationOffScale(readings, later), OffScale{});
+
+    const Rect area{10, 20, 800, 300};
+    const QString note = u"5 readings above the scale"_s;
+    EXPECT_TRUE(texts(drawCorrelation({}, noPoint, 135, 85, area)).contains(note));
+    const Picture panels = drawHistogram(histogram(13, 6), {noPoint, {}, {1, 0}}, area);
+    EXPECT_LT(boxOf(panels, note).x, boxOf(panels, u"DIA"_s).x);
+    EXPECT_LT(boxOf(panels, u"Pulse"_s).right(), boxOf(panels, u"1 reading above the scale"_s).x);
+    const Picture narrow = drawHistogram(histogram(13, 6), {noPoint, {}, {}}, {0, 0, 365, 217});
+    EXPECT_TRUE(texts(narrow).contains(u"5 above"_s));
+    EXPECT_EQ(offScaleText({2, 1}), u"2 readings above the scale, 1 reading below the scale"_s);
+}
+
+TEST(DrawCorrelation, ALimitOfNoneDividesNothing) {
+    const Rect area{10, 20, 400, 300};
+    for (const auto& [sys, dia, zones] :
+         {std::tuple{140U, 90U, 4}, {140U, 0U, 2}, {0U, 90U, 2}, {0U, 0U, 0}}) {
+        const Picture picture = drawCorrelation({}, {}, sys, dia, area);
+        const auto words = texts(picture);
+        EXPECT_EQ(std::ranges::count_if(words, [](const QString& text) { return text.contains("high"_L1); })
+                      + words.count(u"Normal"_s),
+                  zones);
+        const auto lines = itemsOf<StraightLine>(picture);
+        EXPECT_EQ(std::ranges::count(lines, 2, &StraightLine::width), zones / 2);
+    }
 }
 
 TEST(DrawStatistic, ShowsARowForEachMeasure) {
@@ -190,11 +247,12 @@ TEST(DrawStatistic, ShowsARowForEachMeasure) {
 }
 
 TEST(FigurePictures, LabelsNeitherTouchNorLeaveThePicture) {
+    constexpr OffScale many{1234, 0};
     for (const auto& [width, height] : {std::pair{320, 150}, {900, 420}, {540, 700}, {8000, 4000}}) {
         const Rect area{3, 5, static_cast<double>(width), static_cast<double>(height)};
         for (const Picture& picture :
-             {drawHistogram(histogram(13, 6), area), drawCorrelation({}, 135, 85, area),
-              drawStatistic(statistic(), true, area)}) {
+             {drawHistogram(histogram(13, 6), {many, {}, many}, area),
+              drawCorrelation({}, many, 135, 85, area), drawStatistic(statistic(), true, area)}) {
             std::vector<Rect> boxes;
             for (const TextLine& line : itemsOf<TextLine>(picture)) {
                 const Size size = textSize(line.text, line.attribute);
@@ -215,9 +273,10 @@ TEST(FigurePictures, LabelsNeitherTouchNorLeaveThePicture) {
 TEST(FigurePictures, TinyPicturesStayInTheirArea) {
     for (const double size : {1.0, 17.0, 31.0, 66.0, 90.0}) {
         const Rect area{20, 20, size, size};
-        for (const Picture& picture : {drawHistogram(histogram(13, 6), area),
-                                       drawCorrelation(std::array{CorrelationPoint{135, 85}}, 135, 85, area),
-                                       drawStatistic(statistic(), true, area)})
+        for (const Picture& picture :
+             {drawHistogram(histogram(13, 6), {}, area),
+              drawCorrelation(std::array{CorrelationPoint{135, 85}}, {1, 0}, 135, 85, area),
+              drawStatistic(statistic(), true, area)})
             EXPECT_TRUE(keptOutside(painted(picture, 150, 150), area)) << size;
     }
 }

@@ -17,9 +17,10 @@ protected:
                                          "<EndDate>2026-11-05T23:59:59+01:00</EndDate></Comment></ZEL>"));
     }
 
-    std::string of(const char* line) {
-        return zel(QString::fromLatin1(line).split(u' ') + QStringList{u"--patient=M1"_s}).out;
+    Outcome run(const char* line) {
+        return zel(QString::fromLatin1(line).split(u' ') + QStringList{u"--patient=M1"_s});
     }
+    std::string of(const char* line) { return run(line).out; }
 };
 
 TEST_F(AnalysisTest, ReadingsAreTheListOfThePeriod) {
@@ -45,6 +46,16 @@ TEST_F(AnalysisTest, StatisticsAreTheCellsOfTheTable) {
               "sys: 99 99 99\ndia: 60 60 60\npulse: 102 102 102\nmap: 73 73 73\n");
     EXPECT_EQ(of("statistics --from 2027-01-01"),
               "sys: n/a n/a n/a\ndia: n/a n/a n/a\npulse: n/a n/a n/a\nmap: n/a n/a n/a\n");
+}
+
+TEST_F(AnalysisTest, WhatIsLeftOutIsTold) {
+    EXPECT_EQ(run("statistics").err, "3 readings; 1 undated one not counted\n");
+    EXPECT_EQ(run("statistics --undated").err, "4 readings\n");
+    EXPECT_EQ(run("statistics --from 2026-11-03").err,
+              "1 reading; 2 outside the period, 1 undated one not counted\n");
+    EXPECT_EQ(run("readings").err, "");
+    setData(data().replace("2026-11-01T", "1700-11-01T"));
+    EXPECT_THAT(run("readings --from 1700-01-01").err, testing::HasSubstr("at most 36525"));
 }
 
 } // namespace

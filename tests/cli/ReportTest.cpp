@@ -30,13 +30,21 @@ TEST_F(Report, everySectionIsWritten) {
     const Outcome outcome = report(u"all"_s, {u"--practitioner"_s, u"--paper"_s, u"Letter"_s});
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_EQ(outcome.out, "written: " + output.toStdString() + '\n');
+    EXPECT_EQ(outcome.err, "Empty, so not in the report: comment\n");
     EXPECT_TRUE(written().startsWith("%PDF-"));
     // No comments: six sections of one page each, two of them upright.
     EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 4);
     EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 2);
     const char* const fromZEL = "/Author <feff005a0045004c>";
-    EXPECT_FALSE(written().contains(fromZEL)) << "but from the practitioner";
-    ASSERT_EQ(report(u"table"_s).status, 0);
+    EXPECT_TRUE(written().contains(fromZEL)) << "nobody has filled in the practitioner";
+    ASSERT_EQ(
+        zel({u"settings"_s, u"--set"_s, u"PhysicianAddress=Practitioner (Physician)\nDr. Moreau"_s}).status,
+        0);
+    ASSERT_EQ(report(u"table"_s, {u"--practitioner"_s}).status, 0);
+    EXPECT_TRUE(written().contains("/Author <feff00440072002e")) << "Dr.";
+    const Outcome alone = report(u"table"_s);
+    ASSERT_EQ(alone.status, 0);
+    EXPECT_EQ(alone.err, "");
     EXPECT_TRUE(written().contains(fromZEL));
 }
 

@@ -1,6 +1,7 @@
 // Prints through the print window and the system's print queue. tests/printing/run sets the queue up.
 #include "app/printing/PrintController.h"
 #include "report/ReportPdf.h"
+#include "support/FullDisk.h"
 #include "support/ScriptedChooser.h"
 #include "support/WidgetTest.h"
 
@@ -134,6 +135,22 @@ TEST_F(PrintQueueTest, whatIsPrintedIsWhatIsSaved) {
                 << "page " << page << " of tab " << c.tab;
         }
     }
+}
+
+TEST_F(PrintQueueTest, aJobThatCannotBeFinishedIsTakenBack) {
+    const auto jobs = [] {
+        return QDir(qEnvironmentVariable("ZEL_SPOOLED")).entryList({u"d*-001"_s}).size();
+    };
+    auto source = printSource(store, period, clock, {});
+    ASSERT_TRUE(source);
+    const PrintView view(std::move(*source), QPageSize(QPageSize::A4));
+    const qsizetype before = jobs();
+    {
+        const FullDisk full(3000);
+        EXPECT_EQ(printers.print(printers.defaultName(), view, Section::table), PrintResult::failed);
+    }
+    outputOf(u"lpstat"_s, {u"-o"_s}); // the queue has taken what there is
+    EXPECT_EQ(jobs(), before);
 }
 
 TEST_F(PrintQueueTest, aPrinterThatIsGoneIsSaidAndNoOtherPrints) {

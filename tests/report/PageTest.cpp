@@ -78,9 +78,9 @@ SampleReport patientOf(const QString& text) {
 }
 
 TEST(Page, noTextLeavesItsPage) {
-    const QString long100000(100'000, u'W');
+    const QString long5000(5'000, u'W');
     for (const QString& text :
-         {u"Ada"_s, long100000, u"a\nb\n"_s.repeated(50'000), u"\u05D3\u05D5\u05D3 "_s.repeated(500),
+         {u"Ada"_s, long5000, u"a\nb\n"_s.repeated(2'000), u"\u05D3\u05D5\u05D3 "_s.repeated(500),
           u"\u738B\u5C0F\u660E"_s.repeated(500)}) {
         const SampleReport sample = patientOf(text);
         for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
@@ -129,17 +129,35 @@ TEST(Page, textsAreShortenedOnlyWhereTheyDoNotFit) {
     EXPECT_LT(lines.back().origin.y, lines.front().origin.y);
 }
 
-TEST(Page, footerShowsThePractitionerOnlyWhenAskedFor) {
-    SampleReport sample;
-    sample.settings.physicianAddress = u"Dr. Moreau\n2\n3\n4\n5\nSixth\nSeventh"_s;
-    const auto shown = [&](const QString& begin) {
-        const auto texts = textsOf(sample.view().page(std::nullopt, 1));
-        return std::ranges::any_of(texts, [&](const TextLine& line) { return line.text.startsWith(begin); });
+TEST(Page, footerShowsThePractitionerOnlyWhenAskedForAndApartFromTheLegend) {
+    SampleReport sample(3);
+    const auto linesOf = [&](const QString& details) {
+        sample.settings.physicianAddress = details;
+        const PrintView view = sample.view();
+        const PageGeometry at = view.geometry(Section::table);
+        QStringList lines;
+        double legendTop = 0, detailsBottom = at.footerRect.top();
+        for (const TextLine& line : textsOf(view.page(Section::table, 1))) {
+            if (line.origin.y >= at.footerRect.top() || line.text.startsWith("Page"_L1)) continue;
+            const bool isDetail = (details + QString(details).replace(u'\n', u", "_s)).contains(line.text);
+            if (isDetail) lines += line.text;
+            (isDetail ? detailsBottom : legendTop) =
+                isDetail ? std::min(detailsBottom, line.origin.y)
+                         : std::max(legendTop, line.origin.y + textSize(line.text, line.attribute).height);
+        }
+        EXPECT_GT(detailsBottom, legendTop + 5) << qPrintable(details);
+        return lines.join(u'|');
     };
-    EXPECT_TRUE(shown(u"Dr. Moreau"_s) && shown(u"Sixth"_s));
-    EXPECT_FALSE(shown(u"Seventh"_s)) << "no room";
+    const QString suggested = SettingModel::initWithDefault().physicianAddress;
+    EXPECT_EQ(linesOf(suggested), QString()) << "nobody has filled it in";
+    EXPECT_EQ(linesOf(u"Dr. Moreau\n Street address\nSea Road 3\nPhone"_s), u"Dr. Moreau|Sea Road 3"_s);
+    EXPECT_EQ(linesOf(u"Dr. Moreau\n2\n3\n4\n5\n6\nSeventh"_s), u"Dr. Moreau|2|3|4|5|6|Seventh"_s);
+    QStringList many;
+    for (int i = 1; i <= 20; ++i)
+        many += u"Department %1"_s.arg(i);
+    EXPECT_EQ(linesOf(many.join(u'\n')).replace(u'|', u' '), many.join(u", "_s)) << "no line for each";
     sample.needPhysicianInfo = false;
-    EXPECT_FALSE(shown(u"Dr. Moreau"_s));
+    EXPECT_EQ(linesOf(u"Dr. Moreau"_s), QString());
 }
 
 bool shows(const PrintView& view, Section section, const QString& words, int page = 1) {
@@ -147,10 +165,14 @@ bool shows(const PrintView& view, Section section, const QString& words, int pag
     return std::ranges::any_of(texts, [&](const TextLine& line) { return line.text.contains(words); });
 }
 
-TEST(Page, theCorrelationsFiguresAreWholeOnEachPaper) {
-    const SampleReport sample(730);
+TEST(Page, figuresAndNamesOfUsualLengthAreWholeOnEachPaper) {
+    SampleReport sample(2 * 365 * 10);
+    sample.selection.period.end = DateToDayBoundary(noonOf("2029-12-31"), false);
+    sample.patient.GivenNames = u"Maximiliane Alexandra Wilhelmina Josephine"_s;
+    sample.patient.FamilyName = u"Wolfeschlegelsteinhausen-Montgomery"_s;
     for (const auto paper : {QPageSize::A4, QPageSize::Letter})
-        EXPECT_FALSE(shows(sample.view(paper), Section::correlation, u"\u2026"_s));
+        for (const Section section : {Section::correlation, Section::SWStatistics})
+            EXPECT_FALSE(shows(sample.view(paper), section, u"\u2026"_s)) << facts(section).key;
 }
 
 TEST(Page, countsTheReadingsAboveTheLimits) {
@@ -176,11 +198,54 @@ TEST(Page, tellsTheHalfOfTheDayThatItIsLimitedTo) {
         sample.selection.view = view;
         for (const Section section : allSections()) {
             const bool isLimited = section != Section::PatientProfile && section != Section::comment;
-            EXPECT_EQ(shows(sample.view(), section, u"before noon"_s), am && isLimited) << facts(section).key;
-            EXPECT_EQ(shows(sample.view(), section, u"from noon on"_s), pm && isLimited)
+            EXPECT_EQ(shows(sample.view(), section, u"Only readings before noon"_s), am && isLimited)
+                << facts(section).key;
+            EXPECT_EQ(shows(sample.view(), section, u"Only readings from noon on"_s), pm && isLimited)
                 << facts(section).key;
         }
     }
+}
+
+TEST(Page, tellsHowManyReadingsItCountsAndWhichItLeavesOut) {
+    using enum ViewSelection;
+    SampleReport sample(10); // at noon and at midnight in turn, of which two come before the period
+    sample.selection.period.begin = DateToDayBoundary(noonOf("2019-01-02"), true);
+    ReadingModel undated = sample.readings[0];
+    undated.ReadingDate = StrToDate(u"2000-01-01"_s, u"yyyy-MM-dd"_s);
+    undated.postInit(nullptr, sample.settings, sample.zone);
+    sample.readings.insert(sample.readings.begin(), undated);
+    const auto counts = [&](Section section) {
+        QStringList found;
+        for (const TextLine& line : textsOf(sample.view().page(section, 1)))
+            if (line.attribute.size == 9 && line.text.contains("reading"_L1)) found += line.text;
+        return found.join(u'|');
+    };
+    const QString before = QString::number(std::ranges::count_if(sample.readings, [&](const auto& reading) {
+        return reading.ReadingDate < sample.selection.period.begin && !hasUndatedMarker(reading);
+    }));
+    const int dated = 10 - before.toInt();
+    const auto outside = qtTrId("leftOutsidePeriod", before.toInt());
+    const auto text = [&](int counted, const QStringList& left) {
+        return qtTrId("readingCount", counted) + u"; "_s + qtTrId("leftOut").arg(left.join(u", "_s));
+    };
+    const QString anUndatedOne = qtTrId("leftUndated", 1);
+    using enum Section;
+    for (const Section section : {graph, histogram, correlation, table, SWStatistics})
+        EXPECT_EQ(counts(section), text(dated, {outside, anUndatedOne})) << facts(section).key;
+    for (const Section section : {PatientProfile, comment})
+        EXPECT_EQ(counts(section), QString()) << facts(section).key;
+    sample.selection.includeUndated = true;
+    EXPECT_EQ(counts(table), text(dated + 1, {outside}));
+    EXPECT_EQ(counts(graph), text(dated, {outside, anUndatedOne})) << "which has no place on it";
+    sample.selection = {sample.selection.period, pmOnly, false};
+    const auto early = static_cast<int>(std::ranges::count_if(sample.readings, [&](const auto& reading) {
+        return sample.selection.period.contains(*reading.ReadingDate) && !reading.isPMData;
+    }));
+    EXPECT_EQ(counts(table), text(dated - early, {outside, qtTrId("leftBeforeNoon", early), anUndatedOne}));
+    EXPECT_EQ(counts(SWStatistics), text(dated, {outside, anUndatedOne})) << "of all times of day";
+    sample = SampleReport(10);
+    EXPECT_EQ(counts(table), qtTrId("readingCount", 10));
+    EXPECT_EQ(counts(histogram), QString()) << "its heading says so";
 }
 
 TEST(Page, commentsTellTheirDaysAndColours) {
@@ -188,7 +253,7 @@ TEST(Page, commentsTellTheirDaysAndColours) {
         const char* end;
         QString head, colour;
     } cases[] = {
-        {"2019-01-05", u"1   2019/01/05 – 2019/01/05  (1 day)"_s, u"Grey"_s},
+        {"2019-01-05", u"1   2019/01/05 – 2019/01/05  (1 day)"_s, u"Dark grey"_s},
         {"2019-01-06", u"2   2019/01/05 – 2019/01/06  (2 days)"_s, u"Orange"_s},
         {"2019-02-04", u"3   2019/01/05 – 2019/02/04  (31 days)"_s, u"Blue"_s},
         {"2019-01-04", u"4   2019/01/05 – 2019/01/04"_s, u"Yellow"_s},
@@ -236,49 +301,30 @@ TEST(Page, thePatientsValuesStandBesideTheirLabels) {
         ASSERT_TRUE(beside) << label;
         EXPECT_EQ(beside->text, QLatin1StringView(value)) << label;
     }
+    const auto x = [&](const QString& text) {
+        return std::ranges::find(texts, text, &TextLine::text)->origin.x;
+    };
+    EXPECT_EQ(x(u"190.0"_s), x(u"168.0"_s)) << "in the column of the values above";
 }
 
-// In black and white, and with the days of a year.
-TEST(Page, theChartsLimitsStandOutAndItsNoteTellsOnlyOfWhatIsThere) {
-    SampleReport sample(60, 1);
-    const auto lines = [&](auto isCounted) {
-        const Picture page = sample.view().page(Section::graph, 1);
-        return std::ranges::count_if(page, [&](const PictureItem& item) {
-            const auto* line = std::get_if<StraightLine>(&item);
-            return line && isCounted(*line);
-        });
-    };
-    const auto isDash = [](const StraightLine& line) {
-        return line.color == Qt::black && line.from.y == line.to.y && line.width == 0.75;
-    };
-    const auto isHairline = [](const StraightLine& line) {
-        return line.from.x == line.to.x && line.width < 0.5;
-    };
-    EXPECT_GT(lines(isDash), 100);
-    EXPECT_GT(lines(isHairline), 700) << "a year, in two charts";
-    EXPECT_FALSE(shows(sample.view(), Section::graph, qtTrId("reportGraphComments")));
-    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-30"), false);
-    EXPECT_EQ(lines(isHairline), 0);
-    EXPECT_TRUE(shows(sample.view(), Section::graph, qtTrId("reportGraphComments")));
-    EXPECT_TRUE(shows(sample.view(), Section::graph, qtTrId("reportGraphDownloads")));
-    sample.downloads.clear();
-    EXPECT_FALSE(shows(sample.view(), Section::graph, qtTrId("reportGraphDownloads")));
-    sample.settings.sysStandard = sample.settings.diaStandard = 999;
-    EXPECT_EQ(lines(isDash), 0) << "outside the scale";
-
-    const Rect area = sample.view().geometry(Section::graph).drawingRect;
-    const auto isBetweenCharts = [&](const StraightLine& line) {
-        return line.width == 0.5 && line.from.y == line.to.y
-               && std::abs(line.to.y - area.y - 0.3 * area.height) < 1e-6;
-    };
-    EXPECT_EQ(lines(isBetweenCharts), 2) << "blood pressure has the larger part";
-
-    const QString note = u" outside the scales (40\u2013220 mmHg, 40\u2013120 beats per minute)"_s;
-    EXPECT_FALSE(shows(sample.view(), Section::graph, note));
-    sample.readings[0].sys = sample.readings[1].pulse = 221;
-    EXPECT_TRUE(shows(sample.view(), Section::graph, u"2 readings lie"_s + note));
-    sample.readings[0].sys = 220;
-    EXPECT_TRUE(shows(sample.view(), Section::graph, u"1 reading lies"_s + note));
+TEST(Page, unitsAreClearOfTheFrames) {
+    const SampleReport sample(40);
+    for (const Section section : {Section::histogram, Section::correlation}) {
+        const Picture page = sample.view().page(section, 1);
+        int units = 0;
+        for (const TextLine& line : textsOf(page)) {
+            if (line.text != qtTrId("mmHg") && line.text != qtTrId("P/min")) continue;
+            ++units;
+            const double right = line.origin.x + textSize(line.text, line.attribute).width;
+            for (const PictureItem& item : page) {
+                const auto* frame = std::get_if<StraightLine>(&item);
+                if (!frame || frame->from.x != frame->to.x || frame->color != QColor(Qt::black)) continue;
+                EXPECT_TRUE(right + 1 < frame->from.x || frame->from.x + 1 < line.origin.x)
+                    << facts(section).key;
+            }
+        }
+        EXPECT_EQ(units, section == Section::histogram ? 2 : 1);
+    }
 }
 
 TEST(Page, previewShowsThePageInItsBox) {

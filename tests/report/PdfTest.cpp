@@ -101,8 +101,37 @@ TEST(Pdf, saysWhatItIsAndTurnsItsPages) {
     EXPECT_TRUE(pdf.contains("/Lang (en)"));
     SampleReport own(1);
     own.needPhysicianInfo = false;
-    EXPECT_TRUE(
-        said(u"pdfinfo"_s, pdfOf(own, {Section::table})).contains(QRegularExpression(u"Author: +ZEL\n"_s)));
+    const auto isFromZEL = [&] {
+        static const QRegularExpression author(u"Author: +ZEL\n"_s);
+        return said(u"pdfinfo"_s, pdfOf(own, {Section::table})).contains(author);
+    };
+    EXPECT_TRUE(isFromZEL());
+    own.needPhysicianInfo = true;
+    EXPECT_FALSE(isFromZEL());
+    own.settings.physicianAddress = SettingModel::initWithDefault().physicianAddress;
+    EXPECT_TRUE(isFromZEL()) << "placeholders are nobody";
+}
+
+TEST(Pdf, severalSectionsAreOneDocument) {
+    using enum Section;
+    const SampleReport sample(40);
+    const QByteArray pdf = pdfOf(sample, {histogram, comment, table, SWStatistics});
+    const QString outline = said(u"pdftohtml"_s, pdf, {u"-xml"_s, u"-stdout"_s, u"-i"_s});
+    const QStringList expected{u"<item page=\"1\">%1</item>"_s.arg(facts(histogram).text()),
+                               u"<item page=\"2\">%1</item>"_s.arg(facts(table).text()),
+                               u"<item page=\"4\">%1</item>"_s.arg(facts(SWStatistics).text())};
+    EXPECT_TRUE(outline.contains(expected.join(u'\n'))) << qPrintable(outline.right(500));
+    EXPECT_EQ(outline.count(u"<item"_s), 3) << "none for a section without a page";
+    static const QRegularExpression toTheOneBefore(u"/Prev \\d+ 0 R"_s), toTheNextOne(u"/Next \\d+ 0 R"_s);
+    for (const QRegularExpression& link : {toTheOneBefore, toTheNextOne})
+        EXPECT_EQ(QString::fromLatin1(pdf).count(link), 2) << qPrintable(link.pattern());
+    const QStringList pages = said(u"pdftotext"_s, pdf).split(u'\f');
+    ASSERT_EQ(pages.size(), 6 + 1) << "each page ends with a form feed";
+    const QString empty = qtTrId("reportEmptySections").arg(facts(comment).text());
+    for (int page = 1; page <= 6; ++page) {
+        EXPECT_TRUE(pages[page - 1].contains(qtTrId("reportPage").arg(page).arg(6))) << page;
+        EXPECT_EQ(pages[page - 1].contains(empty), page == 1) << page;
+    }
 }
 
 TEST(Pdf, aReportWithoutPagesIsRefused) {

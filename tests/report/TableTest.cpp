@@ -60,6 +60,50 @@ TEST_F(TableTest, eachValueStandsInItsColumn) {
     EXPECT_EQ(row(1)[86], u"12:00 P"_s);
 }
 
+TEST_F(TableTest, aRowIsOfOneTypeOnOneLineWithRoomBetween) {
+    for (const char* format : {"yyyy mm dd", "dd mm yyyy", "mm dd yyyy"})
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            sample.settings.dateFormat = QLatin1StringView(format);
+            const auto texts = textsOf(sample.view(paper).page(Section::table, 1));
+            const auto time = std::ranges::find(texts, u"12:00"_s, &TextLine::text);
+            ASSERT_TRUE(time != texts.begin() && time != texts.end());
+            const TextLine& date = *(time - 1);
+            EXPECT_EQ(date.text, sample.readings[0].strDisplayDate(sample.settings));
+            EXPECT_GE(time->origin.x, date.origin.x + textSize(date.text, date.attribute).width + 4);
+            for (const auto* cell = &*time; cell < &*time + 4; ++cell) {
+                EXPECT_EQ(cell->attribute, date.attribute) << qPrintable(cell->text);
+                EXPECT_EQ(cell->origin.y, date.origin.y) << qPrintable(cell->text);
+            }
+        }
+}
+
+TEST_F(TableTest, theLegendExplainsWhatTheTableShowsAndNoMore) {
+    const auto explains = [&](const char* key) {
+        const auto texts = textsOf(sample.view().page(Section::table, 1));
+        return std::ranges::count(texts, qtTrId(key), &TextLine::text) == 1;
+    };
+    sample.downloads.clear();
+    for (const char* key : {"reportDownloadDay", "reportNoReading", "reportNoDate", "reportCommentBars"})
+        EXPECT_FALSE(explains(key)) << key;
+    EXPECT_TRUE(explains("reportFindingUnknown"));
+    sample.addComment("2020-02-03", "2020-02-04", 4, u"Travelling"_s); // after the last reading
+    sample.selection.period.end = DateToDayBoundary(noonOf("2020-12-31"), false);
+    EXPECT_TRUE(explains("reportNoReading") && explains("reportCommentBars"));
+    sample.readings.insert(sample.readings.begin(), ReadingModel{});
+    sample.selection.includeUndated = true;
+    EXPECT_TRUE(explains("reportNoDate"));
+    sample.downloads.emplace_back().transferDay = sample.zone.day(noonOf("2019-01-02"));
+    sample.downloads[0].transferDate = noonOf("2019-01-02");
+    EXPECT_TRUE(explains("reportDownloadDay"));
+    const auto commentPageExplains = [&] {
+        const auto texts = textsOf(sample.view().page(Section::comment, 1));
+        return std::ranges::count(texts, qtTrId("reportNoDate"), &TextLine::text) == 1;
+    };
+    EXPECT_FALSE(commentPageExplains());
+    sample.comments[0]->beginDay = ReadingModel{}.day;
+    EXPECT_TRUE(commentPageExplains());
+}
+
 TEST_F(TableTest, theHeaderNamesTheFourthMeasure) {
     sample.settings.showPPorMap = 0;
     const QString pp = row(0)[600];
@@ -100,6 +144,13 @@ TEST_F(TableTest, commentsAreMarkedByColourAndNumber) {
     EXPECT_TRUE(row(2)[683].startsWith("2 New"_L1)) << qPrintable(row(2)[683]);
     sample.addComment("2019-01-14", "2019-01-16", 2, u"Fever"_s);
     EXPECT_TRUE(row(1, 2)[683].startsWith("3 Fever"_L1)) << "goes on from the page before";
+    sample.addComment("2019-01-05", "2019-01-08", 1, u"Holiday"_s);
+    sample.addComment("2019-01-06", "2019-01-06", 3, u"Wine"_s);
+    constexpr int first = 8; // of 5 January, which has two
+    EXPECT_TRUE(row(first)[683].startsWith("4 Holi"_L1)) << qPrintable(row(first)[683]);
+    EXPECT_EQ(row(first + 1)[683], QString()) << "named once";
+    EXPECT_TRUE(row(first + 2)[683].startsWith("5 Wine"_L1));
+    EXPECT_TRUE(row(first + 4)[683].startsWith("4 Holi"_L1)) << "goes on after one in between";
     const QColor yellow = getCommentColor(4, true);
     const auto bars = items<FillRect>();
     EXPECT_EQ(std::ranges::count_if(

@@ -131,6 +131,11 @@ TEST_F(ChangeTest, CommentsOfOneNumberAreToldApart) {
         ASSERT_TRUE(store.saveCommentToXML(changed, comment(1)));
         EXPECT_TRUE(data().contains(">of B<") && data().contains(">first of A<")) << data().constData();
         EXPECT_EQ(comment(1).comment, u"typed"_s);
+        EXPECT_FALSE(data().contains('#'))
+            << "what is only known here is not written: " << data().constData();
+        EXPECT_NE(comment(0).CommentID, comment(1).CommentID);
+        store.setSelectedComment(comment(1).CommentID);
+        EXPECT_EQ(store.getSelectedComment(), &comment(1));
         for (const QString& ID : {u"B"_s, u"A"_s}) {
             store.setCurrentID(ID);
             EXPECT_EQ(store.getSelectedComment(), nullptr) << "another patient's is selected";
@@ -154,10 +159,12 @@ TEST_F(ChangeTest, NothingIsStoredForAPatientWhoIsGone) {
     store.setCurrentID(u"A"_s);
     CommentModel typed;
     typed.ID = u"A"_s;
+    const PatientModel patient = *store.getPatientByID(u"A"_s);
     const std::pair<const char*, std::function<StoreErrorCode()>> writes[] = {
         {"a download", [&] { return store.newDataTransfer(u"A"_s, {reading({})}).error().code; }},
         {"a new comment", [&] { return store.addCommentForCurID({}).error().code; }},
         {"a comment", [&] { return store.saveCommentToXML(typed).error().code; }},
+        {"the patient", [&] { return store.saveXMLPatient(patient, patient).error().code; }},
     };
     for (const auto& [what, act] : writes) {
         setData("<SystemSetting/><Patient><ID>A</ID></Patient><Patient><ID>B</ID></Patient>");

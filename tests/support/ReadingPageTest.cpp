@@ -1,5 +1,7 @@
 #include "support/ReadingPageTest.h"
 
+#include "app/frame/PeriodFollower.h"
+
 #include <QDateEdit>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -81,16 +83,6 @@ ReadingPageTest::ReadingPageTest() : ReadingSteps(store) {
     addPatient(u"P2"_s, u"Baker"_s);
 }
 
-/// The page hears of each change before the period does, as in the program.
-void ReadingPageTest::follow(QWidget& shown) {
-    const auto begin = [this] { period.setCurrentReadingTimePeriod(store.getReadingForCurID()); };
-    if (period.isChangeUser()) begin();
-    QObject::connect(&store, &DataStore::currentIDChanged, &shown, [this, begin] {
-        period.setChangeUser(true);
-        begin();
-    });
-    QObject::connect(&store, &DataStore::reloaded, &shown,
-                     [this] { period.refreshDataPeriod(store.getReadingForCurID()); });
-}
+void ReadingPageTest::follow(QWidget& shown) { (new PeriodFollower(store, period, &shown))->prepare(); }
 
 } // namespace zel

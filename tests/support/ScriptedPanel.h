@@ -30,6 +30,11 @@ public:
         whenAsked();
         return keepAnswer;
     }
+    SaveAnswer AskToSave(const QString& text, const QString& title) override {
+        const bool isWanted = AskMessage(text, title);
+        if (cancelsSaving) return SaveAnswer::cancel;
+        return isWanted ? SaveAnswer::save : SaveAnswer::discard;
+    }
     void interject(QObject* context, const std::function<void()>& speak) override {
         if (!isTyping) return MessagePanel::interject(context, speak);
         heldBack.push_back(speak);
@@ -39,7 +44,8 @@ public:
     QStringList questions; ///< titles only
     QString asked;         ///< the text of the last one
     KeepAnswer keepAnswer = KeepAnswer::keep;
-    bool isTyping = false; ///< what comes by itself is held back
+    bool cancelsSaving = false; ///< whatever the answers say
+    bool isTyping = false;      ///< what comes by itself is held back
     std::vector<std::function<void()>> heldBack;
     QHash<QString, bool> answers; ///< by title; yes when not told
     std::function<void()> whenAsked = [] {};

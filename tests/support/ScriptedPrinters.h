@@ -2,6 +2,8 @@
 
 #include "app/printing/Printers.h"
 
+#include <functional>
+
 namespace zel {
 
 /// Printers that the test names, and what was printed on them, as "printer: section".
@@ -16,6 +18,7 @@ public:
         if (view.getTotalPages(section) == 0) return PrintResult::noData;
         if (!known.contains(printer)) return PrintResult::noPrinter;
         if (fails) return PrintResult::failed;
+        whenPrinted(view);
         printed += printer + QStringLiteral(": ") + QLatin1StringView(facts(section).key);
         return PrintResult::printed;
     }
@@ -25,6 +28,7 @@ public:
     QString onLetter;
     bool fails = false;
     QStringList printed;
+    std::function<void(const PrintView&)> whenPrinted = [](const PrintView&) {};
 };
 
 } // namespace zel

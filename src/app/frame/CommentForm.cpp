@@ -8,6 +8,8 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QIcon>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -17,11 +19,19 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int longestDate = 32; ///< letters, however it is written
+
+} // namespace
+
 CommentForm::CommentForm(QWidget* parent)
-    : QWidget(parent), lblPatient(new QuietLabel({}, this)), lblBeginDate(new QLabel(this)),
-      lblEndDate(new QLabel(this)), textBox(new QFrame(this)), commentText(new QPlainTextEdit(textBox)),
+    : QWidget(parent), lblPatient(new QuietLabel({}, this)), beginDay(new QLineEdit(this)),
+      endDay(new QLineEdit(this)), textBox(new QFrame(this)), commentText(new QPlainTextEdit(textBox)),
       btnPrevious(new QToolButton(this)), btnNext(new QToolButton(this)), lblPosition(new QLabel(this)),
       btnDelete(new QPushButton(this)) {
+    buildDay(*beginDay, u"commentBegin"_s, qtTrId("commentBeginDay"));
+    buildDay(*endDay, u"commentEnd"_s, qtTrId("commentEndDay"));
     buildText();
     build();
     connect(btnPrevious, &QToolButton::clicked, this, &CommentForm::previousWanted);
@@ -37,12 +47,10 @@ void CommentForm::build() {
     dates->setHorizontalSpacing(8);
     dates->setColumnStretch(1, 1);
     int row = 0;
-    for (const auto& [title, value, name] :
-         {std::tuple(qtTrId("commentBegin"), lblBeginDate, u"lblCommentBegin"_s),
-          {qtTrId("commentEnd"), lblEndDate, u"lblCommentEnd"_s}}) {
-        value->setObjectName(name);
+    for (const auto& [title, day] :
+         {std::pair(qtTrId("commentBegin"), beginDay), {qtTrId("commentEnd"), endDay}}) {
         dates->addWidget(new QuietLabel(title, this), row, 0);
-        dates->addWidget(value, row++, 1);
+        dates->addWidget(day, row++, 1);
     }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -56,6 +64,18 @@ void CommentForm::build() {
     column->addWidget(makeButtons());
 }
 
+void CommentForm::buildDay(QLineEdit& day, const QString& name, const QString& title) {
+    day.setObjectName(name);
+    day.setAccessibleName(title);
+    day.setToolTip(qtTrId("commentDayHint"));
+    day.setMaxLength(longestDate);
+    day.installEventFilter(this);
+    connect(&day, &QLineEdit::editingFinished, this, [this, &day] {
+        // The window itself takes the focus when the page is left, which saves and asks in one.
+        if (day.isModified() && QApplication::focusWidget() != window()) emit datesTyped();
+    });
+}
+
 void CommentForm::buildText() {
     textBox->setObjectName(u"commentBox"_s);
     commentText->setObjectName(u"commentText"_s);
@@ -66,6 +86,8 @@ void CommentForm::buildText() {
     colours.setColor(QPalette::PlaceholderText, QColor(128, 128, 128)); // can be read on any background
     commentText->setPalette(colours);
     commentText->setMinimumHeight(commentText->fontMetrics().lineSpacing() * 4);
+    // Gives way before the panels have to be scrolled.
+    commentText->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     commentText->installEventFilter(this);
     auto* inside = new QVBoxLayout(textBox);
     inside->setContentsMargins(2, 2, 2, 2);
@@ -104,8 +126,16 @@ QWidget* CommentForm::makeButtons() {
 void CommentForm::showPatient(const QString& heading) { lblPatient->setText(heading); }
 
 void CommentForm::showDates(const QString& begin, const QString& end) {
-    lblBeginDate->setText(begin);
-    lblEndDate->setText(end);
+    shownDays = {begin, end};
+    beginDay->setText(begin);
+    endDay->setText(end);
+}
+
+CommentForm::Dates CommentForm::typedDates() const {
+    const auto typed = [](const QLineEdit& day) {
+        return day.isModified() ? std::optional(day.text()) : std::nullopt;
+    };
+    return {typed(*beginDay), typed(*endDay)};
 }
 
 void CommentForm::showPosition(std::size_t index, std::size_t total) {
@@ -130,7 +160,11 @@ void CommentForm::showText(const QString& text) { commentText->setPlainText(text
 
 QString CommentForm::text() const { return commentText->toPlainText(); }
 
-void CommentForm::setReadOnly(bool readOnly) { commentText->setReadOnly(readOnly); }
+void CommentForm::setReadOnly(bool readOnly) {
+    commentText->setReadOnly(readOnly);
+    beginDay->setReadOnly(readOnly);
+    endDay->setReadOnly(readOnly);
+}
 
 bool CommentForm::isEdited() const {
     return !commentText->isReadOnly() && commentText->document()->isModified();
@@ -140,7 +174,9 @@ void CommentForm::settle() { commentText->document()->setModified(false); }
 
 void CommentForm::enable(bool enabled) {
     commentText->setEnabled(enabled);
-    commentText->setReadOnly(!enabled);
+    beginDay->setEnabled(enabled);
+    endDay->setEnabled(enabled);
+    setReadOnly(!enabled);
     btnDelete->setEnabled(enabled);
     if (enabled) return commentText->setPlaceholderText({});
     commentText->clear();
@@ -149,8 +185,29 @@ void CommentForm::enable(bool enabled) {
     textBox->setStyleSheet(u"#commentBox { border: 1px solid palette(mid); }"_s);
 }
 
+void CommentForm::focusText() {
+    cameFrom = QApplication::focusWidget();
+    commentText->setFocus(Qt::OtherFocusReason);
+    commentText->moveCursor(QTextCursor::End);
+}
+
+/// \return false if there is nothing to go back to
+bool CommentForm::escape(QObject* from) {
+    if (from != commentText) {
+        const bool isTyped = static_cast<QLineEdit*>(from)->isModified();
+        if (isTyped) showDates(QString(shownDays[0]), QString(shownDays[1]));
+        return isTyped;
+    }
+    if (!cameFrom || !cameFrom->isVisible()) return false;
+    cameFrom->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
 bool CommentForm::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::FocusOut) return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        return escape(watched);
+    if (watched != commentText || event->type() != QEvent::FocusOut)
+        return QWidget::eventFilter(watched, event);
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     const bool isAway = reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
     // The window itself takes the focus when the page is left, which saves and asks in one.

@@ -1,9 +1,14 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
+
+#include <array>
+#include <optional>
 
 class QFrame;
 class QLabel;
+class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 class QToolButton;
@@ -17,7 +22,13 @@ public:
     explicit CommentForm(QWidget* parent);
 
     void showPatient(const QString& heading);
+    /// Empty where there is none. What was typed there is gone.
     void showDates(const QString& begin, const QString& end);
+    struct Dates {
+        std::optional<QString> begin; ///< none unless it was typed into since it was shown
+        std::optional<QString> end;
+    };
+    [[nodiscard]] Dates typedDates() const;
     void showPosition(std::size_t index, std::size_t total);
     void showNoPosition();
     /// The colour of the comment's box on the chart.
@@ -31,30 +42,37 @@ public:
     void settle(); ///< the text has been saved, or is not wanted any more
     /// A text that can be changed, or none and no colour.
     void enable(bool enabled);
+    /// The keyboard goes to the text; Esc gives it back.
+    void focusText();
 
 signals:
     void previousWanted();
     void nextWanted();
     void deleteWanted();
     void textLeft(); ///< for another control
+    void datesTyped();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void build();
+    void buildDay(QLineEdit& day, const QString& name, const QString& title);
     void buildText();
+    bool escape(QObject* from);
     QWidget* makeButtons();
 
     QLabel* lblPatient;
-    QLabel* lblBeginDate;
-    QLabel* lblEndDate;
+    QLineEdit* beginDay;
+    QLineEdit* endDay;
+    std::array<QString, 2> shownDays; ///< in both
     QFrame* textBox;
     QPlainTextEdit* commentText;
     QToolButton* btnPrevious;
     QToolButton* btnNext;
     QLabel* lblPosition;
     QPushButton* btnDelete;
+    QPointer<QWidget> cameFrom; ///< had the keyboard before the text
 };
 
 } // namespace zel

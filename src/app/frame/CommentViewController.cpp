@@ -1,5 +1,6 @@
 #include "app/frame/CommentViewController.h"
 
+#include "app/frame/CommentDays.h"
 #include "app/frame/CommentForm.h"
 #include "app/widgets/Log.h"
 #include "app/widgets/PatientTexts.h"
@@ -10,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace zel {
@@ -25,6 +27,7 @@ CommentViewController::CommentViewController(DataStore& dataStore, MessagePanel&
     connect(form, &CommentForm::nextWanted, this, [this] { go(true); });
     connect(form, &CommentForm::deleteWanted, this, &CommentViewController::deleteComment);
     connect(form, &CommentForm::textLeft, this, &CommentViewController::checkToSaveComment);
+    connect(form, &CommentForm::datesTyped, this, &CommentViewController::checkToSaveComment);
     connect(&store, &DataStore::reloaded, this, &CommentViewController::LoadData);
     connect(&store, &DataStore::currentIDChanged, this, &CommentViewController::LoadData);
     LoadData();
@@ -38,7 +41,7 @@ void CommentViewController::go(bool forward) {
 void CommentViewController::LoadData() {
     if (isLoading) return;
     const QScopedValueRollback loading(isLoading, true);
-    form->showPatient(patientHeading(store));
+    form->showPatient(narrowPatientHeading(store));
     if (isChanged() && shown->ID == store.getCurrentID()) return showPosition();
     if (isChanged() && !store.validIDinXML(shown->ID)) rescueText();
     if (const CommentModel* selected = store.getSelectedComment()) return show(*selected);
@@ -51,12 +54,13 @@ void CommentViewController::LoadData() {
 bool CommentViewController::selectComment(std::size_t index) {
     if (index >= store.getCommentForCurID().size()) return false;
     const QString ID = store.getCommentForCurID().at(index)->CommentID;
-    if (!checkToSaveComment()) return false;
+    const bool isOther = shown && shown->CommentID != ID;
+    if (!(isOther ? finish() : checkToSaveComment())) return false;
     const auto found = indexOf(ID); // saving has read the comments anew
     if (!found) return false;
     store.setSelectedComment(ID);
     show(*store.getCommentForCurID().at(*found));
-    emit commentSelected();
+    emit commentSelected(!isLoading);
     qCDebug(lcApp, "the selected comment from sideview %s", qUtf8Printable(ID));
     return true;
 }
@@ -80,7 +84,6 @@ void CommentViewController::show(const CommentModel& comment) {
     enableCommentUI(true);
     if (!isSame) form->showText(comment.comment);
     form->settle();
-    form->setReadOnly(comment.CommentID.isEmpty()); // of several, the panel finds the first only
     shown = comment;
     form->showDegree(static_cast<int>(comment.degree));
     updateDaetInfo(comment);
@@ -95,11 +98,13 @@ void CommentViewController::enableCommentUI(bool enabled) {
 }
 
 void CommentViewController::updateDaetInfo(const CommentModel& comment) {
+    const QString pattern = datePattern();
+    form->showDates(commentDayText(comment.beginDate, pattern), commentDayText(comment.endDate, pattern));
+}
+
+QString CommentViewController::datePattern() const {
     const QString format = store.getSetting().getDateFormat();
-    const auto text = [&format](const Date& date) {
-        return DateToStr(date.value_or(getNilDate()), format.isNull() ? u"yyyy/MM/dd"_s : format);
-    };
-    form->showDates(text(comment.beginDate), text(comment.endDate));
+    return format.isNull() ? u"yyyy/MM/dd"_s : format;
 }
 
 void CommentViewController::showPosition() {
@@ -110,20 +115,61 @@ void CommentViewController::showPosition() {
 }
 
 bool CommentViewController::isChanged() const {
-    return shown && form->isEdited() && form->text() != shown->comment;
+    const CommentForm::Dates dates = form->typedDates();
+    return shown && (dates.begin || dates.end || (form->isEdited() && form->text() != shown->comment));
+}
+
+CommentViewController::Typed CommentViewController::typed() const {
+    Typed all{*shown, {}};
+    const CommentForm::Dates dates = form->typedDates();
+    takeDay(dates.begin, true, all);
+    takeDay(dates.end, false, all);
+    CommentModel& comment = all.comment;
+    const bool hasBoth = !isNilDate(comment.beginDate) && !isNilDate(comment.endDate);
+    if ((dates.begin || dates.end) && hasBoth && *comment.beginDate > *comment.endDate)
+        all.refusal = qtTrId("commentDayOrder");
+    if (!all.refusal.isEmpty()) comment = *shown;
+    if (form->isEdited()) comment.comment = form->text();
+    return all;
+}
+
+/// A day that is typed as it was keeps its time.
+void CommentViewController::takeDay(const std::optional<QString>& text, bool begin, Typed& into) const {
+    if (!text) return;
+    const QString pattern = datePattern();
+    Date& stored = begin ? into.comment.beginDate : into.comment.endDate;
+    if (*text == commentDayText(stored, pattern)) return;
+    if (const Date day = typedCommentDay(*text, pattern))
+        stored = DateToDayBoundary(*day, begin);
+    else
+        into.refusal = qtTrId("commentDayUnread").arg(*text, QString(pattern).toUpper());
+}
+
+/// They are as before when the message comes, which takes the keyboard from the field.
+bool CommentViewController::refuseDates() {
+    const QString refusal = shown ? typed().refusal : QString();
+    if (refusal.isEmpty()) return false;
+    updateDaetInfo(*shown);
+    panel.ShowMessage(refusal, qtTrId("DateError"));
+    return true;
 }
 
 /// Writes a copy: on a failure, neither the store nor the panel has changed.
 StoreResult CommentViewController::save() {
     if (isLoading || !isChanged()) return {};
-    CommentModel comment = *shown;
-    comment.comment = form->text();
+    const CommentModel comment = typed().comment;
+    if (comment.isSame(*shown)) {
+        if (typed().refusal.isEmpty()) updateDaetInfo(*shown); // typed as they were
+        return {};
+    }
     // The patient may turn out to be gone from the file: then another one's comment is shown now.
     StoreResult saved = store.saveCommentToXML(comment, *shown);
     if (!shown || shown->CommentID != comment.CommentID || shown->ID != comment.ID) return {};
     if (!saved) return saved;
-    shown->comment = comment.comment;
+    shown = comment;
     form->settle();
+    updateDaetInfo(comment);
+    showPosition();
     tellIfNotReadBack();
     return {};
 }
@@ -146,14 +192,43 @@ void CommentViewController::rescueText() {
 }
 
 bool CommentViewController::checkToSaveComment() {
+    const bool isRefused = !isLoading && refuseDates();
     const StoreResult saved = save();
     if (!saved) panel.ShowMessage(qtTrId("commentNotSaved").arg(describe(saved.error())), qtTrId("Warning"));
-    return saved.has_value();
+    return saved.has_value() && !isRefused;
+}
+
+bool CommentViewController::finish() {
+    if (!checkToSaveComment()) return false;
+    askAboutEmpty();
+    return true;
+}
+
+void CommentViewController::editNew() {
+    const CommentModel* selected = store.getSelectedComment();
+    if (!selected) return;
+    added = selected->CommentID;
+    emit wanted();
+    form->focusText();
+}
+
+void CommentViewController::askAboutEmpty() {
+    const QString ID = std::exchange(added, QString());
+    const bool isShown = shown && !ID.isNull() && shown->CommentID == ID && shown->ID == store.getCurrentID();
+    if (isLoading || !isShown || !form->text().trimmed().isEmpty()) return;
+    const QString question = qtTrId("commentEmpty").arg(commentDayText(shown->beginDate, datePattern()));
+    const QString patientID = shown->ID;
+    if (!panel.AskMessage(question, qtTrId("commentEmptyTitle"))) return;
+    if (store.getCurrentID() == patientID) erase(ID);
 }
 
 bool CommentViewController::leave() {
+    std::ignore = refuseDates();
     const StoreResult saved = save();
-    if (saved) return true;
+    if (saved) {
+        askAboutEmpty();
+        return true;
+    }
     if (panel.AskBeforeLosing(qtTrId("commentStay").arg(describe(saved.error())), qtTrId("Warning")))
         return false;
     shown.reset();
@@ -190,8 +265,12 @@ void CommentViewController::deleteComment() {
     const QString ID = selected->CommentID;
     const QString patientID = selected->ID;
     if (!panel.AskToErase(qtTrId("DeleteTheComment"), qtTrId("DeleteComment"))) return;
-    if (store.getCurrentID() != patientID) return; // whose comment may have the same number
-    store.setSelectedComment(ID);                  // another may be selected since it was asked
+    if (store.getCurrentID() == patientID) erase(ID); // or another one's may have the same number
+}
+
+/// Another may be selected since it was asked.
+void CommentViewController::erase(const QString& commentID) {
+    store.setSelectedComment(commentID);
     auto kept = std::exchange(shown, std::nullopt);
     const StoreResult deleted = store.deleteSelectedCommentToXML();
     if (deleted) {

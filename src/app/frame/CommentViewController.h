@@ -28,10 +28,16 @@ public:
     bool setCommentScroll(const QString& commentID);
     /// Saves what was typed, if anything, and says nothing.
     [[nodiscard]] StoreResult save();
-    /// Saves what was typed. \return false if that failed; the user knows why, and the text is still there
+    /// Saves what was typed. \return false if that failed; the user knows why, and the text is still there.
+    /// Dates that cannot be are not
     bool checkToSaveComment();
     /// As checkToSaveComment(), and if that fails asks whether to stay. \return false if so
     [[nodiscard]] bool leave();
+    /// Before another comment takes its place: as checkToSaveComment(); one that was just added and stayed
+    /// empty is removed, if the user wants that.
+    bool finish();
+    /// The one that is shown was just added: the keyboard goes to its text.
+    void editNew();
     /// As save(). \return what could not be saved, for takeUp() at the next start
     [[nodiscard]] QJsonArray saveQuietly();
     /// Saves such a text; where that cannot be, tells why and puts it into the clipboard.
@@ -43,9 +49,21 @@ public:
     void updateDaetInfo(const CommentModel& comment); // spelled so in the interface
 
 signals:
-    void commentSelected(); ///< the store's selected comment is another one
+    void wanted(); ///< the user is to see the panel
+    /// The store's selected comment is another one, or was selected once more.
+    void commentSelected(bool byUser); ///< false: the panel chose it, as there was none
 
 private:
+    struct Typed {
+        CommentModel comment;
+        QString refusal; ///< of the dates, which are as before then; empty: none
+    };
+    [[nodiscard]] Typed typed() const;
+    void takeDay(const std::optional<QString>& text, bool begin, Typed& into) const;
+    [[nodiscard]] bool refuseDates();
+    void askAboutEmpty();
+    void erase(const QString& commentID);
+    [[nodiscard]] QString datePattern() const;
     void go(bool forward);
     void show(const CommentModel& comment);
     void showPosition();
@@ -57,6 +75,7 @@ private:
     DataStore& store;
     MessagePanel& panel;
     std::optional<CommentModel> shown; ///< as it was last read or saved
+    QString added;                     ///< the comment that was just added, by its number; null: none
     bool isLoading = false;
     CommentForm* form;
 };

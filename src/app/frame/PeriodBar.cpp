@@ -64,22 +64,20 @@ QBoxLayout* PeriodBar::makeChoices() {
         ViewSelection tag;
         QString name;
         QString text;
-        QString hint;
     };
-    const std::array table{
-        Choice{ViewSelection::viewAll, u"viewAll"_s, qtTrId("viewAll"), qtTrId("viewAllHint")},
-        Choice{ViewSelection::amOnly, u"amOnly"_s, qtTrId("viewAM"), qtTrId("viewAMHint")},
-        Choice{ViewSelection::pmOnly, u"pmOnly"_s, qtTrId("viewPM"), qtTrId("viewPMHint")}};
+    const std::array table{Choice{ViewSelection::viewAll, u"viewAll"_s, qtTrId("viewAll")},
+                           Choice{ViewSelection::amOnly, u"amOnly"_s, qtTrId("viewAM")},
+                           Choice{ViewSelection::pmOnly, u"pmOnly"_s, qtTrId("viewPM")}};
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
     for (const Choice& choice : table) {
         auto* button = new QRadioButton(choice.text, this);
         button->setObjectName(choice.name);
         button->setAccessibleName(QString(choice.text).remove(u'&'));
-        button->setToolTip(choice.hint);
         choices->addButton(button, static_cast<int>(choice.tag));
         row->addWidget(button);
     }
+    choices->button(static_cast<int>(ViewSelection::viewAll))->setToolTip(qtTrId("viewAllHint"));
     connect(choices, &QButtonGroup::idClicked, this,
             [this](int tag) { period.setSelectViewIndex(static_cast<ViewSelection>(tag)); });
     return row;
@@ -88,7 +86,6 @@ QBoxLayout* PeriodBar::makeChoices() {
 QBoxLayout* PeriodBar::makeOptions() {
     btnAverage->setObjectName(u"btnAverage"_s);
     btnAverage->setAccessibleName(btnAverage->text());
-    btnAverage->setToolTip(qtTrId("includeUndatedHint"));
     connect(btnAverage, &QCheckBox::clicked, &period, &DisplayPeriod::setIncludeNoDatetimeData);
     options = new QHBoxLayout;
     options->setSpacing(gap);
@@ -119,14 +116,25 @@ void PeriodBar::showPeriod() {
     for (QAbstractButton* choice : choices->buttons())
         choice->setChecked(choices->id(choice) == selected);
     choices->setExclusive(true);
-    for (const ViewSelection half : {ViewSelection::amOnly, ViewSelection::pmOnly})
-        choices->button(static_cast<int>(half))->setEnabled(selected >= 1);
-    btnAverage->setEnabled(selected >= 1);
     btnAverage->setChecked(period.getIncludeNoDatetimeData());
+    offerChoices(selected >= 1);
+}
+
+/// What is out of reach says why, and how to get there.
+void PeriodBar::offerChoices(bool isViewChosen) {
+    const QString instead = qtTrId("viewChoiceNeeded");
+    for (const auto& [part, hint] :
+         {std::pair<QAbstractButton*, QString>(choices->button(static_cast<int>(ViewSelection::amOnly)),
+                                               qtTrId("viewAMHint")),
+          {choices->button(static_cast<int>(ViewSelection::pmOnly)), qtTrId("viewPMHint")},
+          {btnAverage, qtTrId("includeUndatedHint")}}) {
+        part->setEnabled(isViewChosen);
+        part->setToolTip(isViewChosen ? hint : instead);
+    }
 }
 
 void PeriodBar::pick(const QString& refusal) {
-    if (period.pickTimePeriod(beginDay->day(), endDay->day())) return period.setIncludeNoDatetimeData(false);
+    if (period.pickTimePeriod(beginDay->day(), endDay->day())) return;
     showPeriod(); // before the message, which takes the focus from the field
     panel.ShowMessage(refusal, qtTrId("DateError"));
 }

@@ -36,6 +36,7 @@ private:
     QBoxLayout* makeChoices();
     QBoxLayout* makeOptions();
     void showPeriod();
+    void offerChoices(bool isViewChosen);
     void pick(const QString& refusal);
 
     const DataStore& store;

@@ -1,11 +1,13 @@
 #include "app/frame/ReadingFrame.h"
 
+#include "analysis/ReadingCount.h"
 #include "app/frame/CommentViewController.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/StatisticViewController.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QToolButton>
@@ -30,8 +32,18 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     column->addWidget(makeHead());
     column->addWidget(period);
     column->addLayout(body, 1);
+    connect(&needed.period, &DisplayPeriod::changed, this, &ReadingFrame::showHeading);
     connect(&needed.store, &DataStore::reloaded, this, &ReadingFrame::showHeading);
     connect(&needed.store, &DataStore::currentIDChanged, this, &ReadingFrame::showHeading);
+    connect(commentPanel, &CommentViewController::wanted, this, [this] { btnSide->setChecked(true); });
+    connect(
+        commentPanel, &CommentViewController::wanted, side,
+        [this] {
+            QWidget* focused = QApplication::focusWidget();
+            if (focused && commentPanel->isAncestorOf(focused))
+                static_cast<QScrollArea*>(side)->ensureWidgetVisible(focused);
+        },
+        Qt::QueuedConnection); // once the panels have been laid out
     showHeading();
 }
 
@@ -74,7 +86,17 @@ QWidget* ReadingFrame::makeSide() {
 }
 
 void ReadingFrame::showHeading() {
-    heading->setTexts(patientHeading(parts.store), readingSummary(parts.store));
+    const ReadingCount count =
+        countReadings(parts.store.getReadingForCurID(), parts.period.selection(), isListed);
+    QString detail = readingSummary(parts.store);
+    if (!describeLeftOut(count).isEmpty()) detail = qtTrId("readingsCounted").arg(detail, describe(count));
+    if (!note.isEmpty()) detail = qtTrId("readingsNoted").arg(detail, note);
+    heading->setTexts(patientHeading(parts.store), detail);
+}
+
+void ReadingFrame::setNote(const QString& sentence) {
+    note = sentence;
+    showHeading();
 }
 
 void ReadingFrame::LoadData() {

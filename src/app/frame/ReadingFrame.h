@@ -29,6 +29,8 @@ public:
     /// For a page that comes into view.
     void LoadData();
     void UpdateUIBySetting();
+    /// A further sentence of the heading, or none.
+    void setNote(const QString& sentence);
     [[nodiscard]] PeriodBar& periodBar() { return *period; }
     [[nodiscard]] CommentViewController& comments() { return *commentPanel; }
     [[nodiscard]] bool isDisplayingComment() const;
@@ -48,6 +50,7 @@ private:
     CommentViewController* commentPanel;
     QToolButton* btnSide;
     QWidget* side;
+    QString note;
     bool isNarrow = false;
 };
 

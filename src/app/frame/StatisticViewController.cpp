@@ -1,5 +1,6 @@
 #include "app/frame/StatisticViewController.h"
 
+#include "analysis/ReadingCount.h"
 #include "app/frame/StatisticView.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
@@ -17,11 +18,14 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
                                                  QWidget* parent)
     : SidePanel(u"statisticPanel"_s, qtTrId("statisticPanel"), parent), store(dataStore),
       period(displayPeriod), lblPatient(new QuietLabel({}, this)),
-      view(new StatisticView(dataStore, displayPeriod, this)),
+      view(new StatisticView(dataStore, displayPeriod, this)), lblCount(new QuietLabel({}, this)),
       btnViewAll(new QCheckBox(qtTrId("statisticAll"), this)) {
     lblPatient->setObjectName(u"lblStatisticPatient"_s);
     lblPatient->setTextFormat(Qt::PlainText);
     lblPatient->setWordWrap(true);
+    lblCount->setObjectName(u"lblStatisticCount"_s);
+    lblCount->setTextFormat(Qt::PlainText);
+    lblCount->setWordWrap(true);
     btnViewAll->setObjectName(u"btnViewAll"_s);
     btnViewAll->setAccessibleName(btnViewAll->text());
     btnViewAll->setToolTip(qtTrId("statisticAllHint"));
@@ -29,6 +33,8 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
     content->addWidget(lblPatient);
     content->addSpacing(8);
     content->addWidget(view);
+    content->addSpacing(6);
+    content->addWidget(lblCount);
     content->addSpacing(6);
     content->addWidget(btnViewAll);
     // Whether it was ticked or not: other days are picked with the pickers.
@@ -44,15 +50,29 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
 }
 
 void StatisticViewController::LoadData() {
-    lblPatient->setText(patientHeading(store));
+    lblPatient->setText(narrowPatientHeading(store));
+    lblPatient->setAccessibleName(patientHeading(store));
     setSelectViewUI();
     calcStattistic();
 }
 
-void StatisticViewController::calcStattistic() { view->calc(); }
+void StatisticViewController::calcStattistic() {
+    view->calc();
+    lblCount->setText(counted());
+    lblCount->setAccessibleName(lblCount->text());
+}
+
+/// The figures take all times of day also beside a list of only mornings or evenings.
+QString StatisticViewController::counted() const {
+    const ReadingSelection selection = period.selection();
+    const QString count = describe(countReadings(store.getReadingForCurID(), selection, isInStatistic));
+    const bool isHalfListed =
+        selection.view == ViewSelection::amOnly || selection.view == ViewSelection::pmOnly;
+    return isHalfListed ? qtTrId("statisticWholeDay").arg(count) : count;
+}
 
 void StatisticViewController::setSelectViewUI() {
-    btnViewAll->setChecked(static_cast<int>(period.getSelectViewIndex()) >= 1);
+    btnViewAll->setChecked(static_cast<int>(period.getSelectViewIndex()) >= 1 && period.isWholeDataPeriod());
 }
 
 void StatisticViewController::changeEvent(QEvent* event) {

@@ -24,12 +24,14 @@ protected:
 
 private:
     void setSelectViewUI();
+    [[nodiscard]] QString counted() const;
     void colourBox();
 
     const DataStore& store;
     DisplayPeriod& period;
     QLabel* lblPatient;
     StatisticView* view;
+    QLabel* lblCount;
     QCheckBox* btnViewAll;
 };
 

@@ -31,11 +31,24 @@ QString commentImage(int colourIndex, bool hovered) {
 }
 
 ChartComments::ChartComments(DataStore& dataStore, MessagePanel& messagePanel, QObject* parent)
-    : QObject(parent), store(dataStore), messages(messagePanel) {}
+    : QObject(parent), store(dataStore), messages(messagePanel) {
+    connect(&store, &DataStore::currentIDChanged, this, &ChartComments::forgetSelection);
+}
 
 void ChartComments::setPanel(CommentViewController& commentPanel) {
     panel = &commentPanel;
-    connect(panel, &CommentViewController::commentSelected, this, &ChartComments::selected);
+    connect(panel, &CommentViewController::commentSelected, this, &ChartComments::noteSelection);
+}
+
+void ChartComments::noteSelection(bool byUser) {
+    const CommentModel* comment = byUser ? store.getSelectedComment() : nullptr;
+    meant = comment ? comment->CommentID : QString();
+    how = SelectedBy::user;
+    emit selected();
+}
+
+SelectedBy ChartComments::selectedBy(const QString& CommentID) const {
+    return !meant.isNull() && meant == CommentID ? how : SelectedBy::itself;
 }
 
 const CommentModel* ChartComments::find(const QString& CommentID) const {
@@ -56,8 +69,11 @@ bool ChartComments::tell(const StoreResult& result) {
 }
 
 void ChartComments::create(CommentModel comment) {
+    if (!panel->finish()) return;
     const auto added = store.addCommentForCurID(std::move(comment));
-    if (tell(added.map([](const QString&) {}))) select(*added);
+    if (!tell(added.map([](const QString&) {})) || !select(*added)) return;
+    how = SelectedBy::creation;
+    panel->editNew();
 }
 
 bool ChartComments::save(const CommentModel& comment) {
@@ -84,8 +100,8 @@ void ChartComments::moveEdge(const QString& CommentID, bool right, int days) {
     const Period moved = right ? movedEnds(now, 0, days) : movedEnds(now, days, 0);
     if (moved.end < moved.begin) return;
     CommentModel changed = *comment;
-    changed.beginDate = moved.begin;
-    changed.endDate = moved.end;
+    changed.beginDate = right ? first : moved.begin; // the other one as it is, to the letter
+    changed.endDate = right ? moved.end : last;
     save(changed);
 }
 

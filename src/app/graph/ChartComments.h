@@ -8,6 +8,14 @@ namespace zel {
 
 class CommentViewController;
 
+/// How the selected comment came to be so: what is done to it without naming it is done to one only that the
+/// user meant.
+enum class SelectedBy {
+    itself,   ///< the page shows one always
+    creation, ///< the user has just added it
+    user      ///< by a click or a key since the page was opened
+};
+
 /// What the chart does with the current patient's comments: each change is written at once, and a failure is
 /// told to the user.
 class ChartComments final : public QObject {
@@ -19,6 +27,9 @@ public:
 
     [[nodiscard]] const CommentList& all() const { return store.getCommentForCurID(); }
     [[nodiscard]] const CommentModel* find(const QString& CommentID) const; ///< null: there is none
+    [[nodiscard]] SelectedBy selectedBy(const QString& CommentID) const;
+    /// The page is opened: what was selected so far was for something else.
+    void forgetSelection() { meant = QString(); }
     /// \return false if another comment's text, just typed, cannot be saved
     bool select(const QString& CommentID);
     /// Adds a comment that has no ID yet, and selects it.
@@ -38,11 +49,14 @@ signals:
     void selected(); ///< another comment is the selected one
 
 private:
+    void noteSelection(bool byUser);
     bool tell(const StoreResult& result);
 
     DataStore& store;
     MessagePanel& messages;
     CommentViewController* panel = nullptr;
+    QString meant; ///< the comment that the user selected or added; null: none
+    SelectedBy how = SelectedBy::itself;
 };
 
 /// Of a comment's colour: 0 to 3, as in the picker.

@@ -9,6 +9,8 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QLabel>
+#include <QMenu>
 #include <QPainter>
 
 namespace zel {
@@ -46,6 +48,9 @@ ChartTools::ChartTools(DrawGraphicVC& shownCharts, ChartComments& chartComments,
     policy.setRetainSizeWhenHidden(true); // the views below do not jump
     setSizePolicy(policy);
     const auto* minus = addButton(u"minusDay"_s, u"−"_s, qtTrId("minusDay"), qtTrId("minusDayHint"));
+    auto* days = new QLabel(qtTrId("daysButtons"), this);
+    days->setObjectName(u"lblDays"_s);
+    row->addWidget(days);
     const auto* plus = addButton(u"addDay"_s, u"+"_s, qtTrId("addDay"), qtTrId("addDayHint"));
     connect(minus, &QToolButton::clicked, &charts, &DrawGraphicVC::minusDay);
     connect(plus, &QToolButton::clicked, &charts, &DrawGraphicVC::addDay);
@@ -78,7 +83,7 @@ void ChartTools::addCommentTools() {
     colorSelButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(commentIcon, &CommentImageBtn::dropped, this,
             [this](QPoint global) { charts.getPulseView().createComment(global, colorIndex); });
-    connect(commentIcon, &CommentImageBtn::clicked, this, &ChartTools::addComment);
+    connect(commentIcon, &CommentImageBtn::clicked, this, [this] { addComment(charts.commentDay()); });
     connect(colorSelButton, &QToolButton::clicked, this, [this] {
         picker->open(colorSelButton->mapToGlobal(QPoint(0, colorSelButton->height())), colorIndex);
     });
@@ -97,7 +102,7 @@ QAction* ChartTools::addAction(const QString& name, const QString& text, const Q
 void ChartTools::addActions() {
     PulseView& pulse = charts.getPulseView();
     add = addAction(u"addComment"_s, qtTrId("addComment"), Qt::Key_Insert);
-    connect(add, &QAction::triggered, this, &ChartTools::addComment);
+    connect(add, &QAction::triggered, this, [this] { addComment(charts.commentDay()); });
     const auto choose = [&](const QString& name, const QString& text, const QKeySequence& keys,
                             bool forward) {
         connect(addAction(name, text, keys), &QAction::triggered, &pulse,
@@ -119,7 +124,7 @@ void ChartTools::addActions() {
     onSelected.push_back(addAction(u"removeComment"_s, qtTrId("deleteCommentButton"), QKeySequence::Delete));
     connect(onSelected.back(), &QAction::triggered, this,
             [this, &pulse] { comments.remove(pulse.selectedBox()); });
-    charts.setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(&charts, &DrawGraphicVC::menuWanted, this, &ChartTools::showMenu);
 }
 
 void ChartTools::addColourActions() {
@@ -132,12 +137,31 @@ void ChartTools::addColourActions() {
     }
 }
 
-void ChartTools::addComment() { charts.getPulseView().createCommentOn(charts.commentDay(), colorIndex); }
+void ChartTools::addComment(Instant day) { charts.getPulseView().createCommentOn(day, colorIndex); }
 
-/// The selected comment gets the colour, too.
+/// The charts' actions. The pointer leaves the chart for the menu, so that the day is kept for the new
+/// comment.
+void ChartTools::showMenu(QPoint global, Instant day) {
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"chartMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(charts.actions());
+    auto* addThere = new QAction(add->text(), menu);
+    addThere->setObjectName(u"addCommentThere"_s);
+    addThere->setEnabled(add->isEnabled());
+    addThere->setShortcut(add->shortcut());
+    addThere->setShortcutContext(Qt::WidgetShortcut); // only to be read
+    connect(addThere, &QAction::triggered, this, [this, day] { addComment(day); });
+    menu->insertAction(add, addThere);
+    menu->removeAction(add);
+    menu->popup(global);
+}
+
+/// The colour is for new comments, and for one that was selected for it.
 void ChartTools::recolour(int chosenIndex) {
     setColorSelButtonImg(chosenIndex);
-    comments.recolour(charts.getPulseView().selectedBox(), chosenIndex);
+    const QString CommentID = charts.getPulseView().selectedBox();
+    if (comments.selectedBy(CommentID) == SelectedBy::user) comments.recolour(CommentID, chosenIndex);
 }
 
 void ChartTools::setColorSelButtonImg(int chosenIndex) {
@@ -154,9 +178,9 @@ void ChartTools::showState() {
     commentIcon->setToolTip(valid ? qtTrId("addCommentHint") : qtTrId("addCommentTooLong"));
     commentIcon->setAccessibleDescription(commentIcon->toolTip());
     add->setEnabled(valid);
-    const bool isSelected = !charts.getPulseView().selectedBox().isNull();
+    const bool isMeant = comments.selectedBy(charts.getPulseView().selectedBox()) != SelectedBy::itself;
     for (QAction* action : onSelected)
-        action->setEnabled(isSelected);
+        action->setEnabled(isMeant);
 }
 
 } // namespace zel

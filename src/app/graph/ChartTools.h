@@ -32,7 +32,8 @@ private:
     void addActions();
     void addColourActions();
     QAction* addAction(const QString& name, const QString& text, const QKeySequence& keys);
-    void addComment();
+    void addComment(Instant day);
+    void showMenu(QPoint global, Instant day);
     void setColorSelButtonImg(int chosenIndex);
     void recolour(int chosenIndex);
     void showState();
@@ -45,7 +46,7 @@ private:
     QToolButton* colorSelButton;
     CommentColorView* picker;
     QAction* add = nullptr;
-    std::vector<QAction*> onSelected; ///< what needs a selected comment
+    std::vector<QAction*> onSelected; ///< what needs a comment that the user selected or added
     int colorIndex = 0;
 };
 

@@ -47,6 +47,14 @@ ChartScale ChartView::scale() const {
     return {area(), source.period, chartStyle.noBaseArea, chartStyle.iScaleBase};
 }
 
+std::optional<Instant> ChartView::timeAt(int x) const {
+    const ChartScale at = scale();
+    if (x < at.chartRect.x || x >= at.chartRect.right()) return {};
+    return at.time.XPosToDate(x);
+}
+
+std::optional<Instant> ChartView::pointedTime() const { return pointerX ? timeAt(*pointerX) : std::nullopt; }
+
 ChartInput ChartView::input(const Rect& rect) const {
     ChartStyle style = chartStyle;
     style.showDataType = source.view;
@@ -73,6 +81,7 @@ const ChartPoint* ChartView::pointAt(Point at) {
 }
 
 void ChartView::mouseMoveEvent(QMouseEvent* event) {
+    pointerX = event->position().toPoint().x();
     const ChartPoint* point = pointAt(toPicture(event->position().toPoint()));
     if (!point)
         emit hovered(nullptr, {});
@@ -80,7 +89,10 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
         emit hovered(point->reading, toView({point->x, point->y}));
 }
 
-void ChartView::leaveEvent(QEvent*) { emit hovered(nullptr, {}); }
+void ChartView::leaveEvent(QEvent*) {
+    pointerX.reset();
+    emit hovered(nullptr, {});
+}
 
 void ChartView::focusOutEvent(QFocusEvent* event) {
     PictureView::focusOutEvent(event);

@@ -27,6 +27,11 @@ public:
     [[nodiscard]] const ChartStyle& style() const { return chartStyle; }
     void setScaleBase(int number);
     [[nodiscard]] ChartScale scale() const;
+    /// What lies there, from the left of the view; none beside the plot.
+    [[nodiscard]] std::optional<Instant> timeAt(int x) const;
+    /// Where the pointer is, if it has moved since it came or since it was forgotten.
+    [[nodiscard]] std::optional<Instant> pointedTime() const;
+    void forgetPointer() { pointerX.reset(); } ///< something else is pointed at
 
     /// Marks a reading of the source; null for none.
     void setPointed(const ReadingModel* reading);
@@ -63,6 +68,7 @@ private:
     /// That can be pointed at, from left to right: made when the pointer first comes, not for every picture.
     std::optional<std::vector<ChartPoint>> points;
     const ReadingModel* pointed = nullptr;
+    std::optional<int> pointerX;
 };
 
 } // namespace zel

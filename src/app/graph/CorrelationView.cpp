@@ -21,8 +21,10 @@ void CorrelationView::reload() {
 
 Picture CorrelationView::makePicture(const Rect& rect) {
     const SettingModel& setting = store.getSetting();
-    return drawCorrelation(calcCorrelation(store.getReadingForCurID(), period.selection()),
-                           setting.sysStandard, setting.diaStandard, rect);
+    const ReadingList& readings = store.getReadingForCurID();
+    return drawCorrelation(calcCorrelation(readings, period.selection()),
+                           correlationOffScale(readings, period.selection()), setting.sysStandard,
+                           setting.diaStandard, rect);
 }
 
 /// How many readings lie in each of the four zones.
@@ -31,18 +33,22 @@ QString CorrelationView::words() const {
     int total = 0, sysHigh = 0, diaHigh = 0, bothHigh = 0;
     for (const ReadingModel& reading : store.getReadingForCurID()) {
         if (!isCounted(reading, period.selection())) continue;
-        const bool sys = reading.sys > setting.sysStandard, dia = reading.dia > setting.diaStandard;
+        const bool sys = setting.sysStandard > 0 && reading.sys > setting.sysStandard;
+        const bool dia = setting.diaStandard > 0 && reading.dia > setting.diaStandard;
         ++total;
         sysHigh += static_cast<int>(sys && !dia);
         diaHigh += static_cast<int>(dia && !sys);
         bothHigh += static_cast<int>(sys && dia);
     }
     const auto line = [](const QString& zone, int count) { return qtTrId("infoLine").arg(zone).arg(count); };
-    return QStringList{qtTrId("readingCount", total),
-                       line(qtTrId("normal"), total - sysHigh - diaHigh - bothHigh),
-                       line(qtTrId("sys too high"), sysHigh), line(qtTrId("dia too high"), diaHigh),
-                       line(qtTrId("sys and dia too high"), bothHigh)}
-        .join(u'\n');
+    QStringList lines{qtTrId("readingCount", total)};
+    if (setting.sysStandard > 0 || setting.diaStandard > 0)
+        lines << line(qtTrId("normal"), total - sysHigh - diaHigh - bothHigh)
+              << line(qtTrId("sys too high"), sysHigh) << line(qtTrId("dia too high"), diaHigh)
+              << line(qtTrId("sys and dia too high"), bothHigh);
+    lines << offScaleText(correlationOffScale(store.getReadingForCurID(), period.selection()));
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 } // namespace zel

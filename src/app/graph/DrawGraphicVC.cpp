@@ -147,8 +147,18 @@ void DrawGraphicVC::setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const {
 }
 
 Instant DrawGraphicVC::commentDay() const {
+    auto time = bloodView->pointedTime();
+    if (!time) time = pulseView->pointedTime();
+    if (time) return *time;
     const ReadingModel* reading = pointed->reading();
     return reading ? reading->ReadingDate.value_or(source.period.begin) : source.period.begin;
+}
+
+void DrawGraphicVC::contextMenuEvent(QContextMenuEvent* event) {
+    std::optional<Instant> there;
+    if (event->reason() == QContextMenuEvent::Mouse)
+        there = pulseView->timeAt(pulseView->mapFromGlobal(event->globalPos()).x());
+    emit menuWanted(event->globalPos(), there.value_or(commentDay()));
 }
 
 /// A day, and more of them where a day can hardly be seen.
@@ -211,6 +221,8 @@ void DrawGraphicVC::hideEvent(QHideEvent* event) {
 void DrawGraphicVC::walk(bool forward) {
     const ReadingModel* found = pointed->next(forward);
     if (!found) return;
+    bloodView->forgetPointer();
+    pulseView->forgetPointer();
     setTimePeriod(movedTo(source.period, *found->ReadingDate));
     pointed->walkTo(pulseView->hasFocus() ? static_cast<ChartView&>(*pulseView) : *bloodView, *found);
 }

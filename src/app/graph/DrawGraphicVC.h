@@ -26,10 +26,16 @@ public:
     /// The styles of the charts on the screen, for a pair that is to look like them.
     void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
     [[nodiscard]] PulseView& getPulseView() { return *pulseView; }
-    /// The day that a comment is for that is made without pointing at a place.
+    /// The day that a comment is for that is made by a key: that under the pointer or of the reading that the
+    /// keys have come to, whichever was later; else the first of the period.
     [[nodiscard]] Instant commentDay() const;
 
+signals:
+    /// The context menu, for a time of the day where the pointer asked for it, or of the commentDay().
+    void menuWanted(QPoint global, Instant day);
+
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -114,6 +114,7 @@ void GraphViewController::switchToGraph() {
 
 void GraphViewController::LoadData() {
     frame->LoadData();
+    comments->forgetSelection();
     charts->reload();
     reload();
 }

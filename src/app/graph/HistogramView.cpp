@@ -1,7 +1,5 @@
 #include "app/graph/HistogramView.h"
 
-#include "chart/DrawHistogram.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -34,11 +32,12 @@ HistogramView::HistogramView(const DataStore& dataStore, const DisplayPeriod& di
 
 void HistogramView::reload() {
     figures = calcHistogram(store.getReadingForCurID(), period.selection(), figures);
+    offScale = histogramOffScale(store.getReadingForCurID(), period.selection());
     setAccessibleDescription(words());
     invalidate();
 }
 
-Picture HistogramView::makePicture(const Rect& rect) { return drawHistogram(figures, rect); }
+Picture HistogramView::makePicture(const Rect& rect) { return drawHistogram(figures, offScale, rect); }
 
 QString HistogramView::words() const {
     QStringList lines{qtTrId("readingCount", static_cast<int>(figures.total))};
@@ -46,6 +45,11 @@ QString HistogramView::words() const {
         lines << mostFrequent(qtTrId("spokenSys"), figures.sys)
               << mostFrequent(qtTrId("spokenDia"), figures.dia)
               << mostFrequent(qtTrId("spokenPulse"), figures.pulse);
+    const std::array names{qtTrId("spokenSys"), qtTrId("spokenDia"), qtTrId("spokenPulse")};
+    for (std::size_t panel = 0; panel < names.size(); ++panel) {
+        const QString beyond = offScaleText(offScale[panel]);
+        if (!beyond.isEmpty()) lines << qtTrId("infoLine").arg(names[panel], beyond);
+    }
     return lines.join(u'\n');
 }
 

@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "analysis/Histogram.h"
 #include "app/widgets/PictureView.h"
+#include "chart/DrawHistogram.h"
 #include "store/DataStore.h"
 
 namespace zel {
@@ -23,6 +24,7 @@ private:
     const DataStore& store;
     const DisplayPeriod& period;
     HistogramFigures figures; ///< their percent axes stay where no reading counts
+    HistogramOffScale offScale{};
 };
 
 } // namespace zel

@@ -24,6 +24,10 @@ QString asToolTip(const QString& text) {
     return u"<p style='white-space: pre-wrap'>%1</p>"_s.arg(text.toHtmlEscaped());
 }
 
+Date unlessSameDay(Instant moved, Instant stored) {
+    return DateToDayBoundary(moved, true) == DateToDayBoundary(stored, true) ? stored : moved;
+}
+
 bool isSame(const TimeScale& a, const TimeScale& b) {
     return a.begin == b.begin && a.end == b.end && a.left == b.left && a.width == b.width;
 }
@@ -77,8 +81,11 @@ void PulseView::selectNextBox(bool forward) {
     const auto total = static_cast<std::ptrdiff_t>(boxes.size());
     const auto at = std::ranges::find(boxes, selectedBox(), &CommentBox::CommentID) - boxes.begin();
     std::ptrdiff_t next = forward ? at + 1 : at - 1;
-    if (at == total) next = forward ? 0 : total - 1; // none is selected
-    if (next < 0 || next >= total) return;
+    if (at == total)
+        next = forward ? 0 : total - 1; // none is selected
+    else if (comments.selectedBy(selectedBox()) == SelectedBy::itself)
+        next = at;
+    next = std::clamp<std::ptrdiff_t>(next, 0, total - 1);
     comments.select(QString(boxes[static_cast<std::size_t>(next)].CommentID)); // the boxes are made anew
 }
 
@@ -126,10 +133,12 @@ void PulseView::mousePressEvent(QMouseEvent* event) {
     if (const CommentShape box = drawManager.objectUnderMousePoint(at)) toggle(box);
 }
 
-/// A click on the selected box deselects it on the chart; the panel beside goes on showing its comment.
+/// A click on the box that the user selected deselects it on the chart; the panel beside goes on showing its
+/// comment.
 void PulseView::toggle(const CommentShape& shape) {
     const QString CommentID = shape->CommentID;
-    const bool wasSelected = drawManager.isSelected(shape);
+    const bool wasSelected =
+        drawManager.isSelected(shape) && comments.selectedBy(CommentID) == SelectedBy::user;
     deselected = wasSelected ? CommentID : QString();
     if (!wasSelected) comments.select(CommentID);
     createComments();
@@ -156,6 +165,8 @@ void PulseView::mouseMoveEvent(QMouseEvent* event) {
         showHandleCursor(at);
         return ChartView::mouseMoveEvent(event);
     }
+    // A message has taken the release away.
+    if (!event->buttons().testFlag(Qt::LeftButton)) return cancelDragging();
     drag->shape->mouseDragged(inPlot(at));
     const Rect drawn = drag->shape->drawBounds();
     qCDebug(lcApp, "mouseDragged %g %g %g %g", drawn.x, drawn.y, drawn.width, drawn.height);
@@ -167,15 +178,16 @@ void PulseView::mouseReleaseEvent(QMouseEvent* event) {
     if (drag && event->button() == Qt::LeftButton) EndDragging();
 }
 
-/// The edge that was not dragged keeps its date where that lies out of sight.
+/// The edge that was not dragged keeps its date to the letter, unless it was passed and is the other end now.
 CommentModel PulseView::draggedComment(const CommentModel& comment, const GFXRoundRect& shape) const {
-    Period dates = draggedDates(shape.bounds(), shape.dragRightHandle(), scale().time);
+    const Period dates = draggedDates(shape.bounds(), shape.dragRightHandle(), scale().time);
     const auto [first, last] = std::minmax(*comment.beginDate, *comment.endDate);
-    if (shape.dragRightHandle() && first < shown().period.begin) dates.begin = DateToDayBoundary(first, true);
-    if (!shape.dragRightHandle() && last > shown().period.end) dates.end = DateToDayBoundary(last, false);
     CommentModel changed = comment;
-    changed.beginDate = dates.begin;
-    changed.endDate = dates.end;
+    changed.beginDate = unlessSameDay(dates.begin, first);
+    changed.endDate = unlessSameDay(dates.end, last);
+    const bool right = shape.dragRightHandle(), isInOrder = shape.bounds().width >= 0;
+    if (right && (isInOrder || shape.isCutLeft)) changed.beginDate = first;
+    if (!right && (isInOrder || shape.isCutRight)) changed.endDate = last;
     return changed;
 }
 
@@ -189,7 +201,7 @@ void PulseView::EndDragging() {
     // Its text may be newer in the store; a comment that is no longer there is added again.
     const CommentModel* stored = comments.find(ended.comment.CommentID);
     const CommentModel changed = draggedComment(stored ? *stored : ended.comment, *ended.shape);
-    if (!comments.save(changed)) comments.showDates(ended.comment);
+    if (changed.isSame(ended.comment) || !comments.save(changed)) comments.showDates(ended.comment);
     createComments();
 }
 

@@ -154,7 +154,11 @@ void PatientViewController::goTo(const QString& ID) {
 bool PatientViewController::leave() {
     const QString ID = store.getCurrentID();
     if (!isThere(ID)) return true;
-    if (editor->isChanged() && isSaveWanted()) return btnSavePatient();
+    if (editor->isChanged()) {
+        const SaveAnswer answer = askToSave(qtTrId("confirmSendSave"));
+        if (answer == SaveAnswer::save) return btnSavePatient();
+        if (answer == SaveAnswer::cancel) return false;
+    }
     // What was typed for a new patient can be gone on with.
     if (isNewOne(ID))
         newPatient = {editor->shownForm(), editor->entry()};
@@ -163,6 +167,12 @@ bool PatientViewController::leave() {
     else
         editor->showPatient(formOf(ID));
     return true;
+}
+
+bool PatientViewController::readyToPrint() {
+    if (!isThere(store.getCurrentID()) || !editor->isChanged()) return true;
+    const SaveAnswer answer = askToSave(qtTrId("confirmPrintSave"));
+    return answer == SaveAnswer::save ? btnSavePatient() : answer == SaveAnswer::discard;
 }
 
 /// What was typed over a patient who is gone is not wanted any more either.
@@ -184,7 +194,8 @@ bool PatientViewController::isSavedQuietly(const PatientForm& form, const Patien
     const PatientModel record = form.record(entry);
     const auto others = std::ranges::count(store.getPatientArray(), record.ID, &PatientModel::ID);
     if (others != (form.isNew() ? 0 : 1) || !form.problems(entry, today()).empty()) return false;
-    return (form.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record)).has_value();
+    return (form.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record, form.patient()))
+        .has_value();
 }
 
 QJsonArray PatientViewController::saveQuietly() {
@@ -216,6 +227,7 @@ bool PatientViewController::takeUp(const QJsonObject& draft) {
     roster->showAll();
     roster->reload(true);
     open(u"-"_s);
+    editor->showPatient(newPatient->form, newPatient->entry); // not the blank one of an empty roster
     return true;
 }
 
@@ -223,14 +235,22 @@ Instant PatientViewController::today() const {
     return std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
 }
 
-bool PatientViewController::isSaveWanted() {
+SaveAnswer PatientViewController::askToSave(const QString& question) {
     const QString name = shortName(editor->shownForm().record(editor->entry()));
-    return parts.panel.AskBeforeLosing(qtTrId("confirmSendSave").arg(name), qtTrId("SavePatient"));
+    return parts.panel.AskToSave(question.arg(name), qtTrId("SavePatient"));
+}
+
+/// Nobody types a whole patient for a file that takes none. It may have been mended since it was read.
+bool PatientViewController::canBeStored() {
+    const StoreResult read = store.lastLoad() ? StoreResult{} : store.loadXML();
+    if (read) return store.checkXmlWritable(parts.panel);
+    parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+    return false;
 }
 
 void PatientViewController::btnNewPatient() {
     if (newPatient) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
-    if (!leave()) return;
+    if (!canBeStored() || !leave()) return;
     const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
     newPatient = {blank, blank.entryOf()};
     roster->showAll();
@@ -248,7 +268,9 @@ bool PatientViewController::btnSavePatient() {
         return false;
     }
     const PatientModel record = editor->shownForm().record(editor->entry());
-    return writer.write(record, editor->shownForm()) && saved(record);
+    const bool isMissing = editor->shownForm().isNew() || isGone(record.ID);
+    return (isMissing ? writer.add(record) : writer.write(record, editor->shownForm().patient()))
+           && saved(record);
 }
 
 std::vector<PatientProblem> PatientViewController::problems() const {

@@ -39,6 +39,7 @@ public:
     [[nodiscard]] bool leave() override;
     /// As leave(), for the new patient that was left unsaved as well: nothing typed may be lost after this.
     [[nodiscard]] bool settle();
+    [[nodiscard]] bool readyToPrint() override;
     [[nodiscard]] QJsonArray saveQuietly() override;
     /// Shows it in the editor, to be completed and saved.
     [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
@@ -78,7 +79,8 @@ private:
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
     [[nodiscard]] std::vector<PatientProblem> problems() const;
-    [[nodiscard]] bool isSaveWanted();
+    [[nodiscard]] bool canBeStored();
+    [[nodiscard]] SaveAnswer askToSave(const QString& question);
     [[nodiscard]] bool saved(const PatientModel& record);
     void dropNewPatient(const QString& next);
 

@@ -32,9 +32,14 @@ void PatientWriter::refuse(const std::vector<PatientProblem>& found) {
     panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
 }
 
-bool PatientWriter::write(const PatientModel& record, const PatientForm& shown) {
-    return tell(shown.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record, shown.patient()));
+bool PatientWriter::write(const PatientModel& record, const PatientModel& shown) {
+    const StoreResult written = store.saveXMLPatient(record, shown);
+    const bool isGone = !written && written.error().code == StoreErrorCode::noSuchRecord;
+    if (isGone && store.getCurrentID() == record.ID) return false; // the page has told what can be done
+    return tell(written);
 }
+
+bool PatientWriter::add(const PatientModel& record) { return tell(store.addXMLPatient(record)); }
 
 bool PatientWriter::remove(const PatientModel& patient) {
     const QString question =

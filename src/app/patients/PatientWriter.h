@@ -15,9 +15,10 @@ public:
     [[nodiscard]] bool isUnique(const QString& ID);
     /// Says why an entry is not written. \p found: at least one problem
     void refuse(const std::vector<PatientProblem>& found);
-    /// Writes what \p record has other than the patient that the form shows, or all of a new one.
-    /// \return false if it could not be written
-    [[nodiscard]] bool write(const PatientModel& record, const PatientForm& shown);
+    /// Writes what \p record has other than \p shown. \return false if it could not be written
+    [[nodiscard]] bool write(const PatientModel& record, const PatientModel& shown);
+    /// Writes all of one who is not in the file. \return false if it could not be written
+    [[nodiscard]] bool add(const PatientModel& record);
     /// Takes the patient out after a question. \return false if the patient is still there
     [[nodiscard]] bool remove(const PatientModel& patient);
     /// Reads the file anew after a write, with that patient as the current one.

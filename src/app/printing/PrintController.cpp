@@ -40,6 +40,16 @@ QString describe(PrintResult result, const QString& printer) {
     return {};
 }
 
+/// What a section without a page lacks, and what to do about it.
+void showMissing(PrintForm& form, const ReportSource& report, std::optional<Section> section) {
+    if (section == Section::comment)
+        form.showMissing(qtTrId("noCommentPage"), qtTrId("noCommentPageAdvice"));
+    else if (report.readings.empty())
+        form.showMissing(qtTrId("NoData"), qtTrId("NoDataAdvice"));
+    else
+        form.showMissing(qtTrId("noneInPeriod"), qtTrId("nonePrintedAdvice"));
+}
+
 } // namespace
 
 std::vector<Section> printOptions(int tab) {
@@ -98,11 +108,10 @@ void PrintController::showPrintPreview(int tab, const ScreenViews& shown, PrintP
     const bool forPrinter = purpose == PrintPurpose::printer;
     setWindowTitle(forPrinter ? qtTrId("print") : qtTrId("savePdf"));
     setAccessibleName(windowTitle());
-    form->makeDefault(forPrinter);
     form->showPrinter(getPrinter());
     setPrintOption();
     open();
-    form->begin();
+    form->begin(forPrinter && !getPrinter().isEmpty());
 }
 
 void PrintController::setPrintOption() {
@@ -128,11 +137,12 @@ void PrintController::comboBoxSelectionDidChange() {
 void PrintController::showSelection() {
     iTotalPages = view ? view->getTotalPages(getPrintOption()) : 0;
     currentPage = 1;
-    form->showNote(iTotalPages > 0 ? QString() : qtTrId("previewNoPage"));
+    form->showNote(getPrinter().isEmpty() ? qtTrId("noPrinterNote") : QString());
     showPreview();
 }
 
 void PrintController::showPreview() {
+    if (view && iTotalPages == 0) return showMissing(*form, view->report(), getPrintOption());
     form->showPage(view ? &*view : nullptr, getPrintOption(), currentPage, iTotalPages);
 }
 
@@ -207,9 +217,7 @@ void PrintController::printAndClose() {
 
 void PrintController::savePdf() {
     const std::optional<Section> section = getPrintOption();
-    if (!section || iTotalPages == 0)
-        return parts.panel.ShowMessage(describe(ReportError{ReportErrorCode::noData, {}, {}}),
-                                       qtTrId("Warning"));
+    if (!section) return;
     const QString name =
         exportFileName(parts.store.getCurrentID(), u'-' + QLatin1StringView(facts(*section).key) + ".pdf"_L1);
     const QString path = parts.chooser.choosePdf(this, qtTrId("savePdf"), name);
@@ -225,7 +233,7 @@ void PrintController::savePdf() {
     const auto written = write();
     if (!written) return parts.panel.ShowMessage(written.error(), qtTrId("Warning"));
     const QString done = qtTrId("savedPdf").arg(QDir::toNativeSeparators(path));
-    form->showNote(done);
+    form->showSaved(done);
     emit said(done);
 }
 

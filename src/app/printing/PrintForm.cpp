@@ -1,6 +1,7 @@
 #include "app/printing/PrintForm.h"
 
 #include "app/printing/PrintPreview.h"
+#include "app/widgets/EmptyState.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QToolButton>
 
 namespace zel {
@@ -34,14 +36,17 @@ void say(QLabel& label, const QString& text) {
 PrintForm::PrintForm(QWidget* parent)
     : QWidget(parent), printOption(new QComboBox(this)),
       printAddAddress(new QCheckBox(qtTrId("printDetails"), this)), pageText(plainLabel(u"pageText"_s, this)),
-      previewView(new PrintPreview(this)), lblNote(plainLabel(u"lblNote"_s, this)),
+      previewView(new PrintPreview(this)),
+      noPage(new EmptyState(u"noPage"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
+      pageOrMissing(new QStackedWidget(this)), lblNote(plainLabel(u"lblNote"_s, this)),
       lblPrinter(plainLabel(u"lblPrinter"_s, this)),
       previousButton(
           addPager(u"gotoPreviousPage"_s, qtTrId("previousPage"), qtTrId("previousHint"), Qt::LeftArrow)),
       nextButton(addPager(u"gotoNextPage"_s, qtTrId("nextPage"), qtTrId("nextHint"), Qt::RightArrow)),
       printerButton(addButton(u"printerSelection"_s, qtTrId("printerButton"), qtTrId("choosePrinter"))),
       savePdfButton(addButton(u"savePdf"_s, qtTrId("savePdfButton"), qtTrId("savePdf"))),
-      printButton(addButton(u"printAndClose"_s, qtTrId("printButton"), qtTrId("print"))) {
+      printButton(addButton(u"printAndClose"_s, qtTrId("printButton"), qtTrId("print"))),
+      cancelButton(addButton(u"cancelPrint"_s, qtTrId("cancel"), qtTrId("cancelPrint"))) {
     build();
     wire();
 }
@@ -71,8 +76,11 @@ void PrintForm::build() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    noPage->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
+    pageOrMissing->addWidget(previewView);
+    pageOrMissing->addWidget(noPage);
     column->addWidget(makeOptionRow());
-    column->addWidget(previewView, 1);
+    column->addWidget(pageOrMissing, 1);
     column->addWidget(makeButtonRow());
 }
 
@@ -84,6 +92,7 @@ void PrintForm::wire() {
     connect(printerButton, &QPushButton::clicked, this, &PrintForm::printerWanted);
     connect(savePdfButton, &QPushButton::clicked, this, &PrintForm::pdfWanted);
     connect(printButton, &QPushButton::clicked, this, &PrintForm::printWanted);
+    connect(cancelButton, &QPushButton::clicked, this, &PrintForm::cancelWanted);
 }
 
 QWidget* PrintForm::makeOptionRow() {
@@ -113,10 +122,8 @@ QWidget* PrintForm::makeOptionRow() {
 
 QWidget* PrintForm::makeButtonRow() {
     auto* bar = new QWidget(this);
-    lblNote->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblNote->setWordWrap(true);
     lblPrinter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    QPushButton* cancel = addButton(u"cancelPrint"_s, qtTrId("cancel"), qtTrId("cancelPrint"));
-    connect(cancel, &QPushButton::clicked, this, &PrintForm::cancelWanted);
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(lblPrinter, 1);
@@ -124,7 +131,7 @@ QWidget* PrintForm::makeButtonRow() {
     row->addSpacing(8);
     row->addWidget(savePdfButton);
     row->addWidget(printButton);
-    row->addWidget(cancel);
+    row->addWidget(cancelButton);
     auto* column = new QVBoxLayout(bar);
     column->setContentsMargins(12, 4, 12, 8);
     column->setSpacing(4);
@@ -138,9 +145,12 @@ void PrintForm::fitPage(const QSize& room) {
     previewView->setMinimumSize(least.boundedTo(room - (sizeHint() - least)));
 }
 
-void PrintForm::makeDefault(bool printing) { (printing ? printButton : savePdfButton)->setDefault(true); }
-
-void PrintForm::begin() { printOption->setFocus(); }
+void PrintForm::begin(bool printing) {
+    (printing ? printButton : savePdfButton)->setDefault(true);
+    cancelButton->setText(qtTrId("cancel"));
+    cancelButton->setAccessibleName(qtTrId("cancelPrint"));
+    printOption->setFocus();
+}
 
 void PrintForm::offer(const QStringList& sections, int first) {
     const QSignalBlocker filling(printOption);
@@ -156,22 +166,52 @@ QString PrintForm::selectedText() const { return printOption->currentText(); }
 bool PrintForm::needsPhysicianInfo() const { return printAddAddress->isChecked(); }
 
 void PrintForm::showPage(const PrintView* view, std::optional<Section> section, int page, int total) {
-    pageText->setText(qtTrId("pageText").arg(page).arg(total));
+    count(qtTrId("pageText").arg(page).arg(total));
     pageText->setAccessibleName(qtTrId("reportPage").arg(page).arg(total));
     previewView->setAccessibleDescription(selectedText() + ", "_L1 + pageText->accessibleName());
     previousButton->setEnabled(page > 1);
     nextButton->setEnabled(page < total);
     previewView->gotoPreviewPage(view, section, page);
+    pageOrMissing->setCurrentWidget(previewView);
+    hasPage = true;
+    enableButtons();
+}
+
+void PrintForm::showMissing(const QString& what, const QString& advice) {
+    count(qtTrId("noPage"));
+    previousButton->setEnabled(false);
+    nextButton->setEnabled(false);
+    forgetPage();
+    noPage->setTexts(what, advice);
+    pageOrMissing->setCurrentWidget(noPage);
+    hasPage = false;
+    enableButtons();
+}
+
+void PrintForm::count(const QString& pages) {
+    pageText->setText(pages);
+    pageText->setAccessibleName(pages);
+}
+
+void PrintForm::enableButtons() {
+    savePdfButton->setEnabled(hasPage);
+    printButton->setEnabled(hasPage && hasPrinter);
 }
 
 void PrintForm::forgetPage() { previewView->gotoPreviewPage(nullptr, {}, 1); }
 
 void PrintForm::showNote(const QString& text) { say(*lblNote, text); }
 
+void PrintForm::showSaved(const QString& text) {
+    showNote(text);
+    cancelButton->setText(qtTrId("closeWindow"));
+    cancelButton->setAccessibleName(qtTrId("closeWindow"));
+}
+
 void PrintForm::showPrinter(const QString& name) {
-    say(*lblPrinter, name.isEmpty() ? qtTrId("NoPrnter") : qtTrId("printerShown").arg(name));
-    printerButton->setEnabled(!name.isEmpty());
-    printButton->setEnabled(!name.isEmpty());
+    hasPrinter = !name.isEmpty();
+    say(*lblPrinter, hasPrinter ? qtTrId("printerShown").arg(name) : qtTrId("NoPrnter"));
+    enableButtons();
 }
 
 } // namespace zel

@@ -8,10 +8,12 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
+class QStackedWidget;
 class QToolButton;
 
 namespace zel {
 
+class EmptyState;
 class PrintPreview;
 
 /// The controls of the print window and what they show, and nothing of what is done with them.
@@ -22,10 +24,8 @@ public:
 
     /// The page keeps its size where \p room is enough for it and all around it.
     void fitPage(const QSize& room);
-    /// Has Enter print, or else save the file.
-    void makeDefault(bool printing);
-    /// Has the first control take the keys.
-    void begin();
+    /// Has Enter print, or else save the file, and the first control take the keys. Nothing is saved yet.
+    void begin(bool printing);
 
     /// Fills the list of sections and selects that of index \p first, if there is one; chosen() stays silent.
     void offer(const QStringList& sections, int first);
@@ -36,9 +36,13 @@ public:
     /// Shows page \p page of \p total, with where it stands among them. \p view must outlive its being shown;
     /// null for none.
     void showPage(const PrintView* view, std::optional<Section> section, int page, int total);
+    /// Shows what is missing in the place of a page: there is none to be turned, printed or saved.
+    void showMissing(const QString& what, const QString& advice);
     /// The view shown is about to go.
     void forgetPage();
     void showNote(const QString& text);
+    /// There is nothing left to be cancelled.
+    void showSaved(const QString& text);
     /// Empty: there is none, and so no printing.
     void showPrinter(const QString& name);
 
@@ -57,6 +61,8 @@ private:
     void wire();
     QWidget* makeOptionRow();
     QWidget* makeButtonRow();
+    void count(const QString& pages);
+    void enableButtons();
     QToolButton* addPager(const QString& name, const QString& text, const QString& hint, Qt::ArrowType arrow);
     QPushButton* addButton(const QString& name, const QString& text, const QString& title);
 
@@ -64,6 +70,8 @@ private:
     QCheckBox* printAddAddress;
     QLabel* pageText;
     PrintPreview* previewView;
+    EmptyState* noPage;
+    QStackedWidget* pageOrMissing;
     QLabel* lblNote;
     QLabel* lblPrinter;
     QToolButton* previousButton;
@@ -71,6 +79,8 @@ private:
     QPushButton* printerButton;
     QPushButton* savePdfButton;
     QPushButton* printButton;
+    QPushButton* cancelButton;
+    bool hasPage = false, hasPrinter = false;
 };
 
 } // namespace zel

@@ -10,7 +10,7 @@ enum class PrintResult {
     printed,   ///< the print system has taken the job
     noData,    ///< the section has no page
     noPrinter, ///< the printer is not known, or no longer
-    failed,    ///< the print system did not take the job
+    failed,    ///< the print system did not take the job, and there is none
 };
 
 /// What can be printed on. The window asks the system, tests script it.
@@ -26,6 +26,9 @@ public:
     [[nodiscard]] virtual PrintResult print(const QString& printer, const PrintView& view,
                                             Section section) = 0;
 };
+
+/// A4 or Letter, as is usual where people live whose locale is called so, such as "es_MX.UTF-8".
+[[nodiscard]] QPageSize usualPaper(const QString& locale);
 
 /// The printers of the system.
 class SystemPrinters final : public Printers {

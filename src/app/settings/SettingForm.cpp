@@ -23,6 +23,15 @@ namespace {
 
 constexpr int whoSystolic = 140, whoDiastolic = 90; ///< mmHg, at or above which WHO speaks of hypertension
 
+/// Six lines, and as high as its neighbour.
+class AddressEdit final : public QPlainTextEdit {
+public:
+    AddressEdit() { setMinimumHeight(fontMetrics().lineSpacing() * 6 + 12); }
+    [[nodiscard]] QSize sizeHint() const override {
+        return {QPlainTextEdit::sizeHint().width(), minimumHeight()};
+    }
+};
+
 /// The entries are the file's own texts. A setting that is none of them leaves the list at the entry that it
 /// counts as, so that OK does not change what the pages show.
 void fillList(QComboBox& list, const QStringList& entries, int whenUnknown, const QString& setting) {
@@ -77,7 +86,7 @@ SettingForm::SettingForm(QWidget* parent)
           named(new QCheckBox(qtTrId("settingWHOButton")), u"useWHOStandard"_s, qtTrId("settingWHO"))),
       sys(named(new QLineEdit, u"sys"_s, qtTrId("settingSys"))),
       dia(named(new QLineEdit, u"dia"_s, qtTrId("settingDia"))), lblLimitProblem(new QLabel),
-      physisian(named(new QPlainTextEdit, u"physisian"_s, qtTrId("settingPhysician"))),
+      physisian(named<QPlainTextEdit>(new AddressEdit, u"physisian"_s, qtTrId("settingPhysician"))),
       numberFormater(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,3}"_s), this)) {
     build();
     // Only what the user does counts: filling the controls must not change one by way of another.
@@ -158,8 +167,6 @@ QGroupBox* SettingForm::makePhysicianGroup() {
     auto* use = new QuietLabel(qtTrId("settingPhysicianUse"), group);
     use->setWordWrap(true);
     physisian->setTabChangesFocus(true);
-    physisian->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // as high as its neighbour
-    physisian->setMinimumHeight(physisian->fontMetrics().lineSpacing() * 6 + 12);
     column->addWidget(use);
     column->addWidget(physisian, 1);
     return group;

@@ -1,10 +1,12 @@
 #include "app/shell/AppController.h"
 
 #include "app/device/ProgressWindowController.h"
+#include "app/frame/PeriodFollower.h"
 #include "app/graph/GraphViewController.h"
 #include "app/patients/PatientViewController.h"
 #include "app/printing/PrintController.h"
 #include "app/settings/SettingController.h"
+#include "app/shell/HelpWindow.h"
 #include "app/shell/SplashWindow.h"
 #include "app/shell/UnsavedFile.h"
 #include "app/shell/WindowPlacement.h"
@@ -12,6 +14,8 @@
 #include "app/widgets/Log.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QScreen>
 #include <QShortcut>
 #include <QStandardPaths>
 
@@ -37,11 +41,10 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::printWanted, this, &AppController::showPrint);
     connect(&window, &MainWindow::pdfWanted, this, &AppController::showSavePdf);
     connect(&window, &MainWindow::helpWanted, this, &AppController::showHelp);
+    connect(&window, &MainWindow::aboutWanted, this, &AppController::showAbout);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
-    connect(&parts.store, &DataStore::currentIDChanged, this, &AppController::changeUser);
-    connect(&parts.store, &DataStore::reloaded, this,
-            [this] { parts.period.refreshDataPeriod(parts.store.getReadingForCurID()); });
+    follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
@@ -65,7 +68,7 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
     patientPage->UpdateUIBySetting();
     setHWButtons(false);
     window.setWindowTitle(qtTrId("AP_Title"));
-    window.setMinimumSize(640, 480);
+    window.setMinimumSize(leastSize(window.screen()->availableSize()));
 }
 
 void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
@@ -96,8 +99,7 @@ void AppController::displayViewController(PageController& controller, int tabTag
     }
     PageController& left = *pages.at(static_cast<std::size_t>(window.pageInView()));
     if (&left != &controller && !left.leave()) return showPageInView();
-    if (parts.period.isChangeUser())
-        parts.period.setCurrentReadingTimePeriod(parts.store.getReadingForCurID());
+    follower->prepare();
     window.showPage(controller);
     controller.LoadData();
 }
@@ -131,7 +133,9 @@ void AppController::dataTransfer() {
 
 void AppController::transferFinished(const DownloadOutcome& outcome) {
     window.activateWindow();
-    displayAfterDataTransfer();
+    // Without anything new the page stays: what was pressed there may be tried again.
+    const bool hasEnded = outcome.failure.isEmpty() && !outcome.cancelled;
+    if (hasEnded || (outcome.downloaded > 0 && parts.store.lastLoad())) displayAfterDataTransfer();
     window.showOutcome(describe(outcome));
     if (outcome.failure.isEmpty()) return;
     const auto tell = [this, told = outcome.failure] { parts.panel.ShowMessage(told, qtTrId("Warning")); };
@@ -139,15 +143,9 @@ void AppController::transferFinished(const DownloadOutcome& outcome) {
 }
 
 void AppController::displayAfterDataTransfer() {
-    parts.period.setChangeUser(true);
+    follower->startAnew();
     changeTab(1);
     graphPage->switchToGraph();
-}
-
-/// Another patient is shown, over the default period of the data.
-void AppController::changeUser() {
-    parts.period.setChangeUser(true);
-    parts.period.setCurrentReadingTimePeriod(parts.store.getReadingForCurID());
 }
 
 void AppController::checkToSaveComment() {
@@ -165,19 +163,12 @@ void AppController::showSetting() {
     settings->showSetting();
 }
 
-void AppController::showPrint() {
-    checkToSaveComment();
-    if (parts.printers.names().isEmpty())
-        return parts.panel.ShowMessage(qtTrId("NoPrnterMsg"), qtTrId("NoPrnter"));
-    showPrintPreview(PrintPurpose::printer);
-}
+void AppController::showPrint() { showPrintPreview(PrintPurpose::printer); }
 
-void AppController::showSavePdf() {
-    checkToSaveComment();
-    showPrintPreview(PrintPurpose::pdf);
-}
+void AppController::showSavePdf() { showPrintPreview(PrintPurpose::pdf); }
 
 void AppController::showPrintPreview(PrintPurpose purpose) {
+    if (!pages.at(static_cast<std::size_t>(window.pageInView()))->readyToPrint()) return;
     if (!printController) {
         printController = new PrintController(
             {parts.store, parts.period, parts.clock, parts.panel, parts.chooser, parts.printers}, &window);
@@ -196,8 +187,18 @@ void AppController::showHelp() {
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     const QString path = unpackHelp(u":/help.pdf"_s, cache);
     qCInfo(lcApp, "showHelp %s", qUtf8Printable(path));
-    if (path.isEmpty() || !parts.openDocument(path))
-        parts.panel.ShowMessage(qtTrId("OpenHelpErrorMsg"), qtTrId("OpenHelpErrorTitle"));
+    if (!path.isEmpty() && parts.openDocument(path)) return;
+    if (!helpWindow) helpWindow = new HelpWindow(&window);
+    helpWindow->show();
+    helpWindow->activateWindow();
+}
+
+void AppController::showAbout() {
+    const QStringList lines{qtTrId("programPurpose"),
+                            qtTrId("programVersion").arg(QLatin1String(ZEL_VERSION)),
+                            qtTrId("aboutData").arg(QDir::toNativeSeparators(parts.store.getZELXMLPath())),
+                            qtTrId("aboutLicence")};
+    parts.panel.ShowMessage(lines.join(u"\n\n"_s), qtTrId("programName"));
 }
 
 void AppController::reload() {

@@ -16,7 +16,9 @@
 namespace zel {
 
 class GraphViewController;
+class HelpWindow;
 class PatientViewController;
+class PeriodFollower;
 class PrintController;
 class ProgressWindowController;
 class SettingController;
@@ -65,6 +67,7 @@ public:
     void showPrint();
     void showSavePdf();
     void showHelp();
+    void showAbout();
     void savePatient();
     /// Quits, unless what was typed is to be saved and cannot be.
     void closeApplicaiton(); // spelled so in the interface
@@ -82,7 +85,6 @@ private:
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
     void UpdateUIBySetting();
     void reload();
-    void changeUser();
     void checkToSaveComment();
     void showPrintPreview(PrintPurpose purpose);
     void transferFinished(const DownloadOutcome& outcome);
@@ -95,9 +97,11 @@ private:
     GraphViewController* graphPage;
     TableViewController* tablePage;
     std::array<PageController*, MainWindow::tabTotal> pages;
+    PeriodFollower* follower = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise
     PrintController* printController = nullptr;         ///< likewise
+    HelpWindow* helpWindow = nullptr;                   ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     bool isClosing = false;

@@ -5,13 +5,24 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QUrl>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
-bool openWithDesktop(const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
+bool hasPdfViewer() {
+    QProcess query;
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"application/pdf"_s});
+    if (!query.waitForStarted()) return true;
+    const bool hasAnswered = query.waitForFinished(3000) && query.exitStatus() == QProcess::NormalExit;
+    return !hasAnswered || !query.readAllStandardOutput().trimmed().isEmpty();
+}
+
+bool openWithDesktop(const QString& path) {
+    return hasPdfViewer() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
 
 QString unpackHelp(const QString& resource, const QString& folder) {
     QFile packed(resource); // no file of the system's

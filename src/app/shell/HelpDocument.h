@@ -9,6 +9,8 @@ namespace zel {
 /// Hands a file to the desktop's own program for it. \return false if there is none
 using DocumentOpener = std::function<bool(const QString& path)>;
 [[nodiscard]] bool openWithDesktop(const QString& path);
+/// Asks the desktop, since what it starts does not say when it finds no program. True where it cannot say.
+[[nodiscard]] bool hasPdfViewer();
 
 /// Puts the manual, a resource of the program, where other programs can read it.
 /// \return the file's path; empty if there is no manual, or no place for it

@@ -41,6 +41,7 @@ QMenuBar* makeMainMenu(MainWindow& window) {
         {u"closeApplicaiton"_s, qtTrId("menuQuit"), Qt::CTRL | Qt::Key_Q, &MainWindow::closeWanted});
     QMenu& help = *bar->addMenu(qtTrId("menuHelp"));
     add(window, help, {u"showHelp"_s, qtTrId("menuManual"), Qt::Key_F1, &MainWindow::helpWanted});
+    add(window, help, {u"showAbout"_s, qtTrId("menuAbout"), {}, &MainWindow::aboutWanted});
     return bar;
 }
 

@@ -21,25 +21,56 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Over the window's own background.
+QScrollArea* makeScroll(const QString& name, QWidget* inside, QWidget* parent) {
+    auto* scroll = new QScrollArea(parent);
+    scroll->setObjectName(name);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(inside);
+    scroll->viewport()->setAutoFillBackground(false);
+    inside->setAutoFillBackground(false);
+    return scroll;
+}
+
+/// The pages, in no less room than the one in view needs at its width, rather than than it would like.
+class PageBox final : public QStackedWidget {
+public:
+    using QStackedWidget::QStackedWidget;
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        const QSize least = QStackedWidget::minimumSizeHint();
+        const QLayout* page = currentWidget() ? currentWidget()->layout() : nullptr;
+        if (!page || !page->hasHeightForWidth()) return least;
+        return {least.width(), page->minimumHeightForWidth(std::max(width(), least.width()))};
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QStackedWidget::resizeEvent(event);
+        if (event->oldSize().width() != width()) updateGeometry();
+    }
+};
+
+} // namespace
+
 MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatus)
     : status(monitorStatus), tabs{new TabButton(u"patientBtn"_s, qtTrId("tabPatients"), this),
                                   new TabButton(u"graphBtn"_s, qtTrId("tabChart"), this),
                                   new TabButton(u"tableBtn"_s, qtTrId("tabReadings"), this)},
-      contentBox(new QStackedWidget(this)), lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
+      contentBox(new PageBox(this)), lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
     setObjectName(u"mainWndow"_s); // spelled so in the interface
     setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     contentBox->setObjectName(u"contentBox"_s);
-    auto* body = new QHBoxLayout;
-    body->setContentsMargins(16, 14, 16, 12);
-    body->setSpacing(16);
-    body->addWidget(contentBox, 1);
-    body->addWidget(makeSideColumn(store));
     auto* central = new QWidget(this);
     auto* column = new QVBoxLayout(central);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeTabBar());
-    column->addLayout(body, 1);
+    column->addWidget(makeBody(store), 1);
     setCentralWidget(central);
     setMenuBar(makeMainMenu(*this));
     makeStatusLine();
@@ -89,6 +120,17 @@ QWidget* MainWindow::makeSettingButton() {
     return button;
 }
 
+/// A page that needs more room than there is, as with large type on a small screen, is scrolled.
+QWidget* MainWindow::makeBody(const DataStore& store) {
+    auto* body = new QWidget;
+    auto* row = new QHBoxLayout(body);
+    row->setContentsMargins(16, 14, 16, 12);
+    row->setSpacing(16);
+    row->addWidget(contentBox, 1);
+    row->addWidget(makeSideColumn(store));
+    return makeScroll(u"bodyScroll"_s, body, this);
+}
+
 QWidget* MainWindow::makeSideColumn(const DataStore& store) {
     auto* panels = new QWidget;
     auto* column = new QVBoxLayout(panels);
@@ -98,16 +140,9 @@ QWidget* MainWindow::makeSideColumn(const DataStore& store) {
     dataPanel = new DataPanel(store, panels);
     column->addWidget(dataPanel);
     column->addStretch(1);
-    auto* scroll = new QScrollArea(this);
-    scroll->setObjectName(u"sideColumn"_s);
+    QScrollArea* scroll = makeScroll(u"sideColumn"_s, panels, this);
     scroll->setAccessibleName(qtTrId("sideColumn"));
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(panels);
-    scroll->viewport()->setAutoFillBackground(false);
-    panels->setAutoFillBackground(false);
     sideColumn = scroll;
     return scroll;
 }
@@ -152,6 +187,11 @@ void MainWindow::showOutcome(const QString& text) {
 void MainWindow::addPage(PageController& page) { contentBox->addWidget(&page); }
 
 void MainWindow::showPage(PageController& page) {
+    for (int tag = 0; tag < contentBox->count(); ++tag) { // only the one in view needs room
+        QWidget* one = contentBox->widget(tag);
+        const auto policy = one == &page ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        one->setSizePolicy(policy, policy);
+    }
     contentBox->setCurrentWidget(&page);
     page.setFocus();
 }
@@ -180,11 +220,13 @@ bool MainWindow::makeFirstResponder() {
     return false;
 }
 
-/// The page beside them keeps the room that it needs.
+/// The page below and beside them keeps the room that it needs.
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     const int letter = fontMetrics().averageCharWidth();
     sideColumn->setFixedWidth(letter * (width() < letter * 130 ? 22 : 34));
+    for (TabButton* tab : tabs)
+        tab->setSlim(height() < letter * 75);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

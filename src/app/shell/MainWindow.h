@@ -43,6 +43,7 @@ signals:
     void printWanted();
     void pdfWanted();
     void helpWanted();
+    void aboutWanted();
     void closeWanted();
 
 protected:
@@ -52,6 +53,7 @@ protected:
 private:
     QWidget* makeTabBar();
     QWidget* makeSettingButton();
+    QWidget* makeBody(const DataStore& store);
     QWidget* makeSideColumn(const DataStore& store);
     void makeStatusLine();
     void makeShortcuts();

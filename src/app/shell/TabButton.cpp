@@ -29,6 +29,12 @@ void TabButton::setShown(bool isShown) {
     update();
 }
 
+void TabButton::setSlim(bool isSlim) {
+    if (slim == isSlim) return;
+    slim = isSlim;
+    updateGeometry();
+}
+
 QString TabButton::imageName() const {
     if (!isEnabled()) return objectName() + ".InactiveImg"_L1;
     return objectName() + (shown || isDown() ? ".PressedImg"_L1 : ".ActiveImg"_L1);
@@ -37,7 +43,8 @@ QString TabButton::imageName() const {
 QSize TabButton::sizeHint() const {
     const QFontMetrics metrics(scaledFont(font(), 1.1, true));
     const int width = metrics.horizontalAdvance(QString(text()).remove(u'&'));
-    return {margin + imageSize + gap + width + margin, std::max(imageSize, metrics.height()) + 2 * 12};
+    return {margin + imageSize + gap + width + margin,
+            std::max(imageSize, metrics.height()) + 2 * (slim ? 4 : 12)};
 }
 
 void TabButton::paintEvent(QPaintEvent*) {

@@ -14,13 +14,15 @@ public:
     void setShown(bool isShown);
     [[nodiscard]] bool isShown() const { return shown; }
     [[nodiscard]] QString imageName() const;
+    /// With less room above and below the text.
+    void setSlim(bool isSlim);
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool shown = false;
+    bool shown = false, slim = false;
 };
 
 } // namespace zel

@@ -15,4 +15,9 @@ void AdjustWindowFitToScreen(QWidget& window, bool keepSize) {
     window.setWindowState(window.windowState() | Qt::WindowMaximized); // the frame fits in as well
 }
 
+QSize leastSize(const QSize& freeArea) {
+    constexpr int titleBar = 40;
+    return QSize(640, 480).boundedTo(freeArea - QSize(0, titleBar));
+}
+
 } // namespace zel

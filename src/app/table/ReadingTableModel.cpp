@@ -49,6 +49,7 @@ void ReadingTableModel::reload(const ReadingSelection& selection) {
         rows.push_back(copyOf(row, copies));
     anyAFib = list.isAFib;
     anyPad = list.isPad;
+    cut = describeCut(list);
     endResetModel();
 }
 

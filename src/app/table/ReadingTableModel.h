@@ -26,6 +26,8 @@ public:
     void reload(const ReadingSelection& selection);
     [[nodiscard]] bool isAFib() const { return anyAFib; } ///< some reading of the list is from such a model
     [[nodiscard]] bool isPad() const { return anyPad; }
+    /// That days without a reading are missing from the list, or nothing.
+    [[nodiscard]] const QString& cutNote() const { return cut; }
     void setMarkTitle(const QString& title);
     /// The settings may have changed, on which texts and titles depend.
     void refreshTexts();
@@ -43,6 +45,7 @@ private:
     std::vector<ReadingModel> rows;
     std::vector<CommentModel> comments; ///< that the rows point at
     QString markTitle;
+    QString cut;
     bool anyAFib = false;
     bool anyPad = false;
 };

@@ -142,6 +142,7 @@ void TableViewController::reload() {
     const int position = tblReadings->currentIndex().row();
     const bool isSelected = position >= 0 && selection->isRowSelected(position);
     readingModelArray->reload(parts.period.selection());
+    frame->setNote(readingModelArray->cutNote());
     QWidget* shown = tblReadings;
     if (parts.store.getReadingForCurID().empty())
         shown = noReadings;

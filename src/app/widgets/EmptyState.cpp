@@ -3,15 +3,17 @@
 #include <QIcon>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
 EmptyState::EmptyState(const QString& name, const QString& icon, QWidget* parent)
-    : QWidget(parent), lblHeading(new QLabel(this)), lblAdvice(new QuietLabel({}, this)) {
+    : QWidget(parent), picture(new QLabel(this)), lblHeading(new QLabel(this)),
+      lblAdvice(new QuietLabel({}, this)) {
     setObjectName(name);
     lblAdvice->setObjectName(name + "Advice"_L1);
-    auto* picture = new QLabel(this);
     picture->setPixmap(QIcon(icon).pixmap(64, 64));
     lblHeading->setFont(scaledFont(font(), 1.2, true));
     for (QLabel* label : {lblHeading, static_cast<QLabel*>(lblAdvice)}) {
@@ -28,6 +30,25 @@ EmptyState::EmptyState(const QString& name, const QString& icon, QWidget* parent
     column->addWidget(lblHeading);
     column->addWidget(lblAdvice);
     column->addStretch(3);
+}
+
+/// The words without the picture.
+int EmptyState::leastHeight(int width) const {
+    const QMargins edge = layout()->contentsMargins();
+    const int room = width - edge.left() - edge.right();
+    return edge.top() + edge.bottom() + layout()->spacing() + lblHeading->heightForWidth(room)
+           + lblAdvice->heightForWidth(room);
+}
+
+QSize EmptyState::minimumSizeHint() const {
+    const int width = fontMetrics().averageCharWidth() * 24;
+    if (isHidden()) return {width, 0}; // behind what it would stand for
+    return {width, leastHeight(std::max(width, this->width()))};
+}
+
+void EmptyState::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    picture->setVisible(height() > leastHeight(width()) + picture->sizeHint().height() + layout()->spacing());
 }
 
 void EmptyState::setTexts(const QString& heading, const QString& advice) {

@@ -10,8 +10,15 @@ class EmptyState final : public QWidget {
 public:
     EmptyState(const QString& name, const QString& icon, QWidget* parent = nullptr);
     void setTexts(const QString& heading, const QString& advice);
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] int leastHeight(int width) const;
+
+    QLabel* picture;
     QLabel* lblHeading;
     QuietLabel* lblAdvice;
 };

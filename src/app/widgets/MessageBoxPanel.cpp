@@ -11,7 +11,10 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+#include <array>
 #include <utility>
+#include <vector>
 
 namespace zel {
 
@@ -115,16 +118,34 @@ bool MessageBoxPanel::ask(const QString& text, const QString& title, Kind kind) 
 }
 
 KeepAnswer MessageBoxPanel::AskToKeep(const QString& text, const QString& title) {
+    const Choice choices[]{{u"btnKeep"_s, qtTrId("keep")},
+                           {u"btnErase"_s, qtTrId("eraseThem")},
+                           {u"btnCancel"_s, qtTrId("cancel")}};
+    constexpr std::array answers{KeepAnswer::keep, KeepAnswer::erase, KeepAnswer::cancel};
+    return answers.at(choose(text, title, choices, 2));
+}
+
+SaveAnswer MessageBoxPanel::AskToSave(const QString& text, const QString& title) {
+    const Choice choices[]{{u"btnSave"_s, qtTrId("saveIt")},
+                           {u"btnDiscard"_s, qtTrId("saveNot")},
+                           {u"btnCancel"_s, qtTrId("cancel")}};
+    constexpr std::array answers{SaveAnswer::save, SaveAnswer::discard, SaveAnswer::cancel};
+    return answers.at(choose(text, title, choices, 0));
+}
+
+std::size_t MessageBoxPanel::choose(const QString& text, const QString& title,
+                                    std::span<const Choice> choices, std::size_t preset) {
     QMessageBox box(ownerOver(window));
     fill(box, text, title);
     box.setIcon(QMessageBox::Question);
-    const QPushButton* keep = addButton(box, u"btnKeep"_s, qtTrId("keep"));
-    const QPushButton* erase = addButton(box, u"btnErase"_s, qtTrId("eraseThem"));
-    QPushButton* cancel = addButton(box, u"btnCancel"_s, qtTrId("cancel"));
-    box.setEscapeButton(cancel);
-    open(box, cancel);
-    if (box.clickedButton() == keep) return KeepAnswer::keep;
-    return box.clickedButton() == erase ? KeepAnswer::erase : KeepAnswer::cancel;
+    std::vector<QPushButton*> buttons;
+    for (const Choice& choice : choices)
+        buttons.push_back(addButton(box, choice.name, choice.text));
+    box.setEscapeButton(buttons.back());
+    open(box, buttons.at(preset));
+    const auto clicked = std::ranges::find(buttons, box.clickedButton());
+    if (clicked == buttons.end()) return buttons.size() - 1;
+    return static_cast<std::size_t>(clicked - buttons.begin());
 }
 
 void MessageBoxPanel::open(QMessageBox& box, QPushButton* preset) {

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <chrono>
+#include <span>
 
 class QMessageBox;
 class QPushButton;
@@ -25,11 +26,18 @@ public:
     [[nodiscard]] bool AskToErase(const QString& text, const QString& title) override;
     [[nodiscard]] bool AskBeforeLosing(const QString& text, const QString& title) override;
     [[nodiscard]] KeepAnswer AskToKeep(const QString& text, const QString& title) override;
+    [[nodiscard]] SaveAnswer AskToSave(const QString& text, const QString& title) override;
     void interject(QObject* context, const std::function<void()>& speak) override;
 
 private:
     enum class Kind { harmless, erasing, losing };
     [[nodiscard]] bool ask(const QString& text, const QString& title, Kind kind);
+    struct Choice {
+        QString name, text;
+    };
+    /// \return the index of the choice that was made; the last one's for Esc and the close box
+    [[nodiscard]] std::size_t choose(const QString& text, const QString& title,
+                                     std::span<const Choice> choices, std::size_t preset);
     void open(QMessageBox& box, QPushButton* preset);
 
     QPointer<QWidget> window;

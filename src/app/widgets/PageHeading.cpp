@@ -26,11 +26,23 @@ PageHeading::PageHeading(QWidget* parent)
 }
 
 void PageHeading::setTexts(const QString& heading, const QString& detail) {
+    wholeHeading = heading;
     lblHeading->setText(heading);
+    if (isVisible()) fitHeading();
     lblHeading->setToolTip(heading);
     lblDetail->setText(detail);
     lblHeading->setAccessibleName(heading);
     lblDetail->setAccessibleName(detail);
+}
+
+void PageHeading::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    fitHeading();
+}
+
+/// What is left out of a long name lies in its middle: what stands at the end tells patients apart.
+void PageHeading::fitHeading() {
+    lblHeading->setText(lblHeading->fontMetrics().elidedText(wholeHeading, Qt::ElideMiddle, width()));
 }
 
 QFont scaledFont(const QFont& font, double factor, bool bold) {

@@ -24,7 +24,13 @@ public:
     explicit PageHeading(QWidget* parent = nullptr);
     void setTexts(const QString& heading, const QString& detail);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void fitHeading();
+
+    QString wholeHeading;
     QLabel* lblHeading;
     QuietLabel* lblDetail;
 };

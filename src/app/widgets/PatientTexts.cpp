@@ -19,12 +19,39 @@ std::pair<const ReadingModel*, const ReadingModel*> datedSpan(const ReadingList&
     return span;
 }
 
+QString nameAndID(const QString& givenNames, const QString& familyName, const QString& ID) {
+    return qtTrId("patientHeading").arg(givenNames, familyName, ID).simplified();
+}
+
+/// With places where a line may end within long words, which nobody sees.
+QString breakable(const QString& text) {
+    constexpr int longest = 16;
+    QString broken;
+    int run = 0;
+    for (const QChar letter : text) {
+        if (run >= longest && !letter.isLowSurrogate() && !letter.isMark()) {
+            broken += QChar(0x200b);
+            run = 0;
+        }
+        broken += letter;
+        run = letter.isSpace() ? 0 : run + 1;
+    }
+    return broken;
+}
+
 } // namespace
 
 QString patientHeading(const DataStore& store) {
     const PatientModel* patient = store.getPatientByID(store.getCurrentID());
-    if (!patient) return qtTrId("noPatientSelected");
-    return qtTrId("patientHeading").arg(patient->GivenNames, patient->FamilyName, patient->ID);
+    return patient ? nameAndID(patient->GivenNames, patient->FamilyName, patient->ID)
+                   : qtTrId("noPatientSelected");
+}
+
+QString narrowPatientHeading(const DataStore& store) {
+    const PatientModel* patient = store.getPatientByID(store.getCurrentID());
+    return patient ? breakable(nameAndID(shortText(patient->GivenNames), shortText(patient->FamilyName),
+                                         shortText(patient->ID)))
+                   : qtTrId("noPatientSelected");
 }
 
 QString shortText(const QString& text, int longest) {

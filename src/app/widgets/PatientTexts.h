@@ -8,6 +8,9 @@ namespace zel {
 
 /// The current patient's name and ID as a page shows them; says so when none is selected.
 [[nodiscard]] QString patientHeading(const DataStore& store);
+/// The same for a narrow panel: names of a hundred characters are cut, and any word may go on in another
+/// line.
+[[nodiscard]] QString narrowPatientHeading(const DataStore& store);
 /// A name for a message, which has no room for one of a thousand characters.
 [[nodiscard]] QString shortText(const QString& text, int longest = 40);
 /// Given names and family name, or words for a new patient that has none yet; short.

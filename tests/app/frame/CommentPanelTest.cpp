@@ -1,8 +1,10 @@
+#include "app/frame/CommentDays.h"
 #include "app/frame/CommentViewController.h"
 #include "app/frame/ReadingFrame.h"
 #include "support/DamageAfterWrite.h"
 #include "support/ReadingPageTest.h"
 
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 
@@ -42,6 +44,89 @@ TEST_F(CommentPanelTest, whatIsTypedIsSavedWhenEditingEnds) {
     EXPECT_EQ(editor().textCursor().position(), text.size()) << "the caret stays";
 }
 
+TEST(CommentDays, aDayIsReadInTheOrderOfTheSettings) {
+    const QString dayFirst = u"dd/MM/yyyy"_s, monthFirst = u"MM/dd/yyyy"_s, yearFirst = u"yyyy/MM/dd"_s;
+    const struct {
+        QString text, pattern;
+        QString day; ///< null: none
+    } cases[]{{u"05/03/2026"_s, dayFirst, u"20260305"_s},
+              {u"05/03/2026"_s, monthFirst, u"20260503"_s},
+              {u"2026-3-5"_s, yearFirst, u"20260305"_s},
+              {u" 5. 3. 2026 "_s, dayFirst, u"20260305"_s},
+              {u"05032026"_s, dayFirst, u"20260305"_s},
+              {u"20260305"_s, yearFirst, u"20260305"_s},
+              {u"29/02/2024"_s, dayFirst, u"20240229"_s},
+              {u"29/02/2026"_s, dayFirst, {}},
+              {u"31/12/1899"_s, dayFirst, {}},
+              {u"01/01/1900"_s, dayFirst, u"19000101"_s},
+              {u"31/12/9999"_s, dayFirst, u"99991231"_s},
+              {u"05/03/26"_s, dayFirst, {}},
+              {u"005/03/2026"_s, dayFirst, {}},
+              {u"5/3"_s, dayFirst, {}},
+              {u"5/3/2026/1"_s, dayFirst, {}},
+              {u"-5/3/2026"_s, dayFirst, {}},
+              {u"soon"_s, dayFirst, {}},
+              {QString(), dayFirst, {}}};
+    for (const auto& each : cases)
+        EXPECT_EQ(DateToStr(typedCommentDay(each.text, each.pattern), u"yyyyMMdd"_s), each.day)
+            << qPrintable(each.text + u' ' + each.pattern);
+}
+
+TEST_F(CommentPanelTest, theDaysAreTyped) {
+    storeComments();
+    CommentModel timed = *store.getCommentForCurID().front();
+    timed.beginDate = at(u"202603030830"_s);
+    ASSERT_TRUE(store.saveCommentToXML(timed));
+    openPanel();
+    const auto firstDays = [this] {
+        const auto& first = *store.getCommentForCurID().front();
+        return DateToStr(first.beginDate, u"MMdd HHmm"_s) + u'-' + DateToStr(first.endDate, u"MMdd HHmmss"_s);
+    };
+    const QString unread = qtTrId("commentDayUnread").section(u'%', 1).mid(2).left(20);
+    const struct {
+        const char* field;
+        QString text;
+        Qt::Key end;
+        QString days;
+        QString message; ///< what it contains
+    } steps[]{
+        {"commentEnd", u"06/03/2026"_s, Qt::Key_Return, u"0303 0830-0306 235959"_s, {}},
+        {"commentBegin", u"7.3.2026"_s, Qt::Key_Tab, u"0303 0830-0306 235959"_s, qtTrId("commentDayOrder")},
+        {"commentBegin", u"03/03/2026"_s, Qt::Key_Tab, u"0303 0830-0306 235959"_s, {}},
+        {"commentBegin", u"04/13/2026"_s, Qt::Key_Return, u"0303 0830-0306 235959"_s, unread},
+        {"commentBegin", QString(), Qt::Key_Tab, u"0303 0830-0306 235959"_s, unread},
+        {"commentBegin", u"06/03/2026"_s, Qt::Key_Escape, u"0303 0830-0306 235959"_s, {}},
+        {"commentBegin", u"6.3.2026"_s, Qt::Key_Return, u"0306 0000-0306 235959"_s, {}}};
+    for (const auto& step : steps) {
+        panel.messages.clear();
+        type(step.field, step.text);
+        press(step.end);
+        EXPECT_EQ(firstDays(), step.days) << qPrintable(step.text);
+        EXPECT_EQ(panel.messages.size(), step.message.isEmpty() ? 0 : 1) << qPrintable(step.text);
+        EXPECT_TRUE(panel.messages.join(u' ').contains(step.message))
+            << qPrintable(panel.messages.join(u' '));
+        const auto shown = [this](const char* field) { return find<QLineEdit>(field).text(); };
+        EXPECT_EQ(shown("commentBegin").left(2) + u'-' + shown("commentEnd").left(2),
+                  step.days.mid(2, 2) + u'-' + step.days.mid(12, 2))
+            << "as it is stored, after " << qPrintable(step.text);
+    }
+    type("commentBegin", u"06/03/2026"_s); // as it is
+    press(Qt::Key_Return);
+    replaceDataFile(dataFile().replace(">first<", ">newer<"));
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(editor().toPlainText(), u"newer"_s) << "nothing typed is in its way";
+    type("commentEnd", u"08/03/2026"_s);
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(find<QLineEdit>("commentEnd").text(), u"08/03/2026"_s) << "not while it is being typed";
+    EXPECT_TRUE(find<CommentViewController>("commentPanel").saveQuietly().isEmpty());
+    EXPECT_EQ(firstDays(), u"0306 0000-0308 235959"_s);
+    type("commentBegin", u"31/12/2026"_s);
+    panel.messages.clear();
+    EXPECT_TRUE(find<CommentViewController>("commentPanel").leave());
+    EXPECT_EQ(panel.messages.size(), 1) << "it could not be taken";
+    EXPECT_EQ(firstDays(), u"0306 0000-0308 235959"_s);
+}
+
 TEST_F(CommentPanelTest, aCommentThatCannotBeSavedStays) {
     storeComments();
     openPanel();
@@ -61,18 +146,41 @@ TEST_F(CommentPanelTest, aCommentThatCannotBeSavedStays) {
     panel.answers[qtTrId("Warning")] = false;
     EXPECT_TRUE(find<CommentViewController>("commentPanel").leave());
     EXPECT_EQ(editor().toPlainText(), u"second"_s) << "given up";
+    panel.messages.clear();
+    type("commentEnd", u"12/03/2026"_s);
+    window().setFocus(); // as when the page is left
+    EXPECT_TRUE(panel.messages.empty()) << "told and asked in one";
+    EXPECT_TRUE(find<CommentViewController>("commentPanel").leave());
+    EXPECT_EQ(find<QLineEdit>("commentEnd").text(), u"10/03/2026"_s);
 }
 
-TEST_F(CommentPanelTest, aCommentThatCannotBeFoundAgainCannotBeTypedOver) {
+TEST_F(CommentPanelTest, commentsWithoutANumberOrWithTheSameAreChangedLikeOthers) {
     storeComments();
-    QByteArray file = dataFile();
-    ASSERT_TRUE(file.contains("<CommentID>1<"));
-    replaceDataFile(file.replace("<CommentID>1<", "<CommentID><"));
-    ASSERT_TRUE(store.loadXML());
-    openPanel();
-    EXPECT_EQ(editor().toPlainText(), u"first"_s);
-    EXPECT_TRUE(editor().isReadOnly());
-    EXPECT_EQ(page("commentBox").grab().toImage().pixelColor(0, 20), QColor(255, 120, 0));
+    const QByteArray file = dataFile();
+    ASSERT_TRUE(file.contains("<CommentID>1<") && file.contains("<CommentID>2<"));
+    for (const QByteArray& number : {QByteArray(), QByteArray("7")}) {
+        replaceDataFile(QByteArray(file)
+                            .replace("<CommentID>1<", "<CommentID>" + number + '<')
+                            .replace("<CommentID>2<", "<CommentID>" + number + '<'));
+        ASSERT_TRUE(store.loadXML());
+        store.setSelectedComment({});
+        openPanel();
+        EXPECT_EQ(editor().toPlainText(), u"first"_s);
+        EXPECT_EQ(page("commentBox").grab().toImage().pixelColor(0, 20), QColor(255, 120, 0));
+        clickPart("btnNextComment");
+        EXPECT_EQ(text("lblCommentPosition"), u"2 of 2"_s);
+        typeComment(u"+"_s);
+        type("commentEnd", u"11/03/2026"_s);
+        press(Qt::Key_Return);
+        EXPECT_EQ(editor().toPlainText(), u"second+"_s) << "it is still the one that is shown";
+        EXPECT_TRUE(dataFile().contains(">second+<") && dataFile().contains(">first<"));
+        EXPECT_EQ(store.getCommentForCurID().back()->strEndDate(), u"2026/03/11"_s);
+        clickPart("btnPreviousComment");
+        typeComment(u"+"_s);
+        clickPart("btnDeleteComment");
+        EXPECT_TRUE(dataFile().contains(">second+<") && !dataFile().contains(">first"));
+        EXPECT_EQ(editor().toPlainText(), u"second+"_s);
+    }
 }
 
 TEST_F(CommentPanelTest, whatIsTypedIntoACommentThatAnotherProgramRemovedIsStoredAgain) {
@@ -160,7 +268,7 @@ TEST_F(CommentPanelTest, deletingACommentAsks) {
     EXPECT_EQ(stored(u"1"_s), u"first+"_s);
     clickPart("btnDeleteComment");
     EXPECT_EQ(stored(u"1"_s), u"none"_s);
-    EXPECT_EQ(text("lblCommentBegin"), u"01/01/0001"_s);
+    EXPECT_EQ(find<QLineEdit>("commentBegin").text(), QString());
     EXPECT_FALSE(editor().isEnabled());
     EXPECT_FALSE(page("btnDeleteComment").isEnabled());
 }

@@ -1,16 +1,11 @@
-#include "app/graph/BPInfoView.h"
-#include "app/graph/GraphViewController.h"
-#include "app/graph/PulseView.h"
-#include "support/ReadingPageTest.h"
+#include "ChartPageTest.h"
 
-#include <QAction>
+#include "app/graph/BPInfoView.h"
+
 #include <QHelpEvent>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
-#include <QToolButton>
 #include <QToolTip>
 
 namespace zel {
@@ -23,231 +18,76 @@ QString spanOf(const Period& period) {
     return DateToStr(period.begin, u"yyyyMMdd"_s) + u'-' + DateToStr(period.end, u"yyyyMMdd"_s);
 }
 
-class ChartPageTest : public ReadingPageTest {
-protected:
-    /// P1 has sixty days of readings, each a mmHg higher.
-    ChartPageTest() {
-        ReadingList readings;
-        for (int day = 0; day < 60; ++day) {
-            readings.push_back(reading(u"202603010800"_s, static_cast<std::uint32_t>(111 + day)));
-            *readings.back().ReadingDate += std::chrono::days(day);
-        }
-        storeReadings(u"P1"_s, readings);
-    }
-    void openChart(const QString& begin, const QString& end) {
-        open(new GraphViewController({store, period, panel}), {1200, 700});
-        showDays(begin, end);
-        QCoreApplication::processEvents();
-        pulse().setFocus();
-    }
-    void showDays(const QString& begin, const QString& end) {
-        period.setTimePeriod(at(begin + u"0000"_s), DateToDayBoundary(at(end + u"0000"_s), false));
-    }
-    QString shown() const { return spanOf(period.getTimePeriod()); }
-    PulseView& pulse() { return find<PulseView>("PulseView"); }
-    ChartView& blood() { return find<ChartView>("BloodView"); }
-    /// The file's comments of P1, each as "begin-end degree text".
-    QStringList inFile() {
-        DataStore read(
-            {.home = home.path(), .applicationFolder = home.path(), .templateFolder = u":/templates"_s},
-            clock);
-        EXPECT_TRUE(read.load());
-        read.setCurrentID(u"P1"_s);
-        QStringList lines;
-        for (const auto& comment : read.getCommentForCurID())
-            lines += spanOf({*comment->beginDate, *comment->endDate})
-                     + u" %1 %2"_s.arg(comment->degree).arg(comment->comment);
-        return lines;
-    }
-    /// The comment strip at a time.
-    QPoint strip(const QString& time) {
-        constexpr int above = 22;
-        return {qRound(pulse().scale().time.calcXPos(at(time))), pulse().height() - above};
-    }
-    static void send(QWidget& to, QEvent::Type type, QPoint where) {
-        const bool moves = type == QEvent::MouseMove;
-        QMouseEvent event(type, where, to.mapToGlobal(where), moves ? Qt::NoButton : Qt::LeftButton,
-                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&to, &event);
-    }
-    static void drag(QWidget& from, QPoint press, QPoint release) {
-        send(from, QEvent::MouseButtonPress, press);
-        send(from, QEvent::MouseMove, (press + release) / 2);
-        send(from, QEvent::MouseMove, release);
-        send(from, QEvent::MouseButtonRelease, release);
-    }
-    void dropIcon(const QString& time) {
-        auto& icon = page("CommentImageBtn");
-        drag(icon, {5, 5}, icon.mapFromGlobal(pulse().mapToGlobal(strip(time))));
-    }
-    void comment(const QString& words) {
-        typeComment(words);
-        press(Qt::Key_Tab);
-        pulse().setFocus();
-    }
-    static void wheel(QWidget& over, QPoint where, int steps,
-                      Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QWheelEvent event(where, over.mapToGlobal(where), {}, {0, steps * 120}, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&over, &event);
-    }
-};
+void wheel(QWidget& over, QPoint where, int steps, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWheelEvent event(where, over.mapToGlobal(where), {}, {0, steps * 120}, Qt::NoButton, modifiers,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&over, &event);
+}
 
 } // namespace
 
-TEST_F(ChartPageTest, aCommentIsMadeChangedAndRemovedWithTheMouse) {
-    openChart(u"20260301"_s, u"20260310"_s);
-    dropIcon(u"202603031500"_s);
-    EXPECT_EQ(inFile(), QStringList(u"20260303-20260303 4 "_s));
-    drag(pulse(), strip(u"202603040000"_s), strip(u"202603051200"_s));
-    EXPECT_EQ(inFile(), QStringList(u"20260303-20260305 4 "_s));
-    drag(pulse(), strip(u"202603030000"_s), strip(u"202603020900"_s));
-    EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 4 "_s));
-    click("ColorSelButton");
-    auto& picker = page("CommentColorView");
-    ASSERT_TRUE(picker.isVisible());
-    QTest::mouseClick(&picker, Qt::LeftButton, {}, {18, 75});
-    EXPECT_FALSE(picker.isVisible());
-    EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 2 "_s));
-    const auto& colour = find<QToolButton>("ColorSelButton");
-    EXPECT_EQ(colour.text(), qtTrId("colourOrange"));
-    for (const auto& [key, degree] : {std::pair(Qt::Key_Up, u"3"_s), {Qt::Key_Down, u"2"_s}}) {
-        click("ColorSelButton");
-        QTest::keyClick(&picker, key);
-        QTest::keyClick(&picker, Qt::Key_Return);
-        EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 %1 "_s.arg(degree)));
+ChartPageTest::ChartPageTest() {
+    ReadingList readings;
+    for (int day = 0; day < 60; ++day) {
+        readings.push_back(reading(u"202603010800"_s, static_cast<std::uint32_t>(111 + day)));
+        *readings.back().ReadingDate += std::chrono::days(day);
     }
-    comment(u"new tablets"_s);
-    EXPECT_EQ(inFile(), QStringList(u"20260302-20260305 2 new tablets"_s));
-    QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603031200"_s));
-    EXPECT_TRUE(pulse().selectedBox().isNull()) << "a click on the selected box deselects it";
-    EXPECT_FALSE(find<QAction>("removeComment").isEnabled());
-    press(Qt::Key_Delete);
-    EXPECT_EQ(inFile().size(), 1);
-    QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603031200"_s));
-    find<QPushButton>("btnDeleteComment").click();
-    EXPECT_TRUE(inFile().empty());
+    storeReadings(u"P1"_s, readings);
 }
 
-TEST_F(ChartPageTest, aCommentIsMadeChangedAndRemovedWithTheKeyboard) {
-    addComment(u"1"_s, u"20260308"_s, u"20260308"_s, u"mine"_s);
-    openChart(u"20260301"_s, u"20260310"_s);
-    const QString other = u"20260308-20260308 2 mine"_s;
-    press(Qt::Key_Right, Qt::ControlModifier);
-    press(Qt::Key_Right, Qt::ControlModifier);
-    EXPECT_TRUE(pulse().accessibleDescription().contains(u"112 mmHg"_s))
-        << qPrintable(pulse().accessibleDescription());
-    press(Qt::Key_Insert);
-    EXPECT_EQ(inFile(), (QStringList{u"20260302-20260302 4 "_s, other}));
-    QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603021200"_s));
-    press(Qt::Key_Up, Qt::ControlModifier);
-    EXPECT_EQ(pulse().selectedBox(), u"1"_s) << "none was selected: the last";
-    press(Qt::Key_Up, Qt::ControlModifier);
-    press(Qt::Key_Right, Qt::ShiftModifier);
-    press(Qt::Key_Left, Qt::ShiftModifier | Qt::AltModifier);
-    EXPECT_EQ(inFile(), (QStringList{u"20260301-20260303 4 "_s, other}));
-    for (int times = 0; times < 4; ++times)
-        press(Qt::Key_Left, Qt::ShiftModifier);
-    EXPECT_EQ(inFile(), (QStringList{u"20260301-20260301 4 "_s, other})) << "never less than a day";
-    press(Qt::Key_4, Qt::AltModifier);
-    comment(u"cold"_s);
-    EXPECT_EQ(inFile(), (QStringList{u"20260301-20260301 1 cold"_s, other}));
-    press(Qt::Key_Down, Qt::ControlModifier);
-    EXPECT_EQ(pulse().selectedBox(), u"1"_s);
-    press(Qt::Key_Up, Qt::ControlModifier);
-    panel.answers[qtTrId("DeleteComment")] = false;
-    press(Qt::Key_Delete);
-    EXPECT_EQ(inFile().size(), 2);
-    panel.answers[qtTrId("DeleteComment")] = true;
-    press(Qt::Key_Delete);
-    EXPECT_EQ(inFile(), QStringList(other));
-}
-
-TEST_F(ChartPageTest, aDragThatCannotEndAsItShouldLosesNothing) {
-    addComment(u"1"_s, u"20260303"_s, u"20260304"_s, u"mine"_s);
-    openChart(u"20260301"_s, u"20260310"_s);
-    const QByteArray file = dataFile();
-    const auto pull = [this] {
-        send(pulse(), QEvent::MouseButtonPress, strip(u"202603050000"_s));
-        send(pulse(), QEvent::MouseMove, strip(u"202603071200"_s));
-    };
-    const auto release = [this] { send(pulse(), QEvent::MouseButtonRelease, strip(u"202603071200"_s)); };
-    pull();
-    EXPECT_EQ(text("lblCommentEnd"), u"07/03/2026"_s);
-    press(Qt::Key_Escape);
-    EXPECT_EQ(text("lblCommentEnd"), u"04/03/2026"_s);
-    release();
-    EXPECT_EQ(dataFile(), file);
-
-    pull();
-    press(Qt::Key_PageDown);
-    release();
-    EXPECT_EQ(dataFile(), file) << "the period is another one";
-    press(Qt::Key_PageUp);
-
-    pull();
-    replaceDataFile("<ZEL><Patient>");
-    release();
-    EXPECT_EQ(panel.messages.size(), 1);
-    EXPECT_EQ(text("lblCommentEnd"), u"04/03/2026"_s);
-    replaceDataFile(file);
-
-    pull();
-    CommentModel newer = *store.getCommentForCurID().front();
-    newer.comment = u"newer"_s;
-    ASSERT_TRUE(store.saveCommentToXML(newer));
-    release();
-    EXPECT_EQ(inFile(), QStringList(u"20260303-20260307 2 newer"_s));
-    replaceDataFile(file);
-    ASSERT_TRUE(store.loadXML());
-
-    pull();
-    QByteArray without = file;
-    const auto first = without.indexOf("<Comment>");
-    without.remove(first, without.lastIndexOf("</Comment>") + 10 - first);
-    replaceDataFile(without);
-    ASSERT_TRUE(inFile().empty());
-    release();
-    EXPECT_EQ(inFile(), QStringList(u"20260303-20260307 2 mine"_s));
-    EXPECT_EQ(pulse().selectedBox(), u"1"_s);
-}
-
-TEST_F(ChartPageTest, anEdgeKeepsTheDaysInOrderAndThoseOutOfSight) {
-    addComment(u"1"_s, u"20260301"_s, u"20260304"_s, u"mine"_s);
-    openChart(u"20260303"_s, u"20260312"_s);
-    drag(pulse(), strip(u"202603050000"_s), strip(u"202603061200"_s));
-    EXPECT_EQ(inFile(), QStringList(u"20260301-20260306 2 mine"_s)) << "its begin is before the period";
-    showDays(u"20260228"_s, u"20260305"_s);
-    drag(pulse(), strip(u"202603010000"_s), strip(u"202603021200"_s));
-    EXPECT_EQ(inFile(), QStringList(u"20260302-20260306 2 mine"_s)) << "its end is after the period";
-    drag(pulse(), strip(u"202603020000"_s), strip(u"202603010600"_s));
-    showDays(u"20260301"_s, u"20260310"_s);
-    drag(pulse(), strip(u"202603010000"_s), strip(u"202603081200"_s));
-    EXPECT_EQ(inFile(), QStringList(u"20260306-20260308 2 mine"_s)) << "past the other edge";
-    const QByteArray file = dataFile();
-    drag(pulse(), strip(u"202603071200"_s), strip(u"202603091200"_s));
-    EXPECT_EQ(dataFile(), file) << "its body is not dragged";
-}
-
-TEST_F(ChartPageTest, commentsAreDroppedIntoTheStripOfAShortPeriodOnly) {
-    openChart(u"20260301"_s, u"20260416"_s); // 46 days from the first to the last
-    auto& icon = page("CommentImageBtn");
-    drag(icon, {5, 5}, {5, 200});
-    drag(icon, {5, 5}, {6, 6});
-    EXPECT_TRUE(inFile().empty()) << "not in the strip";
-    send(icon, QEvent::MouseButtonPress, {5, 5});
-    send(icon, QEvent::MouseMove, icon.mapFromGlobal(pulse().mapToGlobal(strip(u"202603101200"_s))));
-    press(Qt::Key_Escape);
-    send(icon, QEvent::MouseButtonRelease, icon.mapFromGlobal(pulse().mapToGlobal(strip(u"202603101200"_s))));
-    EXPECT_TRUE(inFile().empty()) << "given up";
-    dropIcon(u"202603101200"_s);
-    EXPECT_EQ(inFile().size(), 1);
-    showDays(u"20260301"_s, u"20260417"_s);
-    dropIcon(u"202603121200"_s);
+void ChartPageTest::openChart(const QString& begin, const QString& end) {
+    open(new GraphViewController({store, period, panel}), {1200, 700});
+    showDays(begin, end);
+    QCoreApplication::processEvents();
     pulse().setFocus();
-    press(Qt::Key_Insert);
-    EXPECT_EQ(inFile().size(), 1);
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+void ChartPageTest::showDays(const QString& begin, const QString& end) {
+    period.setTimePeriod(at(begin + u"0000"_s), DateToDayBoundary(at(end + u"0000"_s), false));
+}
+
+QString ChartPageTest::shown() const { return spanOf(period.getTimePeriod()); }
+
+QStringList ChartPageTest::inFile() {
+    DataStore read(
+        {.home = home.path(), .applicationFolder = home.path(), .templateFolder = u":/templates"_s}, clock);
+    EXPECT_TRUE(read.load());
+    read.setCurrentID(u"P1"_s);
+    QStringList lines;
+    for (const auto& comment : read.getCommentForCurID())
+        lines += spanOf({*comment->beginDate, *comment->endDate})
+                 + u" %1 %2"_s.arg(comment->degree).arg(comment->comment);
+    return lines;
+}
+
+QPoint ChartPageTest::strip(const QString& time) {
+    constexpr int above = 22;
+    return {qRound(pulse().scale().time.calcXPos(at(time))), pulse().height() - above};
+}
+
+void ChartPageTest::send(QWidget& to, QEvent::Type type, QPoint where) {
+    const bool moves = type == QEvent::MouseMove;
+    QMouseEvent event(type, where, to.mapToGlobal(where), moves ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&to, &event);
+}
+
+void ChartPageTest::drag(QWidget& from, QPoint press, QPoint release) {
+    send(from, QEvent::MouseButtonPress, press);
+    send(from, QEvent::MouseMove, (press + release) / 2);
+    send(from, QEvent::MouseMove, release);
+    send(from, QEvent::MouseButtonRelease, release);
+}
+
+void ChartPageTest::dropIcon(const QString& time) {
+    auto& icon = page("CommentImageBtn");
+    drag(icon, {5, 5}, icon.mapFromGlobal(pulse().mapToGlobal(strip(time))));
+}
+
+void ChartPageTest::comment(const QString& words) {
+    typeComment(words);
+    press(Qt::Key_Tab);
+    pulse().setFocus();
 }
 
 TEST_F(ChartPageTest, aReadingsMarkShowsItsValuesInPlainWords) {
@@ -316,7 +156,11 @@ TEST_F(ChartPageTest, thePeriodIsMovedAndWidenedAndNarrowed) {
         {[&] { press(Qt::Key_Home); }, u"20260301-20260310"_s},
         {[&] { wheel(charts, middle, -2); }, u"20260303-20260312"_s},
         {[&] {
-             wheel(charts, {pulse().width() - 1, 20}, 1, Qt::ControlModifier);
+             wheel(charts, {pulse().width() - 1, 20}, -1, Qt::ControlModifier); // towards the user
+         },
+         u"20260301-20260312"_s},
+        {[&] {
+             wheel(charts, {pulse().width() - 1, 20}, 2, Qt::ControlModifier); // away: closer
          },
          u"20260305-20260312"_s},
         {[&] { press(Qt::Key_Minus); }, u"20260306-20260311"_s},
@@ -328,6 +172,9 @@ TEST_F(ChartPageTest, thePeriodIsMovedAndWidenedAndNarrowed) {
         steps.at(number).first();
         EXPECT_EQ(shown(), steps.at(number).second) << "step " << number;
     }
+    const auto left = [this](const char* name) { return page(name).x(); };
+    EXPECT_TRUE(left("minusDay") < left("lblDays") && left("lblDays") < left("addDay"))
+        << "fewer, days, more";
     showDays(u"20260301"_s, u"20260430"_s);
     EXPECT_FALSE(bar.isVisible()) << "everything is in view";
 }

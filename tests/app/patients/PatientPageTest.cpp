@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -257,6 +258,17 @@ TEST_F(PatientPageTest, aWriteErrorIsToldAndLosesNothing) {
     EXPECT_TRUE(panel.messages.first().contains(qtTrId("storedNotReadBack").section(u'%', 0, 0)));
 }
 
+TEST_F(PatientPageTest, noNewPatientIsBegunForAFileThatTakesNone) {
+    start();
+    QFile::rename(store.getZELXMLPath(), home.filePath(u"away.xml"_s));
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(panel.messages, QStringList(qtTrId("Warning") + u": "_s + qtTrId("XmlNotWritable")));
+    EXPECT_EQ(rows(), 2);
+    QFile::rename(home.filePath(u"away.xml"_s), store.getZELXMLPath());
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(rows(), 3);
+}
+
 TEST_F(PatientPageTest, thereIsOneUnsavedNewPatientWhoIsKeptUntilSavedOrDeleted) {
     start();
     beginNew(u"P3"_s, u"Clark"_s);
@@ -411,6 +423,29 @@ TEST_F(PatientPageTest, whatIsTypedOutlivesThePatientsRemovalByAnotherProgram) {
         EXPECT_EQ(store.getCurrentID(), u"P2"_s) << deletes;
         EXPECT_EQ(value("FamilyName"), u"Baker"_s) << deletes;
     }
+}
+
+TEST_F(PatientPageTest, savingAPatientWhomAnotherProgramRemovedTellsAndAddsOnlyThen) {
+    DataStore other({home.path(), home.path(), u":/templates"_s}, clock);
+    start();
+    type("PatientNotes", u"mine"_s);
+    ASSERT_TRUE(other.load());
+    ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+    save();
+    EXPECT_EQ(panel.messages.join(u'\n'),
+              qtTrId("Warning") + u": "_s + qtTrId("patientGone").arg(u"Kim Adams"_s));
+    EXPECT_FALSE(store.validIDinXML(u"P1"_s));
+    EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), u"mine"_s);
+    save();
+    EXPECT_EQ(patient(u"P1"_s).PatientNotes, u"mine"_s);
+    EXPECT_EQ(patient(u"P1"_s).FamilyName, u"Adams"_s);
+    panel.messages.clear();
+    ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+    save();
+    const StoreError gone{StoreErrorCode::noSuchRecord, u"P1"_s, {}};
+    EXPECT_EQ(panel.messages, QStringList(qtTrId("Warning") + u": "_s + describe(gone)))
+        << "nothing was typed";
+    EXPECT_EQ(store.getCurrentID(), u"P2"_s);
 }
 
 TEST_F(PatientPageTest, patientsOfOneIDAreNeitherChangedNorDeleted) {

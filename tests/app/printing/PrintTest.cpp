@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <QTest>
 
 namespace zel {
@@ -116,23 +117,34 @@ TEST_F(PrintTest, thePagesAreTurnedOneByOneWithinTheirLimits) {
     EXPECT_EQ(text("pageText"), u"2/3"_s);
     click("gotoNextPage");
     EXPECT_EQ(text("pageText"), u"3/3"_s);
-    choose(Section::comment);
-    EXPECT_EQ(text("pageText"), u"1/0"_s) << "another section begins at its first page";
+    choose(Section::SWStatistics);
+    EXPECT_EQ(text("pageText"), u"1/4"_s) << "another section begins at its first page";
 }
 
-TEST_F(PrintTest, anEmptyTableIsPageOneOfNoneAndIsNeitherPrintedNorSaved) {
+TEST_F(PrintTest, anEmptySectionSaysWhatIsMissingAndIsNeitherPrintedNorSaved) {
     storeReadings(1);
-    store.setCurrentID({});
+    openPrint(2);
+    const auto expectMissing = [this](const QString& what) {
+        EXPECT_EQ(text("pageText"), qtTrId("noPage"));
+        EXPECT_TRUE(page("noPage").isVisible());
+        EXPECT_EQ(page("noPage").accessibleName(), what);
+        for (const char* button : {"printAndClose", "savePdf", "gotoPreviousPage", "gotoNextPage"})
+            EXPECT_FALSE(page(button).isEnabled()) << button;
+        EXPECT_TRUE(page("printerSelection").isEnabled());
+        QTest::keyClick(printing, Qt::Key_Return);
+        QTest::keyClick(printing, Qt::Key_PageDown);
+    };
+    choose(Section::comment);
+    expectMissing(qtTrId("noCommentPage"));
+    choose(Section::table);
+    EXPECT_FALSE(page("noPage").isVisible());
+    EXPECT_TRUE(page("printAndClose").isEnabled() && page("savePdf").isEnabled());
+    period.setTimePeriod(period.getTimePeriod().end + std::chrono::days(3),
+                         period.getTimePeriod().end + std::chrono::days(4));
+    expectMissing(qtTrId("noneInPeriod"));
     addPatient(u"P2"_s, u"Baker"_s);
     store.setCurrentID(u"P2"_s);
-    openPrint(2);
-    EXPECT_EQ(text("pageText"), u"1/0"_s);
-    EXPECT_EQ(text("lblNote"), qtTrId("previewNoPage"));
-    click("printAndClose");
-    click("savePdf");
-    EXPECT_EQ(panel.messages, (QStringList{qtTrId("Warning") + u": "_s + qtTrId("printNoData"),
-                                           qtTrId("Warning") + u": "_s
-                                               + describe(ReportError{ReportErrorCode::noData, {}, {}})}));
+    expectMissing(qtTrId("NoData"));
     EXPECT_TRUE(printers.printed.empty());
     EXPECT_TRUE(chooser.asked.empty());
     EXPECT_TRUE(printing->isVisible());
@@ -155,13 +167,40 @@ TEST_F(PrintTest, thePractitionersDetailsAreShownAtOnce) {
     EXPECT_NE(preview(), without) << "opened anew";
 }
 
-TEST_F(PrintTest, withoutAPrinterOnlyTheFileCanBeHad) {
+TEST_F(PrintTest, withoutAPrinterTheFileCanBeHad) {
     printers.known.clear();
-    openPrint(0, PrintPurpose::pdf);
-    EXPECT_EQ(printing->windowTitle(), qtTrId("savePdf"));
-    EXPECT_FALSE(page("printAndClose").isEnabled());
-    QTest::keyClick(printing, Qt::Key_Return);
-    EXPECT_TRUE(pdf().startsWith("%PDF"));
+    for (const PrintPurpose purpose : {PrintPurpose::pdf, PrintPurpose::printer}) {
+        openPrint(0, purpose);
+        EXPECT_EQ(text("lblNote"), qtTrId("noPrinterNote"));
+        EXPECT_FALSE(page("printAndClose").isEnabled());
+        QFile::remove(chooser.pdf);
+        QTest::keyClick(printing, Qt::Key_Return);
+        EXPECT_TRUE(pdf().startsWith("%PDF"));
+    }
+    click("printerSelection");
+    EXPECT_EQ(panel.messages, QStringList(qtTrId("NoPrnter") + u": "_s + qtTrId("NoPrnterMsg")));
+    printers.known = {u"New"_s}; // set up meanwhile
+    click("printerSelection");
+    click("printerOK");
+    click("printAndClose");
+    EXPECT_EQ(said, qtTrId("printDone").arg(u"New"_s));
+}
+
+TEST_F(PrintTest, cancelBecomesCloseOnceAFileIsSaved) {
+    openPrint(0);
+    const auto& cancel = find<QPushButton>("cancelPrint");
+    const QString path = std::exchange(chooser.pdf, home.filePath(u"nowhere/report.pdf"_s));
+    click("savePdf");
+    EXPECT_EQ(cancel.text(), qtTrId("cancel")) << "nothing was saved";
+    chooser.pdf = path;
+    click("savePdf");
+    EXPECT_EQ(cancel.text(), qtTrId("closeWindow"));
+    EXPECT_EQ(cancel.accessibleName(), qtTrId("closeWindow"));
+    QTest::keyClick(printing, Qt::Key_Escape);
+    EXPECT_FALSE(printing->isVisible());
+    openPrint(0);
+    EXPECT_EQ(cancel.text(), qtTrId("cancel")) << "of this time's nothing is saved";
+    EXPECT_EQ(cancel.accessibleName(), qtTrId("cancelPrint"));
 }
 
 TEST_F(PrintTest, printsOnTheChosenPrinterAndSaysWhenItHasGone) {
@@ -270,6 +309,34 @@ TEST_F(PrintTest, paperShowsWhatTheScreenDoes) {
     EXPECT_EQ(source->lowerChart.iScaleBase, 33);
     const PrintView view(std::move(*source), QPageSize(QPageSize::A4));
     EXPECT_EQ(SystemPrinters().print(u"nowhere"_s, view, Section::table), PrintResult::noPrinter);
+}
+
+TEST_F(PrintTest, paperFollowsTheLocaleOfThePaper) {
+    using enum QPageSize::PageSizeId;
+    for (const auto& [locale, paper] : {std::pair("en_US.UTF-8", Letter),
+                                        {"fr_CA", Letter},
+                                        {"es_MX.UTF-8@x", Letter},
+                                        {"tl_PH", Letter},
+                                        {"en_GB.UTF-8", A4},
+                                        {"es_AR", A4},
+                                        {"de_DE@euro", A4},
+                                        {"C.UTF-8", A4},
+                                        {"en", A4},
+                                        {"", A4}})
+        EXPECT_EQ(usualPaper(QLatin1StringView(locale)).id(), paper) << locale;
+    const QByteArray own = qgetenv("LC_ALL");
+    for (const auto& [all, ofPaper, language, paper] : {std::tuple("", "", "en_US.UTF-8", Letter),
+                                                        {"", "de_DE.UTF-8", "en_US.UTF-8", A4},
+                                                        {"", "en_US.UTF-8", "de_DE.UTF-8", Letter},
+                                                        {"de_DE.UTF-8", "en_US.UTF-8", "en_US.UTF-8", A4}}) {
+        qputenv("LC_ALL", all);
+        qputenv("LC_PAPER", ofPaper);
+        qputenv("LANG", language);
+        EXPECT_EQ(SystemPrinters().paper(u"nowhere"_s).id(), paper) << all << ofPaper << language;
+    }
+    qputenv("LC_ALL", own);
+    qunsetenv("LC_PAPER");
+    qunsetenv("LANG");
 }
 
 TEST_F(PrintTest, everyControlSaysWhatItIs) {

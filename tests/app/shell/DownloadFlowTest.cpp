@@ -83,14 +83,27 @@ TEST_F(DownloadFlowTest, saysHowItEndedAndCanBeTriedAgain) {
     clock.stands = false;
     waitFor([this] { return !progress().isVisible(); });
     EXPECT_EQ(text("lblOutcome"), qtTrId("downloadCancelled"));
+    EXPECT_TRUE(page("PatientViewController").isVisible()) << "to be tried again there";
     EXPECT_TRUE(panel.messages.empty()) << "nobody is told of what he did himself";
     downloadAgain();
     EXPECT_EQ(panel.messages,
               QStringList(qtTrId("Warning") + u": "_s
                           + qtTrId("downloadFailed").arg(describe(MonitorResult::badCheckField))));
     EXPECT_TRUE(store.getReadingForCurID().empty());
+    EXPECT_TRUE(page("PatientViewController").isVisible());
+    store.getSetting().eraseRecAfterReading = 1;
+    ASSERT_TRUE(store.saveSetting());
+    port->keepsNothing = true;
     downloadAgain();
     EXPECT_EQ(store.getReadingForCurID().size(), 12U);
+    EXPECT_TRUE(page("GraphViewController").isVisible()) << "the monitor was not emptied, but readings came";
+    port->keepsNothing = false;
+    for (const QString& told :
+         {qtTrId("downloadNothingNew").arg(u"12 readings downloaded"_s), qtTrId("downloadEmpty")}) {
+        downloadAgain();
+        EXPECT_EQ(text("lblOutcome"), told);
+        EXPECT_TRUE(page("GraphViewController").isVisible()) << qPrintable(told);
+    }
 }
 
 TEST_F(DownloadFlowTest, doesNotHoldUpTheProgramsEnd) {

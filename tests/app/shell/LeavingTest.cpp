@@ -1,10 +1,13 @@
 #include "AppTest.h"
 #include "app/shell/TerminationSignals.h"
 
+#include <QDialog>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSignalSpy>
 
 #include <csignal>
+#include <functional>
 
 namespace zel {
 
@@ -110,6 +113,60 @@ TEST_F(LeavingTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
     EXPECT_EQ(panel.questions.size(), 1) << "asked once";
 }
 
+TEST_F(LeavingTest, whatIsTypedIsAskedAboutBeforeItIsPrinted) {
+    const QStringList asked(qtTrId("SavePatient"));
+    const auto print = [this] {
+        panel.questions.clear();
+        app->showPrint();
+        auto* window = app->mainWndow().findChild<QDialog*>(u"PrintController"_s);
+        const bool isOpen = window && window->isVisible();
+        if (isOpen) window->reject();
+        return isOpen;
+    };
+    start();
+    EXPECT_TRUE(print());
+    EXPECT_TRUE(panel.questions.empty());
+    type("FamilyName", u"Clark"_s);
+    panel.cancelsSaving = true;
+    EXPECT_FALSE(print());
+    panel.cancelsSaving = false;
+    panel.answers[asked[0]] = false;
+    EXPECT_TRUE(print());
+    EXPECT_EQ(panel.questions, asked);
+    EXPECT_EQ(value("FamilyName"), u"Clark"_s) << "it is left unsaved, not given up";
+    EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, u"Adams"_s);
+    panel.answers[asked[0]] = true;
+    EXPECT_TRUE(print());
+    EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, u"Clark"_s);
+    type("FamilyName", u"-"_s);
+    EXPECT_FALSE(print()) << "it cannot be saved";
+}
+
+TEST_F(LeavingTest, cancelStaysWithWhatIsTyped) {
+    addPatient(u"P2"_s, u"Baker"_s);
+    start();
+    type("FamilyName", u"Clark"_s);
+    panel.cancelsSaving = true;
+    const QSignalSpy closed(app.get(), &AppController::closed);
+    for (const auto& leave : std::initializer_list<std::function<void()>>{
+             [this] { app->mainWndow().close(); }, [this] { click("graphBtn"); },
+             [this] { click("btnNewPatient"); },
+             [this] {
+                 page("tblPatients").setFocus();
+                 press(Qt::Key_Down);
+                 QCoreApplication::processEvents(); // what is asked comes after the key
+             }}) {
+        panel.questions.clear();
+        leave();
+        EXPECT_EQ(panel.questions, QStringList(qtTrId("SavePatient")));
+        EXPECT_EQ(store.getCurrentID(), u"P1"_s);
+        EXPECT_TRUE(page("PatientViewController").isVisible());
+        EXPECT_EQ(value("FamilyName"), u"Clark"_s);
+    }
+    EXPECT_TRUE(closed.empty());
+    EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, u"Adams"_s);
+}
+
 TEST_F(LeavingTest, beingEndedFromOutsideSavesWhatWasTyped) {
     TerminationSignals termination;
     termination.watch();
@@ -144,6 +201,22 @@ TEST_F(LeavingTest, theEndSavesEveryPatientThatWasTyped) {
     panel.questions.clear();
     start();
     EXPECT_TRUE(panel.questions.empty()) << "nothing is left to be offered";
+}
+
+TEST_F(LeavingTest, beingEndedFromOutsideBringsNobodyBackWhomAnotherProgramRemoved) {
+    start();
+    type("PatientNotes", u"mine"_s);
+    DataStore other({home.path(), home.path(), u":/templates"_s}, clock);
+    ASSERT_TRUE(other.load());
+    ASSERT_TRUE(other.deleteXMLPatient(u"P1"_s));
+    app->terminate();
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_FALSE(store.validIDinXML(u"P1"_s));
+    panel.questions.clear();
+    start();
+    EXPECT_EQ(panel.questions, QStringList(qtTrId("unsavedTitle"))) << "offered as a new patient";
+    EXPECT_EQ(value("ID"), u"P1"_s);
+    EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), u"mine"_s);
 }
 
 TEST_F(LeavingTest, whatCannotBeSavedAtTheEndIsOfferedAtTheNextStart) {

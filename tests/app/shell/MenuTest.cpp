@@ -3,9 +3,13 @@
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
+#include <QListWidget>
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTextBlock>
+#include <QTextBrowser>
 
 namespace zel {
 
@@ -75,15 +79,15 @@ TEST_F(MenuTest, eachTabPrintsWhatIsOnIt) {
     EXPECT_EQ(text("lblOutcome"), qtTrId("printDone").arg(u"Office"_s));
 }
 
-TEST_F(MenuTest, withoutAPrinterOnlyTheFileCanBeHad) {
+TEST_F(MenuTest, withoutAPrinterThePreviewOpensAllTheSame) {
     addPatient(u"P1"_s, u"Adams"_s);
     printers.known.clear();
     start();
     press(Qt::Key_P, Qt::ControlModifier);
-    EXPECT_EQ(panel.messages, QStringList(qtTrId("NoPrnter") + u": "_s + qtTrId("NoPrnterMsg")));
-    EXPECT_FALSE(window().findChild<QWidget*>(u"PrintController"_s));
-    press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(page("PrintController").isVisible());
+    EXPECT_TRUE(panel.messages.empty());
+    click("savePdf");
+    EXPECT_EQ(chooser.asked, QStringList(u"P1-PatientProfile.pdf"_s));
 }
 
 TEST_F(MenuTest, settingsActAtOnceOnThePages) {
@@ -152,14 +156,63 @@ TEST_F(MenuTest, helpOpensTheManual) {
     ASSERT_TRUE(manual.open(QFile::ReadOnly));
     EXPECT_TRUE(manual.readAll().startsWith("%PDF"));
     EXPECT_TRUE(panel.messages.empty());
-    hasViewer = false;
-    press(Qt::Key_F1);
-    EXPECT_EQ(panel.messages,
-              QStringList(qtTrId("OpenHelpErrorTitle") + u": "_s + qtTrId("OpenHelpErrorMsg")));
+    EXPECT_FALSE(window().findChild<QWidget*>(u"HelpWindow"_s));
     const QString blocked = home.filePath(u"file"_s);
     QFile(blocked).open(QFile::WriteOnly);
     EXPECT_TRUE(unpackHelp(u":/help.pdf"_s, blocked).isEmpty());
     EXPECT_TRUE(unpackHelp(u":/none.pdf"_s, home.path()).isEmpty());
+}
+
+TEST_F(MenuTest, withoutAViewerTheManualHasAWindowOfItsOwn) {
+    hasViewer = false;
+    start();
+    press(Qt::Key_F1);
+    EXPECT_TRUE(panel.messages.empty());
+    auto& help = find<QDialog>("HelpWindow");
+    ASSERT_TRUE(help.isVisible());
+    EXPECT_FALSE(help.isModal()) << "it is read beside the program";
+    expectNamed(help);
+    auto& chapters = find<QListWidget>("chapters");
+    auto& manual = find<QTextBrowser>("manual");
+    ASSERT_GT(chapters.count(), 5);
+    for (int row = 0; row < chapters.count() - 2; ++row) { // the last ones have too little below them
+        chapters.setCurrentRow(row);
+        const QTextCursor top = manual.cursorForPosition({20, 8});
+        EXPECT_EQ(top.block().text(), chapters.item(row)->text());
+    }
+    const QUrl picture(u"screenshots/print.png"_s);
+    const auto shown = manual.document()->resource(QTextDocument::ImageResource, picture).value<QImage>();
+    EXPECT_GT(shown.height(), 100);
+    EXPECT_LE(shown.width() / shown.devicePixelRatio(), manual.viewport()->width());
+    QTest::keyClick(&help, Qt::Key_Escape);
+    EXPECT_FALSE(help.isVisible());
+    press(Qt::Key_F1);
+    EXPECT_TRUE(help.isVisible());
+}
+
+TEST_F(MenuTest, theDesktopIsAskedWhetherItShowsPdfFiles) {
+    const QByteArray before = qgetenv("PATH");
+    const auto withTool = [&](const QByteArray& script) {
+        QFile tool(home.filePath(u"xdg-mime"_s));
+        EXPECT_TRUE(tool.open(QFile::WriteOnly));
+        tool.write("#!/bin/sh\n" + script);
+        tool.close();
+        tool.setPermissions(tool.permissions() | QFile::ExeOwner);
+        return hasPdfViewer();
+    };
+    qputenv("PATH", QFile::encodeName(home.path()));
+    EXPECT_TRUE(hasPdfViewer()) << "nobody to be asked";
+    EXPECT_FALSE(withTool("[ \"$*\" = 'query default application/pdf' ] && echo"));
+    EXPECT_TRUE(withTool("[ \"$*\" = 'query default application/pdf' ] && echo viewer.desktop"));
+    qputenv("PATH", before);
+}
+
+TEST_F(MenuTest, aboutSaysVersionLicenceAndWhereTheDataLie) {
+    start();
+    window().findChild<QAction*>(u"showAbout"_s)->trigger();
+    ASSERT_EQ(panel.messages.size(), 1);
+    for (const QString& part : {QString(QLatin1String(ZEL_VERSION)), store.getZELXMLPath(), u"Licence"_s})
+        EXPECT_TRUE(panel.messages.first().contains(part)) << qPrintable(part);
 }
 
 } // namespace zel

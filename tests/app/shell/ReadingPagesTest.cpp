@@ -4,9 +4,12 @@
 #include "store/FileLock.h"
 #include "support/ReadingPageTest.h"
 
+#include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QToolButton>
@@ -80,6 +83,60 @@ TEST_F(ReadingPagesTest, theMarkColumnIsTitledByTheAttachedMonitor) {
     EXPECT_EQ(model->headerData(ReadingTableModel::mark, Qt::Horizontal).toString(), qtTrId("afib"));
 }
 
+TEST_F(ReadingPagesTest, paperShowsWhatThePagesDo) {
+    ReadingModel plain = reading(u"202603010800"_s, 121), evening = reading(u"202603012000"_s, 131);
+    plain.Arrhythmia = evening.Arrhythmia = 0; // of a monitor that knows none: the attached one decides
+    storeReadings(u"P1"_s, {plain, evening});
+    plan.model = "41";
+    startsPlugged = true;
+    printers.known = {u"Office"_s};
+    startConnected();
+    struct Shown {
+        bool mam, pad, isAfib;
+        int bloodBase, pulseBase;
+        ViewSelection view;
+        int section;
+        bool operator==(const Shown&) const = default;
+    };
+    Shown onPaper{};
+    printers.whenPrinted = [&](const PrintView& view) {
+        const ReportSource& report = view.report();
+        onPaper = {report.getShowMam,
+                   report.getShowPad,
+                   report.getIsAfib,
+                   report.bloodChart.iScaleBase,
+                   report.lowerChart.iScaleBase,
+                   report.lowerChart.showDataType,
+                   find<QComboBox>("printOption").currentIndex()};
+    };
+    const auto print = [&] {
+        press(Qt::Key_P, Qt::ControlModifier);
+        click("printAndClose");
+        return onPaper;
+    };
+    click("graphBtn");
+    const Shown first = print();
+    EXPECT_TRUE(first
+                == (Shown{true, true, true, startScaleBase, startScaleBase, ViewSelection::viewAll, 0}));
+    find<QScrollBar>("bloodScroller").setValue(0);
+    Shown next = print();
+    EXPECT_NE(next.bloodBase, first.bloodBase);
+    EXPECT_EQ(next.pulseBase, first.pulseBase);
+    find<QScrollBar>("pulseScroller").setValue(0);
+    EXPECT_NE(print().pulseBase, first.pulseBase);
+    click("toggleCorrelation");
+    EXPECT_EQ(print().section, 2);
+    click("tableBtn");
+    for (const auto& [box, shown] : {std::pair("btnShowMam", &Shown::mam), {"btnShowPad", &Shown::pad}}) {
+        for (const bool isShown : {false, true}) {
+            clickPart(box);
+            EXPECT_EQ(print().*shown, isShown) << box;
+        }
+    }
+    clickPart("pmOnly");
+    EXPECT_EQ(print().view, ViewSelection::pmOnly);
+}
+
 TEST_F(ReadingPagesTest, aNewlyChosenPatientOpensInTheViewThatSuitsTheData) {
     storeYear();
     storeReadings(u"P2"_s, {reading(u"202602010800"_s, 141), reading(u"202603010800"_s, 142)});
@@ -113,6 +170,21 @@ TEST_F(ReadingPagesTest, readingsThatAreAddedElsewhereComeIntoView) {
     EXPECT_EQ(dayIn("endDay"), u"12/03/2026"_s) << "days that were picked stay";
     clickPart("viewAll");
     EXPECT_EQ(lastSystolic(), u"134"_s);
+}
+
+TEST_F(ReadingPagesTest, movingTheChartEndsTheChoiceOfAllDays) {
+    storeComments();
+    openTable();
+    for (const char* mover : {"minusDay", "addDay"}) {
+        clickPart("viewAll");
+        clickPart("btnAverage");
+        click("graphBtn");
+        click(mover);
+        click("tableBtn");
+        EXPECT_FALSE(part<QRadioButton>("viewAll").isChecked()) << mover;
+        EXPECT_FALSE(part<QCheckBox>("btnViewAll").isChecked()) << mover;
+        EXPECT_FALSE(period.getIncludeNoDatetimeData()) << mover;
+    }
 }
 
 TEST_F(ReadingPagesTest, whatIsTypedIsSavedWhenThePageIsLeft) {

@@ -160,10 +160,14 @@ TEST_F(WindowTest, tabsHaveTheirImages) {
 }
 
 TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {
+    const QByteArray whole = dataFile();
     replaceDataFile("<ZEL><Patient>");
     loaded = store.loadXML();
     startsPlugged = false;
+    bool isSplashed = false;
+    panel.whenShown = [&] { isSplashed = app->mainWndow().findChild<QWidget*>(u"splash"_s) != nullptr; };
     start();
+    EXPECT_FALSE(isSplashed) << "the message comes first";
     ASSERT_EQ(panel.messages.size(), 1);
     EXPECT_EQ(panel.messages.first(), qtTrId("dataFileUnreadable") + u": "_s + describe(loaded.error()));
     EXPECT_TRUE(page("noPatients").isVisible());
@@ -172,6 +176,14 @@ TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {
     EXPECT_TRUE(!labels.empty() && std::ranges::none_of(labels, isEmptyRoster)) << "none is pretended";
     EXPECT_FALSE(page("graphBtn").isEnabled() || page("tableBtn").isEnabled());
     EXPECT_EQ(dataFile(), "<ZEL><Patient>");
+    click("btnNewPatient");
+    EXPECT_EQ(panel.messages.size(), 2);
+    EXPECT_TRUE(page("noPatients").isVisible()) << "none is typed that could not be saved";
+    replaceDataFile(whole);
+    click("btnNewPatient");
+    EXPECT_EQ(panel.messages.size(), 2);
+    EXPECT_TRUE(page("FamilyName").isVisible()) << "the file has been mended";
+    EXPECT_TRUE(page("tableBtn").isEnabled());
 }
 
 TEST_F(WindowTest, quitDuringAMessageAtStartShowsNothingMore) {

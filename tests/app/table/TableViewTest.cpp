@@ -205,6 +205,16 @@ TEST_F(TableViewTest, aDayWithoutReadingsGoesWithItsComment) {
     EXPECT_EQ(systolic().size(), 3);
 }
 
+TEST_F(TableViewTest, daysThatAreTooManyForTheListAreTold) {
+    storeReadings(u"P1"_s, {reading(u"190001010800"_s, 121), reading(u"202603010800"_s, 122)});
+    addComment(u"1"_s, u"19000101"_s, u"20260301"_s, u"of another century"_s);
+    openTable();
+    const QString told = u"at most 36525"_s;
+    EXPECT_FALSE(text("lblDetail").contains(told)) << "in the last months they are all there";
+    clickPart("viewAll");
+    EXPECT_TRUE(text("lblDetail").contains(told)) << qPrintable(text("lblDetail"));
+}
+
 TEST_F(TableViewTest, savingACommentLeavesTheListWhereItIs) {
     ReadingList month;
     for (int day = 10; day < 28; ++day)

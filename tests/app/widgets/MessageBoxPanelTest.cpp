@@ -51,6 +51,12 @@ TEST(MessageBoxPanelTest, escAndTheCloseBoxAnswerWhatChangesNothing) {
              return answer == KeepAnswer::cancel ? u"cancel"_s : u"other"_s;
          },
          u"cancel"_s, u"cancel"_s},
+        {"saving",
+         [&] {
+             const SaveAnswer answer = panel.AskToSave(u"text"_s, u"title"_s);
+             return answer == SaveAnswer::cancel ? u"cancel"_s : word(answer == SaveAnswer::save);
+         },
+         u"cancel"_s, u"yes"_s},
     };
     for (const Case& one : cases) {
         SCOPED_TRACE(one.what);
@@ -74,6 +80,11 @@ TEST(MessageBoxPanelTest, escAndTheCloseBoxAnswerWhatChangesNothing) {
          {std::pair("btnKeep", KeepAnswer::keep), std::pair("btnErase", KeepAnswer::erase)}) {
         onBox([button = button](QWidget& box) { pressButton(box, button); });
         EXPECT_EQ(panel.AskToKeep(u"text"_s, u"title"_s), answer);
+    }
+    for (const auto& [button, answer] :
+         {std::pair("btnSave", SaveAnswer::save), std::pair("btnDiscard", SaveAnswer::discard)}) {
+        onBox([button = button](QWidget& box) { pressButton(box, button); });
+        EXPECT_EQ(panel.AskToSave(u"text"_s, u"title"_s), answer);
     }
     onBox([](QWidget& box) { pressButton(box, "btnNo"); });
     EXPECT_FALSE(panel.AskBeforeLosing(u"text"_s, u"title"_s));

@@ -1,0 +1,41 @@
+#include "analysis/ReadingCount.h"
+
+#include <QStringList>
+
+namespace zel {
+
+namespace {
+
+int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection& selection) {
+    if (hasUndatedMarker(reading) && !selection.includeUndated) return &ReadingCount::undated;
+    if (reading.isUndated()) return &ReadingCount::withoutDate;
+    if (!selection.period.contains(*reading.ReadingDate)) return &ReadingCount::outsidePeriod;
+    return reading.isPMData ? &ReadingCount::fromNoon : &ReadingCount::beforeNoon;
+}
+
+} // namespace
+
+ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& selection, CountRule rule) {
+    ReadingCount count;
+    for (const ReadingModel& reading : readings)
+        ++(count.*(rule(reading, selection) ? &ReadingCount::counted : reasonFor(reading, selection)));
+    return count;
+}
+
+QString describeLeftOut(const ReadingCount& count) {
+    QStringList reasons;
+    if (count.outsidePeriod > 0) reasons += qtTrId("leftOutsidePeriod", count.outsidePeriod);
+    if (count.beforeNoon > 0) reasons += qtTrId("leftBeforeNoon", count.beforeNoon);
+    if (count.fromNoon > 0) reasons += qtTrId("leftFromNoon", count.fromNoon);
+    if (count.undated > 0) reasons += qtTrId("leftUndated", count.undated);
+    if (count.withoutDate > 0) reasons += qtTrId("leftWithoutDate", count.withoutDate);
+    return reasons.isEmpty() ? QString() : qtTrId("leftOut").arg(reasons.join(QStringLiteral(", ")));
+}
+
+QString describe(const ReadingCount& count) {
+    const QString counted = qtTrId("readingCount", count.counted);
+    const QString left = describeLeftOut(count);
+    return left.isEmpty() ? counted : counted + QStringLiteral("; ") + left;
+}
+
+} // namespace zel

@@ -1,0 +1,81 @@
+#include "app/printing/PrintQueue.h"
+
+#include <QLibrary>
+#include <QTemporaryFile>
+
+#include <memory>
+
+namespace zel {
+
+namespace {
+
+// QPrinter hands on whatever it has when painting ends, also half a document after a full disk, and has no
+// means to take that back. So the queue is asked itself, by the library that Qt's own printing stands on.
+
+struct CupsOption {
+    char* name;
+    char* value;
+};
+struct CupsDestination {
+    char *name, *instance;
+    int isDefault, optionTotal;
+    CupsOption* options;
+};
+
+/// The functions of libcups that are needed; null where the library is missing.
+class Cups {
+public:
+    Cups()
+        : library(QStringLiteral("cups"), 2),
+          getNamedDest(reinterpret_cast<GetNamedDest>(library.resolve("cupsGetNamedDest"))),
+          freeDests(reinterpret_cast<FreeDests>(library.resolve("cupsFreeDests"))),
+          addOption(reinterpret_cast<AddOption>(library.resolve("cupsAddOption"))),
+          printFile(reinterpret_cast<PrintFile>(library.resolve("cupsPrintFile"))) {}
+
+    [[nodiscard]] bool isThere() const { return getNamedDest && freeDests && addOption && printFile; }
+    [[nodiscard]] auto destination(const QByteArray& printer) const {
+        const auto release = [free = freeDests](CupsDestination* one) { free(1, one); };
+        return std::unique_ptr<CupsDestination, decltype(release)>(
+            getNamedDest(nullptr, printer.constData(), nullptr), release);
+    }
+    void add(CupsDestination& to, const char* name, const QByteArray& value) const {
+        to.optionTotal = addOption(name, value.constData(), to.optionTotal, &to.options);
+    }
+    [[nodiscard]] bool print(const CupsDestination& on, const QString& path, const QString& title) const {
+        return printFile(on.name, path.toLocal8Bit().constData(), title.toUtf8().constData(), on.optionTotal,
+                         on.options)
+               != 0;
+    }
+
+private:
+    using GetNamedDest = CupsDestination* (*)(void* server, const char* name, const char* instance);
+    using FreeDests = void (*)(int total, CupsDestination* destinations);
+    using AddOption = int (*)(const char* name, const char* value, int total, CupsOption** options);
+    using PrintFile = int (*)(const char* printer, const char* path, const char* title, int total,
+                              const CupsOption* options);
+
+    QLibrary library;
+    GetNamedDest getNamedDest;
+    FreeDests freeDests;
+    AddOption addOption;
+    PrintFile printFile;
+};
+
+bool writeWhole(QTemporaryFile& file, const QByteArray& content) {
+    return file.open() && file.write(content) == content.size() && file.flush();
+}
+
+} // namespace
+
+bool queueJob(const QString& printer, const PrintJob& job) {
+    const Cups cups;
+    QTemporaryFile file;
+    if (!cups.isThere() || !writeWhole(file, job.pdf)) return false;
+    const auto destination = cups.destination(printer.toUtf8());
+    if (!destination) return false;
+    cups.add(*destination, "media", job.paper.key().toUtf8());
+    if (job.orientation == QPageLayout::Landscape) cups.add(*destination, "landscape", "true");
+    return cups.print(*destination, file.fileName(), job.title);
+}
+
+} // namespace zel

@@ -1,0 +1,113 @@
+#include "app/shell/HelpWindow.h"
+
+#include <QFile>
+#include <QListWidget>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextTable>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int chapterLevel = 2; ///< of the manual's headings
+
+QString manualText() {
+    QFile file(u":/manual/manual.md"_s);
+    return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Lines between the rows, and room around the words.
+void dressTable(QTextTable& table) {
+    QTextTableFormat format = table.format();
+    format.setBorderCollapse(true);
+    format.setBorder(1);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    format.setBorderBrush(Qt::lightGray);
+    format.setCellPadding(4);
+    table.setFormat(format);
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(QWidget* parent)
+    : QDialog(parent), chapters(new QListWidget(this)), manual(new QTextBrowser(this)) {
+    setObjectName(u"HelpWindow"_s);
+    setWindowTitle(qtTrId("manualTitle"));
+    setAccessibleName(windowTitle());
+    build();
+    manual->setSearchPaths({u":/manual"_s});
+    manual->setMarkdown(manualText());
+    for (QTextFrame* frame : manual->document()->rootFrame()->childFrames())
+        if (auto* table = qobject_cast<QTextTable*>(frame)) dressTable(*table);
+    fitPictures();
+    listChapters();
+    connect(chapters, &QListWidget::currentRowChanged, this, &HelpWindow::goTo);
+}
+
+void HelpWindow::build() {
+    chapters->setObjectName(u"chapters"_s);
+    chapters->setAccessibleName(qtTrId("manualChapters"));
+    chapters->setSpacing(2);
+    manual->setObjectName(u"manual"_s);
+    manual->setAccessibleName(qtTrId("manualTitle"));
+    manual->setOpenExternalLinks(false);
+    manual->document()->setDocumentMargin(16);
+    auto* sides = new QSplitter(this);
+    sides->setChildrenCollapsible(false);
+    sides->addWidget(chapters);
+    sides->addWidget(manual);
+    sides->setStretchFactor(0, 1);
+    sides->setStretchFactor(1, 4);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(sides);
+    const int letter = fontMetrics().averageCharWidth();
+    resize(QSize(letter * 150, letter * 100).boundedTo(screen()->availableSize() - QSize(0, 40)));
+}
+
+/// None is wider than the text. They are scaled here, since the browser would leave out lines of their
+/// pixels.
+void HelpWindow::fitPictures() {
+    const double density = devicePixelRatioF();
+    const int widest = static_cast<int>(fontMetrics().averageCharWidth() * 90 * density);
+    for (QTextBlock block = manual->document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
+            if (!picture.isValid()) continue;
+            const QImage whole(u":/manual/"_s + picture.name());
+            QImage fitting = whole.scaledToWidth(widest, Qt::SmoothTransformation);
+            fitting.setDevicePixelRatio(density);
+            manual->document()->addResource(QTextDocument::ImageResource, QUrl(picture.name()), fitting);
+        }
+    }
+}
+
+void HelpWindow::listChapters() {
+    for (QTextBlock block = manual->document()->begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() != chapterLevel) continue;
+        auto* chapter = new QListWidgetItem(block.text(), chapters);
+        chapter->setData(Qt::UserRole, block.position());
+    }
+}
+
+void HelpWindow::goTo(int chapter) {
+    const QListWidgetItem* chosen = chapters->item(chapter);
+    if (!chosen) return;
+    QTextCursor cursor(manual->document());
+    cursor.setPosition(chosen->data(Qt::UserRole).toInt());
+    manual->setTextCursor(cursor);
+    const int top = manual->cursorRect(cursor).top(); // in the part that is in view
+    manual->verticalScrollBar()->setValue(manual->verticalScrollBar()->value() + top);
+}
+
+} // namespace zel

@@ -1,0 +1,41 @@
+#pragma once
+// Which readings a picture's scales have no room for: they are counted, and the picture says so.
+
+#include "chart/Picture.h"
+
+#include <cstdint>
+#include <initializer_list>
+
+namespace zel {
+
+/// What a scale shows, both ends included.
+struct ScaleRange {
+    std::int64_t least = 0;
+    std::int64_t most = 0;
+
+    bool operator==(const ScaleRange&) const = default;
+};
+
+/// Readings beyond the ends of a picture's scales.
+struct OffScale {
+    int above = 0;
+    int below = 0;
+
+    bool operator==(const OffScale&) const = default;
+};
+
+struct ScaledValue {
+    std::uint32_t value = 0;
+    ScaleRange scale;
+};
+
+/// Adds one reading, by those of its values that the picture shows: on each side once, and only where one of
+/// them lies.
+void countOffScale(OffScale& counts, std::initializer_list<ScaledValue> reading);
+
+/// "3 readings above the scale, 1 reading below the scale"; empty for none.
+[[nodiscard]] QString offScaleText(const OffScale& counts);
+/// The same in the top right corner of \p room, in fewer words where there is less room.
+void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room);
+
+} // namespace zel

@@ -1,0 +1,56 @@
+#include "analysis/ReadingCount.h"
+
+#include "analysis/Histogram.h"
+#include "analysis/Sample.h"
+#include "analysis/Statistic.h"
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+/// Of March 2019: two in the morning, one later. Beside: one of April, two undated, one of the year 1, and
+/// one whose file gives no date.
+ReadingList marchAndOthers() {
+    ReadingList readings = readingsAt({"2000-01-01", "2019-03-02 08:00", "2019-03-02 11:59", "0001-01-01",
+                                       "2019-03-31 12:00", "2019-04-01", "2000-01-01 09:00", "2019-03-03"});
+    readings.back().ReadingDate = std::nullopt;
+    readings.back().postInit(nullptr, {}, LocalZone{});
+    return readings;
+}
+
+struct CountCase {
+    ViewSelection view;
+    bool includeUndated;
+    ReadingCount list;
+    ReadingCount statistic;
+};
+
+const CountCase countCases[] = {
+    {ViewSelection::custom, false, {3, 1, 0, 0, 3, 1}, {3, 1, 0, 0, 3, 1}},
+    {ViewSelection::custom, true, {6, 1, 0, 0, 0, 1}, {5, 1, 0, 0, 0, 2}},
+    {ViewSelection::amOnly, false, {2, 1, 0, 1, 3, 1}, {3, 1, 0, 0, 3, 1}},
+    {ViewSelection::pmOnly, true, {4, 1, 2, 0, 0, 1}, {5, 1, 0, 0, 0, 2}},
+};
+
+TEST(ReadingCount, SaysWhatEachViewShowsAndWhyItLeavesTheOthersOut) {
+    const ReadingList readings = marchAndOthers();
+    for (const CountCase& c : countCases) {
+        SCOPED_TRACE(static_cast<int>(c.view));
+        Sample sample;
+        sample.selection = during("2019-03-01", "2019-03-31");
+        sample.selection.view = c.view;
+        sample.selection.includeUndated = c.includeUndated;
+        sample.readings = readings;
+        EXPECT_EQ(countReadings(readings, sample.selection, isListed), c.list);
+        EXPECT_EQ(countReadings(readings, sample.selection, isInStatistic), c.statistic);
+        EXPECT_EQ(sample.rows().rows.size(), static_cast<std::size_t>(c.list.counted));
+        EXPECT_EQ(calcStatistic(readings, sample.selection, true).count,
+                  static_cast<float>(c.statistic.counted));
+        EXPECT_EQ(calcHistogram(readings, sample.selection).total,
+                  static_cast<float>(countReadings(readings, sample.selection, isCounted).counted));
+    }
+}
+
+} // namespace
+} // namespace zel

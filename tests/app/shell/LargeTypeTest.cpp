@@ -1,0 +1,112 @@
+#include "AppTest.h"
+#include "app/shell/WindowPlacement.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How large a window is in the pixels of its type: a small screen of 1366 x 768 at 175 %.
+struct Room {
+    const char* what;
+    double type; ///< times the usual size
+    QSize size;
+};
+constexpr Room rooms[]{{"the desktop enlarges all", 1, {780, 426}}, {"large type alone", 1.75, {1366, 745}}};
+
+/// The program with readings and a comment, in a room of the test's choice.
+class LargeTypeTest : public AppTest {
+protected:
+    LargeTypeTest() {
+        addPatient(u"P1"_s, u"Adams"_s);
+        printers.known = {u"Office"_s};
+    }
+    ~LargeTypeTest() override { QApplication::setFont(usual); }
+
+    void openIn(const Room& room) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * room.type);
+        QApplication::setFont(font);
+        startConnected();
+        download();
+        app->mainWndow().setWindowState(Qt::WindowNoState);
+        app->mainWndow().setMinimumSize(leastSize(room.size));
+        app->mainWndow().resize(room.size);
+        settle();
+        ASSERT_EQ(app->mainWndow().size(), room.size);
+    }
+    static void settle() {
+        for (int i = 0; i < 5; ++i) // a layout that changes others needs its turns
+            QCoreApplication::processEvents();
+    }
+
+    const QFont usual = QApplication::font();
+};
+
+bool isScrolled(const QWidget& inside) {
+    const QWidget* around = inside.parentWidget();
+    return around && qobject_cast<const QAbstractScrollArea*>(around->parentWidget());
+}
+
+/// Words that have less room than they take, or stand outside of what holds them.
+bool isCut(const QWidget& one) {
+    if (!isScrolled(one) && !one.parentWidget()->rect().contains(one.geometry())) return true;
+    const auto* label = qobject_cast<const QLabel*>(&one);
+    const bool isShort = label && label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+    if (isShort
+        || (!label && !qobject_cast<const QAbstractButton*>(&one) && !qobject_cast<const QComboBox*>(&one)))
+        return false; // what a tool tip says in full, and what scrolls its text
+    const QSize least = one.minimumSizeHint();
+    const int height = label && label->wordWrap() ? label->heightForWidth(one.width()) : least.height();
+    return one.width() < least.width() || one.height() < height;
+}
+
+void expectNothingCut(const QWidget& window) {
+    for (const QWidget* one : window.findChildren<QWidget*>()) {
+        if (!one->isVisible() || one->window() != &window || one->objectName().startsWith(u"qt_"_s)) continue;
+        EXPECT_FALSE(isCut(*one)) << one->metaObject()->className() << ' ' << qPrintable(one->objectName())
+                                  << ' ' << one->width() << 'x' << one->height() << " of "
+                                  << one->minimumSizeHint().width() << 'x' << one->minimumSizeHint().height();
+    }
+}
+
+} // namespace
+
+TEST_F(LargeTypeTest, nothingIsCutOnASmallScreen) {
+    for (const Room& room : rooms) {
+        SCOPED_TRACE(room.what);
+        openIn(room);
+        for (const char* button :
+             {"patientBtn", "tableBtn", "graphBtn", "toggleHistogram", "toggleCorrelation"}) {
+            SCOPED_TRACE(button);
+            click(button);
+            settle();
+            expectNothingCut(app->mainWndow());
+            const auto& body = find<QScrollArea>("bodyScroll");
+            EXPECT_EQ(body.verticalScrollBar()->maximum(), 0);
+            EXPECT_EQ(body.horizontalScrollBar()->maximum(), 0);
+        }
+        app->showPrint();
+        app->showSetting();
+        for (const char* name : {"PrintController", "SettingController"}) {
+            SCOPED_TRACE(name);
+            auto& dialog = find<QDialog>(name);
+            settle();
+            expectNothingCut(dialog);
+            EXPECT_LE(dialog.width(), dialog.screen()->availableSize().width());
+            EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
+            dialog.reject();
+        }
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,131 @@
+// Texts that are longer than the place that a page has for them.
+#include "SampleReport.h"
+#include "chart/Drawing.h"
+#include "report/FieldText.h"
+#include "report/TextPages.h"
+
+#include <QRegularExpression>
+
+#include <gmock/gmock.h>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using testing::ElementsAre;
+
+/// Words that are told apart, so that none can be lost.
+QString numberedWords(const QString& word, int total) {
+    QStringList words;
+    for (int i = 1; i <= total; ++i)
+        words += word + QString::number(i);
+    return words.join(u' ');
+}
+
+/// Of the bodies of a section's pages, all of which must lie above the footer.
+QString textOfBody(const PrintView& view, Section section, int from = 1) {
+    const PageGeometry at = view.geometry(section);
+    QStringList lines;
+    for (int page = from; page <= view.getTotalPages(section); ++page)
+        for (const TextLine& line : textsOf(view.page(section, page))) {
+            if (line.origin.y >= at.drawingRect.top()) continue;
+            const bool isInFooter = line.origin.y + 12 < at.footerRect.top();
+            EXPECT_TRUE(isInFooter || line.origin.y >= at.footerRect.top() - 0.01) << qPrintable(line.text);
+            if (!isInFooter) lines += line.text;
+        }
+    return lines.join(u' ');
+}
+
+TEST(LongText, noLineBeginsWithTheBlankThatItWasBrokenAt) {
+    const TextAttribute plain;
+    const double width = textSize(u"one two"_s, plain).width + 1;
+    EXPECT_EQ(
+        wrapped(u"one two three  four\n\n  five\r\nsix   \nseven"_s, width, plain),
+        (QStringList{u"one two"_s, u"three"_s, u"four"_s, QString(), u"  five"_s, u"six   "_s, u"seven"_s}));
+    EXPECT_EQ(wrapped(u"one two   \nthree"_s, width, plain), (QStringList{u"one two"_s, u"three"_s}))
+        << "the end of a line that is full is no line of its own";
+    EXPECT_EQ(wrapped(u"one two three"_s, 1, plain).join(QString()), u"onetwothree"_s);
+    EXPECT_EQ(wrapped(u"a\nb\nc"_s, width, plain, 2), (QStringList{u"a"_s, u"b"_s}));
+    EXPECT_TRUE(wrapped({}, width, plain).isEmpty());
+}
+
+TEST(LongText, itemsGrowWhereThePageHasRoomAndGoOnWhereNot) {
+    const auto pages = [](std::vector<TextItem> items) { return textPages(items, 100, 10, 8); };
+    EXPECT_TRUE(pages({}).empty());
+    EXPECT_THAT(pages({{0, 50}, {3, 50}, {1, 50}}),
+                ElementsAre(ElementsAre(TextPart{0, 0, 0, 50}, TextPart{1, 0, 3, 50}),
+                            ElementsAre(TextPart{2, 0, 1, 50})));
+    EXPECT_THAT(pages({{8, 50}}), ElementsAre(ElementsAre(TextPart{0, 0, 8, 98})));
+    EXPECT_THAT(pages({{9, 50}}),
+                ElementsAre(ElementsAre(TextPart{0, 0, 7, 100, true}), ElementsAre(TextPart{0, 7, 2, 50})));
+    EXPECT_THAT(pages({{0, 50}, {12, 50}, {1, 50}}),
+                ElementsAre(ElementsAre(TextPart{0, 0, 0, 50}, TextPart{1, 0, 2, 50, true}),
+                            ElementsAre(TextPart{1, 2, 7, 100, true}),
+                            ElementsAre(TextPart{1, 9, 3, 50}, TextPart{2, 0, 1, 50})));
+}
+
+TEST(LongText, commentsStandInFull) {
+    SampleReport sample;
+    sample.addComment("2019-01-05", "2019-01-06", 2, u"before"_s);
+    sample.addComment("2019-01-05", "2019-01-06", 3, numberedWords(u"word"_s, 1500));
+    sample.addComment("2019-01-05", "2019-01-06", 1, u"after"_s);
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+        const PrintView view = sample.view(paper);
+        QString text = textOfBody(view, Section::comment);
+        EXPECT_GE(text.count(u"goes on on the next page"_s), 2);
+        EXPECT_EQ(text.count(u"goes on on the next page"_s), text.count(u"(2 days), continued"_s));
+        text.remove(u" goes on on the next page"_s)
+            .remove(u" 2   2019/01/05 – 2019/01/06  (2 days), continued Blue"_s);
+        EXPECT_TRUE(text.contains(sample.comments[1]->comment));
+        EXPECT_TRUE(text.contains(u"before"_s) && text.endsWith(u" after"_s));
+    }
+}
+
+TEST(LongText, whatTheProfilesFormCutsStandsInFullBehindIt) {
+    QString PatientModel::*const fields[] = {&PatientModel::FamilyName,  &PatientModel::GivenNames,
+                                             &PatientModel::ID,          &PatientModel::Address,
+                                             &PatientModel::PhoneEmail,  &PatientModel::FamilyHistory,
+                                             &PatientModel::PatientNotes};
+    for (const auto field : fields) {
+        for (const auto& [words, least] : {std::pair(1, 1), {150, 2}, {700, 3}}) {
+            SampleReport sample;
+            const QString text = numberedWords(u"part"_s, words);
+            sample.patient.*field = text;
+            const PrintView view = sample.view();
+            const int pages = view.getTotalPages(Section::PatientProfile);
+            EXPECT_GE(pages, least);
+            EXPECT_TRUE(pages == 1 || words > 1);
+            QString all = textOfBody(view, Section::PatientProfile, pages > 1 ? 2 : 1);
+            static const QRegularExpression between(u" goes on on the next page [^,]+, continued"_s);
+            EXPECT_TRUE(all.remove(between).contains(text)) << qPrintable(all.left(400));
+            const auto first = textsOf(view.page(Section::PatientProfile, 1));
+            EXPECT_EQ(std::ranges::count(first, qtTrId("reportCutTexts"), &TextLine::text), pages > 1);
+        }
+    }
+}
+
+TEST(LongText, theFormsUpperFieldsGrowWhereTheNotesLeaveRoom) {
+    SampleReport sample;
+    sample.patient.Address = u"1\n2\n3\n4\n5\n6\n7"_s;
+    sample.patient.FamilyHistory = u"1\n2\n3\n4\n5\n6\n7\n8"_s;
+    for (const auto& [notes, pages] :
+         {std::pair(u"one line"_s, 1), {u"a\nb"_s, 2}, {u"a\nb\nc\nd\ne"_s, 2}}) {
+        sample.patient.PatientNotes = notes;
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter})
+            EXPECT_EQ(sample.view(paper).getTotalPages(Section::PatientProfile), pages) << qPrintable(notes);
+    }
+    sample.patient.PatientNotes = u"one line"_s;
+    const auto lines = textsOf(sample.view().page(Section::PatientProfile, 1));
+    const auto y = [&](const QString& text) {
+        return std::ranges::find(lines, text, &TextLine::text)->origin.y;
+    };
+    EXPECT_GT(y(u"Risk Factor"_s), y(u"8"_s));
+    EXPECT_GT(y(u"8"_s), y(u"Patient Notes"_s));
+    EXPECT_GT(y(u"Patient Notes"_s), y(u"one line"_s));
+}
+
+} // namespace
+
+} // namespace zel
