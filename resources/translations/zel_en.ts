@@ -4,6 +4,9 @@
 <!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
 <context>
     <name>store</name>
+    <message id="BackupLast"><translation>%1, %2, the last of %3</translation></message>
+    <message id="BackupPatients" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
+    <message id="BackupReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
     <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>
     <message id="ExportNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut it may be missing. Please check the disk.</translation></message>
@@ -29,6 +32,7 @@
     <message id="SettingText"><translation>any text without control characters</translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
+    <message id="StoreChangedElsewhere"><translation>Another program changed it in the meantime. Nothing was changed here; please look at it as it is now.</translation></message>
     <message id="StoreDiskFull"><translation>The disk is full: %1 could not be written. What was there is as it was. Please make room on the disk, then try again.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 is in the place where programs note that they work on the data file, and is no such note. Nothing was changed; please move it away, then try again.</translation></message>
@@ -121,6 +125,8 @@
     <message id="AP_Title"><translation>ZEL – blood pressure readings</translation></message>
     <message id="argumentUnknown"><translation>unexpected argument “%1”; see zel --help</translation></message>
     <message id="argumentWithoutFile"><translation>%1= needs the name of a file; see zel --help</translation></message>
+    <message id="backupOffered"><translation>The newest copy that can be read is %1, with %2. Go back to it? The damaged file is kept as another copy beside it.</translation></message>
+    <message id="backupRestored"><translation>The copy %1 is in use. What was there before is kept as %2.</translation></message>
     <message id="BeginDate"><translation>The first day has to be before the last one, so that the period spans two days or more. The dates were left as they were.</translation></message>
     <message id="beginEarlier"><translation>Begin a day earlier</translation></message>
     <message id="beginLater"><translation>Begin a day later</translation></message>

@@ -15,9 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr DayNumber daysKept = 14;
-constexpr int monthsKept = 24;
-constexpr qint64 shareOfDisk = 10;
+constexpr std::size_t daysKept = 14;
+constexpr std::size_t monthsKept = 24;
 
 const QDate firstDay{1970, 1, 1};
 
@@ -61,21 +60,20 @@ void sortNewestFirst(std::vector<Backup>& copies) {
     });
 }
 
-std::vector<Backup> superfluousBackups(std::vector<Backup> copies, DayNumber today, qint64 free) {
-    std::erase_if(copies, [](const Backup& copy) { return copy.kind == BackupKind::damaged; });
+std::vector<Backup> superfluousBackups(std::vector<Backup> copies, qint64 room) {
+    std::erase_if(copies, [](const Backup& copy) { return copy.kind != BackupKind::daily; });
     sortNewestFirst(copies);
-    qint64 room = free;
-    for (const Backup& copy : copies)
-        room += copy.size;
-    room /= shareOfDisk;
     std::set<int> months;
+    std::size_t days = 0;
+    bool isFull = false;
     std::erase_if(copies, [&](const Backup& copy) {
-        const int month = monthOf(copy.day);
-        const bool isFirstOfMonth = months.insert(month).second;
-        const bool isDue =
-            copy.day > today - daysKept || (isFirstOfMonth && month > monthOf(today) - monthsKept);
-        const bool isKept = isDue && copy.size <= room;
-        room = isKept ? room - copy.size : isDue ? 0 : room;
+        const bool isRecent = days < daysKept;
+        const bool isNewestOfMonth = months.insert(monthOf(copy.day)).second;
+        const bool isDue = isRecent || (isNewestOfMonth && months.size() <= monthsKept);
+        isFull = isFull || copy.size > room;
+        const bool isKept = days == 0 || (isDue && !isFull);
+        if (isKept) room -= copy.size;
+        ++days;
         return isKept;
     });
     return copies;

@@ -35,11 +35,10 @@ struct Backup {
 /// A day's own copy, from before its first change, counts as older than the others of that day.
 void sortNewestFirst(std::vector<Backup>& copies);
 
-/// The copies that are kept no longer: the last 14 days are, then the newest of each month for two years, and
-/// of these only as many, the newest first, as a tenth of the disk holds that would be free without them. A
-/// damaged file may be the only one with its readings, so it is left to the user. \param free bytes that are
-/// free now
-[[nodiscard]] std::vector<Backup> superfluousBackups(std::vector<Backup> copies, DayNumber today,
-                                                     qint64 free);
+/// The daily copies that are kept no longer: those of the last 14 days are, then the newest of each month for
+/// two years. Only days and months that have a copy count, so that a long pause, or a clock that is wrong,
+/// removes nothing. All daily copies together fill at most \p room bytes; the newest one stays in any case.
+/// The other kinds are the user's: nothing but the user removes them.
+[[nodiscard]] std::vector<Backup> superfluousBackups(std::vector<Backup> copies, qint64 room);
 
 } // namespace zel

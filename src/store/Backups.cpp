@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qint64 shareOfDisk = 10;
 constexpr auto ownersAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
 DayNumber lastDay(const Records& records) {
@@ -48,6 +49,13 @@ QString freeName(const QString& folder, BackupKind kind, Instant now) {
 }
 
 } // namespace
+
+QString describe(const BackupContent& content, const QString& dateFormat) {
+    const QString patients = qtTrId("BackupPatients", static_cast<int>(content.patients));
+    const QString readings = qtTrId("BackupReadings", static_cast<int>(content.readings));
+    if (content.lastReading == noDay) return patients + u", "_s + readings;
+    return qtTrId("BackupLast").arg(patients, readings, dayText(content.lastReading, dateFormat));
+}
 
 Instant Backups::now() const { return std::chrono::floor<std::chrono::milliseconds>(clock.now()); }
 
@@ -82,29 +90,42 @@ std::optional<Backup> Backups::newestReadable() const {
     return std::nullopt;
 }
 
+/// A folder that is there may be shared on purpose.
+StoreResult Backups::makeFolder() const {
+    if (QFileInfo{folder()}.isDir()) return {};
+    const bool isMade = QDir{}.mkpath(folder()) && QFile::setPermissions(folder(), ownersAlone);
+    return isMade ? StoreResult{} : refusal(StoreErrorCode::notWritable, folder());
+}
+
 StoreResult Backups::copyTo(const QString& name) const {
-    QDir{}.mkpath(folder());
-    QFile::setPermissions(folder(), ownersAlone);
+    if (StoreResult made = makeFolder(); !made) return made;
     const auto bytes = readFile(file.getZELXMLPath());
     if (!bytes) return tl::unexpected{bytes.error()};
     return replaceFile(path(name), *bytes);
 }
 
-void Backups::removeSuperfluous() const {
-    const qint64 free = QStorageInfo{folder()}.bytesAvailable();
-    for (const Backup& copy : superfluousBackups(list(), LocalZone{}.day(now()), free)) {
-        const bool isRemoved = QFile::remove(path(copy.name));
-        qCInfo(lcStore, "backup %s %s", qUtf8Printable(copy.name),
-               isRemoved ? "removed" : "could not be removed");
-    }
+/// A tenth of what would be free without the daily copies.
+qint64 Backups::room() const {
+    qint64 bytes = QStorageInfo{folder()}.bytesAvailable();
+    for (const Backup& copy : list())
+        if (copy.kind == BackupKind::daily) bytes += copy.size;
+    return bytes / shareOfDisk;
 }
 
 StoreResult Backups::keepDaily() const {
     const QString name = backupName(BackupKind::daily, now());
     if (QFileInfo::exists(path(name))) return {};
+    if (StoreResult made = makeFolder(); !made) return made;
+    const qint64 most = room();
+    // What does not fit pushes nothing out.
+    if (QFileInfo{file.getZELXMLPath()}.size() > most)
+        return refusal(StoreErrorCode::noRoomForBackup, folder());
     if (StoreResult copied = copyTo(name); !copied) return copied;
-    removeSuperfluous();
-    if (!QFileInfo::exists(path(name))) return refusal(StoreErrorCode::noRoomForBackup, folder());
+    for (const Backup& copy : superfluousBackups(list(), most)) {
+        const bool isRemoved = QFile::remove(path(copy.name));
+        qCInfo(lcStore, "backup %s %s", qUtf8Printable(copy.name),
+               isRemoved ? "removed" : "could not be removed");
+    }
     return {};
 }
 

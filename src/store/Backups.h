@@ -12,6 +12,9 @@ struct BackupContent {
     DayNumber lastReading = noDay; ///< noDay without a dated reading
 };
 
+/// As "2 patients, 60 readings, the last of 02/11/2026". \p dateFormat: as SettingModel::getDateFormat()
+[[nodiscard]] QString describe(const BackupContent& content, const QString& dateFormat);
+
 /// Copies of the data file in the folder "Backups" beside it, for its owner alone.
 class Backups {
 public:
@@ -26,8 +29,9 @@ public:
     /// The newest one that can be read; none if there is none.
     [[nodiscard]] std::optional<Backup> newestReadable() const;
 
-    /// Copies the data file as it is, unless that was done today, and removes what is kept no longer. To be
-    /// called before a change.
+    /// Copies the data file as it is, unless that was done today, and removes daily copies that are kept no
+    /// longer. To be called before a change. noRoomForBackup, and nothing is removed, if the copy would fill
+    /// more than a tenth of the disk that is free without the daily ones.
     [[nodiscard]] StoreResult keepDaily() const;
     /// Copies the data file as it is. \return the copy's name
     [[nodiscard]] tl::expected<QString, StoreError> create() const;
@@ -38,7 +42,8 @@ public:
 private:
     [[nodiscard]] QString path(const QString& name) const;
     [[nodiscard]] StoreResult copyTo(const QString& name) const;
-    void removeSuperfluous() const;
+    [[nodiscard]] StoreResult makeFolder() const;
+    [[nodiscard]] qint64 room() const;
     [[nodiscard]] Instant now() const;
     const DataFile& file;
     const Clock& clock;

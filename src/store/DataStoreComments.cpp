@@ -22,14 +22,22 @@ void insertComment(pugi::xml_node root, const CommentModel& comment) {
     comment.updateXMLNode(insertElement<CommentModel>(root, lastElement(root, "Comment")));
 }
 
+bool isCommentOf(pugi::xml_node node, const CommentModel& asRead) {
+    return isElement(node, "Comment") && childText(node, "CommentID") == asRead.numberInFile()
+           && childText(node, "ID") == asRead.ID;
+}
+
+bool hasComment(pugi::xml_node root, const CommentModel& asRead) {
+    return static_cast<bool>(root.find_child([&](pugi::xml_node node) { return isCommentOf(node, asRead); }));
+}
+
 /// By patient and number; of several such, the one that still reads as it was read, or none.
 pugi::xml_node findComment(pugi::xml_node root, const CommentModel& asRead) {
     const LocalZone zone;
     pugi::xml_node found;
     bool isOnly = true;
     for (const pugi::xml_node node : root.children()) {
-        if (!isElement(node, "Comment") || childText(node, "CommentID") != asRead.numberInFile()) continue;
-        if (childText(node, "ID") != asRead.ID) continue;
+        if (!isCommentOf(node, asRead)) continue;
         if (CommentModel::initWithXMLNode(node, zone).isSame(asRead)) return node;
         isOnly = !found;
         found = node;
@@ -80,6 +88,7 @@ StoreResult DataStore::saveCommentToXML(CommentModel comment, std::optional<Comm
         qCDebug(lcStore, "nodesForXPath failed %s", qUtf8Printable(comment.CommentID));
         isKnown = isPatient(root, comment.ID);
         if (!isKnown) return Edit::unchanged;
+        comment.CommentID = freeCommentNumber(root, comment.CommentID);
         insertComment(root, comment);
         return Edit::changed;
     });
@@ -90,10 +99,14 @@ StoreResult DataStore::saveCommentToXML(CommentModel comment, std::optional<Comm
 StoreResult DataStore::deleteSelectedCommentToXML() {
     const CommentModel* selected = getSelectedComment();
     if (!selected) return {};
-    return editAndReload([asRead = *selected](pugi::xml_node root) {
-        root.remove_child(findComment(root, asRead));
-        return Edit::changed;
+    bool isUnclear = false;
+    StoreResult removed = editAndReload([&isUnclear, asRead = *selected](pugi::xml_node root) {
+        const auto known = findComment(root, asRead);
+        isUnclear = !known && hasComment(root, asRead);
+        return root.remove_child(known) ? Edit::changed : Edit::unchanged; // gone already: as was wanted
     });
+    if (removed && isUnclear) return tl::unexpected{StoreError{StoreErrorCode::changedElsewhere, {}, {}}};
+    return removed;
 }
 
 } // namespace zel

@@ -107,10 +107,10 @@ StoreResult writeExport(const QString& path, const QByteArray& content, Replace 
 StoreResult flushExports(const QString& folder) {
     removeDeadFiles(exportPrefix(folder));
     const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return systemRefused(StoreErrorCode::writeFailed, folder);
+    if (handle < 0) return systemRefused(StoreErrorCode::notFlushed, folder);
     const bool isFlushed = ::syncfs(handle) == 0;
     StoreResult result;
-    if (!isFlushed) result = systemRefused(StoreErrorCode::writeFailed, folder);
+    if (!isFlushed) result = systemRefused(StoreErrorCode::notFlushed, folder);
     ::close(handle);
     return result;
 }

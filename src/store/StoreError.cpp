@@ -20,6 +20,7 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::busy: return qtTrId("StoreBusy");
     case StoreErrorCode::lockBlocked: return qtTrId("StoreLockBlocked");
     case StoreErrorCode::noSuchRecord: return qtTrId("StoreNoSuchRecord");
+    case StoreErrorCode::changedElsewhere: return qtTrId("StoreChangedElsewhere");
     case StoreErrorCode::alreadyKnown: return qtTrId("StoreAlreadyKnown");
     case StoreErrorCode::invalidRecord: return qtTrId("StoreInvalidRecord");
     case StoreErrorCode::alreadyExists: return qtTrId("ExportAlreadyExists");

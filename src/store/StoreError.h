@@ -7,27 +7,28 @@
 namespace zel {
 
 enum class StoreErrorCode {
-    notReadable,     ///< the file is not there or may not be read
-    notCreated,      ///< there is none yet, and it could not be made
-    tooLarge,        ///< above largestFile
-    notParsed,       ///< its content is no well-formed XML, or its root is not ZEL
-    notWritable,     ///< the file or its folder may not be written
-    writeFailed,     ///< writing began and failed; the file is as it was before
-    diskFull,        ///< as writeFailed
-    quotaReached,    ///< as writeFailed: the user may store no more on this disk
-    sizeLimit,       ///< as writeFailed: files may not become so large here
-    notFlushed,      ///< the file was replaced, but may be the older one again after a power cut
-    unreadable,      ///< as writeFailed: what was to be written could not be read again
-    busy,            ///< another program holds the file
-    lockBlocked,     ///< a folder or another thing, the path, is in the place of the file's lock
-    noSuchRecord,    ///< no record with the given ID
-    alreadyKnown,    ///< a record with the given ID exists
-    invalidRecord,   ///< the record lacks what it needs to be stored
-    alreadyExists,   ///< the file to write is there and may not be replaced
-    isDataFile,      ///< the file to write is the data file itself
-    noSuchBackup,    ///< no copy of the data file has that name, the path
-    noRoomForBackup, ///< the copies may take no more of the disk; the path is their folder
-    sameFileName,    ///< the disk takes the file for the one just written for the patient in detail
+    notReadable,      ///< the file is not there or may not be read
+    notCreated,       ///< there is none yet, and it could not be made
+    tooLarge,         ///< above largestFile
+    notParsed,        ///< its content is no well-formed XML, or its root is not ZEL
+    notWritable,      ///< the file or its folder may not be written
+    writeFailed,      ///< writing began and failed; the file is as it was before
+    diskFull,         ///< as writeFailed
+    quotaReached,     ///< as writeFailed: the user may store no more on this disk
+    sizeLimit,        ///< as writeFailed: files may not become so large here
+    notFlushed,       ///< the file was replaced, but may be the older one again after a power cut
+    unreadable,       ///< as writeFailed: what was to be written could not be read again
+    busy,             ///< another program holds the file
+    lockBlocked,      ///< a folder or another thing, the path, is in the place of the file's lock
+    noSuchRecord,     ///< no record with the given ID
+    changedElsewhere, ///< several records with the given ID, none as it was read here
+    alreadyKnown,     ///< a record with the given ID exists
+    invalidRecord,    ///< the record lacks what it needs to be stored
+    alreadyExists,    ///< the file to write is there and may not be replaced
+    isDataFile,       ///< the file to write is the data file itself
+    noSuchBackup,     ///< no copy of the data file has that name, the path
+    noRoomForBackup,  ///< the copies may take no more of the disk; the path is their folder
+    sameFileName,     ///< the disk takes the file for the one just written for the patient in detail
 };
 
 /// Why the store could not do what it was asked. Nothing was changed, but for notFlushed.

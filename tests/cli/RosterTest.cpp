@@ -11,6 +11,32 @@ using testing::HasSubstr;
 
 namespace {
 
+TEST_F(CliTest, BackupsAreListedMadeAndGoneBackTo) {
+    const QStringList list{u"backup"_s, u"list"_s};
+    const std::string heading = "name,bytes,patients,readings,last-reading\n";
+    EXPECT_EQ(zel(list).out, heading) << "none yet";
+    addPatient(u"A"_s);
+    addPatient(u"B"_s);
+    const QString backups = dataFile().section(u'/', 0, -2) + u"/Backups/"_s;
+    const Outcome made = zel({u"backup"_s, u"create"_s});
+    EXPECT_EQ(made.out, "written: " + (backups + u"ZEL-2026-11-21-090000.xml\n"_s).toStdString());
+    QFile damaged{backups + u"ZEL-2026-10-01.xml"_s};
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("<ZEL>") == 5);
+    damaged.close();
+    EXPECT_THAT(zel(list).out, testing::MatchesRegex(
+                                   heading
+                                   + "ZEL-2026-11-21-090000.xml,[0-9]+,2,0,\nZEL-2026-11-21.xml,[0-9]+,0,0,\n"
+                                     "ZEL-2026-10-01.xml,5,unreadable,,\n"));
+    const QByteArray before = data();
+    EXPECT_EQ(zel({u"backup"_s, u"restore"_s, u"ZEL-2026-10-01.xml"_s}).status, 1);
+    EXPECT_EQ(zel({u"backup"_s, u"restore"_s, u"ZEL-2025-01-01.xml"_s}).status, 1);
+    EXPECT_EQ(data(), before);
+    setData("<ZEL>");
+    const Outcome restored = zel({u"backup"_s, u"restore"_s, u"ZEL-2026-11-21-090000.xml"_s});
+    EXPECT_EQ(restored.out, "restored: ZEL-2026-11-21-090000.xml\nkept: ZEL-2026-11-21-090000-damaged.xml\n");
+    EXPECT_EQ(data(), before);
+}
+
 TEST_F(CliTest, PatientsAreListedByNameAsCsv) {
     const auto add = [this](const QString& ID, const QString& family, const QString& given) {
         return zel({u"patients"_s, u"--add"_s, u"--id"_s, ID, u"--family-name"_s, family, u"--given-names"_s,

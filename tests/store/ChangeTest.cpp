@@ -154,6 +154,27 @@ TEST_F(ChangeTest, CommentsOfOneNumberAreToldApart) {
     }
 }
 
+TEST_F(ChangeTest, CommentThatAnotherProgramChangedAmongItsLikesIsNotFoundByGuess) {
+    const auto of = [](const char* text) {
+        return "<Comment><ID>A</ID><CommentID>7</CommentID><Comment>" + QByteArray{text}
+               + "</Comment></Comment>";
+    };
+    setData("<Patient><ID>A</ID></Patient><SystemSetting/>" + of("one") + of("two"));
+    store.setCurrentID(u"A"_s);
+    store.setSelectedComment(comment(0).CommentID);
+    const CommentModel asRead = comment(1);
+    elsewhere(">one<", ">1<");
+    elsewhere(">two<", ">2<");
+    const QByteArray before = data();
+    EXPECT_EQ(store.deleteSelectedCommentToXML().error().code, StoreErrorCode::changedElsewhere);
+    EXPECT_EQ(data(), before);
+    CommentModel typed = asRead;
+    typed.comment = u"mine"_s;
+    ASSERT_TRUE(store.saveCommentToXML(typed, asRead));
+    EXPECT_TRUE(data().contains(">1<") && data().contains(">2<") && data().contains(">mine<"));
+    EXPECT_EQ(data().count("<CommentID>7<"), 2) << "the one that is kept beside them has a number of its own";
+}
+
 TEST_F(ChangeTest, NothingIsStoredForAPatientWhoIsGone) {
     setData("<SystemSetting/><Patient><ID>A</ID></Patient><Patient><ID>B</ID></Patient>");
     store.setCurrentID(u"A"_s);

@@ -44,6 +44,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::aboutWanted, this, &AppController::showAbout);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
+    connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
@@ -74,8 +75,8 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
 void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     if (isClosing) return;
     window.show();
-    if (!loaded) parts.panel.ShowMessage(describe(loaded.error()), qtTrId("dataFileUnreadable"));
-    if (loaded) offerUnsaved();
+    if (!loaded) offerBackup(loaded.error());
+    if (parts.store.lastLoad()) offerUnsaved();
     if (isClosing) return;
     splash = new SplashWindow(&window);
     connect(splash, &SplashWindow::splashClosed, this, [this] {
@@ -83,6 +84,32 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
         window.activateWindow();
     });
     splash->showSplash(timing.splash);
+}
+
+/// A file that is damaged gives way to the newest copy of it, if the user says so; any other is only told.
+void AppController::offerBackup(const StoreError& damage) {
+    const Backups& backups = parts.store.backups();
+    const auto copy = damage.code == StoreErrorCode::notParsed ? backups.newestReadable() : std::nullopt;
+    const auto content = copy ? backups.content(copy->name) : tl::unexpected{damage};
+    const QString why = describe(damage);
+    if (!content) return parts.panel.ShowMessage(why, qtTrId("dataFileUnreadable"));
+    const QString holds = describe(*content, parts.store.getSetting().getDateFormat());
+    const QString question = why + u"\n\n"_s + qtTrId("backupOffered").arg(copy->name, holds);
+    if (parts.panel.AskToErase(question, qtTrId("dataFileUnreadable"))) goBackTo(*copy);
+}
+
+void AppController::goBackTo(const Backup& copy) {
+    const auto kept = parts.store.backups().restore(copy.name);
+    if (!kept) return parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
+    reload();
+    if (parts.store.lastLoad()) window.showOutcome(qtTrId("backupRestored").arg(copy.name, *kept));
+}
+
+/// Once a day: it is not in the way of the work.
+void AppController::tellNotBackedUp(const QString& why) {
+    const DayNumber today = LocalZone{}.day(std::chrono::floor<std::chrono::milliseconds>(parts.clock.now()));
+    if (std::exchange(toldNotBackedUp, today) == today) return;
+    parts.panel.interject(this, [this, why] { parts.panel.ShowMessage(why, qtTrId("Warning")); });
 }
 
 void AppController::changeTab(int tabTag) {

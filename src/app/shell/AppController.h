@@ -80,6 +80,9 @@ signals:
 private:
     void showPageInView();
     void end();
+    void offerBackup(const StoreError& damage);
+    void goBackTo(const Backup& copy);
+    void tellNotBackedUp(const QString& why);
     void keepUnsaved();
     void offerUnsaved();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
@@ -104,6 +107,7 @@ private:
     HelpWindow* helpWindow = nullptr;                   ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
+    DayNumber toldNotBackedUp = noDay; ///< the last day on which it was
     bool isClosing = false;
     bool isTerminated = false;
 };

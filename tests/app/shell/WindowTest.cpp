@@ -3,9 +3,11 @@
 #include "app/shell/TabButton.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QIntValidator>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QStandardPaths>
 
@@ -160,6 +162,7 @@ TEST_F(WindowTest, tabsHaveTheirImages) {
 }
 
 TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {
+    QDir{store.backups().folder()}.removeRecursively();
     const QByteArray whole = dataFile();
     replaceDataFile("<ZEL><Patient>");
     loaded = store.loadXML();
@@ -186,7 +189,48 @@ TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {
     EXPECT_TRUE(page("tableBtn").isEnabled());
 }
 
+TEST_F(WindowTest, aBrokenDataFileGivesWayToItsNewestCopyIfTheUserSaysSo) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    ASSERT_TRUE(store.backups().create());
+    const QByteArray whole = dataFile();
+    const QString title = qtTrId("dataFileUnreadable");
+    replaceDataFile("<ZEL><Patient>");
+    loaded = store.loadXML();
+    startsPlugged = false;
+    panel.answers[title] = false;
+    start();
+    EXPECT_EQ(panel.questions, QStringList(title));
+    EXPECT_TRUE(panel.asked.contains(qtTrId("BackupPatients", 1)));
+    EXPECT_EQ(dataFile(), "<ZEL><Patient>");
+    panel.answers[title] = true;
+    start();
+    EXPECT_EQ(dataFile(), whole);
+    EXPECT_TRUE(page("FamilyName").isVisible());
+    EXPECT_TRUE(text("lblOutcome").contains(u"-damaged.xml"_s));
+}
+
+TEST_F(WindowTest, aCopyThatCannotBeMadeIsToldOnceADay) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    startsPlugged = false;
+    start();
+    const auto save = [this] {
+        type("PatientNotes", find<QPlainTextEdit>("PatientNotes").toPlainText() + u'x');
+        press(Qt::Key_S, Qt::ControlModifier);
+    };
+    QDir folder{store.backups().folder()};
+    ASSERT_TRUE(folder.removeRecursively());
+    QFile inItsPlace{folder.path()};
+    ASSERT_TRUE(inItsPlace.open(QIODevice::WriteOnly));
+    save();
+    save();
+    EXPECT_EQ(panel.messages.size(), 1);
+    clock.advance(std::chrono::hours{24});
+    save();
+    EXPECT_EQ(panel.messages.size(), 2);
+}
+
 TEST_F(WindowTest, quitDuringAMessageAtStartShowsNothingMore) {
+    QDir{store.backups().folder()}.removeRecursively();
     replaceDataFile("<ZEL>");
     loaded = store.loadXML();
     panel.whenShown = [this] { app->closeApplicaiton(); };
