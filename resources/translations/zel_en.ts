@@ -125,8 +125,23 @@
     <message id="AP_Title"><translation>ZEL – blood pressure readings</translation></message>
     <message id="argumentUnknown"><translation>unexpected argument “%1”; see zel --help</translation></message>
     <message id="argumentWithoutFile"><translation>%1= needs the name of a file; see zel --help</translation></message>
+    <message id="backupClose"><translation>&amp;Close</translation></message>
+    <message id="backupConfirm"><translation>Go back to this copy? %1. What is there now is kept as another copy, so that you can return to it.</translation></message>
+    <message id="backupCreate"><translation>Back up &amp;now</translation></message>
+    <message id="backupDaily"><translation>Before the first change of the day</translation></message>
+    <message id="backupDamaged"><translation>Damaged data file</translation></message>
+    <message id="backupDay"><translation>Day</translation></message>
+    <message id="backupExplained"><translation>Copies of the data file, in the folder %1. Copy them to another disk now and then.</translation></message>
+    <message id="backupKind"><translation>Copy</translation></message>
+    <message id="backupMade"><translation>Made by you</translation></message>
+    <message id="backupNone"><translation>There is no copy yet. One is made before the first change of each day.</translation></message>
     <message id="backupOffered"><translation>The newest copy that can be read is %1, with %2. Go back to it? The damaged file is kept as another copy beside it.</translation></message>
+    <message id="backupReplaced"><translation>What a restored copy replaced</translation></message>
+    <message id="backupRestore"><translation>&amp;Restore …</translation></message>
     <message id="backupRestored"><translation>The copy %1 is in use. What was there before is kept as %2.</translation></message>
+    <message id="backupSize"><translation>Size</translation></message>
+    <message id="backupTitle"><translation>Backups</translation></message>
+    <message id="backupUnreadable"><translation>this copy cannot be read</translation></message>
     <message id="BeginDate"><translation>The first day has to be before the last one, so that the period spans two days or more. The dates were left as they were.</translation></message>
     <message id="beginEarlier"><translation>Begin a day earlier</translation></message>
     <message id="beginLater"><translation>Begin a day later</translation></message>
@@ -324,6 +339,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="manualTitle"><translation>Manual</translation></message>
     <message id="map"><translation>MAP</translation></message>
     <message id="menuAbout"><translation>&amp;About ZEL</translation></message>
+    <message id="menuBackups"><translation>&amp;Backups …</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuHelp"><translation>&amp;Help</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>

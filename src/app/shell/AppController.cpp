@@ -5,6 +5,7 @@
 #include "app/graph/GraphViewController.h"
 #include "app/patients/PatientViewController.h"
 #include "app/printing/PrintController.h"
+#include "app/settings/BackupDialog.h"
 #include "app/settings/SettingController.h"
 #include "app/shell/HelpWindow.h"
 #include "app/shell/SplashWindow.h"
@@ -38,6 +39,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
         window.addPage(*page);
     connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
     connect(&window, &MainWindow::settingWanted, this, &AppController::showSetting);
+    connect(&window, &MainWindow::backupsWanted, this, &AppController::showBackups);
     connect(&window, &MainWindow::printWanted, this, &AppController::showPrint);
     connect(&window, &MainWindow::pdfWanted, this, &AppController::showSavePdf);
     connect(&window, &MainWindow::helpWanted, this, &AppController::showHelp);
@@ -101,8 +103,12 @@ void AppController::offerBackup(const StoreError& damage) {
 void AppController::goBackTo(const Backup& copy) {
     const auto kept = parts.store.backups().restore(copy.name);
     if (!kept) return parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
+    showRestored(copy.name, *kept);
+}
+
+void AppController::showRestored(const QString& name, const QString& kept) {
     reload();
-    if (parts.store.lastLoad()) window.showOutcome(qtTrId("backupRestored").arg(copy.name, *kept));
+    if (parts.store.lastLoad()) window.showOutcome(qtTrId("backupRestored").arg(name, kept));
 }
 
 /// Once a day: it is not in the way of the work.
@@ -188,6 +194,16 @@ void AppController::showSetting() {
         connect(settings, &SettingController::imported, this, &AppController::reload);
     }
     settings->showSetting();
+}
+
+/// What is typed is settled first: a copy's patients are others.
+void AppController::showBackups() {
+    if (!graphPage->leave() || !tablePage->leave() || !patientPage->settle()) return;
+    if (!backupDialog) {
+        backupDialog = new BackupDialog(parts.store, parts.panel, &window);
+        connect(backupDialog, &BackupDialog::restored, this, &AppController::showRestored);
+    }
+    backupDialog->showBackups();
 }
 
 void AppController::showPrint() { showPrintPreview(PrintPurpose::printer); }

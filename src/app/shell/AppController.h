@@ -15,6 +15,7 @@
 
 namespace zel {
 
+class BackupDialog;
 class GraphViewController;
 class HelpWindow;
 class PatientViewController;
@@ -64,6 +65,7 @@ public:
     void dataTransfer();
     void displayAfterDataTransfer();
     void showSetting();
+    void showBackups();
     void showPrint();
     void showSavePdf();
     void showHelp();
@@ -82,6 +84,7 @@ private:
     void end();
     void offerBackup(const StoreError& damage);
     void goBackTo(const Backup& copy);
+    void showRestored(const QString& name, const QString& kept);
     void tellNotBackedUp(const QString& why);
     void keepUnsaved();
     void offerUnsaved();
@@ -105,6 +108,7 @@ private:
     SettingController* settings = nullptr;              ///< likewise
     PrintController* printController = nullptr;         ///< likewise
     HelpWindow* helpWindow = nullptr;                   ///< likewise
+    BackupDialog* backupDialog = nullptr;               ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     DayNumber toldNotBackedUp = noDay; ///< the last day on which it was

@@ -36,6 +36,7 @@ QMenuBar* makeMainMenu(MainWindow& window) {
     file.addSeparator();
     add(window, file,
         {u"showSetting"_s, qtTrId("menuSettings"), Qt::CTRL | Qt::Key_Comma, &MainWindow::settingWanted});
+    add(window, file, {u"showBackups"_s, qtTrId("menuBackups"), {}, &MainWindow::backupsWanted});
     file.addSeparator();
     add(window, file,
         {u"closeApplicaiton"_s, qtTrId("menuQuit"), Qt::CTRL | Qt::Key_Q, &MainWindow::closeWanted});

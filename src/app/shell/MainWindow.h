@@ -40,6 +40,7 @@ public:
 signals:
     void tabWanted(int tabTag);
     void settingWanted();
+    void backupsWanted();
     void printWanted();
     void pdfWanted();
     void helpWanted();

@@ -4,8 +4,10 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QFile>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTextBlock>
@@ -144,6 +146,43 @@ TEST_F(MenuTest, aPatientTypedInExportedAndDeletedComesBackEqual) {
     click("importButton");
     EXPECT_EQ(records().join(u'|').toStdString(), before.join(u'|').toStdString());
     EXPECT_EQ(find<QAbstractItemView>("tblPatients").model()->rowCount(), 1) << "the roster has read it";
+}
+
+TEST_F(MenuTest, backupsAreMadeAndGoneBackTo) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    start();
+    const auto openBackups = [this] { window().findChild<QAction*>(u"showBackups"_s)->trigger(); };
+    type("PatientNotes", u"before"_s);
+    openBackups();
+    EXPECT_EQ(panel.questions, QStringList(qtTrId("SavePatient"))) << "what is typed is settled first";
+    auto& list = find<QAbstractItemView>("tblBackups");
+    const auto copies = [&list] { return list.model()->rowCount(); };
+    const int daily = copies();
+    click("btnCreateBackup");
+    EXPECT_EQ(copies(), daily + 1);
+    EXPECT_TRUE(text("lblBackup").contains(qtTrId("BackupPatients", 1)));
+    const QByteArray whole = dataFile();
+    click("btnCloseBackups");
+    type("PatientNotes", u"after"_s);
+    click("btnSavePatient");
+    const QByteArray changed = dataFile();
+    openBackups();
+    panel.answers[qtTrId("backupTitle")] = false;
+    click("btnRestoreBackup");
+    EXPECT_EQ(dataFile(), changed);
+    panel.answers[qtTrId("backupTitle")] = true;
+    click("btnRestoreBackup");
+    EXPECT_FALSE(list.isVisible());
+    EXPECT_EQ(dataFile(), whole);
+    EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), u"before"_s);
+    EXPECT_TRUE(text("lblOutcome").contains(u"-replaced.xml"_s));
+    openBackups();
+    EXPECT_EQ(copies(), daily + 2);
+    replaceDataFile("<ZEL>");
+    QDir(store.backups().folder()).removeRecursively();
+    click("btnRestoreBackup");
+    EXPECT_EQ(panel.messages.size(), 1) << "the copy has gone meanwhile";
+    EXPECT_EQ(dataFile(), "<ZEL>");
 }
 
 TEST_F(MenuTest, helpOpensTheManual) {
