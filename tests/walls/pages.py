@@ -1,19 +1,32 @@
 """pages.py MANUAL.pdf: no page between the cover and the last one may be left half empty."""
-import re
+import glob
+import os
 import subprocess
 import sys
+import tempfile
+
+FOOT = 0.93  # of the height: the page's number and the line above it stand below
+LEAST = 0.65
 
 
-def ends(pdf):
-    """For each page, how far down its text goes, as a share of its height; the foot aside."""
-    boxes = subprocess.run(["pdftotext", "-bbox", pdf, "-"], check=True, capture_output=True, text=True).stdout
-    for page in boxes.split("<page ")[1:]:
-        height = float(re.search(r'height="([\d.]+)"', page).group(1))
-        lines = [float(y) / height for y in re.findall(r'yMax="([\d.]+)"', page)]
-        yield max((y for y in lines if y < 0.94), default=0)
+def pages(pdf):
+    """Each page as rows of grey bytes."""
+    with tempfile.TemporaryDirectory() as folder:
+        subprocess.run(["pdftoppm", "-r", "20", "-gray", pdf, os.path.join(folder, "p")], check=True)
+        for name in sorted(glob.glob(os.path.join(folder, "*.pgm"))):
+            with open(name, "rb") as file:
+                _, size, _, pixels = file.read().split(b"\n", 3)
+            width = int(size.split()[0])
+            yield [pixels[at:at + width] for at in range(0, len(pixels), width)]
 
 
-found = [f"page {number} ends at {end:.0%} of its height"
-         for number, end in list(enumerate(ends(sys.argv[1]), 1))[1:-1] if end < 0.65]
+def end(rows):
+    """How far down text and pictures go, as a share of the page's height; the foot aside."""
+    inked = [y for y in range(int(len(rows) * FOOT)) if min(rows[y]) < 200]
+    return max(inked, default=0) / len(rows)
+
+
+found = [f"page {number} ends at {share:.0%} of its height"
+         for number, share in list(enumerate(map(end, pages(sys.argv[1])), 1))[1:-1] if share < LEAST]
 print("\n".join(found))
 sys.exit(bool(found))
