@@ -130,8 +130,9 @@ StoreResult Backups::keepDaily() const {
 }
 
 tl::expected<QString, StoreError> Backups::create() const {
-    const QString name = freeName(folder(), BackupKind::made, now());
-    return copyTo(name).map([&name] { return name; });
+    QString name = freeName(folder(), BackupKind::made, now());
+    if (const StoreResult copied = copyTo(name); !copied) return tl::unexpected{copied.error()};
+    return name;
 }
 
 tl::expected<QString, StoreError> Backups::restore(const QString& name) const {

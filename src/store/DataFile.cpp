@@ -32,7 +32,7 @@ StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
     if (!bytes) return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, bytes.error()}};
     if (bytes->size() > largestFile)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, qtTrId("XmlTooLarge")}};
-    // Nothing that could not be read again ever takes the file's place. This costs a fifth of the time of a
+    // Nothing that could not be read again ever takes the file's place. This costs a quarter of the time of a
     // change, and a copy of the text and its tree for as long.
     if (const auto readAgain = XmlDocument::parse(*bytes); !readAgain)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, readAgain.error()}};

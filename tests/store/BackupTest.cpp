@@ -44,6 +44,7 @@ TEST(BackupRules, NamesTellDayAndKind) {
 /// One daily copy for each day from \p first, of a byte each.
 std::vector<Backup> dailyCopies(const char* first, int count) {
     std::vector<Backup> made;
+    made.reserve(static_cast<std::size_t>(count));
     const QDate day = QDate::fromString(QLatin1StringView{first}, Qt::ISODate);
     for (int i = 0; i < count; ++i)
         made.push_back(copy(u"ZEL-"_s + day.addDays(i).toString(Qt::ISODate) + u".xml"_s));
