@@ -201,10 +201,11 @@ mmHg</translation></message>
     <message id="commentBegin"><translation>From</translation></message>
     <message id="commentBeginDay"><translation>First day of the comment</translation></message>
     <message id="commentCount" numerus="yes"><translation><numerusform>%n comment</numerusform><numerusform>%n comments</numerusform></translation></message>
+    <message id="commentDayFar"><translation>“%1” is more than two years ahead: check the year. The dates were left as they were.</translation></message>
     <message id="commentDayHint"><translation>Type a date and press Enter.</translation></message>
     <message id="commentDayOrder"><translation>The last day of a comment cannot be before its first day. The dates were left as they were.</translation></message>
     <message id="commentDayUnread"><translation>“%1” is no date that a comment can have: type it in the form %2, with a year from 1900. The dates were left as they were.</translation></message>
-    <message id="commentEmpty"><translation>The new comment for %1 has no text. Remove it?</translation></message>
+    <message id="commentEmpty"><translation>The comment for %1 has no text. Remove it?</translation></message>
     <message id="commentEmptyTitle"><translation>Comment without a text</translation></message>
     <message id="commentEnd"><translation>To</translation></message>
     <message id="commentEndDay"><translation>Last day of the comment</translation></message>
@@ -219,7 +220,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="commentText"><translation>Text of the comment</translation></message>
     <message id="commentUnchanged"><translation>The comment could not be saved. %1</translation></message>
     <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? This cannot be undone.</translation></message>
-    <message id="confirmPrintSave"><translation>The data of %1 have been changed, and paper shows what is saved. Save the changes before printing?</translation></message>
+    <message id="confirmPrintSave"><translation>The data of %1 have been changed, and only what is saved is printed or exported. Save the changes first?</translation></message>
     <message id="confirmSendID"><translation>%2 Write the ID %1 into it? From then on its readings belong to this patient.</translation></message>
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
     <message id="copyRows"><translation>Copy</translation></message>
@@ -630,6 +631,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="reportContinued"><translation>%1, continued</translation></message>
     <message id="reportCorrelationLimits" numerus="yes"><translation><numerusform>The line is the limit.</numerusform><numerusform>The lines are the limits.</numerusform></translation></message>
     <message id="reportCorrelationNote"><translation>Each square is a reading, or several with the same values, in mmHg.</translation></message>
+    <message id="reportCutComments"><translation>…: in full in the section Comments</translation></message>
+    <message id="reportCutPractitioner"><translation>…: cut here; the settings hold the whole text.</translation></message>
     <message id="reportCutTexts"><translation>…: cut here; the whole text stands on the next page.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
     <message id="reportDiaAbove"><translation>Only diastolic above: %1</translation></message>
@@ -650,9 +653,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
+    <message id="reportMoreNumbers" numerus="yes"><translation><numerusform>and %n more</numerusform><numerusform>and %n more</numerusform></translation></message>
     <message id="reportMorningOnly"><translation>Only readings before noon are shown</translation></message>
     <message id="reportNoData"><translation>There is nothing to print: the chosen sections hold no data for this patient and period. No file was written.</translation></message>
     <message id="reportNoDate"><translation>n.a: no date</translation></message>
+    <message id="reportNoFigures"><translation>n/a: no readings</translation></message>
     <message id="reportNoLimits"><translation>No limits are set.</translation></message>
     <message id="reportNoReading"><translation>n.a.: no reading</translation></message>
     <message id="reportNotFound"><translation>not detected</translation></message>
@@ -846,7 +851,7 @@ Options:
   --from yyyy-MM-dd            the first day of the reporting period (that of the first reading unless told)
   --to yyyy-MM-dd              the last day of it (that of the last reading unless told)
   --practitioner               print the practitioner's details, from the settings, at the foot
-  --paper A4|Letter            the paper (A4 unless told)
+  --paper A4|Letter            the paper; usually that of LC_PAPER or LANG
   --output FILE.pdf            the file to write
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
@@ -874,8 +879,8 @@ Options:
 
 Prints the average, the minimum and the maximum of a patient's readings, a measure a line:
 'sys: AVERAGE MIN MAX', then dia, pulse, and map or pp as the settings say. Pressures are in mmHg, the
-pulse in beats per minute. Where there is no reading, each is n/a. How many readings are counted, and
-how many are left out for which reason, goes to standard error.
+pulse in beats per minute. Where there is no reading, each is n/a. Where readings are left out, how many
+are counted, and how many are left out for which reason, goes to standard error.
 
 Options:
   --patient ID                 whose readings

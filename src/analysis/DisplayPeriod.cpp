@@ -80,16 +80,19 @@ void DisplayPeriod::setChangeUser(bool isChanged) {
     if (isChanged) setSelectViewIndex(ViewSelection::custom);
 }
 
+Period DisplayPeriod::dataPeriodOf(const ReadingList& readings) const {
+    return datedPeriod(readings).value_or(Period{firstDayOfThisYear, firstDayOfThisYear});
+}
+
 void DisplayPeriod::setCurrentReadingTimePeriod(const ReadingList& readings) {
-    const auto dated = datedPeriod(readings);
-    setDataPeriod(dated.value_or(Period{firstDayOfThisYear, firstDayOfThisYear}));
+    setDataPeriod(dataPeriodOf(readings));
     setTimePeriod(getDefaultBeginDisplayDate(data.begin, data.end), data.end);
 }
 
 void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
-    const auto dated = datedPeriod(readings);
-    if (!dated || *dated == data) return;
-    setDataPeriod(*dated);
+    const Period dated = dataPeriodOf(readings);
+    if (dated == data) return;
+    setDataPeriod(dated);
     if (view == ViewSelection::viewAll) display = wholeDays(data);
     if (display == wholeDays({firstDayOfThisYear, firstDayOfThisYear}))
         display = wholeDays({getDefaultBeginDisplayDate(data.begin, data.end), data.end});

@@ -65,6 +65,7 @@ private:
     /// Announces what \p assign changes, once and only if it is a change.
     void change(const std::function<void()>& assign);
     void leaveViewChoice();
+    [[nodiscard]] Period dataPeriodOf(const ReadingList& readings) const;
 
     Instant firstDayOfThisYear;
     Period display;

@@ -16,9 +16,11 @@ int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection
 } // namespace
 
 ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& selection, CountRule rule) {
+    ReadingSelection counted = selection;
+    if (rule == isInChart) counted.includeUndated = false; // why the chart leaves them out, wanted or not
     ReadingCount count;
     for (const ReadingModel& reading : readings)
-        ++(count.*(rule(reading, selection) ? &ReadingCount::counted : reasonFor(reading, selection)));
+        ++(count.*(rule(reading, counted) ? &ReadingCount::counted : reasonFor(reading, counted)));
     return count;
 }
 

@@ -14,13 +14,13 @@ struct ReadingCount {
     int outsidePeriod = 0;
     int beforeNoon = 0;  ///< where only those from noon on are shown
     int fromNoon = 0;    ///< where only those before noon are shown
-    int undated = 0;     ///< the monitor's clock was not set, and such readings are not wanted
+    int undated = 0;     ///< the monitor's clock was not set, and such readings are not wanted or not drawn
     int withoutDate = 0; ///< no date at all, which the view never counts
 
     bool operator==(const ReadingCount&) const = default;
 };
 
-/// Whether a view counts the reading: isListed, isInStatistic or isCounted.
+/// Whether a view counts the reading: isListed, isInStatistic, isCounted or isInChart.
 using CountRule = bool (*)(const ReadingModel& reading, const ReadingSelection& selection);
 
 [[nodiscard]] ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& selection,

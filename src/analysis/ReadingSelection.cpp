@@ -44,4 +44,8 @@ bool isCounted(const ReadingModel& reading, const ReadingSelection& selection) {
            && MatchedDataType(selection.view, reading.isPMData);
 }
 
+bool isInChart(const ReadingModel& reading, const ReadingSelection& selection) {
+    return isCounted(reading, selection) && !hasUndatedMarker(reading);
+}
+
 } // namespace zel

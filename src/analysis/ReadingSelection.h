@@ -48,4 +48,7 @@ struct ReadingSelection {
 /// Whether histogram and correlation count the reading.
 [[nodiscard]] bool isCounted(const ReadingModel& reading, const ReadingSelection& selection);
 
+/// Whether the chart counts the reading: its time axis has no place for an undated one, wanted or not.
+[[nodiscard]] bool isInChart(const ReadingModel& reading, const ReadingSelection& selection);
+
 } // namespace zel

@@ -30,11 +30,14 @@ std::vector<CommentBox> commentBoxes(const CommentList& comments, const Period& 
         const Period shown =
             wholeDays(std::max(dates->begin, period.begin), std::min(dates->end, period.end));
         const double x = scale.calcXPos(shown.begin);
+        const bool isCutLeft = dates->begin < period.begin;
+        const bool isCutRight = period.end < DateToDayBoundary(dates->end, true);
         boxes.push_back({comment->CommentID,
                          getCommentColor(comment->degree, true),
                          {x, dateHeight, scale.calcXPos(shown.end) - x, commentHeight},
                          comment->isSelected,
-                         dates->begin<period.begin, DateToDayBoundary(dates->end, true)> period.end});
+                         isCutLeft,
+                         isCutRight});
     }
     return boxes;
 }

@@ -82,12 +82,14 @@ void drawBars(Picture& picture, const Panel& panel, const HistogramMeasure& meas
     picture.emplace_back(EndClip{});
 }
 
-/// Beside the title, where no bar reaches.
-Rect besideTitle(const Panel& panel, double topMargin) {
+/// Beside the title, where no bar reaches; below it in a narrow panel.
+Rect noteRoom(const Panel& panel, double topMargin, const OffScale& offScale) {
     constexpr double gap = 6;
     const double left = panel.rect.x + titleIndent + textSize(panel.title, attribute(1)).width + gap;
-    return {left, panel.rect.top() - titleIndent - topMargin, panel.rect.right() - titleIndent - left,
-            topMargin + 1};
+    const Rect beside{left, panel.rect.top() - titleIndent - topMargin,
+                      panel.rect.right() - titleIndent - left, topMargin + 1};
+    if (hasRoomForOffScale(offScale, beside)) return beside;
+    return {panel.rect.x, panel.rect.y, panel.rect.width, panel.rect.height - topMargin};
 }
 
 } // namespace
@@ -116,7 +118,7 @@ Picture drawHistogram(const HistogramFigures& figures, const HistogramOffScale& 
         drawHosizotalScale(picture, shown[index].rect, measures[index]->percentDivisions);
         drawHVerticalScale(picture, shown[index], topMargin);
         if (figures.total > 0) drawBars(picture, shown[index], *measures[index], topMargin);
-        drawOffScale(picture, offScale[index], besideTitle(shown[index], topMargin));
+        drawOffScale(picture, offScale[index], noteRoom(shown[index], topMargin, offScale[index]));
     }
     picture.emplace_back(EndClip{});
     return picture;

@@ -26,16 +26,30 @@ std::vector<qsizetype> characterEnds(QStringView text) {
     return ends;
 }
 
-/// Length of the longest beginning that is not wider. The cost grows with the line, not with the text.
+QStringView upToLineFeed(QStringView text) {
+    const auto feed = text.indexOf(lineFeed);
+    return feed < 0 ? text : text.first(feed);
+}
+
+/// The text's first line, or as much of it as is surely too wide: the cost grows with the line, not with the
+/// text, also where no line feed comes.
+QStringView reachOf(QStringView text, double width, const QFontMetricsF& metrics) {
+    constexpr qsizetype restOfCharacter = 32;
+    for (qsizetype reach = 32; reach < text.size(); reach *= 2) {
+        const QStringView part = upToLineFeed(text.first(reach));
+        if (part.size() < reach) return part;
+        if (metrics.horizontalAdvance(part.toString()) > width)
+            return upToLineFeed(text.first(std::min(reach + restOfCharacter, text.size())));
+    }
+    return upToLineFeed(text);
+}
+
+/// Length of the longest beginning that is not wider.
 qsizetype fittingLength(QStringView text, double width, const QFontMetricsF& metrics) {
     const auto fits = [&](qsizetype length) {
         return metrics.horizontalAdvance(text.first(length).toString()) <= width;
     };
-    qsizetype reach = 32;
-    while (reach < text.size() && fits(reach))
-        reach *= 2;
-    constexpr qsizetype restOfCharacter = 32;
-    const auto ends = characterEnds(text.first(std::min(reach + restOfCharacter, text.size())));
+    const auto ends = characterEnds(text);
     const auto tooWide = std::partition_point(ends.begin(), ends.end(), fits);
     return tooWide == ends.begin() ? 0 : *(tooWide - 1);
 }
@@ -59,11 +73,13 @@ void textOut(Picture& picture, const QString& text, Point at, const TextAttribut
 
 int getLineIndex(const QString& text, int from, double width, const TextAttribute& attribute) {
     if (from >= text.size()) return -1;
-    const auto feed = text.indexOf(lineFeed, from);
-    const auto end = feed < 0 ? text.size() : feed;
-    const QStringView line = QStringView(text).sliced(from, end - from);
-    const auto fitting = fittingLength(line, width, QFontMetricsF(attribute.font()));
-    if (fitting == line.size()) return static_cast<int>(fitting) + (feed < 0 ? 0 : 1);
+    const QFontMetricsF metrics(attribute.font());
+    const QStringView line = reachOf(QStringView(text).sliced(from), width, metrics);
+    const auto fitting = fittingLength(line, width, metrics);
+    const auto end = from + line.size();
+    const bool hasFeed = end < text.size() && text[end] == lineFeed;
+    if (fitting == line.size() && (hasFeed || end == text.size()))
+        return static_cast<int>(fitting) + (hasFeed ? 1 : 0);
 
     const int last = from + static_cast<int>(fitting) - 1;
     const int broken = adjustWordBreak(text, from, last);

@@ -13,12 +13,44 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int noteAttribute = 2;
+constexpr int leastType = 7;
 
 QString shortText(const OffScale& counts) {
     QStringList sides;
     if (counts.above > 0) sides += qtTrId("aboveScaleShort").arg(counts.above);
     if (counts.below > 0) sides += qtTrId("belowScaleShort").arg(counts.below);
     return sides.join(u", "_s);
+}
+
+struct Note {
+    QString text;
+    TextAttribute type;
+};
+
+bool isWithin(const Note& note, const Rect& room) {
+    const Size size = textSize(note.text, note.type);
+    return size.width <= room.width && size.height <= room.height;
+}
+
+/// The least that there is to say.
+Note arrowNote(const OffScale& counts) {
+    QStringList sides;
+    if (counts.above > 0) sides += u'\u2191' + QString::number(counts.above);
+    if (counts.below > 0) sides += u'\u2193' + QString::number(counts.below);
+    TextAttribute type = attribute(noteAttribute);
+    type.size = leastType;
+    return {sides.join(u' '), type};
+}
+
+/// In fewer words, and then in smaller type, where there is less room; something in any case.
+Note fittingNote(const OffScale& counts, const Rect& room) {
+    const TextAttribute usual = attribute(noteAttribute);
+    if (const Note whole{offScaleText(counts), usual}; isWithin(whole, room)) return whole;
+    const Note least = arrowNote(counts);
+    for (const QString& text : {shortText(counts), least.text})
+        for (Note note{text, usual}; note.type.size >= leastType; --note.type.size)
+            if (isWithin(note, room)) return note;
+    return least;
 }
 
 } // namespace
@@ -37,13 +69,14 @@ QString offScaleText(const OffScale& counts) {
     return sides.join(u", "_s);
 }
 
+bool hasRoomForOffScale(const OffScale& counts, const Rect& room) {
+    return counts == OffScale{} || isWithin(arrowNote(counts), room);
+}
+
 void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room) {
-    const TextAttribute type = attribute(noteAttribute);
-    QString text = offScaleText(counts);
-    if (text.isEmpty()) return;
-    if (textSize(text, type).width > room.width) text = shortText(counts);
+    if (counts == OffScale{}) return;
+    const auto [text, type] = fittingNote(counts, room);
     const Size size = textSize(text, type);
-    if (size.width > room.width || size.height > room.height) return;
     // What lies behind the words shines through.
     const QColor pale(255, 255, 255, 200);
     const Rect box{room.right() - size.width, room.top() - size.height, size.width, size.height};

@@ -35,7 +35,10 @@ void countOffScale(OffScale& counts, std::initializer_list<ScaledValue> reading)
 
 /// "3 readings above the scale, 1 reading below the scale"; empty for none.
 [[nodiscard]] QString offScaleText(const OffScale& counts);
-/// The same in the top right corner of \p room, in fewer words where there is less room.
+/// Whether the shortest form of drawOffScale() lies in \p room.
+[[nodiscard]] bool hasRoomForOffScale(const OffScale& counts, const Rect& room);
+/// The same in the top right corner of \p room: in fewer words and smaller type where there is less room, at
+/// last an arrow with the number, beyond the room's edges rather than not at all.
 void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room);
 
 } // namespace zel

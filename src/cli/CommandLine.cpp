@@ -5,6 +5,7 @@
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
 #include "report/TextApplication.h"
+#include "report/UsualPaper.h"
 #include "store/SystemLog.h"
 
 #include <QCoreApplication>
@@ -55,6 +56,7 @@ bool isCommand(int argc, char** argv) {
 }
 
 int run(int argc, char** argv) {
+    const QPageSize paper = usualPaper(paperLocale()); // before the next line hides what the user has set
     // The same output in every environment; Qt, too, wants a UTF-8 locale and would speak up about another.
     qputenv("LC_ALL", "C.UTF-8");
     const auto application = makeApplication(argc, argv);
@@ -66,6 +68,7 @@ int run(int argc, char** argv) {
                         .err = std::cerr,
                         .errIsTerminal = isatty(STDERR_FILENO) == 1,
                         .clock = clock,
+                        .usualPaper = paper,
                         .paths = {.home = qEnvironmentVariable("HOME"),
                                   .applicationFolder = QCoreApplication::applicationDirPath(),
                                   .templateFolder = u":/templates"_s},

@@ -18,7 +18,7 @@ struct Order {
     QString ID;
     std::vector<Section> sections;
     DayRange days;
-    QPageSize::PageSizeId paper;
+    QPageSize paper;
     QString output;
 };
 
@@ -46,21 +46,22 @@ tl::expected<std::vector<Section>, Failure> sectionOption(const Request& request
     return chosen;
 }
 
-tl::expected<QPageSize::PageSizeId, Failure> paperOption(const Request& request) {
-    const QString text = request.options.isSet(u"paper"_s) ? request.options.value(u"paper"_s) : u"A4"_s;
-    if (text == "A4"_L1) return QPageSize::A4;
-    if (text == "Letter"_L1) return QPageSize::Letter;
+tl::expected<QPageSize, Failure> paperOption(const Request& request, const QPageSize& usual) {
+    if (!request.options.isSet(u"paper"_s)) return usual;
+    const QString text = request.options.value(u"paper"_s);
+    if (text == "A4"_L1) return QPageSize(QPageSize::A4);
+    if (text == "Letter"_L1) return QPageSize(QPageSize::Letter);
     return wrongUsage(qtTrId("CliBadPaper").arg(text));
 }
 
-tl::expected<Order, Failure> orderOf(const Request& request) {
+tl::expected<Order, Failure> orderOf(const Request& request, const QPageSize& usualPaper) {
     const auto ID = requiredValue(request, u"patient"_s);
     if (!ID) return tl::unexpected(ID.error());
     const auto sections = sectionOption(request);
     if (!sections) return tl::unexpected(sections.error());
     const auto days = dayRange(request);
     if (!days) return tl::unexpected(days.error());
-    const auto paper = paperOption(request);
+    const auto paper = paperOption(request, usualPaper);
     if (!paper) return tl::unexpected(paper.error());
     const auto output = requiredValue(request, u"output"_s);
     if (!output) return tl::unexpected(output.error());
@@ -94,7 +95,7 @@ CommandResult writeReport(const Order& order, bool practitioner, const DataStore
     auto source = reportSource(store, selectionOf(order, store, around.clock), around.clock);
     if (!source) return failed(qtTrId("CliNoSuchPatient").arg(order.ID));
     source->needPhysicianInfo = practitioner;
-    const PrintView view(std::move(*source), QPageSize(order.paper));
+    const PrintView view(std::move(*source), order.paper);
     const auto written = writePdf(view, order.sections, order.output);
     if (!written) return failed(describe(written.error()));
     printLine(around.out, u"written: "_s + order.output);
@@ -103,7 +104,7 @@ CommandResult writeReport(const Order& order, bool practitioner, const DataStore
 }
 
 CommandResult runReport(const Request& request, Surroundings& around) {
-    const auto order = orderOf(request);
+    const auto order = orderOf(request, around.usualPaper);
     if (!order) return tl::unexpected(order.error());
     const OpenedStore store = openStore(around);
     if (!store) return tl::unexpected(store.error());

@@ -37,7 +37,8 @@ CommandResult runStatistics(const Request& request, Surroundings& around) {
                                          .includeUndated = request.options.isSet(u"undated"_s)};
         const bool showMap = (*store)->getSetting().showPPorMap != 0;
         print(calcStatistic(readings, selection, showMap), showMap, around);
-        printLine(around.err, describe(countReadings(readings, selection, isInStatistic)));
+        const ReadingCount count = countReadings(readings, selection, isInStatistic);
+        if (!describeLeftOut(count).isEmpty()) printLine(around.err, describe(count));
     });
 }
 

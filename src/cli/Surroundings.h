@@ -1,6 +1,7 @@
 #pragma once
 
 #include "monitor/MonitorPort.h"
+#include "report/UsualPaper.h"
 #include "store/Clock.h"
 #include "store/DataStore.h"
 
@@ -24,7 +25,8 @@ struct Surroundings {
     std::ostream& err;
     bool errIsTerminal = false;
     Clock& clock;
-    StorePaths paths; ///< an empty home: the environment names none
+    QPageSize usualPaper{QPageSize::A4}; ///< of a report that names none
+    StorePaths paths;                    ///< an empty home: the environment names none
     /// The USB monitor for none, else the simulated one of that plan file (empty: the built-in plan).
     std::function<AttachedMonitor(const std::optional<QString>& simulated)> attach;
 };

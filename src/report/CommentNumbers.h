@@ -18,8 +18,9 @@ struct CommentNumber {
     Point origin; ///< bottom left
 };
 
-/// Each number from its box's edge on; those of boxes that begin together are one text, and a text that would
-/// run into the one beside it stands in a row above. \p at is the bottom left of the area that they stay in,
+/// Each number from its box's edge on; those of boxes that begin together are one text, in several rows if it
+/// is long, of which the last tells how many more there are. A text that would run into the one beside it
+/// stands in a row above. \p at is the bottom left of the area that they stay in,
 /// from left to right.
 [[nodiscard]] std::vector<CommentNumber> commentNumbers(std::vector<NumberedBox> boxes, Point at,
                                                         double areaWidth, const TextAttribute& attribute);

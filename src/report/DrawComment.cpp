@@ -65,7 +65,7 @@ void DrawComment::drawItem(Picture& picture, const Rect& item, const TextPart& p
     const QColor color = getCommentColor(comment.degree, true);
     picture.emplace_back(FillRect{{item.x, item.y + yMargin, barWidth, item.height - 2 * yMargin}, color});
     const Rect box{item.x + barWidth + xMargin, item.y, item.width - barWidth - 2 * xMargin, item.height};
-    const QString head = commentNumber(report.comments, comment) + u"   "_s + days(comment, report.settings);
+    const QString head = QString::number(part.item + 1) + u"   "_s + days(comment, report.settings);
     drawTextPart(picture, box, {head, commentColorName(comment)}, layout.lines[part.item], part);
     picture.emplace_back(StraightLine{{item.x, item.y}, {item.right(), item.y}, 0.5, Qt::gray});
 }

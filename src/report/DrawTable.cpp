@@ -97,7 +97,7 @@ int DrawTable::needPages(const Rect& rect, bool forTable) const {
     return (left + perPage - 1) / perPage + pagesBefore;
 }
 
-void DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forTable) const {
+bool DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forTable) const {
     const int firstPageItems = itemsPerPage(firstPageRect(rect, forTable));
     const int perPage = itemsPerPage(rect);
     const Rect area = page == 1 ? firstPageRect(rect, forTable) : rect;
@@ -106,13 +106,15 @@ void DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forT
     TableRow row = tableRow({area.x, std::trunc(area.top() - rowHeight), area.width, rowHeight});
     picture.emplace_back(FillRect{area, Qt::white});
     drawHeader(picture, row);
+    bool isCut = false;
     const CommentModel* named = nullptr; // a page names its first, which may have begun on the one before
     for (int index = from; index < until; ++index) {
         row.y -= rowHeight;
         const ReadingRow& reading = report.rows.rows[static_cast<std::size_t>(index)];
-        drawReading(picture, row, reading, reading.comment != named);
+        isCut |= drawReading(picture, row, reading, reading.comment != named);
         named = reading.comment;
     }
+    return isCut;
 }
 
 void DrawTable::drawHeader(Picture& picture, const Rect& row) const {
@@ -130,7 +132,7 @@ void DrawTable::drawHeader(Picture& picture, const Rect& row) const {
     picture.emplace_back(StraightLine{{row.x, row.y}, {row.right(), row.y}, 1, Qt::black});
 }
 
-void DrawTable::drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading,
+bool DrawTable::drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading,
                             bool opensRun) const {
     if (reading.bYellowBackground) picture.emplace_back(FillRect{row, Qt::yellow});
     if (reading.bDrawTopLine)
@@ -145,7 +147,7 @@ void DrawTable::drawReading(Picture& picture, const TableRow& row, const Reading
         drawMarks(picture, row, *reading.reading);
         drawMeasures(picture, row, *reading.reading);
     }
-    drawComment(picture, row, reading, opensRun || reading.bAtBegin);
+    return drawComment(picture, row, reading, opensRun || reading.bAtBegin);
 }
 
 void DrawTable::drawMarks(Picture& picture, const TableRow& row, const ReadingModel& reading) const {
@@ -169,18 +171,20 @@ void DrawTable::drawMeasures(Picture& picture, const TableRow& row, const Readin
 }
 
 /// A bar in the comment's colour along its rows, closed at both ends, with its number and first words.
-void DrawTable::drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading,
+bool DrawTable::drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading,
                             bool isNamed) const {
-    if (reading.comment == nullptr) return;
+    if (reading.comment == nullptr) return false;
     const Field cell = field(row, xComment, baseWidth, textBase);
     const QColor color = getCommentColor(reading.comment->degree, true);
     const Rect bar{cell.at.x, row.y, 3, rowHeight};
     picture.emplace_back(FillRect{bar, color});
     if (reading.bAtBegin) picture.emplace_back(FillRect{{bar.x, bar.top() - 2, 8, 2}, color});
     if (reading.bAtEnd) picture.emplace_back(FillRect{{bar.x, bar.y, 8, 2}, color});
-    if (!isNamed) return;
+    if (!isNamed) return false;
     const QString words = commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
-    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, cell.width + columnGap - 6, row.font);
+    const double width = cell.width + columnGap - 6;
+    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, width, row.font);
+    return !isWhole(words, width, row.font);
 }
 
 } // namespace zel

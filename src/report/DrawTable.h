@@ -27,16 +27,17 @@ public:
     [[nodiscard]] int needPages(const Rect& rect, bool forTable) const;
 
     /// The rows of a page, counted from 1, in that rectangle. \p forTable as for needPages().
-    void drawRect(Picture& picture, const Rect& rect, int page, bool forTable) const;
+    /// \return whether a comment has more words than its column
+    [[nodiscard]] bool drawRect(Picture& picture, const Rect& rect, int page, bool forTable) const;
 
 private:
     [[nodiscard]] int rowTotal() const { return static_cast<int>(report.rows.rows.size()); }
     void drawHeader(Picture& picture, const Rect& row) const;
-    /// \p opensRun: names its comment, which the row above does not have.
-    void drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading, bool opensRun) const;
+    /// \p opensRun: names its comment, which the row above does not have. \return whether that is cut
+    bool drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading, bool opensRun) const;
     void drawMeasures(Picture& picture, const TableRow& row, const ReadingModel& reading) const;
     void drawMarks(Picture& picture, const TableRow& row, const ReadingModel& reading) const;
-    void drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading, bool isNamed) const;
+    bool drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading, bool isNamed) const;
 
     const ReportSource& report;
 };

@@ -57,10 +57,8 @@ bool isHalfOfDay(ViewSelection view) {
     return view == ViewSelection::amOnly || view == ViewSelection::pmOnly;
 }
 
-LimitShares sharesOf(const ReportSource& report, ViewSelection view) {
-    ReadingSelection selection = report.selection;
-    selection.view = view;
-    return limitShares(report.readings, selection, report.settings);
+LimitShares sharesOf(const ReportSource& report, CountRule rule) {
+    return limitShares(report.readings, report.selection, rule, report.settings);
 }
 
 } // namespace
@@ -76,7 +74,7 @@ void drawHistogramPage(Picture& picture, const ReportSource& report, const Rect&
 }
 
 void drawCorrelationPage(Picture& picture, const ReportSource& report, const Rect& rect) {
-    const LimitShares shares = sharesOf(report, report.selection.view);
+    const LimitShares shares = sharesOf(report, isCounted);
     const Limits limits = limitsOf(report);
     const Rect left = drawWords(picture, rect, qtTrId("reportReadings", shares.total),
                                 {keepBothText(shares, report), tooHighTexts(shares, limits).join(u"     "_s),
@@ -94,12 +92,13 @@ void drawStatisticSummary(Picture& picture, const ReportSource& report, const Re
     const StatisticFigures figures = calcStatistic(report.readings, report.selection, showMap);
     const double tableWidth = rect.width * 0.5;
     append(picture, drawStatistic(figures, showMap, {rect.x, rect.y, tableWidth, rect.height}));
-    const LimitShares shares = sharesOf(report, ViewSelection::custom);
+    const LimitShares shares = sharesOf(report, isInStatistic);
     const Rect words{rect.x + tableWidth, rect.y, rect.width - tableWidth, rect.height};
     QString heading = qtTrId("reportReadings", shares.total);
     if (isHalfOfDay(report.selection.view)) heading = qtTrId("reportAllTimesOfDay").arg(heading);
-    drawWords(picture, words, heading,
-              QStringList(keepBothText(shares, report)) + tooHighTexts(shares, limitsOf(report)));
+    QStringList lines = QStringList(keepBothText(shares, report)) + tooHighTexts(shares, limitsOf(report));
+    if (shares.total == 0) lines += qtTrId("reportNoFigures");
+    drawWords(picture, words, heading, lines);
 }
 
 } // namespace zel

@@ -6,11 +6,11 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
-LimitShares limitShares(const ReadingList& readings, const ReadingSelection& selection,
+LimitShares limitShares(const ReadingList& readings, const ReadingSelection& selection, CountRule rule,
                         const SettingModel& settings) {
     LimitShares shares;
     for (const ReadingModel& reading : readings) {
-        if (!isCounted(reading, selection)) continue;
+        if (!rule(reading, selection)) continue;
         const bool sys = settings.sysStandard > 0 && reading.sys > settings.sysStandard;
         const bool dia = settings.diaStandard > 0 && reading.dia > settings.diaStandard;
         ++shares.total;

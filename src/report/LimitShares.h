@@ -1,7 +1,6 @@
 #pragma once
 
-#include "analysis/ReadingSelection.h"
-#include "store/RecordLinks.h"
+#include "analysis/ReadingCount.h"
 #include "store/SettingModel.h"
 
 namespace zel {
@@ -16,9 +15,9 @@ struct LimitShares {
     int bothTooHigh = 0;
 };
 
-/// Of the readings that histogram and correlation count.
+/// Of the readings that \p rule counts: the same ones as the figures beside them.
 [[nodiscard]] LimitShares limitShares(const ReadingList& readings, const ReadingSelection& selection,
-                                      const SettingModel& settings);
+                                      CountRule rule, const SettingModel& settings);
 
 /// "12 (34 %)"; without percent for a total of 0.
 [[nodiscard]] QString shareText(int count, int total);

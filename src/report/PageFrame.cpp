@@ -14,7 +14,7 @@ const TextAttribute boldFont{.bold = true};
 const TextAttribute countFont{.size = 9};
 const TextAttribute emptyFont{.size = 9, .bold = true};
 constexpr int smallestName = 8;
-constexpr int practitionerSize = 10, smallestPractitioner = 7;
+constexpr int practitionerSize = 10, smallestPractitioner = 5;
 const TextAttribute pageNumberFont{.size = 10};
 const QColor titleBackgroundColor(206, 219, 239);
 
@@ -58,10 +58,6 @@ QString shownPart(const ReportSource& report, Section section) {
     }
 }
 
-bool isInChart(const ReadingModel& reading, const ReadingSelection& selection) {
-    return isCounted(reading, selection) && !hasUndatedMarker(reading);
-}
-
 /// Which readings the section counts; none for one that is about something else.
 CountRule countRule(Section section) {
     switch (section) {
@@ -80,9 +76,7 @@ CountRule countRule(Section section) {
 QString countText(const ReportSource& report, Section section) {
     const CountRule rule = countRule(section);
     if (!rule) return {};
-    ReadingSelection selection = report.selection;
-    selection.includeUndated = selection.includeUndated && section != Section::graph;
-    const ReadingCount count = countReadings(report.readings, selection, rule);
+    const ReadingCount count = countReadings(report.readings, report.selection, rule);
     const bool isHeaded = section != Section::graph && section != Section::table;
     return isHeaded && describeLeftOut(count).isEmpty() ? QString() : describe(count);
 }
@@ -111,8 +105,18 @@ void drawPractitioner(Picture& picture, const Rect& foot, QString text) {
     const auto fits = [&] { return wrapped(text, width, font, room() + 1).size() <= room(); };
     while (font.size > smallestPractitioner && !fits())
         --font.size;
-    if (!fits()) text.replace(u'\n', u", "_s);
-    fieldParagraph(picture, text, {foot.x + titleIndent, foot.y + practitionerTop}, width, font, room());
+    if (!fits()) {
+        text.replace(u'\n', u", "_s);
+        font.size = practitionerSize;
+    }
+    while (font.size > smallestPractitioner && !fits())
+        --font.size;
+    const Point top{foot.x + titleIndent, foot.y + practitionerTop};
+    if (fits()) return fieldParagraph(picture, text, top, width, font, room());
+    const int lines = room() - 1;
+    fieldParagraph(picture, text, top, width, font, lines);
+    textOut(picture, qtTrId("reportCutPractitioner"), {top.x, top.y - lines * lineHeight(font)}, font,
+            XPos::left, YPos::top);
 }
 
 } // namespace

@@ -11,16 +11,24 @@
 namespace zel {
 
 PrintView::PrintView(ReportSource report, const QPageSize& paper)
-    : source(std::move(report)), paperSize(paper),
-      comments(layOutComments(source, geometry(Section::comment).drawingRect)),
-      profile(layOutPatient(source, geometry(Section::PatientProfile).drawingRect)) {}
+    : source(std::move(report)), paperSize(paper) {}
+
+const CommentPages& PrintView::comments() const {
+    if (!commentPages) commentPages = layOutComments(source, geometry(Section::comment).drawingRect);
+    return *commentPages;
+}
+
+const PatientPages& PrintView::profile() const {
+    if (!patientPages) patientPages = layOutPatient(source, geometry(Section::PatientProfile).drawingRect);
+    return *patientPages;
+}
 
 int PrintView::getTotalPages(std::optional<Section> printSelection) const {
     const Rect drawing = geometry(printSelection).drawingRect;
     if (printSelection == Section::table) return DrawTable(source).needPages(drawing, true);
     if (printSelection == Section::SWStatistics) return DrawTable(source).needPages(drawing, false);
-    if (printSelection == Section::comment) return static_cast<int>(comments.pages.size());
-    if (printSelection == Section::PatientProfile) return 1 + static_cast<int>(profile.more.size());
+    if (printSelection == Section::comment) return static_cast<int>(comments().pages.size());
+    if (printSelection == Section::PatientProfile) return 1 + static_cast<int>(profile().more.size());
     return 1;
 }
 
@@ -54,25 +62,25 @@ void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section secti
         return drawGraphLegend(picture, source, drawGraph(picture, source, at.drawingRect), legendPlace(at),
                                legendWidth(at));
     case Section::PatientProfile:
-        drawPatient(picture, source, profile, at.drawingRect, number);
-        return drawPatientNote(picture, profile, number, legendPlace(at), legendWidth(at));
+        drawPatient(picture, source, profile(), at.drawingRect, number);
+        return drawPatientNote(picture, profile(), number, legendPlace(at), legendWidth(at));
     case Section::histogram: return drawHistogramPage(picture, source, at.drawingRect);
     case Section::correlation: return drawCorrelationPage(picture, source, at.drawingRect);
     case Section::comment:
-        DrawComment(source, comments).drawRect(picture, at.drawingRect, number);
+        DrawComment(source, comments()).drawRect(picture, at.drawingRect, number);
         return drawCommentLegend(picture, source, legendPlace(at), legendWidth(at));
     case Section::SWStatistics: return drawSummaryStat(picture, at, number);
     case Section::table:
-        DrawTable(source).drawRect(picture, at.drawingRect, number, true);
-        return drawTableLegend(picture, source, legendPlace(at), legendWidth(at));
+        return drawTableLegend(picture, source,
+                               DrawTable(source).drawRect(picture, at.drawingRect, number, true),
+                               legendPlace(at), legendWidth(at));
     }
 }
 
 void PrintView::drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const {
     const Rect& area = at.drawingRect;
-    const DrawTable table(source);
-    table.drawRect(picture, area, number, false);
-    drawTableLegend(picture, source, legendPlace(at), legendWidth(at));
+    const bool isCommentCut = DrawTable(source).drawRect(picture, area, number, false);
+    drawTableLegend(picture, source, isCommentCut, legendPlace(at), legendWidth(at));
     if (number != 1) return;
     const Rect rows = DrawTable::firstPageRect(area, false);
     drawStatisticSummary(picture, source, {area.x, area.top() - fStatTable, area.width, fStatTable});

@@ -38,10 +38,14 @@ private:
     void drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const;
     void drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const;
 
+    [[nodiscard]] const CommentPages& comments() const;
+    [[nodiscard]] const PatientPages& profile() const;
+
     ReportSource source;
     QPageSize paperSize;
-    CommentPages comments;
-    PatientPages profile;
+    // Worked out when the section is first asked for: texts may be long, and many.
+    mutable std::optional<CommentPages> commentPages;
+    mutable std::optional<PatientPages> patientPages;
 };
 
 } // namespace zel

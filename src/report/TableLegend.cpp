@@ -3,6 +3,8 @@
 #include "report/FieldText.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace zel {
 
@@ -11,63 +13,108 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const TextAttribute legendFont{.size = 8};
-constexpr double diameter = 6;
+constexpr int smallestLegend = 6, usualLines = 2;
 
-/// Writes marks and words one after the other.
-class LegendLine {
+/// A mark or words, which stand together or go to the next line together.
+struct LegendItem {
+    enum class Mark { none, filled, open };
+
+    Mark mark = Mark::none;
+    QString words;
+    double gapAfter = 0;
+};
+using LegendItems = std::vector<LegendItem>;
+
+/// Writes items one after the other, in as many lines as that takes.
+class LegendText {
 public:
-    LegendLine(Picture& onto, Point begin, double width) : picture(onto), at(begin), end(begin.x + width) {}
+    LegendText(double lineWidth, const TextAttribute& type) : width(lineWidth), font(type) {}
 
-    void circle(bool filled) {
-        picture.emplace_back(Circle{{at.x + diameter / 2, at.y + 4.5}, diameter, filled, Qt::black});
-        at.x += diameter + 3;
+    void add(const LegendItems& items) {
+        if (isBegun) nextLine();
+        isBegun = true;
+        for (const LegendItem& item : items)
+            add(item);
     }
-    void words(const QString& text, double gapAfter) {
-        fieldText(picture, text, at, end - at.x, legendFont);
-        at.x += textSize(text, legendFont).width + gapAfter;
+    [[nodiscard]] double height() const { return lineHeight(font) - at.y; }
+    /// With the last line on that point.
+    [[nodiscard]] Picture standingOn(Point corner) && {
+        for (PictureItem& item : picture) {
+            auto* circle = std::get_if<Circle>(&item);
+            Point& origin = circle ? circle->centre : std::get<TextLine>(item).origin;
+            origin = {origin.x + corner.x, origin.y + corner.y - at.y};
+        }
+        return std::move(picture);
     }
 
 private:
-    Picture& picture;
+    void add(const LegendItem& item) {
+        const double mark = item.mark == LegendItem::Mark::none ? 0 : 0.75 * font.size + 3;
+        const double own = mark + textSize(item.words, font).width;
+        if (at.x > 0 && at.x + own > width) nextLine();
+        if (mark > 0) addCircle(item.mark == LegendItem::Mark::filled);
+        fieldFigure(picture, item.words, {at.x + mark, at.y}, width - at.x - mark, font);
+        at.x += own + item.gapAfter;
+    }
+    void addCircle(bool filled) {
+        const double diameter = 0.75 * font.size;
+        picture.emplace_back(
+            Circle{{at.x + diameter / 2, at.y + 0.5625 * font.size}, diameter, filled, Qt::black});
+    }
+    void nextLine() { at = {0, at.y - lineHeight(font)}; }
+
+    Picture picture;
     Point at;
-    double end;
+    double width;
+    TextAttribute font;
+    bool isBegun = false;
 };
 
 constexpr double itemGap = 10;
 constexpr double wordGap = 5;
 
-void drawMarkMeanings(Picture& picture, const ReportSource& report, Point at, double width) {
-    LegendLine line(picture, at, width);
+LegendItems markMeanings(const ReportSource& report) {
+    using enum LegendItem::Mark;
+    LegendItems items;
     if (report.getShowPad) {
-        line.words((report.getIsAfib ? qtTrId("afib") : qtTrId("pad")) + u':', wordGap);
-        line.circle(true);
-        line.words(qtTrId("reportFound"), itemGap);
-        line.circle(false);
-        line.words(qtTrId("reportNotFound"), itemGap);
-        line.words(qtTrId("reportFindingUnknown"), itemGap * 2);
+        items = {{none, (report.getIsAfib ? qtTrId("afib") : qtTrId("pad")) + u':', wordGap},
+                 {filled, qtTrId("reportFound"), itemGap},
+                 {open, qtTrId("reportNotFound"), itemGap},
+                 {none, qtTrId("reportFindingUnknown"), itemGap * 2}};
     }
-    if (!report.getShowMam) return;
-    line.words(qtTrId("mam") + u':', wordGap);
-    line.circle(true);
-    line.words(qtTrId("reportAverage"), itemGap);
+    if (!report.getShowMam) return items;
+    items.push_back({none, qtTrId("mam") + u':', wordGap});
+    items.push_back({filled, qtTrId("reportAverage"), itemGap});
+    return items;
 }
 
-void drawOtherMarks(Picture& picture, const ReadingRows& rows, Point at, double width) {
-    LegendLine line(picture, at, width);
+LegendItems otherMarks(const ReadingRows& rows, bool isCommentCut) {
+    LegendItems items;
     const auto explain = [&](const QString& text, auto&& isSuch) {
-        if (std::ranges::any_of(rows.rows, isSuch)) line.words(text, itemGap);
+        if (std::ranges::any_of(rows.rows, isSuch)) items.push_back({LegendItem::Mark::none, text, itemGap});
     };
     explain(qtTrId("reportDownloadDay"), [](const ReadingRow& row) { return row.bYellowBackground; });
     explain(qtTrId("reportNoReading"), [](const ReadingRow& row) { return row.isNA(); });
     explain(qtTrId("reportNoDate"), [](const ReadingRow& row) { return isUndatedDay(row.day); });
     explain(qtTrId("reportCommentBars"), [](const ReadingRow& row) { return row.comment != nullptr; });
+    if (isCommentCut) items.push_back({LegendItem::Mark::none, qtTrId("reportCutComments"), itemGap});
+    return items;
 }
 
 } // namespace
 
-void drawTableLegend(Picture& picture, const ReportSource& report, Point at, double width) {
-    drawMarkMeanings(picture, report, {at.x, at.y + lineHeight(legendFont)}, width);
-    drawOtherMarks(picture, report.rows, at, width);
+void drawTableLegend(Picture& picture, const ReportSource& report, bool isCommentCut, Point at,
+                     double width) {
+    const auto written = [&](int size) {
+        LegendText text(width, {.size = size});
+        text.add(markMeanings(report));
+        text.add(otherMarks(report.rows, isCommentCut));
+        return text;
+    };
+    int size = legendFont.size;
+    while (size > smallestLegend && written(size).height() > usualLines * lineHeight(legendFont) + 0.01)
+        --size;
+    std::ranges::move(written(size).standingOn(at), std::back_inserter(picture));
 }
 
 void drawCommentLegend(Picture& picture, const ReportSource& report, Point at, double width) {

@@ -6,8 +6,9 @@
 
 namespace zel {
 
-/// What the marks of the reading table mean, in lines that stand on \p at.
-void drawTableLegend(Picture& picture, const ReportSource& report, Point at, double width);
+/// What the marks of the reading table mean, in lines that stand on \p at: smaller and more of them where
+/// they would be cut.
+void drawTableLegend(Picture& picture, const ReportSource& report, bool isCommentCut, Point at, double width);
 /// The same for the comments' page.
 void drawCommentLegend(Picture& picture, const ReportSource& report, Point at, double width);
 /// That the profile's form has cut texts, which stand in full behind it.

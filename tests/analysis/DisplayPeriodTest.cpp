@@ -136,7 +136,6 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
     EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-08 23:59:59");
     changes = 0;
     period.refreshDataPeriod(readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"}));
-    period.refreshDataPeriod(readingsAt({"2000-01-01 08:00"}));
     EXPECT_EQ(changes, 0);
     period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2019-01-01 10:00"}));
     EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-08 23:59:59");
@@ -149,6 +148,13 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
     period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2018-01-01 10:00"}));
     EXPECT_EQ(shown(), "2018-01-01 00:00:00 2019-07-09 23:59:59");
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::viewAll);
+    changes = 0;
+    period.refreshDataPeriod(readingsAt({"2000-01-01 08:00"})); // the dated ones are gone
+    EXPECT_EQ(shown(), "2026-01-01 00:00:00 2026-01-01 23:59:59");
+    EXPECT_EQ(changes, 1);
+    period.setTimePeriod(at("2019-05-02"), at("2019-05-03"));
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    EXPECT_EQ(shown(), "2026-01-01 00:00:00 2026-01-01 23:59:59");
 }
 
 TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {

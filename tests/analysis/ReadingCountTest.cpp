@@ -44,6 +44,9 @@ TEST(ReadingCount, SaysWhatEachViewShowsAndWhyItLeavesTheOthersOut) {
         sample.readings = readings;
         EXPECT_EQ(countReadings(readings, sample.selection, isListed), c.list);
         EXPECT_EQ(countReadings(readings, sample.selection, isInStatistic), c.statistic);
+        const ReadingCount chart = countReadings(readings, sample.selection, isInChart);
+        EXPECT_EQ(chart.counted, c.list.counted - (c.includeUndated ? 3 : 0));
+        EXPECT_EQ(chart.undated, 3) << "wanted or not";
         EXPECT_EQ(sample.rows().rows.size(), static_cast<std::size_t>(c.list.counted));
         EXPECT_EQ(calcStatistic(readings, sample.selection, true).count,
                   static_cast<float>(c.statistic.counted));

@@ -73,6 +73,8 @@ TEST(Drawing, LinesHoldWhatFits) {
         {"a line feed after a full line", u"mmmm\nm"_s, fourLetters, 0, 5},
         {"a line feed alone", u"\n\nm"_s, fourLetters, 0, 1},
         {"no room", u"mmmm"_s, 0.5, 0, 0},
+        {"a line feed far behind", u"m"_s.repeated(900) + u"\nm"_s, widthOf(u"m"_s) * 950, 0, 901},
+        {"a word before a far line feed", u"mm "_s.repeated(50) + u'\n', fourLetters, 0, 3},
         {"a negative width", u"mmmm"_s, -10, 0, 0},
     };
     for (const auto& each : cases)

@@ -270,6 +270,32 @@ TEST(FigurePictures, LabelsNeitherTouchNorLeaveThePicture) {
     }
 }
 
+// What is not said looks as if it were not there.
+TEST(FigurePictures, ReadingsOffTheScaleAreToldHoweverNarrowThePictureIs) {
+    constexpr OffScale many{1234, 56};
+    const auto told = [](const Picture& picture, const Rect& area) {
+        qsizetype numbers = 0;
+        for (const TextLine& line : itemsOf<TextLine>(picture)) {
+            if (!line.text.contains(u"1234"_s) || !line.text.contains(u"56"_s)) continue;
+            ++numbers;
+            EXPECT_GE(line.attribute.size, 7);
+            EXPECT_LE(line.origin.x + textSize(line.text, line.attribute).width, area.right());
+            EXPECT_GE(line.origin.x, area.x);
+        }
+        return numbers;
+    };
+    for (int width = 260; width <= 1200; width += 20)
+        for (const int height : {90, 150, 600}) {
+            const Rect area{3, 5, static_cast<double>(width), static_cast<double>(height)};
+            EXPECT_EQ(told(drawHistogram(histogram(13, 6), {many, many, many}, area), area), 3)
+                << width << " x " << height;
+            EXPECT_EQ(told(drawCorrelation({}, many, 135, 85, area), area), 1) << width << " x " << height;
+            Picture note;
+            drawOffScale(note, many, {area.x, area.y, area.width, 3});
+            EXPECT_EQ(told(note, area), 1) << "in a chart that is lower than its words";
+        }
+}
+
 TEST(FigurePictures, TinyPicturesStayInTheirArea) {
     for (const double size : {1.0, 17.0, 31.0, 66.0, 90.0}) {
         const Rect area{20, 20, size, size};

@@ -47,6 +47,7 @@ Outcome CliTest::zel(const QStringList& arguments) {
     cli::Surroundings around{.out = out,
                              .err = err,
                              .clock = clock,
+                             .usualPaper = usualPaper,
                              .paths = {.home = folder.filePath(u"home"_s),
                                        .applicationFolder = folder.filePath(u"program"_s),
                                        .templateFolder = u":/templates"_s},

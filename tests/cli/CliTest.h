@@ -41,6 +41,7 @@ protected:
 
     QTemporaryDir folder;
     ManualClock clock;
+    QPageSize usualPaper{QPageSize::A4};
     PortOpen whenUnplugged = PortOpen::absent;
 
 private:

@@ -48,6 +48,18 @@ TEST_F(Report, everySectionIsWritten) {
     EXPECT_TRUE(written().contains(fromZEL));
 }
 
+TEST_F(Report, thePaperIsTheUsualOneUnlessItIsNamed) {
+    for (const auto& [usual, named, box] : {std::tuple{QPageSize::A4, "", "595.000000 842"},
+                                            {QPageSize::Letter, "", "612.000000 792"},
+                                            {QPageSize::Letter, "A4", "595.000000 842"}}) {
+        usualPaper = QPageSize(usual);
+        const QString paper = QLatin1StringView(named);
+        ASSERT_EQ(
+            report(u"table"_s, paper.isEmpty() ? QStringList() : QStringList{u"--paper"_s, paper}).status, 0);
+        EXPECT_TRUE(written().contains(QByteArray("/MediaBox [0 0 ") + box)) << named;
+    }
+}
+
 TEST_F(Report, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
     struct Refusal {
         QString section;

@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -72,11 +74,16 @@ protected:
     [[nodiscard]] QWidget& window() override { return printing; }
     /// Prints the first section of the tab. \return the path of what the queue made of it
     QString printFrom(int tab) {
+        return whatComesOut([&] {
+            printing.showPrintPreview(tab, {}, PrintPurpose::printer);
+            click("savePdf");
+            click("printAndClose");
+        });
+    }
+    QString whatComesOut(const std::function<void()>& print) {
         QDir folder(printed());
         const QStringList before = folder.entryList({u"*.pdf"_s});
-        printing.showPrintPreview(tab, {}, PrintPurpose::printer);
-        click("savePdf");
-        click("printAndClose");
+        print();
         EXPECT_TRUE(panel.messages.empty()) << qPrintable(panel.messages.join(u'\n'));
         QString made;
         EXPECT_TRUE(QTest::qWaitFor(
@@ -103,7 +110,8 @@ protected:
 } // namespace
 
 TEST_F(PrintQueueTest, theQueueIsKnownAndIsTheDefault) {
-    EXPECT_EQ(printers.names(), QStringList(qEnvironmentVariable("ZEL_PRINTER")));
+    const QString name = qEnvironmentVariable("ZEL_PRINTER");
+    EXPECT_EQ(printers.names(), QStringList({name, name + u"/two"_s}));
     EXPECT_EQ(printers.defaultName(), qEnvironmentVariable("ZEL_PRINTER"));
     EXPECT_EQ(printers.paper(printers.defaultName()).id(), QPageSize::A4);
 }
@@ -135,6 +143,19 @@ TEST_F(PrintQueueTest, whatIsPrintedIsWhatIsSaved) {
                 << "page " << page << " of tab " << c.tab;
         }
     }
+}
+
+TEST_F(PrintQueueTest, anInstanceOfAPrinterPrintsAsItIsSet) {
+    auto source = printSource(store, period, clock, {});
+    ASSERT_TRUE(source);
+    const PrintView view(std::move(*source), QPageSize(QPageSize::A4));
+    ASSERT_EQ(view.getTotalPages(Section::SWStatistics), 4);
+    const QString paper = whatComesOut([&] {
+        EXPECT_EQ(printers.print(printers.defaultName() + u"/two"_s, view, Section::SWStatistics),
+                  PrintResult::printed);
+    });
+    EXPECT_TRUE(outputOf(u"pdfinfo"_s, {paper}).replace(" ", "").contains("Pages:2\n"))
+        << "four, two on a sheet";
 }
 
 TEST_F(PrintQueueTest, aJobThatCannotBeFinishedIsTakenBack) {

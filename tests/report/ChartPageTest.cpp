@@ -97,6 +97,29 @@ TEST(ChartPage, numbersOfCommentsStandAboveTheirBoxes) {
     }
 }
 
+TEST(ChartPage, numbersOfManyBoxesThatBeginTogetherAreAllToldOrCounted) {
+    const TextAttribute type{.size = 8, .bold = true};
+    for (const auto& [total, x] : {std::pair{60, 100.0}, {60, 740.0}, {60, 0.0}, {1000, 400.0}}) {
+        std::vector<NumberedBox> boxes;
+        for (int i = 0; i < total; ++i)
+            boxes.push_back({x, 2 * i + 1});
+        Picture picture;
+        QStringList rows;
+        for (const CommentNumber& number : commentNumbers(boxes, {10, 20}, 730, type)) {
+            picture.emplace_back(TextLine{number.text, number.origin, type});
+            rows.prepend(number.text);
+        }
+        EXPECT_EQ(misplaced(picture, {10, 20, 730, 60}), u""_s);
+        const QString last = total > 60 ? rows.takeLast() : QString();
+        const QStringList told = rows.join(u' ').split(u", "_s);
+        for (int i = 0; i < told.size(); ++i)
+            EXPECT_EQ(told[i], QString::number(2 * i + 1));
+        EXPECT_TRUE(told.size() == total
+                    || last == qtTrId("reportMoreNumbers", total - static_cast<int>(told.size())))
+            << qPrintable(last);
+    }
+}
+
 // In black and white, and with the days of a year.
 TEST(ChartPage, limitsStandOutAndReadingsHaveMarks) {
     SampleReport sample(60, 1);

@@ -83,6 +83,16 @@ TEST(LongText, commentsStandInFull) {
     }
 }
 
+// Thousands of comments or a note of megabytes must not hold up a table, which shows neither.
+TEST(LongText, isLaidOutWhenItsSectionIsFirstAskedFor) {
+    SampleReport sample(3, 1);
+    const PrintView view = sample.view();
+    EXPECT_EQ(view.getTotalPages(Section::table), 1);
+    sample.comments[0]->comment = sample.patient.PatientNotes = numberedWords(u"word"_s, 1500);
+    EXPECT_TRUE(textOfBody(view, Section::comment).contains(u"word1500"_s));
+    EXPECT_TRUE(textOfBody(view, Section::PatientProfile).contains(u"word1500"_s));
+}
+
 TEST(LongText, whatTheProfilesFormCutsStandsInFullBehindIt) {
     QString PatientModel::*const fields[] = {&PatientModel::FamilyName,  &PatientModel::GivenNames,
                                              &PatientModel::ID,          &PatientModel::Address,

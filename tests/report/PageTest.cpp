@@ -139,8 +139,11 @@ TEST(Page, footerShowsThePractitionerOnlyWhenAskedForAndApartFromTheLegend) {
         double legendTop = 0, detailsBottom = at.footerRect.top();
         for (const TextLine& line : textsOf(view.page(Section::table, 1))) {
             if (line.origin.y >= at.footerRect.top() || line.text.startsWith("Page"_L1)) continue;
-            const bool isDetail = (details + QString(details).replace(u'\n', u", "_s)).contains(line.text);
-            if (isDetail) lines += line.text;
+            const bool isNotice = line.text == qtTrId("reportCutPractitioner");
+            const QString words = QString(line.text).remove(u'\u2026');
+            const bool isDetail =
+                isNotice || (details + QString(details).replace(u'\n', u", "_s)).contains(words);
+            if (isDetail && !isNotice) lines += line.text;
             (isDetail ? detailsBottom : legendTop) =
                 isDetail ? std::min(detailsBottom, line.origin.y)
                          : std::max(legendTop, line.origin.y + textSize(line.text, line.attribute).height);
@@ -156,6 +159,16 @@ TEST(Page, footerShowsThePractitionerOnlyWhenAskedForAndApartFromTheLegend) {
     for (int i = 1; i <= 20; ++i)
         many += u"Department %1"_s.arg(i);
     EXPECT_EQ(linesOf(many.join(u'\n')).replace(u'|', u' '), many.join(u", "_s)) << "no line for each";
+    QString detail = u"A practice with more departments than any page has room for. "_s.repeated(20);
+    const auto isSaidToBeCut = [&](const QString& details) {
+        const QString words = linesOf(details).replace(u'|', u' '); // which sets them, too
+        const auto texts = textsOf(sample.view().page(Section::table, 1));
+        const bool isSaid = std::ranges::count(texts, qtTrId("reportCutPractitioner"), &TextLine::text) == 1;
+        EXPECT_NE(words == details.trimmed(), isSaid);
+        return isSaid;
+    };
+    EXPECT_FALSE(isSaidToBeCut(detail.trimmed()));
+    EXPECT_TRUE(isSaidToBeCut(detail.repeated(5).trimmed()));
     sample.needPhysicianInfo = false;
     EXPECT_EQ(linesOf(u"Dr. Moreau"_s), QString());
 }
@@ -188,6 +201,8 @@ TEST(Page, countsTheReadingsAboveTheLimits) {
             EXPECT_TRUE(shows(sample.view(), section, words)) << qPrintable(words);
     }
     EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"Both above"_s, 2)) << "once is enough";
+    EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"n/a"_s));
+    EXPECT_TRUE(shows(SampleReport().view(), Section::SWStatistics, u"n/a: no readings"_s));
 }
 
 TEST(Page, tellsTheHalfOfTheDayThatItIsLimitedTo) {
@@ -246,6 +261,12 @@ TEST(Page, tellsHowManyReadingsItCountsAndWhichItLeavesOut) {
     sample = SampleReport(10);
     EXPECT_EQ(counts(table), qtTrId("readingCount", 10));
     EXPECT_EQ(counts(histogram), QString()) << "its heading says so";
+    sample.readings.emplace(sample.readings.begin());
+    sample.selection.includeUndated = true;
+    EXPECT_EQ(counts(SWStatistics), text(10, {qtTrId("leftWithoutDate", 1)}));
+    const auto onSummary = textsOf(sample.view().page(SWStatistics, 1));
+    EXPECT_EQ(std::ranges::count(onSummary, qtTrId("reportReadings", 10), &TextLine::text), 1)
+        << "limits and figures are of the same readings";
 }
 
 TEST(Page, commentsTellTheirDaysAndColours) {

@@ -95,6 +95,13 @@ TEST_F(TableTest, theLegendExplainsWhatTheTableShowsAndNoMore) {
     sample.downloads.emplace_back().transferDay = sample.zone.day(noonOf("2019-01-02"));
     sample.downloads[0].transferDate = noonOf("2019-01-02");
     EXPECT_TRUE(explains("reportDownloadDay"));
+    sample.addComment("2019-01-03", "2019-01-04", 4, u"Bus"_s);
+    EXPECT_FALSE(explains("reportCutComments"));
+    sample.comments[1]->comment = u"Travelling by bus"_s;
+    EXPECT_TRUE(explains("reportCutComments"));
+    for (const char* key : {"reportDownloadDay", "reportNoReading", "reportNoDate", "reportCommentBars",
+                            "reportFindingUnknown", "reportAverage"})
+        EXPECT_TRUE(explains(key)) << key << " is whole where there is much to explain";
     const auto commentPageExplains = [&] {
         const auto texts = textsOf(sample.view().page(Section::comment, 1));
         return std::ranges::count(texts, qtTrId("reportNoDate"), &TextLine::text) == 1;

@@ -1,32 +1,22 @@
 """pages.py MANUAL.pdf: no page between the cover and the last one may be left half empty."""
-import glob
-import os
 import subprocess
 import sys
-import tempfile
 
-FOOT = 0.93  # of the height: the page's number and the line above it stand below
-LEAST = 0.65
+FOOT = 0.94
 
 
-def pages(pdf):
-    """Each page as rows of grey bytes."""
-    with tempfile.TemporaryDirectory() as folder:
-        subprocess.run(["pdftoppm", "-r", "20", "-gray", pdf, os.path.join(folder, "p")], check=True)
-        for name in sorted(glob.glob(os.path.join(folder, "*.pgm"))):
-            with open(name, "rb") as file:
-                _, size, _, pixels = file.read().split(b"\n", 3)
-            width = int(size.split()[0])
-            yield [pixels[at:at + width] for at in range(0, len(pixels), width)]
+def ends(pdf):
+    """For each page, how far down its text and its pictures go, as a share of its height; the foot aside."""
+    images = subprocess.run(["pdftoppm", "-r", "36", "-gray", pdf], check=True, capture_output=True).stdout
+    while images:
+        _, size, _, rest = images.split(b"\n", 3)
+        width, height = map(int, size.split())
+        rows = [rest[row * width:(row + 1) * width] for row in range(int(height * FOOT))]
+        yield max((row for row, shades in enumerate(rows) if min(shades) < 200), default=0) / height
+        images = rest[width * height:]
 
 
-def end(rows):
-    """How far down text and pictures go, as a share of the page's height; the foot aside."""
-    inked = [y for y in range(int(len(rows) * FOOT)) if min(rows[y]) < 200]
-    return max(inked, default=0) / len(rows)
-
-
-found = [f"page {number} ends at {share:.0%} of its height"
-         for number, share in list(enumerate(map(end, pages(sys.argv[1])), 1))[1:-1] if share < LEAST]
+found = [f"page {number} ends at {end:.0%} of its height"
+         for number, end in list(enumerate(ends(sys.argv[1]), 1))[1:-1] if end < 0.65]
 print("\n".join(found))
 sys.exit(bool(found))

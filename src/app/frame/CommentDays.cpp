@@ -56,4 +56,9 @@ Date typedCommentDay(const QString& text, const QString& pattern) {
     return StrToDate(day.toString(u"yyyyMMdd"_s), u"yyyyMMdd"_s);
 }
 
+bool isFarAhead(Instant day, Instant today) {
+    constexpr int twoYears = 24;
+    return greaterInDay(day, getDateMonthAgo(today, -twoYears));
+}
+
 } // namespace zel

@@ -70,10 +70,15 @@ void CommentForm::buildDay(QLineEdit& day, const QString& name, const QString& t
     day.setToolTip(qtTrId("commentDayHint"));
     day.setMaxLength(longestDate);
     day.installEventFilter(this);
-    connect(&day, &QLineEdit::editingFinished, this, [this, &day] {
-        // The window itself takes the focus when the page is left, which saves and asks in one.
-        if (day.isModified() && QApplication::focusWidget() != window()) emit datesTyped();
-    });
+    connect(&day, &QLineEdit::returnPressed, this, [this, &day] { enterDay(day); });
+}
+
+void CommentForm::enterDay(const QLineEdit& day) {
+    if (!beginDay->isModified() && !endDay->isModified()) return;
+    if (&day == beginDay && !endDay->isModified())
+        emit beginEntered();
+    else
+        emit datesTyped();
 }
 
 void CommentForm::buildText() {
@@ -191,10 +196,15 @@ void CommentForm::focusText() {
     commentText->moveCursor(QTextCursor::End);
 }
 
+void CommentForm::focusEnd() {
+    endDay->setFocus(Qt::TabFocusReason);
+    endDay->selectAll();
+}
+
 /// \return false if there is nothing to go back to
 bool CommentForm::escape(QObject* from) {
     if (from != commentText) {
-        const bool isTyped = static_cast<QLineEdit*>(from)->isModified();
+        const bool isTyped = beginDay->isModified() || endDay->isModified();
         if (isTyped) showDates(QString(shownDays[0]), QString(shownDays[1]));
         return isTyped;
     }
@@ -206,16 +216,21 @@ bool CommentForm::escape(QObject* from) {
 bool CommentForm::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         return escape(watched);
-    if (watched != commentText || event->type() != QEvent::FocusOut)
-        return QWidget::eventFilter(watched, event);
-    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    const bool isAway = reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
-    // The window itself takes the focus when the page is left, which saves and asks in one.
-    if (isAway && QApplication::focusWidget() != window()) {
+    if (event->type() == QEvent::FocusOut) leave(watched, static_cast<QFocusEvent*>(event)->reason());
+    return QWidget::eventFilter(watched, event);
+}
+
+/// One date may stand on the wrong side of the other until both are typed: they are left together.
+void CommentForm::leave(const QObject* left, Qt::FocusReason reason) {
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason) return;
+    const QWidget* now = QApplication::focusWidget();
+    if (now == window()) return; // it takes the focus when the page is left, which saves and asks in one
+    if (left == commentText) {
         qCInfo(lcApp, "comment textDidEndEditing");
         emit textLeft();
+    } else if (now != beginDay && now != endDay && (beginDay->isModified() || endDay->isModified())) {
+        emit datesTyped();
     }
-    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace zel

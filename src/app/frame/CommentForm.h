@@ -44,13 +44,16 @@ public:
     void enable(bool enabled);
     /// The keyboard goes to the text; Esc gives it back.
     void focusText();
+    /// The keyboard goes to the last day.
+    void focusEnd();
 
 signals:
     void previousWanted();
     void nextWanted();
     void deleteWanted();
-    void textLeft(); ///< for another control
-    void datesTyped();
+    void textLeft();     ///< for another control
+    void datesTyped();   ///< both, as far as they are: the keyboard left them, or Enter was pressed
+    void beginEntered(); ///< by Enter, and the last day is not typed yet
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -59,6 +62,8 @@ private:
     void build();
     void buildDay(QLineEdit& day, const QString& name, const QString& title);
     void buildText();
+    void enterDay(const QLineEdit& day);
+    void leave(const QObject* left, Qt::FocusReason reason);
     bool escape(QObject* from);
     QWidget* makeButtons();
 

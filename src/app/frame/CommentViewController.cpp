@@ -11,7 +11,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace zel {
@@ -19,15 +18,17 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 CommentViewController::CommentViewController(DataStore& dataStore, MessagePanel& messagePanel,
-                                             QWidget* parent)
+                                             const Clock& wallClock, QWidget* parent)
     : SidePanel(u"commentPanel"_s, qtTrId("commentPanel"), parent), store(dataStore), panel(messagePanel),
-      form(new CommentForm(this)) {
+      clock(wallClock), form(new CommentForm(this)) {
     static_cast<QVBoxLayout*>(layout())->addWidget(form, 1);
     connect(form, &CommentForm::previousWanted, this, [this] { go(false); });
     connect(form, &CommentForm::nextWanted, this, [this] { go(true); });
     connect(form, &CommentForm::deleteWanted, this, &CommentViewController::deleteComment);
     connect(form, &CommentForm::textLeft, this, &CommentViewController::checkToSaveComment);
     connect(form, &CommentForm::datesTyped, this, &CommentViewController::checkToSaveComment);
+    connect(form, &CommentForm::beginEntered, this, &CommentViewController::beginEntered);
+    connect(&store, &DataStore::currentIDChanged, this, [this] { unasked = QString(); });
     connect(&store, &DataStore::reloaded, this, &CommentViewController::LoadData);
     connect(&store, &DataStore::currentIDChanged, this, &CommentViewController::LoadData);
     LoadData();
@@ -126,7 +127,8 @@ CommentViewController::Typed CommentViewController::typed() const {
     takeDay(dates.end, false, all);
     CommentModel& comment = all.comment;
     const bool hasBoth = !isNilDate(comment.beginDate) && !isNilDate(comment.endDate);
-    if ((dates.begin || dates.end) && hasBoth && *comment.beginDate > *comment.endDate)
+    if (all.refusal.isEmpty() && (dates.begin || dates.end) && hasBoth
+        && *comment.beginDate > *comment.endDate)
         all.refusal = qtTrId("commentDayOrder");
     if (!all.refusal.isEmpty()) comment = *shown;
     if (form->isEdited()) comment.comment = form->text();
@@ -139,10 +141,21 @@ void CommentViewController::takeDay(const std::optional<QString>& text, bool beg
     const QString pattern = datePattern();
     Date& stored = begin ? into.comment.beginDate : into.comment.endDate;
     if (*text == commentDayText(stored, pattern)) return;
-    if (const Date day = typedCommentDay(*text, pattern))
-        stored = DateToDayBoundary(*day, begin);
-    else
+    const Date day = typedCommentDay(*text, pattern);
+    if (!day)
         into.refusal = qtTrId("commentDayUnread").arg(*text, QString(pattern).toUpper());
+    else if (stored && DateToDayBoundary(*stored, true) == *day)
+        return; // typed in another form
+    else if (isFarAhead(*day, std::chrono::floor<std::chrono::milliseconds>(clock.now())))
+        into.refusal = qtTrId("commentDayFar").arg(*text);
+    else
+        stored = DateToDayBoundary(*day, begin);
+}
+
+/// Who types the days in reading order has the first one behind the last for a moment.
+void CommentViewController::beginEntered() {
+    if (shown && typed().refusal == qtTrId("commentDayOrder")) return form->focusEnd();
+    checkToSaveComment();
 }
 
 /// They are as before when the message comes, which takes the keyboard from the field.
@@ -162,10 +175,12 @@ StoreResult CommentViewController::save() {
         if (typed().refusal.isEmpty()) updateDaetInfo(*shown); // typed as they were
         return {};
     }
+    const bool isEmptied = !shown->comment.trimmed().isEmpty() && comment.comment.trimmed().isEmpty();
     // The patient may turn out to be gone from the file: then another one's comment is shown now.
     StoreResult saved = store.saveCommentToXML(comment, *shown);
     if (!shown || shown->CommentID != comment.CommentID || shown->ID != comment.ID) return {};
     if (!saved) return saved;
+    if (isEmptied) unasked = comment.CommentID;
     shown = comment;
     form->settle();
     updateDaetInfo(comment);
@@ -207,13 +222,13 @@ bool CommentViewController::finish() {
 void CommentViewController::editNew() {
     const CommentModel* selected = store.getSelectedComment();
     if (!selected) return;
-    added = selected->CommentID;
+    unasked = selected->CommentID;
     emit wanted();
     form->focusText();
 }
 
 void CommentViewController::askAboutEmpty() {
-    const QString ID = std::exchange(added, QString());
+    const QString ID = std::exchange(unasked, QString());
     const bool isShown = shown && !ID.isNull() && shown->CommentID == ID && shown->ID == store.getCurrentID();
     if (isLoading || !isShown || !form->text().trimmed().isEmpty()) return;
     const QString question = qtTrId("commentEmpty").arg(commentDayText(shown->beginDate, datePattern()));
@@ -223,11 +238,11 @@ void CommentViewController::askAboutEmpty() {
 }
 
 bool CommentViewController::leave() {
-    std::ignore = refuseDates();
+    const bool isRefused = refuseDates();
     const StoreResult saved = save();
     if (saved) {
-        askAboutEmpty();
-        return true;
+        if (!isRefused) askAboutEmpty();
+        return !isRefused;
     }
     if (panel.AskBeforeLosing(qtTrId("commentStay").arg(describe(saved.error())), qtTrId("Warning")))
         return false;

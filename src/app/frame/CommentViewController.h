@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/widgets/SidePanel.h"
+#include "store/Clock.h"
 #include "store/DataStore.h"
 
 #include <QJsonArray>
@@ -17,7 +18,8 @@ class CommentForm;
 class CommentViewController final : public SidePanel {
     Q_OBJECT
 public:
-    CommentViewController(DataStore& dataStore, MessagePanel& messagePanel, QWidget* parent);
+    CommentViewController(DataStore& dataStore, MessagePanel& messagePanel, const Clock& wallClock,
+                          QWidget* parent);
 
     /// Fills the panel for the current patient. What was typed and is not saved stays.
     void LoadData();
@@ -31,10 +33,10 @@ public:
     /// Saves what was typed. \return false if that failed; the user knows why, and the text is still there.
     /// Dates that cannot be are not
     bool checkToSaveComment();
-    /// As checkToSaveComment(), and if that fails asks whether to stay. \return false if so
+    /// As finish(), and if saving fails asks whether to stay. \return false if so, or if the dates cannot be
     [[nodiscard]] bool leave();
-    /// Before another comment takes its place: as checkToSaveComment(); one that was just added and stayed
-    /// empty is removed, if the user wants that.
+    /// Before another comment takes its place, or paper shows it: as checkToSaveComment(); one that was just
+    /// added and stayed empty, or was emptied, is removed, if the user wants that.
     bool finish();
     /// The one that is shown was just added: the keyboard goes to its text.
     void editNew();
@@ -59,6 +61,7 @@ private:
         QString refusal; ///< of the dates, which are as before then; empty: none
     };
     [[nodiscard]] Typed typed() const;
+    void beginEntered();
     void takeDay(const std::optional<QString>& text, bool begin, Typed& into) const;
     [[nodiscard]] bool refuseDates();
     void askAboutEmpty();
@@ -74,8 +77,9 @@ private:
 
     DataStore& store;
     MessagePanel& panel;
+    const Clock& clock;
     std::optional<CommentModel> shown; ///< as it was last read or saved
-    QString added;                     ///< the comment that was just added, by its number; null: none
+    QString unasked; ///< the comment that was just added, or emptied by hand, by its number; null: none
     bool isLoading = false;
     CommentForm* form;
 };

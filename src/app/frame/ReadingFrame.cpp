@@ -1,6 +1,5 @@
 #include "app/frame/ReadingFrame.h"
 
-#include "analysis/ReadingCount.h"
 #include "app/frame/CommentViewController.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/StatisticViewController.h"
@@ -12,6 +11,8 @@
 #include <QScrollArea>
 #include <QToolButton>
 
+#include <utility>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -20,7 +21,7 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     : QWidget(parent), parts(needed), heading(new PageHeading(this)),
       period(new PeriodBar(needed.store, needed.period, needed.panel, this)),
       statisticPanel(new StatisticViewController(needed.store, needed.period, this)),
-      commentPanel(new CommentViewController(needed.store, needed.panel, this)),
+      commentPanel(new CommentViewController(needed.store, needed.panel, needed.clock, this)),
       btnSide(new QToolButton(this)), side(makeSide()) {
     auto* body = new QHBoxLayout;
     body->setSpacing(12);
@@ -87,7 +88,7 @@ QWidget* ReadingFrame::makeSide() {
 
 void ReadingFrame::showHeading() {
     const ReadingCount count =
-        countReadings(parts.store.getReadingForCurID(), parts.period.selection(), isListed);
+        countReadings(parts.store.getReadingForCurID(), parts.period.selection(), counts);
     QString detail = readingSummary(parts.store);
     if (!describeLeftOut(count).isEmpty()) detail = qtTrId("readingsCounted").arg(detail, describe(count));
     if (!note.isEmpty()) detail = qtTrId("readingsNoted").arg(detail, note);
@@ -97,6 +98,10 @@ void ReadingFrame::showHeading() {
 void ReadingFrame::setNote(const QString& sentence) {
     note = sentence;
     showHeading();
+}
+
+void ReadingFrame::setRule(CountRule rule) {
+    if (std::exchange(counts, rule) != rule) showHeading();
 }
 
 void ReadingFrame::LoadData() {

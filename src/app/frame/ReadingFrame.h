@@ -1,6 +1,8 @@
 #pragma once
 
 #include "analysis/DisplayPeriod.h"
+#include "analysis/ReadingCount.h"
+#include "store/Clock.h"
 #include "store/DataStore.h"
 
 #include <QWidget>
@@ -23,6 +25,7 @@ public:
         DataStore& store;
         DisplayPeriod& period;
         MessagePanel& panel;
+        const Clock& clock;
     };
     ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent);
 
@@ -31,6 +34,8 @@ public:
     void UpdateUIBySetting();
     /// A further sentence of the heading, or none.
     void setNote(const QString& sentence);
+    /// Which readings the view counts, for the heading to say so; isListed unless told otherwise.
+    void setRule(CountRule rule);
     [[nodiscard]] PeriodBar& periodBar() { return *period; }
     [[nodiscard]] CommentViewController& comments() { return *commentPanel; }
     [[nodiscard]] bool isDisplayingComment() const;
@@ -51,6 +56,7 @@ private:
     QToolButton* btnSide;
     QWidget* side;
     QString note;
+    CountRule counts = isListed;
     bool isNarrow = false;
 };
 

@@ -27,7 +27,7 @@ Picture CorrelationView::makePicture(const Rect& rect) {
                            setting.diaStandard, rect);
 }
 
-/// How many readings lie in each of the four zones.
+/// How many readings lie in each of the zones. A limit that is none divides nothing.
 QString CorrelationView::words() const {
     const SettingModel& setting = store.getSetting();
     int total = 0, sysHigh = 0, diaHigh = 0, bothHigh = 0;
@@ -42,10 +42,11 @@ QString CorrelationView::words() const {
     }
     const auto line = [](const QString& zone, int count) { return qtTrId("infoLine").arg(zone).arg(count); };
     QStringList lines{qtTrId("readingCount", total)};
-    if (setting.sysStandard > 0 || setting.diaStandard > 0)
-        lines << line(qtTrId("normal"), total - sysHigh - diaHigh - bothHigh)
-              << line(qtTrId("sys too high"), sysHigh) << line(qtTrId("dia too high"), diaHigh)
-              << line(qtTrId("sys and dia too high"), bothHigh);
+    const bool hasSys = setting.sysStandard > 0, hasDia = setting.diaStandard > 0;
+    if (hasSys || hasDia) lines << line(qtTrId("normal"), total - sysHigh - diaHigh - bothHigh);
+    if (hasSys) lines << line(qtTrId("sys too high"), sysHigh);
+    if (hasDia) lines << line(qtTrId("dia too high"), diaHigh);
+    if (hasSys && hasDia) lines << line(qtTrId("sys and dia too high"), bothHigh);
     lines << offScaleText(correlationOffScale(store.getReadingForCurID(), period.selection()));
     lines.removeAll(QString());
     return lines.join(u'\n');

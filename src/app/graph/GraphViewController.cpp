@@ -37,7 +37,7 @@ GraphViewController::GraphViewController(const Parts& needed)
       correlation(new CorrelationView(needed.store, needed.period, content)),
       noReadings(new EmptyState(u"noChart"_s, u":/icons/graphBtn.InactiveImg.svg"_s, content)),
       views(new QStackedWidget(content)), tools(new ChartTools(*charts, *comments, needed.period, content)),
-      frame(new ReadingFrame({needed.store, needed.period, needed.panel}, *content, this)) {
+      frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *content, this)) {
     setObjectName(u"GraphViewController"_s);
     setAccessibleName(qtTrId("pageChart"));
     comments->setPanel(frame->comments());
@@ -103,6 +103,7 @@ void GraphViewController::setView(int state) {
     for (QToolButton* choice : choices)
         choice->setEnabled(any);
     tools->setVisible(any && viewState == 0);
+    frame->setRule(viewState == 0 ? isInChart : isCounted); // as the same page does on paper
 }
 
 void GraphViewController::reload() { setView(viewState); }
@@ -128,6 +129,8 @@ void GraphViewController::UpdateUIBySetting() {
 bool GraphViewController::leave() { return frame->comments().leave(); }
 
 void GraphViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
+
+bool GraphViewController::readyToPrint() { return frame->comments().finish(); }
 
 QJsonArray GraphViewController::saveQuietly() { return frame->comments().saveQuietly(); }
 

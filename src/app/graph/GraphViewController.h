@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "app/widgets/PageController.h"
 #include "chart/DrawChart.h"
+#include "store/Clock.h"
 #include "store/DataStore.h"
 
 #include <array>
@@ -28,6 +29,7 @@ public:
         DataStore& store;
         DisplayPeriod& period;
         MessagePanel& panel;
+        const Clock& clock;
     };
     explicit GraphViewController(const Parts& needed);
 
@@ -36,6 +38,7 @@ public:
     void setHWButtons(bool) override {}
     [[nodiscard]] bool leave() override;
     void checkToSaveComment() override;
+    [[nodiscard]] bool readyToPrint() override;
     [[nodiscard]] QJsonArray saveQuietly() override;
     [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
 

@@ -35,8 +35,13 @@ public:
     [[nodiscard]] bool isThere() const { return getNamedDest && freeDests && addOption && printFile; }
     [[nodiscard]] auto destination(const QByteArray& printer) const {
         const auto release = [free = freeDests](CupsDestination* one) { free(1, one); };
+        // "printer/instance" is a printer with a set of options of its own; no printer's name has a slash.
+        const auto slash = printer.lastIndexOf('/');
+        const QByteArray name = printer.first(slash < 0 ? printer.size() : slash);
+        const QByteArray instance = slash < 0 ? QByteArray() : printer.sliced(slash + 1);
         return std::unique_ptr<CupsDestination, decltype(release)>(
-            getNamedDest(nullptr, printer.constData(), nullptr), release);
+            getNamedDest(nullptr, name.constData(), instance.isEmpty() ? nullptr : instance.constData()),
+            release);
     }
     void add(CupsDestination& to, const char* name, const QByteArray& value) const {
         to.optionTotal = addOption(name, value.constData(), to.optionTotal, &to.options);

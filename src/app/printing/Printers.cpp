@@ -2,38 +2,17 @@
 
 #include "app/printing/PrintQueue.h"
 #include "report/ReportPdf.h"
+#include "report/UsualPaper.h"
 
-#include <QLocale>
 #include <QPrinterInfo>
-
-#include <algorithm>
-#include <array>
 
 namespace zel {
 
 namespace {
 
-/// Of the desktop, as its other programs ask for it.
-QString paperLocale() {
-    for (const char* variable : {"LC_ALL", "LC_PAPER", "LANG"})
-        if (!qEnvironmentVariableIsEmpty(variable)) return qEnvironmentVariable(variable);
-    return {};
-}
-
 bool isKnown(const QString& printer) { return !QPrinterInfo::printerInfo(printer).isNull(); }
 
 } // namespace
-
-QPageSize usualPaper(const QString& locale) {
-    using enum QLocale::Country;
-    constexpr std::array onLetter{UnitedStates, Canada,    Mexico,   PuertoRico, Philippines,
-                                  Bolivia,      Chile,     Colombia, CostaRica,  ElSalvador,
-                                  Guatemala,    Nicaragua, Panama,   Venezuela};
-    // A name without a country is about a language alone.
-    const bool isLetter =
-        locale.contains(u'_') && std::ranges::find(onLetter, QLocale(locale).territory()) != onLetter.end();
-    return QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4);
-}
 
 QStringList SystemPrinters::names() const { return QPrinterInfo::availablePrinterNames(); }
 

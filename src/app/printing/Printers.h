@@ -27,9 +27,6 @@ public:
                                             Section section) = 0;
 };
 
-/// A4 or Letter, as is usual where people live whose locale is called so, such as "es_MX.UTF-8".
-[[nodiscard]] QPageSize usualPaper(const QString& locale);
-
 /// The printers of the system.
 class SystemPrinters final : public Printers {
 public:

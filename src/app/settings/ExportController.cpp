@@ -51,6 +51,7 @@ ExportController::ExportController(const Parts& needed, QWidget* over)
 void ExportController::exportFiles() {
     if (parts.store.getPatientArray().empty())
         return parts.panel.ShowMessage(qtTrId("exportNobody"), qtTrId("ExportTitle"));
+    if (!parts.isReady()) return;
     const QString folder = parts.chooser.chooseFolder(window, qtTrId("exportFolder"));
     if (folder.isEmpty()) return;
     auto patients = parts.store.beginExport();
@@ -65,6 +66,7 @@ void ExportController::exportFiles() {
 }
 
 void ExportController::exportCSV() {
+    if (!parts.isReady()) return;
     const QString folder = parts.chooser.chooseFolder(window, qtTrId("exportCSVFolder"));
     if (folder.isEmpty()) return;
     outcome = {.folder = folder};

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -32,6 +33,8 @@ public:
         DataStore& store;
         MessagePanel& panel;
         FileChooser& chooser;
+        /// Settles what is typed and not saved. \return false if nothing is to be exported
+        std::function<bool()> isReady = [] { return true; };
     };
     /// \p window is what the dialogs stand over.
     ExportController(const Parts& needed, QWidget* window);

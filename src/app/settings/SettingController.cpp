@@ -18,7 +18,8 @@ using namespace Qt::StringLiterals;
 
 SettingController::SettingController(const Parts& needed, QWidget* parent)
     : QDialog(parent), parts(needed), form(new SettingForm),
-      exporter(new ExportController({needed.store, needed.panel, needed.selectFolderController}, this)),
+      exporter(new ExportController(
+          {needed.store, needed.panel, needed.selectFolderController, needed.isReadyToExport}, this)),
       importer(new ImportController({needed.store, needed.panel, needed.selectFolderController}, this)),
       sendButton(addButton(u"sendButton"_s, qtTrId("sendClockButton"), qtTrId("sendClock"))),
       csvButton(addButton(u"csvButton"_s, qtTrId("exportCSVButton"), qtTrId("exportCSV"))),

@@ -7,6 +7,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QPushButton;
 
 namespace zel {
@@ -26,6 +28,8 @@ public:
         MonitorWorker& monitor;
         MessagePanel& panel;
         FileChooser& selectFolderController;
+        /// Settles what is typed on a page and not saved. \return false if nothing is to be exported
+        std::function<bool()> isReadyToExport = [] { return true; };
     };
     SettingController(const Parts& needed, QWidget* parent);
 

@@ -32,8 +32,9 @@ AppController::AppController(const Parts& needed, const Timing& times)
       watch({needed.monitor, needed.status, needed.store, needed.panel, needed.clock}, times.polling),
       patientPage(new PatientViewController(
           {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
-      graphPage(new GraphViewController({needed.store, needed.period, needed.panel})),
-      tablePage(new TableViewController({needed.store, needed.status, needed.period, needed.panel})),
+      graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),
+      tablePage(
+          new TableViewController({needed.store, needed.status, needed.period, needed.panel, needed.clock})),
       pages{patientPage, graphPage, tablePage} {
     for (PageController* page : pages)
         window.addPage(*page);
@@ -130,7 +131,7 @@ void AppController::displayViewController(PageController& controller, int tabTag
         QApplication::beep();
         return showPageInView();
     }
-    PageController& left = *pages.at(static_cast<std::size_t>(window.pageInView()));
+    PageController& left = pageInView();
     if (&left != &controller && !left.leave()) return showPageInView();
     follower->prepare();
     window.showPage(controller);
@@ -181,15 +182,18 @@ void AppController::displayAfterDataTransfer() {
     graphPage->switchToGraph();
 }
 
-void AppController::checkToSaveComment() {
-    pages.at(static_cast<std::size_t>(window.pageInView()))->checkToSaveComment();
+PageController& AppController::pageInView() const {
+    return *pages.at(static_cast<std::size_t>(window.pageInView()));
 }
+
+void AppController::checkToSaveComment() { pageInView().checkToSaveComment(); }
 
 void AppController::showSetting() {
     checkToSaveComment();
     if (!settings) {
-        settings = new SettingController(
-            {parts.store, parts.status, parts.monitor, parts.panel, parts.chooser}, &window);
+        settings = new SettingController({parts.store, parts.status, parts.monitor, parts.panel,
+                                          parts.chooser, [this] { return pageInView().readyToPrint(); }},
+                                         &window);
         connect(settings, &SettingController::finished, this, &AppController::UpdateUIBySetting);
         connect(settings, &SettingController::imported, this, &AppController::reload);
     }
@@ -211,7 +215,7 @@ void AppController::showPrint() { showPrintPreview(PrintPurpose::printer); }
 void AppController::showSavePdf() { showPrintPreview(PrintPurpose::pdf); }
 
 void AppController::showPrintPreview(PrintPurpose purpose) {
-    if (!pages.at(static_cast<std::size_t>(window.pageInView()))->readyToPrint()) return;
+    if (!pageInView().readyToPrint()) return;
     if (!printController) {
         printController = new PrintController(
             {parts.store, parts.period, parts.clock, parts.panel, parts.chooser, parts.printers}, &window);

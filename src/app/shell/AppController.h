@@ -81,6 +81,7 @@ signals:
 
 private:
     void showPageInView();
+    [[nodiscard]] PageController& pageInView() const;
     void end();
     void offerBackup(const StoreError& damage);
     void goBackTo(const Backup& copy);

@@ -36,7 +36,7 @@ QScrollArea* makeScroll(const QString& name, QWidget* inside, QWidget* parent) {
     return scroll;
 }
 
-/// The pages, in no less room than the one in view needs at its width, rather than than it would like.
+/// The pages, in no less room than the one in view needs at its width, rather than what it would like.
 class PageBox final : public QStackedWidget {
 public:
     using QStackedWidget::QStackedWidget;

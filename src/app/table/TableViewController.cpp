@@ -36,7 +36,7 @@ TableViewController::TableViewController(const Parts& needed)
       noReadings(new EmptyState(u"noReadings"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       noneInPeriod(new EmptyState(u"noneInPeriod"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       listOrAdvice(new QStackedWidget(this)),
-      frame(new ReadingFrame({needed.store, needed.period, needed.panel}, *listOrAdvice, this)),
+      frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *listOrAdvice, this)),
       btnShowMam(new QCheckBox(qtTrId("showMam"), this)), btnShowPad(new QCheckBox(this)) {
     setObjectName(u"TableViewController"_s);
     setAccessibleName(qtTrId("pageReadings"));
@@ -176,6 +176,8 @@ void TableViewController::setHWButtons(bool) { setPadTitle(); }
 bool TableViewController::leave() { return frame->comments().leave(); }
 
 void TableViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
+
+bool TableViewController::readyToPrint() { return frame->comments().finish(); }
 
 QJsonArray TableViewController::saveQuietly() { return frame->comments().saveQuietly(); }
 

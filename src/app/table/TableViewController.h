@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "app/device/MonitorStatus.h"
 #include "app/widgets/PageController.h"
+#include "store/Clock.h"
 #include "store/DataStore.h"
 
 class QCheckBox;
@@ -24,6 +25,7 @@ public:
         const MonitorStatus& status;
         DisplayPeriod& period;
         MessagePanel& panel;
+        const Clock& clock;
     };
     explicit TableViewController(const Parts& needed);
 
@@ -32,6 +34,7 @@ public:
     void setHWButtons(bool connected) override;
     [[nodiscard]] bool leave() override;
     void checkToSaveComment() override;
+    [[nodiscard]] bool readyToPrint() override;
     [[nodiscard]] QJsonArray saveQuietly() override;
     [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
     /// Titles the mark column by what the readings, or else the monitor, can tell.

@@ -88,7 +88,8 @@ QWidget* ownerOver(QWidget* window) {
 void MessageBoxPanel::ShowMessage(const QString& text, const QString& title) {
     QMessageBox box(ownerOver(window));
     fill(box, text, title);
-    box.setIcon(title == qtTrId("Warning") ? QMessageBox::Warning : QMessageBox::Information);
+    const bool isWarning = title == qtTrId("Warning") || title == qtTrId("dataFileUnreadable");
+    box.setIcon(isWarning ? QMessageBox::Warning : QMessageBox::Information);
     QPushButton* ok = addButton(box, u"btnOK"_s, qtTrId("ok"));
     box.setEscapeButton(ok);
     open(box, ok);

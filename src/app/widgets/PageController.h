@@ -21,12 +21,9 @@ public:
     [[nodiscard]] virtual bool leave() { return true; }
     /// A comment that is being edited is saved; before a command that others' data depend on.
     virtual void checkToSaveComment() {}
-    /// Settles what has been typed and would be missing on paper; what is not to be saved stays on the page.
-    /// \return false if nothing is to be printed
-    [[nodiscard]] virtual bool readyToPrint() {
-        checkToSaveComment();
-        return true;
-    }
+    /// Settles what has been typed and would be missing on paper or in an exported file; what is not to be
+    /// saved stays on the page. \return false if nothing is to be printed or exported
+    [[nodiscard]] virtual bool readyToPrint() { return true; }
     /// The program is ended from outside: saves what is being edited if it can, and tells nobody.
     /// \return what could not be saved, each with "name", whom it is about
     [[nodiscard]] virtual QJsonArray saveQuietly() { return {}; }

@@ -8,10 +8,14 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+constexpr double headingSize = 1.5; ///< of the other texts'
+}
+
 PageHeading::PageHeading(QWidget* parent)
     : QWidget(parent), lblHeading(new QLabel(this)), lblDetail(new QuietLabel({}, this)) {
     lblHeading->setObjectName(u"lblHeading"_s);
-    lblHeading->setFont(scaledFont(font(), 1.5, true));
+    lblHeading->setFont(scaledFont(font(), headingSize, true));
     lblHeading->setTextFormat(Qt::PlainText);
     lblHeading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblDetail->setObjectName(u"lblDetail"_s);
@@ -37,6 +41,13 @@ void PageHeading::setTexts(const QString& heading, const QString& detail) {
 
 void PageHeading::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    fitHeading();
+}
+
+void PageHeading::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange) return;
+    lblHeading->setFont(scaledFont(font(), headingSize, true));
     fitHeading();
 }
 

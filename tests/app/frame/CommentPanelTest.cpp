@@ -4,9 +4,11 @@
 #include "support/DamageAfterWrite.h"
 #include "support/ReadingPageTest.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QTest>
 
 namespace zel {
 
@@ -16,7 +18,7 @@ namespace {
 
 class CommentPanelTest : public ReadingPageTest {
 protected:
-    void openPanel() { open(new ReadingFrame({store, period, panel}, *new QWidget, nullptr)); }
+    void openPanel() { open(new ReadingFrame({store, period, panel, clock}, *new QWidget, nullptr)); }
 };
 
 } // namespace
@@ -70,6 +72,9 @@ TEST(CommentDays, aDayIsReadInTheOrderOfTheSettings) {
     for (const auto& each : cases)
         EXPECT_EQ(DateToStr(typedCommentDay(each.text, each.pattern), u"yyyyMMdd"_s), each.day)
             << qPrintable(each.text + u' ' + each.pattern);
+    const auto day = [](const QString& text) { return *StrToDate(text, u"yyyyMMddHHmm"_s); };
+    EXPECT_FALSE(isFarAhead(day(u"202803010000"_s), day(u"202603011200"_s)));
+    EXPECT_TRUE(isFarAhead(day(u"202803020000"_s), day(u"202603011200"_s)));
 }
 
 TEST_F(CommentPanelTest, theDaysAreTyped) {
@@ -83,24 +88,30 @@ TEST_F(CommentPanelTest, theDaysAreTyped) {
         return DateToStr(first.beginDate, u"MMdd HHmm"_s) + u'-' + DateToStr(first.endDate, u"MMdd HHmmss"_s);
     };
     const QString unread = qtTrId("commentDayUnread").section(u'%', 1).mid(2).left(20);
+    const QString far = qtTrId("commentDayFar").arg(u"06/03/2206"_s);
     const struct {
         const char* field;
         QString text;
-        Qt::Key end;
+        std::vector<Qt::Key> end;
         QString days;
         QString message; ///< what it contains
-    } steps[]{
-        {"commentEnd", u"06/03/2026"_s, Qt::Key_Return, u"0303 0830-0306 235959"_s, {}},
-        {"commentBegin", u"7.3.2026"_s, Qt::Key_Tab, u"0303 0830-0306 235959"_s, qtTrId("commentDayOrder")},
-        {"commentBegin", u"03/03/2026"_s, Qt::Key_Tab, u"0303 0830-0306 235959"_s, {}},
-        {"commentBegin", u"04/13/2026"_s, Qt::Key_Return, u"0303 0830-0306 235959"_s, unread},
-        {"commentBegin", QString(), Qt::Key_Tab, u"0303 0830-0306 235959"_s, unread},
-        {"commentBegin", u"06/03/2026"_s, Qt::Key_Escape, u"0303 0830-0306 235959"_s, {}},
-        {"commentBegin", u"6.3.2026"_s, Qt::Key_Return, u"0306 0000-0306 235959"_s, {}}};
+    } steps[]{{"commentEnd", u"06/03/2026"_s, {Qt::Key_Return}, u"0303 0830-0306 235959"_s, {}},
+              {"commentBegin",
+               u"7.3.2026"_s,
+               {Qt::Key_Tab, Qt::Key_Tab},
+               u"0303 0830-0306 235959"_s,
+               qtTrId("commentDayOrder")},
+              {"commentBegin", u"03/03/2026"_s, {Qt::Key_Tab, Qt::Key_Tab}, u"0303 0830-0306 235959"_s, {}},
+              {"commentBegin", u"04/13/2026"_s, {Qt::Key_Return}, u"0303 0830-0306 235959"_s, unread},
+              {"commentEnd", u"06/03/2206"_s, {Qt::Key_Return}, u"0303 0830-0306 235959"_s, far},
+              {"commentBegin", QString(), {Qt::Key_Tab, Qt::Key_Tab}, u"0303 0830-0306 235959"_s, unread},
+              {"commentBegin", u"06/03/2026"_s, {Qt::Key_Escape}, u"0303 0830-0306 235959"_s, {}},
+              {"commentBegin", u"6.3.2026"_s, {Qt::Key_Return}, u"0306 0000-0306 235959"_s, {}}};
     for (const auto& step : steps) {
         panel.messages.clear();
         type(step.field, step.text);
-        press(step.end);
+        for (const Qt::Key key : step.end)
+            press(key);
         EXPECT_EQ(firstDays(), step.days) << qPrintable(step.text);
         EXPECT_EQ(panel.messages.size(), step.message.isEmpty() ? 0 : 1) << qPrintable(step.text);
         EXPECT_TRUE(panel.messages.join(u' ').contains(step.message))
@@ -110,6 +121,11 @@ TEST_F(CommentPanelTest, theDaysAreTyped) {
                   step.days.mid(2, 2) + u'-' + step.days.mid(12, 2))
             << "as it is stored, after " << qPrintable(step.text);
     }
+    panel.messages.clear();
+    type("commentBegin", u"soon"_s);
+    type("commentEnd", u"01/03/2026"_s);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(panel.messages.join(u' ').contains(unread)) << "that it is no date, not that it is the later";
     type("commentBegin", u"06/03/2026"_s); // as it is
     press(Qt::Key_Return);
     replaceDataFile(dataFile().replace(">first<", ">newer<"));
@@ -122,9 +138,35 @@ TEST_F(CommentPanelTest, theDaysAreTyped) {
     EXPECT_EQ(firstDays(), u"0306 0000-0308 235959"_s);
     type("commentBegin", u"31/12/2026"_s);
     panel.messages.clear();
-    EXPECT_TRUE(find<CommentViewController>("commentPanel").leave());
+    EXPECT_FALSE(find<CommentViewController>("commentPanel").leave());
     EXPECT_EQ(panel.messages.size(), 1) << "it could not be taken";
     EXPECT_EQ(firstDays(), u"0306 0000-0308 235959"_s);
+    EXPECT_TRUE(find<CommentViewController>("commentPanel").leave());
+    panel.messages.clear();
+    for (const auto& [next, day] : {std::pair(Qt::Key_Tab, u"09"_s), {Qt::Key_Return, u"10"_s}}) {
+        type("commentBegin", day + u"/03/2026"_s); // behind the last one
+        press(next);
+        EXPECT_EQ(firstDays().mid(10, 4), u"0308"_s) << "the last day is still to be typed";
+        press(Qt::Key_Escape);
+        EXPECT_EQ(find<QLineEdit>("commentBegin").text(), u"06/03/2026"_s) << "both are taken back";
+        type("commentBegin", day + u"/03/2026"_s);
+        press(next);
+        QTest::keyClicks(QApplication::focusWidget(), day + u"/03/2026"_s);
+        press(next);
+        EXPECT_EQ(firstDays(), u"03%1 0000-03%1 235959"_s.arg(day));
+        find<QLineEdit>("commentBegin").setFocus();
+        type("commentBegin", u"06/03/2026"_s);
+        type("commentEnd", u"08/03/2026"_s);
+        press(Qt::Key_Return);
+    }
+    EXPECT_TRUE(panel.messages.empty()) << qPrintable(panel.messages.join(u' '));
+    CommentModel planned = *store.getCommentForCurID().front();
+    planned.endDate = at(u"220603080830"_s);
+    ASSERT_TRUE(store.saveCommentToXML(planned));
+    type("commentEnd", u"8.3.2206"_s);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(panel.messages.empty()) << "as it was";
+    EXPECT_EQ(store.getCommentForCurID().front()->endDate, planned.endDate);
 }
 
 TEST_F(CommentPanelTest, aCommentThatCannotBeSavedStays) {

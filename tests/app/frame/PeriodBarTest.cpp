@@ -1,4 +1,5 @@
 #include "app/frame/ReadingFrame.h"
+#include "app/widgets/PageHeading.h"
 #include "support/ReadingPageTest.h"
 
 #include <QCalendarWidget>
@@ -23,7 +24,7 @@ class PeriodBarTest : public ReadingPageTest {
 protected:
     void openYear() {
         storeYear();
-        open(new ReadingFrame({store, period, panel}, *new QWidget, nullptr));
+        open(new ReadingFrame({store, period, panel, clock}, *new QWidget, nullptr));
     }
     /// Average, lowest and highest systolic pressure in the figures beside.
     QString systolic() {
@@ -147,6 +148,11 @@ TEST_F(PeriodBarTest, aLongNameFitsAndKeepsItsEnd) {
     EXPECT_LE(heading.sizeHint().width(), heading.width());
     EXPECT_TRUE(heading.text().startsWith(u"Kim W"_s) && heading.text().endsWith(u"W (ID P3)"_s));
     EXPECT_EQ(heading.toolTip(), qtTrId("patientHeading").arg(u"Kim"_s, QString(90, u'W'), u"P3"_s));
+    const int height = heading.fontMetrics().height();
+    host->setFont(scaledFont(host->font(), 1.75));
+    QCoreApplication::processEvents();
+    EXPECT_GE(heading.fontMetrics().height(), height * 3 / 2) << "it follows the type";
+    EXPECT_LE(heading.sizeHint().width(), heading.width());
 }
 
 TEST_F(PeriodBarTest, daysOutOfOrderAreRefusedAndPutBack) {

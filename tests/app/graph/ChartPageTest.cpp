@@ -36,7 +36,7 @@ ChartPageTest::ChartPageTest() {
 }
 
 void ChartPageTest::openChart(const QString& begin, const QString& end) {
-    open(new GraphViewController({store, period, panel}), {1200, 700});
+    open(new GraphViewController({store, period, panel, clock}), {1200, 700});
     showDays(begin, end);
     QCoreApplication::processEvents();
     pulse().setFocus();
@@ -223,6 +223,16 @@ TEST_F(ChartPageTest, theSwitchAndTheScalesAreWhatAPrintLooksLike) {
     click("toggleCorrelation");
     EXPECT_EQ(controller.drawViewState(), 2);
     EXPECT_TRUE(page("CorrelationView").accessibleDescription().contains(u"Normal: 10"_s));
+    for (const auto& [sys, dia, zones] : std::initializer_list<std::tuple<unsigned, unsigned, const char*>>{
+             {120, 0, "Normal|Systolic too high"}, {0, 80, "Normal|Diastolic too high"}, {0, 0, ""}}) {
+        store.getSetting().sysStandard = sys;
+        store.getSetting().diaStandard = dia;
+        controller.UpdateUIBySetting();
+        QStringList named;
+        for (const QString& line : page("CorrelationView").accessibleDescription().split(u'\n'))
+            if (line.contains(u": "_s)) named += line.section(u':', 0, 0);
+        EXPECT_EQ(named.join(u'|'), QLatin1String(zones));
+    }
     controller.switchToGraph();
     EXPECT_EQ(controller.drawViewState(), 0);
     find<QScrollBar>("bloodScroller").setValue(51);

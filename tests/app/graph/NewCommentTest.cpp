@@ -13,7 +13,8 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 TEST_F(ChartPageTest, whatNamesNoCommentChangesOneThatTheUserSelected) {
-    const CommentViewController otherPage(store, panel, nullptr); // which may select one before this does
+    const CommentViewController otherPage(store, panel, clock,
+                                          nullptr); // which may select one before this does
     openChart(u"20260301"_s, u"20260310"_s);
     const auto first = [this] { QTest::mouseClick(&pulse(), Qt::LeftButton, {}, strip(u"202603031200"_s)); };
     const auto reopen = [this] { find<GraphViewController>("GraphViewController").LoadData(); };
@@ -148,6 +149,16 @@ TEST_F(ChartPageTest, aNewCommentThatStaysEmptyAsksToBeRemovedWhenItIsLeft) {
         {"another comment", {}, [&] { click(u"202603021200"_s); }, true},
         {"another one is added", {}, [this] { dropIcon(u"202603081200"_s), typeComment(u"+"_s); }, true},
         {"the page", u" "_s, [&] { EXPECT_TRUE(controller.leave()); }, true},
+        {"paper", {}, [&] { EXPECT_TRUE(controller.readyToPrint()); }, true},
+        {"emptied by hand", u"a"_s,
+         [&] {
+             press(Qt::Key_Tab);
+             editor().setFocus();
+             press(Qt::Key_A, Qt::ControlModifier);
+             press(Qt::Key_Delete);
+             click(u"202603021200"_s);
+         },
+         true},
         {"with a text", u"a"_s, [&] { click(u"202603021200"_s); }, false},
         {"it is not left", {}, [&] { click(u"202603061200"_s); }, false}};
     const QByteArray file = dataFile();
@@ -170,6 +181,23 @@ TEST_F(ChartPageTest, aNewCommentThatStaysEmptyAsksToBeRemovedWhenItIsLeft) {
             EXPECT_LE(panel.questions.size(), 1) << "once only: " << each.what;
         }
     }
+    replaceDataFile(file);
+    ASSERT_TRUE(store.loadXML());
+    store.setCurrentID(u"P2"_s);
+    addComment({}, u"20260306"_s, u"20260306"_s, QString());
+    const auto number = [](const CommentModel& of) { return "<CommentID>" + of.CommentID.toUtf8() + '<'; };
+    const QByteArray theirs = number(*store.getCommentForCurID().front());
+    store.setCurrentID(u"P1"_s);
+    showDays(u"20260301"_s, u"20260310"_s);
+    dropIcon(u"202603061200"_s);
+    const QByteArray added = number(*store.getSelectedComment());
+    replaceDataFile(dataFile().replace(theirs, added));
+    ASSERT_TRUE(store.loadXML());
+    panel.questions.clear();
+    store.setCurrentID(u"P2"_s);
+    ASSERT_EQ(number(*store.getSelectedComment()), added);
+    EXPECT_TRUE(controller.leave());
+    EXPECT_TRUE(panel.questions.empty()) << "another patient's, of the same number";
 }
 
 } // namespace zel

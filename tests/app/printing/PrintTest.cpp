@@ -1,5 +1,6 @@
 #include "app/printing/PrintController.h"
 #include "report/ReportPdf.h"
+#include "report/UsualPaper.h"
 #include "support/FullDisk.h"
 #include "support/ScriptedChooser.h"
 #include "support/ScriptedPrinters.h"
@@ -311,6 +312,22 @@ TEST_F(PrintTest, paperShowsWhatTheScreenDoes) {
     EXPECT_EQ(SystemPrinters().print(u"nowhere"_s, view, Section::table), PrintResult::noPrinter);
 }
 
+/// Has the value that it had, or none, at the end.
+class OwnVariable {
+public:
+    // NOLINTNEXTLINE(google-explicit-constructor): a list of names is a list of these
+    OwnVariable(const char* variable)
+        : name(variable), value(qgetenv(variable)), isSet(qEnvironmentVariableIsSet(variable)) {}
+    ~OwnVariable() { isSet ? void(qputenv(name, value)) : void(qunsetenv(name)); }
+    OwnVariable(const OwnVariable&) = delete;
+    OwnVariable& operator=(const OwnVariable&) = delete;
+
+private:
+    const char* name;
+    QByteArray value;
+    bool isSet;
+};
+
 TEST_F(PrintTest, paperFollowsTheLocaleOfThePaper) {
     using enum QPageSize::PageSizeId;
     for (const auto& [locale, paper] : {std::pair("en_US.UTF-8", Letter),
@@ -324,7 +341,7 @@ TEST_F(PrintTest, paperFollowsTheLocaleOfThePaper) {
                                         {"en", A4},
                                         {"", A4}})
         EXPECT_EQ(usualPaper(QLatin1StringView(locale)).id(), paper) << locale;
-    const QByteArray own = qgetenv("LC_ALL");
+    const OwnVariable own[]{"LC_ALL", "LC_PAPER", "LANG"};
     for (const auto& [all, ofPaper, language, paper] : {std::tuple("", "", "en_US.UTF-8", Letter),
                                                         {"", "de_DE.UTF-8", "en_US.UTF-8", A4},
                                                         {"", "en_US.UTF-8", "de_DE.UTF-8", Letter},
@@ -334,9 +351,6 @@ TEST_F(PrintTest, paperFollowsTheLocaleOfThePaper) {
         qputenv("LANG", language);
         EXPECT_EQ(SystemPrinters().paper(u"nowhere"_s).id(), paper) << all << ofPaper << language;
     }
-    qputenv("LC_ALL", own);
-    qunsetenv("LC_PAPER");
-    qunsetenv("LANG");
 }
 
 TEST_F(PrintTest, everyControlSaysWhatItIs) {

@@ -2,9 +2,11 @@
 #include "app/shell/TerminationSignals.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 #include <csignal>
 #include <functional>
@@ -113,7 +115,7 @@ TEST_F(LeavingTest, quittingAsksForTheNewPatientThatWasLeftUnsaved) {
     EXPECT_EQ(panel.questions.size(), 1) << "asked once";
 }
 
-TEST_F(LeavingTest, whatIsTypedIsAskedAboutBeforeItIsPrinted) {
+TEST_F(LeavingTest, whatIsTypedIsAskedAboutBeforeItIsPrintedOrExported) {
     const QStringList asked(qtTrId("SavePatient"));
     const auto print = [this] {
         panel.questions.clear();
@@ -123,23 +125,40 @@ TEST_F(LeavingTest, whatIsTypedIsAskedAboutBeforeItIsPrinted) {
         if (isOpen) window->reject();
         return isOpen;
     };
+    const QTemporaryDir outside;
+    chooser.folder = outside.path();
+    const auto exportBy = [&](const char* button) {
+        panel.questions.clear();
+        click("settingBtn");
+        click(button);
+        click("cancelButton");
+        bool isWritten = false;
+        for (const QString& name : QDir(chooser.folder).entryList(QDir::Files))
+            isWritten = QFile::remove(outside.filePath(name)) || isWritten;
+        return isWritten;
+    };
     start();
-    EXPECT_TRUE(print());
-    EXPECT_TRUE(panel.questions.empty());
-    type("FamilyName", u"Clark"_s);
-    panel.cancelsSaving = true;
-    EXPECT_FALSE(print());
-    panel.cancelsSaving = false;
-    panel.answers[asked[0]] = false;
-    EXPECT_TRUE(print());
-    EXPECT_EQ(panel.questions, asked);
-    EXPECT_EQ(value("FamilyName"), u"Clark"_s) << "it is left unsaved, not given up";
-    EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, u"Adams"_s);
-    panel.answers[asked[0]] = true;
-    EXPECT_TRUE(print());
-    EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, u"Clark"_s);
-    type("FamilyName", u"-"_s);
-    EXPECT_FALSE(print()) << "it cannot be saved";
+    QString name = u"Adams"_s;
+    for (const auto& handOver : std::initializer_list<std::function<bool()>>{
+             print, [&] { return exportBy("exportButton"); }, [&] { return exportBy("csvButton"); }}) {
+        EXPECT_TRUE(handOver());
+        EXPECT_TRUE(panel.questions.empty());
+        type("FamilyName", name + u"son"_s);
+        panel.cancelsSaving = true;
+        EXPECT_FALSE(handOver());
+        panel.cancelsSaving = false;
+        panel.answers[asked[0]] = false;
+        EXPECT_TRUE(handOver());
+        EXPECT_EQ(panel.questions, asked);
+        EXPECT_EQ(value("FamilyName"), name + u"son"_s) << "it is left unsaved, not given up";
+        EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, name);
+        panel.answers[asked[0]] = true;
+        EXPECT_TRUE(handOver());
+        EXPECT_EQ(store.getPatientByID(u"P1"_s)->FamilyName, name += u"son"_s);
+        type("FamilyName", u"-"_s);
+        EXPECT_FALSE(handOver()) << "it cannot be saved";
+        type("FamilyName", name);
+    }
 }
 
 TEST_F(LeavingTest, cancelStaysWithWhatIsTyped) {

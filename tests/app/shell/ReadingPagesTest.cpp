@@ -67,7 +67,13 @@ TEST_F(ReadingPagesTest, pagesFollowTheSelectedPatient) {
     const auto* detail = page("GraphViewController").findChild<QLabel*>(u"lblDetail"_s);
     EXPECT_EQ(detail->text(), u"2 readings, from 01/03/2026 to 05/03/2026"_s);
     const auto& graph = find<GraphViewController>("GraphViewController");
+    storeReadings(u"P2"_s, {reading(u"200001010000"_s, 188)});
+    period.setSelectViewIndex(ViewSelection::viewAll);
+    period.setIncludeNoDatetimeData(true);
+    EXPECT_TRUE(detail->text().endsWith(u". Counted: 2 readings; 1 undated one not counted"_s))
+        << qPrintable(detail->text());
     click("toggleHistogram");
+    EXPECT_EQ(detail->text(), u"3 readings, from 01/03/2026 to 05/03/2026"_s);
     EXPECT_EQ(graph.drawViewState(), 1);
     click("tableBtn");
     app->displayAfterDataTransfer();
@@ -246,6 +252,8 @@ TEST_F(ReadingPagesTest, aCommentThatCannotBeSavedHoldsThePage) {
     const QSignalSpy closed(app.get(), &AppController::closed);
     app->mainWndow().close();
     EXPECT_TRUE(closed.empty());
+    app->showPrint();
+    EXPECT_EQ(app->mainWndow().findChild<QDialog*>(u"PrintController"_s), nullptr) << "paper would lack it";
     EXPECT_TRUE(readingPage().isVisible());
     EXPECT_EQ(editor().toPlainText(), u"first+"_s);
 }

@@ -17,7 +17,7 @@ namespace {
 
 class TableViewTest : public ReadingPageTest {
 protected:
-    void openTable() { open(new TableViewController({store, status, period, panel})); }
+    void openTable() { open(new TableViewController({store, status, period, panel, clock})); }
     QTableView& table() { return find<QTableView>("tblReadings"); }
     QString cell(int row, int column, int role = Qt::DisplayRole) {
         return table().model()->index(row, column).data(role).toString();

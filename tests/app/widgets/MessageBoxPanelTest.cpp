@@ -90,6 +90,23 @@ TEST(MessageBoxPanelTest, escAndTheCloseBoxAnswerWhatChangesNothing) {
     EXPECT_FALSE(panel.AskBeforeLosing(u"text"_s, u"title"_s));
 }
 
+TEST(MessageBoxPanelTest, whatIsWrongHasTheSignOfAWarning) {
+    MessageBoxPanel panel;
+    const std::pair<QString, QMessageBox::Icon> titles[] = {
+        {qtTrId("Warning"), QMessageBox::Warning},
+        {qtTrId("dataFileUnreadable"), QMessageBox::Warning},
+        {qtTrId("ExportTitle"), QMessageBox::Information}};
+    for (const auto& [title, icon] : titles) {
+        auto shown = QMessageBox::NoIcon;
+        onBox([&shown](QWidget& box) {
+            shown = static_cast<QMessageBox&>(box).icon();
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        panel.ShowMessage(u"text"_s, title);
+        EXPECT_EQ(shown, icon) << qPrintable(title);
+    }
+}
+
 TEST(MessageBoxPanelTest, whatComesByItselfTakesNoKeys) {
     MessageBoxPanel panel(std::chrono::milliseconds(1));
     const std::function<void()> boxes[] = {
