@@ -45,8 +45,8 @@ Note arrowNote(const OffScale& counts) {
 /// In fewer words, and then in smaller type, where there is less room; something in any case.
 Note fittingNote(const OffScale& counts, const Rect& room) {
     const TextAttribute usual = attribute(noteAttribute);
-    if (const Note whole{offScaleText(counts), usual}; isWithin(whole, room)) return whole;
-    const Note least = arrowNote(counts);
+    if (Note whole{offScaleText(counts), usual}; isWithin(whole, room)) return whole;
+    Note least = arrowNote(counts);
     for (const QString& text : {shortText(counts), least.text})
         for (Note note{text, usual}; note.type.size >= leastType; --note.type.size)
             if (isWithin(note, room)) return note;

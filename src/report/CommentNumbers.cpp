@@ -81,10 +81,10 @@ std::vector<CommentNumber> commentNumbers(std::vector<NumberedBox> boxes, Point 
             width = std::max(width, textSize(row, attribute).width);
         const double right = at.x + areaWidth - numberIndent;
         const double x = std::min(std::max(all[from].x, at.x) + numberIndent, right - width);
-        for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        for (const QString& row : QStringList(rows.rbegin(), rows.rend())) {
             const std::size_t index = freeRow(ends, x);
             ends[index] = x + width;
-            numbers.push_back({*row, {x, at.y + static_cast<double>(index) * lineHeight(attribute)}});
+            numbers.push_back({row, {x, at.y + static_cast<double>(index) * lineHeight(attribute)}});
         }
     }
     return numbers;

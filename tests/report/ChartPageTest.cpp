@@ -101,6 +101,7 @@ TEST(ChartPage, numbersOfManyBoxesThatBeginTogetherAreAllToldOrCounted) {
     const TextAttribute type{.size = 8, .bold = true};
     for (const auto& [total, x] : {std::pair{60, 100.0}, {60, 740.0}, {60, 0.0}, {1000, 400.0}}) {
         std::vector<NumberedBox> boxes;
+        boxes.reserve(static_cast<std::size_t>(total));
         for (int i = 0; i < total; ++i)
             boxes.push_back({x, 2 * i + 1});
         Picture picture;
