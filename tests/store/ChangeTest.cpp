@@ -53,7 +53,7 @@ struct ChangeTest : testing::Test {
 };
 
 TEST_F(ChangeTest, SavingWritesOnlyWhatWasChangedHere) {
-    setData("<SystemSetting own='1'><SysStandard>0140</SysStandard><DiaStandard>90 mmHg</DiaStandard>"
+    setData("<SystemSetting own='1'><SysStandard>0150</SysStandard><DiaStandard>90 mmHg</DiaStandard>"
             "<ShowPPorMap>0</ShowPPorMap></SystemSetting><Patient><ID>A</ID><Address>old</Address>"
             "<DateOfBirth>1956-04-12</DateOfBirth><Weight>1e300</Weight><Height> 170 </Height>"
             "<PatientNotes/></Patient>"
@@ -62,14 +62,13 @@ TEST_F(ChangeTest, SavingWritesOnlyWhatWasChangedHere) {
     store.setCurrentID(u"A"_s);
     const PatientModel asRead = *store.getPatientByID(u"A"_s);
     const CommentModel commentAsRead = comment(0);
-    elsewhere("0140", "130");
+    elsewhere("0150", "130");
     elsewhere("<Address>old<", "<Address>new<");
     elsewhere("<Degree>x1<", "<Degree>3<");
     QByteArray expected = data();
 
-    SettingModel wanted = store.getSetting();
-    wanted.showPPorMap = 1;
-    ASSERT_TRUE(store.changeSetting(store.getSetting(), wanted, DataStore::WithoutPlace::leaveOut));
+    store.getSetting().showPPorMap = 1;
+    ASSERT_TRUE(store.saveSetting());
     PatientModel patient = asRead;
     patient.PatientNotes = u"typed"_s;
     ASSERT_TRUE(store.saveXMLPatient(patient, asRead));
