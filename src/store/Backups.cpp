@@ -146,7 +146,11 @@ tl::expected<QString, StoreError> Backups::restore(const QString& name) const {
         if (!present && present.error().code == StoreErrorCode::notReadable)
             return tl::unexpected{present.error()}; // nothing of it could be kept
         kept = freeName(folder(), present ? BackupKind::replaced : BackupKind::damaged, now());
-        return copyTo(kept);
+        StoreResult copied = copyTo(kept);
+        const bool mayBeLost = !copied && copied.error().code == StoreErrorCode::notFlushed;
+        if (mayBeLost)
+            copied.error() = {StoreErrorCode::writeFailed, file.getZELXMLPath(), copied.error().detail};
+        return copied;
     };
     return file.replace(*bytes, keep).map([&kept] { return kept; });
 }

@@ -37,6 +37,8 @@ public:
 
     /// Copies of the data file: one is kept before the first change of a day.
     [[nodiscard]] const Backups& backups() const { return copies; }
+    /// As Backups::restore(); reloads.
+    [[nodiscard]] tl::expected<QString, StoreError> restoreBackup(const QString& name);
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getTargetString() const;
@@ -119,7 +121,7 @@ signals:
 private:
     StoreResult readRecords();
     [[nodiscard]] StoreResult edit(const DataFile::Change& change);
-    void keepBackup();
+    void tellNotBackedUp(const StoreError& error);
     [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
     [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,

@@ -81,6 +81,12 @@ void saveXMLDataTransfer(pugi::xml_node root, const DataTransferLogModel& log, c
     }
 }
 
+/// Whether the file holds what was to be written, also if that may not outlast a power cut.
+template <class Value>
+bool isInPlace(const tl::expected<Value, StoreError>& result) {
+    return result || result.error().code == StoreErrorCode::notFlushed;
+}
+
 } // namespace
 
 /// After a failed load, what is in memory is not what the file holds, which may have been repaired by now.
@@ -89,30 +95,37 @@ StoreResult DataStore::edit(const DataFile::Change& change) {
         loaded = readRecords();
         if (loaded) emit reloaded();
     }
-    if (loaded)
-        return file.edit([&](pugi::xml_node root) {
-            const Edit made = change(root);
-            if (made == Edit::changed) keepBackup(); // in this program's turn: the file is still as it was
-            return made;
-        });
-    qCWarning(lcStore, "Could not write document out...");
-    return loaded;
+    if (!loaded) {
+        qCWarning(lcStore, "Could not write document out...");
+        return loaded;
+    }
+    StoreResult kept;
+    StoreResult written = file.edit([&](pugi::xml_node root) {
+        const Edit made = change(root);
+        if (made == Edit::changed) kept = copies.keepDaily(); // in this turn: the file is still as it was
+        return made;
+    });
+    if (!kept) tellNotBackedUp(kept.error()); // once others have their turn again
+    return written;
 }
 
 /// A change is not held up by a copy that fails.
-void DataStore::keepBackup() {
-    const StoreResult kept = copies.keepDaily();
-    if (kept) return;
-    const QString why = kept.error().detail.isEmpty() ? describe(kept.error()) : kept.error().detail;
+void DataStore::tellNotBackedUp(const StoreError& error) {
+    const QString why = error.detail.isEmpty() ? describe(error) : error.detail;
     qCWarning(lcStore, "No backup was made: %s", qUtf8Printable(why));
     emit notBackedUp(qtTrId("NotBackedUp").arg(copies.folder(), why));
 }
 
 StoreResult DataStore::editAndReload(const DataFile::Change& change) {
     StoreResult written = edit(change);
-    const bool isInPlace = written || written.error().code == StoreErrorCode::notFlushed;
-    if (isInPlace) std::ignore = loadXML();
+    if (isInPlace(written)) std::ignore = loadXML();
     return written;
+}
+
+tl::expected<QString, StoreError> DataStore::restoreBackup(const QString& name) {
+    auto kept = copies.restore(name);
+    if (isInPlace(kept)) std::ignore = loadXML();
+    return kept;
 }
 
 StoreResult DataStore::saveXMLPatient(const PatientModel& patient,

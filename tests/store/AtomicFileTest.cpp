@@ -17,13 +17,15 @@
 #include <unistd.h>
 
 namespace {
-bool flushOfFoldersFails = false;
-}
+constexpr int noFault = 1'000'000;
+int folderFlushesThatWork = noFault; ///< from now on
+
+} // namespace
 
 /// In the library's place: a disk whose folders cannot be flushed.
 extern "C" int fsync(int handle) {
     struct stat status {};
-    if (flushOfFoldersFails && fstat(handle, &status) == 0 && S_ISDIR(status.st_mode)) {
+    if (fstat(handle, &status) == 0 && S_ISDIR(status.st_mode) && --folderFlushesThatWork < 0) {
         errno = EIO;
         return -1;
     }
@@ -83,9 +85,9 @@ TEST_F(AtomicFileTest, PipesAndDevicesAreNotReplaced) {
 
 TEST_F(AtomicFileTest, FolderThatCannotBeFlushedIsNoSuccess) {
     ASSERT_TRUE(replaceFile(path, "one"));
-    flushOfFoldersFails = true;
+    folderFlushesThatWork = 0;
     const auto result = replaceFile(path, "two");
-    flushOfFoldersFails = false;
+    folderFlushesThatWork = noFault;
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().code, StoreErrorCode::notFlushed);
     EXPECT_EQ(readFile(path).value(), "two") << "it is in its place, as the error says";
@@ -100,12 +102,22 @@ TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
         replaceFile(store.getZELXMLPath(), "<ZEL><SystemSetting/><Patient><ID>A</ID></Patient></ZEL>"));
     ASSERT_TRUE(store.loadXML());
     store.setCurrentID(u"A"_s);
-    flushOfFoldersFails = true;
+    folderFlushesThatWork = 0;
     const auto added = store.addCommentForCurID({});
-    flushOfFoldersFails = false;
+    folderFlushesThatWork = noFault;
     ASSERT_FALSE(added);
     EXPECT_EQ(added.error().code, StoreErrorCode::notFlushed);
     EXPECT_EQ(store.getCommentForCurID().size(), 1U);
+    const auto copies = store.backups().list();
+    ASSERT_EQ(copies.size(), 1U);
+    for (const bool isKept : {false, true}) { // what is there, before the copy takes its place
+        folderFlushesThatWork = isKept ? 1 : 0;
+        const auto restored = store.restoreBackup(copies[0].name);
+        folderFlushesThatWork = noFault;
+        ASSERT_FALSE(restored);
+        EXPECT_EQ(restored.error().code, isKept ? StoreErrorCode::notFlushed : StoreErrorCode::writeFailed);
+        EXPECT_EQ(store.getCommentForCurID().size(), isKept ? 0U : 1U);
+    }
 }
 
 TEST_F(AtomicFileTest, OwnerIsKept) {

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTableWidget>
 
 namespace zel {
@@ -100,6 +101,7 @@ void BackupDialog::showBackups() {
 void BackupDialog::fill(const QString& chosen) {
     const auto copies = store.backups().list();
     const QString pattern = std::as_const(store).getSetting().getDateFormat();
+    const QSignalBlocker once(tblBackups); // what is chosen in the end is looked into, once
     tblBackups->setRowCount(static_cast<int>(copies.size()));
     for (int row = 0; const Backup& copy : copies) {
         auto* name = new QTableWidgetItem(kindText(copy.kind));
@@ -142,7 +144,7 @@ void BackupDialog::create() {
 void BackupDialog::restore() {
     const QString name = chosenName();
     if (!panel.AskToErase(qtTrId("backupConfirm").arg(lblBackup->text()), qtTrId("backupTitle"))) return;
-    const auto kept = store.backups().restore(name);
+    const auto kept = store.restoreBackup(name);
     if (!kept) return panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
     accept();
     emit restored(name, *kept);

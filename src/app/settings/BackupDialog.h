@@ -19,7 +19,7 @@ public:
     void showBackups();
 
 signals:
-    /// The data file is the copy \p name now; what was there is \p kept. It is to be read anew.
+    /// The store shows the copy \p name now; what was there is \p kept.
     void restored(const QString& name, const QString& kept);
 
 private:

@@ -102,14 +102,15 @@ void AppController::offerBackup(const StoreError& damage) {
 }
 
 void AppController::goBackTo(const Backup& copy) {
-    const auto kept = parts.store.backups().restore(copy.name);
+    const auto kept = parts.store.restoreBackup(copy.name);
     if (!kept) return parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
     showRestored(copy.name, *kept);
 }
 
 void AppController::showRestored(const QString& name, const QString& kept) {
-    reload();
-    if (parts.store.lastLoad()) window.showOutcome(qtTrId("backupRestored").arg(name, kept));
+    if (const StoreResult& read = parts.store.lastLoad(); !read)
+        return parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+    window.showOutcome(qtTrId("backupRestored").arg(name, kept));
 }
 
 /// Once a day: it is not in the way of the work.
