@@ -30,6 +30,14 @@
     <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
     <message id="SettingText"><translation>any text without control characters</translation></message>
+    <message id="stepAddComment"><translation>new comment of %1</translation></message>
+    <message id="stepAddPatient"><translation>new patient %1</translation></message>
+    <message id="stepDeleteComment"><translation>delete comment of %1</translation></message>
+    <message id="stepDeletePatient"><translation>delete patient %1</translation></message>
+    <message id="stepEditComment"><translation>change to a comment of %1</translation></message>
+    <message id="stepEditPatient"><translation>change to patient %1</translation></message>
+    <message id="stepImport"><translation>import of %1</translation></message>
+    <message id="stepSettings"><translation>change of settings</translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Another program changed it in the meantime. Nothing was changed here; please look at it as it is now.</translation></message>
@@ -37,6 +45,7 @@
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 is in the place where programs note that they work on the data file, and is no such note. Nothing was changed; please move it away, then try again.</translation></message>
     <message id="StoreNoRoomForBackup"><translation>No copy of the data file is kept in %1: all copies together may take a tenth of the free disk, which is less than the file.</translation></message>
+    <message id="StoreNoStep"><translation>There is nothing to undo or redo.</translation></message>
     <message id="StoreNoSuchBackup"><translation>There is no copy of the data file that is called “%1”.</translation></message>
     <message id="StoreNoSuchRecord"><translation>There is no patient with the ID “%1”.</translation></message>
     <message id="StoreNotCreated"><translation>There is no data file yet, and %1 could not be made. Please check that its folder may be written and the disk is not full, then start the program again.</translation></message>
@@ -46,6 +55,12 @@
     <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
     <message id="StoreQuotaReached"><translation>You may store no more on this disk (its quota is reached): %1 could not be written. What was there is as it was. Please delete what you do not need, or ask for more space, then try again.</translation></message>
     <message id="StoreSizeLimit"><translation>Files may not become so large here: %1 could not be written. What was there is as it was. Please ask who looks after this computer about its limit for the size of files.</translation></message>
+    <message id="StoreStepChanged"><translation>What it is about has been changed again since, by another program or by hand. Nothing was changed.</translation></message>
+    <message id="StoreStepGone"><translation>What it is about is no longer in the data file. Nothing was changed.</translation></message>
+    <message id="StoreStepHasRecords"><translation>The patient with the ID “%1” has got readings or comments since, which would be nobody’s. Nothing was changed.</translation></message>
+    <message id="StoreStepPatientGone"><translation>The patient with the ID “%1”, whom the comment belongs to, is no longer in the data file. Nothing was changed.</translation></message>
+    <message id="StoreStepPatientKnown"><translation>A patient with the ID “%1” is in the list by now. Nothing was changed.</translation></message>
+    <message id="StoreStepThere"><translation>The comment is in the data file again already. Nothing was changed.</translation></message>
     <message id="StoreTooLarge"><translation>The data file %1 is larger than 512 MiB, which this program does not read. It is left as it is, and nothing can be saved: put a smaller copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreUnreadable"><translation>The data file %1 was left as it was: what was to be saved could not be read again afterwards.</translation></message>
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>

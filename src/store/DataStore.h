@@ -1,18 +1,21 @@
 #pragma once
 
 #include "store/Backups.h"
+#include "store/ChangeHistory.h"
 #include "store/Clock.h"
 #include "store/DataFile.h"
 #include "store/MessagePanel.h"
 #include "store/PatientExport.h"
 #include "store/PatientImport.h"
 #include "store/Records.h"
+#include "store/StepRecorder.h"
 #include "store/StoreError.h"
 
 #include <QObject>
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -39,6 +42,16 @@ public:
     [[nodiscard]] const Backups& backups() const { return copies; }
     /// As Backups::restore(); reloads.
     [[nodiscard]] tl::expected<QString, StoreError> restoreBackup(const QString& name);
+
+    /// What can be undone and redone: every change made here but a download, since the program started or
+    /// went back to a copy of the file.
+    [[nodiscard]] const ChangeHistory& changes() const { return history; }
+    /// Takes the last step back, in the file as it is by now, all of it or nothing; reloads. A step that the
+    /// file's state refuses (isStepRefusal()) is dropped; after any other error it can be tried again, but
+    /// after notFlushed it is done.
+    [[nodiscard]] StoreResult undo();
+    /// Makes the step again that was undone last; as undo().
+    [[nodiscard]] StoreResult redo();
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getTargetString() const;
@@ -115,15 +128,21 @@ public:
 signals:
     void reloaded();
     void currentIDChanged();
+    void historyChanged();
     /// A change was made without the copy that is due before it. \p why: for the user
     void notBackedUp(const QString& why);
 
 private:
     StoreResult readRecords();
     [[nodiscard]] StoreResult edit(const DataFile::Change& change);
+    /// Tells the recorder what it changes, and what the step is called.
+    using StepChange = std::function<DataFile::Edit(pugi::xml_node root, StepRecorder& recorder)>;
+    [[nodiscard]] StoreResult editAsStep(const StepChange& change);
+    [[nodiscard]] StoreResult retrace(bool back);
     void tellNotBackedUp(const StoreError& error);
     [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
+    [[nodiscard]] StoreResult editAsStepAndReload(const StepChange& change);
     [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,
                                                   std::size_t count) const;
     void keepSelectedComment();
@@ -131,6 +150,7 @@ private:
     DataFile file;
     Clock& clock;
     Backups copies{file, clock};
+    ChangeHistory history;
     Records records;
     SettingModel settingAsRead = records.gSettingModel;
     StoreResult loaded;

@@ -18,8 +18,15 @@ bool isPatient(pugi::xml_node root, const QString& ID) {
     return static_cast<bool>(findElement(root, "Patient", "ID", ID));
 }
 
-void insertComment(pugi::xml_node root, const CommentModel& comment) {
-    comment.updateXMLNode(insertElement<CommentModel>(root, lastElement(root, "Comment")));
+void nameStep(StepRecorder& recorder, StepKind kind, pugi::xml_node root, const CommentModel& comment) {
+    recorder.setName(kind, findElement(root, "Patient", "ID", comment.ID), comment.ID, comment.CommentID);
+}
+
+void insertComment(pugi::xml_node root, const CommentModel& comment, StepRecorder& recorder) {
+    const pugi::xml_node made = insertElement<CommentModel>(root, lastElement(root, "Comment"));
+    recorder.added(made);
+    comment.updateXMLNode(made);
+    nameStep(recorder, StepKind::addComment, root, comment);
 }
 
 bool isCommentOf(pugi::xml_node node, const CommentModel& asRead) {
@@ -64,11 +71,11 @@ tl::expected<QString, StoreError> DataStore::addCommentForCurID(CommentModel com
     if (comment.CommentID.isEmpty()) comment.CommentID = getMaxID(Records::Counter::comment);
     bool isKnown = false;
     // Another program may have used the number since the file was read, or removed the patient.
-    const StoreResult added = editAndReload([&](pugi::xml_node root) {
+    const StoreResult added = editAsStepAndReload([&](pugi::xml_node root, StepRecorder& recorder) {
         isKnown = isPatient(root, comment.ID);
         if (!isKnown) return Edit::unchanged;
         comment.CommentID = freeCommentNumber(root, comment.CommentID);
-        insertComment(root, comment);
+        insertComment(root, comment, recorder);
         return Edit::changed;
     });
     if (added && !isKnown) return noPatient(comment.ID);
@@ -80,8 +87,10 @@ StoreResult DataStore::saveCommentToXML(CommentModel comment, std::optional<Comm
     const CommentModel sought = asRead.value_or(comment);
     if (comment.fileNumber) comment.CommentID = *comment.fileNumber; // what is only known here is not written
     if (asRead && asRead->fileNumber) asRead->CommentID = *asRead->fileNumber;
-    StoreResult saved = editAndReload([&](pugi::xml_node root) {
+    StoreResult saved = editAsStepAndReload([&](pugi::xml_node root, StepRecorder& recorder) {
         if (const auto known = findComment(root, sought)) {
+            recorder.willChange(known);
+            nameStep(recorder, StepKind::editComment, root, sought);
             comment.updateXMLNode(known, asRead ? &*asRead : nullptr);
             return Edit::changed;
         }
@@ -89,7 +98,7 @@ StoreResult DataStore::saveCommentToXML(CommentModel comment, std::optional<Comm
         isKnown = isPatient(root, comment.ID);
         if (!isKnown) return Edit::unchanged;
         comment.CommentID = freeCommentNumber(root, comment.CommentID);
-        insertComment(root, comment);
+        insertComment(root, comment, recorder);
         return Edit::changed;
     });
     if (saved && !isKnown) return noPatient(comment.ID);
@@ -100,11 +109,14 @@ StoreResult DataStore::deleteSelectedCommentToXML() {
     const CommentModel* selected = getSelectedComment();
     if (!selected) return {};
     bool isUnclear = false;
-    StoreResult removed = editAndReload([&isUnclear, asRead = *selected](pugi::xml_node root) {
-        const auto known = findComment(root, asRead);
-        isUnclear = !known && hasComment(root, asRead);
-        return root.remove_child(known) ? Edit::changed : Edit::unchanged; // gone already: as was wanted
-    });
+    StoreResult removed =
+        editAsStepAndReload([&isUnclear, asRead = *selected](pugi::xml_node root, StepRecorder& recorder) {
+            const auto known = findComment(root, asRead);
+            nameStep(recorder, StepKind::deleteComment, root, asRead);
+            recorder.willRemove(known);
+            isUnclear = !known && hasComment(root, asRead);
+            return root.remove_child(known) ? Edit::changed : Edit::unchanged; // gone already: as was wanted
+        });
     if (removed && isUnclear) return tl::unexpected{StoreError{StoreErrorCode::changedElsewhere, {}, {}}};
     return removed;
 }

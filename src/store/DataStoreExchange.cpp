@@ -2,6 +2,9 @@
 
 #include "store/DataStore.h"
 #include "store/Log.h"
+#include "store/RecordXml.h"
+
+#include <QFileInfo>
 
 namespace zel {
 
@@ -50,10 +53,14 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& pa
     ImportCounts counts;
     QString known;
     // Checked against the file as it is at the write: another program may have added the patient.
-    const StoreResult stored = edit([&](pugi::xml_node root) {
+    const StoreResult stored = editAsStep([&](pugi::xml_node root, StepRecorder& recorder) {
         known = knownPatient(root, imported->root());
         if (!known.isNull()) return DataFile::Edit::unchanged;
-        counts = importRecords(root, imported->root());
+        counts = importRecords(root, imported->root(), recorder);
+        recorder.setName({.kind = StepKind::importPatients,
+                          .subject = QFileInfo{path}.fileName(),
+                          .patientID = childText(firstElement(imported->root(), "Patient"), "ID"),
+                          .commentID = {}});
         return DataFile::Edit::changed;
     });
     if (!stored) {

@@ -14,11 +14,15 @@ namespace {
 using Edit = DataFile::Edit;
 
 /// \return how many were removed
-int removeElementsOf(pugi::xml_node root, const char* name, const QString& ID) {
+int removeElementsOf(pugi::xml_node root, const char* name, const QString& ID, StepRecorder& recorder) {
     int removed = 0;
     for (pugi::xml_node at = root.first_child(); at;) {
         const pugi::xml_node next = at.next_sibling();
-        if (isElement(at, name) && childText(at, "ID") == ID && root.remove_child(at)) ++removed;
+        if (isElement(at, name) && childText(at, "ID") == ID) {
+            recorder.willRemove(at);
+            root.remove_child(at);
+            ++removed;
+        }
         at = next;
     }
     return removed;
@@ -38,8 +42,11 @@ bool canBeID(const QString& ID) {
            && ID.isValidUtf16();
 }
 
-void insertPatient(pugi::xml_node root, const PatientModel& patient) {
-    patient.updateXMLNode(insertElement<PatientModel>(root, lastElement(root, "Patient")), true);
+void insertPatient(pugi::xml_node root, const PatientModel& patient, StepRecorder& recorder) {
+    const pugi::xml_node made = insertElement<PatientModel>(root, lastElement(root, "Patient"));
+    recorder.added(made);
+    patient.updateXMLNode(made, true);
+    recorder.setName(StepKind::addPatient, made, patient.ID);
 }
 
 bool hasPatient(pugi::xml_node root, const QString& ID) {
@@ -81,12 +88,6 @@ void saveXMLDataTransfer(pugi::xml_node root, const DataTransferLogModel& log, c
     }
 }
 
-/// Whether the file holds what was to be written, also if that may not outlast a power cut.
-template <class Value>
-bool isInPlace(const tl::expected<Value, StoreError>& result) {
-    return result || result.error().code == StoreErrorCode::notFlushed;
-}
-
 } // namespace
 
 /// After a failed load, what is in memory is not what the file holds, which may have been repaired by now.
@@ -122,9 +123,31 @@ StoreResult DataStore::editAndReload(const DataFile::Change& change) {
     return written;
 }
 
+StoreResult DataStore::editAsStep(const StepChange& change) {
+    ChangeStep step;
+    StoreResult written = edit([&](pugi::xml_node root) {
+        StepRecorder recorder;
+        const Edit made = change(root, recorder);
+        if (made == Edit::changed) step = recorder.step();
+        return made;
+    });
+    if (isInPlace(written) && history.add(std::move(step))) emit historyChanged();
+    return written;
+}
+
+StoreResult DataStore::editAsStepAndReload(const StepChange& change) {
+    StoreResult written = editAsStep(change);
+    if (isInPlace(written)) std::ignore = loadXML();
+    return written;
+}
+
+/// The steps were those of another document then.
 tl::expected<QString, StoreError> DataStore::restoreBackup(const QString& name) {
     auto kept = copies.restore(name);
-    if (isInPlace(kept)) std::ignore = loadXML();
+    if (!isInPlace(kept)) return kept;
+    history.clear();
+    emit historyChanged();
+    std::ignore = loadXML();
     return kept;
 }
 
@@ -133,13 +156,15 @@ StoreResult DataStore::saveXMLPatient(const PatientModel& patient,
     if (!canBeID(patient.ID)) return refused(patient.ID);
     bool isGone = false;
     // By value: the records that they may be of are read anew after a failed load.
-    StoreResult saved = edit([patient, asRead, &isGone](pugi::xml_node root) {
+    StoreResult saved = editAsStep([patient, asRead, &isGone](pugi::xml_node root, StepRecorder& recorder) {
         if (const auto known = findElement(root, "Patient", "ID", patient.ID)) {
+            recorder.willChange(known);
             patient.updateXMLNode(known, false, asRead ? &*asRead : nullptr);
+            recorder.setName(StepKind::editPatient, known, patient.ID);
             return Edit::changed;
         }
         isGone = asRead.has_value();
-        if (!isGone) insertPatient(root, patient);
+        if (!isGone) insertPatient(root, patient, recorder);
         return isGone ? Edit::unchanged : Edit::changed;
     });
     if (!isGone) return saved;
@@ -151,9 +176,9 @@ StoreResult DataStore::saveXMLPatient(const PatientModel& patient,
 StoreResult DataStore::addXMLPatient(const PatientModel& patient) {
     if (!canBeID(patient.ID)) return refused(patient.ID);
     bool isKnown = false;
-    StoreResult added = edit([&](pugi::xml_node root) {
+    StoreResult added = editAsStep([&](pugi::xml_node root, StepRecorder& recorder) {
         isKnown = hasPatient(root, patient.ID);
-        if (!isKnown) insertPatient(root, patient);
+        if (!isKnown) insertPatient(root, patient, recorder);
         return isKnown ? Edit::unchanged : Edit::changed;
     });
     if (isKnown) return tl::unexpected{StoreError{StoreErrorCode::alreadyKnown, patient.ID, {}}};
@@ -162,14 +187,17 @@ StoreResult DataStore::addXMLPatient(const PatientModel& patient) {
 
 StoreResult DataStore::deleteXMLPatient(const QString& ID) {
     if (IsEmptyID(ID)) return deleteWithoutID(ID);
-    return edit([&ID](pugi::xml_node root) {
-        if (!root.remove_child(findElement(root, "Patient", "ID", ID))) {
+    return editAsStep([&ID](pugi::xml_node root, StepRecorder& recorder) {
+        const pugi::xml_node known = findElement(root, "Patient", "ID", ID);
+        recorder.setName(StepKind::deletePatient, known, ID);
+        recorder.willRemove(known);
+        if (!root.remove_child(known)) {
             qCDebug(lcStore, "delete node ID:%s error, no node found = ", qUtf8Printable(ID));
         }
-        if (removeElementsOf(root, "Comment", ID) == 0) {
+        if (removeElementsOf(root, "Comment", ID, recorder) == 0) {
             qCDebug(lcStore, "no comment to be deleted for ID: %s", qUtf8Printable(ID));
         }
-        if (removeElementsOf(root, "MeasureRec", ID) == 0) {
+        if (removeElementsOf(root, "MeasureRec", ID, recorder) == 0) {
             qCDebug(lcStore, "no measure to be deleted for ID: %s", qUtf8Printable(ID));
         }
         return Edit::changed;
@@ -180,8 +208,11 @@ StoreResult DataStore::deleteXMLPatient(const QString& ID) {
 StoreResult DataStore::deleteWithoutID(const QString& ID) {
     const PatientModel* known = getPatientByID(ID);
     if (!known) return refused(ID);
-    return edit([asRead = *known](pugi::xml_node root) {
-        return root.remove_child(findPatientWithoutID(root, asRead)) ? Edit::changed : Edit::unchanged;
+    return editAsStep([asRead = *known](pugi::xml_node root, StepRecorder& recorder) {
+        const pugi::xml_node found = findPatientWithoutID(root, asRead);
+        recorder.setName(StepKind::deletePatient, found, asRead.ID);
+        recorder.willRemove(found);
+        return root.remove_child(found) ? Edit::changed : Edit::unchanged;
     });
 }
 
@@ -194,9 +225,13 @@ tl::expected<SettingModel, StoreError>
 DataStore::changeSetting(const SettingModel& shown, const SettingModel& wanted, WithoutPlace withoutPlace) {
     SettingModel kept;
     // By value: they may be the settings that are read anew after a failed load.
-    const auto write = [&kept, withoutPlace, shown, wanted](pugi::xml_node root) {
+    const auto write = [&kept, withoutPlace, shown, wanted](pugi::xml_node root, StepRecorder& recorder) {
         pugi::xml_node element = firstElement(root, "SystemSetting");
-        if (!element) element = SettingModel::makeXmlNode(root);
+        if (element)
+            recorder.willChange(element);
+        else
+            recorder.added(element = SettingModel::makeXmlNode(root));
+        recorder.setName({.kind = StepKind::changeSettings, .subject = {}, .patientID = {}, .commentID = {}});
         SettingModel meant = SettingModel::initWithXMLNode(element);
         meant.takeChanges(shown, wanted);
         wanted.updateXMLNode(element, &shown);
@@ -204,7 +239,7 @@ DataStore::changeSetting(const SettingModel& shown, const SettingModel& wanted, 
         const bool isWhole = kept == meant;
         return isWhole || withoutPlace == WithoutPlace::leaveOut ? Edit::changed : Edit::unchanged;
     };
-    return edit(write).map([&kept] { return kept; });
+    return editAsStep(write).map([&kept] { return kept; });
 }
 
 tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(const QString& ID, ReadingList downloaded) {

@@ -40,12 +40,14 @@ QString sentence(ImportRefusalCode code) {
 
 /// Copies all elements of one kind behind the last of their kind, or to the end where there is none.
 /// \return the copies
-std::vector<pugi::xml_node> importNodes(const char* kind, pugi::xml_node data, pugi::xml_node imported) {
+std::vector<pugi::xml_node> importNodes(const char* kind, pugi::xml_node data, pugi::xml_node imported,
+                                        StepRecorder& recorder) {
     std::vector<pugi::xml_node> copies;
     pugi::xml_node last = lastElement(data, kind);
     for (const pugi::xml_node node : imported.children()) {
         if (!isElement(node, kind)) continue;
         last = last ? data.insert_copy_after(node, last) : data.append_copy(node);
+        recorder.added(last);
         copies.push_back(last);
     }
     return copies;
@@ -144,14 +146,14 @@ QString knownPatient(pugi::xml_node data, pugi::xml_node imported) {
     return {};
 }
 
-ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported) {
+ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported, StepRecorder& recorder) {
     const QSet<QString> commentNumbers = textsOf(data, "Comment", "CommentID");
     ImportCounts counts;
-    counts.patients = importNodes("Patient", data, imported).size();
-    const auto comments = importNodes("Comment", data, imported);
+    counts.patients = importNodes("Patient", data, imported, recorder).size();
+    const auto comments = importNodes("Comment", data, imported, recorder);
     renumber(comments, commentNumbers);
     counts.comments = comments.size();
-    counts.readings = importNodes("MeasureRec", data, imported).size();
+    counts.readings = importNodes("MeasureRec", data, imported, recorder).size();
     return counts;
 }
 

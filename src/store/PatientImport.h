@@ -2,6 +2,7 @@
 // Patients from an exported file into the data file.
 
 #include "store/AtomicFile.h"
+#include "store/StepRecorder.h"
 #include "store/StoreError.h"
 #include "store/XmlDocument.h"
 
@@ -62,6 +63,6 @@ inline constexpr qint64 largestImport = largestFile;
 
 /// Copies patients, comments and readings, each kind after the last of its kind. They stay as they are, but
 /// that a comment whose number is taken gets a new one, since comments are found by their numbers.
-ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported);
+ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported, StepRecorder& recorder);
 
 } // namespace zel

@@ -27,6 +27,13 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::isDataFile: return qtTrId("ExportIsDataFile");
     case StoreErrorCode::noSuchBackup: return qtTrId("StoreNoSuchBackup");
     case StoreErrorCode::noRoomForBackup: return qtTrId("StoreNoRoomForBackup");
+    case StoreErrorCode::noStep: return qtTrId("StoreNoStep");
+    case StoreErrorCode::stepChanged: return qtTrId("StoreStepChanged");
+    case StoreErrorCode::stepGone: return qtTrId("StoreStepGone");
+    case StoreErrorCode::stepThere: return qtTrId("StoreStepThere");
+    case StoreErrorCode::stepPatientKnown: return qtTrId("StoreStepPatientKnown");
+    case StoreErrorCode::stepPatientGone: return qtTrId("StoreStepPatientGone");
+    case StoreErrorCode::stepHasRecords: return qtTrId("StoreStepHasRecords");
     case StoreErrorCode::sameFileName: return qtTrId("ExportSameFileName");
     }
     return {};
@@ -37,6 +44,12 @@ QString withDetail(const QString& text, const StoreError& error) {
 }
 
 } // namespace
+
+bool isStepRefusal(StoreErrorCode code) {
+    using enum StoreErrorCode;
+    return code == stepChanged || code == stepGone || code == stepThere || code == stepPatientKnown
+           || code == stepPatientGone || code == stepHasRecords;
+}
 
 QString describe(const StoreError& error) { return withDetail(sentence(error.code).arg(error.path), error); }
 

@@ -28,6 +28,13 @@ enum class StoreErrorCode {
     isDataFile,       ///< the file to write is the data file itself
     noSuchBackup,     ///< no copy of the data file has that name, the path
     noRoomForBackup,  ///< the copies may take no more of the disk; the path is their folder
+    noStep,           ///< there is nothing to be undone or redone
+    stepChanged,      ///< what the step changed has been changed since
+    stepGone,         ///< what the step changed is no longer there
+    stepThere,        ///< what the step removed is there again
+    stepPatientKnown, ///< a patient with the ID of one who would come back is there by now
+    stepPatientGone,  ///< the patient whose record would come back is no longer there
+    stepHasRecords,   ///< a patient who would go has readings or comments that the step did not bring
     sameFileName,     ///< the disk takes the file for the one just written for the patient in detail
 };
 
@@ -41,6 +48,15 @@ struct StoreError {
 };
 
 using StoreResult = tl::expected<void, StoreError>;
+
+/// Whether the file holds what was to be written, also if that may not outlast a power cut.
+template <class Value>
+[[nodiscard]] bool isInPlace(const tl::expected<Value, StoreError>& result) {
+    return result || result.error().code == StoreErrorCode::notFlushed;
+}
+
+/// The file is no longer such that a step can be undone or redone; trying again does not help.
+[[nodiscard]] bool isStepRefusal(StoreErrorCode code);
 
 /// The error in plain words for the user, from the translation table.
 [[nodiscard]] QString describe(const StoreError& error);
