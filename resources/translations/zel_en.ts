@@ -60,7 +60,7 @@
     <message id="StoreStepHasRecords"><translation>The patient with the ID “%1” has got readings or comments since, which would be nobody’s. Nothing was changed.</translation></message>
     <message id="StoreStepPatientGone"><translation>The patient with the ID “%1”, whom the comment belongs to, is no longer in the data file. Nothing was changed.</translation></message>
     <message id="StoreStepPatientKnown"><translation>A patient with the ID “%1” is in the list by now. Nothing was changed.</translation></message>
-    <message id="StoreStepThere"><translation>The comment is in the data file again already. Nothing was changed.</translation></message>
+    <message id="StoreStepThere"><translation>What would come back is in the data file again already. Nothing was changed.</translation></message>
     <message id="StoreTooLarge"><translation>The data file %1 is larger than 512 MiB, which this program does not read. It is left as it is, and nothing can be saved: put a smaller copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreUnreadable"><translation>The data file %1 was left as it was: what was to be saved could not be read again afterwards.</translation></message>
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
@@ -234,7 +234,7 @@ mmHg</translation></message>
 Stay here and keep your text, to try again? With No, the text is given up.</translation></message>
     <message id="commentText"><translation>Text of the comment</translation></message>
     <message id="commentUnchanged"><translation>The comment could not be saved. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? This cannot be undone.</translation></message>
+    <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? Edit &gt; Undo brings them back until ZEL is closed.</translation></message>
     <message id="confirmPrintSave"><translation>The data of %1 have been changed, and only what is saved is printed or exported. Save the changes first?</translation></message>
     <message id="confirmSendID"><translation>%2 Write the ID %1 into it? From then on its readings belong to this patient.</translation></message>
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
@@ -254,7 +254,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="DeletePatient"><translation>Delete patient</translation></message>
     <message id="deletePatientButton"><translation>De&amp;lete</translation></message>
     <message id="deletePatientHint"><translation>Delete this patient with all readings and comments, after a question.</translation></message>
-    <message id="DeleteTheComment"><translation>Delete this comment? This cannot be undone.</translation></message>
+    <message id="DeleteTheComment"><translation>Delete this comment? Edit &gt; Undo brings it back until ZEL is closed.</translation></message>
     <message id="download"><translation>Download readings</translation></message>
     <message id="downloadAdvice"><translation>Please leave the monitor connected. Its readings are stored when all of them have arrived.</translation></message>
     <message id="downloadButton"><translation>&amp;Download</translation></message>
@@ -356,13 +356,16 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="map"><translation>MAP</translation></message>
     <message id="menuAbout"><translation>&amp;About ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backups …</translation></message>
+    <message id="menuEdit"><translation>&amp;Edit</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuHelp"><translation>&amp;Help</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
     <message id="menuPrint"><translation>&amp;Print …</translation></message>
     <message id="menuQuit"><translation>&amp;Quit</translation></message>
+    <message id="menuRedo"><translation>&amp;Redo</translation></message>
     <message id="menuSavePdf"><translation>Save as P&amp;DF …</translation></message>
     <message id="menuSettings"><translation>&amp;Settings …</translation></message>
+    <message id="menuUndo"><translation>&amp;Undo</translation></message>
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="monitorClock"><translation>Clock</translation></message>
@@ -432,7 +435,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="patientCount" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1 has been deleted.</translation></message>
     <message id="patientEditor"><translation>Data of the patient</translation></message>
-    <message id="patientGone"><translation>%1 is no longer in the data file: another program removed this patient. What you typed is still here, and Save adds the patient again.</translation></message>
+    <message id="patientGone"><translation>%1 is no longer in the data file: another program removed this patient, or a step was undone here. What you typed is still here, and Save adds the patient again.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
     <message id="patientIDTwice"><translation>The data file holds more than one patient with the ID %1. They cannot be told apart, so none of them is changed or deleted.</translation></message>
@@ -486,6 +489,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
+    <message id="redoFailed"><translation>“%1” was not done again. %2</translation></message>
+    <message id="redone"><translation>Done again: %1</translation></message>
     <message id="riskFactors"><translation>Risk factors</translation></message>
     <message id="sameID"><translation>The ID %1 belongs to another patient of the list. Nothing was saved yet; please choose another ID.</translation></message>
     <message id="sameIDTitle"><translation>ID taken</translation></message>
@@ -585,6 +590,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
+    <message id="undoDropped"><translation>
+
+So this step is left out from now on; the others are not concerned.</translation></message>
+    <message id="undoFailed"><translation>“%1” was not undone. %2</translation></message>
+    <message id="undone"><translation>Undone: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
     <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
     <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>

@@ -145,11 +145,14 @@ public:
     }
 
 private:
-    /// One comment that another program has put back; a patient is known by the ID.
+    /// One comment that another program has put back, or the settings, which are written whenever there are
+    /// none. A patient is known by the ID.
     [[nodiscard]] bool isThereAgain(const ChangeStep& step) const {
         if (step.changes.size() != 1 || !step.changes.front().before.isEmpty()) return false;
         const Fragment after{step.changes.front().after};
-        return isElement(after.node(), "Comment") && index.same(after.node());
+        const bool isSetting = isElement(after.node(), "SystemSetting");
+        return isSetting ? static_cast<bool>(firstElement(root, "SystemSetting"))
+                         : isElement(after.node(), "Comment") && index.same(after.node());
     }
 
     [[nodiscard]] StoreResult make(const ElementChange& change) {

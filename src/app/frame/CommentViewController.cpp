@@ -43,8 +43,8 @@ void CommentViewController::LoadData() {
     if (isLoading) return;
     const QScopedValueRollback loading(isLoading, true);
     form->showPatient(narrowPatientHeading(store));
-    if (isChanged() && shown->ID == store.getCurrentID()) return showPosition();
-    if (isChanged() && !store.validIDinXML(shown->ID)) rescueText();
+    if (isEdited() && shown->ID == store.getCurrentID()) return showPosition();
+    if (isEdited() && !store.validIDinXML(shown->ID)) rescueText();
     if (const CommentModel* selected = store.getSelectedComment()) return show(*selected);
     shown.reset();
     enableCommentUI(false);
@@ -115,7 +115,7 @@ void CommentViewController::showPosition() {
         form->showNoPosition();
 }
 
-bool CommentViewController::isChanged() const {
+bool CommentViewController::isEdited() const {
     const CommentForm::Dates dates = form->typedDates();
     return shown && (dates.begin || dates.end || (form->isEdited() && form->text() != shown->comment));
 }
@@ -169,7 +169,7 @@ bool CommentViewController::refuseDates() {
 
 /// Writes a copy: on a failure, neither the store nor the panel has changed.
 StoreResult CommentViewController::save() {
-    if (isLoading || !isChanged()) return {};
+    if (isLoading || !isEdited()) return {};
     const CommentModel comment = typed().comment;
     if (comment.isSame(*shown)) {
         if (typed().refusal.isEmpty()) updateDaetInfo(*shown); // typed as they were

@@ -28,6 +28,8 @@ public:
     bool selectComment(std::size_t index);
     /// As selectComment(), of the comment with that ID.
     bool setCommentScroll(const QString& commentID);
+    /// Something is typed and not saved.
+    [[nodiscard]] bool isEdited() const;
     /// Saves what was typed, if anything, and says nothing.
     [[nodiscard]] StoreResult save();
     /// Saves what was typed. \return false if that failed; the user knows why, and the text is still there.
@@ -72,7 +74,6 @@ private:
     void showPosition();
     void rescueText();
     void tellIfNotReadBack();
-    [[nodiscard]] bool isChanged() const;
     [[nodiscard]] std::optional<std::size_t> indexOf(const QString& commentID) const;
 
     DataStore& store;

@@ -128,6 +128,8 @@ void GraphViewController::UpdateUIBySetting() {
 
 bool GraphViewController::leave() { return frame->comments().leave(); }
 
+bool GraphViewController::isEdited() const { return frame->comments().isEdited(); }
+
 void GraphViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
 
 bool GraphViewController::readyToPrint() { return frame->comments().finish(); }

@@ -151,6 +151,12 @@ void PatientViewController::goTo(const QString& ID) {
     roster->select(store.getCurrentID());
 }
 
+void PatientViewController::showPatient(const QString& ID) {
+    if (ID == store.getCurrentID() || !store.validIDinXML(ID)) return;
+    roster->showAll(); // also one that the search leaves out
+    goTo(ID);
+}
+
 bool PatientViewController::leave() {
     const QString ID = store.getCurrentID();
     if (!isThere(ID)) return true;
@@ -168,6 +174,8 @@ bool PatientViewController::leave() {
         editor->showPatient(formOf(ID));
     return true;
 }
+
+bool PatientViewController::isEdited() const { return isThere(store.getCurrentID()) && editor->isChanged(); }
 
 bool PatientViewController::readyToPrint() {
     if (!isThere(store.getCurrentID()) || !editor->isChanged()) return true;

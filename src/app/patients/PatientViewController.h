@@ -39,10 +39,13 @@ public:
     [[nodiscard]] bool leave() override;
     /// As leave(), for the new patient that was left unsaved as well: nothing typed may be lost after this.
     [[nodiscard]] bool settle();
+    [[nodiscard]] bool isEdited() const override;
     [[nodiscard]] bool readyToPrint() override;
     [[nodiscard]] QJsonArray saveQuietly() override;
     /// Shows it in the editor, to be completed and saved.
     [[nodiscard]] bool takeUp(const QJsonObject& draft) override;
+    /// Makes that patient the current one, if there is one and what is typed over another may be left.
+    void showPatient(const QString& ID);
     /// A monitor is connected and holds the selected patient's ID.
     [[nodiscard]] bool CanDataTransfer() const;
 

@@ -9,6 +9,7 @@
 #include "app/settings/SettingController.h"
 #include "app/shell/HelpWindow.h"
 #include "app/shell/SplashWindow.h"
+#include "app/shell/UndoController.h"
 #include "app/shell/UnsavedFile.h"
 #include "app/shell/WindowPlacement.h"
 #include "app/table/TableViewController.h"
@@ -48,6 +49,11 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
+    undoer = new UndoController({needed.store, needed.status, needed.panel}, this);
+    connect(&window, &MainWindow::undoWanted, undoer, &UndoController::undo);
+    connect(&window, &MainWindow::redoWanted, undoer, &UndoController::redo);
+    connect(undoer, &UndoController::retraced, this, &AppController::showStep);
+    connect(undoer, &UndoController::said, &window, &MainWindow::showOutcome);
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
@@ -252,6 +258,19 @@ void AppController::showAbout() {
 void AppController::reload() {
     if (const StoreResult read = parts.store.loadXML(); !read)
         parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+}
+
+/// Whom the step is about is shown, unless that took something typed away.
+void AppController::showStep(const StepName& name) {
+    if (!pageInView().isEdited() && !patientPage->isEdited()) {
+        patientPage->showPatient(name.patientID);
+        const auto isIt = [&](const auto& comment) { return comment->CommentID == name.commentID; };
+        if (parts.store.getCurrentID() == name.patientID
+            && std::ranges::any_of(parts.store.getCommentForCurID(), isIt))
+            parts.store.setSelectedComment(name.commentID);
+    }
+    UpdateUIBySetting();
+    if (parts.store.getPatientArray().empty() && !patientPage->isVisible()) changeTab(0);
 }
 
 /// All pages, not only the one in view: none shows old settings when its tab is pressed.

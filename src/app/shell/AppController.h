@@ -25,6 +25,8 @@ class ProgressWindowController;
 class SettingController;
 class SplashWindow;
 class TableViewController;
+class UndoController;
+struct StepName;
 enum class PrintPurpose;
 struct DownloadOutcome;
 
@@ -90,6 +92,7 @@ private:
     void keepUnsaved();
     void offerUnsaved();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
+    void showStep(const StepName& name);
     void UpdateUIBySetting();
     void reload();
     void checkToSaveComment();
@@ -105,6 +108,7 @@ private:
     TableViewController* tablePage;
     std::array<PageController*, MainWindow::tabTotal> pages;
     PeriodFollower* follower = nullptr;
+    UndoController* undoer = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise
     PrintController* printController = nullptr;         ///< likewise

@@ -1,5 +1,6 @@
 #include "app/shell/MainMenu.h"
 
+#include "app/shell/EditMenu.h"
 #include "app/shell/MainWindow.h"
 
 namespace zel {
@@ -25,7 +26,7 @@ void add(MainWindow& window, QMenu& menu, const Command& command) {
 
 } // namespace
 
-QMenuBar* makeMainMenu(MainWindow& window) {
+QMenuBar* makeMainMenu(MainWindow& window, const DataStore& store, const MonitorStatus& status) {
     auto* bar = new QMenuBar(&window);
     bar->setObjectName(u"mainMenu"_s);
     bar->setAccessibleName(qtTrId("mainMenu"));
@@ -40,6 +41,10 @@ QMenuBar* makeMainMenu(MainWindow& window) {
     file.addSeparator();
     add(window, file,
         {u"closeApplicaiton"_s, qtTrId("menuQuit"), Qt::CTRL | Qt::Key_Q, &MainWindow::closeWanted});
+    auto* edit = new EditMenu(store, status, bar);
+    QObject::connect(edit, &EditMenu::undoWanted, &window, &MainWindow::undoWanted);
+    QObject::connect(edit, &EditMenu::redoWanted, &window, &MainWindow::redoWanted);
+    bar->addMenu(edit);
     QMenu& help = *bar->addMenu(qtTrId("menuHelp"));
     add(window, help, {u"showHelp"_s, qtTrId("menuManual"), Qt::Key_F1, &MainWindow::helpWanted});
     add(window, help, {u"showAbout"_s, qtTrId("menuAbout"), {}, &MainWindow::aboutWanted});

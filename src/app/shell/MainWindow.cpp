@@ -72,7 +72,7 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     column->addWidget(makeTabBar());
     column->addWidget(makeBody(store), 1);
     setCentralWidget(central);
-    setMenuBar(makeMainMenu(*this));
+    setMenuBar(makeMainMenu(*this, store, status));
     makeStatusLine();
     makeShortcuts();
 }

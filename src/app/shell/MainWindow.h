@@ -41,6 +41,8 @@ signals:
     void tabWanted(int tabTag);
     void settingWanted();
     void backupsWanted();
+    void undoWanted();
+    void redoWanted();
     void printWanted();
     void pdfWanted();
     void helpWanted();

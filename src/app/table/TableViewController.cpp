@@ -175,6 +175,8 @@ void TableViewController::setHWButtons(bool) { setPadTitle(); }
 
 bool TableViewController::leave() { return frame->comments().leave(); }
 
+bool TableViewController::isEdited() const { return frame->comments().isEdited(); }
+
 void TableViewController::checkToSaveComment() { frame->comments().checkToSaveComment(); }
 
 bool TableViewController::readyToPrint() { return frame->comments().finish(); }

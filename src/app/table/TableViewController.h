@@ -33,6 +33,7 @@ public:
     void UpdateUIBySetting() override;
     void setHWButtons(bool connected) override;
     [[nodiscard]] bool leave() override;
+    [[nodiscard]] bool isEdited() const override;
     void checkToSaveComment() override;
     [[nodiscard]] bool readyToPrint() override;
     [[nodiscard]] QJsonArray saveQuietly() override;

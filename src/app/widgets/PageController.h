@@ -21,6 +21,8 @@ public:
     [[nodiscard]] virtual bool leave() { return true; }
     /// A comment that is being edited is saved; before a command that others' data depend on.
     virtual void checkToSaveComment() {}
+    /// Something is typed on the page and not saved.
+    [[nodiscard]] virtual bool isEdited() const { return false; }
     /// Settles what has been typed and would be missing on paper or in an exported file; what is not to be
     /// saved stays on the page. \return false if nothing is to be printed or exported
     [[nodiscard]] virtual bool readyToPrint() { return true; }

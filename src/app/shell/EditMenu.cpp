@@ -1,0 +1,47 @@
+#include "app/shell/EditMenu.h"
+
+#include "app/shell/UndoController.h"
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// \p words: what stands before the step's name.
+void showStep(QAction& action, const ChangeStep* step, bool isPossible, const QString& words) {
+    const QString name = step ? shortStepName(step->name) : QString();
+    action.setText(QString(words + u' ' + QString(name).replace(u'&', "&&"_L1)).trimmed());
+    action.setEnabled(step && isPossible);
+}
+
+} // namespace
+
+EditMenu::EditMenu(const DataStore& dataStore, const MonitorStatus& monitorStatus, QWidget* parent)
+    : QMenu(qtTrId("menuEdit"), parent), store(dataStore), status(monitorStatus),
+      undo(add(u"undoStep"_s, QKeySequence::Undo)), redo(add(u"redoStep"_s, QKeySequence::Redo)) {
+    setObjectName(u"editMenu"_s);
+    connect(undo, &QAction::triggered, this, &EditMenu::undoWanted);
+    connect(redo, &QAction::triggered, this, &EditMenu::redoWanted);
+    connect(&store, &DataStore::historyChanged, this, &EditMenu::showSteps);
+    connect(&status, &MonitorStatus::changed, this, &EditMenu::showSteps);
+    showSteps();
+}
+
+/// One step for each time that the key is pressed, however long.
+QAction* EditMenu::add(const QString& name, QKeySequence::StandardKey key) {
+    QAction* action = addAction(QString());
+    action->setObjectName(name);
+    action->setShortcuts(key);
+    action->setAutoRepeat(false);
+    action->setMenuRole(QAction::NoRole);
+    return action;
+}
+
+void EditMenu::showSteps() {
+    const ChangeHistory& changes = store.changes();
+    showStep(*undo, changes.undoable(), !status.isBusy(), qtTrId("menuUndo"));
+    showStep(*redo, changes.redoable(), !status.isBusy(), qtTrId("menuRedo"));
+}
+
+} // namespace zel
