@@ -2,6 +2,7 @@
 #include "AppTest.h"
 #include "support/FailingCalls.h"
 
+#include <QAction>
 #include <QPlainTextEdit>
 
 #include <cerrno>
@@ -57,6 +58,29 @@ TEST_F(FailedCallTest, WhatWasTypedIsStoredOrStillThere) {
                  EXPECT_EQ(isStored, dataFile().contains("<PatientNotes>" + typed.toUtf8()));
              });
     EXPECT_GT(number, 40);
+}
+
+TEST_F(FailedCallTest, AStepIsTakenBackOrStaysAndIsTold) {
+    startsPlugged = false;
+    start();
+    auto* undo = window().findChild<QAction*>(u"undoStep"_s);
+    int tried = 0;
+    const auto prepare = [&] {
+        PatientModel patient = *store.getPatientByID(u"DEMO1"_s);
+        const PatientModel asRead = patient;
+        patient.PatientNotes = u"typed"_s;
+        ASSERT_TRUE(store.saveXMLPatient(patient, asRead));
+        ASSERT_TRUE(store.loadXML());
+    };
+    eachCall(
+        prepare, [&] { undo->trigger(); },
+        [&](bool isAsBeforeUndo) {
+            ++tried;
+            EXPECT_EQ(isAsBeforeUndo, store.changes().redoable() == nullptr);
+            EXPECT_EQ(isAsBeforeUndo, dataFile().contains("<PatientNotes>typed<"));
+            EXPECT_TRUE(!isAsBeforeUndo || !panel.messages.empty());
+        });
+    EXPECT_GT(tried, 40);
 }
 
 } // namespace zel
