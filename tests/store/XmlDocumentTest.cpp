@@ -189,6 +189,10 @@ TEST(XmlDocument, KeepsItsEncoding) {
         EXPECT_EQ(elementText(again->root().child("A")), u"ä漢"_s) << name;
     }
     EXPECT_FALSE(XmlDocument::parse("<?xml version=\"1.0\" encoding=\"US-ASCII\"?><ZEL>\xE4</ZEL>"));
+    for (const char* name : {"HZ-GB-2312", "hz", "ASCII", "ascii", "ISO_8859-9", "ISO-IR-100", "ibm-367"})
+        EXPECT_TRUE(
+            XmlDocument::parse(QByteArray{"<?xml version='1.0' encoding='"} + name + "'?><ZEL>a</ZEL>"))
+            << name;
 }
 
 } // namespace
