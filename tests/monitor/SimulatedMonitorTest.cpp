@@ -178,6 +178,9 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
     EXPECT_EQ(refusal("[]").second, Code::notObject);
     EXPECT_EQ(refusal("{}"), std::pair(u"model"_s, Code::missing));
     EXPECT_EQ(refusal(R"({"model": "411", "id": "A"})"), std::pair(u"model"_s, Code::wrongLength));
+    const auto lengths = [](const QByteArray& json) { return readPlan(json).error().detail; };
+    EXPECT_EQ(lengths(R"({"model": "411", "id": "A"})"), u"2"_s);
+    EXPECT_EQ(lengths(R"({"model": "41", "id": "TWELVE CHARS"})"), u"0-11"_s);
     EXPECT_EQ(refusal(R"({"model": 41, "id": "A"})"), std::pair(u"model"_s, Code::notText));
     EXPECT_EQ(refusal(R"({"model": "41", "id": "\u20ac"})"), std::pair(u"id"_s, Code::unencodable));
     const QByteArray records = QByteArray(R"({"raw": "short"},)").repeated(256).chopped(1);
