@@ -214,6 +214,15 @@ TEST_F(AtomicFileTest, DiskThatFillsUpLeavesTheFileAsItWas) {
     EXPECT_EQ(filesInFolder(), 1);
 }
 
+TEST_F(AtomicFileTest, FilesUpToTheLargestAreRead) {
+    ASSERT_TRUE(replaceFile(path, QByteArray((1 << 20) + 1, 'x')));
+    EXPECT_EQ(readFile(path).value().size(), (1 << 20) + 1);
+    ASSERT_TRUE(QFile::resize(path, largestFile + 1)); // a hole, which takes no room
+    EXPECT_EQ(readFile(path).error().code, StoreErrorCode::tooLarge);
+    const auto endless = readFile(u"/proc/self/maps"_s); // does not know its size
+    EXPECT_TRUE(endless && endless->contains("store_tests") && !endless->contains('\0'));
+}
+
 TEST_F(AtomicFileTest, FolderThatIsMissingIsReported) {
     const auto result = replaceFile(folder.filePath(u"no/such/ZEL.xml"_s), "one");
     ASSERT_FALSE(result);
