@@ -91,9 +91,8 @@ int DrawTable::needPages(const Rect& rect, bool forTable) const {
     const int perPage = itemsPerPage(rect);
     const int onFirst = itemsPerPage(firstPageRect(rect, forTable));
     if (perPage == 0) return forTable ? 0 : 1;
-    if (!forTable && rowTotal() <= onFirst) return 1;
     const int pagesBefore = forTable ? 0 : 1;
-    const int left = forTable ? rowTotal() : rowTotal() - onFirst;
+    const int left = forTable ? rowTotal() : std::max(0, rowTotal() - onFirst);
     return (left + perPage - 1) / perPage + pagesBefore;
 }
 

@@ -53,7 +53,7 @@ private:
         const double own = mark + textSize(item.words, font).width;
         if (at.x > 0 && at.x + own > width) nextLine();
         if (mark > 0) addCircle(item.mark == LegendItem::Mark::filled);
-        fieldFigure(picture, item.words, {at.x + mark, at.y}, width - at.x - mark, font);
+        fieldFigure(picture, item.words, {at.x + mark, at.y}, width - mark, font);
         at.x += own + item.gapAfter;
     }
     void addCircle(bool filled) {

@@ -171,6 +171,10 @@ TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
     period.setChangeUser(true);
     EXPECT_EQ(changes, 4);
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
+    period.setChangeUser(false);
+    period.setCurrentReadingTimePeriod(readingsAt({"2019-03-01 10:00", "2019-03-08 18:00"}));
+    period.adjustViewAll();
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom) << "only with another patient";
 }
 
 TEST_F(DisplayPeriodTest, CommentsArePlacedOnUpTo46DaysMore) {

@@ -33,6 +33,24 @@ protected:
     WallTime begin;
 };
 
+TEST(Deadline, PassesAfterItsTimeAndStartsAnewWhereTheClockIsSetBack) {
+    ManualClock clock;
+    Deadline deadline(clock, 2s);
+    const auto passes = [&](std::chrono::microseconds later) {
+        clock.advance(later);
+        return deadline.passed();
+    };
+    EXPECT_FALSE(passes(2s));
+    EXPECT_FALSE(passes(-1s)) << "a clock that is only corrected";
+    EXPECT_TRUE(passes(1s + 1us));
+    EXPECT_FALSE(passes(-1h));
+    EXPECT_FALSE(passes(2s));
+    EXPECT_TRUE(passes(1us));
+    deadline.restart();
+    EXPECT_FALSE(passes(2s));
+    EXPECT_TRUE(passes(1us));
+}
+
 TEST_F(MonitorTransportTest, ReplyIsTheSameWhateverItsSplit) {
     for (std::size_t size = 1; size <= reportCapacity; ++size) {
         port.answers = {reply(goodID, size), reply(goodVersion, size)};

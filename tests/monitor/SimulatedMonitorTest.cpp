@@ -178,10 +178,74 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
     EXPECT_EQ(refusal("[]").second, Code::notObject);
     EXPECT_EQ(refusal("{}"), std::pair(u"model"_s, Code::missing));
     EXPECT_EQ(refusal(R"({"model": "411", "id": "A"})"), std::pair(u"model"_s, Code::wrongLength));
+    const auto lengths = [](const QByteArray& json) { return readPlan(json).error().detail; };
+    EXPECT_EQ(lengths(R"({"model": "411", "id": "A"})"), u"2"_s);
+    EXPECT_EQ(lengths(R"({"model": "41", "id": "TWELVE CHARS"})"), u"0-11"_s);
     EXPECT_EQ(refusal(R"({"model": 41, "id": "A"})"), std::pair(u"model"_s, Code::notText));
     EXPECT_EQ(refusal(R"({"model": "41", "id": "\u20ac"})"), std::pair(u"id"_s, Code::unencodable));
     const QByteArray records = QByteArray(R"({"raw": "short"},)").repeated(256).chopped(1);
     expect(R"("records": [)" + records + "]", u"records"_s, Code::tooMany);
+}
+
+TEST_F(SimulatedMonitorTest, PlansReachToTheirLimitsAndNoFurther) {
+    struct Case {
+        const char* member; ///< with %1 for a number
+        qint64 smallest;
+        qint64 largest;
+    };
+    for (const auto& [member, smallest, largest] : {
+             Case{R"("clockOffsetSeconds": %1)", -400 * 24 * 3600, 400 * 24 * 3600},
+             Case{R"("reportSizes": [%1])", 1, 15},
+             Case{R"("records": [{"time": "undated", "sys": %1, "dia": 2, "pulse": 3}])", 0, 255},
+             Case{R"("records": [{"time": "undated", "sys": 1, "dia": %1, "pulse": 3}])", 0, 1023},
+             Case{R"("records": [{"time": "undated", "sys": 1, "dia": 2, "pulse": %1}])", 0, 255},
+             Case{R"("records": [{"time": "undated", "sys": 1, "dia": 2, "pulse": 3, "flag": %1}])", 0, 2},
+             Case{R"("faults": [{"command": ">", "kind": "noAnswer", "times": %1}])", 1, 1'000'000},
+             Case{R"("faults": [{"command": ">", "kind": "unplug", "afterReports": %1}])", 0, 8195},
+             Case{R"("faults": [{"command": ">", "kind": "late", "delayMs": %1}])", 1, 3'600'000},
+             Case{R"("faults": [{"command": ">", "kind": "unplug", "replugAfterOpens": %1}])", 0, 1'000'000},
+             Case{R"("faults": [{"command": ">", "kind": "unplug", "replugAfterMs": %1}])", 0, 3'600'000},
+         }) {
+        const auto isTaken = [member = member](qint64 number) {
+            const QString members = QString::fromLatin1(member).arg(number);
+            return readPlan((uR"({"model": "41", "id": "A", )"_s + members + u'}').toUtf8()).has_value();
+        };
+        EXPECT_TRUE(isTaken(smallest) && isTaken(largest)) << member;
+        EXPECT_FALSE(isTaken(smallest - 1) || isTaken(largest + 1)) << member;
+    }
+    const auto isTaken = [](const QByteArray& key, const QByteArray& value, int times) {
+        const QByteArray values = (value + ',').repeated(times).chopped(1);
+        return readPlan(R"({"model": "41", "id": "A", ")" + key + "\": [" + values + "]}").has_value();
+    };
+    const QByteArray fault = R"({"command": ">", "kind": "noAnswer"})";
+    EXPECT_TRUE(isTaken("faults", fault, 100) && isTaken("reportSizes", "7", 1000));
+    EXPECT_FALSE(isTaken("faults", fault, 101) || isTaken("reportSizes", "7", 1001));
+    for (const auto& [flag, good] :
+         {std::pair{"\"!\"", true}, {"\"~\"", true}, {"\" \"", false}, {"\"ab\"", false}}) {
+        const QByteArray record =
+            QByteArray(R"({"time": "undated", "sys": 1, "dia": 2, "pulse": 3, "flag": )") + flag + '}';
+        EXPECT_EQ(isTaken("records", record, 1), good) << flag;
+    }
+}
+
+TEST_F(SimulatedMonitorTest, ClockOfAPlanIsSetOrNot) {
+    for (const auto& [clockState, result] :
+         {std::pair{"set", MonitorResult::success}, {"unset", MonitorResult::clockNotSet}}) {
+        const auto model =
+            attach(QByteArray(R"({"model": "41", "id": "A", "clock": ")") + clockState + "\"}");
+        EXPECT_EQ(outcome(model->readBPMDate()), result) << clockState;
+    }
+    EXPECT_FALSE(readPlan(R"({"model": "41", "id": "A", "clock": "late"})"));
+}
+
+TEST_F(SimulatedMonitorTest, BuiltInMonthIsTheSameEachTime) {
+    const SimulatedMonitorPlan plan = builtInPlan(clock.now());
+    ASSERT_EQ(plan.records.size(), 62U);
+    EXPECT_EQ(plan.records.front(), "26102107010000000481508300000000");
+    std::string all;
+    for (const std::string& record : plan.records)
+        all += record;
+    EXPECT_EQ(qChecksum(QByteArrayView(all.data(), static_cast<qsizetype>(all.size()))), 40823);
 }
 
 TEST_F(SimulatedMonitorTest, BuiltInMonthIsPlausible) {

@@ -66,6 +66,16 @@ TEST(LongText, itemsGrowWhereThePageHasRoomAndGoOnWhereNot) {
                             ElementsAre(TextPart{1, 9, 3, 50}, TextPart{2, 0, 1, 50})));
 }
 
+TEST(LongText, aHeadEndsBeforeTheTextAtItsRight) {
+    Picture picture;
+    drawTextPart(picture, {10, 0, 200, 50}, {u"head "_s.repeated(30), u"right"_s}, {}, {});
+    const auto texts = textsOf(picture);
+    ASSERT_EQ(texts.size(), 2U);
+    EXPECT_EQ(texts[0].origin.x, 10);
+    EXPECT_LT(texts[0].origin.x + textSize(texts[0].text, texts[0].attribute).width, texts[1].origin.x);
+    EXPECT_NEAR(texts[1].origin.x + textSize(texts[1].text, texts[1].attribute).width, 210, 0.01);
+}
+
 TEST(LongText, commentsStandInFull) {
     SampleReport sample;
     sample.addComment("2019-01-05", "2019-01-06", 2, u"before"_s);

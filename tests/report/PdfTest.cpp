@@ -1,5 +1,6 @@
 #include "SampleReport.h"
 #include "report/PdfCharacters.h"
+#include "report/PdfFacts.h"
 #include "report/ReportPdf.h"
 #include "store/AtomicFile.h"
 #include "support/FullDisk.h"
@@ -84,12 +85,70 @@ TEST(Pdf, namesTheCharacterThatWasWrittenWhereAFontHasOneGlyphForSeveral) {
               glyph + "[<738B> <5C0F> <0020> <9A6C> <9EC4> <9F99> <9577> <6BCD> <2E80> ]" + end},
              {"1 beginbfrange\n<0001> <0002> <2F29>" + end, "1 beginbfrange\n<0001> <0002> <2F29>" + end},
              {glyph + "<2F29>", glyph + "<2F29>"}, // without an end it is no map
+             {glyph + "<2F29>" + end + glyph + "<2EE2>" + end,
+              glyph + "<5C0F>" + end + glyph + "<9A6C>" + end},
              {"(<0001> <0001> <2F29>) Tj", "(<0001> <0001> <2F29>) Tj"},
          }) {
         QByteArray pdf = before;
         mendCharacters(pdf);
         EXPECT_EQ(pdf, after) << before.constData();
     }
+}
+
+/// Of two pages.
+const QByteArray smallPdf = "%PDF-1.4\n1 0 obj\n<<\n/Title ()\n>>\nendobj\n"
+                            "2 0 obj\n<<\n/Type /Catalog\n/Pages 3 0 R\n>>\nendobj\n"
+                            "3 0 obj\n<<\n/Type /Pages\n/Kids \n[\n4 0 R\n15 0 R\n]\n/Count 2\n>>\nendobj\n"
+                            "trailer\n<<\n/Size 16\n/Info 1 0 R\n/Root 2 0 R\n>>\nstartxref\n123\n%%EOF";
+
+TEST(Pdf, factsAreAppendedAsAnUpdate) {
+    const auto update = [](std::vector<PdfBookmark> bookmarks) {
+        const PdfFacts facts{u"T"_s, u"A"_s, u"C"_s, noonOf("2020-01-15"), std::move(bookmarks)};
+        const QByteArray pdf = withPdfFacts(smallPdf, facts);
+        EXPECT_TRUE(pdf.startsWith(smallPdf + '\n'));
+        return pdf.sliced(smallPdf.size() + 1);
+    };
+    QByteArray info = "1 0 obj\n<<\n/Title <feff0054>\n/Author <feff0041>\n/Creator <feff0043>\n"
+                      "/Producer (Qt VERSION)\n/CreationDate (D:20200115110000Z)\n>>\nendobj\n";
+    info.replace("VERSION", qVersion());
+    const QByteArray end = "/Lang (en)\n/ViewerPreferences << /DisplayDocTitle true >>\n>>\nendobj\n";
+    const QByteArray root = "2 0 obj\n<<\n/Type /Catalog\n/Pages 3 0 R\n";
+    const QByteArray rest = "\n/Info 1 0 R\n/Root 2 0 R\n/Prev 123\n>>\nstartxref\n";
+    const auto place = [&](const QByteArray& objects, const char* number) {
+        const qsizetype at = smallPdf.size() + 1 + objects.indexOf(QByteArray(number) + " 0 obj\n");
+        return QByteArray(number) + " 1\n" + QByteArray::number(at).rightJustified(10, '0') + " 00000 n \n";
+    };
+    const auto closed = [&](const QByteArray& objects, std::initializer_list<const char*> numbers,
+                            const char* size) {
+        QByteArray table;
+        for (const char* number : numbers)
+            table += place(objects, number);
+        return objects + "xref\n" + table + "trailer\n<<\n/Size " + size + rest
+               + QByteArray::number(smallPdf.size() + 1 + objects.size()) + "\n%%EOF\n";
+    };
+    EXPECT_EQ(update({}), closed(info + root + end, {"1", "2"}, "16"));
+    const QByteArray oneMark =
+        "16 0 obj\n<<\n/Type /Outlines\n/First 17 0 R\n/Last 17 0 R\n/Count 1\n>>\nendobj\n"
+        "17 0 obj\n<<\n/Title <feff0050>\n/Parent 16 0 R\n/Dest [ 15 0 R /Fit]\n>>\nendobj\n";
+    EXPECT_EQ(update({{u"P"_s, 1}}),
+              closed(info + oneMark + root + "\n/Outlines 16 0 R\n" + end, {"1", "16", "17", "2"}, "18"));
+    const QByteArray marks =
+        "16 0 obj\n<<\n/Type /Outlines\n/First 17 0 R\n/Last 18 0 R\n/Count 2\n>>\nendobj\n"
+        "17 0 obj\n<<\n/Title <feff0050>\n/Parent 16 0 R\n/Next 18 0 R\n/Dest [ 4 0 R /Fit]\n>>\nendobj\n"
+        "18 0 obj\n<<\n/Title <feff0051>\n/Parent 16 0 R\n/Prev 17 0 R\n/Dest [ 15 0 R /Fit]\n>>\nendobj\n";
+    EXPECT_EQ(update({{u"P"_s, 0}, {u"Q"_s, 1}}),
+              closed(info + marks + root + "\n/Outlines 16 0 R\n/PageMode /UseOutlines\n" + end,
+                     {"1", "16", "17", "18", "2"}, "19"));
+}
+
+TEST(Pdf, whatHasNoPlaceForFactsGetsNone) {
+    PdfFacts facts{{}, {}, {}, {}, {{u"P"_s, 1}}};
+    EXPECT_FALSE(withPdfFacts(smallPdf, facts).isNull());
+    for (const char* part :
+         {"/Size", "/Info", "/Root", "startxref", "/Pages 3", "/Kids", "]\n", "123", "2 0 obj"})
+        EXPECT_TRUE(withPdfFacts(QByteArray(smallPdf).replace(part, "-"), facts).isNull()) << part;
+    facts.bookmarks[0].page = 2;
+    EXPECT_TRUE(withPdfFacts(smallPdf, facts).isNull()) << "a page that is not there";
 }
 
 TEST(Pdf, saysWhatItIsAndTurnsItsPages) {

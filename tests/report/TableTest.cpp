@@ -1,5 +1,7 @@
 #include "SampleReport.h"
 #include "chart/Drawing.h"
+#include "report/FieldText.h"
+#include "report/TableLegend.h"
 
 #include <gmock/gmock.h>
 
@@ -109,6 +111,16 @@ TEST_F(TableTest, theLegendExplainsWhatTheTableShowsAndNoMore) {
     EXPECT_FALSE(commentPageExplains());
     sample.comments[0]->beginDay = ReadingModel{}.day;
     EXPECT_TRUE(commentPageExplains());
+}
+
+TEST_F(TableTest, aLegendWithoutRoomHasNoEmptyLine) {
+    Picture picture;
+    drawTableLegend(picture, sample.view().report(), false, {100, 50}, 12);
+    const auto texts = textsOf(picture);
+    ASSERT_GE(texts.size(), 6U);
+    const double line = lineHeight({.size = 6});
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        EXPECT_NEAR(texts[i].origin.y, 50 + line * static_cast<double>(texts.size() - 1 - i), 0.01) << i;
 }
 
 TEST_F(TableTest, theHeaderNamesTheFourthMeasure) {

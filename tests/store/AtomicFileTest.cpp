@@ -20,7 +20,25 @@ namespace {
 constexpr int noFault = 1'000'000;
 int folderFlushesThatWork = noFault; ///< from now on
 
+/// Files that cannot be given away, as by all but the superuser; perhaps not even to a group.
+struct Giving {
+    bool toOwner = true;
+    bool toGroup = true;
+    uid_t lastOwner = 0;
+};
+Giving giving;
+
 } // namespace
+
+/// In the library's place: gives nothing away in fact.
+extern "C" int fchown(int handle, uid_t owner, gid_t group) {
+    giving.lastOwner = owner;
+    const bool isOwner = owner != static_cast<uid_t>(-1);
+    if (giving.toOwner && giving.toGroup) return static_cast<int>(syscall(SYS_fchown, handle, owner, group));
+    if (giving.toGroup && !isOwner) return 0;
+    errno = EPERM;
+    return -1;
+}
 
 /// In the library's place: a disk whose folders cannot be flushed.
 extern "C" int fsync(int handle) {
@@ -133,6 +151,33 @@ TEST_F(AtomicFileTest, OwnerIsKept) {
     EXPECT_EQ(mode(path), 0600U);
 }
 
+TEST_F(AtomicFileTest, FilesThatCannotBeGivenAwayAreReadByNoOtherGroup) {
+    const uid_t self = geteuid();
+    const gid_t own = getegid();
+    const struct {
+        Giving can;
+        uid_t owner;
+        gid_t group;
+        mode_t mode;
+    } cases[]{
+        {{.toOwner = false}, self + 1, own, 0660},     // the group is the same
+        {{.toOwner = false}, self + 1, own + 1, 0660}, // it is given to the group alone
+        {{.toOwner = false, .toGroup = false}, self + 1, own + 1, 0600},
+        {{.toOwner = false, .toGroup = false}, self + 1, own, 0660},
+    };
+    for (const auto& each : cases) {
+        auto file = NewFile::create(path);
+        ASSERT_TRUE(file);
+        giving = each.can;
+        EXPECT_EQ(file->setOwner(each.owner, each.group, 0660), 0);
+        EXPECT_EQ(giving.lastOwner, each.group == own ? each.owner : static_cast<uid_t>(-1))
+            << "the group alone";
+        giving = {};
+        ASSERT_EQ(file->takePlace(path), 0);
+        EXPECT_EQ(mode(path), each.mode) << each.owner << ' ' << each.group;
+    }
+}
+
 TEST_F(AtomicFileTest, OnlyWhatKilledProgramsLeftIsRemoved) {
     const QString prefix = folder.filePath(u".ZEL.xml.new-"_s);
     const QString dead = prefix + u"aB3xYz"_s;
@@ -149,11 +194,10 @@ TEST_F(AtomicFileTest, OnlyWhatKilledProgramsLeftIsRemoved) {
 }
 
 TEST(WriteError, IsToldAsWhatItIs) {
-    const std::pair<int, StoreErrorCode> cases[]{{ENOSPC, StoreErrorCode::diskFull},
-                                                 {EDQUOT, StoreErrorCode::quotaReached},
-                                                 {EFBIG, StoreErrorCode::sizeLimit},
-                                                 {EACCES, StoreErrorCode::notWritable},
-                                                 {EIO, StoreErrorCode::writeFailed}};
+    const std::pair<int, StoreErrorCode> cases[]{
+        {ENOSPC, StoreErrorCode::diskFull},   {EDQUOT, StoreErrorCode::quotaReached},
+        {EFBIG, StoreErrorCode::sizeLimit},   {EACCES, StoreErrorCode::notWritable},
+        {EROFS, StoreErrorCode::notWritable}, {EIO, StoreErrorCode::writeFailed}};
     for (const auto& [error, code] : cases)
         EXPECT_EQ(writeError(error, u"x"_s).code, code) << error;
 }
@@ -168,6 +212,15 @@ TEST_F(AtomicFileTest, DiskThatFillsUpLeavesTheFileAsItWas) {
     }
     EXPECT_EQ(readFile(path).value(), "one");
     EXPECT_EQ(filesInFolder(), 1);
+}
+
+TEST_F(AtomicFileTest, FilesUpToTheLargestAreRead) {
+    ASSERT_TRUE(replaceFile(path, QByteArray((1 << 20) + 1, 'x')));
+    EXPECT_EQ(readFile(path).value().size(), (1 << 20) + 1);
+    ASSERT_TRUE(QFile::resize(path, largestFile + 1)); // a hole, which takes no room
+    EXPECT_EQ(readFile(path).error().code, StoreErrorCode::tooLarge);
+    const auto endless = readFile(u"/proc/self/maps"_s); // does not know its size
+    EXPECT_TRUE(endless && endless->contains("store_tests") && !endless->contains('\0'));
 }
 
 TEST_F(AtomicFileTest, FolderThatIsMissingIsReported) {

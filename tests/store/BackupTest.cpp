@@ -159,6 +159,25 @@ TEST_F(BackupTest, GoingBackKeepsWhatWasThereAndCanBeTakenBack) {
     EXPECT_EQ(data(), changed);
 }
 
+TEST_F(BackupTest, EachCopyOfOneSecondHasItsPlaceAndOthersFilesAreNone) {
+    const auto one = store.backups().create();
+    const auto two = store.backups().create();
+    const auto three = store.backups().create();
+    ASSERT_TRUE(one && two && three);
+    ASSERT_TRUE(replaceFile(folder.filePath(u"notes.txt"_s), "no copy"));
+    EXPECT_EQ(names(), (QStringList{*three, *two, *one}));
+    EXPECT_EQ(store.backups().list().front().size, data().size());
+    QFile::remove(store.getZELXMLPath());
+    EXPECT_EQ(store.backups().create().error().code, StoreErrorCode::notReadable);
+    const auto kept = store.backups().restore(*one);
+    ASSERT_TRUE(kept) << "also where no data file is left";
+    EXPECT_TRUE(kept->isEmpty());
+    EXPECT_EQ(data(), first);
+    QFile::remove(store.getZELXMLPath());
+    ASSERT_TRUE(QDir{}.mkdir(store.getZELXMLPath()));
+    EXPECT_FALSE(store.backups().restore(*one)) << "nothing of what is there could be kept";
+}
+
 TEST_F(BackupTest, ADamagedFileGivesWayToTheNewestCopyThatCanBeRead) {
     change(u"one"_s);
     ASSERT_TRUE(store.backups().create());

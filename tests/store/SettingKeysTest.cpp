@@ -35,8 +35,10 @@ TEST(SettingKeys, TakeWhatAControlCouldStore) {
         ASSERT_TRUE(key);
         SettingModel setting = SettingModel::initWithDefault();
         for (const QString& text : one.taken) {
+            const SettingModel before = setting;
             EXPECT_TRUE(key->set(setting, text)) << text.toStdString();
             EXPECT_EQ(key->text(setting), text);
+            EXPECT_EQ(setting == before, key->text(before) == text);
         }
         const SettingModel before = setting;
         for (const QString& text : one.refused)
@@ -44,6 +46,16 @@ TEST(SettingKeys, TakeWhatAControlCouldStore) {
         EXPECT_EQ(setting, before);
     }
     EXPECT_FALSE(settingKey(u"dateFormat"_s));
+}
+
+TEST(SettingModel, OfThePractitionerOnlyWhatSomebodyFilledInIsShown) {
+    SettingModel setting = SettingModel::initWithDefault();
+    const QString suggested = setting.physicianAddress;
+    EXPECT_EQ(setting.getPractitioner(), QString{});
+    setting.physicianAddress = u"  Dr. Moreau\n"_s + suggested.section(u'\n', 1, 1) + u" \n\nSea Road 3\n"_s;
+    EXPECT_EQ(setting.getPractitioner(), u"Dr. Moreau\n\nSea Road 3"_s);
+    setting.physicianAddress.clear();
+    EXPECT_EQ(setting.getPractitioner(), QString{});
 }
 
 TEST(PressureLimits, OneIsJudgedBesideTheOther) {

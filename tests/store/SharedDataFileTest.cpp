@@ -2,7 +2,9 @@
 #include "store/FileLock.h"
 #include "support/FullDisk.h"
 
+#include <cerrno>
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace zel {
 namespace {
@@ -108,6 +110,33 @@ TEST_F(DataStoreTest, WhatKilledProgramsLeftHoldsNobodyUp) {
     ASSERT_FALSE(blocked);
     EXPECT_EQ(blocked.error(), (StoreError{StoreErrorCode::lockBlocked, lock, {}}));
     EXPECT_EQ(clock.slept(), std::chrono::seconds{0}) << "nobody has waited";
+}
+
+TEST(FileLock, OnlyAFileOfItsOwnIsOne) {
+    using Attempt = FileLock::Attempt;
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"ZEL.xml"_s);
+    FileLock lock{file};
+    const QByteArray name = QFile::encodeName(lock.path());
+    const QString other = folder.filePath(u"other"_s);
+    ASSERT_TRUE(QFile::link(other, lock.path()));
+    EXPECT_EQ(lock.tryTake(), Attempt::blocked) << "a link, which would make a file elsewhere";
+    EXPECT_FALSE(QFileInfo::exists(other));
+    QFile::remove(lock.path());
+    ASSERT_EQ(mkfifo(name.constData(), 0600), 0);
+    EXPECT_EQ(lock.tryTake(), Attempt::blocked) << "a pipe, and it does not wait for a reader";
+    QFile::remove(lock.path());
+    {
+        FileLock first{file};
+        ASSERT_EQ(first.tryTake(), Attempt::taken) << "also before there is a data file";
+        EXPECT_EQ(lock.tryTake(), Attempt::held);
+        QFile::remove(lock.path()); // by somebody who knows better
+        EXPECT_EQ(lock.tryTake(), Attempt::taken);
+    }
+    EXPECT_TRUE(QFileInfo::exists(lock.path())) << "the one before removes only its own";
+    FileLock nowhere{folder.filePath(u"no/such/ZEL.xml"_s)};
+    EXPECT_EQ(nowhere.tryTake(), Attempt::failed);
+    EXPECT_EQ(nowhere.error(), ENOENT);
 }
 
 } // namespace

@@ -25,6 +25,11 @@ std::string spoiled(const std::string& part, const std::string& by) {
 
 TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
     ASSERT_TRUE(XmlDocument::parse(QByteArray::fromStdString(good)));
+    for (const char* taken : {"\xEF\xBD\x86", "\xEF\xBB\xBF", "\xEF\xBF\xBD", "&#x10FFFF;", "&#9;", "&#x20;",
+                              "&#xD7FF;", "&#xE000;", "&#xFFFD;", "&#x10000;"})
+        EXPECT_TRUE(XmlDocument::parse(QByteArray::fromStdString(spoiled("A&amp;B", taken)))) << taken;
+    for (const char* refused : {"&#x110000;", "&#xFFFE;", "&#x1F;", "&#xDFFF;", "&#x;", "&#;", "&x20;"})
+        EXPECT_FALSE(XmlDocument::parse(QByteArray::fromStdString(spoiled("A&amp;B", refused)))) << refused;
     for (const std::string& bad : {
              std::string{},
              std::string{" \n"},
@@ -50,6 +55,7 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
              spoiled("version=\"1.0\"", "version=\"\x01\""),
              spoiled("A&amp;B", "A\xEF\xBF\xBE"
                                 "B"),
+             spoiled("A&amp;B", "A\xEF\xBF\xBF"),
              spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"US-ASCII<\""),
              spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"ISO-8859-1&amp;\""),
              spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"ISO-8859-1,swaplfnl\""),
@@ -189,6 +195,10 @@ TEST(XmlDocument, KeepsItsEncoding) {
         EXPECT_EQ(elementText(again->root().child("A")), u"ä漢"_s) << name;
     }
     EXPECT_FALSE(XmlDocument::parse("<?xml version=\"1.0\" encoding=\"US-ASCII\"?><ZEL>\xE4</ZEL>"));
+    for (const char* name : {"HZ-GB-2312", "hz", "ASCII", "ascii", "ISO_8859-9", "ISO-IR-100", "ibm-367"})
+        EXPECT_TRUE(
+            XmlDocument::parse(QByteArray{"<?xml version='1.0' encoding='"} + name + "'?><ZEL>a</ZEL>"))
+            << name;
 }
 
 } // namespace
