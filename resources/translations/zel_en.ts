@@ -718,9 +718,11 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="CliDownloadUnsaved"><translation>The downloaded readings could not be stored. %1 They are still in the monitor.</translation></message>
     <message id="CliEmptySections"><translation>Empty, so not in the report: %1</translation></message>
     <message id="CliEraseAfterFailed"><translation>The readings are safely stored, but the monitor's memory could not be erased afterwards. %1 You can erase it with 'zel monitor --erase --yes'.</translation></message>
+    <message id="CliEraseAfterUnseen"><translation>The readings are safely stored, but whether the monitor is empty now could not be seen. %1 'zel monitor' shows what it holds.</translation></message>
     <message id="CliEraseFailed"><translation>The monitor's memory could not be erased. %1</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
+    <message id="CliEraseUnseen"><translation>Whether the monitor's memory is empty now could not be seen. %1</translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
@@ -917,7 +919,7 @@ Options:
     <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
     <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
     <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
-    <message id="CliMonitorChanged"><translation>The readings that arrived come from another monitor than the one that was asked. Nothing was stored; please try again.</translation></message>
+    <message id="CliMonitorChanged"><translation>The connection broke off, and the readings that arrived then may come from another monitor than the one that was asked. Nothing was stored; please try again.</translation></message>
     <message id="CliMonitorDenied"><translation>%1 Reading it needs a permission: install packaging/70-zel.rules in /etc/udev/rules.d, run 'udevadm control --reload', and attach the monitor again.</translation></message>
     <message id="CliMonitorSilent"><translation>A monitor is attached, but it did not answer within %1 s. %2</translation></message>
     <message id="CliMonitorWithoutID"><translation>The monitor holds no ID, so its readings may not be those of patient '%1'. Write the ID with 'zel monitor --send-id', or use --any-monitor to download all the same.</translation></message>

@@ -34,16 +34,21 @@ tl::expected<ReadingList, Failure> receive(BPMModel& model, Surroundings& around
 /// With the monitor's own ID, so that --any-monitor does not make it the patient's.
 CommandResult emptyMonitor(BPMModel& model, const QString& monitorID, const QString& patientID) {
     const MonitorResult result = model.eraseData(BPMModel::fitsMonitor(monitorID) ? monitorID : patientID);
+    if (result == MonitorResult::unconfirmed)
+        return failed(qtTrId("CliEraseAfterUnseen").arg(describe(result)));
     if (result != MonitorResult::success) return failed(qtTrId("CliEraseAfterFailed").arg(describe(result)));
     return {};
 }
 
 CommandResult transfer(BPMModel& model, DataStore& store, const QString& monitorID, Surroundings& around) {
+    const int asked = model.openings();
     auto readings = receive(model, around);
     if (!readings) return tl::unexpected(readings.error());
-    // The tries of a download open the device anew: it may be another one by now.
+    // The tries of a download open the device anew: it may be another one by now, and no ID tells two apart
+    // that have none.
+    const bool isUnknown = monitorID.isEmpty() && model.openings() != asked;
     const auto isOthers = [&](const ReadingModel& reading) { return TrimStr(reading.ID) != monitorID; };
-    if (std::ranges::any_of(*readings, isOthers)) return failed(qtTrId("CliMonitorChanged"));
+    if (isUnknown || std::ranges::any_of(*readings, isOthers)) return failed(qtTrId("CliMonitorChanged"));
     const std::size_t downloaded = readings->size();
     const auto added = store.newDataTransfer(std::move(*readings));
     if (!added) return failed(qtTrId("CliDownloadUnsaved").arg(describe(added.error())));

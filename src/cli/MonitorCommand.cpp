@@ -70,6 +70,7 @@ CommandResult erase(const MonitorConnection& connection, Surroundings& around) {
     if (!ID) return failed(qtTrId("CliIDUnread").arg(describe(ID.error())));
     if (!BPMModel::fitsMonitor(*ID)) return failed(qtTrId("CliEraseNoID"));
     const MonitorResult result = connection.model->eraseData(*ID);
+    if (result == MonitorResult::unconfirmed) return failed(qtTrId("CliEraseUnseen").arg(describe(result)));
     if (result != MonitorResult::success) return failed(qtTrId("CliEraseFailed").arg(describe(result)));
     return printCount(*connection.model, around);
 }

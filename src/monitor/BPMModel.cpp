@@ -174,6 +174,7 @@ MonitorExpected<QString> BPMModel::getBPMID() {
 MonitorResult BPMModel::sendID(const QString& ID, bool clear) {
     qCDebug(lcMonitor, "sendID %ls", qUtf16Printable(ID));
     if (!fitsMonitor(ID)) return MonitorResult::unfitID;
+    const int asked = link->transport.openings();
     const MonitorResult result = link->commands.sendID(ID.toLatin1().toStdString(), clear);
     qCInfo(lcMonitor, "sendID result:%i", static_cast<int>(result));
     if (result != MonitorResult::success) return result;
@@ -181,8 +182,14 @@ MonitorResult BPMModel::sendID(const QString& ID, bool clear) {
     for (int tries = 1; !held && tries < mostTries && held.error() != MonitorResult::interrupted; ++tries)
         held = getBPMID();
     const MonitorResult taken = confirmed(held, [&](const QString& now) { return now == ID; });
-    if (taken != MonitorResult::success || !clear) return taken;
-    return confirmed(getBPMCycleDataCount(), [](int count) { return count == 0; });
+    if (taken == MonitorResult::interrupted || !clear) return taken;
+    const MonitorResult emptied =
+        taken != MonitorResult::success
+            ? taken
+            : confirmed(getBPMCycleDataCount(), [](int count) { return count == 0; });
+    // What was opened anew may be another monitor, which says nothing about the memory of the one that was
+    // meant.
+    return link->transport.openings() == asked ? emptied : MonitorResult::unconfirmed;
 }
 
 MonitorResult BPMModel::eraseData(const QString& currentID) { return sendID(currentID, true); }
@@ -237,6 +244,8 @@ MonitorResult BPMModel::setBPMDate() {
     };
     return confirmed(readBPMDate(), isRight);
 }
+
+int BPMModel::openings() const { return link->transport.openings(); }
 
 void BPMModel::quietLine() {
     const auto lock = link->transport.exchange();

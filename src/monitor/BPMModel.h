@@ -38,7 +38,7 @@ public:
     /// Writes the ID and reads it back; \p clear also empties the memory, and counts what is left. An ID that
     /// does not fit (fitsMonitor) is refused with unfitID, as the monitor would keep another one than was
     /// meant. \return notTaken when the monitor then holds something else, unconfirmed when that could not be
-    /// read
+    /// read, or the memory that was to be emptied not without opening the device anew
     MonitorResult sendID(const QString& ID, bool clear);
     /// Empties the monitor's memory, by sending \p currentID with the clear flag.
     MonitorResult eraseData(const QString& currentID);
@@ -55,6 +55,9 @@ public:
     MonitorExpected<Instant> readBPMDate();
     /// Sets the monitor's clock to the computer's local time and reads it back. \return as sendID()
     MonitorResult setBPMDate();
+
+    /// How often the device was opened: what was learned of it before the last time may be another one's.
+    [[nodiscard]] int openings() const;
 
     /// Discards for 3 s what the monitor still sends of a download that was given up, so that the next
     /// command starts on a quiet line.

@@ -29,6 +29,7 @@ public:
     void reset();
     /// The fault that the plan has for this command or (none) opening, counted as shown.
     [[nodiscard]] std::optional<SimulatedFault> takeFault(std::optional<Command> command);
+    [[nodiscard]] std::size_t count() const { return plan.records.size(); }
 
 private:
     void answer(Command command, const std::optional<SimulatedFault>& fault);

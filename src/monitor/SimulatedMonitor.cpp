@@ -44,6 +44,7 @@ SimulatedMonitor::SimulatedMonitor(SimulatedMonitorPlan plan, const Clock& clock
     : device(std::make_unique<Device>(std::move(plan), clock)) {}
 SimulatedMonitor::~SimulatedMonitor() = default;
 
+std::size_t SimulatedMonitor::count() const { return device->brain.count(); }
 void SimulatedMonitor::plug() { device->attached = true; }
 void SimulatedMonitor::unplug() { device->unplug(std::nullopt); }
 

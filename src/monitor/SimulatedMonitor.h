@@ -22,6 +22,7 @@ public:
     /// Pulls and puts back the cable. Reports that are queued already are still delivered.
     void unplug();
     void plug();
+    [[nodiscard]] std::size_t count() const; ///< of the records in its memory
 
     [[nodiscard]] PortOpen open() override;
     [[nodiscard]] bool isOpen() const override;

@@ -171,6 +171,9 @@ TEST_F(CliTest, MonitorChangeThatFailsIsTold) {
         EXPECT_EQ(outcome.status, 1);
         EXPECT_THAT(outcome.err, HasSubstr(reason));
     }
+    plug(faulty(R"({"kind": "late", "command": "$", "delayMs": 1, "times": 1},
+                   {"kind": "noAnswer", "command": "$"})"));
+    EXPECT_THAT(zel({u"monitor"_s, u"--erase"_s, u"--yes"_s}).err, HasSubstr("empty now could not be seen"));
     plug(faulty(R"({"kind": "notTaken", "command": "#"}, {"kind": "notTaken", "command": "'"})")
              .replace("\": 30", "\": 90"));
     for (const auto& [arguments, reason] : cases) {

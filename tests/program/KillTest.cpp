@@ -1,6 +1,7 @@
 // A program that saves without end (EditLoop.cpp) is killed at random moments. ZEL_KILLS says how often, 50
 // by default; the seed of the moments is printed, and ZEL_SEED repeats one.
 #include "store/DataStore.h"
+#include "support/FromEnvironment.h"
 #include "support/ManualClock.h"
 
 #include <QCoreApplication>
@@ -22,12 +23,6 @@ namespace {
 
 constexpr int longestWait = 60'000; // milliseconds; only a fault takes so long
 constexpr int readings = 2000;      // a file that takes some milliseconds to write
-
-unsigned fromEnvironment(const char* name, unsigned otherwise) {
-    bool isNumber = false;
-    const unsigned value = qEnvironmentVariable(name).toUInt(&isNumber);
-    return isNumber ? value : otherwise;
-}
 
 class KillTest : public testing::Test {
 protected:

@@ -17,6 +17,7 @@ PortOpen PluggedPort::open() {
 bool PluggedPort::write(std::span<const std::uint8_t> report) {
     if (!plugged) return false;
     const bool isFrame = report[0] == 0xFF;
+    if (isFrame) onFrame();
     if (isFrame && keepsNothing) return true;
     const auto command = isFrame ? Command{} : static_cast<Command>(report[commandPreamble.size()]);
     if (command == Command::records) ++recordsAsked;

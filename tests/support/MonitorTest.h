@@ -28,6 +28,7 @@ public:
     std::atomic<int> recordsAsked = 0;
     std::atomic<bool> isClockUnset = false; ///< until it is set
     std::atomic<bool> keepsNothing = false; ///< of ID, clock and erasing
+    std::function<void()> onFrame = [] {};  ///< on the monitor's thread: an ID or a time is being sent
 
 private:
     MonitorPort& device;

@@ -164,6 +164,8 @@ void AppController::setHWButtons(bool connected) {
 
 void AppController::dataTransfer() {
     if (parts.status.isBusy()) return;
+    // What was typed was saved, but could not be read back, which is told: nobody is there to download for.
+    if (!parts.store.getPatientByID(parts.store.getCurrentID())) return;
     if (!progressWindow) {
         progressWindow = new ProgressWindowController({parts.store, parts.status, parts.monitor}, &window);
         connect(progressWindow, &ProgressWindowController::finished, this, &AppController::transferFinished);

@@ -15,11 +15,12 @@ namespace zel {
 /// The composition root: made once, owns one object for each duty and hands them to those who need them.
 class GlobalVar {
 public:
-    GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock)
+    GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock,
+              const AppController::Timing& timing = {})
         : port(std::move(monitorPort)), store(std::move(paths), clock), loaded(store.load()),
           monitor(*port, clock), period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
           appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop},
-                        {}) {
+                        timing) {
         panel.setWindow(&appController.mainWndow());
     }
 
