@@ -27,6 +27,8 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::isDataFile: return qtTrId("ExportIsDataFile");
     case StoreErrorCode::noSuchBackup: return qtTrId("StoreNoSuchBackup");
     case StoreErrorCode::noRoomForBackup: return qtTrId("StoreNoRoomForBackup");
+    case StoreErrorCode::notMadePrivate: return qtTrId("StoreNotMadePrivate");
+    case StoreErrorCode::noPermissions: return qtTrId("StoreNoPermissions");
     case StoreErrorCode::sameFileName: return qtTrId("ExportSameFileName");
     }
     return {};

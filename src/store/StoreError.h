@@ -28,6 +28,8 @@ enum class StoreErrorCode {
     isDataFile,       ///< the file to write is the data file itself
     noSuchBackup,     ///< no copy of the data file has that name, the path
     noRoomForBackup,  ///< the copies may take no more of the disk; the path is their folder
+    notMadePrivate,   ///< others may still read it, detail says why
+    noPermissions,    ///< likewise, since its file system has no permissions
     sameFileName,     ///< the disk takes the file for the one just written for the patient in detail
 };
 
