@@ -27,6 +27,11 @@
     <message id="LimitSystolic"><translation>The systolic limit is %1.</translation></message>
     <message id="Male"><translation>Male</translation></message>
     <message id="NotBackedUp"><translation>No copy of the data file could be made in %1 before this change. %2</translation></message>
+    <message id="SecondFolderAway"><translation>The second folder for copies of the data file, %1, is not there, so today's copy is not in it. It is copied with the next change once the folder is back.</translation></message>
+    <message id="SecondFolderBroken"><translation>Which second folder copies of the data file go to cannot be read from %1, so they go to none. Please choose it again.</translation></message>
+    <message id="SecondFolderFailed"><translation>Today's copy of the data file could not be written to the second folder, %1.</translation></message>
+    <message id="SecondFolderNoRoom"><translation>Today's copy of the data file is not in the second folder, %1: all copies there together may take a tenth of its free disk, which is less than the file.</translation></message>
+    <message id="SecondFolderNotRecorded"><translation>The second folder for copies could not be noted in %1. Nothing was changed.</translation></message>
     <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
     <message id="SettingText"><translation>any text without control characters</translation></message>
@@ -44,12 +49,14 @@
     <message id="StoreDiskFull"><translation>The disk is full: %1 could not be written. What was there is as it was. Please make room on the disk, then try again.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 is in the place where programs note that they work on the data file, and is no such note. Nothing was changed; please move it away, then try again.</translation></message>
+    <message id="StoreNoPermissions"><translation>Others on this computer can still read %1: this file system knows no permissions. Please keep the data on another disk.</translation></message>
     <message id="StoreNoRoomForBackup"><translation>No copy of the data file is kept in %1: all copies together may take a tenth of the free disk, which is less than the file.</translation></message>
     <message id="StoreNoStep"><translation>There is nothing to undo or redo.</translation></message>
     <message id="StoreNoSuchBackup"><translation>There is no copy of the data file that is called “%1”.</translation></message>
     <message id="StoreNoSuchRecord"><translation>There is no patient with the ID “%1”.</translation></message>
     <message id="StoreNotCreated"><translation>There is no data file yet, and %1 could not be made. Please check that its folder may be written and the disk is not full, then start the program again.</translation></message>
     <message id="StoreNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut the older content may be there again. Please check the disk; the monitor's readings are kept in the monitor.</translation></message>
+    <message id="StoreNotMadePrivate"><translation>Others on this computer can still read %1: its permissions could not be changed.</translation></message>
     <message id="StoreNotParsed"><translation>The data file %1 is damaged or is no data file of this program. It is left as it is, and nothing can be saved until it is readable again: repair it, put a copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreNotReadable"><translation>The data file %1 cannot be read. It is left as it is, and nothing can be saved until it is readable again.</translation></message>
     <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
@@ -140,21 +147,27 @@
     <message id="AP_Title"><translation>ZEL – blood pressure readings</translation></message>
     <message id="argumentUnknown"><translation>unexpected argument “%1”; see zel --help</translation></message>
     <message id="argumentWithoutFile"><translation>%1= needs the name of a file; see zel --help</translation></message>
+    <message id="backupAlsoTo"><translation>Copies also go to:</translation></message>
+    <message id="backupChoose"><translation>C&amp;hoose …</translation></message>
+    <message id="backupChooseTitle"><translation>Second folder for copies of the data file</translation></message>
     <message id="backupClose"><translation>&amp;Close</translation></message>
     <message id="backupConfirm"><translation>Go back to this copy? %1. What is there now is kept as another copy, so that you can return to it.</translation></message>
     <message id="backupCreate"><translation>Back up &amp;now</translation></message>
     <message id="backupDaily"><translation>Before the first change of the day</translation></message>
     <message id="backupDamaged"><translation>Damaged data file</translation></message>
     <message id="backupDay"><translation>Day</translation></message>
-    <message id="backupExplained"><translation>Copies of the data file, in the folder %1. Copy them to another disk now and then.</translation></message>
+    <message id="backupExplained"><translation>Copies of the data file, in the folder %1. A second folder on another disk, a stick or a share, outlives this one.</translation></message>
+    <message id="backupFar"><translation>%1, in the second folder</translation></message>
     <message id="backupKind"><translation>Copy</translation></message>
     <message id="backupMade"><translation>Made by you</translation></message>
     <message id="backupNone"><translation>There is no copy yet. One is made before the first change of each day.</translation></message>
+    <message id="backupNoSecondFolder"><translation>no second folder</translation></message>
     <message id="backupOffered"><translation>The newest copy that can be read is %1, with %2. Go back to it? The damaged file is kept as another copy beside it.</translation></message>
     <message id="backupReplaced"><translation>What a restored copy replaced</translation></message>
     <message id="backupRestore"><translation>&amp;Restore …</translation></message>
     <message id="backupRestored"><translation>The copy %1 is in use. What was there before is kept as %2.</translation></message>
     <message id="backupSize"><translation>Size</translation></message>
+    <message id="backupStop"><translation>S&amp;top</translation></message>
     <message id="backupTitle"><translation>Backups</translation></message>
     <message id="backupUnreadable"><translation>this copy cannot be read</translation></message>
     <message id="BeginDate"><translation>The first day has to be before the last one, so that the period spans two days or more. The dates were left as they were.</translation></message>
@@ -476,6 +489,12 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="printNoPatient"><translation>There is no patient whose report could be printed. Please choose one, or enter and save a new one first.</translation></message>
     <message id="printOption"><translation>Section to print</translation></message>
     <message id="printOptionLabel"><translation>&amp;Section</translation></message>
+    <message id="privacyAsked"><translation>Other users of this computer can read %1.
+
+Shall they be kept out? Only the permissions of the data file, of its folder and of its copies are changed.</translation></message>
+    <message id="privacyAskedMore"><translation>%1 and %2 more</translation></message>
+    <message id="privacyMended"><translation>Only you can read the data file and its copies now.</translation></message>
+    <message id="privacyTitle"><translation>Others can read the patients' data</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
     <message id="programPurpose"><translation>Blood pressure readings, from the monitor to your records</translation></message>
     <message id="programVersion"><translation>Version %1</translation></message>
@@ -704,7 +723,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <name>cli</name>
     <message id="CliAddMissing"><translation>--id, --family-name and --given-names go with --add.</translation></message>
     <message id="CliAmAndPm"><translation>Give either --am or --pm, not both.</translation></message>
-    <message id="CliBackupUsage"><translation>Say list, create, or restore and a copy's name.</translation></message>
+    <message id="CliBackupUsage"><translation>Say list, create, or restore and a copy's name; or folder and, to change it, the folder's name or --none.</translation></message>
     <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
     <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
     <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
@@ -744,6 +763,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
   import     take in patients from exported XML files
   settings   show the settings, or change some
   backup     list the copies of the data file, make one, or go back to one
+  privacy    tell whether others can read the data file, or keep them out
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
@@ -754,6 +774,7 @@ Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage.<
     <message id="CliHelpBackup"><translation>Usage: zel backup list
        zel backup create
        zel backup restore NAME
+       zel backup folder [DIR | --none]
 
 Before the first change of a day the data file is copied into the folder Backups beside it. The copies of
 the last 14 days are kept, and one a month for two years, as long as they take no more than a tenth of the
@@ -763,8 +784,11 @@ list      prints the copies as CSV, the newest first, and what is in them
 create    makes another copy now, and prints 'written: FILE'
 restore   puts a copy in the data file's place, and prints 'restored: NAME'; what was there is kept as another
           copy, whose name it prints ('kept: NAME'), so that restoring that one takes it back
+folder    prints the second folder that copies go to, a stick or a share, as 'folder: DIR', after setting it to
+          DIR; its copies are listed by their whole names
 
 Options:
+  --none                       no second folder from now on; the copies in it stay
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpDownload"><translation>Usage: zel download --patient ID [--any-monitor] [OPTION]...
@@ -838,6 +862,16 @@ Options:
   --id ID                      the patient's ID, as the monitor holds it
   --family-name NAME           the family name
   --given-names NAMES          the given names
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpPrivacy"><translation>Usage: zel privacy [--mend]
+
+Prints which of the data file, what is kept beside it and its copies other users of this computer can read, a
+file a line ('readable by others: FILE'), or 'private'.
+
+Options:
+  --mend                       keep others out: changes the permissions of these files, of their folder and of
+                               the folder of copies, and nothing else
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY] [--am | --pm] [--undated]
@@ -937,6 +971,7 @@ Options:
     <message id="CliPatientKnown"><translation>There is a patient with the ID '%1' already.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= needs the name of a file behind it; alone, without '=', it is the built-in monitor.</translation></message>
     <message id="CliProgress"><translation>Received %1 of %2 readings</translation></message>
+    <message id="CliReadableByOthers"><translation>Other users of this computer can read %1. 'zel privacy --mend' keeps them out.</translation></message>
     <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>
     <message id="CliSettingTwice"><translation>The setting %1 is given more than once.</translation></message>

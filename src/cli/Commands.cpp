@@ -1,6 +1,11 @@
 #include "cli/Commands.h"
 
 #include "cli/Usage.h"
+#include "store/Backups.h"
+#include "store/SecondFolder.h"
+
+#include <QDateTime>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -41,16 +46,36 @@ CommandResult runGlobal(const Arguments& arguments, Surroundings& around) {
     return {};
 }
 
+QString dataFileOf(const Surroundings& around) {
+    return DataFile(around.paths, around.clock).getZELXMLPath();
+}
+
+/// Every change replaces the file.
+QDateTime dataFileTime(const Surroundings& around) { return QFileInfo(dataFileOf(around)).lastModified(); }
+
+/// After a change: the copy that was made before it.
+void copyToSecondFolder(Surroundings& around, const QString& program) {
+    const QString dataFile = dataFileOf(around);
+    const DataFile file(around.paths, around.clock);
+    const DayNumber today =
+        LocalZone{}.day(std::chrono::floor<std::chrono::milliseconds>(around.clock.now()));
+    const auto second = secondFolder(dataFile);
+    SecondFolderResult copied;
+    if (!second) copied = tl::unexpected(second.error());
+    if (second && *second) copied = bringCopy(Backups(file, around.clock).folder(), **second, today);
+    if (!copied && isFirstFailure(dataFile, today)) complain(around, program, describe(copied.error()));
+}
+
 } // namespace
 
 void printLine(std::ostream& stream, const QString& text) {
     stream << text.toStdString() << '\n' << std::flush;
 }
 
-std::array<Command, 11> commands() {
+std::array<Command, 12> commands() {
     return {monitorCommand(),    patientsCommand(), downloadCommand(),  readingsCommand(),
             statisticsCommand(), reportCommand(),   exportXmlCommand(), exportCsvCommand(),
-            importCommand(),     settingsCommand(), backupCommand()};
+            importCommand(),     settingsCommand(), backupCommand(),    privacyCommand()};
 }
 
 std::optional<Command> commandByName(const QString& name) {
@@ -64,7 +89,9 @@ int run(const QStringList& given, Surroundings& around) {
     const Arguments arguments = takeSimulatedMonitor(given);
     const auto command = commandByName(arguments.words.value(0));
     const QString program = command ? u"zel "_s + QLatin1String(command->name) : u"zel"_s;
+    const QDateTime before = dataFileTime(around);
     CommandResult result = command ? runCommand(*command, arguments, around) : runGlobal(arguments, around);
+    if (dataFileTime(around) != before) copyToSecondFolder(around, program);
     if (result && !around.out.flush()) result = failed(qtTrId("CliOutputFailed"));
     if (!result) tell(around, program, result.error());
     return static_cast<int>(result ? ExitStatus::done : result.error().status);

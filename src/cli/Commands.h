@@ -16,13 +16,14 @@ namespace zel::cli {
 [[nodiscard]] Command importCommand();
 [[nodiscard]] Command monitorCommand();
 [[nodiscard]] Command patientsCommand();
+[[nodiscard]] Command privacyCommand();
 [[nodiscard]] Command readingsCommand();
 [[nodiscard]] Command reportCommand();
 [[nodiscard]] Command settingsCommand();
 [[nodiscard]] Command statisticsCommand();
 
 /// Every command, in the order in which the help lists them.
-[[nodiscard]] std::array<Command, 11> commands();
+[[nodiscard]] std::array<Command, 12> commands();
 [[nodiscard]] std::optional<Command> commandByName(const QString& name);
 
 /// Does what \p arguments (without the program's name) ask for. \return the exit status

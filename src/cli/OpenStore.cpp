@@ -2,6 +2,7 @@
 
 #include "cli/ConsolePanel.h"
 #include "cli/Usage.h"
+#include "store/Privacy.h"
 
 #include <QDir>
 
@@ -13,6 +14,8 @@ OpenedStore openStore(Surroundings& around) {
     if (QDir::isRelativePath(around.paths.home)) return failed(qtTrId("CliNoHome"));
     auto store = std::make_unique<DataStore>(around.paths, around.clock);
     if (const StoreResult loaded = store->load(); !loaded) return failed(describe(loaded.error()));
+    if (const QStringList open = readableByOthers(store->getZELXMLPath()); !open.isEmpty())
+        complain(around, u"zel"_s, qtTrId("CliReadableByOthers").arg(open.constFirst()));
     return store;
 }
 

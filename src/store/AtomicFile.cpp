@@ -65,7 +65,8 @@ QString temporaryPrefix(const QString& target) {
 
 int keepOwner(NewFile& file, const QString& target) {
     struct stat before {};
-    if (::stat(QFile::encodeName(target).constData(), &before) != 0) return errno == ENOENT ? 0 : errno;
+    if (::stat(QFile::encodeName(target).constData(), &before) != 0)
+        return errno == ENOENT ? file.followFolder() : errno;
     return file.setOwner(before.st_uid, before.st_gid, before.st_mode & 0777U);
 }
 
@@ -97,8 +98,8 @@ StoreResult replaceFile(const QString& path, const QByteArray& content) {
     if (const int error = file->flush()) return unwritten(error, path);
     if (const int error = file->takePlace(target)) return unwritten(error, path);
     if (const int error = flushFolder(QFileInfo{target}.absolutePath(), *file)) {
-        qCWarning(lcStore, "The folder of %s could not be flushed: %s", qUtf8Printable(target),
-                  std::strerror(error));
+        // Not its name: that of a report or an export tells whose it is.
+        qCWarning(lcStore, "A folder could not be flushed: %s", std::strerror(error));
         return failed(StoreErrorCode::notFlushed, path, systemWords(error));
     }
     return {};

@@ -1,6 +1,8 @@
 #include "store/Backups.h"
 
 #include "store/AtomicFile.h"
+#include "store/CopyContent.h"
+#include "store/FileMode.h"
 #include "store/Log.h"
 #include "store/Records.h"
 
@@ -18,7 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 shareOfDisk = 10;
-constexpr auto ownersAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
 DayNumber lastDay(const Records& records) {
     DayNumber last = noDay;
@@ -57,6 +58,13 @@ QString describe(const BackupContent& content, const QString& dateFormat) {
     return qtTrId("BackupLast").arg(patients, readings, dayText(content.lastReading, dateFormat));
 }
 
+tl::expected<BackupContent, StoreError> contentOfCopy(const QString& path) {
+    const auto document = DataFile::readDocument(path);
+    if (!document) return tl::unexpected{document.error()};
+    const Records records = Records::read(document->root(), LocalZone{});
+    return BackupContent{records.gaPatient.size(), readingCount(records), lastDay(records)};
+}
+
 Instant Backups::now() const { return std::chrono::floor<std::chrono::milliseconds>(clock.now()); }
 
 QString Backups::folder() const { return QFileInfo{file.getZELXMLPath()}.path() + u"/Backups"_s; }
@@ -78,10 +86,7 @@ std::vector<Backup> Backups::list() const {
 tl::expected<BackupContent, StoreError> Backups::content(const QString& name) const {
     if (!backupOfName(name) || !QFileInfo::exists(path(name)))
         return refusal(StoreErrorCode::noSuchBackup, name);
-    const auto document = DataFile::readDocument(path(name));
-    if (!document) return tl::unexpected{document.error()};
-    const Records records = Records::read(document->root(), LocalZone{});
-    return BackupContent{records.gaPatient.size(), readingCount(records), lastDay(records)};
+    return contentOfCopy(path(name));
 }
 
 std::optional<Backup> Backups::newestReadable() const {
@@ -92,9 +97,7 @@ std::optional<Backup> Backups::newestReadable() const {
 
 /// A folder that is there may be shared on purpose.
 StoreResult Backups::makeFolder() const {
-    if (QFileInfo{folder()}.isDir()) return {};
-    const bool isMade = QDir{}.mkpath(folder()) && QFile::setPermissions(folder(), ownersAlone);
-    return isMade ? StoreResult{} : refusal(StoreErrorCode::notWritable, folder());
+    return makePrivateFolder(folder()) ? StoreResult{} : refusal(StoreErrorCode::notWritable, folder());
 }
 
 StoreResult Backups::copyTo(const QString& name) const {

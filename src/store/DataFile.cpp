@@ -2,6 +2,7 @@
 
 #include "store/AtomicFile.h"
 #include "store/FileLock.h"
+#include "store/FileMode.h"
 #include "store/Log.h"
 
 #include <QDir>
@@ -20,6 +21,8 @@ namespace {
 // Another program's write takes a fraction of it.
 constexpr std::chrono::seconds longestWaitForOthers{3};
 constexpr std::chrono::milliseconds pauseWhileWaiting{20};
+
+constexpr auto ownersAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 QString targetFile(const StorePaths& paths) { return paths.applicationFolder + u"/.target"_s; }
 
@@ -85,13 +88,14 @@ StoreResult DataFile::checkXMLFileExist() const {
         removeDeadReplacements(path);
         return {};
     }
-    QDir{}.mkpath(folder());
-    QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    // Without a folder, each of the next steps fails and is told.
+    if (makePrivateFolder(folder()) && sharedByFolder(folder()) == 0)
+        QFile::setPermissions(folder(), ownersAlone | QFileDevice::ExeOwner);
     moveOldXml();
     // Tried after a move as well: the copy then fails, since the file is there, and the moved file is kept.
     const QString source = paths.templateFolder + u"/ZEL_"_s + getTargetString() + u".xml"_s;
     const bool copied = QFile::copy(source, path);
-    if (copied) QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    if (copied) QFile::setPermissions(path, ownersAlone);
     qCInfo(lcStore, "copy from %s to %s %s", qUtf8Printable(source), qUtf8Printable(path),
            copied ? "success" : "fail");
     if (!QFileInfo::exists(path)) return refused(StoreErrorCode::notCreated, path);
@@ -103,7 +107,9 @@ void DataFile::moveOldXml() const {
     if (QFileInfo::exists(getZELXMLPath()) || !QFileInfo::exists(old)) return;
     if (!QFile::rename(old, getZELXMLPath())) {
         qCWarning(lcStore, "The data file of an older version, %s, could not be moved", qUtf8Printable(old));
+        return;
     }
+    QFile::setPermissions(getZELXMLPath(), ownersAlone);
 }
 
 bool DataFile::isWritable() const {

@@ -76,6 +76,7 @@ StoreResult place(const QString& path, const QByteArray& content) {
     auto file = NewFile::create(exportPrefix(QFileInfo{path}.path()));
     if (!file) return tl::unexpected{writeError(file.error(), path)};
     int error = file->write(content);
+    if (error == 0) error = file->followFolder();
     if (error == 0) error = file->takePlace(path);
     if (error != 0) return tl::unexpected{writeError(error, path)};
     return {};

@@ -18,9 +18,9 @@ namespace zel {
 enum class Replace { no, yes };
 
 /// Writes the file whole or not at all. It is never the data file, and a link is replaced, not followed. A
-/// new file is for its owner alone. Before it outlasts a power cut it takes a flushExports(), once for many
-/// files: flushing each would take most of the time of an export. \return alreadyExists or isDataFile if it
-/// may not be replaced; see describeExport()
+/// new file is for its owner alone, unless its folder shares what is in it (newFileMode()). Before it
+/// outlasts a power cut it takes a flushExports(), once for many files: flushing each would take most of the
+/// time of an export. \return alreadyExists or isDataFile if it may not be replaced; see describeExport()
 [[nodiscard]] StoreResult writeExport(const QString& path, const QByteArray& content, Replace replace,
                                       const QString& dataFile);
 

@@ -1,5 +1,6 @@
 #include "store/NewFile.h"
 
+#include "store/FileMode.h"
 #include "store/Log.h"
 
 #include <QDir>
@@ -83,9 +84,18 @@ int NewFile::setOwner(uid_t owner, gid_t group, mode_t mode) {
         if (own.st_gid != group && ::fchown(handle, static_cast<uid_t>(-1), group) != 0)
             mode &= ~static_cast<mode_t>(S_IRWXG);
     }
-    // File systems without permissions refuse to set them.
+    return setMode(mode);
+}
+
+/// File systems without permissions refuse to set them.
+int NewFile::setMode(mode_t mode) {
     const int error = errorOf(::fchmod(handle, mode));
     return error == EPERM || error == ENOTSUP ? 0 : error;
+}
+
+int NewFile::followFolder() {
+    const mode_t mode = newFileMode(QFileInfo{QFile::decodeName(name)}.path());
+    return mode == 0600U ? 0 : setMode(mode);
 }
 
 int NewFile::flush() { return errorOf(::fsync(handle)); }

@@ -25,6 +25,8 @@ public:
 
     [[nodiscard]] int write(const QByteArray& content);
     [[nodiscard]] int setOwner(uid_t owner, gid_t group, mode_t mode);
+    /// As its folder has new files (newFileMode()). It is nobody else's before.
+    [[nodiscard]] int followFolder();
     [[nodiscard]] int flush();
     [[nodiscard]] int takePlace(const QString& path);
     /// Waits until its whole file system is on the disk.
@@ -32,6 +34,7 @@ public:
 
 private:
     NewFile(int opened, QByteArray path) : handle{opened}, name{std::move(path)} {}
+    [[nodiscard]] int setMode(mode_t mode);
     int handle;
     QByteArray name; ///< empty once it has taken its place
 };

@@ -86,7 +86,7 @@ StoreResult PatientExport::Unflushed::flush() {
     const QString written = std::exchange(folder, QString{});
     if (written.isNull()) return {};
     StoreResult result = flushExports(written);
-    if (!result) qCWarning(lcStore, "Could not flush %s", qUtf8Printable(written));
+    if (!result) qCWarning(lcStore, "Could not flush the folder of an export");
     return result;
 }
 

@@ -34,6 +34,8 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::stepPatientKnown: return qtTrId("StoreStepPatientKnown");
     case StoreErrorCode::stepPatientGone: return qtTrId("StoreStepPatientGone");
     case StoreErrorCode::stepHasRecords: return qtTrId("StoreStepHasRecords");
+    case StoreErrorCode::notMadePrivate: return qtTrId("StoreNotMadePrivate");
+    case StoreErrorCode::noPermissions: return qtTrId("StoreNoPermissions");
     case StoreErrorCode::sameFileName: return qtTrId("ExportSameFileName");
     }
     return {};

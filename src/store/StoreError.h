@@ -35,6 +35,8 @@ enum class StoreErrorCode {
     stepPatientKnown, ///< a patient with the ID of one who would come back is there by now
     stepPatientGone,  ///< the patient whose record would come back is no longer there
     stepHasRecords,   ///< a patient who would go has readings or comments that the step did not bring
+    notMadePrivate,   ///< others may still read it, detail says why
+    noPermissions,    ///< likewise, since its file system has no permissions
     sameFileName,     ///< the disk takes the file for the one just written for the patient in detail
 };
 

@@ -24,6 +24,8 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"monitor extra", "'extra' is not expected"},
         {"backup", "list, create, or restore"},
         {"backup restore", "list, create, or restore"},
+        {"backup folder a --none", "list, create, or restore"},
+        {"backup list --none", "list, create, or restore"},
         {"backup list all", "list, create, or restore"},
         {"monitor --erase", "--yes"},
         {"monitor --yes", "--erase"},

@@ -1,6 +1,7 @@
 // The whole program in a process of its own, with a device that blocks (BlockedDevice.cpp): every way to end
 // it from outside ends it. Without the limit of two seconds it would wait for the device for ever.
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -72,6 +73,23 @@ TEST_F(EndTest, ABlockedDeviceHoldsUpNoEnd) {
         ASSERT_TRUE(program.waitForFinished(patience)) << what;
         EXPECT_EQ(program.exitStatus(), how) << what;
         EXPECT_EQ(program.exitCode(), status) << what;
+    }
+}
+
+TEST_F(EndTest, ACrashWouldLeaveNoMemoryOnTheDisk) {
+    program.setReadChannel(QProcess::StandardError);
+    for (const QStringList& arguments : {QStringList{}, QStringList{u"monitor"_s}}) {
+        program.setArguments(arguments);
+        program.start();
+        ASSERT_TRUE(program.waitForStarted(patience) && isBlocked());
+        const auto told = [this](const char* what) {
+            QFile file(u"/proc/%1/%2"_s.arg(program.processId()).arg(QLatin1StringView(what)));
+            return file.open(QIODevice::ReadOnly) ? file.readAll().simplified() : QByteArray();
+        };
+        EXPECT_TRUE(told("limits").contains("Max core file size 0 0 bytes")) << arguments.size();
+        EXPECT_EQ(told("coredump_filter"), "00000000");
+        program.kill();
+        ASSERT_TRUE(program.waitForFinished(patience));
     }
 }
 

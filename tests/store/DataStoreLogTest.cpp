@@ -103,7 +103,7 @@ TEST_F(DataStoreTest, LogsItsStepsInTheSameWordsAsEver) {
              std::ignore = all->finish();
          },
          "xml data loaded from filepath:~/ZEL.xml|write document out...|!Could not write document out...|"
-         "!Could not flush ~/out"},
+         "!Could not flush the folder of an export"},
         {"texts of patients",
          {},
          [&] {

@@ -1,9 +1,11 @@
 #include "app/printing/PrintQueue.h"
 
+#include <QFile>
 #include <QLibrary>
-#include <QTemporaryFile>
 
 #include <memory>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace zel {
 
@@ -66,21 +68,39 @@ private:
     PrintFile printFile;
 };
 
-bool writeWhole(QTemporaryFile& file, const QByteArray& content) {
-    return file.open() && file.write(content) == content.size() && file.flush();
-}
+/// The library wants a file. This one has no place on any disk, where a program that is killed would leave
+/// it.
+class FileInMemory {
+public:
+    explicit FileInMemory(const QByteArray& content) : handle(::memfd_create("report", MFD_CLOEXEC)) {
+        QFile file;
+        whole = handle >= 0 && file.open(handle, QIODevice::WriteOnly)
+                && file.write(content) == content.size() && file.flush();
+    }
+    ~FileInMemory() {
+        if (handle >= 0) ::close(handle);
+    }
+    FileInMemory(const FileInMemory&) = delete;
+    FileInMemory& operator=(const FileInMemory&) = delete;
+    [[nodiscard]] bool isWhole() const { return whole; }
+    [[nodiscard]] QString path() const { return QStringLiteral("/proc/self/fd/%1").arg(handle); }
+
+private:
+    int handle;
+    bool whole = false;
+};
 
 } // namespace
 
 bool queueJob(const QString& printer, const PrintJob& job) {
     const Cups cups;
-    QTemporaryFile file;
-    if (!cups.isThere() || !writeWhole(file, job.pdf)) return false;
+    const FileInMemory file(job.pdf);
+    if (!cups.isThere() || !file.isWhole()) return false;
     const auto destination = cups.destination(printer.toUtf8());
     if (!destination) return false;
     cups.add(*destination, "media", job.paper.key().toUtf8());
     if (job.orientation == QPageLayout::Landscape) cups.add(*destination, "landscape", "true");
-    return cups.print(*destination, file.fileName(), job.title);
+    return cups.print(*destination, file.path(), job.title);
 }
 
 } // namespace zel

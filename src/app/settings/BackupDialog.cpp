@@ -1,10 +1,12 @@
 #include "app/settings/BackupDialog.h"
 
 #include "app/widgets/TableLook.h"
+#include "store/CopyContent.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -30,12 +32,14 @@ QString kindText(BackupKind kind) {
 
 } // namespace
 
-BackupDialog::BackupDialog(DataStore& dataStore, MessagePanel& messages, QWidget* parent)
-    : QDialog(parent), store{dataStore}, panel{messages}, tblBackups{makeList()}, lblBackup{
-                                                                                      new QLabel(this)} {
+BackupDialog::BackupDialog(const Parts& needed, QWidget* parent)
+    : QDialog(parent), store{needed.store}, panel{needed.panel}, chooser{needed.chooser},
+      courier{needed.courier}, clock{needed.clock}, tblBackups{makeList()}, lblBackup{new QLabel(this)} {
     setObjectName(u"BackupDialog"_s);
     setWindowTitle(qtTrId("backupTitle"));
     build();
+    connect(&courier, &BackupCourier::listed, this, &BackupDialog::takeFarCopies);
+    connect(&courier, &BackupCourier::brought, &courier, &BackupCourier::look);
 }
 
 void BackupDialog::build() {
@@ -52,6 +56,7 @@ void BackupDialog::build() {
     column->addWidget(explained);
     column->addWidget(tblBackups, 1);
     column->addWidget(lblBackup);
+    column->addWidget(makeSecondFolder());
     column->addWidget(makeButtons());
     resize(fontMetrics().averageCharWidth() * 88, fontMetrics().height() * 24);
 }
@@ -92,28 +97,91 @@ QWidget* BackupDialog::makeButtons() {
     return all;
 }
 
+QWidget* BackupDialog::makeSecondFolder() {
+    auto* all = new QWidget(this);
+    auto* row = new QHBoxLayout(all);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* words = new QLabel(qtTrId("backupAlsoTo"), this);
+    words->setObjectName(u"lblSecondFolder"_s);
+    edtSecondFolder = new QLineEdit(this); // a path of any length, to be scrolled and copied
+    edtSecondFolder->setObjectName(u"edtSecondFolder"_s);
+    edtSecondFolder->setAccessibleName(words->text().remove(u':'));
+    edtSecondFolder->setPlaceholderText(qtTrId("backupNoSecondFolder"));
+    edtSecondFolder->setReadOnly(true);
+    row->addWidget(words);
+    row->addWidget(edtSecondFolder, 1);
+    row->addWidget(
+        addButton("btnChooseSecondFolder", qtTrId("backupChoose"), &BackupDialog::chooseSecondFolder));
+    btnStopSecondFolder =
+        addButton("btnStopSecondFolder", qtTrId("backupStop"), &BackupDialog::stopSecondFolder);
+    row->addWidget(btnStopSecondFolder);
+    return all;
+}
+
+void BackupDialog::showSecondFolder() {
+    const auto second = secondFolder(store.getZELXMLPath());
+    const QString folder = second && *second ? (*second)->folder : QString();
+    edtSecondFolder->setText(folder);
+    edtSecondFolder->setToolTip(second ? folder : describe(second.error()));
+    edtSecondFolder->setCursorPosition(0);
+    btnStopSecondFolder->setEnabled(!folder.isEmpty());
+}
+
+void BackupDialog::chooseSecondFolder() {
+    const QString folder = chooser.chooseFolder(this, qtTrId("backupChooseTitle"));
+    if (!folder.isEmpty()) nameFolder(folder);
+}
+
+void BackupDialog::stopSecondFolder() { nameFolder({}); }
+
+void BackupDialog::nameFolder(const QString& folder) {
+    if (const auto named = nameSecondFolder(store.getZELXMLPath(), folder); !named)
+        return panel.ShowMessage(describe(named.error()), qtTrId("Warning"));
+    showSecondFolder();
+    takeFarCopies({}, {});
+    courier.bring();
+    courier.look();
+}
+
+/// They come when the folder has answered.
+void BackupDialog::takeFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies) {
+    far = folder;
+    farCopies = copies;
+    if (isVisible()) fill(chosenName());
+}
+
 void BackupDialog::showBackups() {
+    farCopies.clear();
+    showSecondFolder();
+    courier.look();
     fill({});
     open();
     tblBackups->setFocus();
 }
 
 void BackupDialog::fill(const QString& chosen) {
-    const auto copies = store.backups().list();
-    const QString pattern = std::as_const(store).getSetting().getDateFormat();
     const QSignalBlocker once(tblBackups); // what is chosen in the end is looked into, once
-    tblBackups->setRowCount(static_cast<int>(copies.size()));
-    for (int row = 0; const Backup& copy : copies) {
-        auto* name = new QTableWidgetItem(kindText(copy.kind));
-        name->setData(Qt::UserRole, copy.name);
-        name->setToolTip(copy.name);
-        tblBackups->setItem(row, nameColumn, name);
-        tblBackups->setItem(row, dayColumn, new QTableWidgetItem(dayText(copy.day, pattern)));
-        tblBackups->setItem(row, sizeColumn, new QTableWidgetItem(QLocale().formattedDataSize(copy.size)));
-        if (row == 0 || copy.name == chosen) tblBackups->selectRow(row);
-        ++row;
-    }
+    tblBackups->setRowCount(0);
+    for (const Backup& copy : store.backups().list())
+        addRow(copy, copy.name, kindText(copy.kind), chosen);
+    for (const Backup& copy : farCopies)
+        addRow(copy, far.path(copy.name), qtTrId("backupFar").arg(kindText(copy.kind)), chosen);
     showChosen();
+}
+
+/// \p path: what it is restored by, a name in the usual folder or a whole path.
+void BackupDialog::addRow(const Backup& copy, const QString& path, const QString& kind,
+                          const QString& chosen) {
+    const QString pattern = std::as_const(store).getSetting().getDateFormat();
+    const int row = tblBackups->rowCount();
+    tblBackups->insertRow(row);
+    auto* name = new QTableWidgetItem(kind);
+    name->setData(Qt::UserRole, path);
+    name->setToolTip(path);
+    tblBackups->setItem(row, nameColumn, name);
+    tblBackups->setItem(row, dayColumn, new QTableWidgetItem(dayText(copy.day, pattern)));
+    tblBackups->setItem(row, sizeColumn, new QTableWidgetItem(QLocale().formattedDataSize(copy.size)));
+    if (row == 0 || path == chosen) tblBackups->selectRow(row);
 }
 
 QString BackupDialog::chosenName() const {
@@ -129,7 +197,7 @@ void BackupDialog::showChosen() {
         btnRestore->setEnabled(false);
         return lblBackup->setText(qtTrId("backupNone"));
     }
-    const auto content = store.backups().content(name);
+    const auto content = name.contains(u'/') ? contentOfCopy(name) : store.backups().content(name);
     btnRestore->setEnabled(content.has_value());
     const QString pattern = std::as_const(store).getSetting().getDateFormat();
     lblBackup->setText(name + u": "_s + (content ? describe(*content, pattern) : qtTrId("backupUnreadable")));
@@ -141,13 +209,21 @@ void BackupDialog::create() {
     fill(*made);
 }
 
+/// A copy of the second folder becomes one of the usual folder first.
+tl::expected<QString, StoreError> BackupDialog::nearName(const QString& name) const {
+    if (!name.contains(u'/')) return name;
+    return fetchCopy(store.backups().folder(), name,
+                     std::chrono::floor<std::chrono::milliseconds>(clock.now()));
+}
+
 void BackupDialog::restore() {
-    const QString name = chosenName();
     if (!panel.AskToErase(qtTrId("backupConfirm").arg(lblBackup->text()), qtTrId("backupTitle"))) return;
-    const auto kept = store.restoreBackup(name);
+    const auto name = nearName(chosenName());
+    if (!name) return panel.ShowMessage(describe(name.error()), qtTrId("Warning"));
+    const auto kept = store.restoreBackup(*name);
     if (!kept) return panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
     accept();
-    emit restored(name, *kept);
+    emit restored(*name, *kept);
 }
 
 } // namespace zel

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "app/settings/BackupCourier.h"
+#include "app/widgets/FileChooser.h"
 #include "store/DataStore.h"
 
 #include <QDialog>
 
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QTableWidget;
 
@@ -14,8 +17,15 @@ namespace zel {
 class BackupDialog final : public QDialog {
     Q_OBJECT
 public:
-    /// Both must outlive it.
-    BackupDialog(DataStore& store, MessagePanel& panel, QWidget* parent);
+    struct Parts {
+        DataStore& store;
+        MessagePanel& panel;
+        FileChooser& chooser;
+        BackupCourier& courier;
+        const Clock& clock;
+    };
+    /// All of them must outlive it.
+    BackupDialog(const Parts& needed, QWidget* parent);
     void showBackups();
 
 signals:
@@ -26,6 +36,14 @@ private:
     void build();
     QTableWidget* makeList();
     QWidget* makeButtons();
+    QWidget* makeSecondFolder();
+    void showSecondFolder();
+    void chooseSecondFolder();
+    void stopSecondFolder();
+    void nameFolder(const QString& folder);
+    void takeFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies);
+    void addRow(const Backup& copy, const QString& path, const QString& kind, const QString& chosen);
+    [[nodiscard]] tl::expected<QString, StoreError> nearName(const QString& name) const;
     QPushButton* addButton(const char* name, const QString& text, void (BackupDialog::*pressed)());
     void fill(const QString& chosen);
     void showChosen();
@@ -35,9 +53,16 @@ private:
 
     DataStore& store;
     MessagePanel& panel;
+    FileChooser& chooser;
+    BackupCourier& courier;
+    const Clock& clock;
     QTableWidget* tblBackups;
     QLabel* lblBackup;
     QPushButton* btnRestore = nullptr;
+    QPushButton* btnStopSecondFolder = nullptr;
+    QLineEdit* edtSecondFolder = nullptr;
+    SecondFolder far;
+    std::vector<Backup> farCopies; ///< once they are known
 };
 
 } // namespace zel

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QSettings>
 #include <QStandardPaths>
 
 namespace zel {
@@ -11,7 +12,10 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 SelectFolderController::SelectFolderController()
-    : folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {}
+    : folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+    // Qt's dialogs write down which folders were chosen; some are named after patients.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
+}
 
 QString SelectFolderController::chooseFolder(QWidget* owner, const QString& title) {
     if (!QDir(folder).exists()) folder = QDir::homePath();
@@ -30,6 +34,8 @@ QStringList SelectFolderController::chooseFiles(QWidget* owner) {
 QString SelectFolderController::choosePdf(QWidget* owner, const QString& title, const QString& name) {
     if (!QDir(folder).exists()) folder = QDir::homePath();
     QFileDialog dialog(owner, title, folder, qtTrId("pdfFiles"));
+    dialog.setOption(
+        QFileDialog::DontUseNativeDialog); // a desktop's own would list the file, named after the patient
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(u"pdf"_s); // before it asks about a file that is there
     dialog.selectFile(name);

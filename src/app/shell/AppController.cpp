@@ -5,6 +5,7 @@
 #include "app/graph/GraphViewController.h"
 #include "app/patients/PatientViewController.h"
 #include "app/printing/PrintController.h"
+#include "app/settings/BackupCourier.h"
 #include "app/settings/BackupDialog.h"
 #include "app/settings/SettingController.h"
 #include "app/shell/HelpWindow.h"
@@ -14,6 +15,8 @@
 #include "app/shell/WindowPlacement.h"
 #include "app/table/TableViewController.h"
 #include "app/widgets/Log.h"
+#include "store/CopyContent.h"
+#include "store/Privacy.h"
 
 #include <QApplication>
 #include <QDir>
@@ -54,6 +57,11 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::redoWanted, undoer, &UndoController::redo);
     connect(undoer, &UndoController::retraced, this, &AppController::showStep);
     connect(undoer, &UndoController::said, &window, &MainWindow::showOutcome);
+    courier = new BackupCourier(parts.store, parts.clock, this);
+    connect(&parts.store, &DataStore::reloaded, courier, &BackupCourier::bring);
+    connect(courier, &BackupCourier::failed, this, [this](const QString& why) {
+        parts.panel.interject(this, [this, why] { parts.panel.ShowMessage(why, qtTrId("Warning")); });
+    });
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
@@ -87,6 +95,7 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     if (!loaded) offerBackup(loaded.error());
     if (parts.store.lastLoad()) offerUnsaved();
     if (isClosing) return;
+    offerPrivacy();
     splash = new SplashWindow(&window);
     connect(splash, &SplashWindow::splashClosed, this, [this] {
         watch.setSplashClosed();
@@ -95,16 +104,50 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     splash->showSplash(timing.splash);
 }
 
+/// Of the copies beside the data file; where there is none, one of the second folder joins them.
+std::optional<Backup> AppController::newestReadable() const {
+    const Backups& backups = parts.store.backups();
+    if (auto near = backups.newestReadable()) return near;
+    const auto second = secondFolder(parts.store.getZELXMLPath()).value_or(std::nullopt);
+    if (!second) return std::nullopt;
+    for (const Backup& copy : second->list()) {
+        if (!contentOfCopy(second->path(copy.name))) continue;
+        const auto now = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
+        const auto name = fetchCopy(backups.folder(), second->path(copy.name), now);
+        return name ? backupOfName(*name) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
 /// A file that is damaged gives way to the newest copy of it, if the user says so; any other is only told.
 void AppController::offerBackup(const StoreError& damage) {
     const Backups& backups = parts.store.backups();
-    const auto copy = damage.code == StoreErrorCode::notParsed ? backups.newestReadable() : std::nullopt;
+    const auto copy = damage.code == StoreErrorCode::notParsed ? newestReadable() : std::nullopt;
     const auto content = copy ? backups.content(copy->name) : tl::unexpected{damage};
     const QString why = describe(damage);
     if (!content) return parts.panel.ShowMessage(why, qtTrId("dataFileUnreadable"));
     const QString holds = describe(*content, parts.store.getSetting().getDateFormat());
     const QString question = why + u"\n\n"_s + qtTrId("backupOffered").arg(copy->name, holds);
     if (parts.panel.AskToErase(question, qtTrId("dataFileUnreadable"))) goBackTo(*copy);
+}
+
+/// It is asked by itself, once for each start.
+void AppController::offerPrivacy() {
+    const QStringList open = readableByOthers(parts.store.getZELXMLPath());
+    if (open.isEmpty()) return;
+    const auto more = static_cast<int>(open.size()) - 1;
+    const QString which = more == 0 ? open.first() : qtTrId("privacyAskedMore").arg(open.first()).arg(more);
+    parts.panel.interject(this, [this, question = qtTrId("privacyAsked").arg(which)] {
+        if (parts.panel.AskMessage(question, qtTrId("privacyTitle"))) keepOthersOut();
+    });
+}
+
+void AppController::keepOthersOut() {
+    QStringList left;
+    for (const StoreError& error : makePrivate(parts.store.getZELXMLPath()))
+        left += describe(error);
+    if (left.isEmpty()) return window.showOutcome(qtTrId("privacyMended"));
+    parts.panel.ShowMessage(left.join(u'\n'), qtTrId("Warning"));
 }
 
 void AppController::goBackTo(const Backup& copy) {
@@ -213,7 +256,8 @@ void AppController::showSetting() {
 void AppController::showBackups() {
     if (!graphPage->leave() || !tablePage->leave() || !patientPage->settle()) return;
     if (!backupDialog) {
-        backupDialog = new BackupDialog(parts.store, parts.panel, &window);
+        backupDialog =
+            new BackupDialog({parts.store, parts.panel, parts.chooser, *courier, parts.clock}, &window);
         connect(backupDialog, &BackupDialog::restored, this, &AppController::showRestored);
     }
     backupDialog->showBackups();

@@ -15,6 +15,7 @@
 
 namespace zel {
 
+class BackupCourier;
 class BackupDialog;
 class GraphViewController;
 class HelpWindow;
@@ -86,6 +87,9 @@ private:
     [[nodiscard]] PageController& pageInView() const;
     void end();
     void offerBackup(const StoreError& damage);
+    [[nodiscard]] std::optional<Backup> newestReadable() const;
+    void offerPrivacy();
+    void keepOthersOut();
     void goBackTo(const Backup& copy);
     void showRestored(const QString& name, const QString& kept);
     void tellNotBackedUp(const QString& why);
@@ -109,6 +113,7 @@ private:
     std::array<PageController*, MainWindow::tabTotal> pages;
     PeriodFollower* follower = nullptr;
     UndoController* undoer = nullptr;
+    BackupCourier* courier = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise
     PrintController* printController = nullptr;         ///< likewise

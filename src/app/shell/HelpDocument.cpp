@@ -1,6 +1,7 @@
 #include "app/shell/HelpDocument.h"
 
 #include "store/AtomicFile.h"
+#include "store/FileMode.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -26,7 +27,7 @@ bool openWithDesktop(const QString& path) {
 
 QString unpackHelp(const QString& resource, const QString& folder) {
     QFile packed(resource); // no file of the system's
-    if (!packed.open(QIODevice::ReadOnly) || !QDir().mkpath(folder)) return {};
+    if (!packed.open(QIODevice::ReadOnly) || !makePrivateFolder(folder)) return {};
     const QByteArray manual = packed.readAll();
     QString path = QDir(folder).filePath(u"help.pdf"_s);
     if (readFile(path) == manual) return path; // a viewer may have it open
