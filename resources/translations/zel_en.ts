@@ -585,6 +585,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
+    <message id="windowShown"><translation>ZEL is open already for this data file; its window has been brought to the front.</translation></message>
+    <message id="windowSilent"><translation>ZEL is open already for this data file, but its window does not answer. It may be busy with a slow disk or printer, or it hangs: if it does not go on in a minute, end it in your computer’s system monitor.
+
+Open another window beside it? That does no harm: what both save is kept.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
 </context>
 <context>

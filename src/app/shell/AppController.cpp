@@ -269,6 +269,16 @@ void AppController::closeApplicaiton() {
     if (!patientPage->isVisible()) changeTab(0); // what is still to be settled is there
 }
 
+void AppController::bringToFront() {
+    if (!window.isVisible()) return; // it is about to be shown
+    QWidget* dialog = QApplication::activeModalWidget();
+    for (QWidget* shown : {static_cast<QWidget*>(&window), dialog ? dialog : &window}) {
+        shown->setWindowState(shown->windowState() & ~Qt::WindowMinimized);
+        shown->raise();
+    }
+    (dialog ? dialog : &window)->activateWindow();
+}
+
 void AppController::terminate() {
     if (std::exchange(isTerminated, true)) return; // asked twice
     keepUnsaved();

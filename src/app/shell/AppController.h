@@ -71,6 +71,8 @@ public:
     void showHelp();
     void showAbout();
     void savePatient();
+    /// Another start of the program wants the window: with the dialog in front that is open.
+    void bringToFront();
     /// Quits, unless what was typed is to be saved and cannot be.
     void closeApplicaiton(); // spelled so in the interface
     /// Quits without a question: what was typed is saved if it can be, and else offered at the next start.
