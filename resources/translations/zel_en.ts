@@ -225,9 +225,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
     <message id="copyRows"><translation>Copy</translation></message>
     <message id="correlationView"><translation>Systolic against diastolic pressure</translation></message>
+    <message id="dataChangedElsewhere"><translation>Another program changed the data file. It is shown as it is now.</translation></message>
     <message id="dataFile"><translation>Data file</translation></message>
     <message id="dataFileUnreadable"><translation>The data file cannot be used</translation></message>
     <message id="dataPanel"><translation>Data</translation></message>
+    <message id="dataUnreadNow"><translation>The data file cannot be read at the moment, and nothing can be saved. What is shown is as it was before.</translation></message>
     <message id="DateError"><translation>Check the dates</translation></message>
     <message id="dayHint"><translation>Type a date and press Enter, or open the calendar with the arrow.</translation></message>
     <message id="dayOfDownload"><translation>%1, day of a download</translation></message>

@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace zel {
@@ -34,6 +35,12 @@ public:
     /// How the last load went. A write that succeeded and reloads is a success, however its reload went: it
     /// shows here.
     [[nodiscard]] const StoreResult& lastLoad() const { return loaded; }
+
+    /// Whether another program has changed the file since this one read or wrote it; costs next to nothing.
+    [[nodiscard]] bool isChangedElsewhere() const;
+    /// Reads the file that another program has changed, and emits reloaded(). If it cannot be read, as while
+    /// it is being written, all stays as it is.
+    [[nodiscard]] StoreResult takeChanges();
 
     /// Copies of the data file: one is kept before the first change of a day.
     [[nodiscard]] const Backups& backups() const { return copies; }
@@ -120,6 +127,8 @@ signals:
 
 private:
     StoreResult readRecords();
+    void take(const XmlDocument& document);
+    [[nodiscard]] StoreResult write(const DataFile::Change& change);
     [[nodiscard]] StoreResult edit(const DataFile::Change& change);
     void tellNotBackedUp(const StoreError& error);
     [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
@@ -134,6 +143,9 @@ private:
     Records records;
     SettingModel settingAsRead = records.gSettingModel;
     StoreResult loaded;
+    FileStamp lastSeen; ///< of the file as it was read, or written since
+    /// A file that is damaged, and how: it is not parsed again and again.
+    std::optional<std::pair<FileStamp, StoreError>> damaged;
     QString currentID;
     QString selectedCommentID; ///< null: none; numbers of different patients may be equal
     QString selectedPatientID;

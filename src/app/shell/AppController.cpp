@@ -30,6 +30,7 @@ using namespace Qt::StringLiterals;
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.status),
       watch({needed.monitor, needed.status, needed.store, needed.panel, needed.clock}, times.polling),
+      dataWatch(needed.store, window, times.watching),
       patientPage(new PatientViewController(
           {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
       graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),
@@ -48,6 +49,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
+    connectDataWatch();
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
@@ -56,6 +58,14 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
     connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
             &AppController::savePatient);
+}
+
+void AppController::connectDataWatch() {
+    connect(&dataWatch, &DataWatch::shown, this,
+            [this] { window.showOutcome(qtTrId("dataChangedElsewhere")); });
+    connect(&dataWatch, &DataWatch::unreadable, this,
+            [this] { window.showOutcome(qtTrId("dataUnreadNow")); });
+    connect(&dataWatch, &DataWatch::readable, this, [this] { window.showOutcome({}); });
 }
 
 AppController::~AppController() { parts.monitor.stop(); }

@@ -5,6 +5,7 @@
 #include "app/device/MonitorWatch.h"
 #include "app/device/MonitorWorker.h"
 #include "app/printing/Printers.h"
+#include "app/shell/DataWatch.h"
 #include "app/shell/HelpDocument.h"
 #include "app/shell/MainWindow.h"
 #include "app/widgets/FileChooser.h"
@@ -46,6 +47,7 @@ public:
     struct Timing {
         std::chrono::milliseconds polling{2000};
         std::chrono::milliseconds splash{2000};
+        std::chrono::milliseconds watching{2000}; ///< the data file, see DataWatch
     };
     AppController(const Parts& parts, const Timing& timing);
     ~AppController() override;
@@ -84,6 +86,7 @@ signals:
 private:
     void showPageInView();
     [[nodiscard]] PageController& pageInView() const;
+    void connectDataWatch();
     void end();
     void offerBackup(const StoreError& damage);
     void goBackTo(const Backup& copy);
@@ -102,6 +105,7 @@ private:
     Timing timing;
     MainWindow window;
     MonitorWatch watch;
+    DataWatch dataWatch;
     PatientViewController* patientPage; ///< the window owns the pages
     GraphViewController* graphPage;
     TableViewController* tablePage;
