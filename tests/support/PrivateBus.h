@@ -32,6 +32,9 @@ public:
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
+    /// Where its socket is.
+    [[nodiscard]] QString folderPath() const { return folder.path(); }
+
     QString address;
 
 private:
