@@ -253,9 +253,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
     <message id="copyRows"><translation>Copy</translation></message>
     <message id="correlationView"><translation>Systolic against diastolic pressure</translation></message>
+    <message id="dataChangedElsewhere"><translation>Another program changed the data file. It is shown as it is now.</translation></message>
     <message id="dataFile"><translation>Data file</translation></message>
     <message id="dataFileUnreadable"><translation>The data file cannot be used</translation></message>
     <message id="dataPanel"><translation>Data</translation></message>
+    <message id="dataUnreadNow"><translation>The data file cannot be read at the moment, and nothing can be saved. What is shown is as it was before.</translation></message>
     <message id="DateError"><translation>Check the dates</translation></message>
     <message id="dayHint"><translation>Type a date and press Enter, or open the calendar with the arrow.</translation></message>
     <message id="dayOfDownload"><translation>%1, day of a download</translation></message>
@@ -629,6 +631,10 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
+    <message id="windowShown"><translation>ZEL is open already for this data file; its window has been brought to the front.</translation></message>
+    <message id="windowSilent"><translation>ZEL is open already for this data file, but its window does not answer. It may be busy with a slow disk or printer, or it hangs: if it does not go on in a minute, end it in your computer’s system monitor.
+
+Open another window beside it? That does no harm: what both save is kept.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
 </context>
 <context>

@@ -11,6 +11,7 @@
 
 #include <cstring>
 #include <string_view>
+#include <sys/stat.h>
 
 namespace zel {
 
@@ -150,16 +151,18 @@ StoreResult DataFile::takeTurn(FileLock& lock) const {
     return {};
 }
 
-StoreResult DataFile::editInTurn(const Change& change) const {
+StoreResult DataFile::editInTurn(const Change& change, const std::function<void()>& written) const {
     const QString path = getZELXMLPath();
     FileLock lock{linksFollowed(path)};
     if (StoreResult turn = takeTurn(lock); !turn) return turn;
     auto document = read();
     if (!document) return tl::unexpected{document.error()};
     if (change(document->root()) == Edit::unchanged) return {};
-    StoreResult written = replaceDocument(*document, path);
-    if (written) qCInfo(lcStore, "write document out...");
-    return written;
+    StoreResult replaced = replaceDocument(*document, path);
+    if (!replaced) return replaced;
+    qCInfo(lcStore, "write document out...");
+    written();
+    return replaced;
 }
 
 StoreResult DataFile::replace(const QByteArray& content, const std::function<StoreResult()>& keep) const {
@@ -170,8 +173,17 @@ StoreResult DataFile::replace(const QByteArray& content, const std::function<Sto
     return replaceFile(path, content);
 }
 
-StoreResult DataFile::edit(const Change& change) const {
-    StoreResult result = editInTurn(change);
+FileStamp DataFile::stamp() const {
+    struct stat status {};
+    if (::stat(QFile::encodeName(getZELXMLPath()).constData(), &status) != 0) return {};
+    const auto time = [](const timespec& at) {
+        return std::chrono::seconds{at.tv_sec} + std::chrono::nanoseconds{at.tv_nsec};
+    };
+    return {status.st_dev, status.st_ino, status.st_size, time(status.st_mtim), time(status.st_ctim)};
+}
+
+StoreResult DataFile::edit(const Change& change, const std::function<void()>& written) const {
+    StoreResult result = editInTurn(change, written);
     if (!result) qCWarning(lcStore, "Could not write document out...");
     return result;
 }

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <chrono>
+#include <cstdint>
 #include <functional>
 
 namespace zel {
@@ -17,6 +19,14 @@ struct StorePaths {
     QString home;              ///< the user's home folder; the data file lives below it
     QString applicationFolder; ///< the executable's folder: ".target" and the data file of older versions
     QString templateFolder;    ///< holds ZEL_<target>.xml
+};
+
+/// What tells one state of a file from the next without reading it; all 0 where there is none.
+struct FileStamp {
+    std::uint64_t device = 0, number = 0;
+    std::int64_t size = 0;
+    std::chrono::nanoseconds written{}, changed{};
+    bool operator==(const FileStamp&) const = default;
 };
 
 /// The data file on disk: the only class that knows its place and how it is created, read and replaced.
@@ -43,8 +53,11 @@ public:
     using Change = std::function<Edit(pugi::xml_node root)>;
     /// Reads the file, lets \p change edit it and, if it did, replaces it; other programs' edits wait
     /// meanwhile. Nothing is written if any step fails, or if the result could not be read again; after
-    /// notFlushed it is written.
-    [[nodiscard]] StoreResult edit(const Change& change) const;
+    /// notFlushed it is written. \p written is called before others have their turn again, if it was.
+    [[nodiscard]] StoreResult edit(
+        const Change& change, const std::function<void()>& written = [] {}) const;
+    /// As the file is now.
+    [[nodiscard]] FileStamp stamp() const;
 
     /// Puts a whole document, checked before, in the file's place, in its turn among other programs; \p keep
     /// sees what is there first, and the file stays as it is if it fails.
@@ -58,7 +71,7 @@ private:
     [[nodiscard]] QString folder() const;
     void moveOldXml() const;
     [[nodiscard]] StoreResult takeTurn(FileLock& lock) const;
-    [[nodiscard]] StoreResult editInTurn(const Change& change) const;
+    [[nodiscard]] StoreResult editInTurn(const Change& change, const std::function<void()>& written) const;
     StorePaths paths;
     Clock& clock;
 };

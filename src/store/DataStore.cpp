@@ -36,7 +36,10 @@ StoreResult DataStore::loadXML() {
 }
 
 StoreResult DataStore::readRecords() {
-    const auto document = file.checkXMLFileExist().and_then([this] { return file.read(); });
+    const auto document = file.checkXMLFileExist().and_then([this] {
+        lastSeen = file.stamp(); // before it is read: a change meanwhile is seen as one
+        return file.read();
+    });
     if (!document) {
         qCWarning(lcStore, "nodesForXPath failed %s", qUtf8Printable(document.error().detail));
         const SettingModel settings = records.gSettingModel;
@@ -44,20 +47,41 @@ StoreResult DataStore::readRecords() {
         records.gSettingModel = settings;
         return tl::unexpected{document.error()};
     }
-    records = Records::read(document->root(), LocalZone{});
+    take(*document);
+    return {};
+}
+
+bool DataStore::isChangedElsewhere() const { return file.stamp() != lastSeen; }
+
+StoreResult DataStore::takeChanges() {
+    const FileStamp now = file.stamp();
+    if (damaged && damaged->first == now) return tl::unexpected{damaged->second};
+    const auto document = file.read();
+    if (!document) {
+        if (document.error().code == StoreErrorCode::notParsed) damaged = {now, document.error()};
+        return tl::unexpected{document.error()};
+    }
+    lastSeen = now;
+    take(*document);
+    loaded = {};
+    emit reloaded();
+    return {};
+}
+
+void DataStore::take(const XmlDocument& document) {
+    records = Records::read(document.root(), LocalZone{});
     keepSelectedComment();
     if (!records.hasSetting) {
         pugi::xml_document defaults;
         records.gSettingModel = SettingModel::initWithXMLNode(SettingModel::makeXmlNode(defaults));
         // The file gains the settings now if it can; a read-only one is reported by checkXmlWritable.
-        std::ignore = file.edit([](pugi::xml_node root) {
+        std::ignore = write([](pugi::xml_node root) {
             if (firstElement(root, "SystemSetting")) return DataFile::Edit::unchanged;
             SettingModel::makeXmlNode(root);
             return DataFile::Edit::changed;
         });
     }
     settingAsRead = records.gSettingModel;
-    return {};
 }
 
 void DataStore::keepSelectedComment() {

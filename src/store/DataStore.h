@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace zel {
@@ -37,6 +38,12 @@ public:
     /// How the last load went. A write that succeeded and reloads is a success, however its reload went: it
     /// shows here.
     [[nodiscard]] const StoreResult& lastLoad() const { return loaded; }
+
+    /// Whether another program has changed the file since this one read or wrote it; costs next to nothing.
+    [[nodiscard]] bool isChangedElsewhere() const;
+    /// Reads the file that another program has changed, and emits reloaded(). If it cannot be read, as while
+    /// it is being written, all stays as it is.
+    [[nodiscard]] StoreResult takeChanges();
 
     /// Copies of the data file: one is kept before the first change of a day.
     [[nodiscard]] const Backups& backups() const { return copies; }
@@ -134,6 +141,8 @@ signals:
 
 private:
     StoreResult readRecords();
+    void take(const XmlDocument& document);
+    [[nodiscard]] StoreResult write(const DataFile::Change& change);
     [[nodiscard]] StoreResult edit(const DataFile::Change& change);
     /// Tells the recorder what it changes, and what the step is called.
     using StepChange = std::function<DataFile::Edit(pugi::xml_node root, StepRecorder& recorder)>;
@@ -154,6 +163,9 @@ private:
     Records records;
     SettingModel settingAsRead = records.gSettingModel;
     StoreResult loaded;
+    FileStamp lastSeen; ///< of the file as it was read, or written since
+    /// A file that is damaged, and how: it is not parsed again and again.
+    std::optional<std::pair<FileStamp, StoreError>> damaged;
     QString currentID;
     QString selectedCommentID; ///< null: none; numbers of different patients may be equal
     QString selectedPatientID;

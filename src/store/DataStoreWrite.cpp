@@ -101,13 +101,25 @@ StoreResult DataStore::edit(const DataFile::Change& change) {
         return loaded;
     }
     StoreResult kept;
-    StoreResult written = file.edit([&](pugi::xml_node root) {
+    StoreResult written = write([&](pugi::xml_node root) {
         const Edit made = change(root);
         if (made == Edit::changed) kept = copies.keepDaily(); // in this turn: the file is still as it was
         return made;
     });
     if (!kept) tellNotBackedUp(kept.error()); // once others have their turn again
     return written;
+}
+
+/// What is written into the file as it was read is no change by others, also when nothing is read again.
+StoreResult DataStore::write(const DataFile::Change& change) {
+    bool isAsSeen = false;
+    const auto made = [&](pugi::xml_node root) {
+        isAsSeen = file.stamp() == lastSeen;
+        return change(root);
+    };
+    return file.edit(made, [&] {
+        if (isAsSeen) lastSeen = file.stamp();
+    });
 }
 
 /// A change is not held up by a copy that fails.

@@ -22,6 +22,61 @@ TEST_F(DataStoreTest, DownloadSeesWhatAnotherProgramStored) {
     EXPECT_EQ(store.getReadingForCurID().at(1).RecID, u"1000002"_s);
 }
 
+TEST_F(DataStoreTest, SeesWhatAnotherProgramChangedAndNothingElse) {
+    dataFile("<SystemSetting><DateFormat>d</DateFormat></SystemSetting><Patient><ID>A</ID><FamilyName/></"
+             "Patient>");
+    ASSERT_TRUE(store.load());
+    DataStore other{{home.path(), program.path(), program.path()}, clock};
+    ASSERT_TRUE(other.load());
+    EXPECT_FALSE(store.isChangedElsewhere());
+
+    ASSERT_TRUE(store.saveXMLPatient(patient(u"B"_s, u"Baker"_s))); // its own, not read again
+    EXPECT_FALSE(store.isChangedElsewhere());
+    EXPECT_TRUE(other.isChangedElsewhere());
+    store.getSetting().dateFormat = u"y"_s;
+    ASSERT_TRUE(store.saveSetting());
+    EXPECT_FALSE(store.isChangedElsewhere());
+
+    ASSERT_TRUE(other.saveXMLPatient(patient(u"C"_s, u"Clark"_s)));
+    EXPECT_TRUE(other.isChangedElsewhere()) << "what was there before its own change is not shown yet";
+    EXPECT_TRUE(store.isChangedElsewhere());
+    store.getSetting().dateFormat = u"m"_s;
+    ASSERT_TRUE(store.saveSetting());
+    EXPECT_TRUE(store.isChangedElsewhere()) << "its own change is merged, the other one not shown yet";
+    ASSERT_TRUE(store.takeChanges());
+    EXPECT_TRUE(store.validIDinXML(u"C"_s));
+    EXPECT_FALSE(store.isChangedElsewhere());
+
+    // As editors write that keep time and size.
+    const auto time = std::filesystem::last_write_time(path.toStdString());
+    QFile inPlace{path};
+    ASSERT_TRUE(inPlace.open(QIODevice::ReadWrite) && inPlace.seek(content().indexOf("Clark")));
+    inPlace.write("Cloke");
+    inPlace.close();
+    std::filesystem::last_write_time(path.toStdString(), time);
+    EXPECT_TRUE(store.isChangedElsewhere());
+}
+
+TEST_F(DataStoreTest, WhatCannotBeReadNowTakesNothingAway) {
+    dataFileOfA("");
+    ASSERT_TRUE(store.load());
+    const QByteArray whole = content();
+    int reloads = 0;
+    QObject::connect(&store, &DataStore::reloaded, &store, [&reloads] { ++reloads; });
+    for (const QByteArray& now : {whole.first(whole.size() / 2), QByteArray{}, QByteArray{"<Other/>"}}) {
+        write(path, now);
+        EXPECT_FALSE(store.takeChanges());
+        EXPECT_FALSE(store.takeChanges()) << "nor at the next look";
+    }
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(store.takeChanges().error().code, StoreErrorCode::notReadable);
+    EXPECT_FALSE(QFile::exists(path)) << "no empty one takes its place";
+    EXPECT_TRUE(store.validIDinXML(u"A"_s) && store.lastLoad() && reloads == 0);
+    write(path, whole);
+    EXPECT_TRUE(store.takeChanges());
+    EXPECT_EQ(reloads, 1);
+}
+
 TEST_F(DataStoreTest, FailedWriteStoresNothingAndSaysSo) {
     dataFileOfA("");
     ASSERT_TRUE(store.load());

@@ -36,6 +36,7 @@ QT_MODULES = {
     "report": ("Gui",),
     "app": ("Gui", "Widgets"),
     "app/printing": ("Gui", "Widgets", "PrintSupport"),
+    "app/shell": ("Gui", "Widgets", "DBus"),
 }
 
 # Library, how its headers begin, how CMake calls it, the rooms that may use it.

@@ -14,6 +14,8 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
+#include <vector>
 
 namespace zel {
 
@@ -166,8 +168,11 @@ void PatientEditor::showPatient(const PatientForm& record) { showPatient(record,
 
 /// The inputs may change what they are given, a line end for one; what they make of the record is its entry.
 void PatientEditor::showPatient(const PatientForm& record, const PatientEntry& typed) {
+    const bool isSame = form.isNew() == record.isNew() && form.patient().ID == record.patient().ID;
     form = record;
     const PatientEntry given = record.entryOf();
+    std::vector<std::function<void()>> carets;
+    forEachPatientField([&](PatientField field) { carets.push_back(keepCaret(input(field))); });
     const auto set = [&](const PatientEntry& texts, PatientField field) {
         setInputText(input(field), texts[field]);
     };
@@ -176,6 +181,7 @@ void PatientEditor::showPatient(const PatientForm& record, const PatientEntry& t
     forEachPatientField([&](PatientField field) {
         if (typed[field] != given[field]) set(typed, field);
         box(field).setProblem({});
+        if (isSame) carets.at(at(field))();
     });
     letTypeID();
     showUnits();

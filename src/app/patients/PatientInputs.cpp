@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTextCursor>
 #include <QValidator>
 #include <QWheelEvent>
 
@@ -86,6 +87,28 @@ void setInputText(QWidget& input, const QString& text) {
     } else if (auto* lines = qobject_cast<QPlainTextEdit*>(&input)) {
         lines->setPlainText(text);
     }
+}
+
+std::function<void()> keepCaret(QWidget& input) {
+    const QString text = inputText(input);
+    if (auto* line = qobject_cast<QLineEdit*>(&input))
+        return [line, text, caret = line->cursorPosition(), begin = line->selectionStart(),
+                length = line->selectedText().size()] {
+            if (line->text() != text) return;
+            if (begin < 0) return line->setCursorPosition(caret);
+            const bool isAtBegin = caret == begin;
+            line->setSelection(isAtBegin ? begin + static_cast<int>(length) : begin,
+                               static_cast<int>(isAtBegin ? -length : length));
+        };
+    auto* lines = qobject_cast<QPlainTextEdit*>(&input);
+    if (!lines) return [] {};
+    return [lines, text, caret = lines->textCursor().position(), anchor = lines->textCursor().anchor()] {
+        if (inputText(*lines) != text) return;
+        QTextCursor cursor = lines->textCursor();
+        cursor.setPosition(anchor);
+        cursor.setPosition(caret, QTextCursor::KeepAnchor);
+        lines->setTextCursor(cursor);
+    };
 }
 
 void whenEdited(QWidget& input, const std::function<void()>& then) {

@@ -25,6 +25,8 @@ void setPlaceholder(QLineEdit& input, const QString& text);
 /// The text of an input; the position of the choice as a number.
 [[nodiscard]] QString inputText(const QWidget& input);
 void setInputText(QWidget& input, const QString& text);
+/// \return puts the caret back to where it is in the input, if its text is the same by then
+[[nodiscard]] std::function<void()> keepCaret(QWidget& input);
 /// Calls \p then when the user or the program changes the input.
 void whenEdited(QWidget& input, const std::function<void()>& then);
 

@@ -9,12 +9,14 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -63,18 +65,23 @@ void PatientRoster::build() {
 
 void PatientRoster::reload(bool withNewPatient) {
     const QScopedValueRollback moving(isMoving, true);
+    const QRect mark = tblPatients->visualRect(tblPatients->currentIndex());
+    scrolled = {tblPatients->verticalScrollBar()->value(), tblPatients->viewport()->rect().intersects(mark)};
     roster->reload(withNewPatient);
 }
 
 void PatientRoster::select(const QString& ID) {
     const QScopedValueRollback moving(isMoving, true);
+    auto kept = std::exchange(scrolled, std::nullopt);
+    if (selected != ID) kept.reset();
     selected = ID;
     const QModelIndex row = found->mapFromSource(roster->index(roster->rowOf(ID), 0));
     if (row.isValid())
         tblPatients->selectRow(row.row());
     else
         tblPatients->selectionModel()->clear();
-    tblPatients->scrollTo(row);
+    if (kept) tblPatients->verticalScrollBar()->setValue(kept->value);
+    if (!kept || kept->isMarkInView) tblPatients->scrollTo(row);
 }
 
 void PatientRoster::showAll() { searchPatients->clear(); }

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QLineEdit;
 class QStackedWidget;
 class QTableView;
@@ -48,7 +50,12 @@ private:
     EmptyState* noneFound;
     QStackedWidget* listOrAdvice;
     QString selected;
-    bool isMoving = false; ///< the list changes, not the user's choice
+    struct Scroll {
+        int value;
+        bool isMarkInView;
+    };
+    std::optional<Scroll> scrolled; ///< as it was before a reload
+    bool isMoving = false;          ///< the list changes, not the user's choice
 };
 
 } // namespace zel

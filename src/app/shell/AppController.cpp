@@ -34,6 +34,7 @@ using namespace Qt::StringLiterals;
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.status),
       watch({needed.monitor, needed.status, needed.store, needed.panel, needed.clock}, times.polling),
+      dataWatch(needed.store, window, times.watching),
       patientPage(new PatientViewController(
           {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
       graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),
@@ -62,6 +63,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(courier, &BackupCourier::failed, this, [this](const QString& why) {
         parts.panel.interject(this, [this, why] { parts.panel.ShowMessage(why, qtTrId("Warning")); });
     });
+    connectDataWatch();
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
@@ -70,6 +72,14 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
     connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
             &AppController::savePatient);
+}
+
+void AppController::connectDataWatch() {
+    connect(&dataWatch, &DataWatch::shown, this,
+            [this] { window.showOutcome(qtTrId("dataChangedElsewhere")); });
+    connect(&dataWatch, &DataWatch::unreadable, this,
+            [this] { window.showOutcome(qtTrId("dataUnreadNow")); });
+    connect(&dataWatch, &DataWatch::readable, this, [this] { window.showOutcome({}); });
 }
 
 AppController::~AppController() { parts.monitor.stop(); }
@@ -332,6 +342,16 @@ void AppController::closeApplicaiton() {
     if (!graphPage->leave() || !tablePage->leave()) return;
     if (patientPage->settle()) return end();
     if (!patientPage->isVisible()) changeTab(0); // what is still to be settled is there
+}
+
+void AppController::bringToFront() {
+    if (!window.isVisible()) return; // it is about to be shown
+    QWidget* dialog = QApplication::activeModalWidget();
+    for (QWidget* shown : {static_cast<QWidget*>(&window), dialog ? dialog : &window}) {
+        shown->setWindowState(shown->windowState() & ~Qt::WindowMinimized);
+        shown->raise();
+    }
+    (dialog ? dialog : &window)->activateWindow();
 }
 
 void AppController::terminate() {

@@ -5,6 +5,7 @@
 #include "app/device/MonitorWatch.h"
 #include "app/device/MonitorWorker.h"
 #include "app/printing/Printers.h"
+#include "app/shell/DataWatch.h"
 #include "app/shell/HelpDocument.h"
 #include "app/shell/MainWindow.h"
 #include "app/widgets/FileChooser.h"
@@ -49,6 +50,7 @@ public:
     struct Timing {
         std::chrono::milliseconds polling{2000};
         std::chrono::milliseconds splash{2000};
+        std::chrono::milliseconds watching{2000}; ///< the data file, see DataWatch
     };
     AppController(const Parts& parts, const Timing& timing);
     ~AppController() override;
@@ -74,6 +76,8 @@ public:
     void showHelp();
     void showAbout();
     void savePatient();
+    /// Another start of the program wants the window: with the dialog in front that is open.
+    void bringToFront();
     /// Quits, unless what was typed is to be saved and cannot be.
     void closeApplicaiton(); // spelled so in the interface
     /// Quits without a question: what was typed is saved if it can be, and else offered at the next start.
@@ -85,6 +89,7 @@ signals:
 private:
     void showPageInView();
     [[nodiscard]] PageController& pageInView() const;
+    void connectDataWatch();
     void end();
     void offerBackup(const StoreError& damage);
     [[nodiscard]] std::optional<Backup> newestReadable() const;
@@ -107,6 +112,7 @@ private:
     Timing timing;
     MainWindow window;
     MonitorWatch watch;
+    DataWatch dataWatch;
     PatientViewController* patientPage; ///< the window owns the pages
     GraphViewController* graphPage;
     TableViewController* tablePage;

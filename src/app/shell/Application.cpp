@@ -1,5 +1,6 @@
 #include "app/shell/Application.h"
 
+#include "app/shell/FirstWindow.h"
 #include "app/shell/GlobalVar.h"
 #include "app/shell/TerminationSignals.h"
 #include "monitor/HidPort.h"
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QIcon>
 #include <QTimer>
 #include <QTranslator>
 
@@ -86,6 +88,18 @@ tl::expected<std::unique_ptr<MonitorPort>, QString> makePort(const Options& opti
     return std::make_unique<HidPort>();
 }
 
+constexpr std::chrono::milliseconds longestCall{2500};
+
+/// \return how the program ends, if it is not to go on
+std::optional<int> giveWayToFirst(FirstWindow& window, const QVariantMap& token) {
+    const FirstWindow::Outcome outcome = window.claim(token, longestCall);
+    if (outcome == FirstWindow::Outcome::shown) return complain(0, qtTrId("windowShown"));
+    if (outcome != FirstWindow::Outcome::silent) return std::nullopt;
+    // Both can be used side by side: each change is merged into the file.
+    if (MessageBoxPanel{}.AskMessage(qtTrId("windowSilent"), qtTrId("AP_Title"))) return std::nullopt;
+    return failed;
+}
+
 } // namespace
 
 int runApplication(int argc, char** argv) {
@@ -94,23 +108,32 @@ int runApplication(int argc, char** argv) {
     const auto options = prepare(argc, argv);
     if (!options) return options.error();
 
+    const QVariantMap token = desktopToken();
     TerminationSignals termination;
     QApplication application(argc, argv);
     termination.watch();
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     QTranslator translator;
     installTexts(translator);
     SystemClock clock;
     auto port = makePort(*options, clock);
     if (!port) return complain(failed, port.error());
 
-    GlobalVar global({.home = qEnvironmentVariable("HOME"),
-                      .applicationFolder = QCoreApplication::applicationDirPath(),
-                      .templateFolder = u":/templates"_s},
-                     std::move(*port), clock);
+    const StorePaths paths{.home = qEnvironmentVariable("HOME"),
+                           .applicationFolder = QCoreApplication::applicationDirPath(),
+                           .templateFolder = u":/templates"_s};
+    FirstWindow firstWindow(runningSessionBus(), DataFile(paths, clock).getZELXMLPath());
+    const auto leave = QObject::connect(&termination, &TerminationSignals::terminated, &application,
+                                        [] { QCoreApplication::exit(0); });
+    if (const auto status = giveWayToFirst(firstWindow, token)) return *status;
+    QObject::disconnect(leave);
+
+    GlobalVar global(paths, std::move(*port), clock);
     AppController& controller = global.appController;
     QObject::connect(&controller, &AppController::closed, &application, [] { QCoreApplication::exit(0); });
     QObject::connect(&termination, &TerminationSignals::terminated, &controller, &AppController::terminate);
+    QObject::connect(&firstWindow, &FirstWindow::wanted, &controller, &AppController::bringToFront);
     // Inside the event loop, so that a quit also ends it while one of their messages is open.
     QTimer::singleShot(0, &controller, [&] {
         controller.awakeFromNib(global.loaded);

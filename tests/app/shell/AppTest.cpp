@@ -23,7 +23,7 @@ void AppTest::launch(AppController::Timing timing) {
     app->applicationDidFinishLaunching(loaded);
 }
 
-void AppTest::launch() { launch({.polling = 1ms, .splash = 1ms}); }
+void AppTest::launch() { launch({.polling = 1ms, .splash = 1ms, .watching = 1h}); }
 
 void AppTest::start() {
     launch();

@@ -1,0 +1,117 @@
+#include "AppTest.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTableView>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The window and another program over the same data file.
+class DataWatchTest : public AppTest {
+protected:
+    DataWatchTest() {
+        for (int i = 0; i < 60; ++i)
+            addPatient(u"P%1"_s.arg(i, 2, 10, QChar(u'0')), u"Family%1"_s.arg(i, 2, 10, QChar(u'0')));
+    }
+    void watch(std::chrono::milliseconds interval) {
+        launch({.polling = 1ms, .splash = 1ms, .watching = interval});
+        waitFor([this] { return !find<QWidget>("splash").isVisible(); });
+    }
+    void elsewhere(const std::function<void(DataStore&)>& change) {
+        DataStore other({home.path(), home.path(), u":/templates"_s}, clock);
+        ASSERT_TRUE(other.load());
+        change(other);
+    }
+    void changeElsewhere(const QString& ID, const QString& address) {
+        elsewhere([&](DataStore& other) {
+            PatientModel patient = *other.getPatientByID(ID);
+            patient.Address = address;
+            ASSERT_TRUE(other.saveXMLPatient(patient));
+        });
+    }
+    [[nodiscard]] QString address() { return find<QPlainTextEdit>("Address").toPlainText(); }
+};
+
+} // namespace
+
+TEST_F(DataWatchTest, WhatAnotherProgramChangesIsShownAndWhatIsTypedStays) {
+    watch(1ms);
+    auto& list = find<QTableView>("tblPatients");
+    list.selectRow(20);
+    waitFor([this] { return store.getCurrentID() == u"P20"_s; });
+    auto& notes = find<QPlainTextEdit>("PatientNotes");
+    type("PatientNotes", u"first second"_s);
+    QTextCursor cursor = notes.textCursor();
+    cursor.setPosition(5);
+    notes.setTextCursor(cursor);
+    find<QLineEdit>("FamilyName").setCursorPosition(3);
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum()); // the patient is out of view
+    const int scrolled = list.verticalScrollBar()->value();
+    ASSERT_GT(scrolled, 20);
+
+    QSignalSpy reloads(&store, &DataStore::reloaded);
+    changeElsewhere(u"P20"_s, u"Road 1"_s);
+    waitFor([this] { return address() == u"Road 1"_s; });
+    EXPECT_EQ(text("lblOutcome"), qtTrId("dataChangedElsewhere"));
+    EXPECT_EQ(notes.toPlainText(), u"first second"_s);
+    EXPECT_EQ(notes.textCursor().position(), 5) << "the caret stays";
+    EXPECT_EQ(find<QLineEdit>("FamilyName").cursorPosition(), 3);
+    EXPECT_TRUE(notes.hasFocus());
+    EXPECT_EQ(store.getCurrentID(), u"P20"_s);
+    EXPECT_EQ(list.currentIndex().row(), 20);
+    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled) << "the list stays";
+    QTest::qWait(20);
+    EXPECT_EQ(reloads.size(), 1) << "a load for a change, and no more";
+
+    reloads.clear();
+    press(Qt::Key_S, Qt::ControlModifier);
+    waitFor([&] { return !reloads.empty(); });
+    QTest::qWait(20);
+    EXPECT_EQ(reloads.size(), 1) << "its own save is no change by others";
+    EXPECT_EQ(text("lblOutcome"), qtTrId("patientSaved").arg(u"Kim Family20"_s));
+}
+
+TEST_F(DataWatchTest, WhatCannotBeReadNowIsSaidAndNothingIsTakenAway) {
+    watch(1ms);
+    const QByteArray whole = dataFile();
+    replaceDataFile(whole.first(whole.size() / 2));
+    waitFor([this] { return text("lblOutcome") == qtTrId("dataUnreadNow"); });
+    EXPECT_EQ(find<QTableView>("tblPatients").model()->rowCount(), 60);
+    replaceDataFile(whole);
+    waitFor([this] { return text("lblOutcome") == qtTrId("dataChangedElsewhere"); });
+    const QString path = store.getZELXMLPath();
+    ASSERT_TRUE(QFile::rename(path, path + u'~'));
+    waitFor([this] { return text("lblOutcome") == qtTrId("dataUnreadNow"); });
+    EXPECT_EQ(find<QTableView>("tblPatients").model()->rowCount(), 60);
+    ASSERT_TRUE(QFile::rename(path + u'~', path));
+    waitFor([this] { return text("lblOutcome") != qtTrId("dataUnreadNow"); });
+}
+
+TEST_F(DataWatchTest, TurningToTheWindowLooksAtOnceButNotUnderADialog) {
+    watch(1h);
+    const auto turnTo = [this] {
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&app->mainWndow(), &activation);
+        QCoreApplication::processEvents();
+    };
+    app->showSetting();
+    changeElsewhere(u"P00"_s, u"Road 2"_s);
+    turnTo();
+    EXPECT_EQ(address(), QString()) << "the dialog has begun with what is shown";
+    find<QDialog>("SettingController").reject();
+    turnTo();
+    EXPECT_EQ(address(), u"Road 2"_s);
+    type("PatientNotes", u"x"_s);
+    changeElsewhere(u"P00"_s, u"Road 3"_s);
+    turnTo();
+    EXPECT_EQ(address(), u"Road 2"_s) << "not while keys are pressed";
+}
+
+} // namespace zel
