@@ -156,8 +156,8 @@
     <message id="backupDaily"><translation>Before the first change of the day</translation></message>
     <message id="backupDamaged"><translation>Damaged data file</translation></message>
     <message id="backupDay"><translation>Day</translation></message>
-    <message id="backupExplained"><translation>Copies of the data file, in the folder %1. A second folder on another disk, a stick or a share, outlives this one.</translation></message>
-    <message id="backupFar"><translation>%1, in the second folder</translation></message>
+    <message id="backupExplained"><translation>Copies of the data file, in the folder %1. In case this disk breaks, name a second folder on another one, a stick or a share.</translation></message>
+    <message id="backupFar"><translation>Second folder: %1</translation></message>
     <message id="backupKind"><translation>Copy</translation></message>
     <message id="backupMade"><translation>Made by you</translation></message>
     <message id="backupNone"><translation>There is no copy yet. One is made before the first change of each day.</translation></message>

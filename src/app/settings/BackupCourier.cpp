@@ -78,8 +78,11 @@ void BackupCourier::look() {
     });
 }
 
+/// A record that is broken cannot note that it was told.
 void BackupCourier::tell(const SecondFolderError& error) {
-    if (isFirstFailure(store.getZELXMLPath(), LocalZone{}.day(now()))) emit failed(describe(error));
+    const DayNumber today = LocalZone{}.day(now());
+    if (std::exchange(toldOn, today) == today) return;
+    if (isFirstFailure(store.getZELXMLPath(), today)) emit failed(describe(error));
 }
 
 } // namespace zel

@@ -51,6 +51,7 @@ private:
     CallQueue calls;
     std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
     QString last; ///< the place and day that are done
+    DayNumber toldOn = noDay;
     bool isUnderWay = false;
     bool isWantedAgain = false;
 };

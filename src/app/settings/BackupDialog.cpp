@@ -3,6 +3,7 @@
 #include "app/widgets/TableLook.h"
 #include "store/CopyContent.h"
 
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -143,11 +144,21 @@ void BackupDialog::nameFolder(const QString& folder) {
     courier.look();
 }
 
-/// They come when the folder has answered.
+/// They come when the folder has answered, and leave what is chosen as it is.
 void BackupDialog::takeFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies) {
     far = folder;
     farCopies = copies;
-    if (isVisible()) fill(chosenName());
+    if (!isVisible()) return;
+    if (chosenName().contains(u'/')) return fill(chosenName());
+    const QSignalBlocker unchanged(tblBackups);
+    tblBackups->setRowCount(nearTotal);
+    addFarRows(chosenName());
+    if (nearTotal == 0) showChosen();
+}
+
+void BackupDialog::addFarRows(const QString& chosen) {
+    for (const Backup& copy : farCopies)
+        addRow(copy, far.path(copy.name), qtTrId("backupFar").arg(kindText(copy.kind)), chosen);
 }
 
 void BackupDialog::showBackups() {
@@ -164,8 +175,8 @@ void BackupDialog::fill(const QString& chosen) {
     tblBackups->setRowCount(0);
     for (const Backup& copy : store.backups().list())
         addRow(copy, copy.name, kindText(copy.kind), chosen);
-    for (const Backup& copy : farCopies)
-        addRow(copy, far.path(copy.name), qtTrId("backupFar").arg(kindText(copy.kind)), chosen);
+    nearTotal = tblBackups->rowCount();
+    addFarRows(chosen);
     showChosen();
 }
 
@@ -197,10 +208,13 @@ void BackupDialog::showChosen() {
         btnRestore->setEnabled(false);
         return lblBackup->setText(qtTrId("backupNone"));
     }
-    const auto content = name.contains(u'/') ? contentOfCopy(name) : store.backups().content(name);
+    const bool isFar = name.contains(u'/');
+    const QString shown = isFar ? qtTrId("backupFar").arg(QFileInfo(name).fileName()) : name;
+    const auto content = isFar ? contentOfCopy(name) : store.backups().content(name);
     btnRestore->setEnabled(content.has_value());
     const QString pattern = std::as_const(store).getSetting().getDateFormat();
-    lblBackup->setText(name + u": "_s + (content ? describe(*content, pattern) : qtTrId("backupUnreadable")));
+    lblBackup->setText(shown + u": "_s
+                       + (content ? describe(*content, pattern) : qtTrId("backupUnreadable")));
 }
 
 void BackupDialog::create() {

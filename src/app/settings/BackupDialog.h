@@ -42,6 +42,7 @@ private:
     void stopSecondFolder();
     void nameFolder(const QString& folder);
     void takeFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies);
+    void addFarRows(const QString& chosen);
     void addRow(const Backup& copy, const QString& path, const QString& kind, const QString& chosen);
     [[nodiscard]] tl::expected<QString, StoreError> nearName(const QString& name) const;
     QPushButton* addButton(const char* name, const QString& text, void (BackupDialog::*pressed)());
@@ -63,6 +64,7 @@ private:
     QLineEdit* edtSecondFolder = nullptr;
     SecondFolder far;
     std::vector<Backup> farCopies; ///< once they are known
+    int nearTotal = 0;             ///< rows of the usual folder, which come first
 };
 
 } // namespace zel
