@@ -44,7 +44,7 @@
     <message id="stepImport"><translation>import of %1</translation></message>
     <message id="stepSettings"><translation>change of settings</translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
-    <message id="StoreBusy"><translation>Another program is working on the data file %1. Nothing was changed; please try again in a moment.</translation></message>
+    <message id="StoreBusy"><translation>Another program is working on the data file %1, on this computer or on another one that shares it. Nothing was changed; please try again in a moment, or in some minutes if that computer has dropped off the network.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Another program changed it in the meantime. Nothing was changed here; please look at it as it is now.</translation></message>
     <message id="StoreDiskFull"><translation>The disk is full: %1 could not be written. What was there is as it was. Please make room on the disk, then try again.</translation></message>
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>

@@ -4,14 +4,17 @@
 #include "store/FileLock.h"
 #include "store/FileMode.h"
 #include "store/Log.h"
+#include "store/SharedFolder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cstring>
+#include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace zel {
 
@@ -31,8 +34,8 @@ tl::unexpected<StoreError> refused(StoreErrorCode code, const QString& path) {
     return tl::unexpected{StoreError{code, path, {}}};
 }
 
-StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
-    const auto bytes = document.serialise();
+tl::expected<QByteArray, StoreError> checkedBytes(const XmlDocument& document, const QString& path) {
+    auto bytes = document.serialise();
     if (!bytes) return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, bytes.error()}};
     if (bytes->size() > largestFile)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, qtTrId("XmlTooLarge")}};
@@ -40,7 +43,7 @@ StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
     // change, and a copy of the text and its tree for as long.
     if (const auto readAgain = XmlDocument::parse(*bytes); !readAgain)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, readAgain.error()}};
-    return replaceFile(path, *bytes);
+    return std::move(*bytes);
 }
 
 /// The file that a change really replaces, so that programs that reach it by different links take turns.
@@ -155,10 +158,15 @@ StoreResult DataFile::editInTurn(const Change& change, const std::function<void(
     const QString path = getZELXMLPath();
     FileLock lock{linksFollowed(path)};
     if (StoreResult turn = takeTurn(lock); !turn) return turn;
+    const FileStamp asRead = stamp();
     auto document = read();
     if (!document) return tl::unexpected{document.error()};
     if (change(document->root()) == Edit::unchanged) return {};
-    StoreResult replaced = replaceDocument(*document, path);
+    const auto bytes = checkedBytes(*document, path);
+    if (!bytes) return tl::unexpected{bytes.error()};
+    // By a program that takes no turns, or while this one was cut off from the share, and its turn given on.
+    if (stamp() != asRead) return refused(StoreErrorCode::changedElsewhere, path);
+    StoreResult replaced = replaceFile(path, *bytes);
     if (!replaced) return replaced;
     qCInfo(lcStore, "write document out...");
     written();
@@ -174,8 +182,13 @@ StoreResult DataFile::replace(const QByteArray& content, const std::function<Sto
 }
 
 FileStamp DataFile::stamp() const {
+    const QByteArray name = QFile::encodeName(linksFollowed(getZELXMLPath()));
+    lookAnewBeside(name);
     struct stat status {};
-    if (::stat(QFile::encodeName(getZELXMLPath()).constData(), &status) != 0) return {};
+    const int opened = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const bool isKnown = (opened < 0 ? ::stat(name.constData(), &status) : ::fstat(opened, &status)) == 0;
+    if (opened >= 0) ::close(opened);
+    if (!isKnown) return {};
     const auto time = [](const timespec& at) {
         return std::chrono::seconds{at.tv_sec} + std::chrono::nanoseconds{at.tv_nsec};
     };

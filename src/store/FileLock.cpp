@@ -1,5 +1,7 @@
 #include "store/FileLock.h"
 
+#include "store/SharedFolder.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -14,7 +16,17 @@ namespace {
 
 bool isRegular(int handle) {
     struct stat status {};
+    errno = 0;
     return ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+bool isFound(const QByteArray& name, struct stat& file) {
+    lookAnewBeside(name);
+    const int opened = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (opened < 0) return errno != ENOENT && errno != ESTALE && ::lstat(name.constData(), &file) == 0;
+    const bool isKnown = ::fstat(opened, &file) == 0;
+    ::close(opened);
+    return isKnown;
 }
 
 } // namespace
@@ -35,7 +47,7 @@ void FileLock::close() {
 bool FileLock::isInPlace() const {
     struct stat own {};
     struct stat there {};
-    return ::fstat(handle, &own) == 0 && ::lstat(QFile::encodeName(lockPath).constData(), &there) == 0
+    return ::fstat(handle, &own) == 0 && own.st_nlink > 0 && isFound(QFile::encodeName(lockPath), there)
            && own.st_dev == there.st_dev && own.st_ino == there.st_ino;
 }
 
@@ -61,6 +73,7 @@ void FileLock::share() const {
 FileLock::Attempt FileLock::tryTake() {
     const QByteArray name = QFile::encodeName(lockPath);
     for (;;) {
+        lookAnewBeside(name);
         ::rmdir(name.constData()); // an empty folder is nobody's lock
         handle = open();
         if (handle < 0) {
@@ -68,7 +81,10 @@ FileLock::Attempt FileLock::tryTake() {
             return systemError == EISDIR || systemError == ELOOP || systemError == ENXIO ? Attempt::blocked
                                                                                          : Attempt::failed;
         }
-        if (!isRegular(handle)) return close(), Attempt::blocked;
+        if (!isRegular(handle)) {
+            const bool isGone = errno == ESTALE; // another machine has removed it
+            return close(), isGone ? Attempt::held : Attempt::blocked;
+        }
         if (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
             systemError = errno;
             return close(), systemError == EWOULDBLOCK ? Attempt::held : Attempt::failed;

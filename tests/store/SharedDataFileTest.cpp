@@ -57,6 +57,19 @@ TEST_F(DataStoreTest, SeesWhatAnotherProgramChangedAndNothingElse) {
     EXPECT_TRUE(store.isChangedElsewhere());
 }
 
+TEST_F(DataStoreTest, NeverReplacesWhatItHasNotRead) {
+    dataFileOfA("");
+    const DataFile file{{home.path(), program.path(), program.path()}, clock};
+    const QByteArray foreign = "<ZEL><Patient><ID>B</ID></Patient></ZEL>";
+    const auto changeBoth = [&](pugi::xml_node root) { // another program that does not wait for its turn
+        root.append_child("Mine");
+        write(path, foreign);
+        return DataFile::Edit::changed;
+    };
+    EXPECT_EQ(file.edit(changeBoth).error().code, StoreErrorCode::changedElsewhere);
+    EXPECT_EQ(content(), foreign);
+}
+
 TEST_F(DataStoreTest, WhatCannotBeReadNowTakesNothingAway) {
     dataFileOfA("");
     ASSERT_TRUE(store.load());
