@@ -17,15 +17,15 @@ constexpr auto idleLook = 9ms;
 Wire::Wire(SimulatedMonitorPlan plan, ManualClock& wallClock)
     : clock(wallClock), monitor(std::make_unique<SimulatedMonitor>(std::move(plan), wallClock)) {}
 
-void Wire::swapAfter(int reports, SimulatedMonitorPlan plan) {
+void Wire::swapOnce(std::function<bool()> isPulled, SimulatedMonitorPlan plan) {
     other = std::make_unique<SimulatedMonitor>(std::move(plan), clock);
-    lastReport = reports;
+    pulled = std::move(isPulled);
 }
 
 std::size_t Wire::held() const { return monitor->count(); }
 
 bool Wire::isGone() {
-    if (lastReport && delivered >= *lastReport && place == Place::monitor) place = Place::nowhere;
+    if (place == Place::monitor && pulled()) place = Place::nowhere;
     return place == Place::nowhere;
 }
 

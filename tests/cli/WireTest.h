@@ -11,8 +11,8 @@ class Wire final : public MonitorPort {
 public:
     Wire(SimulatedMonitorPlan plan, ManualClock& wallClock);
 
-    /// Behind so many reports the monitor is gone, and \p plan's is there from the next opening on.
-    void swapAfter(int reports, SimulatedMonitorPlan plan);
+    /// Once \p isPulled the monitor is gone, and \p plan's is there from the next opening on.
+    void swapOnce(std::function<bool()> isPulled, SimulatedMonitorPlan plan);
     void plug() { monitor->plug(); }
     [[nodiscard]] std::size_t held() const; ///< by the monitor that was there first
     [[nodiscard]] std::size_t heldByOther() const { return other ? other->count() : 0; }
@@ -34,7 +34,7 @@ private:
     ManualClock& clock;
     std::unique_ptr<SimulatedMonitor> monitor;
     std::unique_ptr<SimulatedMonitor> other;
-    std::optional<int> lastReport;
+    std::function<bool()> pulled = [] { return false; };
     int delivered = 0;
     Place place = Place::monitor;
     bool isLost = false; ///< something failed since it is gone
