@@ -17,6 +17,8 @@ template <class... Kinds>
 struct PerKind : Kinds... {
     using Kinds::operator()...;
 };
+template <class... Kinds>
+PerKind(Kinds...) -> PerKind<Kinds...>; // clang-tidy 14 does not see it by itself
 
 /// A shape: what it is, and the numbers that it is drawn with.
 struct Shape {
