@@ -74,6 +74,13 @@ TEST(ChartPage, textsStandApartInEachPeriod) {
     EXPECT_GT(numbered, 300) << "comments are among the texts";
 }
 
+TEST(ChartPage, limitsAreNamedDownToTheSmallest) {
+    EXPECT_EQ(limitsText({}), QString());
+    EXPECT_EQ(limitsText({1, 1}), u"1/1 mmHg"_s);
+    EXPECT_EQ(limitsText({1, 0}), u"1 mmHg systolic"_s);
+    EXPECT_EQ(limitsText({0, 1}), u"1 mmHg diastolic"_s);
+}
+
 TEST(ChartPage, numbersOfCommentsStandAboveTheirBoxes) {
     const TextAttribute type{.size = 8, .bold = true};
     const double row = textSize(u"1"_s, type).height;

@@ -17,6 +17,8 @@ template <class... Kinds>
 struct PerKind : Kinds... {
     using Kinds::operator()...;
 };
+template <class... Kinds>
+PerKind(Kinds...) -> PerKind<Kinds...>; // clang-tidy 14 does not see it by itself
 
 /// A shape: what it is, and the numbers that it is drawn with.
 struct Shape {
@@ -146,7 +148,8 @@ SampleReport usualReport() {
     sample.patient.Smoker = 1;
     sample.patient.PhoneEmail = u"ada@example.org"_s;
     sample.patient.FamilyHistory = u"Father: stroke at 60"_s;
-    sample.readings[7].Arrhythmia = 0;
+    for (std::uint32_t code = 0; code <= 5; ++code)
+        sample.readings[7 + code].Arrhythmia = code;
     sample.addComment("2019-01-03", "2019-01-05", 1, u"Forgot her tablets, felt dizzy in the evening."_s);
     sample.addComment("2019-01-12", "2019-01-12", 2, u"Long walk."_s);
     return sample;

@@ -1,6 +1,7 @@
 #include "store/AtomicFile.h"
 
 #include "store/DataStore.h"
+#include "store/FileLock.h"
 #include "store/NewFile.h"
 #include "support/FullDisk.h"
 #include "support/ManualClock.h"
@@ -12,6 +13,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -212,6 +215,26 @@ TEST_F(AtomicFileTest, DiskThatFillsUpLeavesTheFileAsItWas) {
     }
     EXPECT_EQ(readFile(path).value(), "one");
     EXPECT_EQ(filesInFolder(), 1);
+}
+
+TEST_F(AtomicFileTest, FilesAreWrittenReadAndLockedWhereStandardInputIsClosed) {
+    const int kept = dup(STDIN_FILENO);
+    close(STDIN_FILENO);
+    const StoreResult written = replaceFile(path, "one");
+    const auto content = readFile(path);
+    auto lock = std::make_optional<FileLock>(path);
+    const auto attempt = lock->tryTake();
+    const bool isHeld = QFileInfo::exists(lock->path());
+    lock.reset();
+    const bool isLeft = QFileInfo::exists(path + u".lock"_s);
+    const bool isFree = fcntl(STDIN_FILENO, F_GETFD) < 0;
+    dup2(kept, STDIN_FILENO);
+    close(kept);
+    EXPECT_TRUE(written);
+    EXPECT_EQ(content, "one");
+    EXPECT_EQ(attempt, FileLock::Attempt::taken);
+    EXPECT_TRUE(isHeld && !isLeft);
+    EXPECT_TRUE(isFree) << "all were closed";
 }
 
 TEST_F(AtomicFileTest, FilesUpToTheLargestAreRead) {

@@ -40,6 +40,7 @@ TEST(Dates, ReadTheFilesForm) {
              XmlDateCase{"2019-03-22T14:05:00+01:00x", ""},
              XmlDateCase{"2019-03-22T14:05:00+0100", ""}, // the last colon is taken out, wherever it stands
              XmlDateCase{"2019-03-22T14:05:00Z", ""},
+             XmlDateCase{"2019/03/22 14.05.00 01.00", ""},
              XmlDateCase{"2019-03-22", ""},
              XmlDateCase{"", ""},
              XmlDateCase{":", ""},

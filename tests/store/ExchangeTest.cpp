@@ -158,6 +158,9 @@ TEST(ExportFileName, StaysInTheFolderAndIsNeverAnothersName) {
         {QString{QChar{0}}, u"%00.xml"_s},
         {u"a.:*?\"<>|\\"_s, u"a.%3A%2A%3F%22%3C%3E%7C%5C.xml"_s},
         {u"%2E"_s, u"%252E.xml"_s},
+        {u"%09 %A0 %0F %90"_s, u"%2509 %25A0 %250F %2590.xml"_s},
+        {u"%G0 %0G %@0 %0@ %a0 %1"_s, u"%G0 %0G %@0 %0@ %a0 %1.xml"_s},
+        {u"a\x1F \x7F"_s, u"a%1F %7F.xml"_s},
         {QString{}, u"%.xml"_s},
         {widest, widest + u".xml"_s},
     };
