@@ -57,6 +57,8 @@ public:
 private:
     [[nodiscard]] QString folder() const;
     void moveOldXml() const;
+    [[nodiscard]] StoreResult create() const;
+    [[nodiscard]] StoreResult copyTemplate() const;
     [[nodiscard]] StoreResult takeTurn(FileLock& lock) const;
     [[nodiscard]] StoreResult editInTurn(const Change& change) const;
     StorePaths paths;

@@ -26,6 +26,8 @@ public:
     [[nodiscard]] int write(const QByteArray& content);
     [[nodiscard]] int setOwner(uid_t owner, gid_t group, mode_t mode);
     [[nodiscard]] int flush();
+    /// On a file system without a journal, as sticks have it: only the order of flushes keeps it in order.
+    [[nodiscard]] bool isOnFat() const;
     [[nodiscard]] int takePlace(const QString& path);
     /// Waits until its whole file system is on the disk.
     [[nodiscard]] int flushFileSystem();
