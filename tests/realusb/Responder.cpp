@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdio>
 #include <fcntl.h>
+#include <optional>
 #include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,11 +22,12 @@ using std::chrono::milliseconds;
 constexpr milliseconds reportInterval{8};
 constexpr milliseconds lookInterval{20};
 
-zel::SimulatedMonitorPlan planFrom(const char* path, const zel::Clock& clock) {
+std::optional<zel::SimulatedMonitorPlan> planFrom(const char* path, const zel::Clock& clock) {
     if (path == nullptr) return zel::builtInPlan(clock.now());
     QFile file(QString::fromLocal8Bit(path));
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return zel::readPlan(file.readAll()).value_or(zel::SimulatedMonitorPlan{});
+    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+    const auto plan = zel::readPlan(file.readAll());
+    return plan ? std::optional{*plan} : std::nullopt;
 }
 
 void pullCable(const char* path) {
@@ -54,7 +56,7 @@ bool answer(int device, zel::SimulatedDevice& monitor, zel::Clock& clock) {
 bool respond(int device, zel::SimulatedDevice& monitor, zel::Clock& clock) {
     std::array<std::uint8_t, 64> buffer{};
     pollfd awaited{device, POLLIN, 0};
-    if (poll(&awaited, 1, static_cast<int>(lookInterval.count())) <= 0) return true;
+    if (poll(&awaited, 1, static_cast<int>(lookInterval.count())) <= 0) return answer(device, monitor, clock);
     const ssize_t length = read(device, buffer.data(), buffer.size());
     if (length < 0) return false;
     return !monitor.take(std::span(buffer).first(static_cast<std::size_t>(length)))
@@ -66,7 +68,9 @@ bool respond(int device, zel::SimulatedDevice& monitor, zel::Clock& clock) {
 int main(int argc, char** argv) {
     if (argc < 3) return 2;
     zel::SystemClock clock;
-    zel::SimulatedDevice monitor(planFrom(argc > 3 ? argv[3] : nullptr, clock), clock);
+    const auto plan = planFrom(argc > 3 ? argv[3] : nullptr, clock);
+    if (!plan) return 1; // so that no monitor answers
+    zel::SimulatedDevice monitor(*plan, clock);
     for (;; clock.sleep(lookInterval)) {
         const int device = open(argv[1], O_RDWR | O_CLOEXEC);
         if (device < 0) continue;
