@@ -44,6 +44,12 @@ private:
     int handle;
 };
 
+/// What is there, held while another file takes its place: FAT frees nothing that is open. Else the blocks
+/// may be free on the disk before the name leads to the other one's.
+Handle hold(const QString& target) {
+    return Handle{::open(QFile::encodeName(target).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)};
+}
+
 /// \return the system's error number, 0 for success
 int flushFolder(const QString& folder, NewFile& file) {
     const Handle handle{::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
@@ -70,6 +76,20 @@ int keepOwner(NewFile& file, const QString& target) {
     return file.setOwner(before.st_uid, before.st_gid, before.st_mode & 0777U);
 }
 
+int writeWhole(NewFile& file, const QString& target, const QByteArray& content) {
+    if (const int error = keepOwner(file, target)) return error;
+    if (const int error = file.write(content)) return error;
+    // FAT's table, before a name leads into it.
+    const int error = file.isOnFat() ? flushFolder(QFileInfo{target}.absolutePath(), file) : 0;
+    return error != 0 ? error : file.flush();
+}
+
+/// Once the temporary name has gone, FAT leads the other one to the new blocks: never both to the same.
+int flushPlace(NewFile& file, const QString& target) {
+    const int error = flushFolder(QFileInfo{target}.absolutePath(), file);
+    return error == 0 && file.isOnFat() ? file.flush() : error;
+}
+
 } // namespace
 
 StoreError writeError(int error, const QString& path) {
@@ -93,14 +113,24 @@ StoreResult replaceFile(const QString& path, const QByteArray& content) {
     const QString target = realPath(path);
     auto file = NewFile::create(temporaryPrefix(target));
     if (!file) return unwritten(file.error(), path);
-    if (const int error = keepOwner(*file, target)) return unwritten(error, path);
-    if (const int error = file->write(content)) return unwritten(error, path);
-    if (const int error = file->flush()) return unwritten(error, path);
+    if (const int error = writeWhole(*file, target, content)) return unwritten(error, path);
+    const Handle before = file->isOnFat() ? hold(target) : Handle{-1};
     if (const int error = file->takePlace(target)) return unwritten(error, path);
-    if (const int error = flushFolder(QFileInfo{target}.absolutePath(), *file)) {
+    if (const int error = flushPlace(*file, target)) {
         // Not its name: that of a report or an export tells whose it is.
         qCWarning(lcStore, "A folder could not be flushed: %s", std::strerror(error));
         return failed(StoreErrorCode::notFlushed, path, systemWords(error));
+    }
+    return {};
+}
+
+StoreResult flushNewFolder(const QString& folder) {
+    const QString parent = QFileInfo{folder}.absolutePath();
+    // Flushing any other folder writes FAT's table, before the name leads into it.
+    for (const QString& each : {QFileInfo{parent}.absolutePath(), parent}) {
+        const Handle handle{::open(QFile::encodeName(each).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+        const bool isFlushed = !handle.isOpen() || ::fsync(handle.get()) == 0 || errno == EINVAL;
+        if (!isFlushed) return failed(StoreErrorCode::notFlushed, folder, systemWords(errno));
     }
     return {};
 }

@@ -15,6 +15,10 @@ namespace zel {
 /// any other error it is as it was
 [[nodiscard]] StoreResult replaceFile(const QString& path, const QByteArray& content);
 
+/// Has a folder that was just made outlast a power cut. One whose parents may not be read is left to the
+/// system.
+[[nodiscard]] StoreResult flushNewFolder(const QString& folder);
+
 /// Removes what programs left beside the file when they were killed while they replaced it.
 void removeDeadReplacements(const QString& path);
 

@@ -41,6 +41,9 @@ tl::unexpected<StoreError> refusal(StoreErrorCode code, const QString& path) {
     return tl::unexpected{StoreError{code, path, {}}};
 }
 
+/// A folder that could not be flushed takes copies all the same, and that is told behind them.
+bool isThere(const StoreResult& made) { return made || made.error().code == StoreErrorCode::notFlushed; }
+
 /// A copy made in the same second has the place.
 QString freeName(const QString& folder, BackupKind kind, Instant now) {
     QString name = backupName(kind, now);
@@ -97,14 +100,23 @@ std::optional<Backup> Backups::newestReadable() const {
 
 /// A folder that is there may be shared on purpose.
 StoreResult Backups::makeFolder() const {
-    return makePrivateFolder(folder()) ? StoreResult{} : refusal(StoreErrorCode::notWritable, folder());
+    if (QFileInfo{folder()}.isDir()) return {};
+    if (!makePrivateFolder(folder())) return refusal(StoreErrorCode::notWritable, folder());
+    return flushNewFolder(folder());
+}
+
+void Backups::removeDead() const {
+    for (const QString& name : QDir{folder()}.entryList({u".*.new-*"_s}, QDir::Files | QDir::Hidden))
+        removeDeadReplacements(path(name.sliced(1, name.lastIndexOf(u".new-"_s) - 1)));
 }
 
 StoreResult Backups::copyTo(const QString& name) const {
-    if (StoreResult made = makeFolder(); !made) return made;
+    StoreResult made = makeFolder();
+    if (!isThere(made)) return made;
     const auto bytes = readFile(file.getZELXMLPath());
     if (!bytes) return tl::unexpected{bytes.error()};
-    return replaceFile(path(name), *bytes);
+    StoreResult copied = replaceFile(path(name), *bytes);
+    return copied ? made : copied;
 }
 
 /// A tenth of what would be free without the daily copies.
@@ -117,8 +129,9 @@ qint64 Backups::room() const {
 
 StoreResult Backups::keepDaily() const {
     const QString name = backupName(BackupKind::daily, now());
-    if (QFileInfo::exists(path(name))) return {};
-    if (StoreResult made = makeFolder(); !made) return made;
+    if (QFileInfo{path(name)}.size() > 0) return {}; // a power cut may have left an empty one
+    StoreResult made = makeFolder();
+    if (!isThere(made)) return made;
     const qint64 most = room();
     // What does not fit pushes nothing out.
     if (QFileInfo{file.getZELXMLPath()}.size() > most)
@@ -129,7 +142,7 @@ StoreResult Backups::keepDaily() const {
         qCInfo(lcStore, "backup %s %s", qUtf8Printable(copy.name),
                isRemoved ? "removed" : "could not be removed");
     }
-    return {};
+    return made;
 }
 
 tl::expected<QString, StoreError> Backups::create() const {

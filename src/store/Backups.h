@@ -29,6 +29,8 @@ public:
     /// The newest one that can be read; none if there is none.
     [[nodiscard]] std::optional<Backup> newestReadable() const;
 
+    /// Removes what killed programs left in the folder.
+    void removeDead() const;
     /// Copies the data file as it is, unless that was done today, and removes daily copies that are kept no
     /// longer. To be called before a change. noRoomForBackup, and nothing is removed, if the copy would fill
     /// more than a tenth of the disk that is free without the daily ones.

@@ -75,6 +75,7 @@ QString DataFile::getTargetString() const {
 void DataFile::checkAndMakeTargetFile() const {
     const QString path = targetFile(paths);
     if (QFileInfo::exists(path)) return;
+    removeDeadReplacements(path);
     if (const auto result = replaceFile(path, "pad"); result) {
         QFile::setPermissions(path,
                               QFile::permissions(path) | QFileDevice::ReadGroup | QFileDevice::ReadOther);
@@ -92,28 +93,41 @@ StoreResult DataFile::checkXMLFileExist() const {
         removeDeadReplacements(path);
         return {};
     }
-    // Without a folder, each of the next steps fails and is told.
-    if (makePrivateFolder(folder()) && sharedByFolder(folder()) == 0)
-        QFile::setPermissions(folder(), ownersAlone | QFileDevice::ExeOwner);
-    moveOldXml();
-    // Tried after a move as well: the copy then fails, since the file is there, and the moved file is kept.
-    const QString source = paths.templateFolder + u"/ZEL_"_s + getTargetString() + u".xml"_s;
-    const bool copied = QFile::copy(source, path);
-    if (copied) QFile::setPermissions(path, ownersAlone);
-    qCInfo(lcStore, "copy from %s to %s %s", qUtf8Printable(source), qUtf8Printable(path),
-           copied ? "success" : "fail");
-    if (!QFileInfo::exists(path)) return refused(StoreErrorCode::notCreated, path);
-    return {};
+    return create();
 }
 
+StoreResult DataFile::create() const {
+    const QString path = getZELXMLPath();
+    StoreResult result;
+    // Without a folder, each of the next steps fails and is told.
+    if (makePrivateFolder(folder())) result = flushNewFolder(folder());
+    if (sharedByFolder(folder()) == 0)
+        QFile::setPermissions(folder(), ownersAlone | QFileDevice::ExeOwner);
+    FileLock lock{path};
+    if (StoreResult turn = takeTurn(lock); !turn && turn.error().code == StoreErrorCode::busy) return turn;
+    if (!QFileInfo::exists(path)) moveOldXml();
+    if (!QFileInfo::exists(path)) result = result.and_then([this] { return copyTemplate(); });
+    if (!QFileInfo::exists(path)) return refused(StoreErrorCode::notCreated, path);
+    return result;
+}
+
+StoreResult DataFile::copyTemplate() const {
+    const QString source = paths.templateFolder + u"/ZEL_"_s + getTargetString() + u".xml"_s;
+    QFile file{source}; // within the program, as a rule
+    StoreResult copied = refused(StoreErrorCode::notReadable, source);
+    if (file.open(QIODevice::ReadOnly)) copied = replaceFile(getZELXMLPath(), file.readAll());
+    qCInfo(lcStore, "copy from %s to %s %s", qUtf8Printable(source), qUtf8Printable(getZELXMLPath()),
+           copied ? "success" : "fail");
+    return copied;
+}
+
+/// The old one goes when the new one is on the disk.
 void DataFile::moveOldXml() const {
     const QString old = getZELXMLPath_Old();
-    if (QFileInfo::exists(getZELXMLPath()) || !QFileInfo::exists(old)) return;
-    if (!QFile::rename(old, getZELXMLPath())) {
+    if (!QFileInfo::exists(old)) return;
+    const auto content = readFile(old);
+    if (!content || !replaceFile(getZELXMLPath(), *content) || !QFile::remove(old))
         qCWarning(lcStore, "The data file of an older version, %s, could not be moved", qUtf8Printable(old));
-        return;
-    }
-    QFile::setPermissions(getZELXMLPath(), ownersAlone);
 }
 
 bool DataFile::isWritable() const {

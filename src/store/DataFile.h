@@ -70,6 +70,8 @@ public:
 private:
     [[nodiscard]] QString folder() const;
     void moveOldXml() const;
+    [[nodiscard]] StoreResult create() const;
+    [[nodiscard]] StoreResult copyTemplate() const;
     [[nodiscard]] StoreResult takeTurn(FileLock& lock) const;
     [[nodiscard]] StoreResult editInTurn(const Change& change, const std::function<void()>& written) const;
     StorePaths paths;

@@ -26,6 +26,7 @@ DataStore::DataStore(StorePaths paths, Clock& wallClock)
 
 StoreResult DataStore::load() {
     file.checkAndMakeTargetFile();
+    backups().removeDead();
     return loadXML();
 }
 

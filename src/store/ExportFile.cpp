@@ -109,7 +109,8 @@ StoreResult flushExports(const QString& folder) {
     removeDeadFiles(exportPrefix(folder));
     const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return systemRefused(StoreErrorCode::notFlushed, folder);
-    const bool isFlushed = ::syncfs(handle) == 0;
+    // The first writes all files; FAT empties the disk's own cache only with the second.
+    const bool isFlushed = ::syncfs(handle) == 0 && (::fsync(handle) == 0 || errno == EINVAL);
     StoreResult result;
     if (!isFlushed) result = systemRefused(StoreErrorCode::notFlushed, folder);
     ::close(handle);

@@ -13,8 +13,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 #include <unistd.h>
 
 namespace zel {
@@ -24,6 +26,18 @@ namespace {
 constexpr qsizetype randomLength = 6; // of mkostemp()'s names
 
 int errorOf(int result) { return result == 0 ? 0 : errno; }
+
+/// The name goes from the disk before the blocks are freed, which FAT does when the file is closed: a power
+/// cut must not leave one that leads to free blocks.
+int removeOpen(const QByteArray& path) {
+    if (::unlink(path.constData()) != 0) return errno;
+    const QByteArray folder = QFile::encodeName(QFileInfo{QFile::decodeName(path)}.path());
+    const int handle = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return 0;
+    ::fsync(handle);
+    ::close(handle);
+    return 0;
+}
 
 /// A removal of dead files may have taken it for one before it was locked.
 bool isLockedAndThere(int handle) {
@@ -38,7 +52,7 @@ void removeIfDead(const QByteArray& path) {
     struct stat status {};
     const bool isDead =
         ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode) && ::flock(handle, LOCK_EX | LOCK_NB) == 0;
-    if (isDead && ::unlink(path.constData()) == 0)
+    if (isDead && removeOpen(path) == 0)
         qCInfo(lcStore, "Removed %s, which a program left that was ended while writing", path.constData());
     ::close(handle);
 }
@@ -61,7 +75,7 @@ NewFile::NewFile(NewFile&& other) noexcept
     : handle{std::exchange(other.handle, -1)}, name{std::exchange(other.name, {})} {}
 
 NewFile::~NewFile() {
-    if (!name.isEmpty()) ::unlink(name.constData());
+    if (!name.isEmpty()) removeOpen(name);
     if (handle >= 0) ::close(handle);
 }
 
@@ -99,6 +113,12 @@ int NewFile::followFolder() {
 }
 
 int NewFile::flush() { return errorOf(::fsync(handle)); }
+
+bool NewFile::isOnFat() const {
+    struct statfs system {};
+    return ::fstatfs(handle, &system) == 0
+           && (system.f_type == MSDOS_SUPER_MAGIC || system.f_type == EXFAT_SUPER_MAGIC);
+}
 
 int NewFile::flushFileSystem() { return errorOf(::syncfs(handle)); }
 

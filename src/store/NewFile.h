@@ -28,6 +28,8 @@ public:
     /// As its folder has new files (newFileMode()). It is nobody else's before.
     [[nodiscard]] int followFolder();
     [[nodiscard]] int flush();
+    /// On a file system without a journal, as sticks have it: only the order of flushes keeps it in order.
+    [[nodiscard]] bool isOnFat() const;
     [[nodiscard]] int takePlace(const QString& path);
     /// Waits until its whole file system is on the disk.
     [[nodiscard]] int flushFileSystem();

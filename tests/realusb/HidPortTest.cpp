@@ -10,6 +10,8 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
+#include <iterator>
 #include <string>
 #include <sys/wait.h>
 #include <tuple>
@@ -72,6 +74,35 @@ TEST(HidPortAsRoot, DownloadsWhatTheMonitorHolds) {
     ASSERT_EQ(readings.size(), expected.size());
     for (std::size_t i = 0; i < readings.size(); ++i)
         EXPECT_TRUE(readings[i].isSame(expected[i])) << i;
+}
+
+std::ptrdiff_t openHandles() {
+    using Folder = std::filesystem::directory_iterator;
+    return std::distance(Folder{"/proc/self/fd"}, Folder{});
+}
+
+TEST(HidPortAsRoot, IsSeenAndMissedEachTimeAndLeavesNothingOpen) {
+    SystemClock clock;
+    HidPort port;
+    BPMModel model(port, clock);
+    const auto comesTo = [&](bool isConnected) {
+        const auto end = clock.now() + std::chrono::minutes{1};
+        while (clock.now() < end) {
+            if (model.checkIsConnected() == isConnected) return true;
+            clock.sleep(std::chrono::milliseconds{10});
+        }
+        return false;
+    };
+    std::ptrdiff_t before = 0;
+    for (int cycle = 0; cycle < 50; ++cycle) {
+        cable("plug");
+        ASSERT_TRUE(comesTo(true)) << cycle;
+        cable("unplug");
+        ASSERT_TRUE(comesTo(false)) << cycle;
+        ASSERT_EQ(port.open(), PortOpen::absent) << cycle;
+        if (cycle == 0) before = openHandles();
+    }
+    EXPECT_EQ(openHandles(), before);
 }
 
 TEST(HidPortAsNobody, MissingPermissionIsTold) {

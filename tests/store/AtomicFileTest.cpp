@@ -12,16 +12,29 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <optional>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
 constexpr int noFault = 1'000'000;
 int folderFlushesThatWork = noFault; ///< from now on
+bool isFat = false;                  ///< the file system, as far as it tells
+QStringList* flushes = nullptr;      ///< where to note what is flushed, and what is still open then
+
+/// What has been removed or replaced, and is open all the same.
+bool isReplacedFileOpen() {
+    const QDir handles{QStringLiteral("/proc/self/fd")};
+    return std::ranges::any_of(handles.entryInfoList(QDir::Files | QDir::System), [](const QFileInfo& each) {
+        return each.symLinkTarget().endsWith(QLatin1StringView{"/ZEL.xml (deleted)"});
+    });
+}
 
 /// Files that cannot be given away, as by all but the superuser; perhaps not even to a group.
 struct Giving {
@@ -43,10 +56,21 @@ extern "C" int fchown(int handle, uid_t owner, gid_t group) {
     return -1;
 }
 
+/// In the library's place: a file system of another kind.
+extern "C" int fstatfs(int handle, struct statfs* system) noexcept {
+    const auto result = static_cast<int>(syscall(SYS_fstatfs, handle, system));
+    if (isFat) system->f_type = MSDOS_SUPER_MAGIC;
+    return result;
+}
+
 /// In the library's place: a disk whose folders cannot be flushed.
 extern "C" int fsync(int handle) {
     struct stat status {};
-    if (fstat(handle, &status) == 0 && S_ISDIR(status.st_mode) && --folderFlushesThatWork < 0) {
+    const bool isFolder = fstat(handle, &status) == 0 && S_ISDIR(status.st_mode);
+    if (flushes != nullptr)
+        flushes->push_back(QLatin1StringView{isFolder ? "folder" : "file"}
+                           + QLatin1StringView{isReplacedFileOpen() ? ", old one open" : ""});
+    if (isFolder && --folderFlushesThatWork < 0) {
         errno = EIO;
         return -1;
     }
@@ -80,6 +104,23 @@ TEST_F(AtomicFileTest, NewFilesAreTheOwnersAndPermissionsAreKept) {
     EXPECT_EQ(mode(path), 0640U);
     EXPECT_EQ(readFile(path).value(), "two");
     EXPECT_EQ(filesInFolder(), 1);
+}
+
+/// The order without which FAT, cut off in between, leads a name to blocks that are free or another file's.
+TEST_F(AtomicFileTest, FlushesInTheOrderThatKeepsOldOrNew) {
+    ASSERT_TRUE(replaceFile(path, "one"));
+    for (const bool onFat : {false, true}) {
+        QStringList seen;
+        flushes = &seen;
+        isFat = onFat;
+        const auto result = replaceFile(path, "two");
+        flushes = nullptr;
+        isFat = false;
+        ASSERT_TRUE(result);
+        const QStringList usual{u"file"_s, u"folder"_s};
+        const QStringList fats{u"folder"_s, u"file"_s, u"folder, old one open"_s, u"file, old one open"_s};
+        EXPECT_EQ(seen, onFat ? fats : usual);
+    }
 }
 
 TEST_F(AtomicFileTest, SymbolicLinksAreFollowed) {

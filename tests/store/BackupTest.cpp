@@ -130,6 +130,17 @@ TEST_F(BackupTest, TheFirstChangeOfADayKeepsWhatWasThere) {
     EXPECT_FALSE(QFileInfo{folder.filePath(u"ZEL-2026-12-12.xml"_s)}.permissions() & others);
 }
 
+TEST_F(BackupTest, WhatAPowerCutLeftIsRemovedAndMadeAnew) {
+    QDir{}.mkpath(folder.path());
+    const QString dead = folder.filePath(u".ZEL-2026-11-20.xml.new-aB3xYz"_s);
+    for (const QString& each : {dead, folder.filePath(u"ZEL-2026-11-21.xml"_s)})
+        ASSERT_TRUE(QFile{each}.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(store.load());
+    EXPECT_FALSE(QFileInfo::exists(dead));
+    change(u"one"_s);
+    EXPECT_EQ(copyNamed("ZEL-2026-11-21.xml"), first) << "an empty file is no copy";
+}
+
 TEST_F(BackupTest, ACopyThatFailsHoldsUpNoChangeAndIsTold) {
     QFile blocked{folder.path()};
     ASSERT_TRUE(blocked.open(QIODevice::WriteOnly)); // a file in the folder's place
