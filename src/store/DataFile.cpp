@@ -27,13 +27,14 @@ tl::unexpected<StoreError> refused(StoreErrorCode code, const QString& path) {
     return tl::unexpected{StoreError{code, path, {}}};
 }
 
-StoreResult replaceDocument(const XmlDocument& document, const QString& path) {
+StoreResult replaceDocument(XmlDocument document, const QString& path) {
     const auto bytes = document.serialise();
+    document = {}; // so that there are never two trees in memory
     if (!bytes) return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, bytes.error()}};
     if (bytes->size() > largestFile)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, qtTrId("XmlTooLarge")}};
     // Nothing that could not be read again ever takes the file's place. This costs a quarter of the time of a
-    // change, and a copy of the text and its tree for as long.
+    // change.
     if (const auto readAgain = XmlDocument::parse(*bytes); !readAgain)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, readAgain.error()}};
     return replaceFile(path, *bytes);
@@ -151,7 +152,7 @@ StoreResult DataFile::editInTurn(const Change& change) const {
     auto document = read();
     if (!document) return tl::unexpected{document.error()};
     if (change(document->root()) == Edit::unchanged) return {};
-    StoreResult written = replaceDocument(*document, path);
+    StoreResult written = replaceDocument(std::move(*document), path);
     if (written) qCInfo(lcStore, "write document out...");
     return written;
 }

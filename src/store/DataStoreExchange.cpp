@@ -44,7 +44,7 @@ StoreResult DataStore::exportCSV(const QString& folder, const QString& ID, Repla
 }
 
 tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& path) {
-    const auto imported = readImport(path);
+    auto imported = readImport(path);
     if (!imported) return tl::unexpected{imported.error()};
     if (const auto fault = importFault(imported->root(), path)) return tl::unexpected{*fault};
     ImportCounts counts;
@@ -54,6 +54,7 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& pa
         known = knownPatient(root, imported->root());
         if (!known.isNull()) return DataFile::Edit::unchanged;
         counts = importRecords(root, imported->root());
+        *imported = {}; // a large file would stand in memory twice
         return DataFile::Edit::changed;
     });
     if (!stored) {
