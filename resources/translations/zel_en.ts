@@ -85,7 +85,8 @@
     <message id="XmlTextOutsideRoot"><translation>It holds text outside its root element.</translation></message>
     <message id="XmlTooDeep"><translation>Its elements lie within each other by more than %1 levels.</translation></message>
     <message id="XmlTooLarge"><translation>It would be larger than 512 MiB.</translation></message>
-    <message id="XmlTooManyParts"><translation>It holds more than %1 elements and attributes.</translation></message>
+    <message id="XmlTooManyParts"><translation>It holds more than %1 elements, attributes and texts, which is too many for a file of its size.</translation></message>
+    <message id="XmlTooManyRecords"><translation>It holds more than %1 records, which is too many for a file of its size.</translation></message>
     <message id="XmlWrongRoot"><translation>Its root element is “%1”, not “ZEL”.</translation></message>
 </context>
 <context>
@@ -718,6 +719,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportPeriod"><translation>From: %1 To: %2</translation></message>
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
+    <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="reportYears"><translation>years</translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>

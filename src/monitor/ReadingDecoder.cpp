@@ -38,6 +38,7 @@ std::uint32_t hex(std::string_view digits, std::size_t position) {
 
 /// A monitor without a valid clock stores zeros from the month on.
 Date dateOf(const std::string& text, const QString& ID) {
+    if (text.size() < flagOffset) return {}; // of fewer digits the year would be taken for a short one
     const QString d =
         u"20"_s + QString::fromLatin1(text.data(), qsizetype(std::min<std::size_t>(text.size(), 10)));
     qCDebug(lcMonitor, "readBPMDate DateTime:%ls ID:[%ls]", qUtf16Printable(d), qUtf16Printable(ID));

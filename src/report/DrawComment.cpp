@@ -42,7 +42,7 @@ CommentPages layOutComments(const ReportSource& report, const Rect& rect) {
     CommentPages layout;
     std::vector<TextItem> items;
     for (const auto& comment : report.comments) {
-        layout.lines.push_back(wrapped(comment->comment, width, smallFont));
+        layout.lines.push_back(wrapped(printable(comment->comment), width, smallFont));
         items.push_back({static_cast<int>(layout.lines.back().size()), least});
     }
     layout.pages = textPages(items, rect.height, lineHeight(smallFont), 2 * DrawComment::yMargin);

@@ -63,7 +63,7 @@ public:
     /// That the text takes in a paragraph of that width; one more than \p most for all that take more.
     [[nodiscard]] int linesOf(double width, const QString& text, int most) const {
         const double room = width * across - 2 * textIndent;
-        return static_cast<int>(wrapped(text, room, labelFont, most + 1).size());
+        return static_cast<int>(wrapped(printable(text), room, labelFont, most + 1).size());
     }
     [[nodiscard]] double paragraphLine() const { return lineHeight(labelFont) / down; }
     [[nodiscard]] std::vector<FormText> cutTexts() && { return std::move(cut); }
@@ -76,7 +76,7 @@ private:
             --font.size;
         const Point at{box.x + textIndent, box.y + baseOf(box, font)};
         if (isWhole(value, width, font)) return fieldText(picture, value, at, width, font);
-        if (wrapped(value, width, twoLineFont, 3).size() <= 2)
+        if (wrapped(printable(value), width, twoLineFont, 3).size() <= 2)
             return fieldParagraph(picture, value, {at.x, box.top() - 1}, width, twoLineFont, 2);
         cut.push_back({label, value});
         fieldText(picture, value, at, width, font);
@@ -206,7 +206,7 @@ PatientPages layOutPatient(const ReportSource& report, const Rect& rect) {
     std::vector<TextItem> items;
     Picture form;
     for (const auto& [label, text] : drawForm(form, report, rect)) {
-        layout.cut.push_back({label, wrapped(text, rect.width - 2 * blockInset, labelFont)});
+        layout.cut.push_back({label, wrapped(printable(text), rect.width - 2 * blockInset, labelFont)});
         items.push_back({static_cast<int>(layout.cut.back().lines.size()), 3 * line + margins});
     }
     layout.more = textPages(items, rect.height, line, margins);

@@ -13,6 +13,9 @@ namespace {
 /// More than any field of a page has room for.
 constexpr qsizetype mostCharacters = 1000;
 constexpr int smallestFigure = 6;
+/// Of a text that is printed in full: no note that somebody wrote is as long, and one of megabytes would take
+/// minutes and thousands of pages.
+constexpr qsizetype longestPrinted = 100'000;
 
 /// What a field can show at most, with a blank for each line end, tab and other control character.
 QString oneLine(const QString& text) {
@@ -87,6 +90,12 @@ QStringList wrapped(const QString& text, double width, const TextAttribute& attr
         lines += (isEnded || from >= shown.size() ? line : withoutBlanksAtEnd(line)).toString();
     }
     return lines;
+}
+
+QString printable(const QString& text) {
+    if (text.size() <= longestPrinted) return text;
+    const auto end = longestPrinted - (text[longestPrinted - 1].isHighSurrogate() ? 1 : 0);
+    return text.left(end) + u'\n' + qtTrId("reportTextTooLong").arg(text.size() - end);
 }
 
 void fieldParagraph(Picture& picture, const QString& text, Point at, double width,

@@ -25,6 +25,10 @@ void fieldFigure(Picture& picture, const QString& text, Point at, double width, 
 [[nodiscard]] QStringList wrapped(const QString& text, double width, const TextAttribute& attribute,
                                   qsizetype mostLines = std::numeric_limits<qsizetype>::max());
 
+/// A text of an ordinary length as it is; of a longer one as much as some thirty pages take, and a last line
+/// that tells how much is left out.
+[[nodiscard]] QString printable(const QString& text);
+
 /// Wrapped lines that hang below \p at, \p mostLines at most; the last one ends in an ellipsis if
 /// the text goes on.
 void fieldParagraph(Picture& picture, const QString& text, Point at, double width,

@@ -47,7 +47,7 @@ StoreResult DataStore::exportCSV(const QString& folder, const QString& ID, Repla
 }
 
 tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& path) {
-    const auto imported = readImport(path);
+    auto imported = readImport(path);
     if (!imported) return tl::unexpected{imported.error()};
     if (const auto fault = importFault(imported->root(), path)) return tl::unexpected{*fault};
     ImportCounts counts;
@@ -61,6 +61,7 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& pa
                           .subject = QFileInfo{path}.fileName(),
                           .patientID = childText(firstElement(imported->root(), "Patient"), "ID"),
                           .commentID = {}});
+        *imported = {}; // a large file would stand in memory twice
         return DataFile::Edit::changed;
     });
     if (!stored) {

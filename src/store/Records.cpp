@@ -113,6 +113,9 @@ Records Records::read(pugi::xml_node root, const LocalZone& zone) {
         records.gSettingModel = SettingModel::initWithXMLNode(setting);
         records.hasSetting = true;
     }
+    // Growing would take the memory of twice as many for a moment.
+    records.gaPatient.reserve(static_cast<std::size_t>(std::ranges::count_if(
+        root.children(), [](pugi::xml_node node) { return isElement(node, "Patient"); })));
     for (pugi::xml_node element = root.first_child(); element; element = element.next_sibling()) {
         readRecord(records, element, zone);
     }

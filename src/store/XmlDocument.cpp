@@ -29,9 +29,14 @@ struct ByteWriter final : pugi::xml_writer {
     }
 };
 
-/// How much a file may hold: what is parsed takes 64 bytes for each element, attribute and piece of text.
-constexpr std::size_t mostParts = 10'000'000;
 constexpr int mostLevels = 100;
+
+/// How much a file may hold. What is parsed takes 64 bytes for each element, attribute and piece of text, and
+/// a patient that is read 300 more, so that a file of nothing but short ones fills memory with many times its
+/// size. Records that mean something take 20 bytes for each element and 100 in all, also without indentation;
+/// a small file may hold shorter ones.
+std::size_t mostParts(std::size_t size) { return 500'000 + size / 16; }
+std::size_t mostRecords(std::size_t size) { return 200'000 + size / 50; }
 
 /// What the text holds that calls for a closer look or for a refusal before it is parsed.
 struct Survey {
@@ -40,13 +45,15 @@ struct Survey {
     bool hasEqualsSign = false;   ///< after the declaration: perhaps an attribute's
     bool hasNonCharacter = false; ///< U+FFFE or U+FFFF
     bool hasCdata = false;
-    std::size_t parts = 0; ///< at least as many as elements and attributes
+    std::size_t parts = 0; ///< half as many as elements, attributes and pieces of text, or more
+    std::size_t tags = 0;  ///< of these, begins of tags
 };
 
 bool isControl(char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }
 
 void surveyBlock(std::string_view block, Survey& seen) {
     std::size_t marks = 0;
+    std::size_t tags = 0;
     bool hasControl = false;
     bool hasAmpersand = false;
     bool hasSuspect = false;
@@ -55,11 +62,13 @@ void surveyBlock(std::string_view block, Survey& seen) {
         hasAmpersand |= c == '&';
         hasSuspect |= c == '\xEF';
         marks += (c == '<' || c == '=') ? 1U : 0U;
+        tags += c == '<' ? 1U : 0U;
     }
     seen.hasControl = seen.hasControl || hasControl;
     seen.hasAmpersand = seen.hasAmpersand || hasAmpersand;
     seen.hasNonCharacter = seen.hasNonCharacter || hasSuspect; // until it has been looked at
     seen.parts += marks;
+    seen.tags += tags;
 }
 
 Survey survey(std::string_view text) {
@@ -77,6 +86,26 @@ Survey survey(std::string_view text) {
     return seen;
 }
 
+/// The tag that begins at \p at keeps the text that follows it.
+bool isStartTag(std::string_view text, std::size_t at) {
+    const auto end = text.find('>', at);
+    const auto mark = text.substr(at + 1, 1);
+    return end != text.npos && mark != "/" && mark != "!" && mark != "?" && text[end - 1] != '/';
+}
+
+/// Elements, attributes and pieces of text, but for those that are kept in their elements.
+std::size_t partsOf(std::string_view text, const Survey& seen) {
+    std::size_t parts = seen.parts - seen.tags;
+    auto last = text.npos; // where the tag before begins
+    for (auto at = text.find('<'); at != text.npos; last = at, at = text.find('<', at + 1)) {
+        if (!text.substr(at).starts_with("</")) ++parts;
+        const auto before = at == 0 ? text.npos : text.find_last_not_of(" \t\r\n", at - 1);
+        const bool isText = before != text.npos && text[before] != '>';
+        if (isText && (seen.hasCdata || last == text.npos || !isStartTag(text, last))) ++parts;
+    }
+    return parts;
+}
+
 /// What is wrong with a text before it is parsed, or an empty text.
 QString textFault(std::string_view text, const Survey& seen) {
     if (seen.hasControl) return qtTrId("XmlControlCharacter");
@@ -84,13 +113,10 @@ QString textFault(std::string_view text, const Survey& seen) {
     const auto last = text.find_last_not_of(" \t\r\n");
     // The parser lets one more character pass.
     if (last != text.npos && text[last] != '>') return qtTrId("XmlTextOutsideRoot");
-    // An end tag is no part; counting them takes as long again, and is rarely needed.
-    std::size_t ends = 0;
-    if (seen.parts > mostParts)
-        for (auto at = text.find("</"); at != text.npos; at = text.find("</", at + 2))
-            ++ends;
-    return seen.parts - std::min(ends, seen.parts) > mostParts ? qtTrId("XmlTooManyParts").arg(mostParts)
-                                                               : QString{};
+    const std::size_t most = mostParts(text.size());
+    // Counting exactly takes as long again.
+    const bool isMany = 2 * seen.parts > most && partsOf(text, seen) > most;
+    return isMany ? qtTrId("XmlTooManyParts").arg(most) : QString{};
 }
 
 bool hasDoubleAttribute(pugi::xml_node element) {
@@ -114,7 +140,10 @@ struct TreeSearch final : pugi::xml_tree_walker {
     }
 };
 
-QString treeFault(pugi::xml_document& tree, const Survey& seen) {
+QString treeFault(pugi::xml_document& tree, const Survey& seen, std::size_t size) {
+    const auto records = tree.document_element().children();
+    if (static_cast<std::size_t>(std::distance(records.begin(), records.end())) > mostRecords(size))
+        return qtTrId("XmlTooManyRecords").arg(mostRecords(size));
     TreeSearch search{seen.hasEqualsSign};
     tree.traverse(search);
     if (search.isDeep) return qtTrId("XmlTooDeep").arg(mostLevels);
@@ -215,7 +244,8 @@ tl::expected<XmlDocument, QString> XmlDocument::parse(QByteArray file) {
         document.tree.load_buffer_inplace(document.buffer.data(), text.size(), flags, pugi::encoding_utf8);
     if (!result) return tl::unexpected{parserWords(result, document.buffer)};
     if (const QString fault = documentFault(document.tree); !fault.isEmpty()) return tl::unexpected{fault};
-    if (const QString fault = treeFault(document.tree, seen); !fault.isEmpty()) return tl::unexpected{fault};
+    if (const QString fault = treeFault(document.tree, seen, text.size()); !fault.isEmpty())
+        return tl::unexpected{fault};
     return document;
 }
 

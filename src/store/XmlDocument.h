@@ -19,7 +19,8 @@ public:
     /// Parses a whole file. Stricter than the parser, which lets some files pass that are not well-formed and
     /// leaves half a tree behind an error: two roots, text outside the root, an attribute given twice, bytes
     /// that are not in the encoding, control characters, references to what is not defined. Refuses what
-    /// would take too much: more than 100 levels, more than 10 million elements and attributes.
+    /// would take too much: more than 100 levels, or more elements, attributes and records than a file of its
+    /// size holds that means something.
     /// \return what is wrong, in words for the user
     [[nodiscard]] static tl::expected<XmlDocument, QString> parse(QByteArray file);
 

@@ -86,5 +86,9 @@ TEST(ReadingDecoder, Conversions) {
     EXPECT_EQ(convertSystole("1z"), 1U);
 }
 
+TEST(ReadingDecoder, aDateThatIsCutShortIsNone) {
+    EXPECT_FALSE(initWithUSBData("4060531", QStringLiteral("A"), {}).ReadingDate);
+}
+
 } // namespace
 } // namespace zel

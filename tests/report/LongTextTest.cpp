@@ -146,6 +146,23 @@ TEST(LongText, theFormsUpperFieldsGrowWhereTheNotesLeaveRoom) {
     EXPECT_GT(y(u"Patient Notes"_s), y(u"one line"_s));
 }
 
+/// A text that takes thousands of pages takes minutes as well.
+TEST(LongText, isPrintedUpToSomeThirtyPages) {
+    const QString note = u"word and another "_s.repeated(100'000);
+    SampleReport sample;
+    sample.addComment("2019-01-05", "2019-01-06", 2, note);
+    sample.patient.PatientNotes = note;
+    const PrintView view = sample.view();
+    for (const Section section : {Section::comment, Section::PatientProfile}) {
+        EXPECT_GT(view.getTotalPages(section), 10);
+        EXPECT_LT(view.getTotalPages(section), 100);
+        EXPECT_TRUE(textOfBody(view, section).endsWith(u"1600000 more characters."_s));
+    }
+    EXPECT_EQ(printable(u"x"_s.repeated(100'000)).size(), 100'000);
+    EXPECT_TRUE(printable(QString(99'999, u'x') + u"\U0001F600"_s).isValidUtf16())
+        << "no half of a character";
+}
+
 } // namespace
 
 } // namespace zel

@@ -148,7 +148,22 @@ TEST(XmlDocument, RefusesWhatWouldTakeTooMuch) {
     EXPECT_TRUE(XmlDocument::parse(levels(99)));
     EXPECT_FALSE(XmlDocument::parse(levels(100)));
     EXPECT_FALSE(XmlDocument::parse(levels(200'000)));
-    EXPECT_FALSE(XmlDocument::parse("<ZEL>" + QByteArray{"<a/>"}.repeated(10'000'000) + "</ZEL>"));
+    const auto holds = [](const QByteArray& records) {
+        return XmlDocument::parse("<ZEL>" + records + "</ZEL>").has_value();
+    };
+    const auto within = [](const char* parts, qsizetype count) {
+        return "<Own>" + QByteArray{parts}.repeated(count) + "</Own>";
+    };
+    for (const char* dense :
+         {"<a/>", "x<b/>", " x <bbbbbb/>", "<!---->", "<a>x</a>x", "<![CDATA[]]>", "<a b='' c=''/>"}) {
+        EXPECT_TRUE(holds(within(dense, 100'000))) << dense;
+        EXPECT_FALSE(holds(within(dense, 2'100'000))) << dense;
+    }
+    EXPECT_TRUE(holds(within("<Sys>131</Sys>\n", 900'000))) << "as in a file of another program";
+    EXPECT_TRUE(holds(
+        QByteArray{"<MeasureRec><ID>A</ID><RecID>1</RecID><Sys>131</Sys></MeasureRec>"}.repeated(300'000)));
+    EXPECT_FALSE(holds(QByteArray{"<Patient>      </Patient>"}.repeated(500'000)))
+        << "few parts, but many records";
     QByteArray element = "<ZEL";
     for (int i = 0; i < 100'000; ++i)
         element += " a" + QByteArray::number(i) + "=''";
