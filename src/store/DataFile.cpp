@@ -102,8 +102,7 @@ StoreResult DataFile::create() const {
     StoreResult result;
     // Without a folder, each of the next steps fails and is told.
     if (makePrivateFolder(folder())) result = flushNewFolder(folder());
-    if (sharedByFolder(folder()) == 0)
-        QFile::setPermissions(folder(), ownersAlone | QFileDevice::ExeOwner);
+    if (sharedByFolder(folder()) == 0) QFile::setPermissions(folder(), ownersAlone | QFileDevice::ExeOwner);
     FileLock lock{path};
     if (StoreResult turn = takeTurn(lock); !turn && turn.error().code == StoreErrorCode::busy) return turn;
     if (!QFileInfo::exists(path)) moveOldXml();

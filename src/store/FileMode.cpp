@@ -5,12 +5,12 @@
 #include <QFileInfo>
 #include <QtEndian>
 
-#include <array>
 #include <fstream>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <vector>
 
 namespace zel {
 
@@ -22,7 +22,7 @@ enum Tag : quint16 { ownGroup = 0x04, mask = 0x10, others = 0x20 };
 
 /// \return the permissions of the group and of others; none if the folder has no list for what is made in it
 std::optional<mode_t> defaultList(const QString& folder) {
-    std::array<char, headerLength + entryLength * mostEntries> list{};
+    std::vector<char> list(headerLength + entryLength * mostEntries);
     const ssize_t size = ::getxattr(QFile::encodeName(folder).constData(), "system.posix_acl_default",
                                     list.data(), list.size());
     if (size <= static_cast<ssize_t>(headerLength)) return std::nullopt;

@@ -23,7 +23,7 @@ QString fromIcu(const icu::UnicodeString& text) {
 }
 
 constexpr qsizetype longestDate = 30; // characters of the longest form, "yyyy-MM-ddTHH:mm:ss.SSS+hh:mm"
-constexpr double farthest = 3.2e14; // ms: some ten thousand years from 1970
+constexpr double farthest = 3.2e14;   // ms: some ten thousand years from 1970
 
 /// A strict formatter of the purely Gregorian calendar, or none for a pattern that is none.
 std::unique_ptr<icu::SimpleDateFormat> formatter(const QString& pattern, const char* locale,

@@ -2,6 +2,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString sentence(StoreErrorCode code) {
@@ -53,7 +55,11 @@ bool isStepRefusal(StoreErrorCode code) {
            || code == stepPatientGone || code == stepHasRecords;
 }
 
-QString describe(const StoreError& error) { return withDetail(sentence(error.code).arg(error.path), error); }
+/// Not every sentence has a place for the path, and Qt logs what it finds no place for.
+QString describe(const StoreError& error) {
+    const QString text = sentence(error.code);
+    return withDetail(text.contains(u"%1"_s) ? text.arg(error.path) : text, error);
+}
 
 QString describeExport(const StoreError& error) {
     if (error.code == StoreErrorCode::notFlushed)

@@ -21,7 +21,8 @@ enum class StoreErrorCode {
     busy,             ///< another program holds the file
     lockBlocked,      ///< a folder or another thing, the path, is in the place of the file's lock
     noSuchRecord,     ///< no record with the given ID
-    changedElsewhere, ///< several records with the given ID, none as it was read here
+    changedElsewhere, ///< the file during the write, or several records with the given ID, none as it was
+                      ///< read here
     alreadyKnown,     ///< a record with the given ID exists
     invalidRecord,    ///< the record lacks what it needs to be stored
     alreadyExists,    ///< the file to write is there and may not be replaced
