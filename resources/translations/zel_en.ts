@@ -106,6 +106,10 @@
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n undated one</numerusform><numerusform>%n undated ones</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n without any date</numerusform><numerusform>%n without any date</numerusform></translation></message>
+    <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
+    <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
+    <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
+    <message id="missingReadings" numerus="yes"><translation><numerusform>%n more reading</numerusform><numerusform>%n more readings</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="rowsCut"><translation>The comments cover more days without a reading than the list can show: at most %1, so that some are missing.</translation></message>
 </context>
@@ -697,6 +701,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
+    <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n reading of the first measuring day is not counted.</numerusform><numerusform>%n readings of the first measuring day are not counted.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
@@ -711,6 +716,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
   download   store the monitor's readings for a patient
   readings   print a patient's readings
   statistics print the averages, minima and maxima of a patient's readings
+  average    print the average of a measuring week, as guidelines for home readings order it
   report     write a patient's report as a PDF
   export-xml export all patients, or one, as XML files
   export-csv export a patient and the readings as a CSV file
@@ -724,6 +730,35 @@ Options:
   --version                    show the version
 
 Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage.</translation></message>
+    <message id="CliHelpAverage"><translation>Usage: zel average --patient ID [--rule esh|nice|aha] [--to DAY]
+
+Prints the average of a patient's readings in a measuring week, the seven days that end with a day, by the
+rule of a guideline: which days and readings count, how many are needed, and the threshold of the average.
+Numbers only: what they mean for the patient is for a physician to say.
+
+  rule        esh: 3 days or more, the first one left out, then 12 readings or more; threshold 135/85
+              nice: 4 days or more, the first one left out, then 2 readings in the morning and 2 in the
+              evening of each day; threshold 135/85
+              aha: 3 days or more and 12 readings or more; threshold 130/80
+  complete    yes, or no where days or readings are missing; the average is printed all the same
+  missing     what is missing
+  days        with readings that count
+  readings    that count
+  sys, dia    in mmHg
+  pulse       in beats per minute
+  morning     sys/dia of those before noon
+  evening     sys/dia of those from noon on
+  threshold   reached where sys or dia is at its part of it or above, before rounding
+
+A line that has nothing to say is left out. How many readings of the first day are left out goes to
+standard error.
+
+Options:
+  --patient ID                 whose readings
+  --rule RULE                  esh (unless told otherwise), nice or aha
+  --to DAY                     the week's last day (yyyy-MM-dd); else the last day with readings
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
     <message id="CliHelpBackup"><translation>Usage: zel backup list
        zel backup create
        zel backup restore NAME
@@ -901,6 +936,7 @@ Options:
     <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
     <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
+    <message id="CliNoSuchRule"><translation>There is no rule '%1'. The rules are %2.</translation></message>
     <message id="CliNoSuchSection"><translation>There is no section '%1'. The sections are all, or any of %2, with commas between them.</translation></message>
     <message id="CliOneJob"><translation>Only one of --set-clock, --send-id and --erase can be done at a time.</translation></message>
     <message id="CliOptionMissing"><translation>--%1 is missing, or its value is empty.</translation></message>

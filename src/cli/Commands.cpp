@@ -47,10 +47,10 @@ void printLine(std::ostream& stream, const QString& text) {
     stream << text.toStdString() << '\n' << std::flush;
 }
 
-std::array<Command, 11> commands() {
-    return {monitorCommand(),    patientsCommand(), downloadCommand(),  readingsCommand(),
-            statisticsCommand(), reportCommand(),   exportXmlCommand(), exportCsvCommand(),
-            importCommand(),     settingsCommand(), backupCommand()};
+std::array<Command, 12> commands() {
+    return {monitorCommand(),    patientsCommand(), downloadCommand(), readingsCommand(),
+            statisticsCommand(), averageCommand(),  reportCommand(),   exportXmlCommand(),
+            exportCsvCommand(),  importCommand(),   settingsCommand(), backupCommand()};
 }
 
 std::optional<Command> commandByName(const QString& name) {
