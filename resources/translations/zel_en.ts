@@ -100,6 +100,10 @@
 </context>
 <context>
     <name>analysis</name>
+    <message id="beforeAndSince"><translation>%1 before, %2 since: %3</translation></message>
+    <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
+    <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
+    <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
     <message id="leftOut"><translation>%1 not counted</translation></message>
@@ -110,6 +114,9 @@
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
     <message id="missingReadings" numerus="yes"><translation><numerusform>%n more reading</numerusform><numerusform>%n more readings</numerusform></translation></message>
+    <message id="noneBefore"><translation>no reading in the 14 days before, %1 since</translation></message>
+    <message id="noneBeforeOrSince"><translation>no reading before or since</translation></message>
+    <message id="noneSince"><translation>%1 before, no reading since</translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="rowsCut"><translation>The comments cover more days without a reading than the list can show: at most %1, so that some are missing.</translation></message>
 </context>

@@ -40,17 +40,11 @@ WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {
     return days;
 }
 
-void add(WeekMeans& means, const ReadingModel& reading) {
-    means.sys.add(reading.sys);
-    means.dia.add(reading.dia);
-    means.pulse.add(reading.pulse);
-}
-
 void addMeans(MeasuringWeek& week, const ReadingList& readings, DayNumber firstUsed) {
     for (const ReadingModel& reading : readings)
         if (isOfWeek(reading, week) && reading.day >= firstUsed) {
-            add(week.all, reading);
-            add(reading.isPMData ? week.evening : week.morning, reading);
+            week.all.add(reading);
+            (reading.isPMData ? week.evening : week.morning).add(reading);
         }
 }
 

@@ -2,7 +2,7 @@
 // The average of a week of home readings as guidelines for it order; docs/clinical.md has the rules and where
 // they come from.
 
-#include "analysis/ExactMean.h"
+#include "analysis/PressureMeans.h"
 #include "store/RecordLinks.h"
 
 #include <QString>
@@ -39,20 +39,14 @@ inline constexpr std::array averageRules{
 }
 [[nodiscard]] std::optional<AverageRule> averageRuleNamed(const QString& key);
 
-struct WeekMeans {
-    ExactMean sys; ///< mmHg
-    ExactMean dia;
-    ExactMean pulse; ///< beats per minute
-};
-
 /// What a rule makes of the seven days that end with a day.
 struct MeasuringWeek {
     AverageRule rule = AverageRule::esh;
     DayNumber begin = noDay; ///< noDay: there is no dated reading, and no end was told
     DayNumber end = noDay;
-    WeekMeans all{}; ///< of the readings that count
-    WeekMeans morning{};
-    WeekMeans evening{};
+    PressureMeans all{}; ///< of the readings that count
+    PressureMeans morning{};
+    PressureMeans evening{};
     int daysUsed = 0; ///< measuring days that count
     int daysLeftOut = 0;
     int readingsLeftOut = 0; ///< those of the days left out
@@ -61,7 +55,7 @@ struct MeasuringWeek {
     int missingMornings = 0; ///< readings, like the next
     int missingEvenings = 0;
 
-    [[nodiscard]] std::uint64_t readingsUsed() const { return all.sys.count(); }
+    [[nodiscard]] std::uint64_t readingsUsed() const { return all.count(); }
     [[nodiscard]] bool isComplete() const;
     /// Whether one of the means, not rounded, is at its threshold or above.
     [[nodiscard]] bool reachesThreshold() const;

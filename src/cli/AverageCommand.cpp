@@ -22,8 +22,8 @@ tl::expected<AverageRule, Failure> ruleOption(const Request& request) {
 
 QString line(const char* name, const QString& value) { return QLatin1String(name) + u": "_s + value; }
 
-void addHalfDay(QStringList& lines, const char* name, const WeekMeans& means) {
-    if (means.sys.count() == 0) return;
+void addHalfDay(QStringList& lines, const char* name, const PressureMeans& means) {
+    if (means.count() == 0) return;
     lines += line(name, means.sys.withTenths() + u'/' + means.dia.withTenths());
 }
 

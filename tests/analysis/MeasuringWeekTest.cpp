@@ -46,7 +46,7 @@ ReadingList readingsOf(const char* days) {
 
 constexpr DayNumber lastOfWeek = 20526; // 14 March 2026
 
-QString pair(const WeekMeans& means) { return means.sys.withTenths() + u'/' + means.dia.withTenths(); }
+QString pair(const PressureMeans& means) { return means.sys.withTenths() + u'/' + means.dia.withTenths(); }
 
 std::string means(const MeasuringWeek& week) {
     if (week.readingsUsed() == 0) return "";
@@ -54,8 +54,8 @@ std::string means(const MeasuringWeek& week) {
     text += u" (%1/%2/%3)"_s.arg(week.all.sys.rounded())
                 .arg(week.all.dia.rounded())
                 .arg(week.all.pulse.rounded());
-    if (week.morning.sys.count() > 0) text += u" am "_s + pair(week.morning);
-    if (week.evening.sys.count() > 0) text += u" pm "_s + pair(week.evening);
+    if (week.morning.count() > 0) text += u" am "_s + pair(week.morning);
+    if (week.evening.count() > 0) text += u" pm "_s + pair(week.evening);
     return (week.reachesThreshold() ? text + u" reached"_s : text).toStdString();
 }
 
@@ -236,8 +236,8 @@ TEST(MeasuringWeek, MorningIsBeforeNoon) {
           "2026-03-13 23:59:59", "2026-03-08 00:00", "2026-03-07 23:59:59", "2026-03-15 00:00"})
         readings.push_back(readingAt(date));
     const MeasuringWeek week = calcMeasuringWeek(readings, AverageRule::aha, lastOfWeek);
-    EXPECT_EQ(week.morning.sys.count(), 3U);
-    EXPECT_EQ(week.evening.sys.count(), 3U);
+    EXPECT_EQ(week.morning.count(), 3U);
+    EXPECT_EQ(week.evening.count(), 3U);
     EXPECT_EQ(week.daysUsed, 3);
 }
 
