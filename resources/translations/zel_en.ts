@@ -594,6 +594,28 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="viewChoiceNeeded"><translation>The period shown is the last three months, or was picked or moved. Press All first; then this can be chosen.</translation></message>
     <message id="viewPM"><translation>&amp;PM</translation></message>
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
+    <message id="weekBelow"><translation>Below %1</translation></message>
+    <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
+    <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
+    <message id="weekEvenings"><translation>PM %1</translation></message>
+    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
+    <message id="weekMean"><translation>%1 mmHg</translation></message>
+    <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
+    <message id="weekMissing"><translation>Incomplete, needs %1</translation></message>
+    <message id="weekMornings"><translation>AM %1</translation></message>
+    <message id="weekNoMean"><translation>No average</translation></message>
+    <message id="weekPanel"><translation>Measuring week</translation></message>
+    <message id="weekPulse"><translation>pulse %1</translation></message>
+    <message id="weekReached"><translation>At or above %1</translation></message>
+    <message id="weekReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="weekRule"><translation>Rule of the average</translation></message>
+    <message id="weekRuleAha"><translation>AHA</translation></message>
+    <message id="weekRuleEsh"><translation>ESH</translation></message>
+    <message id="weekRuleHint"><translation>ESH: first day left out, 12 readings on 2 more days or more
+NICE: first day left out, 2 readings each morning and evening of 3 more days or more
+AHA: 12 readings on 3 days or more</translation></message>
+    <message id="weekRuleNice"><translation>NICE</translation></message>
+    <message id="weekTo"><translation>to</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
