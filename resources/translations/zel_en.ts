@@ -153,6 +153,7 @@
     <message id="backupSize"><translation>Size</translation></message>
     <message id="backupTitle"><translation>Backups</translation></message>
     <message id="backupUnreadable"><translation>this copy cannot be read</translation></message>
+    <message id="beforeAndSinceHint"><translation>Average pressure in mmHg, and how many readings: the 14 days before the comment, and from its first day on until another comment begins, 28 days at most</translation></message>
     <message id="BeginDate"><translation>The first day has to be before the last one, so that the period spans two days or more. The dates were left as they were.</translation></message>
     <message id="beginEarlier"><translation>Begin a day earlier</translation></message>
     <message id="beginLater"><translation>Begin a day later</translation></message>
