@@ -687,6 +687,7 @@ AHA: 12 readings on 3 days or more</translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
+    <message id="reportMeasured"><translation>Average in mmHg (readings): %1</translation></message>
     <message id="reportMoreNumbers" numerus="yes"><translation><numerusform>and %n more</numerusform><numerusform>and %n more</numerusform></translation></message>
     <message id="reportMorningOnly"><translation>Only readings before noon are shown</translation></message>
     <message id="reportNoData"><translation>There is nothing to print: the chosen sections hold no data for this patient and period. No file was written.</translation></message>

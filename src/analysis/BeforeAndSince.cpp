@@ -15,15 +15,14 @@ constexpr DayNumber mostDaysSince = 28;
 
 /// The last day before another comment begins.
 DayNumber lastDaySince(const CommentList& comments, DayNumber begin) {
-    DayNumber last = begin + mostDaysSince - 1;
-    for (const auto& other : comments)
-        if (other->beginDay > begin) last = std::min(last, other->beginDay - 1);
-    return last;
+    const auto next =
+        std::ranges::upper_bound(comments, begin, {}, [](const auto& each) { return each->beginDay; });
+    const DayNumber last = begin + mostDaysSince - 1;
+    return next == comments.end() ? last : std::min(last, (*next)->beginDay - 1);
 }
 
-void addMeans(SpanMeans& span, const ReadingModel& reading) {
-    const bool isInside = span.begin <= reading.day && reading.day <= span.end;
-    if (isInside && !reading.isUndated()) span.means.add(reading);
+SpanMeans spanOf(const DayMeans& means, DayNumber first, DayNumber last) {
+    return {first, last, means.between(first, last)};
 }
 
 QString shown(const PressureMeans& means) {
@@ -52,18 +51,12 @@ QString fewReadings(const PressureMeans& before, const PressureMeans& since) {
 
 } // namespace
 
-BeforeAndSince calcBeforeAndSince(const ReadingList& readings, const CommentList& comments,
+BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comments,
                                   const CommentModel& comment) {
-    BeforeAndSince change;
     const DayNumber begin = comment.beginDay;
-    if (isNilDay(begin)) return change;
-    change.before = {begin - daysBefore, begin - 1};
-    change.since = {begin, lastDaySince(comments, begin)};
-    for (const ReadingModel& reading : readings) {
-        addMeans(change.before, reading);
-        addMeans(change.since, reading);
-    }
-    return change;
+    if (isNilDay(begin)) return {};
+    return {spanOf(means, begin - daysBefore, begin - 1),
+            spanOf(means, begin, lastDaySince(comments, begin))};
 }
 
 QString describe(const BeforeAndSince& change) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/PressureMeans.h"
+#include "analysis/DayMeans.h"
 #include "store/RecordLinks.h"
 
 #include <QString>
@@ -24,9 +24,9 @@ struct BeforeAndSince {
 /// Fewer say little.
 inline constexpr std::uint64_t enoughReadings = 6;
 
-/// \p comments: those of the patient, \p comment among them. Undated readings are not counted. A comment
+/// \p means: of all readings of the patient; \p comments: all of the patient, by their begin. A comment
 /// without a begin has nothing before or since.
-[[nodiscard]] BeforeAndSince calcBeforeAndSince(const ReadingList& readings, const CommentList& comments,
+[[nodiscard]] BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comments,
                                                 const CommentModel& comment);
 
 /// "142/88 (26) before, 133/82 (28) since: -9/-6", in mmHg with numbers of readings. The difference is that

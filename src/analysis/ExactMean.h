@@ -14,6 +14,13 @@ public:
         sum += value;
         ++counted;
     }
+    /// Of the values that were added since it was \p earlier.
+    ExactMean operator-(const ExactMean& earlier) const {
+        ExactMean rest;
+        rest.sum = sum - earlier.sum;
+        rest.counted = counted - earlier.counted;
+        return rest;
+    }
     [[nodiscard]] std::uint64_t count() const { return counted; }
     /// Whether the mean, not rounded, is \p limit or more; false without a value.
     [[nodiscard]] bool isAtLeast(std::uint32_t limit) const;

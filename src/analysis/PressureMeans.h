@@ -16,6 +16,10 @@ struct PressureMeans {
         dia.add(reading.dia);
         pulse.add(reading.pulse);
     }
+    /// Of the readings that were added since they were \p earlier.
+    PressureMeans operator-(const PressureMeans& earlier) const {
+        return {sys - earlier.sys, dia - earlier.dia, pulse - earlier.pulse};
+    }
     [[nodiscard]] std::uint64_t count() const { return sys.count(); }
 };
 

@@ -116,9 +116,9 @@ void CommentViewController::showPosition() {
         form->showPosition(*index, comments.size());
     else
         form->showNoPosition();
-    form->showChange(
-        index ? describe(calcBeforeAndSince(store.getReadingForCurID(), comments, *comments[*index]))
-              : QString());
+    form->showChange(index ? describe(calcBeforeAndSince(DayMeans(store.getReadingForCurID()), comments,
+                                                         *comments[*index]))
+                           : QString());
 }
 
 bool CommentViewController::isChanged() const {
