@@ -123,12 +123,23 @@
 </context>
 <context>
     <name>analysis</name>
+    <message id="beforeAndSince"><translation>%1 before, %2 since: %3</translation></message>
+    <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
+    <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
+    <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
     <message id="leftOut"><translation>%1 not counted</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n undated one</numerusform><numerusform>%n undated ones</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n without any date</numerusform><numerusform>%n without any date</numerusform></translation></message>
+    <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
+    <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
+    <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
+    <message id="missingReadings" numerus="yes"><translation><numerusform>%n more reading</numerusform><numerusform>%n more readings</numerusform></translation></message>
+    <message id="noneBefore"><translation>no reading in the 14 days before, %1 since</translation></message>
+    <message id="noneBeforeOrSince"><translation>no reading before or since</translation></message>
+    <message id="noneSince"><translation>%1 before, no reading since</translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="rowsCut"><translation>The comments cover more days without a reading than the list can show: at most %1, so that some are missing.</translation></message>
 </context>
@@ -171,6 +182,7 @@
     <message id="backupStop"><translation>S&amp;top</translation></message>
     <message id="backupTitle"><translation>Backups</translation></message>
     <message id="backupUnreadable"><translation>this copy cannot be read</translation></message>
+    <message id="beforeAndSinceHint"><translation>Average pressure in mmHg, and how many readings: the 14 days before the comment, and from its first day on until another comment begins, 28 days at most</translation></message>
     <message id="BeginDate"><translation>The first day has to be before the last one, so that the period spans two days or more. The dates were left as they were.</translation></message>
     <message id="beginEarlier"><translation>Begin a day earlier</translation></message>
     <message id="beginLater"><translation>Begin a day later</translation></message>
@@ -630,6 +642,28 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewChoiceNeeded"><translation>The period shown is the last three months, or was picked or moved. Press All first; then this can be chosen.</translation></message>
     <message id="viewPM"><translation>&amp;PM</translation></message>
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
+    <message id="weekBelow"><translation>Below %1</translation></message>
+    <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
+    <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
+    <message id="weekEvenings"><translation>PM %1</translation></message>
+    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
+    <message id="weekMean"><translation>%1 mmHg</translation></message>
+    <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
+    <message id="weekMissing"><translation>Incomplete, needs %1</translation></message>
+    <message id="weekMornings"><translation>AM %1</translation></message>
+    <message id="weekNoMean"><translation>No average</translation></message>
+    <message id="weekPanel"><translation>Measuring week</translation></message>
+    <message id="weekPulse"><translation>pulse %1</translation></message>
+    <message id="weekReached"><translation>At or above %1</translation></message>
+    <message id="weekReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="weekRule"><translation>Rule of the average</translation></message>
+    <message id="weekRuleAha"><translation>AHA</translation></message>
+    <message id="weekRuleEsh"><translation>ESH</translation></message>
+    <message id="weekRuleHint"><translation>ESH: first day left out, 12 readings on 2 more days or more
+NICE: first day left out, 2 readings each morning and evening of 3 more days or more
+AHA: 12 readings on 3 days or more</translation></message>
+    <message id="weekRuleNice"><translation>NICE</translation></message>
+    <message id="weekTo"><translation>to</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
     <message id="windowShown"><translation>ZEL is open already for this data file; its window has been brought to the front.</translation></message>
@@ -704,6 +738,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
+    <message id="reportMeasured"><translation>Average in mmHg (readings): %1</translation></message>
     <message id="reportMoreNumbers" numerus="yes"><translation><numerusform>and %n more</numerusform><numerusform>and %n more</numerusform></translation></message>
     <message id="reportMorningOnly"><translation>Only readings before noon are shown</translation></message>
     <message id="reportNoData"><translation>There is nothing to print: the chosen sections hold no data for this patient and period. No file was written.</translation></message>
@@ -751,6 +786,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Whether the monitor's memory is empty now could not be seen. %1</translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
+    <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n reading of the first measuring day is not counted.</numerusform><numerusform>%n readings of the first measuring day are not counted.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
@@ -765,6 +801,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
   download   store the monitor's readings for a patient
   readings   print a patient's readings
   statistics print the averages, minima and maxima of a patient's readings
+  average    print the average of a measuring week, as guidelines for home readings order it
   report     write a patient's report as a PDF
   export-xml export all patients, or one, as XML files
   export-csv export a patient and the readings as a CSV file
@@ -779,6 +816,35 @@ Options:
   --version                    show the version
 
 Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage.</translation></message>
+    <message id="CliHelpAverage"><translation>Usage: zel average --patient ID [--rule esh|nice|aha] [--to DAY]
+
+Prints the average of a patient's readings in a measuring week, the seven days that end with a day, by the
+rule of a guideline: which days and readings count, how many are needed, and the threshold of the average.
+Numbers only: what they mean for the patient is for a physician to say.
+
+  rule        esh: 3 days or more, the first one left out, then 12 readings or more; threshold 135/85
+              nice: 4 days or more, the first one left out, then 2 readings in the morning and 2 in the
+              evening of each day; threshold 135/85
+              aha: 3 days or more and 12 readings or more; threshold 130/80
+  complete    yes, or no where days or readings are missing; the average is printed all the same
+  missing     what is missing
+  days        with readings that count
+  readings    that count
+  sys, dia    in mmHg
+  pulse       in beats per minute
+  morning     sys/dia of those before noon
+  evening     sys/dia of those from noon on
+  threshold   reached where sys or dia is at its part of it or above, before rounding
+
+A line that has nothing to say is left out. How many readings of the first day are left out goes to
+standard error.
+
+Options:
+  --patient ID                 whose readings
+  --rule RULE                  esh (unless told otherwise), nice or aha
+  --to DAY                     the week's last day (yyyy-MM-dd); else the last day with readings
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
     <message id="CliHelpBackup"><translation>Usage: zel backup list
        zel backup create
        zel backup restore NAME
@@ -970,6 +1036,7 @@ Options:
     <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
     <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
+    <message id="CliNoSuchRule"><translation>There is no rule '%1'. The rules are %2.</translation></message>
     <message id="CliNoSuchSection"><translation>There is no section '%1'. The sections are all, or any of %2, with commas between them.</translation></message>
     <message id="CliOneJob"><translation>Only one of --set-clock, --send-id and --erase can be done at a time.</translation></message>
     <message id="CliOptionMissing"><translation>--%1 is missing, or its value is empty.</translation></message>

@@ -1,6 +1,7 @@
 #include "analysis/DisplayPeriod.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -77,7 +78,17 @@ bool DisplayPeriod::pickTimePeriod(Instant begin, Instant end) {
 
 void DisplayPeriod::setChangeUser(bool isChanged) {
     changedUser = isChanged;
-    if (isChanged) setSelectViewIndex(ViewSelection::custom);
+    if (!isChanged) return;
+    setSelectViewIndex(ViewSelection::custom);
+    setWeekEnd({});
+}
+
+void DisplayPeriod::setWeekRule(AverageRule rule) {
+    if (std::exchange(weekRule, rule) != rule) emit weekChanged();
+}
+
+void DisplayPeriod::setWeekEnd(std::optional<DayNumber> end) {
+    if (std::exchange(weekEnd, end) != end) emit weekChanged();
 }
 
 Period DisplayPeriod::dataPeriodOf(const ReadingList& readings) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/MeasuringWeek.h"
 #include "analysis/ReadingSelection.h"
 #include "store/RecordLinks.h"
 
@@ -50,6 +51,12 @@ public:
     /// A newly chosen patient whose readings span fewer than 91 days opens with everything in view.
     void adjustViewAll();
 
+    /// How the measuring week is averaged, and the day that it ends with; none: the last one with a reading.
+    [[nodiscard]] AverageRule getWeekRule() const { return weekRule; }
+    void setWeekRule(AverageRule rule);
+    [[nodiscard]] std::optional<DayNumber> getWeekEnd() const { return weekEnd; }
+    void setWeekEnd(std::optional<DayNumber> end); ///< another patient has none
+
     /// Comments may be placed on the chart: the display period spans fewer than 47 days.
     [[nodiscard]] bool isValidCommentTimeRange() const;
     [[nodiscard]] ReadingSelection selection() const { return {display, view, includeUndated}; }
@@ -60,6 +67,7 @@ public:
 signals:
     /// A period, the view selection or the undated readings' inclusion changed: views show something else.
     void changed();
+    void weekChanged(); ///< its rule or its end
 
 private:
     /// Announces what \p assign changes, once and only if it is a change.
@@ -73,6 +81,8 @@ private:
     ViewSelection view = ViewSelection::custom;
     bool includeUndated = false;
     bool changedUser = true;
+    AverageRule weekRule = AverageRule::esh;
+    std::optional<DayNumber> weekEnd;
 };
 
 } // namespace zel

@@ -9,6 +9,7 @@
 
 namespace zel::cli {
 
+[[nodiscard]] Command averageCommand();
 [[nodiscard]] Command backupCommand();
 [[nodiscard]] Command downloadCommand();
 [[nodiscard]] Command exportCsvCommand();
@@ -23,7 +24,7 @@ namespace zel::cli {
 [[nodiscard]] Command statisticsCommand();
 
 /// Every command, in the order in which the help lists them.
-[[nodiscard]] std::array<Command, 12> commands();
+[[nodiscard]] std::array<Command, 13> commands();
 [[nodiscard]] std::optional<Command> commandByName(const QString& name);
 
 /// Does what \p arguments (without the program's name) ask for. \return the exit status

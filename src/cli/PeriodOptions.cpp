@@ -8,8 +8,6 @@ namespace zel::cli {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 tl::expected<Date, Failure> dayOption(const Request& request, const QString& option) {
     if (!request.options.isSet(option)) return Date{};
     const QString form = u"yyyy-MM-dd"_s;
@@ -18,8 +16,6 @@ tl::expected<Date, Failure> dayOption(const Request& request, const QString& opt
     if (day.isValid() && day.toString(form) == text) return StrToDate(text, form);
     return wrongUsage(qtTrId("CliBadDate").arg(option, text));
 }
-
-} // namespace
 
 tl::expected<DayRange, Failure> dayRange(const Request& request) {
     const auto from = dayOption(request, u"from"_s);

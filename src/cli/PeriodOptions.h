@@ -14,6 +14,9 @@ struct DayRange {
     [[nodiscard]] bool isOpen() const { return !from && !to; }
 };
 
+/// The day that the option gives, as its begin; none if it was not given.
+[[nodiscard]] tl::expected<Date, Failure> dayOption(const Request& request, const QString& option);
+
 [[nodiscard]] tl::expected<DayRange, Failure> dayRange(const Request& request);
 
 /// Whole days; an open end is that of the patient's dated readings.

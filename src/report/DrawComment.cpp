@@ -1,5 +1,6 @@
 #include "report/DrawComment.h"
 
+#include "analysis/BeforeAndSince.h"
 #include "report/CommentLook.h"
 #include "report/FieldText.h"
 
@@ -29,6 +30,13 @@ QString days(const CommentModel& comment, const SettingModel& settings) {
     return period + u"  ("_s + (qtTrId("reportDays", total)) + u')';
 }
 
+/// What was measured before and since; empty where nothing was.
+QString measured(const ReportSource& report, const DayMeans& means, const CommentModel& comment) {
+    const BeforeAndSince change = calcBeforeAndSince(means, report.comments, comment);
+    const bool isNone = change.before.means.count() + change.since.means.count() == 0;
+    return isNone ? QString() : qtTrId("reportMeasured").arg(describe(change));
+}
+
 } // namespace
 
 int DrawComment::iItemsPerPage(const Rect& rect) {
@@ -41,8 +49,10 @@ CommentPages layOutComments(const ReportSource& report, const Rect& rect) {
     const double width = rect.width - barWidth - 2 * DrawComment::xMargin;
     CommentPages layout;
     std::vector<TextItem> items;
+    const DayMeans means(report.readings);
     for (const auto& comment : report.comments) {
-        layout.lines.push_back(wrapped(printable(comment->comment), width, smallFont));
+        layout.lines.push_back(wrapped(printable(comment->comment), width, smallFont)
+                               + wrapped(measured(report, means, *comment), width, smallFont));
         items.push_back({static_cast<int>(layout.lines.back().size()), least});
     }
     layout.pages = textPages(items, rect.height, lineHeight(smallFont), 2 * DrawComment::yMargin);

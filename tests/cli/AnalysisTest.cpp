@@ -48,6 +48,28 @@ TEST_F(AnalysisTest, StatisticsAreTheCellsOfTheTable) {
               "sys: n/a n/a n/a\ndia: n/a n/a n/a\npulse: n/a n/a n/a\nmap: n/a n/a n/a\n");
 }
 
+TEST_F(AnalysisTest, AverageIsThatOfTheRulesWeek) {
+    const Outcome esh = run("average");
+    EXPECT_EQ(esh.out,
+              "rule: esh\ncomplete: no\nmissing: 1 more day, 11 more readings\ndays: 1\nreadings: 1\n"
+              "sys: 99.0\ndia: 60.0\npulse: 102.0\nmorning: 99.0/60.0\n"
+              "threshold: 135/85 not reached\n");
+    EXPECT_EQ(esh.err, "2 readings of the first measuring day are not counted.\n");
+    EXPECT_EQ(of("average --rule aha --to 2026-11-02"),
+              "rule: aha\ncomplete: no\nmissing: 2 more days, 10 more readings\ndays: 1\nreadings: 2\n"
+              "sys: 136.0\ndia: 84.0\npulse: 68.5\nmorning: 152.0/88.0\nevening: 120.0/80.0\n"
+              "threshold: 130/80 reached\n");
+    EXPECT_EQ(of("average --rule nice --to 2026-11-08"),
+              "rule: nice\ncomplete: no\nmissing: 2 more days, 1 more morning, 2 more evenings\ndays: "
+              "1\nreadings: 1\n"
+              "sys: 99.0\ndia: 60.0\npulse: 102.0\nmorning: 99.0/60.0\n"
+              "threshold: 135/85 not reached\n");
+    const Outcome none = run("average --to 2036-11-01");
+    EXPECT_EQ(none.out,
+              "rule: esh\ncomplete: no\nmissing: 3 more days, 12 more readings\ndays: 0\nreadings: 0\n");
+    EXPECT_EQ(none.err, "");
+}
+
 TEST_F(AnalysisTest, WhatIsLeftOutIsTold) {
     EXPECT_EQ(run("statistics").err, "3 readings; 1 undated one not counted\n");
     EXPECT_EQ(run("statistics --undated").err, "") << "all are counted";

@@ -66,6 +66,8 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"statistics", "--patient is missing"},
         {"statistics --patient A --am", "am"},
         {"statistics --patient A --from 2026-13-01", "'2026-13-01'"},
+        {"average --patient A --rule ESH", "esh, nice, aha"},
+        {"average --patient A --to 2026-02-30", "'2026-02-30'"},
         {"export-xml", "folder to export to is missing"},
         {"export-xml / extra", "'extra' is not expected"},
         {"export-xml / --patient=", "--patient is missing"},

@@ -28,8 +28,8 @@ constexpr int longestDate = 32; ///< letters, however it is written
 CommentForm::CommentForm(QWidget* parent)
     : QWidget(parent), lblPatient(new QuietLabel({}, this)), beginDay(new QLineEdit(this)),
       endDay(new QLineEdit(this)), textBox(new QFrame(this)), commentText(new QPlainTextEdit(textBox)),
-      btnPrevious(new QToolButton(this)), btnNext(new QToolButton(this)), lblPosition(new QLabel(this)),
-      btnDelete(new QPushButton(this)) {
+      lblBeforeAndSince(new QLabel(this)), btnPrevious(new QToolButton(this)), btnNext(new QToolButton(this)),
+      lblPosition(new QLabel(this)), btnDelete(new QPushButton(this)) {
     buildDay(*beginDay, u"commentBegin"_s, qtTrId("commentBeginDay"));
     buildDay(*endDay, u"commentEnd"_s, qtTrId("commentEndDay"));
     buildText();
@@ -43,6 +43,10 @@ void CommentForm::build() {
     lblPatient->setObjectName(u"lblCommentPatient"_s);
     lblPatient->setTextFormat(Qt::PlainText);
     lblPatient->setWordWrap(true);
+    lblBeforeAndSince->setObjectName(u"lblBeforeAndSince"_s);
+    lblBeforeAndSince->setTextFormat(Qt::PlainText);
+    lblBeforeAndSince->setWordWrap(true);
+    lblBeforeAndSince->setToolTip(qtTrId("beforeAndSinceHint"));
     auto* dates = new QGridLayout;
     dates->setHorizontalSpacing(8);
     dates->setColumnStretch(1, 1);
@@ -60,7 +64,9 @@ void CommentForm::build() {
     column->addLayout(dates);
     column->addSpacing(8);
     column->addWidget(textBox, 1);
-    column->addSpacing(8);
+    column->addSpacing(6);
+    column->addWidget(lblBeforeAndSince);
+    column->addSpacing(6);
     column->addWidget(makeButtons());
 }
 
@@ -153,6 +159,12 @@ void CommentForm::showNoPosition() {
     lblPosition->setText({}); // cleared, it would take room
     btnPrevious->setEnabled(false);
     btnNext->setEnabled(false);
+}
+
+void CommentForm::showChange(const QString& sentence) {
+    lblBeforeAndSince->setText(sentence);
+    lblBeforeAndSince->setAccessibleName(sentence);
+    lblBeforeAndSince->setVisible(!sentence.isEmpty());
 }
 
 void CommentForm::showDegree(int degree) {

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] Dates typedDates() const;
     void showPosition(std::size_t index, std::size_t total);
     void showNoPosition();
+    /// What was measured before and since; empty: nothing to say.
+    void showChange(const QString& sentence);
     /// The colour of the comment's box on the chart.
     void showDegree(int degree);
 
@@ -73,6 +75,7 @@ private:
     std::array<QString, 2> shownDays; ///< in both
     QFrame* textBox;
     QPlainTextEdit* commentText;
+    QLabel* lblBeforeAndSince;
     QToolButton* btnPrevious;
     QToolButton* btnNext;
     QLabel* lblPosition;

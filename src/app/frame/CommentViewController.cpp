@@ -1,5 +1,6 @@
 #include "app/frame/CommentViewController.h"
 
+#include "analysis/BeforeAndSince.h"
 #include "app/frame/CommentDays.h"
 #include "app/frame/CommentForm.h"
 #include "app/widgets/Log.h"
@@ -109,10 +110,15 @@ QString CommentViewController::datePattern() const {
 }
 
 void CommentViewController::showPosition() {
-    if (const auto index = shown ? indexOf(shown->CommentID) : std::nullopt)
-        form->showPosition(*index, store.getCommentForCurID().size());
+    const CommentList& comments = store.getCommentForCurID();
+    const auto index = shown ? indexOf(shown->CommentID) : std::nullopt;
+    if (index)
+        form->showPosition(*index, comments.size());
     else
         form->showNoPosition();
+    form->showChange(index ? describe(calcBeforeAndSince(DayMeans(store.getReadingForCurID()), comments,
+                                                         *comments[*index]))
+                           : QString());
 }
 
 bool CommentViewController::isEdited() const {

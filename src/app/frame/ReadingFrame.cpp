@@ -1,6 +1,7 @@
 #include "app/frame/ReadingFrame.h"
 
 #include "app/frame/CommentViewController.h"
+#include "app/frame/MeasuringWeekPanel.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/StatisticViewController.h"
 #include "app/widgets/PageHeading.h"
@@ -21,6 +22,7 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     : QWidget(parent), parts(needed), heading(new PageHeading(this)),
       period(new PeriodBar(needed.store, needed.period, needed.panel, this)),
       statisticPanel(new StatisticViewController(needed.store, needed.period, this)),
+      weekPanel(new MeasuringWeekPanel(needed.store, needed.period, this)),
       commentPanel(new CommentViewController(needed.store, needed.panel, needed.clock, this)),
       btnSide(new QToolButton(this)), side(makeSide()) {
     auto* body = new QHBoxLayout;
@@ -71,6 +73,7 @@ QWidget* ReadingFrame::makeSide() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
     column->addWidget(statisticPanel);
+    column->addWidget(weekPanel);
     column->addWidget(commentPanel, 1);
     auto* scroll = new QScrollArea(this);
     scroll->setObjectName(u"readingSide"_s);
@@ -108,6 +111,7 @@ void ReadingFrame::LoadData() {
     showHeading();
     period->LoadData();
     statisticPanel->LoadData();
+    weekPanel->LoadData();
     commentPanel->LoadData();
 }
 
@@ -115,6 +119,7 @@ void ReadingFrame::UpdateUIBySetting() {
     showHeading();
     period->UpdateUIBySetting();
     statisticPanel->LoadData();
+    weekPanel->LoadData();
     commentPanel->LoadData();
 }
 

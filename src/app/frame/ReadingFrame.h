@@ -12,6 +12,7 @@ class QToolButton;
 namespace zel {
 
 class CommentViewController;
+class MeasuringWeekPanel;
 class PageHeading;
 class PeriodBar;
 class StatisticViewController;
@@ -52,6 +53,7 @@ private:
     PageHeading* heading;
     PeriodBar* period;
     StatisticViewController* statisticPanel;
+    MeasuringWeekPanel* weekPanel;
     CommentViewController* commentPanel;
     QToolButton* btnSide;
     QWidget* side;

@@ -46,6 +46,33 @@ TEST_F(CommentPanelTest, whatIsTypedIsSavedWhenEditingEnds) {
     EXPECT_EQ(editor().textCursor().position(), text.size()) << "the caret stays";
 }
 
+TEST_F(CommentPanelTest, saysWhatWasMeasuredBeforeAndSince) {
+    const auto measure = [this](const char* day, std::uint32_t sys, int count) {
+        ReadingList readings;
+        for (int i = 0; i < count; ++i)
+            readings.push_back(
+                reading(u"%1%2"_s.arg(QLatin1String(day)).arg(800 + i, 4, 10, QLatin1Char{'0'}), sys));
+        storeReadings(u"P1"_s, readings);
+    };
+    storeReadings(u"P1"_s, {});
+    addComment(u"P1"_s, u"20260310"_s, u"20260311"_s, u"new medicine"_s);
+    openPanel();
+    EXPECT_EQ(text("lblBeforeAndSince"), u"no reading before or since"_s);
+    measure("20260309", 142, 5);
+    EXPECT_EQ(text("lblBeforeAndSince"), u"142/80 (5) before, no reading since"_s);
+    measure("20260310", 133, 2);
+    EXPECT_EQ(text("lblBeforeAndSince"),
+              u"142/80 (5) before, 133/80 (2) since: -9/0; fewer than 6 readings on both sides"_s);
+    measure("20260308", 145, 1);
+    EXPECT_EQ(text("lblBeforeAndSince"),
+              u"143/80 (6) before, 133/80 (2) since: -10/0; fewer than 6 readings since"_s);
+    measure("20260312", 160, 4);
+    EXPECT_EQ(text("lblBeforeAndSince"), u"143/80 (6) before, 151/80 (6) since: +8/0"_s);
+    addComment(u"P1"_s, u"20260201"_s, u"20260202"_s, u"earlier"_s);
+    clickPart("btnPreviousComment");
+    EXPECT_EQ(text("lblBeforeAndSince"), u"no reading before or since"_s);
+}
+
 TEST(CommentDays, aDayIsReadInTheOrderOfTheSettings) {
     const QString dayFirst = u"dd/MM/yyyy"_s, monthFirst = u"MM/dd/yyyy"_s, yearFirst = u"yyyy/MM/dd"_s;
     const struct {

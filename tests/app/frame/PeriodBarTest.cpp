@@ -115,7 +115,7 @@ TEST_F(PeriodBarTest, headingAndStatisticsSayWhatIsCountedAndWhatIsLeftOutWhy) {
     const QString picked = u"4 readings; 1 outside the period, 1 undated one not counted"_s;
     EXPECT_EQ(text("lblDetail"), all + u". Counted: "_s + picked);
     EXPECT_EQ(text("lblStatisticCount"), picked);
-    host->resize(1300, 560);
+    host->resize(1300, 700);
     QCoreApplication::processEvents();
     EXPECT_EQ(find<QScrollArea>("readingSide").verticalScrollBar()->maximum(), 0) << "the comment gives way";
     clickPart("viewAll");

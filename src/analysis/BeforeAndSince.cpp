@@ -1,0 +1,73 @@
+#include "analysis/BeforeAndSince.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr DayNumber daysBefore = 14;
+constexpr DayNumber mostDaysSince = 28;
+
+/// The last day before another comment begins.
+DayNumber lastDaySince(const CommentList& comments, DayNumber begin) {
+    const auto next =
+        std::ranges::upper_bound(comments, begin, {}, [](const auto& each) { return each->beginDay; });
+    const DayNumber last = begin + mostDaysSince - 1;
+    return next == comments.end() ? last : std::min(last, (*next)->beginDay - 1);
+}
+
+SpanMeans spanOf(const DayMeans& means, DayNumber first, DayNumber last) {
+    return {first, last, means.between(first, last)};
+}
+
+QString shown(const PressureMeans& means) {
+    return u"%1/%2 (%3)"_s.arg(means.sys.rounded()).arg(means.dia.rounded()).arg(means.count());
+}
+
+QString difference(const ExactMean& before, const ExactMean& since) {
+    const auto change =
+        static_cast<std::int64_t>(since.rounded()) - static_cast<std::int64_t>(before.rounded());
+    return (change > 0 ? u"+"_s : QString()) + QString::number(change);
+}
+
+QString compared(const PressureMeans& before, const PressureMeans& since) {
+    return qtTrId("beforeAndSince")
+        .arg(shown(before), shown(since),
+             difference(before.sys, since.sys) + u'/' + difference(before.dia, since.dia));
+}
+
+QString fewReadings(const PressureMeans& before, const PressureMeans& since) {
+    const bool isFewBefore = before.count() < enoughReadings;
+    const bool isFewSince = since.count() < enoughReadings;
+    if (isFewBefore && isFewSince) return qtTrId("fewOnBothSides").arg(enoughReadings);
+    if (isFewBefore) return qtTrId("fewBefore").arg(enoughReadings);
+    return isFewSince ? qtTrId("fewSince").arg(enoughReadings) : QString();
+}
+
+} // namespace
+
+BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comments,
+                                  const CommentModel& comment) {
+    const DayNumber begin = comment.beginDay;
+    if (isNilDay(begin)) return {};
+    return {spanOf(means, begin - daysBefore, begin - 1),
+            spanOf(means, begin, lastDaySince(comments, begin))};
+}
+
+QString describe(const BeforeAndSince& change) {
+    const PressureMeans& before = change.before.means;
+    const PressureMeans& since = change.since.means;
+    if (change.since.begin == noDay) return {};
+    if (before.count() + since.count() == 0) return qtTrId("noneBeforeOrSince");
+    if (before.count() == 0) return qtTrId("noneBefore").arg(shown(since));
+    if (since.count() == 0) return qtTrId("noneSince").arg(shown(before));
+    const QString few = fewReadings(before, since);
+    return compared(before, since) + (few.isEmpty() ? QString() : u"; "_s + few);
+}
+
+} // namespace zel

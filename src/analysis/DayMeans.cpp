@@ -1,0 +1,32 @@
+#include "analysis/DayMeans.h"
+
+#include <algorithm>
+
+namespace zel {
+
+DayMeans::DayMeans(const ReadingList& readings) {
+    std::vector<const ReadingModel*> dated;
+    dated.reserve(readings.size());
+    for (const ReadingModel& reading : readings)
+        if (!reading.isUndated()) dated.push_back(&reading);
+    std::ranges::stable_sort(dated, {}, [](const ReadingModel* reading) { return reading->day; });
+    PressureMeans sum;
+    days.reserve(dated.size());
+    for (const ReadingModel* reading : dated) {
+        sum.add(*reading);
+        if (days.empty() || days.back().day != reading->day) days.push_back({reading->day});
+        days.back().means = sum;
+    }
+}
+
+PressureMeans DayMeans::before(DayNumber day) const {
+    const auto next = std::ranges::lower_bound(days, day, {}, &UpTo::day);
+    return next == days.begin() ? PressureMeans{} : std::prev(next)->means;
+}
+
+PressureMeans DayMeans::between(DayNumber first, DayNumber last) const {
+    if (first > last) return {};
+    return before(last + 1) - before(first);
+}
+
+} // namespace zel

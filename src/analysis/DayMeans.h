@@ -1,0 +1,28 @@
+#pragma once
+
+#include "analysis/PressureMeans.h"
+#include "store/RecordLinks.h"
+
+#include <vector>
+
+namespace zel {
+
+/// Means over any span of days, each in a moment however many readings there are. Undated ones are not
+/// counted.
+class DayMeans {
+public:
+    explicit DayMeans(const ReadingList& readings);
+    /// Both days included.
+    [[nodiscard]] PressureMeans between(DayNumber first, DayNumber last) const;
+
+private:
+    struct UpTo {
+        DayNumber day = noDay;
+        PressureMeans means{}; ///< of all readings up to and with that day
+    };
+    [[nodiscard]] PressureMeans before(DayNumber day) const;
+
+    std::vector<UpTo> days; ///< ascending
+};
+
+} // namespace zel

@@ -1,0 +1,143 @@
+#include "app/frame/MeasuringWeekPanel.h"
+
+#include "app/widgets/DayEdit.h"
+#include "app/widgets/PageHeading.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString pressure(const PressureMeans& means) {
+    return u"%1/%2"_s.arg(means.sys.rounded()).arg(means.dia.rounded());
+}
+
+/// Empty where there is neither a morning's nor an evening's reading.
+QString halvesOf(const MeasuringWeek& week) {
+    QStringList halves;
+    if (week.morning.count() > 0) halves += qtTrId("weekMornings").arg(pressure(week.morning));
+    if (week.evening.count() > 0) halves += qtTrId("weekEvenings").arg(pressure(week.evening));
+    return halves.join(u", "_s);
+}
+
+QString countsOf(const MeasuringWeek& week) {
+    const QString readings = qtTrId("weekReadings", static_cast<int>(week.readingsUsed()));
+    const QString counted = qtTrId("weekDays", week.daysUsed).arg(readings);
+    if (week.readingsLeftOut == 0) return counted;
+    return counted + u"; "_s + qtTrId("weekFirstDay", week.readingsLeftOut);
+}
+
+/// Of the means before they are rounded, which what is shown does not tell.
+QString comparison(const MeasuringWeek& week) {
+    const AverageRuleFacts& facts = factsOf(week.rule);
+    const QString threshold = u"%1/%2"_s.arg(facts.sysThreshold).arg(facts.diaThreshold);
+    return week.reachesThreshold() ? qtTrId("weekReached").arg(threshold)
+                                   : qtTrId("weekBelow").arg(threshold);
+}
+
+/// Its first instant, or today's where there is no week.
+Instant instantOf(DayNumber day) {
+    return StrToDate(dayText(day), u"yyyy/MM/dd"_s)
+        .value_or(std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()));
+}
+
+} // namespace
+
+MeasuringWeekPanel::MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod& displayPeriod,
+                                       QWidget* parent)
+    : SidePanel(u"weekPanel"_s, qtTrId("weekPanel"), parent), store(dataStore), period(displayPeriod),
+      cboWeekRule(new QComboBox(this)), weekEnd(new DayEdit(u"weekEnd"_s, qtTrId("weekEnd"), this)) {
+    auto* content = static_cast<QVBoxLayout*>(layout());
+    content->addSpacing(4);
+    content->addLayout(makeChoices());
+    content->addSpacing(6);
+    lblWeekMean = addLine(u"lblWeekMean"_s);
+    lblWeekMean->setFont(scaledFont(font(), 1.2, true));
+    lblWeekThreshold = addLine(u"lblWeekThreshold"_s);
+    lblWeekHalves = addLine(u"lblWeekHalves"_s);
+    lblWeekMissing = addLine(u"lblWeekMissing"_s);
+    lblWeekMissing->setFont(scaledFont(font(), 1, true));
+    lblWeekCount = addLine(u"lblWeekCount"_s);
+    connect(&store, &DataStore::reloaded, this, &MeasuringWeekPanel::LoadData);
+    connect(&store, &DataStore::currentIDChanged, this, &MeasuringWeekPanel::LoadData);
+    connect(&period, &DisplayPeriod::weekChanged, this, &MeasuringWeekPanel::LoadData);
+    LoadData();
+}
+
+QLayout* MeasuringWeekPanel::makeChoices() {
+    cboWeekRule->setObjectName(u"cboWeekRule"_s);
+    cboWeekRule->setAccessibleName(qtTrId("weekRule"));
+    for (const QString& name : {qtTrId("weekRuleEsh"), qtTrId("weekRuleNice"), qtTrId("weekRuleAha")})
+        cboWeekRule->addItem(name);
+    cboWeekRule->setToolTip(qtTrId("weekRuleHint"));
+    connect(cboWeekRule, &QComboBox::activated, this,
+            [this](int chosen) { period.setWeekRule(averageRules[static_cast<std::size_t>(chosen)].rule); });
+    connect(weekEnd, &DayEdit::confirmed, this, &MeasuringWeekPanel::pickEnd);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    auto* label = new QLabel(qtTrId("weekTo"), this);
+    label->setBuddy(weekEnd);
+    row->addWidget(cboWeekRule);
+    row->addWidget(label);
+    row->addWidget(weekEnd);
+    row->addStretch(1);
+    return row;
+}
+
+QLabel* MeasuringWeekPanel::addLine(const QString& name) {
+    auto* line = new QLabel(this);
+    line->setObjectName(name);
+    line->setTextFormat(Qt::PlainText);
+    line->setWordWrap(true);
+    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout()->addWidget(line);
+    return line;
+}
+
+void MeasuringWeekPanel::LoadData() {
+    const MeasuringWeek week =
+        calcMeasuringWeek(store.getReadingForCurID(), period.getWeekRule(), period.getWeekEnd());
+    cboWeekRule->setCurrentIndex(static_cast<int>(week.rule));
+    weekEnd->setFormat(store.getSetting().dateFormat);
+    weekEnd->setEnabled(week.end != noDay);
+    weekEnd->showDay(instantOf(week.end));
+    showMeans(week);
+    showCounts(week);
+    for (QLabel* line : {lblWeekMean, lblWeekHalves, lblWeekThreshold, lblWeekMissing, lblWeekCount}) {
+        line->setVisible(!line->text().isEmpty());
+        line->setAccessibleName(line->text());
+    }
+}
+
+void MeasuringWeekPanel::showMeans(const MeasuringWeek& week) {
+    const PressureMeans& all = week.all;
+    const bool isNone = week.readingsUsed() == 0;
+    lblWeekMean->setText(isNone ? qtTrId("weekNoMean") : qtTrId("weekMean").arg(pressure(all)));
+    lblWeekMean->setToolTip(
+        isNone
+            ? QString()
+            : qtTrId("weekMeanHint").arg(all.sys.withTenths(), all.dia.withTenths(), all.pulse.withTenths()));
+    lblWeekThreshold->setText(
+        isNone ? QString() : comparison(week) + u", "_s + qtTrId("weekPulse").arg(all.pulse.rounded()));
+    lblWeekHalves->setText(halvesOf(week));
+}
+
+void MeasuringWeekPanel::showCounts(const MeasuringWeek& week) {
+    lblWeekMissing->setText(week.isComplete() ? QString() : qtTrId("weekMissing").arg(describeMissing(week)));
+    lblWeekCount->setText(countsOf(week));
+}
+
+/// The last day with a reading is followed again as soon as it is chosen.
+void MeasuringWeekPanel::pickEnd() {
+    const DayNumber chosen = LocalZone{}.day(weekEnd->day());
+    const MeasuringWeek last = calcMeasuringWeek(store.getReadingForCurID(), period.getWeekRule());
+    period.setWeekEnd(chosen == last.end ? std::nullopt : std::optional(chosen));
+    LoadData();
+}
+
+} // namespace zel

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "analysis/DisplayPeriod.h"
+#include "app/widgets/SidePanel.h"
+#include "store/DataStore.h"
+
+class QComboBox;
+
+namespace zel {
+
+class DayEdit;
+
+/// The average of the current patient's measuring week, by the rule and up to the day that all pages share.
+class MeasuringWeekPanel final : public SidePanel {
+    Q_OBJECT
+public:
+    MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod& displayPeriod, QWidget* parent);
+
+    void LoadData();
+
+private:
+    QLayout* makeChoices();
+    void showMeans(const MeasuringWeek& week);
+    void showCounts(const MeasuringWeek& week);
+    void pickEnd();
+    QLabel* addLine(const QString& name);
+
+    const DataStore& store;
+    DisplayPeriod& period;
+    QComboBox* cboWeekRule;
+    DayEdit* weekEnd;
+    QLabel* lblWeekMean;
+    QLabel* lblWeekHalves;
+    QLabel* lblWeekThreshold;
+    QLabel* lblWeekMissing;
+    QLabel* lblWeekCount;
+};
+
+} // namespace zel

@@ -1,0 +1,47 @@
+#include "analysis/BeforeAndSince.h"
+
+#include "analysis/Sample.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace zel {
+namespace {
+
+/// "first day/last day: readings" on either side of the comment at \p chosen.
+std::string spans(const Sample& sample, std::size_t chosen = 0) {
+    using namespace Qt::StringLiterals;
+    const auto [before, since] =
+        calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[chosen]);
+    QStringList parts;
+    for (const SpanMeans* span : {&before, &since})
+        parts += dayText(span->begin, u"MM-dd"_s) + u'/' + dayText(span->end, u"MM-dd"_s)
+                 + u": %1"_s.arg(span->means.count());
+    return parts.join(u", "_s).toStdString();
+}
+
+TEST(BeforeAndSince, IsOf14DaysAndUpTo28UntilAnotherCommentBegins) {
+    Sample sample;
+    sample.readings =
+        readingsAt({"2019-02-14 23:59", "2019-02-15", "2019-02-28 23:59:59", "2019-03-01", "2019-03-10",
+                    "2019-03-11", "2019-03-28 23:59", "2019-03-29", "2000-01-01"});
+    std::ranges::reverse(sample.readings);
+    sample.comment("2019-01-01", "2019-12-31"); // begins earlier
+    sample.comment("2019-03-01", "2019-03-02");
+    EXPECT_EQ(spans(sample, 1), "02-15/02-28: 2, 03-01/03-28: 4");
+    sample.comment("2019-03-01", "2019-03-05"); // begins with it
+    sample.comment("2019-03-11", "2019-03-12");
+    sample.comment("2019-03-29", "2019-03-30");
+    EXPECT_EQ(spans(sample, 1), "02-15/02-28: 2, 03-01/03-10: 2");
+    EXPECT_EQ(spans(sample, 2), "02-15/02-28: 2, 03-01/03-10: 2");
+    EXPECT_EQ(spans(sample, 3), "02-25/03-10: 3, 03-11/03-28: 2");
+    EXPECT_EQ(spans(sample, 4), "03-15/03-28: 1, 03-29/04-25: 1");
+    sample.comments[0]->beginDay = noDay;
+    EXPECT_EQ(spans(sample), "/: 0, /: 0");
+    EXPECT_EQ(describe(calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[0])),
+              QString());
+}
+
+} // namespace
+} // namespace zel

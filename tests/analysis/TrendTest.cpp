@@ -1,0 +1,76 @@
+#include "analysis/Trend.h"
+
+#include "analysis/Sample.h"
+
+#include <gtest/gtest.h>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString text(const TrendBand& band) { return u"%1 %2 %3"_s.arg(band.low).arg(band.median).arg(band.high); }
+
+std::string words(const Trend& trend, TrendBand TrendPoint::*measure = &TrendPoint::sys) {
+    QStringList points;
+    for (const TrendPoint& point : trend.points)
+        points += dayText(point.begin, u"MM-dd"_s) + u'/' + dayText(point.end, u"MM-dd"_s)
+                  + u" (%1) "_s.arg(point.count) + text(point.*measure);
+    return points.join(u", "_s).toStdString();
+}
+
+ReadingList valuesOn(const char* day, std::initializer_list<std::uint32_t> values) {
+    ReadingList readings;
+    for (const std::uint32_t value : values)
+        readings.push_back(readingAt(day, value, value / 2));
+    return readings;
+}
+
+TEST(Trend, StepComesNearestTo30To120Points) {
+    using enum TrendStep;
+    const std::pair<int, TrendStep> cases[] = {
+        {1, day},    {30, day},    {120, day},    {158, day}, {159, week}, {365, week},   {840, week},
+        {875, week}, {876, month}, {2557, month}, {0, day},   {-5, day},   {40000, month}};
+    for (const auto& [days, step] : cases)
+        EXPECT_EQ(trendStepFor(days), step) << days;
+}
+
+TEST(Trend, BandIsFromThe10thToThe90thPercentile) {
+    const auto week = during("2026-03-01", "2026-03-07");
+    const auto bandOf = [&week](std::initializer_list<std::uint32_t> values) {
+        return words(calcTrend(valuesOn("2026-03-02 08:00", values), week));
+    };
+    EXPECT_EQ(bandOf({120}), "03-02/03-02 (1) 120 120 120");
+    EXPECT_EQ(bandOf({140, 120}), "03-02/03-02 (2) 120 130 140");
+    EXPECT_EQ(bandOf({140, 100, 120, 110}), "03-02/03-02 (4) 100 115 140") << "few: all of them";
+    EXPECT_EQ(bandOf({140, 100, 120, 110, 130}), "03-02/03-02 (5) 104 120 136");
+    EXPECT_EQ(bandOf({100, 110, 120, 130, 140, 150, 160, 170, 180, 190, 4'294'967'295}),
+              "03-02/03-02 (11) 110 150 190");
+}
+
+TEST(Trend, StepsAreDaysOrWeeksFromMondayOrMonths) {
+    const ReadingList readings = readingsAt({"2026-03-02 08:00", "2026-02-28 20:00", "2026-03-01 23:59:59",
+                                             "2025-12-31 12:00", "2000-01-01", "2026-03-08", "2024-02-29"});
+    EXPECT_EQ(words(calcTrend(readings, during("2026-02-01", "2026-03-31"))),
+              "02-28/02-28 (1) 120 120 120, 03-01/03-01 (1) 120 120 120, 03-02/03-02 (1) 120 120 120, "
+              "03-08/03-08 (1) 120 120 120");
+    EXPECT_EQ(words(calcTrend(readings, during("2025-07-01", "2026-03-31"))),
+              "12-29/01-04 (1) 120 120 120, 02-23/03-01 (2) 120 120 120, 03-02/03-08 (2) 120 120 120");
+    EXPECT_EQ(words(calcTrend(readings, during("1999-01-01", "2026-03-31"))),
+              "02-01/02-29 (1) 120 120 120, 12-01/12-31 (1) 120 120 120, 02-01/02-28 (1) 120 120 120, "
+              "03-01/03-31 (3) 120 120 120")
+        << "an undated reading has no place in time";
+    ReadingSelection evenings = during("2026-02-01", "2026-03-31");
+    evenings.view = ViewSelection::pmOnly;
+    EXPECT_EQ(calcTrend(readings, evenings).points.size(), 2U);
+    EXPECT_TRUE(calcTrend({}, evenings).points.empty());
+}
+
+TEST(Trend, EachMeasureIsItsOwn) {
+    const Trend trend = calcTrend(valuesOn("2026-03-02", {100, 140}), during("2026-03-01", "2026-03-31"));
+    EXPECT_EQ(words(trend, &TrendPoint::dia), "03-02/03-02 (2) 50 60 70");
+    EXPECT_EQ(words(trend, &TrendPoint::pulse), "03-02/03-02 (2) 60 60 60");
+}
+
+} // namespace
+} // namespace zel

@@ -1,0 +1,62 @@
+#include "app/frame/ReadingFrame.h"
+#include "support/ReadingPageTest.h"
+
+#include <QComboBox>
+#include <QTest>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MeasuringWeekPanelTest : public ReadingPageTest {
+protected:
+    /// Two mornings and two evenings a day from 10 to 16 March, the last evening's second missing.
+    void openWeek() {
+        ReadingList readings;
+        for (int day = 10; day <= 16; ++day)
+            for (const char* time : {"0700", "0701", "1900", "1901"})
+                if (day < 16 || QLatin1String(time) != "1901"_L1)
+                    readings.push_back(
+                        reading(u"202603%1%2"_s.arg(day).arg(QLatin1String(time)), day == 10        ? 180
+                                                                                   : time[0] == '0' ? 140
+                                                                                                    : 129));
+        storeReadings(u"P1"_s, readings);
+        open(new ReadingFrame({store, period, panel, clock}, *new QWidget, nullptr));
+    }
+    void chooseNextRule() {
+        auto& box = find<QComboBox>("cboWeekRule");
+        box.setFocus();
+        QTest::keyClick(&box, Qt::Key_Down);
+    }
+};
+
+TEST_F(MeasuringWeekPanelTest, theAverageFollowsRuleAndDay) {
+    openWeek();
+    EXPECT_EQ(dayIn("weekEnd"), u"16/03/2026"_s) << "the last day with readings";
+    EXPECT_EQ(text("lblWeekMean"), u"135/80 mmHg"_s);
+    EXPECT_EQ(text("lblWeekThreshold"), u"Below 135/85, pulse 65"_s) << "134.7";
+    EXPECT_EQ(text("lblWeekHalves"), u"AM 140/80, PM 129/80"_s);
+    EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 left out"_s);
+    EXPECT_FALSE(find<QLabel>("lblWeekMissing").isVisible());
+    chooseNextRule();
+    EXPECT_EQ(text("lblWeekMissing"), u"Incomplete, needs 1 more evening"_s);
+    chooseNextRule();
+    EXPECT_EQ(text("lblWeekThreshold"), u"At or above 130/80, pulse 65"_s);
+    EXPECT_EQ(text("lblWeekCount"), u"27 readings on 7 days"_s);
+    typeDay("weekEnd", u"11032026"_s);
+    QTest::keyClick(&find<QWidget>("weekEnd"), Qt::Key_Return);
+    EXPECT_EQ(text("lblWeekMissing"), u"Incomplete, needs 1 more day, 4 more readings"_s);
+    store.setCurrentID(u"P2"_s);
+    EXPECT_EQ(text("lblWeekMean"), u"No average"_s);
+    EXPECT_FALSE(find<QWidget>("weekEnd").isEnabled());
+    store.setCurrentID(u"P1"_s);
+    EXPECT_EQ(dayIn("weekEnd"), u"16/03/2026"_s) << "of another patient than the day was picked for";
+    storeReadings(u"P1"_s, {reading(u"202603170700"_s, 140)});
+    EXPECT_EQ(dayIn("weekEnd"), u"17/03/2026"_s);
+}
+
+} // namespace
+
+} // namespace zel
