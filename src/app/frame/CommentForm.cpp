@@ -163,7 +163,7 @@ void CommentForm::showNoPosition() {
 
 void CommentForm::showChange(const QString& sentence) {
     lblBeforeAndSince->setText(sentence);
-    lblBeforeAndSince->setAccessibleName(sentence);
+    lblBeforeAndSince->setAccessibleName(sentence.isEmpty() ? qtTrId("beforeAndSinceHint") : sentence);
     lblBeforeAndSince->setVisible(!sentence.isEmpty());
 }
 

@@ -110,7 +110,7 @@ void MeasuringWeekPanel::LoadData() {
     showCounts(week);
     for (QLabel* line : {lblWeekMean, lblWeekHalves, lblWeekThreshold, lblWeekMissing, lblWeekCount}) {
         line->setVisible(!line->text().isEmpty());
-        line->setAccessibleName(line->text());
+        line->setAccessibleName(line->text().isEmpty() ? accessibleName() : line->text());
     }
 }
 
