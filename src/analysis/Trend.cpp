@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <span>
 
 namespace zel {
 
@@ -72,9 +73,9 @@ ReadingPointers inOrderOfDays(const ReadingList& readings, const ReadingSelectio
     return chosen;
 }
 
-using ReadingRange = std::ranges::subrange<ReadingPointers::const_iterator>;
+using ReadingRange = std::span<const ReadingModel* const>;
 
-TrendBand bandOf(const ReadingRange& readings, std::uint32_t ReadingModel::*measure,
+TrendBand bandOf(ReadingRange readings, std::uint32_t ReadingModel::*measure,
                  std::vector<std::uint32_t>& values) {
     values.clear();
     values.reserve(readings.size());
@@ -103,7 +104,7 @@ Trend calcTrend(const ReadingList& readings, const ReadingSelection& selection) 
         const DaySpan span = stepOf(trend.step, (*at)->day);
         const auto next =
             std::find_if(at, chosen.end(), [end = span.end](auto* reading) { return reading->day > end; });
-        const ReadingRange same{at, next};
+        const ReadingRange same(at, next);
         trend.points.push_back({span.begin, span.end, same.size(), bandOf(same, &ReadingModel::sys, values),
                                 bandOf(same, &ReadingModel::dia, values),
                                 bandOf(same, &ReadingModel::pulse, values)});

@@ -66,7 +66,7 @@ tl::expected<QString, StoreError> nearName(const Job& job, const QString& name, 
 CommandResult restore(const Job& job, const QString& given, Surroundings& around) {
     const auto near = nearName(job, given, around.clock);
     if (!near) return told(near.error());
-    const QString name = *near;
+    const QString& name = *near;
     const auto kept = job.backups.restore(name);
     if (!kept) return told(kept.error());
     printLine(around.out, u"restored: "_s + name);

@@ -26,7 +26,7 @@ namespace {
 using enum SecondFolderProblem;
 
 constexpr qint64 shareOfSecondDisk = 10;
-constexpr qint64 largestRecord = 64 * 1024;
+constexpr qint64 largestRecord = qint64{64} * 1024;
 
 QString recordPath(const QString& dataFile) { return QFileInfo{dataFile}.path() + u"/BackupFolder.json"_s; }
 

@@ -8,9 +8,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Report : public CliTest {
+class ReportTest : public CliTest {
 protected:
-    Report() {
+    ReportTest() {
         addPatient(u"M1"_s);
         EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient"_s, u"M1"_s}).status, 0);
     }
@@ -26,7 +26,7 @@ protected:
     const QString output = folder.filePath(u"report.pdf"_s);
 };
 
-TEST_F(Report, everySectionIsWritten) {
+TEST_F(ReportTest, everySectionIsWritten) {
     const Outcome outcome = report(u"all"_s, {u"--practitioner"_s, u"--paper"_s, u"Letter"_s});
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_EQ(outcome.out, "written: " + output.toStdString() + '\n');
@@ -48,7 +48,7 @@ TEST_F(Report, everySectionIsWritten) {
     EXPECT_TRUE(written().contains(fromZEL));
 }
 
-TEST_F(Report, thePaperIsTheUsualOneUnlessItIsNamed) {
+TEST_F(ReportTest, thePaperIsTheUsualOneUnlessItIsNamed) {
     for (const auto& [usual, named, box] : {std::tuple{QPageSize::A4, "", "595.000000 842"},
                                             {QPageSize::Letter, "", "612.000000 792"},
                                             {QPageSize::Letter, "A4", "595.000000 842"}}) {
@@ -60,7 +60,7 @@ TEST_F(Report, thePaperIsTheUsualOneUnlessItIsNamed) {
     }
 }
 
-TEST_F(Report, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
+TEST_F(ReportTest, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
     struct Refusal {
         QString section;
         QStringList more;
@@ -82,7 +82,7 @@ TEST_F(Report, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
     }
 }
 
-TEST_F(Report, neverReplacesTheDataFile) {
+TEST_F(ReportTest, neverReplacesTheDataFile) {
     const QByteArray before = data();
     const Outcome outcome =
         zel({u"report"_s, u"--patient"_s, u"M1"_s, u"--section"_s, u"table"_s, u"--output"_s, dataFile()});

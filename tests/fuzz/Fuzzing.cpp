@@ -48,6 +48,7 @@ void print(std::ostream& out, const DataTransferLogModel& d) {
 template <class Index>
 void printAll(std::ostream& out, const Index& index) {
     std::vector<QString> IDs;
+    IDs.reserve(index.size());
     for (const auto& [ID, list] : index)
         IDs.push_back(ID);
     std::ranges::sort(IDs);

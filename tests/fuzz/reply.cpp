@@ -110,7 +110,7 @@ void requireWhole(const std::string& delivered, std::size_t count) {
     const std::string_view all = std::string_view{delivered}.substr(1); // behind the acknowledgement
     require(all.size() >= recordsHeaderLength, "a header is whole");
     if (isHex(all[2]) && isHex(all[3]))
-        require(std::size_t(16 * digit(all[2]) + digit(all[3])) == count,
+        require(16 * std::size_t(digit(all[2])) + std::size_t(digit(all[3])) == count,
                 "as many readings as the header says");
     if (count == 0) return;
     require(all.size() == recordsHeaderLength + count * recordLength + checkFieldLength,

@@ -194,7 +194,7 @@ TEST_F(SimulatedMonitorTest, PlansReachToTheirLimitsAndNoFurther) {
         qint64 largest;
     };
     for (const auto& [member, smallest, largest] : {
-             Case{R"("clockOffsetSeconds": %1)", -400 * 24 * 3600, 400 * 24 * 3600},
+             Case{R"("clockOffsetSeconds": %1)", -400LL * 24 * 3600, 400LL * 24 * 3600},
              Case{R"("reportSizes": [%1])", 1, 15},
              Case{R"("records": [{"time": "undated", "sys": %1, "dia": 2, "pulse": 3}])", 0, 255},
              Case{R"("records": [{"time": "undated", "sys": 1, "dia": %1, "pulse": 3}])", 0, 1023},

@@ -36,8 +36,7 @@ protected:
         status = program.exitCode();
         QFile sockets(folder.filePath(u"sockets"_s));
         const bool any = sockets.open(QIODevice::ReadOnly);
-        const QStringList lines =
-            QString::fromUtf8(any ? sockets.readAll() : "").split(u'\n', Qt::SkipEmptyParts);
+        QStringList lines = QString::fromUtf8(any ? sockets.readAll() : "").split(u'\n', Qt::SkipEmptyParts);
         sockets.remove();
         return lines;
     }

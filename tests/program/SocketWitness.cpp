@@ -37,7 +37,7 @@ void note(const char* call, const sockaddr* address, socklen_t length) {
     std::memcpy(path.data(), reinterpret_cast<const char*>(address) + name,
                 path.size());                     // NOLINT: as defined
     if (path.front() == '\0') path.front() = '@'; // an abstract name
-    note(call + std::string(" unix ") + path.c_str());
+    note(call + std::string(" unix ") + path.data());
 }
 
 template <class Function>

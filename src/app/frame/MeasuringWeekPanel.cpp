@@ -27,7 +27,7 @@ QString halvesOf(const MeasuringWeek& week) {
 
 QString countsOf(const MeasuringWeek& week) {
     const QString readings = qtTrId("weekReadings", static_cast<int>(week.readingsUsed()));
-    const QString counted = qtTrId("weekDays", week.daysUsed).arg(readings);
+    QString counted = qtTrId("weekDays", week.daysUsed).arg(readings);
     if (week.readingsLeftOut == 0) return counted;
     return counted + u"; "_s + qtTrId("weekFirstDay", week.readingsLeftOut);
 }

@@ -1,5 +1,6 @@
 #include "AppTest.h"
 
+#include <QDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
