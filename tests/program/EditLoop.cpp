@@ -1,7 +1,7 @@
-// edit_loop HOME [SAVES|NAME]: saves the one patient of the data file below HOME again and again, each time with
-// the next number as notes, and says each number on standard output when its save is reported as done. With
-// SAVES it ends after so many, and says first what the file held: number and readings. With a NAME it adds
-// patients NAME1, NAME2 ... instead, and goes on after one that was refused. It is there to be killed.
+// edit_loop HOME [SAVES|NAME]: saves the one patient of the data file below HOME again and again, each time
+// with the next number as notes, and says each number on standard output when its save is reported as done.
+// With SAVES it ends after so many, and says first what the file held: number and readings. With a NAME it
+// adds patients NAME1, NAME2 ... instead, and goes on after one that was refused. It is there to be killed.
 #include "store/DataStore.h"
 
 #include <QCoreApplication>

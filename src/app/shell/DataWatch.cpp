@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QWidget>
 
 #include <utility>
 
