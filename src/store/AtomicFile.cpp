@@ -90,10 +90,27 @@ int flushPlace(NewFile& file, const QString& target) {
     return error == 0 && file.isOnFat() ? file.flush() : error;
 }
 
+/// \p path as the user is told of it
+StoreResult put(const QByteArray& content, const QString& path, const QString& target,
+                int (NewFile::*take)(const QString& place)) {
+    auto file = NewFile::create(temporaryPrefix(target));
+    if (!file) return unwritten(file.error(), path);
+    if (const int error = writeWhole(*file, target, content)) return unwritten(error, path);
+    const Handle before = file->isOnFat() ? hold(target) : Handle{-1};
+    if (const int error = ((*file).*take)(target)) return unwritten(error, path);
+    if (const int error = flushPlace(*file, target)) {
+        // Not its name: that of a report or an export tells whose it is.
+        qCWarning(lcStore, "A folder could not be flushed: %s", std::strerror(error));
+        return failed(StoreErrorCode::notFlushed, path, systemWords(error));
+    }
+    return {};
+}
+
 } // namespace
 
 StoreError writeError(int error, const QString& path) {
     switch (error) {
+    case EEXIST: return {StoreErrorCode::alreadyExists, path, {}};
     case ENOSPC: return {StoreErrorCode::diskFull, path, {}};
     case EDQUOT: return {StoreErrorCode::quotaReached, path, {}};
     case EFBIG: return {StoreErrorCode::sizeLimit, path, {}};
@@ -110,18 +127,11 @@ StoreResult replaceFile(const QString& path, const QByteArray& content) {
     const QFileInfo info{path};
     // A device or a pipe would be gone for good.
     if (info.exists() && !info.isFile()) return failed(StoreErrorCode::notWritable, path, {});
-    const QString target = realPath(path);
-    auto file = NewFile::create(temporaryPrefix(target));
-    if (!file) return unwritten(file.error(), path);
-    if (const int error = writeWhole(*file, target, content)) return unwritten(error, path);
-    const Handle before = file->isOnFat() ? hold(target) : Handle{-1};
-    if (const int error = file->takePlace(target)) return unwritten(error, path);
-    if (const int error = flushPlace(*file, target)) {
-        // Not its name: that of a report or an export tells whose it is.
-        qCWarning(lcStore, "A folder could not be flushed: %s", std::strerror(error));
-        return failed(StoreErrorCode::notFlushed, path, systemWords(error));
-    }
-    return {};
+    return put(content, path, realPath(path), &NewFile::takePlace);
+}
+
+StoreResult makeFile(const QString& path, const QByteArray& content) {
+    return put(content, path, path, &NewFile::takeFreePlace);
 }
 
 StoreResult flushNewFolder(const QString& folder) {

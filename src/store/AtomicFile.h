@@ -15,6 +15,9 @@ namespace zel {
 /// any other error it is as it was
 [[nodiscard]] StoreResult replaceFile(const QString& path, const QByteArray& content);
 
+/// As replaceFile(), but only where nothing stands, also no link: alreadyExists.
+[[nodiscard]] StoreResult makeFile(const QString& path, const QByteArray& content);
+
 /// Has a folder that was just made outlast a power cut. One whose parents may not be read is left to the
 /// system.
 [[nodiscard]] StoreResult flushNewFolder(const QString& folder);

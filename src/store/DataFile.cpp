@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <string_view>
@@ -45,6 +46,14 @@ tl::expected<QByteArray, StoreError> checkedBytes(XmlDocument document, const QS
     if (const auto readAgain = XmlDocument::parse(*bytes); !readAgain)
         return tl::unexpected{StoreError{StoreErrorCode::unreadable, path, readAgain.error()}};
     return std::move(*bytes);
+}
+
+/// A link stands there also where what it leads to is out of reach, as a share may be, and so does a file
+/// that cannot be looked at: neither is to be made anew.
+bool isPlaceFree(const QString& path) {
+    struct stat status {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) != 0
+           && (errno == ENOENT || errno == ENOTDIR);
 }
 
 /// The file that a change really replaces, so that programs that reach it by different links take turns.
@@ -88,13 +97,11 @@ void DataFile::checkAndMakeTargetFile() const {
 
 StoreResult DataFile::checkXMLFileExist() const {
     const QString path = getZELXMLPath();
-    const bool exists = QFileInfo::exists(path);
-    qCInfo(lcStore, "%s  file %s exists", qUtf8Printable(path), exists ? " does " : " does not ");
-    if (exists) {
-        removeDeadReplacements(path);
-        return {};
-    }
-    return create();
+    const bool isThere = !isPlaceFree(path);
+    qCInfo(lcStore, "%s  file %s exists", qUtf8Printable(path), isThere ? " does " : " does not ");
+    if (!isThere) return create();
+    removeDeadReplacements(path);
+    return {};
 }
 
 StoreResult DataFile::create() const {
@@ -105,17 +112,18 @@ StoreResult DataFile::create() const {
     if (sharedByFolder(folder()) == 0) QFile::setPermissions(folder(), ownersAlone | QFileDevice::ExeOwner);
     FileLock lock{path};
     if (StoreResult turn = takeTurn(lock); !turn && turn.error().code == StoreErrorCode::busy) return turn;
-    if (!QFileInfo::exists(path)) moveOldXml();
-    if (!QFileInfo::exists(path)) result = result.and_then([this] { return copyTemplate(); });
-    if (!QFileInfo::exists(path)) return refused(StoreErrorCode::notCreated, path);
-    return result;
+    if (isPlaceFree(path)) moveOldXml();
+    if (isPlaceFree(path)) result = result.and_then([this] { return copyTemplate(); });
+    if (isPlaceFree(path)) return refused(StoreErrorCode::notCreated, path);
+    const bool isOthers = !result && result.error().code == StoreErrorCode::alreadyExists;
+    return isOthers ? StoreResult{} : result;
 }
 
 StoreResult DataFile::copyTemplate() const {
     const QString source = paths.templateFolder + u"/ZEL_"_s + getTargetString() + u".xml"_s;
     QFile file{source}; // within the program, as a rule
     StoreResult copied = refused(StoreErrorCode::notReadable, source);
-    if (file.open(QIODevice::ReadOnly)) copied = replaceFile(getZELXMLPath(), file.readAll());
+    if (file.open(QIODevice::ReadOnly)) copied = makeFile(getZELXMLPath(), file.readAll());
     qCInfo(lcStore, "copy from %s to %s %s", qUtf8Printable(source), qUtf8Printable(getZELXMLPath()),
            copied ? "success" : "fail");
     return copied;
@@ -126,7 +134,7 @@ void DataFile::moveOldXml() const {
     const QString old = getZELXMLPath_Old();
     if (!QFileInfo::exists(old)) return;
     const auto content = readFile(old);
-    if (!content || !replaceFile(getZELXMLPath(), *content) || !QFile::remove(old))
+    if (!content || !makeFile(getZELXMLPath(), *content) || !QFile::remove(old))
         qCWarning(lcStore, "The data file of an older version, %s, could not be moved", qUtf8Printable(old));
 }
 
@@ -181,9 +189,8 @@ StoreResult DataFile::editInTurn(const Change& change, const std::function<void(
     // By a program that takes no turns, or while this one was cut off from the share, and its turn given on.
     if (stamp() != asRead) return refused(StoreErrorCode::changedElsewhere, path);
     StoreResult replaced = replaceFile(path, *bytes);
-    if (!replaced) return replaced;
-    qCInfo(lcStore, "write document out...");
-    written();
+    if (replaced) qCInfo(lcStore, "write document out...");
+    if (isInPlace(replaced)) written();
     return replaced;
 }
 
@@ -191,7 +198,9 @@ StoreResult DataFile::replace(const QByteArray& content, const std::function<Sto
     const QString path = getZELXMLPath();
     FileLock lock{linksFollowed(path)};
     if (StoreResult turn = takeTurn(lock); !turn) return turn;
+    const FileStamp asKept = stamp();
     if (StoreResult kept = keep(); !kept) return kept;
+    if (stamp() != asKept) return refused(StoreErrorCode::changedElsewhere, path);
     return replaceFile(path, content);
 }
 

@@ -66,6 +66,9 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& pa
     });
     if (!stored) {
         if (isReadingError(stored.error())) qCWarning(lcStore, "import  create xml doc failed");
+        if (isInPlace(stored))
+            return tl::unexpected{
+                ImportRefusal{ImportRefusalCode::notFlushed, path, {}, stored.error().detail}};
         return tl::unexpected{
             ImportRefusal{ImportRefusalCode::notStored, path, {}, describe(stored.error())}};
     }

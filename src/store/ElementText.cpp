@@ -19,6 +19,8 @@ constexpr unsigned fragmentFlags = pugi::parse_full | pugi::parse_ws_pcdata_sing
 QByteArray rawText(pugi::xml_node node) {
     BytesWriter writer;
     if (node) node.print(writer, "", pugi::format_raw, pugi::encoding_utf8);
+    // As in the data file: it would be read back as a plain line end.
+    if (writer.bytes.contains('\r')) writer.bytes.replace("\r", "&#13;");
     return writer.bytes;
 }
 

@@ -47,13 +47,16 @@ bool isLockedAndThere(int handle) {
 }
 
 void removeIfDead(const QByteArray& path) {
-    const int handle = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    // To be written to, without which a share gives nobody the lock.
+    const int handle = ::open(path.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (handle < 0) return;
     struct stat status {};
     const bool isDead =
         ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode) && ::flock(handle, LOCK_EX | LOCK_NB) == 0;
-    if (isDead && removeOpen(path) == 0)
-        qCInfo(lcStore, "Removed %s, which a program left that was ended while writing", path.constData());
+    if (isDead && removeOpen(path) == 0) {
+        qCInfo(lcStore, "Removed what a program left that was ended while writing");
+        qCDebug(lcStore, "It was %s", path.constData());
+    }
     ::close(handle);
 }
 
@@ -124,6 +127,16 @@ int NewFile::flushFileSystem() { return errorOf(::syncfs(handle)); }
 
 int NewFile::takePlace(const QString& path) {
     const int error = errorOf(std::rename(name.constData(), QFile::encodeName(path).constData()));
+    if (error == 0) name.clear();
+    return error;
+}
+
+int NewFile::takeFreePlace(const QString& path) {
+    const QByteArray place = QFile::encodeName(path);
+    const int error =
+        errorOf(::renameat2(AT_FDCWD, name.constData(), AT_FDCWD, place.constData(), RENAME_NOREPLACE));
+    // A file system that knows no such renaming, as NFS; the second name goes with this object.
+    if (error == EINVAL || error == ENOSYS) return errorOf(::link(name.constData(), place.constData()));
     if (error == 0) name.clear();
     return error;
 }

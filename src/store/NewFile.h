@@ -31,6 +31,8 @@ public:
     /// On a file system without a journal, as sticks have it: only the order of flushes keeps it in order.
     [[nodiscard]] bool isOnFat() const;
     [[nodiscard]] int takePlace(const QString& path);
+    /// As takePlace(), but only where nothing stands, also no link: else EEXIST.
+    [[nodiscard]] int takeFreePlace(const QString& path);
     /// Waits until its whole file system is on the disk.
     [[nodiscard]] int flushFileSystem();
 

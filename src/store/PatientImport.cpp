@@ -34,6 +34,7 @@ QString sentence(ImportRefusalCode code) {
     case ImportRefusalCode::sameIDTwice: return qtTrId("ImportSameIDTwice");
     case ImportRefusalCode::alreadyKnown: return qtTrId("ImportAlreadyKnown");
     case ImportRefusalCode::notStored: return qtTrId("ImportNotStored");
+    case ImportRefusalCode::notFlushed: return qtTrId("ImportNotFlushed");
     }
     return {};
 }

@@ -24,9 +24,10 @@ enum class ImportRefusalCode {
     sameIDTwice,  ///< two patients in it have the same ID
     alreadyKnown, ///< a patient of the list has the ID
     notStored,    ///< the data file could not be read or written; detail says why
+    notFlushed,   ///< all of it was taken, but may be gone after a power cut
 };
 
-/// Why a file was not imported. Nothing of it was taken.
+/// Why a file was not imported. Nothing of it was taken, but for notFlushed.
 struct ImportRefusal {
     ImportRefusalCode code;
     QString path;   ///< the file

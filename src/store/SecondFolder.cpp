@@ -182,7 +182,10 @@ tl::expected<QString, StoreError> fetchCopy(const QString& backups, const QStrin
     QString name = backupName(BackupKind::made, now);
     while (QFileInfo::exists(backups + u'/' + name))
         name = backupName(BackupKind::made, now += std::chrono::seconds{1});
-    return replaceFile(backups + u'/' + name, *bytes).map([&name] { return name; });
+    // Whether it outlasts a power cut does not matter: it is read again from there.
+    StoreResult fetched = replaceFile(backups + u'/' + name, *bytes);
+    if (!isInPlace(fetched)) return tl::unexpected{fetched.error()};
+    return name;
 }
 
 bool isFirstFailure(const QString& dataFile, DayNumber today) {

@@ -86,11 +86,11 @@ Survey survey(std::string_view text) {
     return seen;
 }
 
-/// The tag that begins at \p at keeps the text that follows it.
-bool isStartTag(std::string_view text, std::size_t at) {
-    const auto end = text.find('>', at);
-    const auto mark = text.substr(at + 1, 1);
-    return end != text.npos && mark != "/" && mark != "!" && mark != "?" && text[end - 1] != '/';
+/// \p tag, from its "<" up to before the next one, keeps the text that follows it.
+bool isStartTag(std::string_view tag) {
+    const auto end = tag.find('>');
+    const auto mark = tag.substr(1, 1);
+    return end != tag.npos && mark != "/" && mark != "!" && mark != "?" && tag[end - 1] != '/';
 }
 
 /// Elements, attributes and pieces of text, but for those that are kept in their elements.
@@ -101,7 +101,8 @@ std::size_t partsOf(std::string_view text, const Survey& seen) {
         if (!text.substr(at).starts_with("</")) ++parts;
         const auto before = at == 0 ? text.npos : text.find_last_not_of(" \t\r\n", at - 1);
         const bool isText = before != text.npos && text[before] != '>';
-        if (isText && (seen.hasCdata || last == text.npos || !isStartTag(text, last))) ++parts;
+        if (isText && (seen.hasCdata || last == text.npos || !isStartTag(text.substr(last, at - last))))
+            ++parts;
     }
     return parts;
 }

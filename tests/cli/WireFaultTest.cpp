@@ -50,8 +50,8 @@ struct Fault {
     Kind kind;
     std::string_view commands;       ///< that it can befall
     bool hasPlace = false;           ///< among the reports
-    std::optional<int> awayFor = {}; ///< openings, after an unplug; for ever if none
     bool isLate = false;             ///< so late that it is not waited for
+    std::optional<int> awayFor = {}; ///< openings, after an unplug; for ever if none
 };
 constexpr std::string_view all = "\"#$>";
 constexpr std::string_view replies = "\"$>";
@@ -62,13 +62,13 @@ constexpr Fault faults[] = {
     {"wrong fixed content", Kind::badFixedContent, "$>"},
     {"half an answer", Kind::halfAnswer, replies, true},
     {"delay", Kind::late, all, true},
-    {"late answer", Kind::late, all, true, {}, true},
+    {"late answer", Kind::late, all, true, true},
     {"wrong byte", Kind::wrongByte, replies, true},
     {"surplus byte", Kind::surplusByte, replies, true},
     {"not taken", Kind::notTaken, "#"},
     {"unplugged", Kind::unplug, all, true},
-    {"loose cable", Kind::unplug, all, true, 0},
-    {"unplugged for a moment", Kind::unplug, all, true, 1},
+    {"loose cable", Kind::unplug, all, true, false, 0},
+    {"unplugged for a moment", Kind::unplug, all, true, false, 1},
     {"read error", Kind::readError, all, true},
     {"write error", Kind::writeError, all},
 };

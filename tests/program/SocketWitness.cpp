@@ -37,7 +37,8 @@ void note(const char* call, const sockaddr* address, socklen_t length) {
     std::memcpy(path.data(), reinterpret_cast<const char*>(address) + name,
                 path.size());                     // NOLINT: as defined
     if (path.front() == '\0') path.front() = '@'; // an abstract name
-    note(call + std::string(" unix ") + path.data());
+    path.resize(std::strlen(path.data()));        // what follows is not of the name
+    note(call + std::string(" unix ") + path);
 }
 
 template <class Function>

@@ -170,6 +170,13 @@ TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
     ASSERT_FALSE(added);
     EXPECT_EQ(added.error().code, StoreErrorCode::notFlushed);
     EXPECT_EQ(store.getCommentForCurID().size(), 1U);
+    EXPECT_FALSE(store.isChangedElsewhere()) << "it was written here";
+    const QString other = folder.filePath(u"other.xml"_s);
+    ASSERT_TRUE(replaceFile(other, "<ZEL><Patient><ID>B</ID></Patient></ZEL>"));
+    folderFlushesThatWork = 0;
+    const auto imported = store.importXml(other);
+    folderFlushesThatWork = noFault;
+    EXPECT_EQ(imported.error().code, ImportRefusalCode::notFlushed) << "it was taken";
     const auto copies = store.backups().list();
     ASSERT_EQ(copies.size(), 1U);
     for (const bool isKept : {false, true}) { // what is there, before the copy takes its place

@@ -19,6 +19,16 @@ TEST_F(DataStoreTest, FirstStartCopiesTheTemplateForTheOwnerAlone) {
     EXPECT_EQ(readFile(program.filePath(u".target"_s)).value(), "pad");
 }
 
+TEST_F(DataStoreTest, LinkToWhatIsOutOfReachIsLeftAndTold) {
+    const QString share = home.filePath(u"share.xml"_s); // not there now
+    ASSERT_TRUE(QDir{}.mkpath(QFileInfo{path}.path()) && QFile::link(share, path));
+    EXPECT_EQ(store.load().error().code, StoreErrorCode::notReadable);
+    EXPECT_EQ(QFileInfo{path}.symLinkTarget(), share);
+    write(share, "<ZEL><SystemSetting/><Patient><ID>A</ID></Patient></ZEL>");
+    EXPECT_TRUE(store.load() && store.validIDinXML(u"A"_s));
+    EXPECT_EQ(makeFile(path, "another").error().code, StoreErrorCode::alreadyExists);
+}
+
 TEST_F(DataStoreTest, TargetFileChoosesTheTemplate) {
     write(program.filePath(u".target"_s), "ihd\nmore");
     write(program.filePath(u"ZEL_ihd.xml"_s),

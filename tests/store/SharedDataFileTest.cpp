@@ -68,6 +68,12 @@ TEST_F(DataStoreTest, NeverReplacesWhatItHasNotRead) {
     };
     EXPECT_EQ(file.edit(changeBoth).error().code, StoreErrorCode::changedElsewhere);
     EXPECT_EQ(content(), foreign);
+    const auto meanwhile = [this] {
+        write(path, "<ZEL/>");
+        return StoreResult{};
+    };
+    EXPECT_EQ(file.replace(foreign, meanwhile).error().code, StoreErrorCode::changedElsewhere);
+    EXPECT_EQ(content(), "<ZEL/>");
 }
 
 TEST_F(DataStoreTest, WhatCannotBeReadNowTakesNothingAway) {

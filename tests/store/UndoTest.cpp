@@ -12,7 +12,8 @@ using enum StoreErrorCode;
 const QByteArray ofBoth =
     "<SystemSetting own='1'><SysStandard>0150</SysStandard><ShowPPorMap>0</ShowPPorMap></SystemSetting>"
     "<!-- by hand --><Patient rank='2'><ID>A</ID><FamilyName>Smith</FamilyName>"
-    "<GivenNames>Margaret</GivenNames><Address>old</Address><Weight> 1e3 </Weight><Own><Deep/></Own>"
+    "<GivenNames>Margaret</GivenNames><Address>old</Address><Weight> 1e3 </Weight><Own>a "
+    "line&#13;another<Deep/></Own>"
     "<PatientNotes/></Patient><Patient><ID>Z</ID><FamilyName>Zorn</FamilyName><Address/></Patient>"
     "<MeasureRec><ID>A</ID><RecID>1000001</RecID><Sys>120</Sys></MeasureRec>"
     "<MeasureRec><ID>Z</ID><RecID>1000002</RecID><Sys>121</Sys></MeasureRec>"
@@ -33,7 +34,7 @@ struct UndoTest : DataStoreTest {
 
     UndoTest() {
         write(imported, "<ZEL><Patient><ID>I</ID><FamilyName>Im</FamilyName></Patient>"
-                        "<Comment><ID>I</ID><CommentID>10001</CommentID></Comment>"
+                        "<Comment><ID>I</ID><CommentID>10001</CommentID><Comment>a&#13;b</Comment></Comment>"
                         "<MeasureRec><ID>I</ID><RecID>5</RecID></MeasureRec>"
                         "<MeasureRec><ID>I</ID><RecID>6</RecID></MeasureRec></ZEL>");
         setData();

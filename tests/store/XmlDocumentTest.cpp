@@ -164,6 +164,8 @@ TEST(XmlDocument, RefusesWhatWouldTakeTooMuch) {
         QByteArray{"<MeasureRec><ID>A</ID><RecID>1</RecID><Sys>131</Sys></MeasureRec>"}.repeated(300'000)));
     EXPECT_FALSE(holds(QByteArray{"<Patient>      </Patient>"}.repeated(500'000)))
         << "few parts, but many records";
+    EXPECT_FALSE(XmlDocument::parse(within("<a", 2'000'000)))
+        << "no tag ends, which takes no look at all the rest";
     QByteArray element = "<ZEL";
     for (int i = 0; i < 100'000; ++i)
         element += " a" + QByteArray::number(i) + "=''";

@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -65,7 +67,10 @@ void ImportController::importOne(const QString& path) {
 
 void ImportController::finish(int notReached) {
     outcome.notReached = notReached;
-    if (!outcome.taken.empty()) emit imported();
+    const bool mayBeLost = std::ranges::any_of(outcome.refused, [](const ImportRefusal& each) {
+        return each.code == ImportRefusalCode::notFlushed; // taken all the same
+    });
+    if (!outcome.taken.empty() || mayBeLost) emit imported();
     parts.panel.ShowMessage(describe(outcome), qtTrId("importTitle"));
 }
 
