@@ -18,7 +18,7 @@
     <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
     <message id="ImportNoID"><translation>%1: a patient in the file has no ID. Nothing was taken from it.</translation></message>
     <message id="ImportNoPatient"><translation>%1: there is no patient in the file. Nothing was taken from it.</translation></message>
-    <message id="ImportNotFlushed"><translation>%1: all of it was taken, but the disk did not confirm that; look after the next start whether it is there.</translation></message>
+    <message id="ImportNotFlushed"><translation>%1: all of it is stored, but the disk did not confirm that: after a power cut it may be missing.</translation></message>
     <message id="ImportNotReadable"><translation>%1: the file cannot be read, or is none that this program has exported. Nothing was taken from it.</translation></message>
     <message id="ImportNotStored"><translation>%1: what the file holds could not be stored. Nothing was taken from it.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: two patients in the file have the same ID, “%2”. Nothing was taken from it.</translation></message>
