@@ -53,7 +53,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
-    undoer = new UndoController({needed.store, needed.status, needed.panel}, this);
+    undoer =
+        new UndoController({needed.store, needed.status, needed.panel, [this] { return isEdited(); }}, this);
     connect(&window, &MainWindow::undoWanted, undoer, &UndoController::undo);
     connect(&window, &MainWindow::redoWanted, undoer, &UndoController::redo);
     connect(undoer, &UndoController::retraced, this, &AppController::showStep);
@@ -316,9 +317,11 @@ void AppController::reload() {
         parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
 }
 
+bool AppController::isEdited() const { return pageInView().isEdited() || patientPage->isEdited(); }
+
 /// Whom the step is about is shown, unless that took something typed away.
 void AppController::showStep(const StepName& name) {
-    if (!pageInView().isEdited() && !patientPage->isEdited()) {
+    if (!isEdited()) {
         patientPage->showPatient(name.patientID);
         const auto isIt = [&](const auto& comment) { return comment->CommentID == name.commentID; };
         if (parts.store.getCurrentID() == name.patientID

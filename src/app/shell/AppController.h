@@ -101,6 +101,7 @@ private:
     void keepUnsaved();
     void offerUnsaved();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
+    [[nodiscard]] bool isEdited() const;
     void showStep(const StepName& name);
     void UpdateUIBySetting();
     void reload();

@@ -35,6 +35,7 @@ bool UndoController::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride || !isUntouched(watched)) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (!key->matches(QKeySequence::Undo) && !key->matches(QKeySequence::Redo)) return false;
+    if (parts.isEdited()) return false; // it is meant for what is typed
     event->ignore();
     return true;
 }

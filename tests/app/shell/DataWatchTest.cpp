@@ -79,6 +79,27 @@ TEST_F(DataWatchTest, WhatAnotherProgramChangesIsShownAndWhatIsTypedStays) {
     EXPECT_EQ(text("lblOutcome"), qtTrId("patientSaved").arg(u"Kim Family20"_s));
 }
 
+TEST_F(DataWatchTest, TheUndoKeyMeansWhatIsTypedAlsoAfterAReload) {
+    watch(1ms);
+    QByteArray before;
+    for (const char* field : {"PatientNotes", "FamilyName"}) {
+        SCOPED_TRACE(field);
+        type(field, u"typed"_s);
+        changeElsewhere(u"P00"_s, QLatin1String(field));
+        waitFor([&] { return address() == QLatin1String(field); });
+        before = dataFile();
+        for (int times = 0; times < 20; ++times)
+            press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(dataFile(), before);
+    }
+    EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), QString());
+    EXPECT_EQ(find<QLineEdit>("FamilyName").text(), u"Family00"_s);
+    type("PatientNotes", u"typed"_s);
+    find<QWidget>("GivenNames").setFocus(); // nothing is typed there, but something is not saved
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(dataFile(), before);
+}
+
 TEST_F(DataWatchTest, WhatCannotBeReadNowIsSaidAndNothingIsTakenAway) {
     watch(1ms);
     const QByteArray whole = dataFile();
