@@ -25,6 +25,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace zel {
@@ -70,6 +71,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
+    connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);
     connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
     connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
             &AppController::savePatient);
@@ -157,6 +159,7 @@ void AppController::keepOthersOut() {
     QStringList left;
     for (const StoreError& error : makePrivate(parts.store.getZELXMLPath()))
         left += describe(error);
+    std::ignore = parts.store.takeChanges(); // or the new mode would be taken for another program's change
     if (left.isEmpty()) return window.showOutcome(qtTrId("privacyMended"));
     parts.panel.ShowMessage(left.join(u'\n'), qtTrId("Warning"));
 }
@@ -315,6 +318,13 @@ void AppController::showAbout() {
 void AppController::reload() {
     if (const StoreResult read = parts.store.loadXML(); !read)
         parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+}
+
+/// Unless the user did it: took a step back, or went back to a copy.
+void AppController::tellReplaced(const QString& name) {
+    if (undoer->isRetracing() || (backupDialog && backupDialog->isVisible())) return;
+    const QString told = qtTrId("patientReplaced").arg(name);
+    parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }
 
 bool AppController::isEdited() const { return pageInView().isEdited() || patientPage->isEdited(); }

@@ -102,6 +102,7 @@ private:
     void offerUnsaved();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
     [[nodiscard]] bool isEdited() const;
+    void tellReplaced(const QString& name);
     void showStep(const StepName& name);
     void UpdateUIBySetting();
     void reload();

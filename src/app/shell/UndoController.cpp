@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 
 namespace zel {
 
@@ -44,6 +45,7 @@ void UndoController::retrace(bool back) {
     const ChangeStep* step = back ? parts.store.changes().undoable() : parts.store.changes().redoable();
     if (!step || parts.status.isBusy()) return;
     const StepName name = step->name;
+    const QScopedValueRollback working(isAtWork, true);
     const StoreResult result = back ? parts.store.undo() : parts.store.redo();
     const QString text = shortStepName(name);
     if (isInPlace(result)) {

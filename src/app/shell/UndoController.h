@@ -25,6 +25,7 @@ public:
 
     void undo() { retrace(true); }
     void redo() { retrace(false); }
+    [[nodiscard]] bool isRetracing() const { return isAtWork; }
 
 signals:
     void retraced(const StepName& name); ///< the file has been read anew
@@ -38,6 +39,7 @@ private:
     void tell(bool back, const QString& name, const StoreError& error);
 
     Parts parts;
+    bool isAtWork = false;
 };
 
 } // namespace zel

@@ -18,6 +18,7 @@ namespace {
 class DataWatchTest : public AppTest {
 protected:
     DataWatchTest() {
+        startsPlugged = false;
         for (int i = 0; i < 60; ++i)
             addPatient(u"P%1"_s.arg(i, 2, 10, QChar(u'0')), u"Family%1"_s.arg(i, 2, 10, QChar(u'0')));
     }
@@ -98,6 +99,27 @@ TEST_F(DataWatchTest, TheUndoKeyMeansWhatIsTypedAlsoAfterAReload) {
     find<QWidget>("GivenNames").setFocus(); // nothing is typed there, but something is not saved
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(dataFile(), before);
+}
+
+TEST_F(DataWatchTest, WhoeverIsRemovedElsewhereIsNamedAndNobodyElseIsTypedInto) {
+    watch(1ms);
+    find<QTableView>("tblPatients").selectRow(20);
+    find<QWidget>("GivenNames").setFocus();
+    elsewhere([](DataStore& other) { ASSERT_TRUE(other.deleteXMLPatient(u"P20"_s)); });
+    waitFor([this] { return store.getCurrentID() == u"P00"_s; });
+    EXPECT_EQ(find<QLineEdit>("FamilyName").text(), u"Family00"_s);
+    EXPECT_TRUE(find<QWidget>("tblPatients").hasFocus()) << "not in the editor of somebody else";
+    const QString told = qtTrId("Warning") + u": "_s;
+    EXPECT_EQ(panel.messages, QStringList(told + qtTrId("patientReplaced").arg(u"Kim Family20"_s)));
+    type("PatientNotes", u"typed"_s);
+    elsewhere([](DataStore& other) { ASSERT_TRUE(other.deleteXMLPatient(u"P00"_s)); });
+    waitFor([this] { return panel.messages.size() == 2; });
+    EXPECT_EQ(panel.messages.last(), told + qtTrId("patientGone").arg(u"Kim Family00"_s));
+    EXPECT_TRUE(find<QWidget>("PatientNotes").hasFocus()) << "it is still the same patient";
+    QSignalSpy reloads(&store, &DataStore::reloaded);
+    changeElsewhere(u"P30"_s, u"Road 1"_s);
+    waitFor([&] { return !reloads.empty(); });
+    EXPECT_EQ(panel.messages.size(), 2) << "it is told already";
 }
 
 TEST_F(DataWatchTest, WhatCannotBeReadNowIsSaidAndNothingIsTakenAway) {
