@@ -473,6 +473,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="patientPartlySaved"><translation>Not all of the data of %1 could be stored: the data file has no place for some of it. What could not be stored still stands in the fields.</translation></message>
     <message id="patientRefused"><translation>Nothing was saved yet. Please correct what is marked:
 %1</translation></message>
+    <message id="patientReplaced"><translation>%1 is no longer in the data file: another program removed this patient. Another patient is shown now.</translation></message>
     <message id="patientSaved"><translation>%1 has been saved.</translation></message>
     <message id="patientsDetail"><translation>Choose a patient, or enter a new one.</translation></message>
     <message id="patientsInputFields"><translation>Family name, given name and ID are needed. Nothing was saved yet; please fill in what is marked.</translation></message>

@@ -40,11 +40,8 @@ QString comparison(const MeasuringWeek& week) {
                                    : qtTrId("weekBelow").arg(threshold);
 }
 
-/// Its first instant, or today's where there is no week.
-Instant instantOf(DayNumber day) {
-    return StrToDate(dayText(day), u"yyyy/MM/dd"_s)
-        .value_or(std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()));
-}
+/// Its first instant.
+Date instantOf(DayNumber day) { return StrToDate(dayText(day), u"yyyy/MM/dd"_s); }
 
 } // namespace
 
@@ -105,7 +102,7 @@ void MeasuringWeekPanel::LoadData() {
     cboWeekRule->setCurrentIndex(static_cast<int>(week.rule));
     weekEnd->setFormat(store.getSetting().dateFormat);
     weekEnd->setEnabled(week.end != noDay);
-    weekEnd->showDay(instantOf(week.end));
+    if (const Date end = week.end == noDay ? Date() : instantOf(week.end)) weekEnd->showDay(*end);
     showMeans(week);
     showCounts(week);
     for (QLabel* line : {lblWeekMean, lblWeekHalves, lblWeekThreshold, lblWeekMissing, lblWeekCount}) {

@@ -38,6 +38,7 @@ PeriodBar::PeriodBar(const DataStore& dataStore, DisplayPeriod& displayPeriod, M
     first->addStretch(1);
     parts->addLayout(first, 0);
     parts->addLayout(makeOptions(), 1);
+    connect(&store, &DataStore::reloaded, this, &PeriodBar::UpdateUIBySetting);
     connect(&period, &DisplayPeriod::changed, this, &PeriodBar::showPeriod);
     UpdateUIBySetting();
 }

@@ -167,19 +167,22 @@ PatientEntry PatientEditor::entry() const {
 void PatientEditor::showPatient(const PatientForm& record) { showPatient(record, record.entryOf()); }
 
 /// The inputs may change what they are given, a line end for one; what they make of the record is its entry.
+/// One whose text stays is left alone: what was typed there can still be taken back, unless for another
+/// patient.
 void PatientEditor::showPatient(const PatientForm& record, const PatientEntry& typed) {
     const bool isSame = form.isNew() == record.isNew() && form.patient().ID == record.patient().ID;
     form = record;
     const PatientEntry given = record.entryOf();
     std::vector<std::function<void()>> carets;
     forEachPatientField([&](PatientField field) { carets.push_back(keepCaret(input(field))); });
-    const auto set = [&](const PatientEntry& texts, PatientField field) {
-        setInputText(input(field), texts[field]);
-    };
-    forEachPatientField([&](PatientField field) { set(given, field); });
-    form.setShown(entry());
+    PatientEntry shown;
+    forEachPatientField(
+        [&](PatientField field) { shown[field] = textAfterSetting(input(field), given[field]); });
+    form.setShown(shown);
     forEachPatientField([&](PatientField field) {
-        if (typed[field] != given[field]) set(typed, field);
+        const QString& wanted = typed[field] == given[field] ? shown[field] : typed[field];
+        if (!isSame || inputText(input(field)) != textAfterSetting(input(field), wanted))
+            setInputText(input(field), wanted);
         box(field).setProblem({});
         if (isSame) carets.at(at(field))();
     });

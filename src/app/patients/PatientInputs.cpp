@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextCursor>
+#include <QTextDocument>
 #include <QValidator>
 #include <QWheelEvent>
 
@@ -76,6 +77,16 @@ QString inputText(const QWidget& input) {
     // Its own plain text would turn no-break spaces into others.
     return lines ? lines->document()->toRawText().replace(QChar(QChar::ParagraphSeparator), u'\n')
                  : QString();
+}
+
+QString textAfterSetting(const QWidget& input, const QString& text) {
+    if (qobject_cast<const QLineEdit*>(&input)) return text;
+    if (const auto* choice = qobject_cast<const QComboBox*>(&input)) {
+        const int index = text.toInt();
+        return QString::number(index >= 0 && index < choice->count() ? index : -1);
+    }
+    const QTextDocument lines(text);
+    return lines.toRawText().replace(QChar(QChar::ParagraphSeparator), u'\n');
 }
 
 void setInputText(QWidget& input, const QString& text) {

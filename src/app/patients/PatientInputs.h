@@ -24,6 +24,9 @@ void setPlaceholder(QLineEdit& input, const QString& text);
 
 /// The text of an input; the position of the choice as a number.
 [[nodiscard]] QString inputText(const QWidget& input);
+/// What inputText() is once the input is given \p text.
+[[nodiscard]] QString textAfterSetting(const QWidget& input, const QString& text);
+/// Ends what can be taken back in the input, even if its text stays the same.
 void setInputText(QWidget& input, const QString& text);
 /// \return puts the caret back to where it is in the input, if its text is the same by then
 [[nodiscard]] std::function<void()> keepCaret(QWidget& input);

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -114,13 +115,32 @@ void PatientViewController::reload() {
     const auto& patients = store.getPatientArray();
     const QString first = patients.empty() ? QString() : patients.front().ID;
     const QString instead = newPatient ? u"-"_s : first;
+    if (store.validIDinXML(toldGone)) toldGone = QString();
+    const bool isOther = isShownGone();
+    const PatientModel before = editor->shownForm().patient();
+    if (isOther) leaveEditor();
     open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
     emit rosterChanged(!patients.empty());
+    if (isOther && toldGone != before.ID) emit replaced(shortName(before));
     tellIfGone();
 }
 
+/// Without anything typed, so that another one takes the place.
+bool PatientViewController::isShownGone() const {
+    const PatientForm& shown = editor->shownForm();
+    const QString ID = store.getCurrentID();
+    return store.lastLoad() && !shown.isNew() && shown.patient().ID == ID && !isThere(ID);
+}
+
+/// What is typed next is not meant for the patient who is shown now.
+void PatientViewController::leaveEditor() {
+    const QWidget* focused = window()->focusWidget();
+    if (focused && editor->isAncestorOf(focused)) roster->setFocus();
+}
+
 void PatientViewController::tellIfGone() {
-    if (!store.lastLoad() || !isGone(store.getCurrentID())) return;
+    const QString ID = store.getCurrentID();
+    if (!store.lastLoad() || !isGone(ID) || std::exchange(toldGone, ID) == ID) return;
     const QString told = qtTrId("patientGone").arg(shortName(editor->shownForm().patient()));
     parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }

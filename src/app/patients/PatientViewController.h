@@ -62,6 +62,8 @@ signals:
     void updateUIWanted(); ///< the monitor's ID has been changed
     void rosterChanged(bool hasPatients);
     void said(const QString& text); ///< what has been done
+    void
+    replaced(const QString& name); ///< the patient shown is not in the file any more, another one is shown
 
 private:
     void build();
@@ -75,6 +77,8 @@ private:
     [[nodiscard]] bool isNewOne(const QString& ID) const;
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();
+    [[nodiscard]] bool isShownGone() const;
+    void leaveEditor();
     void forget();
     [[nodiscard]] Instant today() const;
     [[nodiscard]] bool isSavedQuietly(const PatientForm& form, const PatientEntry& entry);
@@ -100,6 +104,7 @@ private:
         PatientForm form;
         PatientEntry entry;
     };
+    QString toldGone;                  ///< the ID of who was said to be gone, until there again
     std::optional<Unsaved> newPatient; ///< the one that is not saved yet, as it was left
 };
 

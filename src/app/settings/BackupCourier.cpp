@@ -13,9 +13,13 @@ constexpr std::chrono::seconds longestWaitAtEnd{2};
 
 } // namespace
 
-BackupCourier::BackupCourier(const DataStore& dataStore, const Clock& wallClock, QObject* parent)
-    : QObject(parent), store(dataStore), clock(wallClock) {
+BackupCourier::BackupCourier(const DataStore& dataStore, const Clock& wallClock, QObject* parent,
+                             std::chrono::milliseconds patience, Carry carrying)
+    : QObject(parent), store(dataStore), clock(wallClock), carry(std::move(carrying)) {
     mailbox->calls = &calls;
+    waited.setSingleShot(true);
+    waited.setInterval(patience);
+    connect(&waited, &QTimer::timeout, this, &BackupCourier::giveUp);
 }
 
 BackupCourier::~BackupCourier() {
@@ -43,8 +47,8 @@ void BackupCourier::run(const std::function<Then()>& job) {
 }
 
 void BackupCourier::bring() {
-    isWantedAgain = isUnderWay;
-    if (isUnderWay) return;
+    isWantedAgain = !underWay.isEmpty();
+    if (isWantedAgain) return;
     const auto second = secondFolder(store.getZELXMLPath());
     if (!second) return tell(second.error());
     const QString backups = store.backups().folder();
@@ -52,21 +56,41 @@ void BackupCourier::bring() {
     if (!*second || !QFileInfo::exists(backups + u'/' + name)) return;
     const QString what = (*second)->path(name);
     if (what == last) return;
-    isUnderWay = true;
-    run([this, backups, to = **second, what, day = LocalZone{}.day(now())] {
-        SecondFolderResult result = bringCopy(backups, to, day);
-        return [this, result = std::move(result), what] { ended(result, what); };
+    const QString folder = (*second)->copies();
+    isWantedAgain = hanging.contains(folder);
+    if (isWantedAgain) return;
+    underWay = folder;
+    waited.start();
+    run([this, act = carry, backups, to = **second, folder, what, day = LocalZone{}.day(now())] {
+        SecondFolderResult result = act(backups, to, day);
+        return [this, result = std::move(result), folder, what] { ended(result, folder, what); };
     });
 }
 
-void BackupCourier::ended(const SecondFolderResult& result, const QString& what) {
-    isUnderWay = false;
+/// What comes late and failed was told by then.
+void BackupCourier::ended(const SecondFolderResult& result, const QString& folder, const QString& what) {
+    const bool isLate = hanging.remove(folder);
+    if (!isLate) {
+        waited.stop();
+        underWay.clear();
+    }
     if (result) {
         last = what;
         emit brought();
-    } else {
+    } else if (!isLate) {
         tell(result.error());
     }
+    goOn();
+}
+
+void BackupCourier::giveUp() {
+    const QString folder = std::exchange(underWay, QString());
+    hanging.insert(folder);
+    tell({SecondFolderProblem::failed, QFileInfo(folder).path(), {}});
+    goOn();
+}
+
+void BackupCourier::goOn() {
     if (std::exchange(isWantedAgain, false)) bring();
 }
 
@@ -81,7 +105,8 @@ void BackupCourier::look() {
 /// A record that is broken cannot note that it was told.
 void BackupCourier::tell(const SecondFolderError& error) {
     const DayNumber today = LocalZone{}.day(now());
-    if (std::exchange(toldOn, today) == today) return;
+    const bool isSameFolder = std::exchange(told, error.folder) == error.folder;
+    if (std::exchange(toldOn, today) == today && isSameFolder) return;
     if (isFirstFailure(store.getZELXMLPath(), today)) emit failed(describe(error));
 }
 

@@ -4,6 +4,10 @@
 #include "store/DataStore.h"
 #include "store/SecondFolder.h"
 
+#include <QSet>
+#include <QTimer>
+
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -17,12 +21,16 @@ namespace zel {
 class BackupCourier final : public QObject {
     Q_OBJECT
 public:
-    /// Both must outlive it.
-    BackupCourier(const DataStore& dataStore, const Clock& wallClock, QObject* parent);
+    using Carry = std::function<SecondFolderResult(const QString&, const SecondFolder&, DayNumber)>;
+    /// Both must outlive it. \param patience with a folder, before it is told and others are not held up by
+    /// it
+    BackupCourier(const DataStore& dataStore, const Clock& wallClock, QObject* parent,
+                  std::chrono::milliseconds patience = std::chrono::minutes(1), Carry carrying = bringCopy);
     /// What is under way may take two seconds more; what hangs is left to the end of the process.
     ~BackupCourier() override;
 
-    /// Unless there is no second folder, no copy of today, or it was brought already.
+    /// Unless there is no second folder, no copy of today, or it was brought already. A folder that does not
+    /// answer is not asked again before it has.
     void bring();
     /// Lists the copies there; listed() follows, unless there is no second folder.
     void look();
@@ -30,7 +38,7 @@ public:
 signals:
     void brought();
     void listed(const zel::SecondFolder& folder, const std::vector<zel::Backup>& copies);
-    void failed(const QString& why); ///< once a day; for the user
+    void failed(const QString& why); ///< once a day for each folder; for the user
 
 private:
     using Then = std::function<void()>;
@@ -42,7 +50,9 @@ private:
         int underWay = 0;
     };
     void run(const std::function<Then()>& job);
-    void ended(const SecondFolderResult& result, const QString& what);
+    void ended(const SecondFolderResult& result, const QString& folder, const QString& what);
+    void giveUp();
+    void goOn();
     void tell(const SecondFolderError& error);
     [[nodiscard]] Instant now() const;
 
@@ -51,8 +61,12 @@ private:
     CallQueue calls;
     std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
     QString last; ///< the place and day that are done
+    Carry carry;
+    QTimer waited;
+    QSet<QString> hanging; ///< folders that have not answered in time, nor since
+    QString underWay;      ///< the folder that is waited for
+    QString told;          ///< the folder of the last failure,
     DayNumber toldOn = noDay;
-    bool isUnderWay = false;
     bool isWantedAgain = false;
 };
 

@@ -139,13 +139,19 @@ void BackupDialog::nameFolder(const QString& folder) {
     if (const auto named = nameSecondFolder(store.getZELXMLPath(), folder); !named)
         return panel.ShowMessage(describe(named.error()), qtTrId("Warning"));
     showSecondFolder();
-    takeFarCopies({}, {});
+    showFarCopies({}, {});
     courier.bring();
     courier.look();
 }
 
-/// They come when the folder has answered, and leave what is chosen as it is.
+/// They come when the folder has answered, and count if it is still the one that is named.
 void BackupDialog::takeFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies) {
+    const auto now = secondFolder(store.getZELXMLPath());
+    if (now && *now && (*now)->copies() == folder.copies()) showFarCopies(folder, copies);
+}
+
+/// Leaves what is chosen as it is.
+void BackupDialog::showFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies) {
     far = folder;
     farCopies = copies;
     if (!isVisible()) return;
@@ -231,8 +237,9 @@ tl::expected<QString, StoreError> BackupDialog::nearName(const QString& name) co
 }
 
 void BackupDialog::restore() {
+    const QString chosen = chosenName(); // the lists may be filled anew while the question stands
     if (!panel.AskToErase(qtTrId("backupConfirm").arg(lblBackup->text()), qtTrId("backupTitle"))) return;
-    const auto name = nearName(chosenName());
+    const auto name = nearName(chosen);
     if (!name) return panel.ShowMessage(describe(name.error()), qtTrId("Warning"));
     const auto kept = store.restoreBackup(*name);
     if (!kept) return panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));

@@ -42,6 +42,7 @@ private:
     void stopSecondFolder();
     void nameFolder(const QString& folder);
     void takeFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies);
+    void showFarCopies(const SecondFolder& folder, const std::vector<Backup>& copies);
     void addFarRows(const QString& chosen);
     void addRow(const Backup& copy, const QString& path, const QString& kind, const QString& chosen);
     [[nodiscard]] tl::expected<QString, StoreError> nearName(const QString& name) const;

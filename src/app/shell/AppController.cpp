@@ -25,6 +25,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace zel {
@@ -53,7 +54,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
-    undoer = new UndoController({needed.store, needed.status, needed.panel}, this);
+    undoer =
+        new UndoController({needed.store, needed.status, needed.panel, [this] { return isEdited(); }}, this);
     connect(&window, &MainWindow::undoWanted, undoer, &UndoController::undo);
     connect(&window, &MainWindow::redoWanted, undoer, &UndoController::redo);
     connect(undoer, &UndoController::retraced, this, &AppController::showStep);
@@ -69,6 +71,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
+    connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);
     connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
     connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
             &AppController::savePatient);
@@ -156,6 +159,7 @@ void AppController::keepOthersOut() {
     QStringList left;
     for (const StoreError& error : makePrivate(parts.store.getZELXMLPath()))
         left += describe(error);
+    std::ignore = parts.store.takeChanges(); // or the new mode would be taken for another program's change
     if (left.isEmpty()) return window.showOutcome(qtTrId("privacyMended"));
     parts.panel.ShowMessage(left.join(u'\n'), qtTrId("Warning"));
 }
@@ -316,9 +320,18 @@ void AppController::reload() {
         parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
 }
 
+/// Unless the user did it: took a step back, or went back to a copy.
+void AppController::tellReplaced(const QString& name) {
+    if (undoer->isRetracing() || (backupDialog && backupDialog->isVisible())) return;
+    const QString told = qtTrId("patientReplaced").arg(name);
+    parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
+}
+
+bool AppController::isEdited() const { return pageInView().isEdited() || patientPage->isEdited(); }
+
 /// Whom the step is about is shown, unless that took something typed away.
 void AppController::showStep(const StepName& name) {
-    if (!pageInView().isEdited() && !patientPage->isEdited()) {
+    if (!isEdited()) {
         patientPage->showPatient(name.patientID);
         const auto isIt = [&](const auto& comment) { return comment->CommentID == name.commentID; };
         if (parts.store.getCurrentID() == name.patientID

@@ -101,6 +101,8 @@ private:
     void keepUnsaved();
     void offerUnsaved();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
+    [[nodiscard]] bool isEdited() const;
+    void tellReplaced(const QString& name);
     void showStep(const StepName& name);
     void UpdateUIBySetting();
     void reload();

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 
 namespace zel {
 
@@ -35,6 +36,7 @@ bool UndoController::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride || !isUntouched(watched)) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (!key->matches(QKeySequence::Undo) && !key->matches(QKeySequence::Redo)) return false;
+    if (parts.isEdited()) return false; // it is meant for what is typed
     event->ignore();
     return true;
 }
@@ -43,6 +45,7 @@ void UndoController::retrace(bool back) {
     const ChangeStep* step = back ? parts.store.changes().undoable() : parts.store.changes().redoable();
     if (!step || parts.status.isBusy()) return;
     const StepName name = step->name;
+    const QScopedValueRollback working(isAtWork, true);
     const StoreResult result = back ? parts.store.undo() : parts.store.redo();
     const QString text = shortStepName(name);
     if (isInPlace(result)) {

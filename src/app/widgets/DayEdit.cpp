@@ -46,10 +46,12 @@ DayEdit::DayEdit(const QString& name, const QString& title, QWidget* parent) : Q
         this, &DayEdit::calendarClosed, this, [this] { confirm(true); }, Qt::QueuedConnection);
 }
 
+/// To set the same day or format again would write over what is half typed.
 void DayEdit::showDay(Instant day) {
     const QSignalBlocker silence(this);
+    const QDate before = shown;
     shown = QDate::fromString(DateToStr(day, dayPattern.toString()), dayPattern.toString());
-    setDate(shown);
+    if (date() != shown || before != shown) setDate(shown);
 }
 
 Instant DayEdit::day() const {
@@ -59,9 +61,12 @@ Instant DayEdit::day() const {
 void DayEdit::setFormat(const QString& dateFormat) {
     const auto* known = std::ranges::find(locales, dateFormat, &Locale::dateFormat);
     const bool isKnown = known != locales.end();
+    const QLocale wanted = isKnown && !known->name.isEmpty() ? QLocale(known->name.toString()) : QLocale();
+    const QString display = isKnown ? known->display.toString() : u"yyyy/MM/dd"_s;
+    if (locale() == wanted && displayFormat() == display) return;
     const QSignalBlocker silence(this);
-    setLocale(isKnown && !known->name.isEmpty() ? QLocale(known->name.toString()) : QLocale());
-    setDisplayFormat(isKnown ? known->display.toString() : u"yyyy/MM/dd"_s);
+    setLocale(wanted);
+    setDisplayFormat(display);
 }
 
 void DayEdit::confirm(bool inCalendar) {

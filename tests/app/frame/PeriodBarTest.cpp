@@ -39,6 +39,21 @@ protected:
 
 } // namespace
 
+TEST_F(PeriodBarTest, aReloadBringsTheDateFormatAndLeavesWhatIsHalfTyped) {
+    openYear();
+    for (const char* field : {"beginDay", "weekEnd"}) {
+        typeDay(field, u"07"_s);
+        const QString typed = dayIn(field);
+        EXPECT_TRUE(typed.startsWith(u"07"_s)) << qPrintable(typed);
+        ASSERT_TRUE(store.loadXML());
+        EXPECT_EQ(dayIn(field), typed) << field;
+    }
+    store.getSetting().dateFormat = u"yyyy mm dd"_s;
+    ASSERT_TRUE(store.saveSetting());
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(dayIn("endDay"), u"2026/03/20"_s);
+}
+
 TEST_F(PeriodBarTest, thePeriodIsPickedByDaysOrByViewChoice) {
     openYear();
     const auto& am = find<QRadioButton>("amOnly");

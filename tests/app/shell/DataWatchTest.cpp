@@ -18,6 +18,7 @@ namespace {
 class DataWatchTest : public AppTest {
 protected:
     DataWatchTest() {
+        startsPlugged = false;
         for (int i = 0; i < 60; ++i)
             addPatient(u"P%1"_s.arg(i, 2, 10, QChar(u'0')), u"Family%1"_s.arg(i, 2, 10, QChar(u'0')));
     }
@@ -77,6 +78,48 @@ TEST_F(DataWatchTest, WhatAnotherProgramChangesIsShownAndWhatIsTypedStays) {
     QTest::qWait(20);
     EXPECT_EQ(reloads.size(), 1) << "its own save is no change by others";
     EXPECT_EQ(text("lblOutcome"), qtTrId("patientSaved").arg(u"Kim Family20"_s));
+}
+
+TEST_F(DataWatchTest, TheUndoKeyMeansWhatIsTypedAlsoAfterAReload) {
+    watch(1ms);
+    QByteArray before;
+    for (const char* field : {"PatientNotes", "FamilyName"}) {
+        SCOPED_TRACE(field);
+        type(field, u"typed"_s);
+        changeElsewhere(u"P00"_s, QLatin1String(field));
+        waitFor([&] { return address() == QLatin1String(field); });
+        before = dataFile();
+        for (int times = 0; times < 20; ++times)
+            press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(dataFile(), before);
+    }
+    EXPECT_EQ(find<QPlainTextEdit>("PatientNotes").toPlainText(), QString());
+    EXPECT_EQ(find<QLineEdit>("FamilyName").text(), u"Family00"_s);
+    type("PatientNotes", u"typed"_s);
+    find<QWidget>("GivenNames").setFocus(); // nothing is typed there, but something is not saved
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(dataFile(), before);
+}
+
+TEST_F(DataWatchTest, WhoeverIsRemovedElsewhereIsNamedAndNobodyElseIsTypedInto) {
+    watch(1ms);
+    find<QTableView>("tblPatients").selectRow(20);
+    find<QWidget>("GivenNames").setFocus();
+    elsewhere([](DataStore& other) { ASSERT_TRUE(other.deleteXMLPatient(u"P20"_s)); });
+    waitFor([this] { return store.getCurrentID() == u"P00"_s; });
+    EXPECT_EQ(find<QLineEdit>("FamilyName").text(), u"Family00"_s);
+    EXPECT_TRUE(find<QWidget>("tblPatients").hasFocus()) << "not in the editor of somebody else";
+    const QString told = qtTrId("Warning") + u": "_s;
+    EXPECT_EQ(panel.messages, QStringList(told + qtTrId("patientReplaced").arg(u"Kim Family20"_s)));
+    type("PatientNotes", u"typed"_s);
+    elsewhere([](DataStore& other) { ASSERT_TRUE(other.deleteXMLPatient(u"P00"_s)); });
+    waitFor([this] { return panel.messages.size() == 2; });
+    EXPECT_EQ(panel.messages.last(), told + qtTrId("patientGone").arg(u"Kim Family00"_s));
+    EXPECT_TRUE(find<QWidget>("PatientNotes").hasFocus()) << "it is still the same patient";
+    QSignalSpy reloads(&store, &DataStore::reloaded);
+    changeElsewhere(u"P30"_s, u"Road 1"_s);
+    waitFor([&] { return !reloads.empty(); });
+    EXPECT_EQ(panel.messages.size(), 2) << "it is told already";
 }
 
 TEST_F(DataWatchTest, WhatCannotBeReadNowIsSaidAndNothingIsTakenAway) {

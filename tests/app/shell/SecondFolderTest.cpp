@@ -1,11 +1,15 @@
 #include "store/SecondFolder.h"
 
 #include "AppTest.h"
+#include "app/settings/BackupCourier.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QDir>
 #include <QLineEdit>
+
+#include <atomic>
+#include <future>
 
 namespace zel {
 
@@ -75,6 +79,67 @@ TEST_F(SecondFolderWindowTest, thatIsAwayIsToldOnceADayAndHoldsUpNothing) {
     change();
     waitFor([this] { return named().list().size() == 1; });
     EXPECT_EQ(panel.messages.size(), 1);
+    const QTemporaryDir other;
+    ASSERT_TRUE(nameSecondFolder(store.getZELXMLPath(), other.path()));
+    QDir(named().copies()).removeRecursively();
+    change();
+    waitFor([this] { return panel.messages.size() == 2; });
+    EXPECT_TRUE(panel.messages.last().contains(other.path())) << "another folder's first failure";
+}
+
+TEST_F(SecondFolderWindowTest, thatDoesNotAnswerIsToldAndHoldsUpNoOther) {
+    ASSERT_TRUE(nameSecondFolder(store.getZELXMLPath(), stick.path()));
+    change();
+    waitFor([this] { return named().list().size() == 1; });
+    std::promise<void> answer;
+    std::atomic<int> asked = 0;
+    BackupCourier courier(store, clock, nullptr, std::chrono::milliseconds(1),
+                          [&asked, hangs = named(), answered = answer.get_future().share()](
+                              const QString& from, const SecondFolder& to, DayNumber day) {
+                              if (to.folder == hangs.folder && ++asked == 1) answered.wait();
+                              return bringCopy(from, to, day);
+                          });
+    QStringList failures;
+    QObject::connect(&courier, &BackupCourier::failed, [&](const QString& why) { failures += why; });
+    courier.bring();
+    waitFor([&] { return !failures.empty(); });
+    EXPECT_TRUE(failures.first().contains(stick.path()));
+    courier.bring();
+    EXPECT_EQ(asked, 1) << "not before it has answered";
+    const QTemporaryDir other;
+    ASSERT_TRUE(nameSecondFolder(store.getZELXMLPath(), other.path()));
+    courier.bring();
+    waitFor([this] { return named().list().size() == 1; });
+    EXPECT_EQ(named().list().size(), 1U);
+    answer.set_value();
+}
+
+TEST_F(SecondFolderWindowTest, aLateListOfAnotherFolderIsNotShown) {
+    ASSERT_TRUE(nameSecondFolder(store.getZELXMLPath(), stick.path()));
+    change();
+    waitFor([this] { return named().list().size() == 1; });
+    const SecondFolder before = named();
+    openBackups();
+    click("btnStopSecondFolder");
+    const int near = static_cast<int>(store.backups().list().size());
+    emit app->findChild<BackupCourier*>()->listed(before, before.list());
+    EXPECT_EQ(copies(), near);
+}
+
+TEST_F(SecondFolderWindowTest, theCopyThatWasAskedAboutIsTheOneGoneBackTo) {
+    change();
+    openBackups();
+    click("btnCreateBackup");
+    auto& list = find<QAbstractItemView>("tblBackups");
+    ASSERT_GT(copies(), 1);
+    const QString chosen = list.currentIndex().data(Qt::UserRole).toString();
+    panel.whenAsked = [&] {
+        const int other = list.currentIndex().row() == 0 ? 1 : 0;
+        list.setCurrentIndex(list.model()->index(other, 0));
+    };
+    click("btnRestoreBackup");
+    panel.whenAsked = [] {};
+    EXPECT_TRUE(text("lblOutcome").contains(chosen)) << qPrintable(text("lblOutcome"));
 }
 
 TEST_F(SecondFolderWindowTest, helpsADamagedFileWhereNoOtherCopyCanBeRead) {
