@@ -11,17 +11,9 @@ namespace zel::fuzz {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString placeInMemory() {
-    const QFileInfo memory{u"/dev/shm"_s};
-    return (memory.isWritable() ? memory.filePath() : QDir::tempPath()) + u"/zel-fuzz-XXXXXX"_s;
-}
-
-} // namespace
-
 ScratchStore::ScratchStore()
-    : folder{placeInMemory()}, store{{folder.path(), folder.path(), folder.path()}, clock} {
+    : folder{QDir::tempPath() + u"/zel-fuzz-XXXXXX"_s}, store{{folder.path(), folder.path(), folder.path()},
+                                                              clock} {
     require(folder.isValid() && QDir{}.mkpath(QFileInfo{store.getZELXMLPath()}.path()), "there is a folder");
 }
 

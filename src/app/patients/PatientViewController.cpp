@@ -117,11 +117,11 @@ void PatientViewController::reload() {
     const QString instead = newPatient ? u"-"_s : first;
     if (store.validIDinXML(toldGone)) toldGone = QString();
     const bool isOther = isShownGone();
-    const PatientModel before = editor->shownForm().patient();
-    if (isOther) leaveEditor();
+    const PatientModel& gone = editor->shownForm().patient();
+    if (isOther && toldGone != gone.ID) emit replaced(shortName(gone));
     open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
+    if (isOther) leaveEditor();
     emit rosterChanged(!patients.empty());
-    if (isOther && toldGone != before.ID) emit replaced(shortName(before));
     tellIfGone();
 }
 
@@ -132,7 +132,7 @@ bool PatientViewController::isShownGone() const {
     return store.lastLoad() && !shown.isNew() && shown.patient().ID == ID && !isThere(ID);
 }
 
-/// What is typed next is not meant for the patient who is shown now.
+/// What is typed next is not meant for the patient who is shown instead.
 void PatientViewController::leaveEditor() {
     const QWidget* focused = window()->focusWidget();
     if (focused && editor->isAncestorOf(focused)) roster->setFocus();

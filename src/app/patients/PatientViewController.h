@@ -63,7 +63,7 @@ signals:
     void rosterChanged(bool hasPatients);
     void said(const QString& text); ///< what has been done
     void
-    replaced(const QString& name); ///< the patient shown is not in the file any more, another one is shown
+    replaced(const QString& name); ///< the patient shown is not in the file any more, another one will be
 
 private:
     void build();

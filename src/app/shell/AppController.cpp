@@ -320,9 +320,10 @@ void AppController::reload() {
         parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
 }
 
-/// Unless the user did it: took a step back, or went back to a copy.
+/// Unless the user did it: took a step back, or went back to a copy. A page with a comment typed tells it
+/// itself.
 void AppController::tellReplaced(const QString& name) {
-    if (undoer->isRetracing() || (backupDialog && backupDialog->isVisible())) return;
+    if (undoer->isRetracing() || (backupDialog && backupDialog->isVisible()) || isEdited()) return;
     const QString told = qtTrId("patientReplaced").arg(name);
     parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }
