@@ -129,6 +129,7 @@
     <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluded one</numerusform><numerusform>%n excluded ones</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
     <message id="leftOut"><translation>%1 not counted</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>

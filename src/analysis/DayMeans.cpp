@@ -1,5 +1,7 @@
 #include "analysis/DayMeans.h"
 
+#include "analysis/ReadingSelection.h"
+
 #include <algorithm>
 
 namespace zel {
@@ -8,7 +10,7 @@ DayMeans::DayMeans(const ReadingList& readings) {
     std::vector<const ReadingModel*> dated;
     dated.reserve(readings.size());
     for (const ReadingModel& reading : readings)
-        if (!reading.isUndated()) dated.push_back(&reading);
+        if (isAveraged(reading)) dated.push_back(&reading);
     std::ranges::stable_sort(dated, {}, [](const ReadingModel* reading) { return reading->day; });
     PressureMeans sum;
     days.reserve(dated.size());

@@ -1,5 +1,7 @@
 #include "analysis/MeasuringWeek.h"
 
+#include "analysis/ReadingSelection.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -22,12 +24,12 @@ using WeekDays = std::array<ReadingsOfDay, daysOfWeek>;
 DayNumber lastDay(const ReadingList& readings) {
     DayNumber last = noDay;
     for (const ReadingModel& reading : readings)
-        if (!reading.isUndated()) last = std::max(last, reading.day);
+        if (isAveraged(reading)) last = std::max(last, reading.day);
     return last;
 }
 
 bool isOfWeek(const ReadingModel& reading, const MeasuringWeek& week) {
-    return !reading.isUndated() && week.begin <= reading.day && reading.day <= week.end;
+    return isAveraged(reading) && week.begin <= reading.day && reading.day <= week.end;
 }
 
 WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {

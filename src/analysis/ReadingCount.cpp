@@ -6,8 +6,14 @@ namespace zel {
 
 namespace {
 
+bool isExcludedOfPeriod(const ReadingModel& reading, const ReadingSelection& selection) {
+    return reading.isExcluded()
+           && (hasUndatedMarker(reading) || selection.period.contains(*reading.ReadingDate));
+}
+
 int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection& selection) {
     if (hasUndatedMarker(reading) && !selection.includeUndated) return &ReadingCount::undated;
+    if (isExcludedOfPeriod(reading, selection)) return &ReadingCount::excluded;
     if (reading.isUndated()) return &ReadingCount::withoutDate;
     if (!selection.period.contains(*reading.ReadingDate)) return &ReadingCount::outsidePeriod;
     return reading.isPMData ? &ReadingCount::fromNoon : &ReadingCount::beforeNoon;
@@ -29,6 +35,7 @@ QString describeLeftOut(const ReadingCount& count) {
     if (count.outsidePeriod > 0) reasons += qtTrId("leftOutsidePeriod", count.outsidePeriod);
     if (count.beforeNoon > 0) reasons += qtTrId("leftBeforeNoon", count.beforeNoon);
     if (count.fromNoon > 0) reasons += qtTrId("leftFromNoon", count.fromNoon);
+    if (count.excluded > 0) reasons += qtTrId("leftExcluded", count.excluded);
     if (count.undated > 0) reasons += qtTrId("leftUndated", count.undated);
     if (count.withoutDate > 0) reasons += qtTrId("leftWithoutDate", count.withoutDate);
     return reasons.isEmpty() ? QString() : qtTrId("leftOut").arg(reasons.join(QStringLiteral(", ")));

@@ -35,10 +35,11 @@ bool isListed(const ReadingModel& reading, const ReadingSelection& selection) {
 bool isInStatistic(const ReadingModel& reading, const ReadingSelection& selection) {
     ReadingSelection wholeDays = selection;
     wholeDays.view = ViewSelection::custom;
-    return reading.ReadingDate && isListed(reading, wholeDays);
+    return reading.ReadingDate && !reading.isExcluded() && isListed(reading, wholeDays);
 }
 
 bool isCounted(const ReadingModel& reading, const ReadingSelection& selection) {
+    if (reading.isExcluded()) return false;
     if (selection.includeUndated && hasUndatedMarker(reading)) return true;
     return reading.ReadingDate && selection.period.contains(*reading.ReadingDate)
            && MatchedDataType(selection.view, reading.isPMData);
@@ -47,5 +48,7 @@ bool isCounted(const ReadingModel& reading, const ReadingSelection& selection) {
 bool isInChart(const ReadingModel& reading, const ReadingSelection& selection) {
     return isCounted(reading, selection) && !hasUndatedMarker(reading);
 }
+
+bool isAveraged(const ReadingModel& reading) { return !reading.isUndated() && !reading.isExcluded(); }
 
 } // namespace zel

@@ -39,7 +39,7 @@ struct ReadingSelection {
 /// The monitor stored the reading without a valid clock, or the file gives no date at all.
 [[nodiscard]] bool hasUndatedMarker(const ReadingModel& reading);
 
-/// Whether the list of readings has the reading.
+/// Whether the list of readings has the reading, also one that the user left out.
 [[nodiscard]] bool isListed(const ReadingModel& reading, const ReadingSelection& selection);
 
 /// Whether the statistics count the reading. Unlike elsewhere, the half of the day does not matter.
@@ -50,5 +50,8 @@ struct ReadingSelection {
 
 /// Whether the chart counts the reading: its time axis has no place for an undated one, wanted or not.
 [[nodiscard]] bool isInChart(const ReadingModel& reading, const ReadingSelection& selection);
+
+/// Whether averages of days and weeks count the reading: it has a day, and is not left out.
+[[nodiscard]] bool isAveraged(const ReadingModel& reading);
 
 } // namespace zel

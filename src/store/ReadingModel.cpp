@@ -23,6 +23,9 @@ void readDate(R& reading, std::string_view text) {
     reading.ReadingDate = text.starts_with(marker) ? Date(getNilReadingDate()) : XMLStrToDate(text);
 }
 
+/// A child that only some readings have, behind the others; makeXmlNode() makes none.
+void readSource(R& reading, std::string_view text) { reading.isManual = text == "manual"; }
+
 constexpr std::array readingChildren{
     xml::text<R, &R::ID>("ID"),
     xml::text<R, &R::RecID>("RecID"),
@@ -36,6 +39,8 @@ constexpr std::array readingChildren{
     xml::number<R, &R::pulse>("Pulse"),
     XmlChild<R>{"Error"},
     notMade(xml::number<R, &R::erorr>("Erorr")),
+    notMade(xml::text<R, &R::exclusion>("Excluded")),
+    notMade({"Source", readSource}),
 };
 constexpr std::span<const XmlChild<R>> readingTable{readingChildren};
 

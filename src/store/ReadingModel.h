@@ -29,6 +29,7 @@ struct ReadingModel {
     std::uint32_t pp = 0;                  ///< pulse pressure, mmHg
     std::uint32_t pulse = 0;               ///< beats per minute
     std::uint32_t erorr = 0;               ///< error code; spelled so in the file format
+    QString exclusion;                     ///< why it counts nowhere, may be empty; null: it counts
     DayNumber day = noDay;                 ///< local day of ReadingDate, set by postInit
     std::uint16_t minuteOfDay = 0;         ///< local, 0 to 1439, set by postInit
     bool bAtBegin = false;                 ///< first and last row of a comment's run of rows
@@ -37,6 +38,7 @@ struct ReadingModel {
     bool bYellowBackground = false; ///< on a day on which a download took place
     bool isPMData = false;          ///< hours 12 to 23
     bool isNA = false;
+    bool isManual = false; ///< typed in by the user, not downloaded
 
     static ReadingModel initNA(Instant date);
     static ReadingModel initWithXMLNode(pugi::xml_node element);
@@ -54,6 +56,8 @@ struct ReadingModel {
     [[nodiscard]] Values values() const;
     /// Without a usable date: none, the monitor's marker, or year 1, which the file writes for none.
     [[nodiscard]] bool isUndated() const;
+    /// The user has left it out: it stays in the file and in the list, and counts nowhere.
+    [[nodiscard]] bool isExcluded() const { return !exclusion.isNull(); }
     [[nodiscard]] bool isPad() const;
     [[nodiscard]] bool isAFib() const;
     [[nodiscard]] QString getPadStr() const; ///< "Yes", "No" or "N/A", as in exported files

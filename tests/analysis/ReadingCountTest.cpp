@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace zel {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Of March 2019: two in the morning, one later. Beside: one of April, two undated, one of the year 1, and
@@ -53,6 +56,25 @@ TEST(ReadingCount, SaysWhatEachViewShowsAndWhyItLeavesTheOthersOut) {
         EXPECT_EQ(calcHistogram(readings, sample.selection).total,
                   static_cast<float>(countReadings(readings, sample.selection, isCounted).counted));
     }
+}
+
+TEST(ReadingCount, WhatIsExcludedIsListedAndCountsNowhere) {
+    Sample sample;
+    sample.selection = during("2019-03-01", "2019-03-31");
+    sample.selection.includeUndated = true;
+    sample.readings = readingsAt({"2019-03-02 08:00", "2019-03-03", "2000-01-01", "2019-04-01"});
+    for (ReadingModel& reading : sample.readings)
+        reading.exclusion = u""_s;
+    sample.readings.front().exclusion = QString();
+    EXPECT_EQ(countReadings(sample.readings, sample.selection, isListed), (ReadingCount{3, 1}));
+    for (const CountRule rule : {isInStatistic, isCounted})
+        EXPECT_EQ(countReadings(sample.readings, sample.selection, rule),
+                  (ReadingCount{1, 1, 0, 0, 0, 0, 2}));
+    EXPECT_EQ(countReadings(sample.readings, sample.selection, isInChart),
+              (ReadingCount{1, 1, 0, 0, 1, 0, 1}));
+    EXPECT_EQ(sample.rows().rows.size(), 3U);
+    EXPECT_EQ(calcStatistic(sample.readings, sample.selection, true).count, 1);
+    EXPECT_EQ(calcHistogram(sample.readings, sample.selection).total, 1);
 }
 
 } // namespace
