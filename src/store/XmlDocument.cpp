@@ -45,8 +45,9 @@ struct Survey {
     bool hasEqualsSign = false;   ///< after the declaration: perhaps an attribute's
     bool hasNonCharacter = false; ///< U+FFFE or U+FFFF
     bool hasCdata = false;
-    std::size_t parts = 0; ///< half as many as elements, attributes and pieces of text, or more
-    std::size_t tags = 0;  ///< of these, begins of tags
+    bool hasBlankFirst = false; ///< before which a declaration says nothing about the encoding
+    std::size_t parts = 0;      ///< half as many as elements, attributes and pieces of text, or more
+    std::size_t tags = 0;       ///< of these, begins of tags
 };
 
 bool isControl(char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }
@@ -75,6 +76,7 @@ Survey survey(std::string_view text) {
     Survey seen;
     const auto declarationEnd = text.starts_with("<?xml") ? text.find("?>") : 0;
     seen.hasEqualsSign = text.find('=', std::min(declarationEnd, text.size())) != text.npos;
+    seen.hasBlankFirst = text.find_first_not_of(" \t\r\n") != 0;
     seen.hasCdata = text.find("<![CDATA[") != text.npos;
     // Block by block, so that a large file goes through memory once.
     constexpr std::size_t blockSize = std::size_t{64} * 1024;
@@ -212,14 +214,15 @@ QString parserWords(const pugi::xml_parse_result& result, const QByteArray& utf8
 }
 
 /// What is wrong with the parsed document as a whole, or an empty text.
-QString documentFault(const pugi::xml_document& tree) {
+QString documentFault(const pugi::xml_document& tree, const Survey& seen) {
     qsizetype roots = 0;
     for (const pugi::xml_node node : tree.children()) {
         const auto type = node.type();
         if (type == pugi::node_element) ++roots;
         if (type == pugi::node_pcdata || type == pugi::node_cdata) return qtTrId("XmlTextOutsideRoot");
-        const bool isMisplaced = (type == pugi::node_declaration && node != tree.first_child())
-                                 || (type == pugi::node_doctype && roots > 0);
+        const bool isMisplaced =
+            (type == pugi::node_declaration && (seen.hasBlankFirst || node != tree.first_child()))
+            || (type == pugi::node_doctype && roots > 0);
         if (isMisplaced) return qtTrId("XmlMisplacedDeclaration");
     }
     if (roots == 0) return qtTrId("XmlNoRoot");
@@ -244,7 +247,8 @@ tl::expected<XmlDocument, QString> XmlDocument::parse(QByteArray file) {
     const auto result =
         document.tree.load_buffer_inplace(document.buffer.data(), text.size(), flags, pugi::encoding_utf8);
     if (!result) return tl::unexpected{parserWords(result, document.buffer)};
-    if (const QString fault = documentFault(document.tree); !fault.isEmpty()) return tl::unexpected{fault};
+    if (const QString fault = documentFault(document.tree, seen); !fault.isEmpty())
+        return tl::unexpected{fault};
     if (const QString fault = treeFault(document.tree, seen, text.size()); !fault.isEmpty())
         return tl::unexpected{fault};
     return document;

@@ -47,8 +47,8 @@ constexpr Exchange exchanges[] = {
 
 struct Fault {
     const char* name;
+    std::string_view commands; ///< that it can befall
     Kind kind;
-    std::string_view commands;       ///< that it can befall
     bool hasPlace = false;           ///< among the reports
     bool isLate = false;             ///< so late that it is not waited for
     std::optional<int> awayFor = {}; ///< openings, after an unplug; for ever if none
@@ -56,21 +56,21 @@ struct Fault {
 constexpr std::string_view all = "\"#$>";
 constexpr std::string_view replies = "\"$>";
 constexpr Fault faults[] = {
-    {"no answer", Kind::noAnswer, all},
-    {"wrong acknowledgement", Kind::wrongAcknowledgement, all},
-    {"wrong check field", Kind::badCheckField, replies},
-    {"wrong fixed content", Kind::badFixedContent, "$>"},
-    {"half an answer", Kind::halfAnswer, replies, true},
-    {"delay", Kind::late, all, true},
-    {"late answer", Kind::late, all, true, true},
-    {"wrong byte", Kind::wrongByte, replies, true},
-    {"surplus byte", Kind::surplusByte, replies, true},
-    {"not taken", Kind::notTaken, "#"},
-    {"unplugged", Kind::unplug, all, true},
-    {"loose cable", Kind::unplug, all, true, false, 0},
-    {"unplugged for a moment", Kind::unplug, all, true, false, 1},
-    {"read error", Kind::readError, all, true},
-    {"write error", Kind::writeError, all},
+    {"no answer", all, Kind::noAnswer},
+    {"wrong acknowledgement", all, Kind::wrongAcknowledgement},
+    {"wrong check field", replies, Kind::badCheckField},
+    {"wrong fixed content", "$>", Kind::badFixedContent},
+    {"half an answer", replies, Kind::halfAnswer, true},
+    {"delay", all, Kind::late, true},
+    {"late answer", all, Kind::late, true, true},
+    {"wrong byte", replies, Kind::wrongByte, true},
+    {"surplus byte", replies, Kind::surplusByte, true},
+    {"not taken", "#", Kind::notTaken},
+    {"unplugged", all, Kind::unplug, true},
+    {"loose cable", all, Kind::unplug, true, false, 0},
+    {"unplugged for a moment", all, Kind::unplug, true, false, 1},
+    {"read error", all, Kind::readError, true},
+    {"write error", all, Kind::writeError},
 };
 
 struct Case {
