@@ -72,6 +72,7 @@
     <message id="StoreTooLarge"><translation>The data file %1 is larger than 512 MiB, which this program does not read. It is left as it is, and nothing can be saved: put a smaller copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreUnreadable"><translation>The data file %1 was left as it was: what was to be saved could not be read again afterwards.</translation></message>
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
+    <message id="ViewLimitsUnread"><translation>%1, which says from where on values are marked, cannot be read. Until limits are chosen anew, values are marked from %2/%3 mmHg on.</translation></message>
     <message id="Warning"><translation>Warning</translation></message>
     <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>It holds bytes that are not in its encoding, %1.</translation></message>
@@ -128,6 +129,7 @@
     <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
     <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
+    <message id="highMark"><translation>%1 and bold: at or above %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
     <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluded one</numerusform><numerusform>%n excluded ones</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
@@ -135,10 +137,14 @@
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n undated one</numerusform><numerusform>%n undated ones</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n without any date</numerusform><numerusform>%n without any date</numerusform></translation></message>
+    <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
+    <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
+    <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
     <message id="missingReadings" numerus="yes"><translation><numerusform>%n more reading</numerusform><numerusform>%n more readings</numerusform></translation></message>
+    <message id="noHighMark"><translation>No values are marked as high</translation></message>
     <message id="noneBefore"><translation>no reading in the 14 days before, %1 since</translation></message>
     <message id="noneBeforeOrSince"><translation>no reading before or since</translation></message>
     <message id="noneSince"><translation>%1 before, no reading since</translation></message>
