@@ -766,6 +766,56 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="reportYears"><translation>years</translation></message>
+    <message id="summary"><translation>Summary</translation></message>
+    <message id="summaryAha"><translation>AHA</translation></message>
+    <message id="summaryAll"><translation>All</translation></message>
+    <message id="summaryBelow"><translation>Below the threshold of %1 (to a tenth: %2/%3)</translation></message>
+    <message id="summaryBorn" numerus="yes"><translation><numerusform>Born %1, %n year</numerusform><numerusform>Born %1, %n years</numerusform></translation></message>
+    <message id="summaryBornOn"><translation>Born %1</translation></message>
+    <message id="summaryComments"><translation>What changed: comments, newest first</translation></message>
+    <message id="summaryComplete"><translation>Complete</translation></message>
+    <message id="summaryDia"><translation>DIA, mmHg</translation></message>
+    <message id="summaryEither"><translation>SYS or DIA or both</translation></message>
+    <message id="summaryEsh"><translation>ESH</translation></message>
+    <message id="summaryEvening"><translation>Evening</translation></message>
+    <message id="summaryEvenings"><translation>Evening %1</translation></message>
+    <message id="summaryExcluded"><translation>%1 %2  %3/%4: %5</translation></message>
+    <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
+    <message id="summaryFlagged" numerus="yes"><translation><numerusform>Arrhythmia flagged (%1): %2 of %n reading</numerusform><numerusform>Arrhythmia flagged (%1): %2 of %n readings</numerusform></translation></message>
+    <message id="summaryHigh"><translation>At or above %1</translation></message>
+    <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 of %n reading</numerusform><numerusform>%1 of %n readings</numerusform></translation></message>
+    <message id="summaryID"><translation>ID %1</translation></message>
+    <message id="summaryIncomplete"><translation>Incomplete, needs %1</translation></message>
+    <message id="summaryLastDays"><translation>Last 14 days: mean (readings)</translation></message>
+    <message id="summaryLeftOut"><translation>Left out</translation></message>
+    <message id="summaryMax"><translation>Max</translation></message>
+    <message id="summaryMean"><translation>Mean</translation></message>
+    <message id="summaryMin"><translation>Min</translation></message>
+    <message id="summaryMoreComments" numerus="yes"><translation><numerusform>and %n more comment</numerusform><numerusform>and %n more comments</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more excluded reading</numerusform><numerusform>and %n more excluded readings</numerusform></translation></message>
+    <message id="summaryMorning"><translation>Morning</translation></message>
+    <message id="summaryMornings"><translation>Morning %1</translation></message>
+    <message id="summaryNice"><translation>NICE</translation></message>
+    <message id="summaryNoBirth"><translation>Date of birth not given</translation></message>
+    <message id="summaryNoComments"><translation>No comments in this period</translation></message>
+    <message id="summaryNone"><translation>No readings in this period</translation></message>
+    <message id="summaryNoReason"><translation>no reason given</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Morning is before noon. …: in full in the sections Comments and Readings.</translation></message>
+    <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
+    <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
+    <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
+    <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
+    <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comment of other days</numerusform><numerusform>%n comments of other days</numerusform></translation></message>
+    <message id="summaryOthers" numerus="yes"><translation><numerusform>%n not examined</numerusform><numerusform>%n not examined</numerusform></translation></message>
+    <message id="summaryPeriod"><translation>From %1 to %2</translation></message>
+    <message id="summaryPulse"><translation>Pulse %1</translation></message>
+    <message id="summaryRate"><translation>Pulse, 1/min</translation></message>
+    <message id="summaryReached"><translation>At or above the threshold of %1 (to a tenth: %2/%3)</translation></message>
+    <message id="summaryReadings"><translation>Readings</translation></message>
+    <message id="summarySD"><translation>SD</translation></message>
+    <message id="summarySys"><translation>SYS, mmHg</translation></message>
+    <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>
+    <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
@@ -980,6 +1030,7 @@ Options:
 Writes a patient's report as a PDF, replacing FILE.pdf if it is there, and prints 'written: FILE.pdf'.
 
 Sections:
+  summary                      one page for a physician: averages, trend, last days, comments, what was left out
   graph                        blood-pressure and pulse chart
   PatientProfile               the patient's data and notes
   histogram                    how the values are distributed
@@ -994,7 +1045,10 @@ Options:
   --section KEY[,KEY...]       what to print, in the order given
   --from yyyy-MM-dd            the first day of the reporting period (that of the first reading unless told)
   --to yyyy-MM-dd              the last day of it (that of the last reading unless told)
-  --practitioner               print the practitioner's details, from the settings, at the foot
+  --rule esh|nice|aha          how the summary averages its measuring week, which ends with the period's last day
+                               with readings; esh unless told otherwise. 'zel average --help' says what they are
+  --practitioner               print the practitioner's details, from the settings, at the foot; at the head of
+                               the summary
   --paper A4|Letter            the paper; usually that of LC_PAPER or LANG
   --output FILE.pdf            the file to write
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
