@@ -677,9 +677,11 @@ Open another window beside it? That does no harm: what both save is kept.</trans
 </context>
 <context>
     <name>chart</name>
+    <message id="abovePoints" numerus="yes"><translation><numerusform>%n point reaches above the scale</numerusform><numerusform>%n points reach above the scale</numerusform></translation></message>
     <message id="aboveScale" numerus="yes"><translation><numerusform>%n reading above the scale</numerusform><numerusform>%n readings above the scale</numerusform></translation></message>
     <message id="aboveScaleShort"><translation>%1 above</translation></message>
     <message id="average"><translation>Average</translation></message>
+    <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
     <message id="dia"><translation>DIA</translation></message>
@@ -698,6 +700,15 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="sys"><translation>SYS</translation></message>
     <message id="sys and dia too high"><translation>Both too high</translation></message>
     <message id="sys too high"><translation>Systolic too high</translation></message>
+    <message id="trendBand"><translation>%1; band: 10th to 90th percentile, or all of fewer than 5 readings</translation></message>
+    <message id="trendBandShort"><translation>%1; band: 10th to 90th percentile</translation></message>
+    <message id="trendDay"><translation>Median of each day</translation></message>
+    <message id="trendEvening"><translation>%1 evening</translation></message>
+    <message id="trendLinked"><translation>%1; dotted: no readings between</translation></message>
+    <message id="trendMonth"><translation>Median of each month</translation></message>
+    <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n more comment has no room here</numerusform><numerusform>%n more comments have no room here</numerusform></translation></message>
+    <message id="trendMorning"><translation>%1 morning</translation></message>
+    <message id="trendWeek"><translation>Median of each week</translation></message>
 </context>
 <context>
     <name>report</name>
