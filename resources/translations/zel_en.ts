@@ -593,6 +593,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="showGraph"><translation>Chart</translation></message>
     <message id="showHistogram"><translation>Histogram</translation></message>
     <message id="showMam"><translation>Show MAM</translation></message>
+    <message id="showTrend"><translation>Trend</translation></message>
     <message id="sideButton"><translation>Statistics and comments</translation></message>
     <message id="sideColumn"><translation>Monitor and data</translation></message>
     <message id="sideHint"><translation>Show or hide the statistics and the comments beside the readings.</translation></message>
@@ -627,6 +628,16 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
+    <message id="trendApart"><translation>Mornings and evenings apart</translation></message>
+    <message id="trendApartHint"><translation>Draw the readings before noon and those from noon on as lines of their own.</translation></message>
+    <message id="trendDays"><translation>%1 to %2</translation></message>
+    <message id="trendFigures"><translation>%1 (%2 to %3)</translation></message>
+    <message id="trendInfoEvening"><translation>%1, from noon on</translation></message>
+    <message id="trendInfoMorning"><translation>%1, before noon</translation></message>
+    <message id="trendKeys"><translation>%1, %2. Left and right show the figures of one point after the other, Home and End those of the first and the last one.</translation></message>
+    <message id="trendPeriod"><translation>Days</translation></message>
+    <message id="trendReadings"><translation>Readings</translation></message>
+    <message id="trendView"><translation>Trend of systolic and diastolic pressure and pulse</translation></message>
     <message id="undoDropped"><translation>
 
 So this step is left out from now on; the others are not concerned.</translation></message>

@@ -82,7 +82,7 @@ Taken extent(const CommentBand& band) {
 
 void moveToRow(CommentBand& band, double top, std::size_t row) {
     band.band.height = commentBandHeight - bandGap;
-    band.band.y = top - commentBandHeight * static_cast<double>(row + 1);
+    band.band.y = top - commentBandHeight * static_cast<double>(row + 1) + bandGap;
     band.labelAt.y = band.band.y + (band.band.height - textSize(band.label, bandFont).height) / 2;
 }
 

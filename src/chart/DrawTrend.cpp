@@ -253,9 +253,10 @@ TrendLayout drawTrend(const TrendInput& input, const LocalZone& zone) {
     Picture& picture = layout.picture;
     const bool isLinked = drawPlot(picture, input, parts.blood, pressures, zone);
     drawPlot(picture, input, parts.pulse, beats, zone);
-    drawDateLabels(picture, parts.pulse, input.forPrint ? noteInset : 0, zone);
+    drawDateLabels(picture, parts.pulse, noteInset, zone);
     const Rect& plot = parts.blood.chartRect;
-    drawCaption(picture, input, isLinked, {plot.x, plot.top(), all.right() - plot.x, all.top() - plot.top()});
+    drawCaption(picture, input, isLinked,
+                {plot.x + noteInset, plot.top(), all.right() - plot.x - noteInset, all.top() - plot.top()});
     for (TextLine& name : placeLineNames(lineEnds(input, parts.blood, parts.pulse), parts.names))
         picture.emplace_back(std::move(name));
     drawEmpty(picture, input, plot);

@@ -22,13 +22,14 @@ using Points = std::span<const TrendPoint>;
 
 bool isEvening(ViewSelection half) { return half == ViewSelection::pmOnly; }
 
+/// Dark enough for names on the pictures' background.
 QColor colorOf(TrendMeasure measure, bool evening) {
     switch (measure) {
-    case TrendMeasure::sys: return evening ? QColor(70, 150, 215) : QColor(8, 80, 150);
-    case TrendMeasure::dia: return evening ? QColor(220, 140, 50) : QColor(160, 75, 0);
+    case TrendMeasure::sys: return evening ? QColor(0, 100, 100) : QColor(8, 80, 150);
+    case TrendMeasure::dia: return evening ? QColor(150, 20, 90) : QColor(140, 65, 0);
     case TrendMeasure::pulse: break;
     }
-    return evening ? QColor(140, 140, 140) : QColor(60, 60, 60);
+    return evening ? QColor(95, 70, 120) : QColor(60, 60, 60);
 }
 
 class CurveMaker {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zel {
 namespace {
@@ -63,6 +64,18 @@ bool overlap(const Rect& a, const Rect& b) {
     constexpr double touch = 0.01;
     return a.x + touch < b.right() && b.x + touch < a.right() && a.y + touch < b.top()
            && b.y + touch < a.top();
+}
+
+/// From 1 to 21, as the eye has it.
+double contrast(const QColor& dark, const QColor& pale) {
+    const auto part = [](float value) {
+        return value <= 0.04045F ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    const auto brightness = [&](const QColor& color) {
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF())
+               + 0.05;
+    };
+    return brightness(pale) / brightness(dark);
 }
 
 /// What does not stand clear of the others, or leaves the picture.
@@ -186,6 +199,10 @@ TEST(DrawTrend, LinesAreToldApartInBlackAndWhite) {
         colours.push_back(line.color.name());
     std::ranges::sort(colours);
     EXPECT_EQ(std::ranges::unique(colours).begin(), colours.end()) << "and each has a colour of its own";
+    constexpr double readable = 4.5;
+    for (const Curve& line : trend.medianLines())
+        EXPECT_GE(contrast(line.color, fixColor(gcScaleBackgroundColor)), readable)
+            << qPrintable(line.color.name());
     trend.selection.view = ViewSelection::pmOnly;
     EXPECT_EQ(trend.texts().filter(u" evening"_s).size(), 3);
     EXPECT_EQ(trend.texts().filter(u" morning"_s).size(), 0);
