@@ -599,6 +599,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="showGraph"><translation>Chart</translation></message>
     <message id="showHistogram"><translation>Histogram</translation></message>
     <message id="showMam"><translation>Show MAM</translation></message>
+    <message id="showTrend"><translation>Trend</translation></message>
     <message id="sideButton"><translation>Statistics and comments</translation></message>
     <message id="sideColumn"><translation>Monitor and data</translation></message>
     <message id="sideHint"><translation>Show or hide the statistics and the comments beside the readings.</translation></message>
@@ -633,6 +634,16 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
+    <message id="trendApart"><translation>Mornings and evenings apart</translation></message>
+    <message id="trendApartHint"><translation>Draw the readings before noon and those from noon on as lines of their own.</translation></message>
+    <message id="trendDays"><translation>%1 to %2</translation></message>
+    <message id="trendFigures"><translation>%1 (%2 to %3)</translation></message>
+    <message id="trendInfoEvening"><translation>%1, from noon on</translation></message>
+    <message id="trendInfoMorning"><translation>%1, before noon</translation></message>
+    <message id="trendKeys"><translation>%1, %2. Left and right show the figures of one point after the other, Home and End those of the first and the last one.</translation></message>
+    <message id="trendPeriod"><translation>Days</translation></message>
+    <message id="trendReadings"><translation>Readings</translation></message>
+    <message id="trendView"><translation>Trend of systolic and diastolic pressure and pulse</translation></message>
     <message id="undoDropped"><translation>
 
 So this step is left out from now on; the others are not concerned.</translation></message>
@@ -683,9 +694,11 @@ Open another window beside it? That does no harm: what both save is kept.</trans
 </context>
 <context>
     <name>chart</name>
+    <message id="abovePoints" numerus="yes"><translation><numerusform>%n point reaches above the scale</numerusform><numerusform>%n points reach above the scale</numerusform></translation></message>
     <message id="aboveScale" numerus="yes"><translation><numerusform>%n reading above the scale</numerusform><numerusform>%n readings above the scale</numerusform></translation></message>
     <message id="aboveScaleShort"><translation>%1 above</translation></message>
     <message id="average"><translation>Average</translation></message>
+    <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
     <message id="dia"><translation>DIA</translation></message>
@@ -704,6 +717,15 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="sys"><translation>SYS</translation></message>
     <message id="sys and dia too high"><translation>Both too high</translation></message>
     <message id="sys too high"><translation>Systolic too high</translation></message>
+    <message id="trendBand"><translation>%1; band: 10th to 90th percentile, or all of fewer than 5 readings</translation></message>
+    <message id="trendBandShort"><translation>%1; band: 10th to 90th percentile</translation></message>
+    <message id="trendDay"><translation>Median of each day</translation></message>
+    <message id="trendEvening"><translation>%1 evening</translation></message>
+    <message id="trendLinked"><translation>%1; dotted: no readings between</translation></message>
+    <message id="trendMonth"><translation>Median of each month</translation></message>
+    <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n more comment has no room here</numerusform><numerusform>%n more comments have no room here</numerusform></translation></message>
+    <message id="trendMorning"><translation>%1 morning</translation></message>
+    <message id="trendWeek"><translation>Median of each week</translation></message>
 </context>
 <context>
     <name>report</name>

@@ -92,7 +92,7 @@ void PrintView::drawSummaryStat(Picture& picture, const PageGeometry& at, int nu
     if (number != 1) return;
     const Rect rows = DrawTable::firstPageRect(area, false);
     drawStatisticSummary(picture, source, {area.x, area.top() - fStatTable, area.width, fStatTable});
-    drawTrend(picture, source, {area.x, rows.top(), area.width, rows.height});
+    drawBloodGraph(picture, source, {area.x, rows.top(), area.width, rows.height});
 }
 
 } // namespace zel
