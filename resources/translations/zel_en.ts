@@ -72,6 +72,7 @@
     <message id="StoreTooLarge"><translation>The data file %1 is larger than 512 MiB, which this program does not read. It is left as it is, and nothing can be saved: put a smaller copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreUnreadable"><translation>The data file %1 was left as it was: what was to be saved could not be read again afterwards.</translation></message>
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
+    <message id="ViewLimitsUnread"><translation>%1, which says from where on values are marked, cannot be read. Until limits are chosen anew, values are marked from %2/%3 mmHg on.</translation></message>
     <message id="Warning"><translation>Warning</translation></message>
     <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>It holds bytes that are not in its encoding, %1.</translation></message>
@@ -128,6 +129,7 @@
     <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
     <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
+    <message id="highMark"><translation>%1 and bold: at or above %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
     <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluded one</numerusform><numerusform>%n excluded ones</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
@@ -135,10 +137,14 @@
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n undated one</numerusform><numerusform>%n undated ones</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n without any date</numerusform><numerusform>%n without any date</numerusform></translation></message>
+    <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
+    <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
+    <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
     <message id="missingReadings" numerus="yes"><translation><numerusform>%n more reading</numerusform><numerusform>%n more readings</numerusform></translation></message>
+    <message id="noHighMark"><translation>No values are marked as high</translation></message>
     <message id="noneBefore"><translation>no reading in the 14 days before, %1 since</translation></message>
     <message id="noneBeforeOrSince"><translation>no reading before or since</translation></message>
     <message id="noneSince"><translation>%1 before, no reading since</translation></message>
@@ -593,6 +599,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="showGraph"><translation>Chart</translation></message>
     <message id="showHistogram"><translation>Histogram</translation></message>
     <message id="showMam"><translation>Show MAM</translation></message>
+    <message id="showTrend"><translation>Trend</translation></message>
     <message id="sideButton"><translation>Statistics and comments</translation></message>
     <message id="sideColumn"><translation>Monitor and data</translation></message>
     <message id="sideHint"><translation>Show or hide the statistics and the comments beside the readings.</translation></message>
@@ -627,6 +634,16 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
+    <message id="trendApart"><translation>Mornings and evenings apart</translation></message>
+    <message id="trendApartHint"><translation>Draw the readings before noon and those from noon on as lines of their own.</translation></message>
+    <message id="trendDays"><translation>%1 to %2</translation></message>
+    <message id="trendFigures"><translation>%1 (%2 to %3)</translation></message>
+    <message id="trendInfoEvening"><translation>%1, from noon on</translation></message>
+    <message id="trendInfoMorning"><translation>%1, before noon</translation></message>
+    <message id="trendKeys"><translation>%1, %2. Left and right show the figures of one point after the other, Home and End those of the first and the last one.</translation></message>
+    <message id="trendPeriod"><translation>Days</translation></message>
+    <message id="trendReadings"><translation>Readings</translation></message>
+    <message id="trendView"><translation>Trend of systolic and diastolic pressure and pulse</translation></message>
     <message id="undoDropped"><translation>
 
 So this step is left out from now on; the others are not concerned.</translation></message>
@@ -677,9 +694,11 @@ Open another window beside it? That does no harm: what both save is kept.</trans
 </context>
 <context>
     <name>chart</name>
+    <message id="abovePoints" numerus="yes"><translation><numerusform>%n point reaches above the scale</numerusform><numerusform>%n points reach above the scale</numerusform></translation></message>
     <message id="aboveScale" numerus="yes"><translation><numerusform>%n reading above the scale</numerusform><numerusform>%n readings above the scale</numerusform></translation></message>
     <message id="aboveScaleShort"><translation>%1 above</translation></message>
     <message id="average"><translation>Average</translation></message>
+    <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
     <message id="dia"><translation>DIA</translation></message>
@@ -698,6 +717,15 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="sys"><translation>SYS</translation></message>
     <message id="sys and dia too high"><translation>Both too high</translation></message>
     <message id="sys too high"><translation>Systolic too high</translation></message>
+    <message id="trendBand"><translation>%1; band: 10th to 90th percentile, or all of fewer than 5 readings</translation></message>
+    <message id="trendBandShort"><translation>%1; band: 10th to 90th percentile</translation></message>
+    <message id="trendDay"><translation>Median of each day</translation></message>
+    <message id="trendEvening"><translation>%1 evening</translation></message>
+    <message id="trendLinked"><translation>%1; dotted: no readings between</translation></message>
+    <message id="trendMonth"><translation>Median of each month</translation></message>
+    <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n more comment has no room here</numerusform><numerusform>%n more comments have no room here</numerusform></translation></message>
+    <message id="trendMorning"><translation>%1 morning</translation></message>
+    <message id="trendWeek"><translation>Median of each week</translation></message>
 </context>
 <context>
     <name>report</name>
@@ -760,6 +788,56 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="reportYears"><translation>years</translation></message>
+    <message id="summary"><translation>Summary</translation></message>
+    <message id="summaryAha"><translation>AHA</translation></message>
+    <message id="summaryAll"><translation>All</translation></message>
+    <message id="summaryBelow"><translation>Below the threshold of %1 (to a tenth: %2/%3)</translation></message>
+    <message id="summaryBorn" numerus="yes"><translation><numerusform>Born %1, %n year</numerusform><numerusform>Born %1, %n years</numerusform></translation></message>
+    <message id="summaryBornOn"><translation>Born %1</translation></message>
+    <message id="summaryComments"><translation>What changed: comments, newest first</translation></message>
+    <message id="summaryComplete"><translation>Complete</translation></message>
+    <message id="summaryDia"><translation>DIA, mmHg</translation></message>
+    <message id="summaryEither"><translation>SYS or DIA or both</translation></message>
+    <message id="summaryEsh"><translation>ESH</translation></message>
+    <message id="summaryEvening"><translation>Evening</translation></message>
+    <message id="summaryEvenings"><translation>Evening %1</translation></message>
+    <message id="summaryExcluded"><translation>%1 %2  %3/%4: %5</translation></message>
+    <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
+    <message id="summaryFlagged" numerus="yes"><translation><numerusform>Arrhythmia flagged (%1): %2 of %n reading</numerusform><numerusform>Arrhythmia flagged (%1): %2 of %n readings</numerusform></translation></message>
+    <message id="summaryHigh"><translation>At or above %1</translation></message>
+    <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 of %n reading</numerusform><numerusform>%1 of %n readings</numerusform></translation></message>
+    <message id="summaryID"><translation>ID %1</translation></message>
+    <message id="summaryIncomplete"><translation>Incomplete, needs %1</translation></message>
+    <message id="summaryLastDays"><translation>Last 14 days: mean (readings)</translation></message>
+    <message id="summaryLeftOut"><translation>Left out</translation></message>
+    <message id="summaryMax"><translation>Max</translation></message>
+    <message id="summaryMean"><translation>Mean</translation></message>
+    <message id="summaryMin"><translation>Min</translation></message>
+    <message id="summaryMoreComments" numerus="yes"><translation><numerusform>and %n more comment</numerusform><numerusform>and %n more comments</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more excluded reading</numerusform><numerusform>and %n more excluded readings</numerusform></translation></message>
+    <message id="summaryMorning"><translation>Morning</translation></message>
+    <message id="summaryMornings"><translation>Morning %1</translation></message>
+    <message id="summaryNice"><translation>NICE</translation></message>
+    <message id="summaryNoBirth"><translation>Date of birth not given</translation></message>
+    <message id="summaryNoComments"><translation>No comments in this period</translation></message>
+    <message id="summaryNone"><translation>No readings in this period</translation></message>
+    <message id="summaryNoReason"><translation>no reason given</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Morning is before noon. …: in full in the sections Comments and Readings.</translation></message>
+    <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
+    <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
+    <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
+    <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
+    <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comment of other days</numerusform><numerusform>%n comments of other days</numerusform></translation></message>
+    <message id="summaryOthers" numerus="yes"><translation><numerusform>%n not examined</numerusform><numerusform>%n not examined</numerusform></translation></message>
+    <message id="summaryPeriod"><translation>From %1 to %2</translation></message>
+    <message id="summaryPulse"><translation>Pulse %1</translation></message>
+    <message id="summaryRate"><translation>Pulse, 1/min</translation></message>
+    <message id="summaryReached"><translation>At or above the threshold of %1 (to a tenth: %2/%3)</translation></message>
+    <message id="summaryReadings"><translation>Readings</translation></message>
+    <message id="summarySD"><translation>SD</translation></message>
+    <message id="summarySys"><translation>SYS, mmHg</translation></message>
+    <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>
+    <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
@@ -974,6 +1052,7 @@ Options:
 Writes a patient's report as a PDF, replacing FILE.pdf if it is there, and prints 'written: FILE.pdf'.
 
 Sections:
+  summary                      one page for a physician: averages, trend, last days, comments, what was left out
   graph                        blood-pressure and pulse chart
   PatientProfile               the patient's data and notes
   histogram                    how the values are distributed
@@ -988,7 +1067,10 @@ Options:
   --section KEY[,KEY...]       what to print, in the order given
   --from yyyy-MM-dd            the first day of the reporting period (that of the first reading unless told)
   --to yyyy-MM-dd              the last day of it (that of the last reading unless told)
-  --practitioner               print the practitioner's details, from the settings, at the foot
+  --rule esh|nice|aha          how the summary averages its measuring week, which ends with the period's last day
+                               with readings; esh unless told otherwise. 'zel average --help' says what they are
+  --practitioner               print the practitioner's details, from the settings, at the foot; at the head of
+                               the summary
   --paper A4|Letter            the paper; usually that of LC_PAPER or LANG
   --output FILE.pdf            the file to write
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor

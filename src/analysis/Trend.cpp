@@ -113,4 +113,19 @@ Trend calcTrend(const ReadingList& readings, const ReadingSelection& selection) 
     return trend;
 }
 
+TrendSeriesList calcTrendSeries(const ReadingList& readings, const ReadingSelection& selection, bool apart) {
+    std::vector<ViewSelection> halves{selection.view};
+    if (apart) halves = {ViewSelection::amOnly, ViewSelection::pmOnly};
+    TrendSeriesList list;
+    for (const ViewSelection half : halves) {
+        if (!MatchedDataType(selection.view, half == ViewSelection::pmOnly) && apart) continue;
+        ReadingSelection part = selection;
+        part.view = half;
+        Trend trend = calcTrend(readings, part);
+        list.step = trend.step;
+        list.series.push_back({half, std::move(trend.points)});
+    }
+    return list;
+}
+
 } // namespace zel

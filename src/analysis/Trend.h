@@ -44,4 +44,19 @@ struct Trend {
 /// Of the readings that the chart has, too.
 [[nodiscard]] Trend calcTrend(const ReadingList& readings, const ReadingSelection& selection);
 
+/// The points of all readings or of one half of the day.
+struct TrendSeries {
+    ViewSelection half = ViewSelection::custom; ///< amOnly: the mornings; pmOnly: the evenings; else all
+    std::vector<TrendPoint> points;
+};
+
+struct TrendSeriesList {
+    TrendStep step = TrendStep::day;
+    std::vector<TrendSeries> series; ///< one, or the mornings and then the evenings
+};
+
+/// One series of what the selection shows, or \p apart one of each half of the day that it shows.
+[[nodiscard]] TrendSeriesList calcTrendSeries(const ReadingList& readings, const ReadingSelection& selection,
+                                              bool apart);
+
 } // namespace zel

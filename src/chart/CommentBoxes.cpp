@@ -12,14 +12,13 @@ Period wholeDays(Instant begin, Instant end) {
     return {DateToDayBoundary(begin, true), DateToDayBoundary(end, false)};
 }
 
-/// The comment's dates in order, or none where the user gave none.
+} // namespace
+
 std::optional<Period> commentPeriod(const CommentModel& comment) {
     if (isNilDate(comment.beginDate) || isNilDate(comment.endDate)) return {};
     const auto [begin, end] = std::minmax(*comment.beginDate, *comment.endDate);
     return Period{begin, end};
 }
-
-} // namespace
 
 std::vector<CommentBox> commentBoxes(const CommentList& comments, const Period& period,
                                      const TimeScale& scale) {

@@ -18,6 +18,9 @@ struct CommentBox {
     bool isCutRight = false;
 };
 
+/// The comment's dates in order, or none where the user gave none.
+[[nodiscard]] std::optional<Period> commentPeriod(const CommentModel& comment);
+
 /// Boxes for the comments that begin or end in the period, as far as they lie in it. A comment that covers
 /// all of it and more on both sides has none: it would tell nothing apart.
 [[nodiscard]] std::vector<CommentBox> commentBoxes(const CommentList& comments, const Period& period,

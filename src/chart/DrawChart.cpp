@@ -73,14 +73,6 @@ void drawInTheMiddle(Picture& picture, const QString& text, const Rect& rect) {
             XPos::centre, YPos::centre);
 }
 
-/// \p limit in mmHg; 0: none.
-void DrawAlphaLine(Picture& picture, const ChartScale& scale, std::uint32_t limit) {
-    if (limit == 0) return;
-    const double y = scale.mapValToY(limit);
-    picture.push_back(
-        StraightLine{{scale.chartRect.x, y}, {scale.chartRect.right(), y}, 2, fixColor(gcBloodRedLinecolor)});
-}
-
 void showDataTypeInfo(Picture& picture, const ChartScale& scale, const ChartStyle& style) {
     if (!style.CompareType) return;
     const QString text = style.showDataType == ViewSelection::amOnly ? qtTrId("morning") : qtTrId("evening");
@@ -97,14 +89,6 @@ void addMarks(Picture& picture, PointMarks& marks, bool wanted, bool bordered) {
     if (!wanted) return;
     marks.bordered = bordered;
     picture.emplace_back(std::move(marks));
-}
-
-QString noReadingsText(ViewSelection view) {
-    switch (view) {
-    case ViewSelection::amOnly: return qtTrId("noMorningReadings");
-    case ViewSelection::pmOnly: return qtTrId("noEveningReadings");
-    default: return qtTrId("noReadingsInPeriod");
-    }
 }
 
 /// What the plot does not show: readings, or some of them. On paper, the marks of downloads hang at its top.
@@ -150,6 +134,14 @@ ChartScale scaleOf(const ChartInput& input) {
 }
 
 } // namespace
+
+QString noReadingsText(ViewSelection view) {
+    switch (view) {
+    case ViewSelection::amOnly: return qtTrId("noMorningReadings");
+    case ViewSelection::pmOnly: return qtTrId("noEveningReadings");
+    default: return qtTrId("noReadingsInPeriod");
+    }
+}
 
 ChartLayout drawChart(const ChartInput& input, const LocalZone& zone) {
     const ChartStyle& style = input.style;

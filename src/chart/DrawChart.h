@@ -56,6 +56,9 @@ struct ChartLayout {
 /// The marks in the plot, in the order of their dates: not part of the layout, as few charts are pointed at.
 [[nodiscard]] std::vector<ChartPoint> chartPoints(const ChartInput& input);
 
+/// What stands in a plot of a period without readings.
+[[nodiscard]] QString noReadingsText(ViewSelection view);
+
 /// The period with \p days more at each end; fewer for a negative number.
 [[nodiscard]] Period addDay(const Period& period, int days);
 

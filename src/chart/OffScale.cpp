@@ -43,9 +43,9 @@ Note arrowNote(const OffScale& counts) {
 }
 
 /// In fewer words, and then in smaller type, where there is less room; something in any case.
-Note fittingNote(const OffScale& counts, const Rect& room) {
+Note fittingNote(const OffScale& counts, const Rect& room, OffScaleOf what) {
     const TextAttribute usual = attribute(noteAttribute);
-    if (Note whole{offScaleText(counts), usual}; isWithin(whole, room)) return whole;
+    if (Note whole{offScaleText(counts, what), usual}; isWithin(whole, room)) return whole;
     Note least = arrowNote(counts);
     for (const QString& text : {shortText(counts), least.text})
         for (Note note{text, usual}; note.type.size >= leastType; --note.type.size)
@@ -62,10 +62,13 @@ void countOffScale(OffScale& counts, std::initializer_list<ScaledValue> reading)
     counts.below += static_cast<int>(std::ranges::any_of(reading, isBelow));
 }
 
-QString offScaleText(const OffScale& counts) {
+QString offScaleText(const OffScale& counts, OffScaleOf what) {
+    const bool isPoints = what == OffScaleOf::points;
     QStringList sides;
-    if (counts.above > 0) sides += qtTrId("aboveScale", counts.above);
-    if (counts.below > 0) sides += qtTrId("belowScale", counts.below);
+    if (counts.above > 0)
+        sides += isPoints ? qtTrId("abovePoints", counts.above) : qtTrId("aboveScale", counts.above);
+    if (counts.below > 0)
+        sides += isPoints ? qtTrId("belowPoints", counts.below) : qtTrId("belowScale", counts.below);
     return sides.join(u", "_s);
 }
 
@@ -73,9 +76,9 @@ bool hasRoomForOffScale(const OffScale& counts, const Rect& room) {
     return counts == OffScale{} || isWithin(arrowNote(counts), room);
 }
 
-void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room) {
+void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room, OffScaleOf what) {
     if (counts == OffScale{}) return;
-    const auto [text, type] = fittingNote(counts, room);
+    const auto [text, type] = fittingNote(counts, room, what);
     const Size size = textSize(text, type);
     // What lies behind the words shines through.
     const QColor pale(255, 255, 255, 200);

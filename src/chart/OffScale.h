@@ -33,12 +33,16 @@ struct ScaledValue {
 /// them lies.
 void countOffScale(OffScale& counts, std::initializer_list<ScaledValue> reading);
 
+/// What is counted: readings, or points of a trend that reach beyond the scale in part.
+enum class OffScaleOf : std::int32_t { readings, points };
+
 /// "3 readings above the scale, 1 reading below the scale"; empty for none.
-[[nodiscard]] QString offScaleText(const OffScale& counts);
+[[nodiscard]] QString offScaleText(const OffScale& counts, OffScaleOf what = OffScaleOf::readings);
 /// Whether the shortest form of drawOffScale() lies in \p room.
 [[nodiscard]] bool hasRoomForOffScale(const OffScale& counts, const Rect& room);
 /// The same in the top right corner of \p room: in fewer words and smaller type where there is less room, at
 /// last an arrow with the number, beyond the room's edges rather than not at all.
-void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room);
+void drawOffScale(Picture& picture, const OffScale& counts, const Rect& room,
+                  OffScaleOf what = OffScaleOf::readings);
 
 } // namespace zel

@@ -52,6 +52,20 @@ struct PolyLine {
     std::vector<Point> points; ///< whole numbers
 };
 
+/// Joined points as a smooth line in any colour, broken into dashes where there are any.
+struct Curve {
+    std::vector<Point> points;
+    double width = 1;
+    QColor color;
+    std::vector<double> dashes; ///< length of a dash, of the gap behind it, and so on; empty: none
+};
+
+/// A filled polygon.
+struct Area {
+    std::vector<Point> outline;
+    QColor color; ///< translucent colours blend
+};
+
 /// The marks of readings, painted in order: a grey 5 x 5 square around the point, and on it a black 3 x 3
 /// one.
 struct PointMarks {
@@ -83,8 +97,8 @@ struct BeginClip {
 };
 struct EndClip {};
 
-using PictureItem = std::variant<FillRect, RoundRect, StraightLine, Circle, TextLine, PolyLine, PointMarks,
-                                 Ticks, ImageItem, BeginClip, EndClip>;
+using PictureItem = std::variant<FillRect, RoundRect, StraightLine, Circle, TextLine, PolyLine, Curve, Area,
+                                 PointMarks, Ticks, ImageItem, BeginClip, EndClip>;
 using Picture = std::vector<PictureItem>;
 
 } // namespace zel

@@ -89,6 +89,26 @@ public:
         painter.drawLines(lines);
     }
 
+    void operator()(const Curve& item) {
+        QPen pen(item.color, item.width * surface.scale(), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+        if (!item.dashes.empty()) {
+            QList<qreal> inWidths;
+            for (const double length : item.dashes)
+                inWidths.push_back(length / item.width);
+            pen.setDashPattern(inWidths);
+        }
+        painter.setPen(pen);
+        const Smooth smooth(painter);
+        painter.drawPolyline(polygon(item.points));
+    }
+
+    void operator()(const Area& item) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(item.color);
+        const Smooth smooth(painter);
+        painter.drawPolygon(polygon(item.outline));
+    }
+
     void operator()(const PointMarks& item) { paintMarks(surface, item.points, item.bordered); }
 
     void operator()(const Ticks& item) { paintTicks(surface, item); }
@@ -113,6 +133,14 @@ private:
     private:
         QPainter& painter;
     };
+
+    [[nodiscard]] QPolygonF polygon(const std::vector<Point>& points) const {
+        QPolygonF corners;
+        corners.reserve(static_cast<qsizetype>(points.size()));
+        for (const Point& point : points)
+            corners.emplace_back(point.x, point.y);
+        return surface.exact().map(corners);
+    }
 
     /// Grid lines lie on the pixels that a reading of the same value lies on.
     void fillLine(const StraightLine& item) {

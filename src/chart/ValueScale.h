@@ -10,4 +10,7 @@ void drawBloodScale(Picture& picture, const ChartScale& scale);
 /// The same of the pulse chart.
 void drawPulseScale(Picture& picture, const ChartScale& scale);
 
+/// The line of a limit in mmHg; none for 0.
+void DrawAlphaLine(Picture& picture, const ChartScale& scale, std::uint32_t limit);
+
 } // namespace zel

@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/OpenStore.h"
 #include "cli/PeriodOptions.h"
+#include "cli/RuleOption.h"
 #include "cli/Usage.h"
 
 namespace zel::cli {
@@ -9,16 +10,6 @@ namespace zel::cli {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-tl::expected<AverageRule, Failure> ruleOption(const Request& request) {
-    if (!request.options.isSet(u"rule"_s)) return AverageRule::esh;
-    const QString key = request.options.value(u"rule"_s);
-    if (const auto rule = averageRuleNamed(key)) return *rule;
-    QStringList keys;
-    for (const AverageRuleFacts& facts : averageRules)
-        keys += QLatin1String(facts.key);
-    return wrongUsage(qtTrId("CliNoSuchRule").arg(key, keys.join(u", "_s)));
-}
 
 QString line(const char* name, const QString& value) { return QLatin1String(name) + u": "_s + value; }
 

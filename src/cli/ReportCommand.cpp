@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/OpenStore.h"
 #include "cli/PeriodOptions.h"
+#include "cli/RuleOption.h"
 #include "cli/Usage.h"
 #include "report/ReportDocument.h"
 #include "report/ReportPdf.h"
@@ -18,8 +19,10 @@ struct Order {
     QString ID;
     std::vector<Section> sections;
     DayRange days;
+    AverageRule rule;
     QPageSize paper;
     QString output;
+    bool needsPractitioner;
 };
 
 QString sectionKeys() {
@@ -61,11 +64,13 @@ tl::expected<Order, Failure> orderOf(const Request& request, const QPageSize& us
     if (!sections) return tl::unexpected(sections.error());
     const auto days = dayRange(request);
     if (!days) return tl::unexpected(days.error());
+    const auto rule = ruleOption(request);
+    if (!rule) return tl::unexpected(rule.error());
     const auto paper = paperOption(request, usualPaper);
     if (!paper) return tl::unexpected(paper.error());
     const auto output = requiredValue(request, u"output"_s);
     if (!output) return tl::unexpected(output.error());
-    return Order{*ID, *sections, *days, *paper, *output};
+    return Order{*ID, *sections, *days, *rule, *paper, *output, request.options.isSet(u"practitioner"_s)};
 }
 
 /// A slip of the finger must not cost years of readings.
@@ -90,11 +95,11 @@ void tellEmptySections(const PrintView& view, const Order& order, Surroundings& 
     if (!keys.isEmpty()) printLine(around.err, qtTrId("CliEmptySections").arg(keys.join(u", "_s)));
 }
 
-CommandResult writeReport(const Order& order, bool practitioner, const DataStore& store,
-                          Surroundings& around) {
+CommandResult writeReport(const Order& order, const DataStore& store, Surroundings& around) {
     auto source = reportSource(store, selectionOf(order, store, around.clock), around.clock);
     if (!source) return failed(qtTrId("CliNoSuchPatient").arg(order.ID));
-    source->needPhysicianInfo = practitioner;
+    source->needPhysicianInfo = order.needsPractitioner;
+    source->weekRule = order.rule;
     const PrintView view(std::move(*source), order.paper);
     const auto written = writePdf(view, order.sections, order.output);
     if (!written) return failed(describe(written.error()));
@@ -111,8 +116,7 @@ CommandResult runReport(const Request& request, Surroundings& around) {
     if (CommandResult known = checkPatient(**store, order->ID); !known) return known;
     if (CommandResult safe = checkOutput(**store, order->output); !safe) return safe;
     (*store)->setCurrentID(order->ID);
-    const bool practitioner = request.options.isSet(u"practitioner"_s);
-    return writeReport(*order, practitioner, **store, around);
+    return writeReport(*order, **store, around);
 }
 
 } // namespace
@@ -120,9 +124,9 @@ CommandResult runReport(const Request& request, Surroundings& around) {
 Command reportCommand() {
     return {"report", [] { return qtTrId("CliHelpReport"); },
             [] {
-                return QList{valued(u"patient"_s), valued(u"section"_s),    valued(u"from"_s),
-                             valued(u"to"_s),      flag(u"practitioner"_s), valued(u"paper"_s),
-                             valued(u"output"_s)};
+                return QList{valued(u"patient"_s), valued(u"section"_s), valued(u"from"_s),
+                             valued(u"to"_s),      valued(u"rule"_s),    flag(u"practitioner"_s),
+                             valued(u"paper"_s),   valued(u"output"_s)};
             },
             runReport};
 }

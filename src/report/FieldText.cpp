@@ -12,7 +12,6 @@ namespace {
 
 /// More than any field of a page has room for.
 constexpr qsizetype mostCharacters = 1000;
-constexpr int smallestFigure = 6;
 /// Of a text that is printed in full: no note that somebody wrote is as long, and one of megabytes would take
 /// minutes and thousands of pages.
 constexpr qsizetype longestPrinted = 100'000;
@@ -64,9 +63,9 @@ void fieldText(Picture& picture, const QString& text, Point at, double width, co
 }
 
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
-                 XPos x) {
+                 XPos x, int smallest) {
     double own = textSize(text, attribute).width;
-    while (own > width && attribute.size > smallestFigure) {
+    while (own > width && attribute.size > smallest) {
         --attribute.size;
         own = textSize(text, attribute).width;
     }

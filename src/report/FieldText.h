@@ -17,9 +17,11 @@ namespace zel {
 void fieldText(Picture& picture, const QString& text, Point at, double width, const TextAttribute& attribute,
                XPos x = XPos::left);
 
-/// A figure or a date, which loses its meaning when it is cut: set smaller where it is too long.
+inline constexpr int smallestFigure = 6;
+/// A figure or a date, which loses its meaning when it is cut: set smaller where it is too long, but not
+/// below \p smallest.
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
-                 XPos x = XPos::left);
+                 XPos x = XPos::left, int smallest = smallestFigure);
 
 /// The text's lines, \p mostLines at most. Blanks and line ends that it is broken at are in none of them.
 [[nodiscard]] QStringList wrapped(const QString& text, double width, const TextAttribute& attribute,

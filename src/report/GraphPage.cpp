@@ -168,7 +168,7 @@ ChartMarks drawGraph(Picture& picture, const ReportSource& report, const Rect& r
     return marks;
 }
 
-void drawTrend(Picture& picture, const ReportSource& report, const Rect& rect) {
+void drawBloodGraph(Picture& picture, const ReportSource& report, const Rect& rect) {
     constexpr double gap = 8; // above and below the legend
     const double legend = legendLines * lineHeight(noteFont) + 4;
     const ChartData data = makeChartData(report.readings, report.downloads);

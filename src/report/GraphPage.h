@@ -27,7 +27,7 @@ struct ChartMarks {
 void drawGraphLegend(Picture& picture, const ReportSource& report, const ChartMarks& marks, Point at,
                      double width);
 /// The blood-pressure chart alone, with its legend.
-void drawTrend(Picture& picture, const ReportSource& report, const Rect& rect);
+void drawBloodGraph(Picture& picture, const ReportSource& report, const Rect& rect);
 
 /// A thin black frame.
 void drawBlackFrames(Picture& picture, const Rect& rect);

@@ -66,6 +66,7 @@ CountRule countRule(Section section) {
     case Section::correlation: return isCounted;
     case Section::table: return isListed;
     case Section::SWStatistics: return isInStatistic;
+    case Section::summary:
     case Section::PatientProfile:
     case Section::comment: break;
     }
@@ -79,12 +80,6 @@ QString countText(const ReportSource& report, Section section) {
     const ReadingCount count = countReadings(report.readings, report.selection, rule);
     const bool isHeaded = section != Section::graph && section != Section::table;
     return isHeaded && describeLeftOut(count).isEmpty() ? QString() : describe(count);
-}
-
-/// What a document's first page says of the sections that it lacks.
-QString emptyText(const PagePlace& place) {
-    if (place.number != 1 || place.emptySections.isEmpty()) return {};
-    return qtTrId("reportEmptySections").arg(place.emptySections.join(u", "_s));
 }
 
 /// One line; neither text takes the other's room.
@@ -121,6 +116,11 @@ void drawPractitioner(Picture& picture, const Rect& foot, QString text) {
 
 } // namespace
 
+QString emptyText(const PagePlace& place) {
+    if (place.number != 1 || place.emptySections.isEmpty()) return {};
+    return qtTrId("reportEmptySections").arg(place.emptySections.join(u", "_s));
+}
+
 double patientTitleHeight() { return static_cast<int>(2 * lineHeight(plainFont) + 20); }
 
 void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section,
@@ -151,11 +151,15 @@ void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& rep
     textOut(picture, today, {band.right() - dateIndent, band.y + 18}, boldFont, XPos::right);
 }
 
-void drawFooter(Picture& picture, const PageGeometry& at, const ReportSource& report) {
+void drawLogo(Picture& picture, const PageGeometry& at) {
     const Rect& foot = at.footerRect;
     picture.emplace_back(
         ImageItem{u"printlogo"_s, {foot.right() - logoIndent, foot.y + 2, logoWidth, logoHeight}});
-    if (report.needPhysicianInfo) drawPractitioner(picture, foot, report.settings.getPractitioner());
+}
+
+void drawFooter(Picture& picture, const PageGeometry& at, const ReportSource& report) {
+    drawLogo(picture, at);
+    if (report.needPhysicianInfo) drawPractitioner(picture, at.footerRect, report.settings.getPractitioner());
 }
 
 void drawPageNumber(Picture& picture, const PageGeometry& at, const PagePlace& place) {

@@ -25,6 +25,9 @@ void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSour
                       const PagePlace& place);
 /// The band with the section's name, the program's and today's date.
 void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, const QString& section);
+/// What a document's first page says of the sections that it lacks; empty elsewhere.
+[[nodiscard]] QString emptyText(const PagePlace& place);
+void drawLogo(Picture& picture, const PageGeometry& at);
 /// The logo, and the practitioner's details if they are wanted.
 void drawFooter(Picture& picture, const PageGeometry& at, const ReportSource& report);
 void drawPageNumber(Picture& picture, const PageGeometry& at, const PagePlace& place);

@@ -6,6 +6,7 @@
 #include "report/FigurePages.h"
 #include "report/GraphPage.h"
 #include "report/PageFrame.h"
+#include "report/SummaryPage.h"
 #include "report/TableLegend.h"
 
 namespace zel {
@@ -46,6 +47,12 @@ Picture PrintView::page(std::optional<Section> printSelection, int number) const
 Picture PrintView::page(std::optional<Section> printSelection, int number, const PagePlace& place) const {
     const PageGeometry at = geometry(printSelection);
     Picture picture;
+    if (printSelection == Section::summary) {
+        drawTitle(picture, at, source, facts(Section::summary).text());
+        drawSummaryPage(picture, at, source, emptyText(place));
+        drawPageNumber(picture, at, place);
+        return picture;
+    }
     if (printSelection) {
         drawPatientTitle(picture, at, source, *printSelection, place);
         drawBody(picture, at, *printSelection, number);
@@ -58,6 +65,7 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
 
 void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const {
     switch (section) {
+    case Section::summary: return; // has a frame of its own
     case Section::graph:
         return drawGraphLegend(picture, source, drawGraph(picture, source, at.drawingRect), legendPlace(at),
                                legendWidth(at));
@@ -84,7 +92,7 @@ void PrintView::drawSummaryStat(Picture& picture, const PageGeometry& at, int nu
     if (number != 1) return;
     const Rect rows = DrawTable::firstPageRect(area, false);
     drawStatisticSummary(picture, source, {area.x, area.top() - fStatTable, area.width, fStatTable});
-    drawTrend(picture, source, {area.x, rows.top(), area.width, rows.height});
+    drawBloodGraph(picture, source, {area.x, rows.top(), area.width, rows.height});
 }
 
 } // namespace zel

@@ -18,6 +18,7 @@ std::optional<ReportSource> reportSource(const DataStore& store, const ReadingSe
                         .selection = selection,
                         .rows = std::move(rows),
                         .now = std::chrono::floor<Instant::duration>(clock.now()),
+                        .highFrom = store.viewLimits().limits(),
                         .getIsAfib = isAFib};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/MeasuringWeek.h"
 #include "analysis/ReadingRows.h"
 #include "analysis/ReadingSelection.h"
 #include "chart/DrawChart.h"
@@ -8,6 +9,7 @@
 #include "store/PatientModel.h"
 #include "store/RecordLinks.h"
 #include "store/SettingModel.h"
+#include "store/ViewLimits.h"
 
 #include <optional>
 
@@ -23,6 +25,11 @@ struct ReportSource {
     ReadingSelection selection; ///< the reporting period and what is shown of it
     ReadingRows rows;           ///< what the reading table shows of it
     Instant now{};              ///< today's date, and the day that the age is reached on
+
+    AverageRule weekRule = AverageRule::esh; ///< of the summary's measuring week
+    std::optional<DayNumber> weekEnd{};      ///< its last day; else the period's last one with a reading
+
+    LimitPair highFrom = ViewLimits{}.limits(); ///< values are marked from there on
 
     bool needPhysicianInfo = false;    ///< the practitioner's details stand in the footer
     bool getShowMam = true;            ///< the reading table shows its column of averages

@@ -11,6 +11,7 @@ constexpr auto portrait = QPageLayout::Portrait;
 constexpr auto landscape = QPageLayout::Landscape;
 
 constexpr std::array table{
+    SectionFacts{Section::summary, "summary", [] { return qtTrId("summary"); }, portrait},
     SectionFacts{Section::graph, "graph", [] { return qtTrId("graph"); }, landscape},
     SectionFacts{Section::PatientProfile, "PatientProfile", [] { return qtTrId("PatientProfile"); },
                  landscape},

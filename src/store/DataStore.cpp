@@ -2,6 +2,7 @@
 
 #include "store/DocumentElements.h"
 #include "store/Log.h"
+#include "store/PressureLimits.h"
 #include "store/Text.h"
 
 #include <algorithm>
@@ -27,7 +28,23 @@ DataStore::DataStore(StorePaths paths, Clock& wallClock)
 StoreResult DataStore::load() {
     file.checkAndMakeTargetFile();
     backups().removeDead();
+    loadViewLimits();
     return loadXML();
+}
+
+void DataStore::loadViewLimits() {
+    const auto read = readViewLimits(getZELXMLPath());
+    highFrom = read.value_or(ViewLimits{});
+    highFromRead = read ? StoreResult{} : tl::unexpected{read.error()};
+}
+
+StoreResult DataStore::chooseViewLimits(const ViewLimits& chosen) {
+    if (limitProblem(chosen.own.sys, chosen.own.dia))
+        return tl::unexpected{StoreError{StoreErrorCode::invalidRecord, {}, {}}};
+    highFrom = chosen;
+    highFromRead = {};
+    emit viewLimitsChanged();
+    return writeViewLimits(getZELXMLPath(), chosen);
 }
 
 StoreResult DataStore::loadXML() {

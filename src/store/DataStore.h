@@ -10,6 +10,7 @@
 #include "store/Records.h"
 #include "store/StepRecorder.h"
 #include "store/StoreError.h"
+#include "store/ViewLimits.h"
 
 #include <QObject>
 #include <QString>
@@ -132,7 +133,15 @@ public:
     [[nodiscard]] SettingModel& getSetting();
     [[nodiscard]] const SettingModel& getSetting() const;
 
+    /// From where on views mark values as high, as chosen for this data file, which does not hold it.
+    [[nodiscard]] const ViewLimits& viewLimits() const { return highFrom; }
+    /// Whether an earlier choice could be read; the usual limits hold where it could not.
+    [[nodiscard]] const StoreResult& viewLimitsRead() const { return highFromRead; }
+    /// They hold from now on, also where they cannot be written down for the next start.
+    [[nodiscard]] StoreResult chooseViewLimits(const ViewLimits& chosen);
+
 signals:
+    void viewLimitsChanged();
     void reloaded();
     void currentIDChanged();
     void historyChanged();
@@ -155,6 +164,7 @@ private:
     [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,
                                                   std::size_t count) const;
     void keepSelectedComment();
+    void loadViewLimits();
 
     DataFile file;
     Clock& clock;
@@ -162,6 +172,8 @@ private:
     ChangeHistory history;
     Records records;
     SettingModel settingAsRead = records.gSettingModel;
+    ViewLimits highFrom;
+    StoreResult highFromRead;
     StoreResult loaded;
     FileStamp lastSeen; ///< of the file as it was read, or written since
     /// A file that is damaged, and how: it is not parsed again and again.

@@ -66,6 +66,39 @@ TEST(Trend, StepsAreDaysOrWeeksFromMondayOrMonths) {
     EXPECT_TRUE(calcTrend({}, evenings).points.empty());
 }
 
+TEST(Trend, MorningsAndEveningsAreSeriesOfTheirOwn) {
+    const ReadingList readings =
+        readingsAt({"2026-03-02 08:00", "2026-03-02 11:59:59", "2026-03-02 12:00", "2026-03-03 20:00"});
+    using enum ViewSelection;
+    const struct {
+        ViewSelection view;
+        bool apart;
+        std::string series;
+    } cases[]{{custom, false, "all: 2"},       {custom, true, "am: 1, pm: 2"},
+              {viewAll, true, "am: 1, pm: 2"}, {amOnly, false, "am: 1"},
+              {amOnly, true, "am: 1"},         {pmOnly, true, "pm: 2"},
+              {ViewSelection::none, true, ""}, {ViewSelection::none, false, "all: 0"}};
+    for (const auto& [view, apart, series] : cases) {
+        ReadingSelection selection = during("2026-03-01", "2026-03-31");
+        selection.view = view;
+        QStringList found;
+        for (const TrendSeries& one : calcTrendSeries(readings, selection, apart).series)
+            found += u"%1: %2"_s.arg(one.half == amOnly   ? u"am"_s
+                                     : one.half == pmOnly ? u"pm"_s
+                                                          : u"all"_s)
+                         .arg(one.points.size());
+        EXPECT_EQ(found.join(u", "_s).toStdString(), series) << static_cast<int>(view) << apart;
+    }
+    EXPECT_EQ(calcTrendSeries({}, during("2026-01-01", "2026-12-31"), true).step, TrendStep::week)
+        << "without readings, too";
+}
+
+TEST(Trend, LeavesOutWhatTheUserHasExcluded) {
+    ReadingList readings = valuesOn("2026-03-02", {100, 140});
+    readings.front().exclusion = u"cuff slipped"_s;
+    EXPECT_EQ(words(calcTrend(readings, during("2026-03-01", "2026-03-31"))), "03-02/03-02 (1) 140 140 140");
+}
+
 TEST(Trend, EachMeasureIsItsOwn) {
     const Trend trend = calcTrend(valuesOn("2026-03-02", {100, 140}), during("2026-03-01", "2026-03-31"));
     EXPECT_EQ(words(trend, &TrendPoint::dia), "03-02/03-02 (2) 50 60 70");

@@ -32,9 +32,9 @@ TEST_F(ReportTest, everySectionIsWritten) {
     EXPECT_EQ(outcome.out, "written: " + output.toStdString() + '\n');
     EXPECT_EQ(outcome.err, "Empty, so not in the report: comment\n");
     EXPECT_TRUE(written().startsWith("%PDF-"));
-    // No comments: six sections of one page each, two of them upright.
+    // No comments: seven sections of one page each, three of them upright.
     EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 4);
-    EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 2);
+    EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 3);
     const char* const fromZEL = "/Author <feff005a0045004c>";
     EXPECT_TRUE(written().contains(fromZEL)) << "nobody has filled in the practitioner";
     ASSERT_EQ(
@@ -72,6 +72,7 @@ TEST_F(ReportTest, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
         {u"table"_s, {u"--from"_s, u"2030-01-01"_s, u"--to"_s, u"2030-02-01"_s}, 1, "nothing to print"},
         {u"table,chart"_s, {}, 2, "no section 'chart'"},
         {u"table"_s, {u"--paper"_s, u"A5"_s}, 2, "not 'A5'"},
+        {u"summary"_s, {u"--rule"_s, u"jnc"_s}, 2, "no rule 'jnc'"},
         {u"table"_s, {u"--from"_s, u"1.2.2026"_s}, 2, "--from"},
     };
     for (const Refusal& row : table) {
@@ -80,6 +81,18 @@ TEST_F(ReportTest, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
         EXPECT_THAT(outcome.err, testing::HasSubstr(row.words));
         EXPECT_FALSE(QFile::exists(output)) << row.words;
     }
+}
+
+TEST_F(ReportTest, theSummaryIsAveragedByTheRule) {
+    QByteArrayList pages;
+    for (const char* rule : {"esh", "nice", "aha"}) {
+        ASSERT_EQ(report(u"summary"_s, {u"--rule"_s, QLatin1String(rule)}).status, 0);
+        pages += written();
+    }
+    ASSERT_EQ(report(u"summary"_s).status, 0);
+    EXPECT_EQ(written().size(), pages[0].size());
+    EXPECT_NE(pages[0].size(), pages[1].size());
+    EXPECT_NE(pages[1].size(), pages[2].size());
 }
 
 TEST_F(ReportTest, neverReplacesTheDataFile) {

@@ -67,7 +67,7 @@ TEST(ChartPage, textsStandApartInEachPeriod) {
             Picture charts, trend;
             const ChartMarks marks = drawGraph(charts, view.report(), across);
             numbered += static_cast<int>(marks.comments);
-            drawTrend(trend, view.report(), along);
+            drawBloodGraph(trend, view.report(), along);
             ASSERT_EQ(misplaced(charts, across), u""_s) << first << " days on, " << total << " days";
             ASSERT_EQ(misplaced(trend, along), u""_s) << first << " days on, " << total << " days";
         }

@@ -30,7 +30,8 @@ TEST(Page, sectionsAreFoundByKeyAndHaveTheirOrientation) {
     std::vector<Section> upright;
     for (const Section section : allSections())
         if (getOrientation(section) == QPageLayout::Portrait) upright.push_back(section);
-    EXPECT_THAT(upright, testing::ElementsAre(Section::table, Section::comment, Section::SWStatistics));
+    EXPECT_THAT(upright, testing::ElementsAre(Section::summary, Section::table, Section::comment,
+                                              Section::SWStatistics));
 }
 
 struct Count {
@@ -43,6 +44,7 @@ struct Count {
 // A4: 28 rows on a page of the table, 10 below the statistics, 9 comments on a page.
 TEST(Page, countsFollowRowsAndComments) {
     const Count table[] = {
+        {Section::summary, 0, 0, 1},       {Section::summary, 500, 90, 1},
         {Section::graph, 0, 0, 1},         {Section::PatientProfile, 0, 0, 1},
         {Section::histogram, 0, 0, 1},     {Section::correlation, 0, 0, 1},
         {std::nullopt, 100, 10, 1},        {Section::table, 0, 0, 0},
@@ -212,7 +214,8 @@ TEST(Page, tellsTheHalfOfTheDayThatItIsLimitedTo) {
          {std::tuple{viewAll, false, false}, {amOnly, true, false}, {pmOnly, false, true}}) {
         sample.selection.view = view;
         for (const Section section : allSections()) {
-            const bool isLimited = section != Section::PatientProfile && section != Section::comment;
+            const bool isLimited = section != Section::PatientProfile && section != Section::comment
+                                   && section != Section::summary; // which tells the halves apart
             EXPECT_EQ(shows(sample.view(), section, u"Only readings before noon"_s), am && isLimited)
                 << facts(section).key;
             EXPECT_EQ(shows(sample.view(), section, u"Only readings from noon on"_s), pm && isLimited)

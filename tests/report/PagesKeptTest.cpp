@@ -70,6 +70,16 @@ Shape shapeOf(const PictureItem& item) {
                 add(shape, one.points);
                 return shape;
             },
+            [&](const Curve& one) -> Shape {
+                Shape shape{kind("curve", one.color), {one.width}};
+                add(shape, one.points);
+                return shape;
+            },
+            [&](const Area& one) -> Shape {
+                Shape shape{kind("area", one.color), {}};
+                add(shape, one.outline);
+                return shape;
+            },
             [](const PointMarks& one) -> Shape {
                 Shape shape{one.bordered ? u"marks"_s : u"small marks"_s, {}};
                 add(shape, one.points);

@@ -7,9 +7,11 @@
 #include "app/graph/CorrelationView.h"
 #include "app/graph/DrawGraphicVC.h"
 #include "app/graph/HistogramView.h"
+#include "app/graph/TrendView.h"
 #include "app/widgets/EmptyState.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -35,8 +37,10 @@ GraphViewController::GraphViewController(const Parts& needed)
       content(new QWidget(this)), charts(new DrawGraphicVC(needed.store, needed.period, *comments, content)),
       histogram(new HistogramView(needed.store, needed.period, content)),
       correlation(new CorrelationView(needed.store, needed.period, content)),
+      trend(new TrendView(needed.store, needed.period, content)),
       noReadings(new EmptyState(u"noChart"_s, u":/icons/graphBtn.InactiveImg.svg"_s, content)),
       views(new QStackedWidget(content)), tools(new ChartTools(*charts, *comments, needed.period, content)),
+      trendApart(makeTrendChoice()),
       frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *content, this)) {
     setObjectName(u"GraphViewController"_s);
     setAccessibleName(qtTrId("pageChart"));
@@ -51,13 +55,15 @@ GraphViewController::GraphViewController(const Parts& needed)
 void GraphViewController::build() {
     noReadings->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
     noReadings->setFocusPolicy(Qt::StrongFocus);
-    for (QWidget* each : {static_cast<QWidget*>(charts), static_cast<QWidget*>(histogram),
-                          static_cast<QWidget*>(correlation), static_cast<QWidget*>(noReadings)})
+    for (QWidget* each :
+         {static_cast<QWidget*>(charts), static_cast<QWidget*>(histogram), static_cast<QWidget*>(correlation),
+          static_cast<QWidget*>(trend), static_cast<QWidget*>(noReadings)})
         views->addWidget(each);
     auto* bar = new QHBoxLayout;
     bar->addWidget(makeSwitch());
     bar->addStretch(1);
     bar->addWidget(tools);
+    bar->addWidget(trendApart);
     auto* inside = new QVBoxLayout(content);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->setSpacing(6);
@@ -75,8 +81,9 @@ QWidget* GraphViewController::makeSwitch() {
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     auto* group = new QButtonGroup(box);
-    const std::array names{u"toggleGraph"_s, u"toggleHistogram"_s, u"toggleCorrelation"_s};
-    const std::array texts{qtTrId("showGraph"), qtTrId("showHistogram"), qtTrId("showCorrelation")};
+    const std::array names{u"toggleGraph"_s, u"toggleHistogram"_s, u"toggleCorrelation"_s, u"toggleTrend"_s};
+    const std::array texts{qtTrId("showGraph"), qtTrId("showHistogram"), qtTrId("showCorrelation"),
+                           qtTrId("showTrend")};
     for (std::size_t state = 0; state < viewTotal; ++state) {
         auto* choice = new QToolButton(box);
         choice->setObjectName(names.at(state));
@@ -92,10 +99,22 @@ QWidget* GraphViewController::makeSwitch() {
     return box;
 }
 
+QCheckBox* GraphViewController::makeTrendChoice() {
+    auto* choice = new QCheckBox(qtTrId("trendApart"), content);
+    choice->setObjectName(u"trendApart"_s);
+    choice->setAccessibleName(choice->text());
+    choice->setToolTip(qtTrId("trendApartHint"));
+    connect(choice, &QCheckBox::toggled, trend, &TrendView::setApart);
+    return choice;
+}
+
+bool GraphViewController::isTrendApart() const { return trend->isApart(); }
+
 void GraphViewController::setView(int state) {
     viewState = state;
     if (viewState == 1) histogram->reload();
     if (viewState == 2) correlation->reload();
+    if (viewState == 3) trend->reload();
     const bool any = !parts.store.getReadingForCurID().empty();
     views->setCurrentIndex(any ? viewState : views->indexOf(noReadings));
     setFocusProxy(views->currentWidget());
@@ -103,7 +122,9 @@ void GraphViewController::setView(int state) {
     for (QToolButton* choice : choices)
         choice->setEnabled(any);
     tools->setVisible(any && viewState == 0);
-    frame->setRule(viewState == 0 ? isInChart : isCounted); // as the same page does on paper
+    trendApart->setVisible(any && viewState == 3);
+    frame->setRule(viewState == 0 || viewState == 3 ? isInChart
+                                                    : isCounted); // as the same page does on paper
 }
 
 void GraphViewController::reload() { setView(viewState); }

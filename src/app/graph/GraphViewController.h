@@ -8,6 +8,7 @@
 
 #include <array>
 
+class QCheckBox;
 class QStackedWidget;
 class QToolButton;
 
@@ -20,8 +21,9 @@ class DrawGraphicVC;
 class EmptyState;
 class HistogramView;
 class ReadingFrame;
+class TrendView;
 
-/// The chart page: the chart, the histogram or the correlation of the current patient's readings.
+/// The chart page: the chart, the histogram, the correlation or the trend of the current patient's readings.
 class GraphViewController final : public PageController {
     Q_OBJECT
 public:
@@ -45,27 +47,32 @@ public:
 
     /// Brings the chart to the front of the page.
     void switchToGraph();
-    /// 0 chart, 1 histogram, 2 correlation.
+    /// 0 chart, 1 histogram, 2 correlation, 3 trend.
     [[nodiscard]] int drawViewState() const { return viewState; }
+    /// The trend has mornings and evenings as lines of their own.
+    [[nodiscard]] bool isTrendApart() const;
     /// The styles of the charts on the screen, for a pair that is to look like them.
     void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
 
 private:
     void build();
     QWidget* makeSwitch();
+    QCheckBox* makeTrendChoice();
     void setView(int state);
     void reload();
 
-    static constexpr std::size_t viewTotal = 3;
+    static constexpr std::size_t viewTotal = 4;
     Parts parts;
     ChartComments* comments;
     QWidget* content; ///< what the frame shows: the switch and the tools over one of the views
     DrawGraphicVC* charts;
     HistogramView* histogram;
     CorrelationView* correlation;
+    TrendView* trend;
     EmptyState* noReadings;
     QStackedWidget* views;
     ChartTools* tools;
+    QCheckBox* trendApart;
     ReadingFrame* frame;
     std::array<QToolButton*, viewTotal> choices{};
     int viewState = 0;

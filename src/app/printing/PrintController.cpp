@@ -55,9 +55,9 @@ void showMissing(PrintForm& form, const ReportSource& report, std::optional<Sect
 std::vector<Section> printOptions(int tab) {
     using enum Section;
     switch (tab) {
-    case 0: return {PatientProfile};
-    case 1: return {graph, histogram, correlation, comment, SWStatistics};
-    case 2: return {table, comment, SWStatistics};
+    case 0: return {summary, PatientProfile};
+    case 1: return {summary, graph, histogram, correlation, comment, SWStatistics};
+    case 2: return {summary, table, comment, SWStatistics};
     default: return {};
     }
 }
@@ -118,7 +118,8 @@ void PrintController::setPrintOption() {
     QStringList texts;
     for (const Section section : printOptions(iSelectedTab))
         texts += facts(section).text();
-    form->offer(texts, iSelectedTab == 1 ? views.drawViewState : 0);
+    // What is in view is chosen, as long as the summary is not.
+    form->offer(texts, 1 + (iSelectedTab == 1 ? views.drawViewState : 0));
     qCInfo(lcApp, "selected item after re-fill items ....%s", qUtf8Printable(form->selectedText()));
     showSelection();
 }

@@ -6,6 +6,8 @@ std::optional<ReportSource> printSource(const DataStore& store, const DisplayPer
                                         const Clock& clock, const ScreenViews& views) {
     auto source = reportSource(store, period.selection(), clock);
     if (!source) return {};
+    source->weekRule = period.getWeekRule();
+    source->weekEnd = period.getWeekEnd();
     source->getShowMam = views.getShowMam;
     source->getShowPad = views.getShowPad;
     source->getIsAfib = source->rows.isAFib || (!source->rows.isPad && views.isMonitorAFib);

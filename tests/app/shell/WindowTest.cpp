@@ -84,7 +84,7 @@ TEST_F(WindowTest, saysInItsLogWhatTheUserDoes) {
          "comment textDidEndEditing"},
         {[this] { press(Qt::Key_P, Qt::ControlModifier); },
          "selected item after re-fill items ....Blood-pressure and pulse chart"},
-        {[this] { find<QComboBox>("printOption").setCurrentIndex(1); },
+        {[this] { find<QComboBox>("printOption").setCurrentIndex(2); },
          "ComboBox Value Changed to --> Distribution of the readings"},
         {[this] { click("printAndClose"); }, "print ....Distribution of the readings"},
         {[this] {

@@ -1,0 +1,100 @@
+#include "analysis/Summary.h"
+
+#include <algorithm>
+
+namespace zel {
+
+namespace {
+
+bool isOfSummary(const ReadingModel& reading, const Period& period) {
+    return isInStatistic(reading, summarySelection(period));
+}
+
+void addFlag(SummaryFigures& figures, const ReadingModel& reading) {
+    if (!reading.isAFib() && !reading.isPad()) return;
+    FlaggedReadings& kind = reading.isAFib() ? figures.afib : figures.pad;
+    ++kind.examined;
+    constexpr std::uint32_t flaggedPad = 2, flaggedAFib = 5;
+    if (reading.Arrhythmia == flaggedPad || reading.Arrhythmia == flaggedAFib) ++kind.flagged;
+}
+
+struct CommentDays {
+    DayNumber begin, end;
+};
+
+/// In order; a day that is not known is the other one.
+CommentDays daysOf(const CommentModel& comment) {
+    const DayNumber begin = isNilDay(comment.beginDay) ? comment.endDay : comment.beginDay;
+    const DayNumber end = isNilDay(comment.endDay) ? begin : comment.endDay;
+    return {std::min(begin, end), std::max(begin, end)};
+}
+
+} // namespace
+
+ReadingSelection summarySelection(const Period& period) {
+    return {.period = period, .view = ViewSelection::custom, .includeUndated = false};
+}
+
+SummaryFigures calcSummary(const ReadingList& readings, const Period& period) {
+    SummaryFigures figures;
+    for (const ReadingModel& reading : readings) {
+        if (!isOfSummary(reading, period)) continue;
+        figures.all.add(reading);
+        (reading.isPMData ? figures.evening : figures.morning).add(reading);
+        addFlag(figures, reading);
+    }
+    return figures;
+}
+
+int countHighReadings(const ReadingList& readings, const Period& period, const LimitPair& limits) {
+    return static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
+        return (isSysHigh(reading, limits) || isDiaHigh(reading, limits)) && isOfSummary(reading, period);
+    }));
+}
+
+std::optional<DayNumber> lastDayOf(const ReadingList& readings, const Period& period) {
+    std::optional<DayNumber> last;
+    for (const ReadingModel& reading : readings)
+        if (isOfSummary(reading, period)) last = std::max(last.value_or(reading.day), reading.day);
+    return last;
+}
+
+std::vector<DayHalves> calcLastDays(const ReadingList& readings, const Period& period) {
+    const std::optional<DayNumber> last = lastDayOf(readings, period);
+    if (!last) return {};
+    const DayNumber first = std::max(*last - (lastDaysOnSummary - 1), LocalZone{}.day(period.begin));
+    std::vector<DayHalves> days;
+    for (DayNumber day = first; day <= *last; ++day)
+        days.push_back({.day = day});
+    for (const ReadingModel& reading : readings)
+        if (reading.day >= first && isOfSummary(reading, period)) {
+            DayHalves& day = days[static_cast<std::size_t>(reading.day - first)];
+            (reading.isPMData ? day.evening : day.morning).add(reading);
+        }
+    return days;
+}
+
+std::vector<const ReadingModel*> excludedReadings(const ReadingList& readings, const Period& period) {
+    std::vector<const ReadingModel*> excluded;
+    for (const ReadingModel& reading : readings)
+        if (reading.isExcluded() && isListed(reading, summarySelection(period))) excluded.push_back(&reading);
+    std::ranges::stable_sort(excluded, std::ranges::greater{},
+                             [](const ReadingModel* reading) { return *reading->ReadingDate; });
+    return excluded;
+}
+
+std::vector<const CommentModel*> commentsOfPeriod(const CommentList& comments, const Period& period) {
+    const LocalZone zone;
+    const DayNumber first = zone.day(period.begin), last = zone.day(period.end);
+    std::vector<const CommentModel*> found;
+    for (const auto& comment : comments) {
+        const auto [begin, end] = daysOf(*comment);
+        if (!isNilDay(begin) && begin <= last && first <= end) found.push_back(comment.get());
+    }
+    std::ranges::reverse(found);
+    std::ranges::stable_sort(found, std::ranges::greater{},
+                             [](const CommentModel* comment) { return daysOf(*comment).begin; });
+    return found;
+}
+
+} // namespace zel

@@ -1,0 +1,269 @@
+#include "chart/DrawTrend.h"
+
+#include "chart/CommentBands.h"
+#include "chart/DrawChart.h"
+#include "chart/Drawing.h"
+#include "chart/TimeAxis.h"
+#include "chart/TrendCurves.h"
+#include "chart/TrendNames.h"
+#include "chart/ValueScale.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+
+namespace zel {
+
+namespace {
+
+constexpr std::array pressures{TrendMeasure::sys, TrendMeasure::dia};
+constexpr std::array beats{TrendMeasure::pulse};
+constexpr int captionFont = 1, emptyFont = 4;
+constexpr double headHeight = 16; ///< of the line that names the step
+constexpr double besideNames = 5;
+constexpr double plotGap = 6;      ///< between the two plots
+constexpr double pulseShare = 0.3; ///< as on the chart
+constexpr double noteInset = 4;
+
+/// Where the picture's parts lie.
+struct Parts {
+    ChartScale blood;
+    ChartScale pulse; ///< with the dates below it
+    Rect names;
+    CommentBands comments;
+};
+
+/// So many that the plots keep what they need to be read.
+int commentRows(double height) {
+    constexpr double share = 0.2, leastPlots = 100;
+    const double rest = height - headHeight - getBaseAreaHeight() - plotGap - leastPlots - commentBandHeight;
+    return std::clamp(static_cast<int>(std::min(height * share, rest) / commentBandHeight), 0, 4);
+}
+
+/// Enough for a number and the unit in a low picture.
+double pulseHeight(double plots) {
+    constexpr double least = 36, mostOfLow = 0.45;
+    return std::floor(std::max(plots * pulseShare, std::min(least, plots * mostOfLow)));
+}
+
+/// The ends of all lines that there are.
+std::vector<LineName> lineEnds(const TrendInput& input, const ChartScale& blood, const ChartScale& pulse) {
+    std::vector<LineName> names;
+    for (const TrendMeasure measure : {TrendMeasure::sys, TrendMeasure::dia, TrendMeasure::pulse}) {
+        const ChartScale& scale = measure == TrendMeasure::pulse ? pulse : blood;
+        for (const TrendSeries& series : input.trend.series) {
+            if (series.points.empty()) continue;
+            const double y = trendY(scale, measure, bandOf(series.points.back(), measure).median);
+            names.push_back({trendName(measure, series.half),
+                             std::clamp(y, scale.chartRect.y, scale.chartRect.top()),
+                             trendLook(measure, series.half, input.forPrint).color});
+        }
+    }
+    return names;
+}
+
+Parts partsOf(const TrendInput& input) {
+    const Rect& all = input.totalRect;
+    const ChartScale anywhere(all, input.selection.period, true, startScaleBase);
+    const double names = lineNamesSize(lineEnds(input, anywhere, anywhere)).width + 2 * besideNames;
+    const double width = all.width - names;
+    const TimeScale time = ChartScale({all.x, all.y, width, 0}, input.selection.period, true, 0).time;
+    CommentBands bands =
+        layOutCommentBands(input.comments, input.selection.period, time, 0, commentRows(all.height));
+    const double bottom = all.y + bands.height();
+    bands = layOutCommentBands(input.comments, input.selection.period, time, bottom, commentRows(all.height));
+    const double plots = all.height - bands.height() - headHeight - getBaseAreaHeight() - plotGap;
+    const double low = pulseHeight(plots) + getBaseAreaHeight();
+    const double high = all.top() - headHeight - (bottom + low + plotGap);
+    return {{{all.x, bottom + low + plotGap, width, high}, input.selection.period, true, startScaleBase},
+            {{all.x, bottom, width, low}, input.selection.period, false, startScaleBase},
+            {all.x + width + besideNames, bottom, names - 2 * besideNames, all.top() - bottom},
+            std::move(bands)};
+}
+
+/// Days in a short period; else months, or years where months would shade the plot.
+void drawDateLines(Picture& picture, const ChartScale& scale, const LocalZone& zone) {
+    using namespace std::chrono;
+    if (isShortPeriod(dayDiff(scale.time, zone))) return drawTimeAxis(picture, scale, zone);
+    constexpr double crowded = 8;
+    const DayNumber first = zone.day(scale.time.begin);
+    const DayNumber last = zone.day(scale.time.end);
+    const double perDay = scale.time.width / (last - first + 1);
+    const months step{perDay * 30 >= crowded ? 1 : 12};
+    const year_month_day begin{sys_days{days{first}}};
+    const year_month start = step == months{1} ? begin.year() / begin.month() : begin.year() / January;
+    for (year_month month = start;; month += step) {
+        const auto day = static_cast<DayNumber>(sys_days{month / 1}.time_since_epoch().count());
+        if (day > last) return;
+        const double x = scale.time.left + perDay * (day - first);
+        if (day >= first)
+            picture.emplace_back(StraightLine{
+                {x, scale.chartRect.y}, {x, scale.chartRect.top()}, 1, fixColor(gcGrayLinecolor)});
+    }
+}
+
+/// The pale line of a limit is lost in black and white.
+void drawTrendLimit(Picture& picture, const ChartScale& scale, std::uint32_t limit, bool black) {
+    DrawAlphaLine(picture, scale, limit);
+    if (!black || limit == 0) return;
+    const double y = scale.mapValToY(limit);
+    picture.emplace_back(
+        Curve{{{scale.chartRect.x, y}, {scale.chartRect.right(), y}}, 0.75, Qt::black, {5, 4}});
+}
+
+template <class Item>
+void addAll(Picture& picture, std::vector<Item>& items) {
+    for (Item& item : items)
+        picture.emplace_back(std::move(item));
+}
+
+/// All bands lie below all lines. \return whether there are links across steps without a reading
+bool drawSeries(Picture& picture, const TrendInput& input, const ChartScale& scale,
+                std::span<const TrendMeasure> measures, const LocalZone& zone) {
+    std::vector<TrendCurves> curves;
+    for (const TrendMeasure measure : measures)
+        for (const TrendSeries& series : input.trend.series)
+            curves.push_back(trendCurves(series, measure, scale, zone, input.forPrint));
+    for (TrendCurves& one : curves)
+        addAll(picture, one.bands);
+    bool isLinked = false;
+    for (TrendCurves& one : curves) {
+        isLinked = isLinked || !one.links.empty();
+        addAll(picture, one.links);
+        addAll(picture, one.lines);
+        addAll(picture, one.marks);
+    }
+    return isLinked;
+}
+
+void drawPlotFrame(Picture& picture, const Rect& rect) {
+    picture.emplace_back(Curve{{{rect.x, rect.y},
+                                {rect.right(), rect.y},
+                                {rect.right(), rect.top()},
+                                {rect.x, rect.top()},
+                                {rect.x, rect.y}},
+                               0.5,
+                               Qt::black,
+                               {}});
+}
+
+bool drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale,
+              std::span<const TrendMeasure> measures, const LocalZone& zone) {
+    const bool isPulse = measures.front() == TrendMeasure::pulse;
+    picture.emplace_back(FillRect{scale.whiteRect, Qt::white});
+    if (isPulse)
+        drawPulseScale(picture, scale);
+    else
+        drawBloodScale(picture, scale);
+    picture.emplace_back(BeginClip{scale.chartRect});
+    drawDateLines(picture, scale, zone);
+    if (!isPulse) {
+        drawTrendLimit(picture, scale, input.sysStandard, input.forPrint);
+        drawTrendLimit(picture, scale, input.diaStandard, input.forPrint);
+    }
+    const bool isLinked = drawSeries(picture, input, scale, measures, zone);
+    picture.emplace_back(EndClip{});
+    if (input.forPrint) drawPlotFrame(picture, scale.whiteRect);
+    const Rect room{scale.chartRect.x, scale.chartRect.y, scale.chartRect.width - noteInset,
+                    scale.chartRect.height - 1};
+    drawOffScale(
+        picture,
+        trendOffScale(input.trend.series, measures, isPulse ? scale.pulseRange() : scale.bloodRange()), room,
+        OffScaleOf::points);
+    return isLinked;
+}
+
+/// What a point stands for and what the band is, in as many words as there is room for.
+void drawCaption(Picture& picture, const TrendInput& input, bool isLinked, const Rect& head) {
+    const QString step = trendStepText(input.trend.step);
+    const QString whole = qtTrId("trendBand").arg(step), brief = qtTrId("trendBandShort").arg(step);
+    QStringList forms{whole, brief, step};
+    if (isLinked)
+        forms = QStringList{qtTrId("trendLinked").arg(whole), qtTrId("trendLinked").arg(brief)} + forms;
+    const TextAttribute font = attribute(captionFont);
+    for (const QString& form : forms) {
+        if (textSize(form, font).width > head.width && form != step) continue;
+        return textOut(picture, form, {head.x, head.y + head.height / 2}, font, XPos::left, YPos::centre);
+    }
+}
+
+void drawEmpty(Picture& picture, const TrendInput& input, const Rect& plot) {
+    const auto hasPoints = [](const TrendSeries& series) { return !series.points.empty(); };
+    if (std::ranges::any_of(input.trend.series, hasPoints)) return;
+    textOut(picture, noReadingsText(input.selection.view),
+            {plot.x + plot.width / 2, plot.y + plot.height / 2}, attribute(emptyFont), XPos::centre,
+            YPos::centre);
+}
+
+std::vector<TrendColumn> columnsOf(const TrendInput& input, const Parts& parts, const LocalZone& zone) {
+    std::map<DayNumber, TrendColumn> columns;
+    for (const TrendMeasure measure : {TrendMeasure::sys, TrendMeasure::dia, TrendMeasure::pulse}) {
+        const ChartScale& scale = measure == TrendMeasure::pulse ? parts.pulse : parts.blood;
+        for (const TrendSeries& series : input.trend.series)
+            for (const TrendPoint& point : series.points) {
+                TrendColumn& column = columns[point.begin];
+                column.begin = point.begin;
+                column.end = point.end;
+                column.x = trendX(scale.time, point.begin, point.end, zone);
+                const Point median{column.x, trendY(scale, measure, bandOf(point, measure).median)};
+                if (scale.chartRect.contains(median)) column.medians.push_back(median);
+            }
+    }
+    std::vector<TrendColumn> inOrder;
+    inOrder.reserve(columns.size());
+    for (auto& [begin, column] : columns)
+        inOrder.push_back(std::move(column));
+    return inOrder;
+}
+
+bool hasRoom(const Parts& parts) {
+    constexpr double least = 20;
+    return parts.blood.chartRect.height >= least && parts.pulse.chartRect.height > 0
+           && parts.blood.chartRect.width >= least;
+}
+
+} // namespace
+
+QString trendStepText(TrendStep step) {
+    switch (step) {
+    case TrendStep::week: return qtTrId("trendWeek");
+    case TrendStep::month: return qtTrId("trendMonth");
+    case TrendStep::day: break;
+    }
+    return qtTrId("trendDay");
+}
+
+std::pair<std::uint32_t, std::uint32_t> trendLimits(std::uint32_t sys, std::uint32_t dia) {
+    const ScaleRange range = ChartScale({}, {}, true, startScaleBase).bloodRange();
+    const auto shown = [&](std::uint32_t limit) {
+        return limit < range.least || limit > range.most ? 0 : limit;
+    };
+    return {shown(sys), shown(dia)};
+}
+
+TrendLayout drawTrend(const TrendInput& input, const LocalZone& zone) {
+    const Rect& all = input.totalRect;
+    TrendLayout layout{
+        {FillRect{all, input.forPrint ? QColor(Qt::white) : fixColor(gcScaleBackgroundColor)}}, {}, {}};
+    const Parts parts = partsOf(input);
+    if (!hasRoom(parts)) return layout;
+    Picture& picture = layout.picture;
+    const bool isLinked = drawPlot(picture, input, parts.blood, pressures, zone);
+    drawPlot(picture, input, parts.pulse, beats, zone);
+    drawDateLabels(picture, parts.pulse, noteInset, zone);
+    const Rect& plot = parts.blood.chartRect;
+    drawCaption(picture, input, isLinked,
+                {plot.x + noteInset, plot.top(), all.right() - plot.x - noteInset, all.top() - plot.top()});
+    for (TextLine& name : placeLineNames(lineEnds(input, parts.blood, parts.pulse), parts.names))
+        picture.emplace_back(std::move(name));
+    drawEmpty(picture, input, plot);
+    drawCommentBands(picture, parts.comments, parts.blood.time, parts.pulse.totalRect.y, input.forPrint);
+    layout.plot = {plot.x, parts.pulse.chartRect.y, plot.width, plot.top() - parts.pulse.chartRect.y};
+    layout.columns = columnsOf(input, parts, zone);
+    return layout;
+}
+
+} // namespace zel

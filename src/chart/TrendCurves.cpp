@@ -1,0 +1,175 @@
+#include "chart/TrendCurves.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <span>
+
+namespace zel {
+
+namespace {
+
+constexpr double lineWidth = 2;
+constexpr double markDiameter = 5;
+constexpr double roomForMarks = 20;   ///< of a step, for each point to have one and its dashes to be seen
+constexpr DayNumber longestLink = 30; ///< days, as in the chart
+constexpr int bandAlpha = 55;
+const std::vector<double> dotted{2, 3};
+
+using Points = std::span<const TrendPoint>;
+
+bool isEvening(ViewSelection half) { return half == ViewSelection::pmOnly; }
+
+/// Dark enough for names on the pictures' background.
+QColor colorOf(TrendMeasure measure, bool evening) {
+    switch (measure) {
+    case TrendMeasure::sys: return evening ? QColor(0, 100, 100) : QColor(8, 80, 150);
+    case TrendMeasure::dia: return evening ? QColor(150, 20, 90) : QColor(140, 65, 0);
+    case TrendMeasure::pulse: break;
+    }
+    return evening ? QColor(95, 70, 120) : QColor(60, 60, 60);
+}
+
+class CurveMaker {
+public:
+    CurveMaker(TrendMeasure shown, const ChartScale& at, const LocalZone& local, TrendLook look)
+        : measure(shown), scale(at), zone(local), style(std::move(look)),
+          halfDay(at.time.width / (local.day(at.time.end) - local.day(at.time.begin) + 1) / 2) {}
+
+    void addRun(TrendCurves& made, Points run) const {
+        made.bands.push_back(band(run));
+        if (run.size() > 1) made.lines.push_back({medians(run), lineWidth, style.color, style.dashes});
+        for (const TrendPoint& point : run)
+            if (run.size() == 1 || halfStep(point) * 2 >= roomForMarks)
+                made.marks.push_back({median(point), markDiameter, true, style.color});
+    }
+
+    [[nodiscard]] Curve link(const TrendPoint& from, const TrendPoint& to) const {
+        return {{median(from), median(to)}, 1, style.color, dotted};
+    }
+
+private:
+    [[nodiscard]] double x(const TrendPoint& point) const {
+        return trendX(scale.time, point.begin, point.end, zone);
+    }
+    [[nodiscard]] double y(double value) const { return trendY(scale, measure, value); }
+    [[nodiscard]] Point median(const TrendPoint& point) const {
+        return {x(point), y(bandOf(point, measure).median)};
+    }
+    [[nodiscard]] double halfStep(const TrendPoint& point) const {
+        return halfDay * (point.end - point.begin + 1);
+    }
+
+    [[nodiscard]] std::vector<Point> medians(Points run) const {
+        std::vector<Point> points;
+        points.reserve(run.size());
+        for (const TrendPoint& point : run)
+            points.push_back(median(point));
+        return points;
+    }
+
+    /// Along the lower edge and back along the upper one; of one point an upright bar.
+    [[nodiscard]] Area band(Points run) const {
+        QColor color = style.color;
+        color.setAlpha(bandAlpha);
+        Area area{{}, color};
+        area.outline.reserve(2 * run.size() + 2);
+        const double wider = run.size() == 1 ? std::clamp(halfStep(run.front()) / 2, 1.5, 6.0) : 0;
+        const auto add = [&](const TrendPoint& point, double value, double aside) {
+            area.outline.push_back({x(point) + aside, y(value)});
+        };
+        add(run.front(), bandOf(run.front(), measure).low, -wider);
+        for (const TrendPoint& point : run.subspan(run.size() == 1 ? 0 : 1))
+            add(point, bandOf(point, measure).low, wider);
+        for (std::size_t index = run.size(); index-- > 0;)
+            add(run[index], bandOf(run[index], measure).high, wider);
+        if (run.size() == 1) add(run.front(), bandOf(run.front(), measure).high, -wider);
+        return area;
+    }
+
+    TrendMeasure measure;
+    const ChartScale& scale;
+    const LocalZone& zone;
+    TrendLook style;
+    double halfDay; ///< in the picture
+};
+
+} // namespace
+
+TrendLook trendLook(TrendMeasure measure, ViewSelection half, bool black) {
+    const bool isApart = half == ViewSelection::amOnly || half == ViewSelection::pmOnly;
+    TrendLook look{black ? QColor(Qt::black) : colorOf(measure, isEvening(half)), {}};
+    const bool isDia = measure == TrendMeasure::dia;
+    if (isApart && isEvening(half))
+        look.dashes = isDia ? std::vector<double>{8, 3, 2, 3} : std::vector<double>{3, 3};
+    else if (isDia)
+        look.dashes = {9, 4};
+    return look;
+}
+
+QString trendName(TrendMeasure measure, ViewSelection half) {
+    const auto name = [measure] {
+        if (measure == TrendMeasure::sys) return qtTrId("sys");
+        return measure == TrendMeasure::dia ? qtTrId("dia") : qtTrId("pulse");
+    };
+    if (half == ViewSelection::amOnly) return qtTrId("trendMorning").arg(name());
+    return isEvening(half) ? qtTrId("trendEvening").arg(name()) : name();
+}
+
+const TrendBand& bandOf(const TrendPoint& point, TrendMeasure measure) {
+    if (measure == TrendMeasure::sys) return point.sys;
+    return measure == TrendMeasure::dia ? point.dia : point.pulse;
+}
+
+double trendY(const ChartScale& scale, TrendMeasure measure, double value) {
+    return measure == TrendMeasure::pulse ? scale.mapPulseValToY(value) : scale.mapValToY(value);
+}
+
+double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone) {
+    const DayNumber first = zone.day(time.begin);
+    const DayNumber last = zone.day(time.end);
+    const double days = last - first + 1;
+    const double from = std::max(begin, first) - first;
+    const double to = std::min(end, last) - first + 1;
+    return time.left + time.width * (from + to) / 2 / days;
+}
+
+TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure, const ChartScale& scale,
+                        const LocalZone& zone, bool black) {
+    const CurveMaker maker(measure, scale, zone, trendLook(measure, series.half, black));
+    TrendCurves made;
+    const Points points(series.points);
+    for (std::size_t begin = 0; begin < points.size();) {
+        std::size_t end = begin + 1;
+        while (end < points.size() && points[end].begin == points[end - 1].end + 1)
+            ++end;
+        maker.addRun(made, points.subspan(begin, end - begin));
+        if (end < points.size() && points[end].begin - points[end - 1].end <= longestLink)
+            made.links.push_back(maker.link(points[end - 1], points[end]));
+        begin = end;
+    }
+    return made;
+}
+
+OffScale trendOffScale(std::span<const TrendSeries> series, std::span<const TrendMeasure> measures,
+                       const ScaleRange& range) {
+    std::map<DayNumber, OffScale> steps;
+    for (const TrendSeries& one : series)
+        for (const TrendPoint& point : one.points)
+            for (const TrendMeasure measure : measures) {
+                const TrendBand& band = bandOf(point, measure);
+                OffScale& step = steps[point.begin];
+                if (band.high > static_cast<double>(range.most)) step.above = 1;
+                if (band.low < static_cast<double>(range.least)) step.below = 1;
+            }
+    OffScale counts;
+    for (const auto& [begin, step] : steps) {
+        counts.above += step.above;
+        counts.below += step.below;
+    }
+    return counts;
+}
+
+} // namespace zel

@@ -1,0 +1,46 @@
+#pragma once
+// The lines and bands of a trend: each measure of each half of the day is one of them.
+
+#include "analysis/Trend.h"
+#include "chart/ChartScale.h"
+#include "chart/OffScale.h"
+#include "chart/Picture.h"
+
+#include <span>
+
+namespace zel {
+
+enum class TrendMeasure : std::int32_t { sys, dia, pulse };
+
+/// How a line is told from the others, in colour and without.
+struct TrendLook {
+    QColor color;
+    std::vector<double> dashes; ///< as Curve has them
+};
+[[nodiscard]] TrendLook trendLook(TrendMeasure measure, ViewSelection half, bool black);
+
+/// "SYS", "SYS morning".
+[[nodiscard]] QString trendName(TrendMeasure measure, ViewSelection half);
+
+[[nodiscard]] const TrendBand& bandOf(const TrendPoint& point, TrendMeasure measure);
+[[nodiscard]] double trendY(const ChartScale& scale, TrendMeasure measure, double value);
+/// The middle of what the point stands for, as far as it lies in the period.
+[[nodiscard]] double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone);
+
+/// Lines that break where a step has no reading. Ends that are as near as the chart joins readings are linked
+/// by fine dots; farther apart, nothing stands between them: it would look like a course that nobody
+/// measured.
+struct TrendCurves {
+    std::vector<Area> bands;
+    std::vector<Curve> lines; ///< of the medians; a point without neighbours has none
+    std::vector<Curve> links;
+    std::vector<Circle> marks;
+};
+[[nodiscard]] TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure,
+                                      const ChartScale& scale, const LocalZone& zone, bool black);
+
+/// The points whose bands reach beyond a scale, each step once.
+[[nodiscard]] OffScale trendOffScale(std::span<const TrendSeries> series,
+                                     std::span<const TrendMeasure> measures, const ScaleRange& range);
+
+} // namespace zel

@@ -1,0 +1,66 @@
+#include "report/SummaryLeftOut.h"
+
+#include "analysis/Summary.h"
+#include "report/FieldText.h"
+#include "report/SummaryType.h"
+
+#include <algorithm>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int noteLines = 2;
+constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
+
+QString excludedText(const ReadingModel& reading, const ReportSource& report) {
+    const QString reason = reading.exclusion.left(mostOfReason).simplified();
+    return qtTrId("summaryExcluded")
+        .arg(reading.strDisplayDate(report.settings), reading.strDisplayTime(report.settings))
+        .arg(reading.sys)
+        .arg(reading.dia)
+        .arg(reason.isEmpty() ? qtTrId("summaryNoReason") : reason);
+}
+
+/// A reason is cut rather than set smaller.
+void drawExcluded(Picture& picture, const ReportSource& report, Rect& left) {
+    const auto readings = excludedReadings(report.readings, report.selection.period);
+    const double line = lineHeight(summarySmall);
+    const auto room = static_cast<std::size_t>(std::max(0.0, left.height / line));
+    const std::size_t shown = readings.size() <= room ? readings.size() : std::max<std::size_t>(room, 1) - 1;
+    for (std::size_t i = 0; i < shown; ++i)
+        summaryLine(picture, excludedText(*readings[i], report), left, summarySmall);
+    if (shown < readings.size())
+        summaryLine(picture, qtTrId("summaryMoreExcluded", static_cast<int>(readings.size() - shown)), left,
+                    summarySmall);
+}
+
+QString countsOf(const ReportSource& report) {
+    const ReadingCount count =
+        countReadings(report.readings, summarySelection(report.selection.period), isInStatistic);
+    const QString left = describeLeftOut(count);
+    const auto comments = commentsOfPeriod(report.comments, report.selection.period).size();
+    QStringList parts{left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left};
+    if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
+        parts += qtTrId("summaryOtherComments", others);
+    return parts.join(u"; "_s);
+}
+
+QString howToRead(const ReportSource& report) {
+    return describeHighMark(report.highFrom) + u". "_s + qtTrId("summaryNote").arg(highMark);
+}
+
+} // namespace
+
+void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const Rect& rect) {
+    const double note = noteLines * lineHeight(summarySmall);
+    Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"),
+                             {rect.x, rect.y + note, rect.width, rect.height - note});
+    summaryLine(picture, countsOf(report), left, summaryFont);
+    drawExcluded(picture, report, left);
+    fieldParagraph(picture, howToRead(report), {rect.x, rect.y + note}, rect.width, summarySmall, noteLines);
+}
+
+} // namespace zel

@@ -1,0 +1,51 @@
+#include "report/SummaryPage.h"
+
+#include "analysis/Summary.h"
+#include "report/PageFrame.h"
+#include "report/SummaryBoxes.h"
+#include "report/SummaryComments.h"
+#include "report/SummaryDays.h"
+#include "report/SummaryHead.h"
+#include "report/SummaryLeftOut.h"
+#include "report/SummaryTable.h"
+
+namespace zel {
+
+namespace {
+
+constexpr double gap = 8, betweenColumns = 14, boxHeight = 80, weekShare = 0.58, daysShare = 0.44,
+                 besideLogo = 130;
+
+Rect takeTop(Rect& rect, double height) {
+    rect.height -= height;
+    return {rect.x, rect.top(), rect.width, height};
+}
+
+void drawBoxes(Picture& picture, const ReportSource& report, const SummaryFigures& figures, Rect rect) {
+    const double week = rect.width * weekShare;
+    drawSummaryWeek(picture, report, {rect.x, rect.y, week - betweenColumns, rect.height});
+    drawSummaryShares(picture, report, figures, {rect.x + week, rect.y, rect.width - week, rect.height});
+}
+
+} // namespace
+
+void drawSummaryPage(Picture& picture, const PageGeometry& at, const ReportSource& report,
+                     const QString& note) {
+    const Rect& foot = at.footerRect;
+    drawLogo(picture, at);
+    drawSummaryLeftOut(picture, report, {foot.x, foot.y, foot.width - besideLogo, foot.height});
+    const double body = at.titleRect.y - foot.top();
+    Rect rest = drawSummaryHead(picture, report, note, {foot.x, foot.top(), foot.width, body});
+    rest.height -= gap;
+    const SummaryFigures figures = calcSummary(report.readings, report.selection.period);
+    drawBoxes(picture, report, figures, takeTop(rest, boxHeight));
+    rest.height -= gap;
+    drawSummaryTable(picture, report, figures, takeTop(rest, summaryTableHeight()));
+    rest.height -= gap;
+    rest = {rest.x, rest.y + gap, rest.width, rest.height - gap};
+    const double days = rest.width * daysShare;
+    drawSummaryDays(picture, report, {rest.x, rest.y, days - betweenColumns, rest.height});
+    drawSummaryComments(picture, report, {rest.x + days, rest.y, rest.width - days, rest.height});
+}
+
+} // namespace zel

@@ -1,0 +1,275 @@
+#include "chart/DrawTrend.h"
+
+#include "analysis/Sample.h"
+#include "chart/Drawing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A patient's trend, to be spoiled in one place.
+struct TrendOf {
+    ReadingList readings = readingsAt({"2019-03-01 08:00", "2019-03-02 20:00", "2019-03-03 08:00"});
+    CommentList comments{};
+    ReadingSelection selection = during("2019-03-01", "2019-03-31");
+    bool apart = false;
+    bool forPrint = false;
+    std::uint32_t sysStandard = 135;
+    Rect rect{10, 20, 700, 400};
+
+    void comment(const char* from, const char* to, const QString& text) {
+        CommentModel& made = *comments.emplace_back(std::make_unique<CommentModel>());
+        made.beginDate = at(from);
+        made.endDate = at(to);
+        made.comment = text;
+    }
+    [[nodiscard]] TrendLayout layout() const {
+        const TrendSeriesList trend = calcTrendSeries(readings, selection, apart);
+        return drawTrend({trend, comments, selection, sysStandard, 85, forPrint, rect}, LocalZone());
+    }
+    template <class Item>
+    [[nodiscard]] std::vector<Item> items() const {
+        std::vector<Item> found;
+        for (const PictureItem& item : layout().picture)
+            if (const auto* one = std::get_if<Item>(&item)) found.push_back(*one);
+        return found;
+    }
+    [[nodiscard]] QStringList texts() const {
+        QStringList all;
+        for (const TextLine& line : items<TextLine>())
+            all += line.text;
+        return all;
+    }
+    [[nodiscard]] std::vector<Curve> curves(double width) const {
+        auto all = items<Curve>();
+        std::erase_if(all, [&](const Curve& one) { return one.width != width; });
+        return all;
+    }
+    [[nodiscard]] auto medianLines() const { return curves(2); }
+    [[nodiscard]] auto links() const { return curves(1); }
+};
+
+Rect boxOf(const TextLine& line) {
+    const Size size = textSize(line.text, line.attribute);
+    return {line.origin.x, line.origin.y, size.width, size.height};
+}
+
+bool overlap(const Rect& a, const Rect& b) {
+    constexpr double touch = 0.01;
+    return a.x + touch < b.right() && b.x + touch < a.right() && a.y + touch < b.top()
+           && b.y + touch < a.top();
+}
+
+/// From 1 to 21, as the eye has it.
+double contrast(const QColor& dark, const QColor& pale) {
+    const auto part = [](float value) {
+        return value <= 0.04045F ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    const auto brightness = [&](const QColor& color) {
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF())
+               + 0.05;
+    };
+    return brightness(pale) / brightness(dark);
+}
+
+/// What does not stand clear of the others, or leaves the picture.
+QStringList crowded(const std::vector<TextLine>& lines, const Rect& picture) {
+    QStringList found;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const Rect box = boxOf(lines[i]);
+        if (box.x < picture.x || box.right() > picture.right() || box.y < picture.y - 0.01
+            || box.top() > picture.top() + 0.01)
+            found += lines[i].text + u" leaves the picture"_s;
+        for (std::size_t j = 0; j < i; ++j)
+            if (overlap(box, boxOf(lines[j]))) found += lines[i].text + u" over "_s + lines[j].text;
+    }
+    return found;
+}
+
+TEST(DrawTrend, NamesStandClearOfEachOtherAtTheirLinesEnds) {
+    const Rect rects[]{
+        {10, 20, 700, 400}, {0, 0, 480, 130}, {0, 0, leastTrendSize.width, leastTrendSize.height}};
+    const std::pair<std::uint32_t, std::uint32_t> pressures[]{
+        {150, 90}, {91, 90}, {90, 91}, {400, 390}, {20, 10}};
+    for (const bool apart : {false, true})
+        for (const Rect& rect : rects)
+            for (const auto& [sys, dia] : pressures) {
+                TrendOf trend{.apart = apart, .rect = rect};
+                for (ReadingModel& reading : trend.readings)
+                    std::tie(reading.sys, reading.dia, reading.pulse) = std::tuple(sys, dia, sys);
+                std::vector<TextLine> names = trend.items<TextLine>();
+                const double plotEnd = trend.layout().plot.right();
+                std::erase_if(names, [&](const TextLine& one) { return one.origin.x < plotEnd; });
+                EXPECT_EQ(names.size(), apart ? 6U : 3U);
+                EXPECT_EQ(crowded(names, rect).join(u'\n').toStdString(), "")
+                    << sys << '/' << dia << " in " << rect.width;
+            }
+}
+
+TEST(DrawTrend, NothingStandsOverAnythingElse) {
+    for (const Rect& rect : {Rect{10, 20, 1000, 500}, Rect{0, 0, 590, 290}, Rect{0, 0, 480, 130}}) {
+        TrendOf trend{.rect = rect};
+        trend.comment("2019-03-05", "2019-03-20", u"Ramipril 5 mg"_s);
+        trend.comment("2019-03-06", "2019-03-06", u"a cold, with fever and a cough that lasted for weeks"_s);
+        trend.comment("2019-03-30", "2019-03-31", u"headache"_s);
+        EXPECT_EQ(crowded(trend.items<TextLine>(), rect).join(u'\n').toStdString(), "") << rect.width;
+    }
+}
+
+TEST(DrawTrend, LinesBreakWhereAStepHasNoReading) {
+    const struct {
+        ReadingList readings;
+        const char* to;
+        std::size_t lines, links, loneMarks; ///< of one measure
+    } cases[]{
+        {readingsAt({"2019-03-01", "2019-03-02", "2019-03-03"}), "2019-03-31", 1, 0, 0},
+        {readingsAt({"2019-03-01", "2019-03-02", "2019-03-04", "2019-03-05"}), "2019-03-31", 2, 1, 0},
+        {readingsAt({"2019-03-01", "2019-03-31"}), "2019-03-31", 0, 1, 2},
+        {readingsAt({"2019-03-01", "2019-04-01"}), "2019-04-30", 0, 0, 2}, // nearer than the chart joins them
+        {readingsAt({"2019-03-01", "2019-03-08", "2019-03-26"}), "2019-12-31", 1, 1, 1}, // weeks
+        {readingsAt({"2019-03-01", "2019-04-30", "2019-06-01"}), "2024-12-31", 1, 0, 1}, // months
+        {readingsAt({"2019-03-01"}), "2019-03-01", 0, 0, 1},
+        {{}, "2019-03-31", 0, 0, 0},
+    };
+    for (const auto& [readings, to, lines, links, loneMarks] : cases) {
+        TrendOf trend{.readings = readings, .selection = during("2019-03-01", to)};
+        EXPECT_EQ(trend.medianLines().size(), 3 * lines) << to << readings.size();
+        EXPECT_EQ(trend.links().size(), 3 * links) << to << readings.size();
+        EXPECT_EQ(trend.items<Area>().size(), 3 * (lines + loneMarks)) << "the band breaks with the line";
+        EXPECT_GE(trend.items<Circle>().size(), 3 * loneMarks) << "a point without a line has a mark";
+        EXPECT_EQ(trend.texts().join(u'|').contains(u"dotted"_s), links > 0);
+        EXPECT_EQ(trend.texts().contains(u"No readings in this period"_s), readings.empty());
+    }
+}
+
+TEST(DrawTrend, ShowsMedianAndBandOfEachStep) {
+    TrendOf trend{.readings = {}};
+    for (const auto& [date, sys] : std::initializer_list<std::pair<const char*, std::uint32_t>>{
+             {"2019-03-01 08:00", 120}, {"2019-03-01 20:00", 140}, {"2019-03-02 08:00", 150}})
+        trend.readings.push_back(readingAt(date, sys, 80));
+    const TrendLayout layout = trend.layout();
+    ASSERT_EQ(layout.columns.size(), 2U);
+    EXPECT_NEAR(layout.columns[1].x - layout.columns[0].x, layout.plot.width / 31, 0.01);
+    EXPECT_NEAR(layout.columns[0].x, layout.plot.x + layout.plot.width / 62, 0.01) << "the middle of the day";
+    const std::vector<Point> median = trend.medianLines().front().points;
+    const std::vector<Point> band = trend.items<Area>().front().outline;
+    ASSERT_EQ(band.size(), 4U);
+    EXPECT_EQ(median.front(), layout.columns[0].medians.front());
+    const double mmHg = (median[1].y - median[0].y) / 20; // from 130 to 150
+    EXPECT_GT(mmHg, 0);
+    EXPECT_NEAR(band[0].y, median[0].y - 10 * mmHg, 0.01) << "few readings: from the lowest";
+    EXPECT_NEAR(band[3].y, median[0].y + 10 * mmHg, 0.01) << "to the highest";
+    EXPECT_NEAR(band[1].y, median[1].y, 0.01);
+}
+
+TEST(DrawTrend, NamesItsStep) {
+    const std::pair<const char*, const char*> cases[]{
+        {"2019-03-31", "day"}, {"2019-12-31", "week"}, {"2029-12-31", "month"}};
+    for (const auto& [to, step] : cases) {
+        TrendOf trend{.selection = during("2019-03-01", to)};
+        for (const double width : {800.0, 400.0, 200.0}) {
+            trend.rect.width = width;
+            EXPECT_EQ(trend.texts().filter(u"Median of each %1"_s.arg(QLatin1StringView(step))).size(), 1)
+                << to << ' ' << width;
+        }
+    }
+}
+
+TEST(DrawTrend, LinesAreToldApartInBlackAndWhite) {
+    TrendOf trend{.apart = true, .forPrint = true};
+    trend.readings =
+        readingsAt({"2019-03-01 08:00", "2019-03-01 20:00", "2019-03-02 08:00", "2019-03-02 20:00"});
+    std::vector<std::vector<double>> dashes;
+    for (const Curve& line : trend.medianLines()) {
+        EXPECT_EQ(line.color, QColor(Qt::black));
+        dashes.push_back(line.dashes);
+    }
+    ASSERT_EQ(dashes.size(), 6U);
+    std::ranges::sort(dashes);
+    EXPECT_EQ(std::ranges::unique(dashes).begin() - dashes.begin(), 4) << "the pulse has a plot of its own";
+    trend.forPrint = false;
+    std::vector<QString> colours;
+    for (const Curve& line : trend.medianLines())
+        colours.push_back(line.color.name());
+    std::ranges::sort(colours);
+    EXPECT_EQ(std::ranges::unique(colours).begin(), colours.end()) << "and each has a colour of its own";
+    constexpr double readable = 4.5;
+    for (const Curve& line : trend.medianLines())
+        EXPECT_GE(contrast(line.color, fixColor(gcScaleBackgroundColor)), readable)
+            << qPrintable(line.color.name());
+    trend.selection.view = ViewSelection::pmOnly;
+    EXPECT_EQ(trend.texts().filter(u" evening"_s).size(), 3);
+    EXPECT_EQ(trend.texts().filter(u" morning"_s).size(), 0);
+}
+
+TEST(DrawTrend, LimitsAreThoseOfTheOtherPictures) {
+    const auto limits = [](const TrendOf& trend) {
+        return std::ranges::count_if(trend.items<StraightLine>(), [](const StraightLine& line) {
+            return line.color == fixColor(gcBloodRedLinecolor);
+        });
+    };
+    EXPECT_EQ(limits({}), 2);
+    EXPECT_EQ(limits({.sysStandard = 0}), 1) << "0 is no limit";
+    const TrendOf paper{.forPrint = true};
+    EXPECT_EQ(paper.curves(0.75).size(), 2U) << "in black, too";
+    EXPECT_EQ(trendLimits(221, 90), std::pair(0U, 90U));
+    EXPECT_EQ(trendLimits(220, 39), std::pair(220U, 0U));
+}
+
+TEST(DrawTrend, CountsThePointsThatReachBeyondTheScale) {
+    const struct {
+        std::uint32_t sys, dia, pulse;
+        QString text;
+    } cases[]{{220, 40, 120, {}},
+              {221, 90, 70, u"2 points reach above the scale"_s},
+              {120, 39, 70, u"2 points reach below the scale"_s},
+              {120, 80, 121, u"2 points reach above the scale"_s},
+              {4'294'967'295, 0, 70, u"2 points reach above the scale, 2 points reach below the scale"_s}};
+    for (const auto& [sys, dia, pulse, text] : cases) {
+        TrendOf trend{.apart = true};
+        for (const std::size_t at : {0U, 1U})
+            std::tie(trend.readings[at].sys, trend.readings[at].dia, trend.readings[at].pulse) =
+                std::tuple(sys, dia, pulse);
+        trend.readings[2].dia = 40;
+        EXPECT_EQ(trend.texts().filter(u"scale"_s), text.isEmpty() ? QStringList() : QStringList(text));
+    }
+}
+
+TEST(DrawTrend, CommentsThatHaveNoRoomAreCounted) {
+    TrendOf trend;
+    trend.comment("2018-01-01", "2018-12-31", u"before the period"_s);
+    trend.comment("2019-02-01", "2019-04-30", u"all along"_s);
+    trend.comment("2019-03-31", "2019-03-31", u"the last day"_s);
+    trend.comment("2019-03-10", "2019-03-12", {});
+    QStringList texts = trend.texts();
+    EXPECT_TRUE(texts.contains(u"all along"_s));
+    EXPECT_TRUE(texts.contains(u"the last day"_s));
+    EXPECT_TRUE(texts.filter(u"before"_s).isEmpty());
+    EXPECT_TRUE(texts.filter(u"no room"_s).isEmpty());
+    for (int i = 0; i < 20; ++i)
+        trend.comment("2019-03-15", "2019-03-16", u"on the same days %1"_s.arg(i));
+    texts = trend.texts();
+    const auto shown = texts.filter(u"on the same days"_s).size() + texts.filter(u"all along"_s).size();
+    EXPECT_GT(shown, 1);
+    ASSERT_EQ(texts.filter(u"no room"_s).size(), 1);
+    EXPECT_EQ(texts.filter(u"no room"_s).front(), u"%1 more comments have no room here"_s.arg(21 - shown));
+    EXPECT_EQ(crowded(trend.items<TextLine>(), trend.rect).join(u'\n').toStdString(), "");
+    EXPECT_LT(trend.layout().plot.y, 200) << "the plots keep most of the room";
+}
+
+TEST(DrawTrend, HasNoPlotWhereThereIsNoRoom) {
+    for (const Rect& rect : {Rect{}, Rect{0, 0, 700, 60}, Rect{0, 0, 60, 400}}) {
+        const TrendLayout layout = TrendOf{.rect = rect}.layout();
+        EXPECT_EQ(layout.picture.size(), 1U);
+        EXPECT_TRUE(layout.columns.empty());
+    }
+}
+
+} // namespace
+} // namespace zel

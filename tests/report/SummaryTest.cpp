@@ -1,0 +1,191 @@
+#include "SampleReport.h"
+#include "chart/Drawing.h"
+
+#include <QRegularExpression>
+
+#include <gmock/gmock.h>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int smallest = 8;
+
+QStringList wordsOf(const PrintView& view) {
+    QStringList words;
+    for (const TextLine& line : textsOf(view.page(Section::summary, 1)))
+        words += line.text;
+    return words;
+}
+
+void exclude(SampleReport& sample, int count, const QString& reason) {
+    for (int i = 0; i < count; ++i)
+        sample.readings[static_cast<std::size_t>(2 * i)].exclusion = reason;
+}
+
+void addUndated(SampleReport& sample) {
+    ReadingModel undated;
+    undated.ReadingDate = getNilReadingDate();
+    undated.postInit(nullptr, sample.settings, sample.zone);
+    sample.readings.insert(sample.readings.begin(), undated);
+}
+
+struct Spoiled {
+    const char* what;
+    SampleReport sample;
+};
+
+/// More than any patient has.
+SampleReport crowded() {
+    SampleReport sample(700);
+    exclude(sample, 30, u"Measured after four flights of stairs, cuff over the sleeve. "_s.repeated(9));
+    const QString note = u"Dose changed after the visit, dizzy when getting up. "_s;
+    for (int i = 0; i < 40; ++i)
+        sample.addComment(qPrintable(u"2019-%1-10"_s.arg(1 + i % 12, 2, 10, QLatin1Char{'0'})), "2019-12-20",
+                          3, note.repeated(i % 9));
+    sample.patient.GivenNames = u"Maximiliane Alexandra Wilhelmina Josephine"_s;
+    sample.patient.FamilyName = u"Wolfeschlegelsteinhausen-Montgomery of the Upper Valley"_s;
+    sample.settings.physicianAddress = u"Practice for everything\n"_s.repeated(9).trimmed();
+    addUndated(sample);
+    return sample;
+}
+
+std::vector<Spoiled> spoiledSamples() {
+    std::vector<Spoiled> samples;
+    samples.push_back({"no readings", SampleReport()});
+    samples.push_back({"one", SampleReport(1)});
+    samples.push_back({"62", SampleReport(62, 2)});
+    samples.push_back({"100,000", SampleReport(100'000)});
+    samples.back().sample.selection.period.end = DateToDayBoundary(noonOf("2160-01-01"), false);
+    samples.push_back({"crowded", crowded()});
+    samples.push_back({"no date of birth, all rows of a NICE week", SampleReport(60, 1)});
+    samples.back().sample.patient.DateOfBirth = getNilDate();
+    samples.push_back({"other days", SampleReport(60, 4)});
+    samples.back().sample.selection.period = {DateToDayBoundary(noonOf("2030-01-01"), true),
+                                              DateToDayBoundary(noonOf("2030-01-31"), false)};
+    samples.push_back({"off the scale", SampleReport(60, 1)});
+    for (ReadingModel& reading : samples.back().sample.readings)
+        reading.sys = reading.dia = reading.pulse = UINT32_MAX;
+    samples.push_back({"all in one minute", SampleReport(60, 1)});
+    for (ReadingModel& reading : samples.back().sample.readings) {
+        reading.ReadingDate = noonOf("2019-05-05");
+        reading.postInit(nullptr, samples.back().sample.settings, samples.back().sample.zone);
+    }
+    samples.push_back({"all undated", SampleReport()});
+    for (int i = 0; i < 50; ++i)
+        addUndated(samples.back().sample);
+    return samples;
+}
+
+Rect boxOf(const TextLine& line) {
+    const Size size = textSize(line.text, line.attribute);
+    return {line.origin.x, line.origin.y, size.width, size.height};
+}
+
+bool overlap(const Rect& a, const Rect& b) {
+    constexpr double touching = 0.01;
+    return a.x + touching < b.right() && b.x + touching < a.right() && a.y + touching < b.top()
+           && b.y + touching < a.top();
+}
+
+TEST(Summary, isOnePageThatCanBeReadWhateverTheData) {
+    for (const auto& [what, sample] : spoiledSamples())
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            const PrintView view = sample.view(paper);
+            ASSERT_EQ(view.getTotalPages(Section::summary), 1) << what;
+            const Rect total = view.geometry(Section::summary).totalRect;
+            const auto texts = textsOf(view.page(Section::summary, 1));
+            EXPECT_GT(texts.size(), 40U) << what;
+            for (std::size_t i = 0; i < texts.size(); ++i) {
+                const Rect box = boxOf(texts[i]);
+                const auto told = [&] {
+                    return (QLatin1String(what) + u": "_s + texts[i].text).toStdString();
+                };
+                EXPECT_GE(texts[i].attribute.size, smallest) << told();
+                EXPECT_EQ(texts[i].attribute.color, QColor(Qt::black)) << told();
+                EXPECT_TRUE(total.x <= box.x + 0.01 && box.right() <= total.right() + 0.01
+                            && total.y <= box.y + 0.01 && box.top() <= total.top() + 0.01)
+                    << told();
+                for (std::size_t k = 0; k < i; ++k)
+                    EXPECT_FALSE(overlap(box, boxOf(texts[k])))
+                        << told() << " over " << texts[k].text.toStdString();
+            }
+        }
+}
+
+TEST(Summary, tellsHowManyMoreThereAre) {
+    const SampleReport sample = crowded();
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+        const QStringList words = wordsOf(sample.view(paper));
+        const auto rest = [&](const char* what) {
+            const QStringList found =
+                words.filter(QRegularExpression(u"^and (\\d+) more "_s + QLatin1String(what)));
+            return found.isEmpty() ? 0 : found.front().section(u' ', 1, 1).toInt();
+        };
+        const auto comments =
+            words.filter(QRegularExpression(u"^2019/\\d\\d/10 \u2013 2019/12/20$"_s)).size();
+        EXPECT_GT(comments, 2);
+        EXPECT_EQ(comments + rest("comments"), 40);
+        const auto excluded = words.filter(u"Measured after"_s).size();
+        EXPECT_GT(excluded, 2);
+        EXPECT_EQ(excluded + rest("excluded readings"), 30);
+        EXPECT_THAT(words, testing::Contains(u"30 excluded ones, 1 undated one not counted"_s));
+    }
+}
+
+TEST(Summary, hasTheFiguresOfThePeriod) {
+    SampleReport sample(0);
+    const auto add = [&](const char* time, std::uint32_t sys, std::uint32_t dia, std::uint32_t arrhythmia) {
+        ReadingModel& reading = sample.readings.emplace_back();
+        reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
+        reading.sys = sys;
+        reading.dia = dia;
+        reading.pulse = 70;
+        reading.Arrhythmia = arrhythmia;
+        reading.postInit(nullptr, sample.settings, sample.zone);
+    };
+    add("2019-03-01 07:00", 150, 90, 4);
+    add("2019-03-01 19:00", 140, 80, 4);
+    add("2019-03-02 07:00", 130, 85, 5);
+    add("2019-03-02 07:05", 133, 88, 0);
+    add("2019-03-04 19:00", 120, 70, 4);
+    sample.addComment("2019-03-02", "2019-03-02", 1, u"Started a tablet."_s);
+    const QString lines[] = {
+        u"Ada Byron"_s,
+        u"Born 1960/05/02, 59 years     ID P-17"_s,
+        u"From 2019/01/01 to 2019/12/31"_s,
+        // The mean of 130/85, 133/88 and 120/70: the first day is left out.
+        u"Measuring week (ESH)  2019/02/26 \u2013 2019/03/04"_s,
+        u"128/81"_s,
+        u"Morning 132/87"_s,
+        u"Evening 120/70"_s,
+        u"Below the threshold of 135/85 (to a tenth: 127.7/81.0)"_s,
+        u"Incomplete, needs 9 more readings"_s,
+        u"3 readings on 2 days; 2 of the first day left out"_s,
+        // 150/90, 140/80, 130/85 and 133/88
+        u"At or above 135/85 mmHg"_s,
+        u"80 %"_s,
+        u"4 of 5 readings"_s,
+        u"Arrhythmia flagged (AFib): 1 of 4 readings; 1 not examined"_s,
+        // SYS 673/5; the squares from 134.6 are 503.2, a quarter of them 125.8
+        u"134.6"_s,
+        u"11.2"_s,
+        u"150"_s,
+        u"130"_s,
+        u"132/87\u25B2 (2)"_s,
+        u"140\u25B2/80"_s,
+        u"Started a tablet."_s,
+        u"145/85 (2) before, 128/81 (3) since: -17/-4; fewer than 6 readings on both sides"_s,
+        u"Every reading is counted"_s,
+    };
+    const QStringList words = wordsOf(sample.view());
+    for (const QString& line : lines)
+        EXPECT_TRUE(words.contains(line)) << qPrintable(line);
+    EXPECT_EQ(words.count(u"\u2013"_s), 2 * 14 - 4) << "halves of days without a reading";
+}
+
+} // namespace
+
+} // namespace zel
