@@ -85,7 +85,6 @@ QString DataFile::getTargetString() const {
 void DataFile::checkAndMakeTargetFile() const {
     const QString path = targetFile(paths);
     if (QFileInfo::exists(path)) return;
-    removeDeadReplacements(path);
     if (const auto result = replaceFile(path, "pad"); result) {
         QFile::setPermissions(path,
                               QFile::permissions(path) | QFileDevice::ReadGroup | QFileDevice::ReadOther);

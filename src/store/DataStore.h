@@ -138,7 +138,8 @@ signals:
     void reloaded();
     void currentIDChanged();
     void historyChanged();
-    /// A change was made without the copy that is due before it. \p why: for the user
+    /// A change was made without the copy that is due before it, or with one that may not last. \p why: for
+    /// the user
     void notBackedUp(const QString& why);
 
 private:
