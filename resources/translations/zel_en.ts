@@ -32,6 +32,7 @@
     <message id="SecondFolderBroken"><translation>Which second folder copies of the data file go to cannot be read from %1, so they go to none. Please choose it again.</translation></message>
     <message id="SecondFolderFailed"><translation>Today's copy of the data file could not be written to the second folder, %1.</translation></message>
     <message id="SecondFolderNoRoom"><translation>Today's copy of the data file is not in the second folder, %1: all copies there together may take a tenth of its free disk, which is less than the file.</translation></message>
+    <message id="SecondFolderNotFlushed"><translation>Today's copy of the data file was written to the second folder, %1, but the disk did not confirm that it will last: after a power cut it may be missing.</translation></message>
     <message id="SecondFolderNotRecorded"><translation>The second folder for copies could not be noted in %1. Nothing was changed.</translation></message>
     <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
@@ -301,6 +302,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n reading downloaded</numerusform><numerusform>%n readings downloaded</numerusform></translation></message>
     <message id="downloadHint"><translation>Fetch the readings from the monitor (Ctrl+D). The monitor must be connected and hold this patient’s ID.</translation></message>
     <message id="downloadNew" numerus="yes"><translation><numerusform>%1, %n new</numerusform><numerusform>%1, %n new</numerusform></translation></message>
+    <message id="downloadNotFlushed"><translation>The readings are stored, but it is not sure that they will last. %1</translation></message>
     <message id="downloadNothingNew"><translation>%1, none new: all of them were stored before</translation></message>
     <message id="downloadNotReadBack"><translation>%1. The data file could not be read afterwards, so that the monitor was not erased. %2</translation></message>
     <message id="downloadNotStored"><translation>The readings could not be stored. They are still in the monitor. %1</translation></message>

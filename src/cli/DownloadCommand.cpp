@@ -51,7 +51,10 @@ CommandResult transfer(BPMModel& model, DataStore& store, const QString& monitor
     if (isUnknown || std::ranges::any_of(*readings, isOthers)) return failed(qtTrId("CliMonitorChanged"));
     const std::size_t downloaded = readings->size();
     const auto added = store.newDataTransfer(std::move(*readings));
-    if (!added) return failed(qtTrId("CliDownloadUnsaved").arg(describe(added.error())));
+    if (!added) {
+        const QString told = isInPlace(added) ? qtTrId("downloadNotFlushed") : qtTrId("CliDownloadUnsaved");
+        return failed(told.arg(describe(added.error())));
+    }
     printLine(around.out, u"downloaded: "_s + QString::number(downloaded));
     printLine(around.out, u"new: "_s + QString::number(*added));
     if (const StoreResult& loaded = store.lastLoad(); !loaded)

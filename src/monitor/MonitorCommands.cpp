@@ -170,28 +170,23 @@ MonitorExpected<std::string> MonitorCommands::gatherRecords(std::string_view hea
     return tl::unexpected(MonitorResult::badCheckField);
 }
 
-MonitorResult MonitorCommands::sendFrame(Command command, std::string_view frame) {
+MonitorResult MonitorCommands::sendFrame(Command command, std::string_view frame, Opening opening) {
     const auto lock = transport.exchange();
+    const int before = transport.openings();
     if (const auto opened = transport.my_hid_open(); opened != MonitorResult::success) return opened;
+    if (opening == Opening::sameAsBefore && transport.openings() != before) return MonitorResult::readFailed;
     if (const auto taken = transport.sendBMPData(command); taken != MonitorResult::success) return taken;
     transport.sendBMPData_8b(frame);
     return MonitorResult::success;
 }
 
+/// Of a memory that is emptied, nobody may have the readings but those that were asked before.
 MonitorResult MonitorCommands::sendID(std::string_view ID, bool clear) {
-    if (clear) {
-        // What was asked before, and told its readings, has gone if the device has to be opened now: another
-        // one may be in its place, whose readings nobody has.
-        const auto lock = transport.exchange();
-        const int before = transport.openings();
-        if (const auto opened = transport.my_hid_open(); opened != MonitorResult::success) return opened;
-        if (transport.openings() != before) return MonitorResult::readFailed;
-    }
-    return sendFrame(Command::sendID, idFrame(ID, clear));
+    return sendFrame(Command::sendID, idFrame(ID, clear), clear ? Opening::sameAsBefore : Opening::any);
 }
 
 MonitorResult MonitorCommands::setBPMDate(std::string_view time) {
-    return sendFrame(Command::setDate, clockFrame(time));
+    return sendFrame(Command::setDate, clockFrame(time), Opening::any);
 }
 
 } // namespace zel

@@ -34,6 +34,7 @@ public:
     /// \param attempt 1, 2 or 3: scales the time-outs
     [[nodiscard]] MonitorExpected<CycleData> getBPMCycleData(const DownloadProgress& progress, int attempt,
                                                              const WaitNotice& waiting = {});
+    /// \return readFailed, and nothing is sent, if the device would have to be opened anew for \p clear
     [[nodiscard]] MonitorResult sendID(std::string_view ID, bool clear);
     /// \param time 14 characters, "yyyyMMddHHmmss"
     [[nodiscard]] MonitorResult setBPMDate(std::string_view time);
@@ -46,7 +47,9 @@ private:
     [[nodiscard]] MonitorExpected<std::string> gatherRecords(std::string_view head, int count,
                                                              const DownloadProgress& progress, int attempt,
                                                              const WaitNotice& waiting);
-    [[nodiscard]] MonitorResult sendFrame(Command command, std::string_view frame);
+    /// What was asked before has gone if the device has to be opened now: another one may be in its place.
+    enum class Opening { any, sameAsBefore };
+    [[nodiscard]] MonitorResult sendFrame(Command command, std::string_view frame, Opening opening);
 
     MonitorTransport& transport;
 };

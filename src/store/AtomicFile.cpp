@@ -2,6 +2,7 @@
 
 #include "store/Log.h"
 #include "store/NewFile.h"
+#include "store/Uninterrupted.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -54,7 +55,7 @@ Handle hold(const QString& target) {
 int flushFolder(const QString& folder, NewFile& file) {
     const Handle handle{::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
     if (!handle.isOpen()) return file.flushFileSystem(); // it may be written, but not read
-    if (::fsync(handle.get()) == 0) return 0;
+    if (uninterrupted([&] { return ::fsync(handle.get()); }) == 0) return 0;
     return errno == EINVAL ? 0 : errno; // a file system that has nothing to flush
 }
 
@@ -93,6 +94,7 @@ int flushPlace(NewFile& file, const QString& target) {
 /// \p path as the user is told of it
 StoreResult put(const QByteArray& content, const QString& path, const QString& target,
                 int (NewFile::*take)(const QString& place)) {
+    removeDeadFiles(temporaryPrefix(target));
     auto file = NewFile::create(temporaryPrefix(target));
     if (!file) return unwritten(file.error(), path);
     if (const int error = writeWhole(*file, target, content)) return unwritten(error, path);
@@ -139,7 +141,8 @@ StoreResult flushNewFolder(const QString& folder) {
     // Flushing any other folder writes FAT's table, before the name leads into it.
     for (const QString& each : {QFileInfo{parent}.absolutePath(), parent}) {
         const Handle handle{::open(QFile::encodeName(each).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-        const bool isFlushed = !handle.isOpen() || ::fsync(handle.get()) == 0 || errno == EINVAL;
+        const bool isFlushed =
+            !handle.isOpen() || uninterrupted([&] { return ::fsync(handle.get()); }) == 0 || errno == EINVAL;
         if (!isFlushed) return failed(StoreErrorCode::notFlushed, folder, systemWords(errno));
     }
     return {};
@@ -164,7 +167,10 @@ tl::expected<QByteArray, StoreError> readFile(const QString& path) {
         if (std::max<qint64>(status.st_size, done) > largestFile)
             return failed(StoreErrorCode::tooLarge, path, {});
         content.resize(std::max<qint64>(status.st_size, done) + step);
-        count = ::read(handle.get(), content.data() + done, static_cast<std::size_t>(content.size() - done));
+        count = uninterrupted([&] {
+            return ::read(handle.get(), content.data() + done,
+                          static_cast<std::size_t>(content.size() - done));
+        });
         if (count < 0) return failed(StoreErrorCode::notReadable, path, systemWords(errno));
         content.resize(done + count);
     }

@@ -9,10 +9,10 @@ namespace zel {
 
 /// Replaces the file's content whole or not at all: a temporary file beside it is written, flushed to the
 /// disk and renamed over it, and the folder is flushed too, so that a power cut after success loses nothing.
-/// Symbolic links are followed, permissions and owner kept; a new file is for its owner alone (0600),
-/// unless its folder shares what is in it (newFileMode()).
-/// \return notFlushed if the file has been replaced, but may be the older one again after a power cut; after
-/// any other error it is as it was
+/// What programs left beside it that were killed meanwhile is removed first. Symbolic links are followed,
+/// permissions and owner kept; a new file is for its owner alone (0600), unless its folder shares what is in
+/// it (newFileMode()). \return notFlushed if the file has been replaced, but may be the older one again after
+/// a power cut; after any other error it is as it was
 [[nodiscard]] StoreResult replaceFile(const QString& path, const QByteArray& content);
 
 /// As replaceFile(), but only where nothing stands, also no link: alreadyExists.

@@ -85,7 +85,6 @@ QString DataFile::getTargetString() const {
 void DataFile::checkAndMakeTargetFile() const {
     const QString path = targetFile(paths);
     if (QFileInfo::exists(path)) return;
-    removeDeadReplacements(path);
     if (const auto result = replaceFile(path, "pad"); result) {
         QFile::setPermissions(path,
                               QFile::permissions(path) | QFileDevice::ReadGroup | QFileDevice::ReadOther);
@@ -204,8 +203,8 @@ StoreResult DataFile::replace(const QByteArray& content, const std::function<Sto
     return replaceFile(path, content);
 }
 
-FileStamp DataFile::stamp() const {
-    const QByteArray name = QFile::encodeName(linksFollowed(getZELXMLPath()));
+FileStamp stampOf(const QString& path) {
+    const QByteArray name = QFile::encodeName(linksFollowed(path));
     lookAnewBeside(name);
     struct stat status {};
     const int opened = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -217,6 +216,8 @@ FileStamp DataFile::stamp() const {
     };
     return {status.st_dev, status.st_ino, status.st_size, time(status.st_mtim), time(status.st_ctim)};
 }
+
+FileStamp DataFile::stamp() const { return stampOf(getZELXMLPath()); }
 
 StoreResult DataFile::edit(const Change& change, const std::function<void()>& written) const {
     StoreResult result = editInTurn(change, written);

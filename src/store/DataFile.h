@@ -29,6 +29,9 @@ struct FileStamp {
     bool operator==(const FileStamp&) const = default;
 };
 
+/// As the file at \p path, or the one that it leads to, is now. From any thread.
+[[nodiscard]] FileStamp stampOf(const QString& path);
+
 /// The data file on disk: the only class that knows its place and how it is created, read and replaced.
 class DataFile {
 public:

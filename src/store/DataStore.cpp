@@ -69,7 +69,7 @@ StoreResult DataStore::readRecords() {
     return {};
 }
 
-bool DataStore::isChangedElsewhere() const { return file.stamp() != lastSeen; }
+bool DataStore::isChangedElsewhere() const { return isChangedElsewhere(file.stamp()); }
 
 StoreResult DataStore::takeChanges() {
     const FileStamp now = file.stamp();

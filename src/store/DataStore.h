@@ -42,6 +42,8 @@ public:
 
     /// Whether another program has changed the file since this one read or wrote it; costs next to nothing.
     [[nodiscard]] bool isChangedElsewhere() const;
+    /// The same with a look that was taken at the file off this thread.
+    [[nodiscard]] bool isChangedElsewhere(const FileStamp& now) const { return now != lastSeen; }
     /// Reads the file that another program has changed, and emits reloaded(). If it cannot be read, as while
     /// it is being written, all stays as it is.
     [[nodiscard]] StoreResult takeChanges();
@@ -145,7 +147,8 @@ signals:
     void reloaded();
     void currentIDChanged();
     void historyChanged();
-    /// A change was made without the copy that is due before it. \p why: for the user
+    /// A change was made without the copy that is due before it, or with one that may not last. \p why: for
+    /// the user
     void notBackedUp(const QString& why);
 
 private:

@@ -124,6 +124,7 @@ StoreResult DataStore::write(const DataFile::Change& change) {
 
 /// A change is not held up by a copy that fails.
 void DataStore::tellNotBackedUp(const StoreError& error) {
+    if (error.code == StoreErrorCode::notFlushed) return emit notBackedUp(describeExport(error));
     const QString why = error.detail.isEmpty() ? describe(error) : error.detail;
     qCWarning(lcStore, "No backup was made: %s", qUtf8Printable(why));
     emit notBackedUp(qtTrId("NotBackedUp").arg(copies.folder(), why));

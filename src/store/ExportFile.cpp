@@ -2,6 +2,7 @@
 
 #include "store/AtomicFile.h"
 #include "store/NewFile.h"
+#include "store/Uninterrupted.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -110,7 +111,8 @@ StoreResult flushExports(const QString& folder) {
     const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return systemRefused(StoreErrorCode::notFlushed, folder);
     // The first writes all files; FAT empties the disk's own cache only with the second.
-    const bool isFlushed = ::syncfs(handle) == 0 && (::fsync(handle) == 0 || errno == EINVAL);
+    const bool isFlushed = uninterrupted([&] { return ::syncfs(handle); }) == 0
+                           && (uninterrupted([&] { return ::fsync(handle); }) == 0 || errno == EINVAL);
     StoreResult result;
     if (!isFlushed) result = systemRefused(StoreErrorCode::notFlushed, folder);
     ::close(handle);

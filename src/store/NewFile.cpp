@@ -2,6 +2,7 @@
 
 #include "store/FileMode.h"
 #include "store/Log.h"
+#include "store/Uninterrupted.h"
 
 #include <QDir>
 #include <QFile>
@@ -84,10 +85,12 @@ NewFile::~NewFile() {
 
 int NewFile::write(const QByteArray& content) {
     for (qsizetype done = 0; done < content.size();) {
-        const ssize_t count =
-            ::write(handle, content.constData() + done, static_cast<std::size_t>(content.size() - done));
-        if (count < 0 && errno != EINTR) return errno;
-        done += std::max<ssize_t>(count, 0);
+        const ssize_t count = uninterrupted([&] {
+            return ::write(handle, content.constData() + done,
+                           static_cast<std::size_t>(content.size() - done));
+        });
+        if (count < 0) return errno;
+        done += count;
     }
     return 0;
 }
@@ -115,7 +118,9 @@ int NewFile::followFolder() {
     return mode == 0600U ? 0 : setMode(mode);
 }
 
-int NewFile::flush() { return errorOf(::fsync(handle)); }
+int NewFile::flush() {
+    return errorOf(uninterrupted([this] { return ::fsync(handle); }));
+}
 
 bool NewFile::isOnFat() const {
     struct statfs system {};
@@ -123,7 +128,9 @@ bool NewFile::isOnFat() const {
            && (system.f_type == MSDOS_SUPER_MAGIC || system.f_type == EXFAT_SUPER_MAGIC);
 }
 
-int NewFile::flushFileSystem() { return errorOf(::syncfs(handle)); }
+int NewFile::flushFileSystem() {
+    return errorOf(uninterrupted([this] { return ::syncfs(handle); }));
+}
 
 int NewFile::takePlace(const QString& path) {
     const int error = errorOf(std::rename(name.constData(), QFile::encodeName(path).constData()));

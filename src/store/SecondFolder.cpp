@@ -1,6 +1,7 @@
 #include "store/SecondFolder.h"
 
 #include "store/AtomicFile.h"
+#include "store/FileLock.h"
 #include "store/FileMode.h"
 #include "store/Log.h"
 
@@ -62,12 +63,37 @@ tl::expected<QJsonObject, SecondFolderError> readRecord(const QString& dataFile)
     return record;
 }
 
+/// In one's turn, from reading it until it is written.
 SecondFolderResult writeRecord(const QString& dataFile, const QJsonObject& record) {
     const QString path = recordPath(dataFile);
-    if (!makePrivateFolder(QFileInfo{path}.path())) return refusal(notRecorded, path);
     const StoreResult written = replaceFile(path, QJsonDocument{record}.toJson());
-    if (!written) return refusal(notRecorded, path, written.error().detail);
+    if (!isInPlace(written)) return refusal(notRecorded, path, written.error().detail);
     return {};
+}
+
+/// Another program has the record in its hands for a moment only, and is not waited for.
+SecondFolderResult takeTurn(FileLock& lock, const QString& path) {
+    if (!makePrivateFolder(QFileInfo{path}.path())) return refusal(notRecorded, path);
+    switch (lock.tryTake()) {
+    case FileLock::Attempt::taken: return {};
+    case FileLock::Attempt::held:
+        return refusal(notRecorded, path, describe(StoreError{StoreErrorCode::busy, path, {}}));
+    case FileLock::Attempt::blocked:
+        return refusal(notRecorded, path, describe(StoreError{StoreErrorCode::lockBlocked, lock.path(), {}}));
+    case FileLock::Attempt::failed: break;
+    }
+    return refusal(notRecorded, path, writeError(lock.error(), path).detail);
+}
+
+/// Its name, too, outlasts a stick that is pulled out: it is never made again.
+SecondFolderResult makeCopiesFolder(const SecondFolder& named) {
+    if (!QFileInfo{named.folder}.isDir()) return refusal(away, named.folder);
+    if (named.isThere()) return {};
+    if (!makePrivateFolder(named.copies())) return refusal(failed, named.folder);
+    const StoreResult flushed = flushNewFolder(named.copies());
+    if (flushed) return {};
+    QDir{}.rmdir(named.copies());
+    return refusal(failed, named.folder, flushed.error().detail);
 }
 
 qint64 roomThere(const SecondFolder& there) {
@@ -119,6 +145,7 @@ QString describe(const SecondFolderError& error) {
         case away: return qtTrId("SecondFolderAway");
         case noRoom: return qtTrId("SecondFolderNoRoom");
         case failed: return qtTrId("SecondFolderFailed");
+        case notFlushed: return qtTrId("SecondFolderNotFlushed");
         case notRecorded: return qtTrId("SecondFolderNotRecorded");
         case recordBroken: return qtTrId("SecondFolderBroken");
         }
@@ -138,14 +165,14 @@ tl::expected<std::optional<SecondFolder>, SecondFolderError> secondFolder(const 
 
 /// The mark stays, so that a folder that is named again goes on with its copies.
 SecondFolderResult nameSecondFolder(const QString& dataFile, const QString& folder) {
+    FileLock lock{recordPath(dataFile)};
+    if (SecondFolderResult turn = takeTurn(lock, recordPath(dataFile)); !turn) return turn;
     QJsonObject record = readRecord(dataFile).value_or(QJsonObject{});
     const QString known = record[u"mark"_s].toString();
     const SecondFolder named{folder.isEmpty() ? folder : QFileInfo{folder}.absoluteFilePath(),
                              known.isEmpty() ? newMark() : known};
-    if (!folder.isEmpty()) {
-        if (!QFileInfo{named.folder}.isDir()) return refusal(away, named.folder);
-        if (!makePrivateFolder(named.copies())) return refusal(failed, named.folder);
-    }
+    if (!folder.isEmpty())
+        if (SecondFolderResult made = makeCopiesFolder(named); !made) return made;
     record[u"folder"_s] = named.folder;
     record[u"mark"_s] = named.mark;
     record[u"place"_s] = placeOf(dataFile);
@@ -166,6 +193,7 @@ SecondFolderResult bringCopy(const QString& backups, const SecondFolder& to, Day
     if (!bytes) return refusal(failed, to.folder, describe(bytes.error()));
     if (const StoreResult written = replaceFile(target, *bytes); !written) {
         const StoreError& why = written.error();
+        if (isInPlace(written)) return refusal(notFlushed, to.folder, why.detail);
         return refusal(failed, to.folder, why.detail.isEmpty() ? describe(why) : why.detail);
     }
     for (const Backup& old : superfluousBackups(to.list(), most))
@@ -189,12 +217,14 @@ tl::expected<QString, StoreError> fetchCopy(const QString& backups, const QStrin
 }
 
 bool isFirstFailure(const QString& dataFile, DayNumber today) {
+    FileLock lock{recordPath(dataFile)};
+    const bool isOurs = takeTurn(lock, recordPath(dataFile)).has_value();
     auto record = readRecord(dataFile);
     if (!record) return true; // it cannot be noted
     if (record->isEmpty()) return false;
     if ((*record)[u"told"_s].toInt(noDay) == today) return false;
     (*record)[u"told"_s] = today;
-    std::ignore = writeRecord(dataFile, *record);
+    if (isOurs) std::ignore = writeRecord(dataFile, *record);
     return true;
 }
 

@@ -32,7 +32,8 @@ enum class SecondFolderProblem {
     away,         ///< it is not there
     noRoom,       ///< the copies would take more than a tenth of its free disk
     failed,       ///< the copy could not be read or written; the detail says why
-    notRecorded,  ///< which one it is could not be written down
+    notFlushed,   ///< it is there, but may be gone after a power cut
+    notRecorded,  ///< which one it is could not be written down, also as another program is at it
     recordBroken, ///< nor read; there is none until one is named again
 };
 struct SecondFolderError {

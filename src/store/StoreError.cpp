@@ -61,6 +61,10 @@ QString describe(const StoreError& error) {
     return withDetail(text.contains(u"%1"_s) ? text.arg(error.path) : text, error);
 }
 
+QString describeWithin(const QString& frame, const StoreError& error) {
+    return error.code == StoreErrorCode::notFlushed ? describe(error) : frame.arg(describe(error));
+}
+
 QString describeExport(const StoreError& error) {
     if (error.code == StoreErrorCode::notFlushed)
         return withDetail(qtTrId("ExportNotFlushed").arg(error.path), error);

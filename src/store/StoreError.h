@@ -63,6 +63,9 @@ template <class Value>
 
 /// The error in plain words for the user, from the translation table.
 [[nodiscard]] QString describe(const StoreError& error);
+/// As describe(), put into \p frame, a text with a place for it that says what was not done; alone where the
+/// file holds all that was to be written.
+[[nodiscard]] QString describeWithin(const QString& frame, const StoreError& error);
 /// As describe(), of a file that patients were to be exported to.
 [[nodiscard]] QString describeExport(const StoreError& error);
 

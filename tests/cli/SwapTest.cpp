@@ -25,8 +25,10 @@ struct Swap {
 
 /// Reports of the model's two answers, before the monitor's ID is asked for.
 constexpr int beforeID = 4;
-/// In the place of a report: as soon as its readings are in the data file, and it is not emptied yet.
+/// In the place of a report: at so many looks at the line, less one, since its readings are in the data file,
+/// which is before it is emptied. The order to empty it comes after eight.
 constexpr int whenStored = -1;
+constexpr int lastLookSinceStored = -12;
 
 class SwapTest : public WireTest {
 protected:
@@ -42,7 +44,10 @@ protected:
         SCOPED_TRACE(testing::Message() << swap.what << " after report " << after << " of " << reports);
         Wire& wire = attach(swap.first);
         const auto isStored = [this] { return QFileInfo(dataFile()).size() > before.size(); };
-        const auto isPulled = [&] { return after == whenStored ? isStored() : wire.reports() >= after; };
+        int looks = after; // at the line, up to the one at which it is pulled out
+        const auto isPulled = [&, looks]() mutable {
+            return after < 0 ? isStored() && ++looks >= 0 : wire.reports() >= after;
+        };
         wire.swapOnce(isPulled, swap.second);
         const Outcome outcome = download(swap.options).outcome;
         const std::size_t all = swap.second.records.size();
@@ -81,7 +86,7 @@ TEST_F(SwapTest, AnotherMonitorIsNotTakenForTheFirst) {
     for (const Swap& swap : swaps) {
         const QByteArray second = wholeOf(swap.second, swap.options + QStringList{u"--any-monitor"_s});
         const QByteArray first = wholeOf(swap.first, swap.options);
-        for (int after = whenStored; after <= reports; ++after)
+        for (int after = lastLookSinceStored; after <= reports; ++after)
             if (after <= 18 || after >= reports - 16 || after % stride == 0)
                 trySwap(swap, after, first, second);
     }

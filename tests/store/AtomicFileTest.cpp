@@ -3,6 +3,7 @@
 #include "store/DataStore.h"
 #include "store/FileLock.h"
 #include "store/NewFile.h"
+#include "store/SecondFolder.h"
 #include "support/FullDisk.h"
 #include "support/ManualClock.h"
 
@@ -21,12 +22,21 @@
 #include <sys/statfs.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 constexpr int noFault = 1'000'000;
 int folderFlushesThatWork = noFault; ///< from now on
+int interruptions = 0;               ///< of the next calls, by signals
 bool isFat = false;                  ///< the file system, as far as it tells
 QStringList* flushes = nullptr;      ///< where to note what is flushed, and what is still open then
+
+bool isInterrupted() {
+    if (interruptions == 0) return false;
+    --interruptions;
+    errno = EINTR;
+    return true;
+}
 
 /// What has been removed or replaced, and is open all the same.
 bool isReplacedFileOpen() {
@@ -63,8 +73,14 @@ extern "C" int fstatfs(int handle, struct statfs* system) noexcept {
     return result;
 }
 
+/// In the library's place: a file on a share, where signals interrupt.
+extern "C" ssize_t read(int handle, void* bytes, size_t length) {
+    return isInterrupted() ? -1 : static_cast<ssize_t>(syscall(SYS_read, handle, bytes, length));
+}
+
 /// In the library's place: a disk whose folders cannot be flushed.
 extern "C" int fsync(int handle) {
+    if (isInterrupted()) return -1;
     struct stat status {};
     const bool isFolder = fstat(handle, &status) == 0 && S_ISDIR(status.st_mode);
     if (flushes != nullptr)
@@ -156,6 +172,35 @@ TEST_F(AtomicFileTest, FolderThatCannotBeFlushedIsNoSuccess) {
     EXPECT_EQ(filesInFolder(), 1);
 }
 
+TEST_F(AtomicFileTest, WhatASignalInterruptsIsDoneAgain) {
+    interruptions = 2;
+    EXPECT_TRUE(replaceFile(path, "one"));
+    EXPECT_EQ(std::exchange(interruptions, 2), 0);
+    EXPECT_EQ(readFile(path), "one");
+    EXPECT_EQ(std::exchange(interruptions, 0), 0);
+}
+
+TEST_F(AtomicFileTest, ASecondFolderThatIsNotFlushedIsToldForWhatItIs) {
+    const QTemporaryDir stick;
+    const QString day = u"ZEL-2026-11-20.xml"_s;
+    const QTemporaryDir backups;
+    ASSERT_TRUE(replaceFile(backups.filePath(day), "<ZEL/>"));
+    folderFlushesThatWork = 0;
+    const auto named = nameSecondFolder(path, stick.path());
+    folderFlushesThatWork = noFault;
+    ASSERT_FALSE(named) << "a folder that may be gone is never made again";
+    EXPECT_EQ(named.error().problem, SecondFolderProblem::failed);
+    EXPECT_TRUE(QDir{stick.path()}.isEmpty());
+    ASSERT_TRUE(nameSecondFolder(path, stick.path()));
+    const SecondFolder second = secondFolder(path)->value();
+    folderFlushesThatWork = 0;
+    const auto brought = bringCopy(backups.path(), second, backupOfName(day)->day);
+    folderFlushesThatWork = noFault;
+    ASSERT_FALSE(brought);
+    EXPECT_EQ(brought.error().problem, SecondFolderProblem::notFlushed);
+    EXPECT_EQ(readFile(second.path(day)), "<ZEL/>");
+}
+
 TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
     ManualClock clock;
     DataStore store{{folder.path(), folder.path(), folder.path()}, clock};
@@ -164,6 +209,8 @@ TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
         replaceFile(store.getZELXMLPath(), "<ZEL><SystemSetting/><Patient><ID>A</ID></Patient></ZEL>"));
     ASSERT_TRUE(store.loadXML());
     store.setCurrentID(u"A"_s);
+    QString told;
+    QObject::connect(&store, &DataStore::notBackedUp, [&told](const QString& why) { told = why; });
     folderFlushesThatWork = 0;
     const auto added = store.addCommentForCurID({});
     folderFlushesThatWork = noFault;
@@ -171,6 +218,7 @@ TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
     EXPECT_EQ(added.error().code, StoreErrorCode::notFlushed);
     EXPECT_EQ(store.getCommentForCurID().size(), 1U);
     EXPECT_FALSE(store.isChangedElsewhere()) << "it was written here";
+    EXPECT_TRUE(told.startsWith(u"ExportNotFlushed"_s)) << "the copy is there: " << told.toStdString();
     const QString other = folder.filePath(u"other.xml"_s);
     ASSERT_TRUE(replaceFile(other, "<ZEL><Patient><ID>B</ID></Patient></ZEL>"));
     folderFlushesThatWork = 0;
@@ -242,6 +290,10 @@ TEST_F(AtomicFileTest, OnlyWhatKilledProgramsLeftIsRemoved) {
     for (const QString& each : others)
         EXPECT_TRUE(QFileInfo::exists(each)) << each.toStdString();
     EXPECT_EQ(live->takePlace(path), 0) << "the one that is being written is still there";
+    ASSERT_TRUE(QFile{dead}.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile::link(path, folder.filePath(u"link"_s)));
+    ASSERT_TRUE(replaceFile(folder.filePath(u"link"_s), "two"));
+    EXPECT_FALSE(QFileInfo::exists(dead)) << "nor does it stay beside what is written only now and then";
 }
 
 TEST(WriteError, IsToldAsWhatItIs) {

@@ -1,6 +1,7 @@
 #include "store/SecondFolder.h"
 
 #include "DataStoreTest.h"
+#include "store/FileLock.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -57,6 +58,18 @@ TEST_F(SecondFolderTest, TheDaysCopyGoesThereAndIsReadFromThere) {
     ASSERT_TRUE(fetched);
     EXPECT_TRUE(store.restoreBackup(*fetched));
     EXPECT_EQ(store.getPatientByID(u"A"_s)->PatientNotes, QString{});
+}
+
+TEST_F(SecondFolderTest, ARecordInAnotherProgramsHandsIsLeftToIt) {
+    ASSERT_TRUE(nameSecondFolder(path, stick.path()));
+    const auto before = readFile(record);
+    FileLock others{record};
+    ASSERT_EQ(others.tryTake(), FileLock::Attempt::taken);
+    const auto ended = nameSecondFolder(path, {});
+    ASSERT_FALSE(ended);
+    EXPECT_EQ(ended.error().problem, notRecorded);
+    EXPECT_TRUE(isFirstFailure(path, today)) << "told rather than lost";
+    EXPECT_EQ(readFile(record), before);
 }
 
 TEST_F(SecondFolderTest, AStickThatIsAwayIsNotWrittenInItsPlaceAndGetsTheCopyOnceItIsBack) {

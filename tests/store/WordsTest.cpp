@@ -44,6 +44,9 @@ TEST(Words, EachErrorOfTheStoreHasItsOwn) {
     }
     const StoreError full{StoreErrorCode::diskFull, u"/a/file"_s, {}};
     EXPECT_EQ(describeExport(full), describe(full));
+    EXPECT_EQ(describeWithin(u"Not done: %1"_s, full), u"Not done: "_s + describe(full));
+    const StoreError unsure{StoreErrorCode::notFlushed, u"/a/file"_s, {}};
+    EXPECT_EQ(describeWithin(u"Not done: %1"_s, unsure), describe(unsure)) << "it is done";
 }
 
 TEST(Words, EachRefusalOfAnImportNamesTheFileAndThePatient) {

@@ -27,7 +27,12 @@ void PatientIDSender::sendID(const QString& ID) {
 }
 
 PatientIDSender::Holding PatientIDSender::ask(BPMModel& monitor) {
-    return {monitor.getBPMID(), monitor.getBPMCycleDataCount()};
+    Holding holding{.ID = monitor.getBPMID(), .readings = {}};
+    const int asked = monitor.openings();
+    holding.readings = monitor.getBPMCycleDataCount();
+    // The readings of one monitor must not be erased under the name of another.
+    if (monitor.openings() != asked) holding.ID = tl::unexpected(MonitorResult::readFailed);
+    return holding;
 }
 
 void PatientIDSender::readingsCounted(const QString& ID, const Holding& holding) {

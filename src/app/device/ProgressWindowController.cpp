@@ -147,7 +147,10 @@ void ProgressWindowController::quietMonitor() {
 void ProgressWindowController::storeReadings(ReadingList readings) {
     DownloadOutcome outcome{.downloaded = readings.size()};
     const auto added = parts.store.newDataTransfer(patientID, std::move(readings));
-    if (!added) return finish({.failure = qtTrId("downloadNotStored").arg(describe(added.error()))});
+    if (!added) {
+        const QString told = isInPlace(added) ? qtTrId("downloadNotFlushed") : qtTrId("downloadNotStored");
+        return finish({.failure = told.arg(describe(added.error()))});
+    }
     outcome.added = *added;
     // Stored, but nobody can see it yet: the monitor keeps its readings.
     if (const StoreResult& loaded = parts.store.lastLoad(); !loaded) {

@@ -2,49 +2,19 @@
 
 #include <QFileInfo>
 
-#include <thread>
 #include <utility>
 
 namespace zel {
 
-namespace {
-
-constexpr std::chrono::seconds longestWaitAtEnd{2};
-
-} // namespace
-
 BackupCourier::BackupCourier(const DataStore& dataStore, const Clock& wallClock, QObject* parent,
                              std::chrono::milliseconds patience, Carry carrying)
     : QObject(parent), store(dataStore), clock(wallClock), carry(std::move(carrying)) {
-    mailbox->calls = &calls;
     waited.setSingleShot(true);
     waited.setInterval(patience);
     connect(&waited, &QTimer::timeout, this, &BackupCourier::giveUp);
 }
 
-BackupCourier::~BackupCourier() {
-    std::unique_lock lock(mailbox->mutex);
-    // By the system's clock, whose waiting the thread sanitizer knows.
-    mailbox->emptied.wait_until(lock, std::chrono::system_clock::now() + longestWaitAtEnd,
-                                [this] { return mailbox->underWay == 0; });
-    mailbox->calls = nullptr;
-}
-
 Instant BackupCourier::now() const { return std::chrono::floor<std::chrono::milliseconds>(clock.now()); }
-
-void BackupCourier::run(const std::function<Then()>& job) {
-    {
-        const std::scoped_lock lock(mailbox->mutex);
-        ++mailbox->underWay;
-    }
-    std::thread([box = mailbox, job] {
-        Then then = job();
-        const std::scoped_lock lock(box->mutex);
-        --box->underWay;
-        if (box->calls) box->calls->post(std::move(then));
-        box->emptied.notify_all();
-    }).detach();
-}
 
 void BackupCourier::bring() {
     isWantedAgain = !underWay.isEmpty();
@@ -61,7 +31,7 @@ void BackupCourier::bring() {
     if (isWantedAgain) return;
     underWay = folder;
     waited.start();
-    run([this, act = carry, backups, to = **second, folder, what, day = LocalZone{}.day(now())] {
+    jobs.run([this, act = carry, backups, to = **second, folder, what, day = LocalZone{}.day(now())] {
         SecondFolderResult result = act(backups, to, day);
         return [this, result = std::move(result), folder, what] { ended(result, folder, what); };
     });
@@ -97,7 +67,7 @@ void BackupCourier::goOn() {
 void BackupCourier::look() {
     const auto second = secondFolder(store.getZELXMLPath());
     if (!second || !*second) return;
-    run([this, folder = **second] {
+    jobs.run([this, folder = **second] {
         return [this, folder, copies = folder.list()] { emit listed(folder, copies); };
     });
 }

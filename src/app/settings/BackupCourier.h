@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/CallQueue.h"
+#include "app/widgets/BackgroundJobs.h"
 #include "store/DataStore.h"
 #include "store/SecondFolder.h"
 
@@ -8,10 +8,7 @@
 #include <QTimer>
 
 #include <chrono>
-#include <condition_variable>
 #include <functional>
-#include <memory>
-#include <mutex>
 
 namespace zel {
 
@@ -26,8 +23,6 @@ public:
     /// it
     BackupCourier(const DataStore& dataStore, const Clock& wallClock, QObject* parent,
                   std::chrono::milliseconds patience = std::chrono::minutes(1), Carry carrying = bringCopy);
-    /// What is under way may take two seconds more; what hangs is left to the end of the process.
-    ~BackupCourier() override;
 
     /// Unless there is no second folder, no copy of today, or it was brought already. A folder that does not
     /// answer is not asked again before it has.
@@ -41,15 +36,6 @@ signals:
     void failed(const QString& why); ///< once a day for each folder; for the user
 
 private:
-    using Then = std::function<void()>;
-    /// What both threads know.
-    struct Mailbox {
-        std::mutex mutex;
-        std::condition_variable emptied;
-        CallQueue* calls = nullptr; ///< null once nobody waits any more
-        int underWay = 0;
-    };
-    void run(const std::function<Then()>& job);
     void ended(const SecondFolderResult& result, const QString& folder, const QString& what);
     void giveUp();
     void goOn();
@@ -58,8 +44,6 @@ private:
 
     const DataStore& store;
     const Clock& clock;
-    CallQueue calls;
-    std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
     QString last; ///< the place and day that are done
     Carry carry;
     QTimer waited;
@@ -68,6 +52,7 @@ private:
     QString told;          ///< the folder of the last failure,
     DayNumber toldOn = noDay;
     bool isWantedAgain = false;
+    BackgroundJobs jobs;
 };
 
 } // namespace zel

@@ -35,7 +35,7 @@ using namespace Qt::StringLiterals;
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.status),
       watch({needed.monitor, needed.status, needed.store, needed.panel, needed.clock}, times.polling),
-      dataWatch(needed.store, window, times.watching),
+      dataWatch(needed.store, window, {.interval = times.watching}),
       patientPage(new PatientViewController(
           {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
       graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),

@@ -20,11 +20,14 @@ bool isUserAtWork() {
 
 } // namespace
 
-DataWatch::DataWatch(DataStore& dataStore, QWidget& window, std::chrono::milliseconds interval)
-    : store(dataStore), keyboard(interval) {
+DataWatch::DataWatch(DataStore& dataStore, QWidget& window, const Timing& timing, Look seeing)
+    : store(dataStore), looking(std::move(seeing)), keyboard(timing.interval) {
     window.installEventFilter(this);
     connect(&timer, &QTimer::timeout, this, &DataWatch::look);
-    timer.start(interval);
+    waited.setSingleShot(true);
+    waited.setInterval(timing.patience);
+    connect(&waited, &QTimer::timeout, this, &DataWatch::tellUnreadable);
+    timer.start(timing.interval);
 }
 
 bool DataWatch::eventFilter(QObject*, QEvent* event) {
@@ -33,21 +36,39 @@ bool DataWatch::eventFilter(QObject*, QEvent* event) {
 }
 
 void DataWatch::look() {
-    if (!store.isChangedElsewhere()) {
+    if (std::exchange(isLooking, true)) return;
+    waited.start();
+    jobs.run([this, see = looking, path = store.getZELXMLPath()] {
+        return [this, seen = see(path)] { looked(seen); };
+    });
+}
+
+void DataWatch::looked(const FileStamp& seen) {
+    isLooking = false;
+    waited.stop();
+    if (!store.isChangedElsewhere(seen)) {
         if (std::exchange(isUnreadable, false)) emit readable();
         return;
     }
     if (!std::exchange(isWaiting, true)) keyboard.whenStill(this, [this] { takeChanges(); });
 }
 
+void DataWatch::tellUnreadable() {
+    if (!std::exchange(isUnreadable, true)) emit unreadable();
+}
+
+/// Its own save may have come between the look and this.
 void DataWatch::takeChanges() {
     isWaiting = false;
     if (isUserAtWork() || !store.isChangedElsewhere()) return;
     const StoreResult taken = store.takeChanges();
-    if (std::exchange(isUnreadable, !taken) && !taken) return; // it is told once
-    if (taken) return emit shown();
-    qCWarning(lcApp, "The changed data file cannot be read: %s", qUtf8Printable(describe(taken.error())));
-    emit unreadable();
+    if (taken) {
+        isUnreadable = false;
+        return emit shown();
+    }
+    if (!isUnreadable)
+        qCWarning(lcApp, "The changed data file cannot be read: %s", qUtf8Printable(describe(taken.error())));
+    tellUnreadable();
 }
 
 } // namespace zel

@@ -3,6 +3,7 @@
 #include "app/frame/CommentViewController.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/ReadingFrame.h"
+#include "app/table/KeptSelection.h"
 #include "app/table/ReadingTableItemView.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/widgets/EmptyState.h"
@@ -21,6 +22,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace zel {
 
@@ -133,14 +135,15 @@ void TableViewController::addActions() {
     tblReadings->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-/// The row that was current stays it where it can. Who looks at the latest readings goes on to see them.
+/// What is selected stays so where it can, of the same patient. Who looks at the latest readings goes on to
+/// see them.
 void TableViewController::reload() {
-    QItemSelectionModel* selection = tblReadings->selectionModel();
     QScrollBar& scrolled = *tblReadings->verticalScrollBar();
     const int value = scrolled.value();
     const bool wasAtEnd = value == scrolled.maximum();
-    const int position = tblReadings->currentIndex().row();
-    const bool isSelected = position >= 0 && selection->isRowSelected(position);
+    const KeptSelection kept(*tblReadings, *readingModelArray);
+    const bool isSamePatient =
+        std::exchange(listedPatient, parts.store.getCurrentID()) == parts.store.getCurrentID();
     readingModelArray->reload(parts.period.selection());
     frame->setNote(readingModelArray->cutNote());
     QWidget* shown = tblReadings;
@@ -149,10 +152,7 @@ void TableViewController::reload() {
     else if (readingModelArray->rowCount() == 0)
         shown = noneInPeriod;
     listOrAdvice->setCurrentWidget(shown);
-    if (0 <= position && position < readingModelArray->rowCount())
-        selection->setCurrentIndex(readingModelArray->index(position, 0),
-                                   isSelected ? QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows
-                                              : QItemSelectionModel::NoUpdate);
+    if (isSamePatient) kept.restore(*tblReadings, *readingModelArray);
     tblReadings->scrollToBottom(); // lays the rows out, too
     if (!wasAtEnd) scrolled.setValue(value);
     setPadTitle();

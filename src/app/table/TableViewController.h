@@ -67,6 +67,7 @@ private:
     ReadingFrame* frame;
     QCheckBox* btnShowMam;
     QCheckBox* btnShowPad;
+    QString listedPatient; ///< whose readings are in the list
 };
 
 } // namespace zel

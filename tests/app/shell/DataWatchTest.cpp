@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+#include <future>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -140,10 +142,20 @@ TEST_F(DataWatchTest, WhatCannotBeReadNowIsSaidAndNothingIsTakenAway) {
 
 TEST_F(DataWatchTest, TurningToTheWindowLooksAtOnceButNotUnderADialog) {
     watch(1h);
-    const auto turnTo = [this] {
-        QEvent activation(QEvent::WindowActivate);
-        QCoreApplication::sendEvent(&app->mainWndow(), &activation);
-        QCoreApplication::processEvents();
+    std::atomic<int> looks = 0;
+    const DataWatch watched(store, app->mainWndow(), {.interval = 1h}, [&](const QString& path) {
+        ++looks;
+        return stampOf(path);
+    });
+    // None starts before what the one before it saw has been heard of.
+    const auto turnTo = [&] {
+        for (int times = 0; times < 3; ++times) {
+            waitFor([&, before = looks.load()] {
+                QEvent activation(QEvent::WindowActivate);
+                QCoreApplication::sendEvent(&app->mainWndow(), &activation);
+                return looks > before;
+            });
+        }
     };
     app->showSetting();
     changeElsewhere(u"P00"_s, u"Road 2"_s);
@@ -156,6 +168,25 @@ TEST_F(DataWatchTest, TurningToTheWindowLooksAtOnceButNotUnderADialog) {
     changeElsewhere(u"P00"_s, u"Road 3"_s);
     turnTo();
     EXPECT_EQ(address(), u"Road 2"_s) << "not while keys are pressed";
+}
+
+TEST_F(DataWatchTest, AShareThatDoesNotAnswerHoldsUpNothingAndIsToldOnce) {
+    watch(1h);
+    std::promise<void> answer;
+    std::atomic<int> looks = 0;
+    DataWatch watched(store, app->mainWndow(), {.interval = 1ms, .patience = 1ms},
+                      [&, answered = answer.get_future().share()](const QString& path) {
+                          if (++looks == 1) answered.wait();
+                          return stampOf(path);
+                      });
+    QSignalSpy unreadable(&watched, &DataWatch::unreadable);
+    QSignalSpy readable(&watched, &DataWatch::readable);
+    waitFor([&] { return !unreadable.empty(); });
+    QTest::qWait(20);
+    EXPECT_EQ(looks, 1) << "not before it has answered";
+    EXPECT_EQ(unreadable.size(), 1);
+    answer.set_value();
+    waitFor([&] { return !readable.empty() && looks > 1; });
 }
 
 } // namespace zel

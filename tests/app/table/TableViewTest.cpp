@@ -215,6 +215,35 @@ TEST_F(TableViewTest, daysThatAreTooManyForTheListAreTold) {
     EXPECT_TRUE(text("lblDetail").contains(told)) << qPrintable(text("lblDetail"));
 }
 
+TEST_F(TableViewTest, whatIsSelectedIsFoundAgainByItsReadings) {
+    storeComments();
+    openTable();
+    const auto selected = [this] {
+        QStringList days;
+        for (const QModelIndex& row : table().selectionModel()->selectedRows(ReadingTableModel::date))
+            days += row.data().toString();
+        days.sort();
+        return days;
+    };
+    clickRow(3);
+    for (const int row : {2, 1})
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          table().visualRect(table().model()->index(row, 2)).center());
+    QStringList days{u"03/03/2026"_s, u"04/03/2026"_s, u"10/03/2026"_s};
+    ASSERT_EQ(selected(), days);
+    storeReadings(u"P1"_s, {reading(u"202603010700"_s, 119)}); // before all of them
+    ASSERT_EQ(systolic().first(), u"119"_s);
+    EXPECT_EQ(selected(), days);
+    EXPECT_EQ(table().currentIndex().row(), 2) << "it follows its reading";
+    clickPart("btnDeleteComment"); // and the day without a reading with it
+    days.removeAt(1);
+    EXPECT_EQ(selected(), days);
+    EXPECT_EQ(table().currentIndex().row(), 2);
+    storeReadings(u"P2"_s, {reading(u"202603030800"_s, 122), reading(u"202603030900"_s, 122)});
+    EXPECT_TRUE(selected().isEmpty());
+    EXPECT_FALSE(table().currentIndex().isValid()) << "it was another patient's";
+}
+
 TEST_F(TableViewTest, savingACommentLeavesTheListWhereItIs) {
     ReadingList month;
     for (int day = 10; day < 28; ++day)

@@ -1,9 +1,13 @@
 #include "app/widgets/CallQueue.h"
 
+#include "app/widgets/BackgroundJobs.h"
+
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
+#include <future>
+#include <thread>
 #include <vector>
 
 namespace zel {
@@ -20,6 +24,30 @@ TEST(CallQueueTest, runsTheCallsInTheirOrderAndNoneOnceItIsGone) {
     }
     QCoreApplication::processEvents();
     EXPECT_EQ(run, (std::vector{1, 2, 3}));
+}
+
+TEST(BackgroundJobsTest, bringResultsToTheirThreadAndOneThatHangsHoldsUpNoEnd) {
+    std::promise<void> answer;
+    std::promise<void> ended;
+    bool isLateTaken = false;
+    {
+        BackgroundJobs jobs;
+        std::thread::id thread;
+        jobs.run([&] { return [&] { thread = std::this_thread::get_id(); }; });
+        while (thread == std::thread::id())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        EXPECT_EQ(thread, std::this_thread::get_id());
+        jobs.run([&, answered = answer.get_future().share()] {
+            answered.wait();
+            return [&, dropped = std::shared_ptr<void>(nullptr, [&](void*) { ended.set_value(); })] {
+                isLateTaken = true;
+            };
+        });
+    }
+    answer.set_value();
+    ended.get_future().wait();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isLateTaken);
 }
 
 } // namespace zel
