@@ -7,6 +7,7 @@
     <message id="BackupLast"><translation>%1, %2, the last of %3</translation></message>
     <message id="BackupPatients" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="BackupReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="ExcludedWithoutReason"><translation>no reason given</translation></message>
     <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
     <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>
     <message id="ExportNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut it may be missing. Please check the disk.</translation></message>
@@ -27,7 +28,15 @@
     <message id="LimitOrder"><translation>The diastolic limit has to be below the systolic one.</translation></message>
     <message id="LimitSystolic"><translation>The systolic limit is %1.</translation></message>
     <message id="Male"><translation>Male</translation></message>
+    <message id="ManualDia"><translation>The diastolic pressure is to be a number from %1 to %2.</translation></message>
+    <message id="ManualDiaNotBelowSys"><translation>The diastolic pressure is to be below the systolic one.</translation></message>
+    <message id="ManualInFuture"><translation>The date and time are in the future.</translation></message>
+    <message id="ManualNoDate"><translation>There is no such date and time. (An hour is left out when clocks are put forward, and 1 January 2000 stands for no date at all.)</translation></message>
+    <message id="ManualPulse"><translation>The pulse is to be a number from %1 to %2.</translation></message>
+    <message id="ManualSys"><translation>The systolic pressure is to be a number from %1 to %2.</translation></message>
     <message id="NotBackedUp"><translation>No copy of the data file could be made in %1 before this change. %2</translation></message>
+    <message id="remarkExcluded"><translation>left out: %1</translation></message>
+    <message id="remarkManual"><translation>typed in</translation></message>
     <message id="SecondFolderAway"><translation>The second folder for copies of the data file, %1, is not there, so today's copy is not in it. It is copied with the next change once the folder is back.</translation></message>
     <message id="SecondFolderBroken"><translation>Which second folder copies of the data file go to cannot be read from %1, so they go to none. Please choose it again.</translation></message>
     <message id="SecondFolderFailed"><translation>Today's copy of the data file could not be written to the second folder, %1.</translation></message>
@@ -39,11 +48,16 @@
     <message id="SettingText"><translation>any text without control characters</translation></message>
     <message id="stepAddComment"><translation>new comment of %1</translation></message>
     <message id="stepAddPatient"><translation>new patient %1</translation></message>
+    <message id="stepAddReading"><translation>new reading of %1</translation></message>
     <message id="stepDeleteComment"><translation>delete comment of %1</translation></message>
     <message id="stepDeletePatient"><translation>delete patient %1</translation></message>
+    <message id="stepDeleteReadings" numerus="yes"><translation><numerusform>delete %n reading of %1</numerusform><numerusform>delete %n readings of %1</numerusform></translation></message>
     <message id="stepEditComment"><translation>change to a comment of %1</translation></message>
     <message id="stepEditPatient"><translation>change to patient %1</translation></message>
+    <message id="stepEditReading"><translation>change to a reading of %1</translation></message>
+    <message id="stepExcludeReadings" numerus="yes"><translation><numerusform>leave out %n reading of %1</numerusform><numerusform>leave out %n readings of %1</numerusform></translation></message>
     <message id="stepImport"><translation>import of %1</translation></message>
+    <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>take in %n reading of %1</numerusform><numerusform>take in %n readings of %1</numerusform></translation></message>
     <message id="stepSettings"><translation>change of settings</translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1, on this computer or on another one that shares it. Nothing was changed; please try again in a moment, or in some minutes if that computer has dropped off the network.</translation></message>
@@ -52,6 +66,7 @@
     <message id="StoreInvalidRecord"><translation>A patient needs an ID of its own; “%1” is none. Nothing was changed.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 is in the place where programs note that they work on the data file, and is no such note. Nothing was changed; please move it away, then try again.</translation></message>
     <message id="StoreNoPermissions"><translation>Others on this computer can still read %1: this file system knows no permissions. Please keep the data on another disk.</translation></message>
+    <message id="StoreNoReason"><translation>A reading is left out for a reason only; please give one. Nothing was changed.</translation></message>
     <message id="StoreNoRoomForBackup"><translation>No copy of the data file is kept in %1: all copies together may take a tenth of the free disk, which is less than the file.</translation></message>
     <message id="StoreNoStep"><translation>There is nothing to undo or redo.</translation></message>
     <message id="StoreNoSuchBackup"><translation>There is no copy of the data file that is called “%1”.</translation></message>
@@ -59,10 +74,14 @@
     <message id="StoreNotCreated"><translation>There is no data file yet, and %1 could not be made. Please check that its folder may be written and the disk is not full, then start the program again.</translation></message>
     <message id="StoreNotFlushed"><translation>%1 was written, but the disk did not confirm that it will last: after a power cut the older content may be there again. Please check the disk; the monitor's readings are kept in the monitor.</translation></message>
     <message id="StoreNotMadePrivate"><translation>Others on this computer can still read %1: its permissions could not be changed.</translation></message>
+    <message id="StoreNotManual"><translation>Readings that came from a monitor are neither changed nor deleted; they can be left out, with a reason. Nothing was changed.</translation></message>
     <message id="StoreNotParsed"><translation>The data file %1 is damaged or is no data file of this program. It is left as it is, and nothing can be saved until it is readable again: repair it, put a copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreNotReadable"><translation>The data file %1 cannot be read. It is left as it is, and nothing can be saved until it is readable again.</translation></message>
     <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
     <message id="StoreQuotaReached"><translation>You may store no more on this disk (its quota is reached): %1 could not be written. What was there is as it was. Please delete what you do not need, or ask for more space, then try again.</translation></message>
+    <message id="StoreReadingGone"><translation>The reading is no longer there. Nothing was changed.</translation></message>
+    <message id="StoreReadingKnown"><translation>There is a reading of that minute with these values already. Nothing was changed.</translation></message>
+    <message id="StoreReadingRefused"><translation>The reading was not stored.</translation></message>
     <message id="StoreSizeLimit"><translation>Files may not become so large here: %1 could not be written. What was there is as it was. Please ask who looks after this computer about its limit for the size of files.</translation></message>
     <message id="StoreStepChanged"><translation>What it is about has been changed again since, by another program or by hand. Nothing was changed.</translation></message>
     <message id="StoreStepGone"><translation>What it is about is no longer in the data file. Nothing was changed.</translation></message>
@@ -141,6 +160,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out</numerusform><numerusform>, %n of them left out</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
@@ -210,6 +230,9 @@
     <message id="bloodScroller"><translation>Move the pressure scale</translation></message>
     <message id="cancel"><translation>Cancel</translation></message>
     <message id="cancelPrint"><translation>Close without printing</translation></message>
+    <message id="cellWithRemark"><translation>%1, %2</translation></message>
+    <message id="changeReadingAction"><translation>Change Reading…</translation></message>
+    <message id="changeReadingTitle"><translation>Change Reading</translation></message>
     <message id="chartKeys"><translation>%1 in the period. Arrow keys move the period, plus and minus widen and narrow it, Ctrl with the left and right arrow keys goes from reading to reading.</translation></message>
     <message id="cholestrolRefused"><translation>Please give a number of 10 to 5000 mg/dL, such as 200. 1 mmol/L is about 38.7 mg/dL.</translation></message>
     <message id="choosePrinter"><translation>Choose a printer</translation></message>
@@ -291,6 +314,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="DeletePatient"><translation>Delete patient</translation></message>
     <message id="deletePatientButton"><translation>De&amp;lete</translation></message>
     <message id="deletePatientHint"><translation>Delete this patient with all readings and comments, after a question.</translation></message>
+    <message id="deleteReadingsAction"><translation>Delete Reading…</translation></message>
+    <message id="deleteReadingsQuestion"><translation>Delete what was typed in (%1)?</translation></message>
+    <message id="deleteReadingsTitle"><translation>Delete Reading</translation></message>
     <message id="DeleteTheComment"><translation>Delete this comment? Edit &gt; Undo brings it back until ZEL is closed.</translation></message>
     <message id="download"><translation>Download readings</translation></message>
     <message id="downloadAdvice"><translation>Please leave the monitor connected. Its readings are stored when all of them have arrived.</translation></message>
@@ -385,9 +411,17 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="infoDia"><translation>Diastolic</translation></message>
     <message id="infoLine"><translation>%1: %2</translation></message>
     <message id="infoPulse"><translation>Pulse</translation></message>
+    <message id="infoRemark"><translation>Remark</translation></message>
     <message id="infoSys"><translation>Systolic</translation></message>
     <message id="keep"><translation>&amp;Keep</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
+    <message id="leaveOutAction"><translation>Leave Out…</translation></message>
+    <message id="leaveOutButton"><translation>&amp;Leave Out</translation></message>
+    <message id="leaveOutExample"><translation>such as: cuff was loose</translation></message>
+    <message id="leaveOutExplained"><translation>%1: to be left out of averages, statistics and pictures. What is left out stays in the list, struck through, with its reason, and can be taken in again.</translation></message>
+    <message id="leaveOutNoReason"><translation>Please give a reason.</translation></message>
+    <message id="leaveOutReason"><translation>&amp;Reason:</translation></message>
+    <message id="leaveOutTitle"><translation>Leave Out</translation></message>
     <message id="mainMenu"><translation>Main menu</translation></message>
     <message id="manualChapters"><translation>Chapters</translation></message>
     <message id="manualTitle"><translation>Manual</translation></message>
@@ -434,6 +468,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="NewPatient"><translation>New patient</translation></message>
     <message id="newPatientButton"><translation>&amp;New</translation></message>
     <message id="newPatientHint"><translation>Enter a new patient (Ctrl+N).</translation></message>
+    <message id="newReadingAction"><translation>New Reading…</translation></message>
+    <message id="newReadingHint"><translation>Type in a reading that no monitor of yours has stored (Ctrl+N).</translation></message>
+    <message id="newReadingTitle"><translation>New Reading</translation></message>
     <message id="nextComment"><translation>Next comment</translation></message>
     <message id="nextHint"><translation>Next page (Page Down)</translation></message>
     <message id="nextPage"><translation>Next page</translation></message>
@@ -528,11 +565,14 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="ProgressProcessInfo"><translation>%1 of %2 readings</translation></message>
     <message id="pulseChart"><translation>Pulse over time, with the comments</translation></message>
     <message id="pulseScroller"><translation>Move the pulse scale</translation></message>
+    <message id="readingDay"><translation>Date</translation></message>
+    <message id="readingInWords"><translation>%1 %2, %3/%4, pulse %5</translation></message>
     <message id="readingList"><translation>List of readings</translation></message>
     <message id="readingsCounted"><translation>%1. Counted: %2</translation></message>
     <message id="readingsFromTo"><translation>%1, from %2 to %3</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
+    <message id="readingTime"><translation>Time</translation></message>
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
     <message id="redoFailed"><translation>“%1” was not done again. %2</translation></message>
     <message id="redone"><translation>Done again: %1</translation></message>
@@ -547,6 +587,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="savePatientHint"><translation>Save what was typed (Ctrl+S).</translation></message>
     <message id="savePdf"><translation>Save as PDF</translation></message>
     <message id="savePdfButton"><translation>Save as PD&amp;F …</translation></message>
+    <message id="saveReading"><translation>&amp;Save</translation></message>
     <message id="searchPatients"><translation>Search name or ID</translation></message>
     <message id="searchPatientsHint"><translation>Show only the patients whose name or ID holds this (Ctrl+F).</translation></message>
     <message id="selectAllRows"><translation>Select all</translation></message>
@@ -632,6 +673,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="tabPatients"><translation>&amp;Patients</translation></message>
     <message id="tabReadings"><translation>&amp;Readings</translation></message>
     <message id="tabShown"><translation>shown now</translation></message>
+    <message id="takeInAction"><translation>Take In Again</translation></message>
     <message id="timeScroller"><translation>Move the period through the readings</translation></message>
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
@@ -652,11 +694,13 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="undoFailed"><translation>“%1” was not undone. %2</translation></message>
     <message id="undone"><translation>Undone: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
+    <message id="unitPulse"><translation>beats per minute</translation></message>
     <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
     <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>
     <message id="unsavedTitle"><translation>Not saved yet</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 per minute</translation></message>
+    <message id="valueWithUnit"><translation>%1, %2</translation></message>
     <message id="viewAll"><translation>&amp;All</translation></message>
     <message id="viewAllHint"><translation>All readings, from the first day to the last.</translation></message>
     <message id="viewAM"><translation>A&amp;M</translation></message>
@@ -668,6 +712,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluded by the user</numerusform><numerusform>%n excluded by the user</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
@@ -703,6 +748,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n reading left out</numerusform><numerusform>○ %n readings left out</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolic too high</translation></message>
     <message id="evening"><translation>Evening</translation></message>
@@ -763,11 +809,14 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportGoesOn"><translation>goes on on the next page</translation></message>
     <message id="reportGraphComments"><translation>Numbered boxes: comments.</translation></message>
     <message id="reportGraphDownloads"><translation>↓: day of a download.</translation></message>
+    <message id="reportGraphExcluded"><translation>○: reading left out.</translation></message>
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>The limit of %1 lies outside the scale.</numerusform><numerusform>The limits of %1 lie outside the scale.</numerusform></translation></message>
     <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Dashed line: the limit of %1.</numerusform><numerusform>Dashed lines: the limits of %1.</numerusform></translation></message>
     <message id="reportGraphNote"><translation>Upper line: systolic pressure, lower line: diastolic pressure.</translation></message>
     <message id="reportHistogramNote"><translation>The length of a bar is the share of all readings, in percent, that lie within its 10 mmHg or 10 beats per minute.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>At or below %1: %2</numerusform><numerusform>At or below the limits of %1: %2</numerusform></translation></message>
+    <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulse %5</translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out, and why</numerusform><numerusform>%n readings left out, and why</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
@@ -786,6 +835,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportPatient"><translation>Patient Name=%1 %2  ID=%3</translation></message>
     <message id="reportPeriod"><translation>From: %1 To: %2</translation></message>
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="reportStruckThrough"><translation>struck through: left out of all that counts; the reasons stand behind the table</translation></message>
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
@@ -868,6 +918,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Whether the monitor's memory is empty now could not be seen. %1</translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n reading of the week is left out by the user.</numerusform><numerusform>%n readings of the week are left out by the user.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n reading of the first measuring day is not counted.</numerusform><numerusform>%n readings of the first measuring day are not counted.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
@@ -1031,7 +1082,12 @@ Options:
                                the folder of copies, and nothing else
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
-    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY] [--am | --pm] [--undated]
+    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY] [--am | --pm] [--undated] [--numbers]
+       zel readings --patient ID --exclude RECORD --reason TEXT
+       zel readings --patient ID --include RECORD
+       zel readings --patient ID --add --date DAY --time HH:MM --sys N --dia N --pulse N
+       zel readings --patient ID --change RECORD [--date DAY] [--time HH:MM] [--sys N] [--dia N] [--pulse N]
+       zel readings --patient ID --delete RECORD
 
 Prints a patient's readings as CSV, the oldest first, with the header
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Pressures are in mmHg, the pulse in beats per minute.
@@ -1040,6 +1096,12 @@ A reading that the monitor stored without a date has n.a and --:-- instead; it i
 line with its date, and n.a. for the rest; if there are too many of these to list them all, a sentence on
 standard error says so.
 
+With --exclude, --include, --add, --change or --delete, changes the data file instead. A reading that is left
+out stays in the file and in the list, with its reason, and counts nowhere; a sentence on standard error says
+how many of the readings printed are such. A reading that is typed in is marked as manual; the pressures and
+the pulse are whole numbers from 30 to 300, the diastolic pressure is below the systolic one, and the time is
+not in the future. --add prints 'record: RECORD'. Only readings that were typed in can be changed or deleted.
+
 Options:
   --patient ID                 whose readings
   --from DAY                   only from this day on (yyyy-MM-dd)
@@ -1047,6 +1109,19 @@ Options:
   --am                         only the readings before noon
   --pm                         only the readings from noon on
   --undated                    also the readings without a date
+  --numbers                    with two more columns: record, the reading's number in the data file, and
+                               excluded, why it is left out (empty: it counts)
+  --exclude RECORD             leave the reading with this number out of all that counts
+  --reason TEXT                why
+  --include RECORD             have it count again
+  --add                        store a reading that you type in
+  --change RECORD              change one that was typed in; what is not given stays as it is
+  --delete RECORD              delete one that was typed in
+  --date DAY                   the day on which it was taken (yyyy-MM-dd)
+  --time HH:MM                 the time, from 00:00 to 23:59
+  --sys N                      systolic pressure, mmHg
+  --dia N                      diastolic pressure, mmHg
+  --pulse N                    beats per minute
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpReport"><translation>Usage: zel report --patient ID --section KEY[,KEY...] --output FILE.pdf [OPTION]...
@@ -1123,8 +1198,11 @@ Options:
     <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
     <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
+    <message id="CliNoSuchReading"><translation>the patient has no reading with the number %1 (zel readings --numbers prints the numbers)</translation></message>
     <message id="CliNoSuchRule"><translation>There is no rule '%1'. The rules are %2.</translation></message>
     <message id="CliNoSuchSection"><translation>There is no section '%1'. The sections are all, or any of %2, with commas between them.</translation></message>
+    <message id="CliNotExcluded"><translation>the reading %1 is not left out</translation></message>
+    <message id="CliNotTogether"><translation>--%1 and --%2 do not go together</translation></message>
     <message id="CliOneJob"><translation>Only one of --set-clock, --send-id and --erase can be done at a time.</translation></message>
     <message id="CliOptionMissing"><translation>--%1 is missing, or its value is empty.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 is given more than once.</translation></message>
@@ -1134,6 +1212,9 @@ Options:
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= needs the name of a file behind it; alone, without '=', it is the built-in monitor.</translation></message>
     <message id="CliProgress"><translation>Received %1 of %2 readings</translation></message>
     <message id="CliReadableByOthers"><translation>Other users of this computer can read %1. 'zel privacy --mend' keeps them out.</translation></message>
+    <message id="CliReadingJobMissing"><translation>--reason goes with --exclude; --date, --time, --sys, --dia and --pulse go with --add or --change</translation></message>
+    <message id="CliReadingNotUnique"><translation>several readings have the number %1; which one is meant cannot be told</translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out of all that counts; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out of all that counts; --numbers tells which, and why</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>
     <message id="CliSettingTwice"><translation>The setting %1 is given more than once.</translation></message>

@@ -28,8 +28,18 @@ DayNumber lastDay(const ReadingList& readings) {
     return last;
 }
 
+bool isOnDayOf(const MeasuringWeek& week, const ReadingModel& reading) {
+    return week.begin <= reading.day && reading.day <= week.end;
+}
+
 bool isOfWeek(const ReadingModel& reading, const MeasuringWeek& week) {
-    return isAveraged(reading) && week.begin <= reading.day && reading.day <= week.end;
+    return isAveraged(reading) && isOnDayOf(week, reading);
+}
+
+int excludedOf(const ReadingList& readings, const MeasuringWeek& week) {
+    return static_cast<int>(std::ranges::count_if(readings, [&week](const ReadingModel& reading) {
+        return reading.isExcluded() && !reading.isUndated() && isOnDayOf(week, reading);
+    }));
 }
 
 WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {
@@ -95,6 +105,7 @@ MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule, s
     if (week.end != noDay) {
         week.begin = week.end - (daysOfWeek - 1);
         const std::size_t firstUsed = countDays(week, daysOf(readings, week), facts);
+        week.excluded = excludedOf(readings, week);
         addMeans(week, readings, week.begin + static_cast<DayNumber>(firstUsed));
     }
     week.missingDays = std::max(0, facts.days - week.daysUsed - week.daysLeftOut);

@@ -50,6 +50,7 @@ struct MeasuringWeek {
     int daysUsed = 0; ///< measuring days that count
     int daysLeftOut = 0;
     int readingsLeftOut = 0; ///< those of the days left out
+    int excluded = 0;        ///< readings of the week that the user has left out
     int missingDays = 0;
     int missingReadings = 0;
     int missingMornings = 0; ///< readings, like the next

@@ -25,8 +25,11 @@ ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& 
     ReadingSelection counted = selection;
     if (rule == isInChart) counted.includeUndated = false; // why the chart leaves them out, wanted or not
     ReadingCount count;
-    for (const ReadingModel& reading : readings)
-        ++(count.*(rule(reading, counted) ? &ReadingCount::counted : reasonFor(reading, counted)));
+    for (const ReadingModel& reading : readings) {
+        const bool isTaken = rule(reading, counted);
+        ++(count.*(isTaken ? &ReadingCount::counted : reasonFor(reading, counted)));
+        if (isTaken && reading.isExcluded()) ++count.listedExcluded;
+    }
     return count;
 }
 
@@ -42,7 +45,8 @@ QString describeLeftOut(const ReadingCount& count) {
 }
 
 QString describe(const ReadingCount& count) {
-    const QString counted = qtTrId("readingCount", count.counted);
+    QString counted = qtTrId("readingCount", count.counted);
+    if (count.listedExcluded > 0) counted += qtTrId("listedExcluded", count.listedExcluded);
     const QString left = describeLeftOut(count);
     return left.isEmpty() ? counted : counted + QStringLiteral("; ") + left;
 }

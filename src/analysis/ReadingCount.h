@@ -17,6 +17,7 @@ struct ReadingCount {
     int undated = 0;     ///< the monitor's clock was not set, and such readings are not wanted or not drawn
     int withoutDate = 0; ///< no date at all, which the view never counts
     int excluded = 0;    ///< left out by the user
+    int listedExcluded = 0; ///< of those counted: a list has them all the same
 
     bool operator==(const ReadingCount&) const = default;
 };
@@ -29,7 +30,7 @@ using CountRule = bool (*)(const ReadingModel& reading, const ReadingSelection& 
 
 /// "1 outside the period, 2 undated ones not counted"; empty where all are counted.
 [[nodiscard]] QString describeLeftOut(const ReadingCount& count);
-/// "60 readings; 2 undated ones not counted".
+/// "60 readings; 2 undated ones not counted"; "60 readings, 2 of them left out" of a list.
 [[nodiscard]] QString describe(const ReadingCount& count);
 
 } // namespace zel

@@ -3,7 +3,9 @@
 #include "cli/Csv.h"
 #include "cli/OpenStore.h"
 #include "cli/PeriodOptions.h"
+#include "cli/ReadingChanges.h"
 #include "cli/Usage.h"
+#include "store/ManualReading.h"
 #include "store/RecordXml.h"
 
 #include <QTime>
@@ -34,20 +36,45 @@ QStringList fields(const ReadingModel& reading) {
     return fields << reading.getMamStr() << reading.getPadStr();
 }
 
-QString line(const ReadingRow& row) {
-    if (!row.isNA()) return csvLine(fields(*row.reading));
-    return csvLine(QStringList(dayText(row.day, u"yyyy-MM-dd"_s)) + QStringList(columns - 1, u"n.a."_s));
-}
+/// The lines of one call, with the columns that are asked for.
+class Lines {
+public:
+    explicit Lines(bool withNumbers) : hasNumbers(withNumbers) {
+        QString titles = u"date,time,sys,dia,pulse,map,pp,mam,arrhythmia"_s;
+        if (hasNumbers) titles += u",record,excluded"_s;
+        lines += titles;
+    }
+    void add(const ReadingModel& reading) {
+        QStringList all = fields(reading);
+        if (hasNumbers) all << reading.RecID << describeExclusion(reading);
+        lines += csvLine(all);
+        if (reading.isExcluded()) ++excluded;
+    }
+    void add(const ReadingRow& row) {
+        if (!row.isNA()) return add(*row.reading);
+        QStringList all =
+            QStringList(dayText(row.day, u"yyyy-MM-dd"_s)) + QStringList(columns - 1, u"n.a."_s);
+        if (hasNumbers) all << QString() << QString();
+        lines += csvLine(all);
+    }
+    void print(Surroundings& around) const {
+        printLine(around.out, lines.join(u'\n'));
+        if (excluded > 0) printLine(around.err, qtTrId("CliReadingsExcluded", excluded));
+    }
+
+private:
+    bool hasNumbers;
+    int excluded = 0;
+    QStringList lines;
+};
 
 /// Readings that have not even the monitor's mark for no date; no view shows them.
-QStringList withoutAnyDate(const ReadingList& readings) {
-    QStringList lines;
+void addWithoutAnyDate(Lines& lines, const ReadingList& readings) {
     for (const ReadingModel& reading : readings)
-        if (reading.isUndated() && !hasUndatedMarker(reading)) lines += csvLine(fields(reading));
-    return lines;
+        if (reading.isUndated() && !hasUndatedMarker(reading)) lines.add(reading);
 }
 
-CommandResult runReadings(const Request& request, Surroundings& around) {
+CommandResult listReadings(const Request& request, Surroundings& around) {
     const auto ID = requiredValue(request, u"patient"_s);
     if (!ID) return tl::unexpected(ID.error());
     const auto days = dayRange(request);
@@ -64,14 +91,18 @@ CommandResult runReadings(const Request& request, Surroundings& around) {
                                          isAll || request.options.isSet(u"undated"_s)};
         const ReadingRowSource source{readings, (*store)->getCommentForCurID(),
                                       (*store)->getTrasferLogForCurID(), selection};
-        QStringList lines(u"date,time,sys,dia,pulse,map,pp,mam,arrhythmia"_s);
-        if (isAll) lines += withoutAnyDate(readings);
+        Lines lines(request.options.isSet(u"numbers"_s));
+        if (isAll) addWithoutAnyDate(lines, readings);
         const ReadingRows list = assembleReadingRows(source, LocalZone{});
         for (const ReadingRow& row : list.rows)
-            lines += line(row);
-        printLine(around.out, lines.join(u'\n'));
+            lines.add(row);
+        lines.print(around);
         if (list.isCut) printLine(around.err, describeCut(list));
     });
+}
+
+CommandResult runReadings(const Request& request, Surroundings& around) {
+    return asksForReadingChange(request) ? changeReadings(request, around) : listReadings(request, around);
 }
 
 } // namespace
@@ -79,8 +110,9 @@ CommandResult runReadings(const Request& request, Surroundings& around) {
 Command readingsCommand() {
     return {"readings", [] { return qtTrId("CliHelpReadings"); },
             [] {
-                return QList{valued(u"patient"_s), valued(u"from"_s), valued(u"to"_s),
-                             flag(u"am"_s),        flag(u"pm"_s),     flag(u"undated"_s)};
+                return QList{valued(u"patient"_s), valued(u"from"_s),  valued(u"to"_s),   flag(u"am"_s),
+                             flag(u"pm"_s),        flag(u"undated"_s), flag(u"numbers"_s)}
+                       + readingChangeOptions();
             },
             runReadings};
 }

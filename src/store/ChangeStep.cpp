@@ -6,6 +6,7 @@
 namespace zel {
 
 QString describe(const StepName& name) {
+    const auto readings = static_cast<int>(name.count);
     switch (name.kind) {
     case StepKind::addPatient: return qtTrId("stepAddPatient").arg(name.subject);
     case StepKind::editPatient: return qtTrId("stepEditPatient").arg(name.subject);
@@ -14,6 +15,11 @@ QString describe(const StepName& name) {
     case StepKind::editComment: return qtTrId("stepEditComment").arg(name.subject);
     case StepKind::deleteComment: return qtTrId("stepDeleteComment").arg(name.subject);
     case StepKind::importPatients: return qtTrId("stepImport").arg(name.subject);
+    case StepKind::excludeReadings: return qtTrId("stepExcludeReadings", readings).arg(name.subject);
+    case StepKind::includeReadings: return qtTrId("stepIncludeReadings", readings).arg(name.subject);
+    case StepKind::addReading: return qtTrId("stepAddReading").arg(name.subject);
+    case StepKind::editReading: return qtTrId("stepEditReading").arg(name.subject);
+    case StepKind::deleteReadings: return qtTrId("stepDeleteReadings", readings).arg(name.subject);
     case StepKind::changeSettings: return qtTrId("stepSettings");
     }
     return {};

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstddef>
 #include <vector>
 
 namespace zel {
@@ -16,15 +17,21 @@ enum class StepKind {
     editComment,
     deleteComment,
     importPatients,
+    excludeReadings,
+    includeReadings,
+    addReading,
+    editReading,
+    deleteReadings,
     changeSettings,
 };
 
 /// What the user did, and to whom.
 struct StepName {
     StepKind kind = StepKind::changeSettings;
-    QString subject;   ///< the patient's name, or that of the imported file; empty for the settings
-    QString patientID; ///< the patient's or the comment's patient's; the first of an imported file's
-    QString commentID; ///< as CommentModel::CommentID; null unless the step is about a comment
+    QString subject;       ///< the patient's name, or that of the imported file; empty for the settings
+    QString patientID;     ///< the patient's or the comment's patient's; the first of an imported file's
+    QString commentID;     ///< as CommentModel::CommentID; null unless the step is about a comment
+    std::size_t count = 0; ///< of the readings; 0 unless the step is about readings
 
     bool operator==(const StepName&) const = default;
 };

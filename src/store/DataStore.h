@@ -4,6 +4,7 @@
 #include "store/ChangeHistory.h"
 #include "store/Clock.h"
 #include "store/DataFile.h"
+#include "store/ManualReading.h"
 #include "store/MessagePanel.h"
 #include "store/PatientExport.h"
 #include "store/PatientImport.h"
@@ -122,6 +123,22 @@ public:
     void setSelectedComment(const QString& commentID);
     [[nodiscard]] const CommentModel* getSelectedComment() const;
 
+    // Readings: each is looked for by its patient and number, and as it was read; all of them are one
+    // patient's. readingGone or changedElsewhere if one of them is not there so any more, and nothing is
+    // changed. Each call is one step, and reloads.
+
+    /// Leaves the readings out of all that counts; those that are left out already get this reason.
+    /// \return noReason if exclusionReason() makes nothing of it
+    [[nodiscard]] StoreResult excludeReadings(const ReadingList& asRead, const QString& reason);
+    [[nodiscard]] StoreResult includeReadings(const ReadingList& asRead); ///< has them count again
+    /// Stores a reading that was typed in. \return its number; readingRefused as manualProblem() has it;
+    /// readingKnown if the patient has one of that minute with these values; noSuchRecord without the patient
+    [[nodiscard]] tl::expected<QString, StoreError> addReading(const QString& ID, const ManualReading& typed);
+    /// As addReading(); notManual for one that was downloaded.
+    [[nodiscard]] StoreResult changeReading(const ReadingModel& asRead, const ManualReading& typed);
+    /// notManual if one of them was downloaded.
+    [[nodiscard]] StoreResult deleteReadings(const ReadingList& asRead);
+
     void setCurrentID(const QString& ID); ///< emits currentIDChanged() on a change
     [[nodiscard]] const QString& getCurrentID() const;
     [[nodiscard]] const ReadingList& getReadingForCurID() const;
@@ -164,6 +181,8 @@ private:
     [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
     [[nodiscard]] StoreResult editAsStepAndReload(const StepChange& change);
+    template <class Change>
+    [[nodiscard]] StoreResult changeReadings(StepKind kind, const ReadingList& asRead, const Change& change);
     [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,
                                                   std::size_t count) const;
     void keepSelectedComment();

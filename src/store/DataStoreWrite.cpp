@@ -60,15 +60,6 @@ pugi::xml_node findPatientWithoutID(pugi::xml_node root, const PatientModel& asR
     });
 }
 
-/// After the patient's last reading, so that a patient's readings stay together; after all if it has none.
-pugi::xml_node placeForReadings(pugi::xml_node root, const QString& ID) {
-    const pugi::xml_node last = lastElement(root, "MeasureRec");
-    for (pugi::xml_node at = last; at; at = at.previous_sibling()) {
-        if (isElement(at, "MeasureRec") && childText(at, "ID") == ID) return at;
-    }
-    return last;
-}
-
 /// For the patient and with numbers of their own.
 void number(ReadingList& readings, const QString& ID, QString next) {
     for (ReadingModel& reading : readings) {

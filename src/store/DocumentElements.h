@@ -24,6 +24,16 @@ namespace zel {
         [&](pugi::xml_node node) { return isElement(node, name) && childText(node, child) == text; });
 }
 
+/// Where a patient's new readings go: behind the last one, so that they stay together; behind all if there is
+/// none.
+[[nodiscard]] inline pugi::xml_node placeForReadings(pugi::xml_node root, const QString& ID) {
+    const pugi::xml_node last = lastElement(root, "MeasureRec");
+    for (pugi::xml_node at = last; at; at = at.previous_sibling()) {
+        if (isElement(at, "MeasureRec") && childText(at, "ID") == ID) return at;
+    }
+    return last;
+}
+
 /// A new, empty element right after \p last, or at the end of \p root where there is none. The caller fills
 /// it.
 template <class Record>

@@ -21,6 +21,15 @@ Likeness likeness(const ReadingModel& reading, const Date& time, const LocalZone
     return {isNilDay(zone.day(reading.ReadingDate)) ? Date{} : time, reading.values()};
 }
 
+/// What a reading that was typed in has of one: minute and the three values that the monitor shows.
+Likeness shownLikeness(const ReadingModel& reading, const Date& time) {
+    const auto minute = [](Instant at) { return Instant{std::chrono::floor<std::chrono::minutes>(at)}; };
+    return {time ? Date{minute(*time)} : time, {0, reading.pulse, reading.dia, reading.sys}};
+}
+
+/// The monitor found an irregular heartbeat, which nobody types in.
+bool hasFinding(const ReadingModel& reading) { return reading.Arrhythmia == 2 || reading.Arrhythmia == 5; }
+
 /// The stored readings that no reading of the download has been found to be yet.
 class UnmatchedReadings {
 public:
@@ -32,11 +41,18 @@ public:
             const Date wall = XMLStrToWallClock({date.constData(), static_cast<std::size_t>(date.size())});
             byWall[likeness(reading, wall, zone)].push_back(isMatched.size());
             byInstant[likeness(reading, reading.ReadingDate, zone)].push_back(isMatched.size());
+            if (reading.isManual) {
+                typedByWall[shownLikeness(reading, wall)].push_back(isMatched.size());
+                typedByInstant[shownLikeness(reading, reading.ReadingDate)].push_back(isMatched.size());
+            }
             isMatched.push_back(false);
         }
     }
     bool matchWall(const Likeness& wanted) { return match(byWall, wanted); }
     bool matchInstant(const Likeness& wanted) { return match(byInstant, wanted); }
+    bool matchTyped(const Likeness& wall, const Likeness& instant) {
+        return match(typedByWall, wall) || match(typedByInstant, instant);
+    }
 
 private:
     using Index = std::map<Likeness, std::vector<std::size_t>>;
@@ -54,6 +70,8 @@ private:
     }
     Index byWall;
     Index byInstant;
+    Index typedByWall;
+    Index typedByInstant;
     std::vector<bool> isMatched;
 };
 
@@ -68,6 +86,11 @@ ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList down
     });
     std::erase_if(downloaded, [&](const ReadingModel& reading) {
         return stored.matchInstant(likeness(reading, reading.ReadingDate, zone));
+    });
+    std::erase_if(downloaded, [&](const ReadingModel& reading) {
+        return !hasFinding(reading)
+               && stored.matchTyped(shownLikeness(reading, zone.wallClock(reading.ReadingDate)),
+                                    shownLikeness(reading, reading.ReadingDate));
     });
     return downloaded;
 }

@@ -11,8 +11,9 @@ namespace zel {
 
 /// Those of \p downloaded that the patient with that ID does not have below \p root, in their order. A
 /// reading is stored if one with equal values is of the same instant or shows the same date and time in its
-/// text: the monitor's clock knows no time zone. Each stored reading stands for one of the download, so that
-/// of two equal ones the second is new when one is stored.
+/// text: the monitor's clock knows no time zone. One that the user typed in stands for one of that minute
+/// with the same pressures and pulse, unless the monitor found an irregular heartbeat. Each stored reading
+/// stands for one of the download, so that of two equal ones the second is new when one is stored.
 [[nodiscard]] ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList downloaded);
 
 } // namespace zel

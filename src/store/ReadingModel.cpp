@@ -2,6 +2,8 @@
 
 #include "store/RecordXml.h"
 
+#include <QStringList>
+
 #include <array>
 
 namespace zel {
@@ -25,6 +27,19 @@ void readDate(R& reading, std::string_view text) {
 
 /// A child that only some readings have, behind the others; makeXmlNode() makes none.
 void readSource(R& reading, std::string_view text) { reading.isManual = text == "manual"; }
+QString sourceText(const R& reading) { return reading.isManual ? u"manual"_s : QString{}; }
+
+void setChildText(pugi::xml_node element, const char* name, const QString& text) {
+    pugi::xml_node child = firstElement(element, name);
+    if (!child) child = element.append_child(name);
+    setElementText(child, text);
+}
+
+/// All of them: behind the first that every reader takes, there may be another one.
+void removeChildren(pugi::xml_node element, const char* name) {
+    while (const pugi::xml_node child = firstElement(element, name))
+        element.remove_child(child);
+}
 
 constexpr std::array readingChildren{
     xml::text<R, &R::ID>("ID"),
@@ -40,7 +55,7 @@ constexpr std::array readingChildren{
     XmlChild<R>{"Error"},
     notMade(xml::number<R, &R::erorr>("Erorr")),
     notMade(xml::text<R, &R::exclusion>("Excluded")),
-    notMade({"Source", readSource}),
+    notMade({"Source", readSource, sourceText}),
 };
 constexpr std::span<const XmlChild<R>> readingTable{readingChildren};
 
@@ -57,6 +72,16 @@ int hourOnDial(int minuteOfDay) {
 }
 
 QString twoDigits(int value) { return u"%1"_s.arg(value, 2, 10, QLatin1Char{'0'}); }
+
+/// What stands behind a line's last comma, in a column without a title, which is empty for all others.
+QString exportedMark(const R& reading) {
+    QStringList marks;
+    if (reading.isManual) marks += u"manual"_s;
+    if (reading.isExcluded()) marks += QString{u"excluded: "_s + reading.exclusion.simplified()}.trimmed();
+    QString mark = marks.join(u"; "_s);
+    const bool isQuoted = mark.contains(u',') || mark.contains(u'"');
+    return isQuoted ? u'"' + mark.replace(u'"', u"\"\""_s) + u'"' : mark;
+}
 
 } // namespace
 
@@ -81,6 +106,19 @@ pugi::xml_node ReadingModel::makeXmlNode(pugi::xml_node root) {
 
 void ReadingModel::updateXMLNode(pugi::xml_node element) const {
     writeChildren(*this, element, readingTable);
+}
+
+void ReadingModel::changeXMLNode(pugi::xml_node element, const ReadingModel& before) const {
+    for (const XmlChild<R>& known : readingTable) {
+        if (!known.write) continue;
+        const QString text = known.write(*this);
+        const QString old = known.write(before);
+        if (text == old && text.isNull() == old.isNull()) continue;
+        if (text.isNull())
+            removeChildren(element, known.name);
+        else
+            setChildText(element, known.name, text);
+    }
 }
 
 bool ReadingModel::isSame(const ReadingModel& other) const {
@@ -114,7 +152,7 @@ QString ReadingModel::exportCSV(const SettingModel& settings) const {
     QString line = date + u',';
     for (const std::uint32_t value : {sys, dia, pulse, map})
         line += toDecimal(value) + u',';
-    return line + getMamStr() + u',' + getPadStr() + u",\n"_s;
+    return line + getMamStr() + u',' + getPadStr() + u',' + exportedMark(*this) + u'\n';
 }
 
 void ReadingModel::postInit(const ReadingModel* previous, const SettingModel& settings,

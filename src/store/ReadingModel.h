@@ -47,6 +47,9 @@ struct ReadingModel {
     static pugi::xml_node makeXmlNode(pugi::xml_node root);
     /// Sets the text of each existing child whose name is known; adds none.
     void updateXMLNode(pugi::xml_node element) const;
+    /// Writes what differs from \p before, in children of its own where they are missing, and removes those
+    /// of what it has no longer; the others keep their text.
+    void changeXMLNode(pugi::xml_node element, const ReadingModel& before) const;
 
     /// Equal in date and every measured value; ID, RecID and display state are not compared. No date and the
     /// file's text for none are one.
@@ -63,7 +66,8 @@ struct ReadingModel {
     [[nodiscard]] QString getPadStr() const; ///< "Yes", "No" or "N/A", as in exported files
     [[nodiscard]] QString getMamStr() const; ///< "Yes" or "No", as in exported files
 
-    /// The reading's line in an exported CSV file, with its end; date and time are empty when undated.
+    /// The reading's line in an exported CSV file, with its end; date and time are empty when undated. Behind
+    /// the last comma stands "manual" or "excluded: ..." with the reason, where it is.
     [[nodiscard]] QString exportCSV(const SettingModel& settings) const;
 
     /// Places the reading in its local day and after the reading listed before it (or none).

@@ -15,6 +15,8 @@ public:
     /// null: there is none, and the ID stands for the name
     void setName(StepKind kind, pugi::xml_node patient, const QString& ID, const QString& commentID = {});
 
+    void setCount(std::size_t readings) { made.name.count = readings; } ///< after the name
+
     void willChange(pugi::xml_node element); ///< before its first change
     void willRemove(pugi::xml_node element); ///< a null one is none
     void added(pugi::xml_node element);      ///< at its place; its content may still change

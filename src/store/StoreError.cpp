@@ -25,6 +25,11 @@ QString sentence(StoreErrorCode code) {
     case StoreErrorCode::changedElsewhere: return qtTrId("StoreChangedElsewhere");
     case StoreErrorCode::alreadyKnown: return qtTrId("StoreAlreadyKnown");
     case StoreErrorCode::invalidRecord: return qtTrId("StoreInvalidRecord");
+    case StoreErrorCode::readingGone: return qtTrId("StoreReadingGone");
+    case StoreErrorCode::readingKnown: return qtTrId("StoreReadingKnown");
+    case StoreErrorCode::readingRefused: return qtTrId("StoreReadingRefused");
+    case StoreErrorCode::notManual: return qtTrId("StoreNotManual");
+    case StoreErrorCode::noReason: return qtTrId("StoreNoReason");
     case StoreErrorCode::alreadyExists: return qtTrId("ExportAlreadyExists");
     case StoreErrorCode::isDataFile: return qtTrId("ExportIsDataFile");
     case StoreErrorCode::noSuchBackup: return qtTrId("StoreNoSuchBackup");

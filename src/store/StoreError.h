@@ -25,6 +25,11 @@ enum class StoreErrorCode {
                       ///< read here
     alreadyKnown,     ///< a record with the given ID exists
     invalidRecord,    ///< the record lacks what it needs to be stored
+    readingGone,      ///< the reading is no longer in the file
+    readingKnown,     ///< the patient has a reading of that minute with these values
+    readingRefused,   ///< what was typed is no reading, detail says why
+    notManual,        ///< a reading that was downloaded is neither changed nor deleted
+    noReason,         ///< a reading is left out for a reason only
     alreadyExists,    ///< the file to write is there and may not be replaced
     isDataFile,       ///< the file to write is the data file itself
     noSuchBackup,     ///< no copy of the data file has that name, the path

@@ -21,6 +21,7 @@ protected:
         return zel(QString::fromLatin1(line).split(u' ') + QStringList{u"--patient=M1"_s});
     }
     std::string of(const char* line) { return run(line).out; }
+    [[nodiscard]] QByteArray flatData() const { return data().simplified().replace("> <", "><"); }
 };
 
 TEST_F(AnalysisTest, ReadingsAreTheListOfThePeriod) {
@@ -78,6 +79,56 @@ TEST_F(AnalysisTest, WhatIsLeftOutIsTold) {
     EXPECT_EQ(run("readings").err, "");
     setData(data().replace("2026-11-01T", "1700-11-01T"));
     EXPECT_THAT(run("readings --from 1700-01-01").err, testing::HasSubstr("at most 36525"));
+}
+
+TEST_F(AnalysisTest, ReadingIsLeftOutAndTakenInAgain) {
+    const std::string titles = "date,time,sys,dia,pulse,map,pp,mam,arrhythmia,record,excluded\n";
+    const std::string plain = of("readings");
+    const QByteArray before = flatData();
+    EXPECT_THAT(of("readings --numbers --to 2026-11-04"),
+                testing::AllOf(testing::StartsWith(titles), testing::HasSubstr(",102,73,39,No,No,1000004,\n"),
+                               testing::HasSubstr("2026-11-04,n.a.,n.a.,n.a.,n.a.,n.a.,n.a.,n.a.,n.a.,,\n")));
+    const QStringList exclude{u"readings"_s, u"--patient=M1"_s, u"--exclude=1000004"_s,
+                              u"--reason=cuff, loose"_s};
+    const Outcome done = zel(exclude);
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.out + done.err, "");
+    EXPECT_EQ(of("readings"), plain) << "it stays in the list";
+    EXPECT_THAT(of("readings --numbers"), testing::HasSubstr(",1000004,\"cuff, loose\"\n"));
+    EXPECT_EQ(run("readings").err,
+              "1 of these readings is left out of all that counts; --numbers tells which, and why\n");
+    EXPECT_EQ(of("statistics"), "sys: 136 120 152\ndia: 84 80 88\npulse: 69 66 71\npp: 52 40 64\n");
+    EXPECT_EQ(run("statistics").err, "2 readings; 1 excluded one, 1 undated one not counted\n");
+    EXPECT_EQ(run("average --to 2026-11-03 --rule aha").err,
+              "1 reading of the week is left out by the user.\n");
+    EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient=M1"_s}).status, 0);
+    EXPECT_EQ(flatData().count("<Excluded>"), 1);
+    EXPECT_EQ(run("readings --include 1000004").status, 0);
+    EXPECT_EQ(flatData(), before);
+    for (const auto& [line, words] :
+         {std::pair{"readings --include 1000004", "1000004 is not left out"},
+          std::pair{"readings --include 1000009", "no reading with the number 1000009"},
+          std::pair{"readings --delete 1000004", "neither changed nor deleted"},
+          std::pair{"readings --change 1000004 --sys 120", "neither changed nor deleted"}}) {
+        const Outcome refused = run(line);
+        EXPECT_EQ(refused.status, 1) << line;
+        EXPECT_THAT(refused.err, testing::HasSubstr(words));
+    }
+    EXPECT_EQ(flatData(), before);
+}
+
+TEST_F(AnalysisTest, ReadingIsTypedInChangedAndDeleted) {
+    const QByteArray before = flatData();
+    const char* add = "readings --add --date 2026-11-04 --time 07:05 --sys 128 --dia 82 --pulse 64";
+    EXPECT_EQ(of(add), "record: 1000005\n");
+    EXPECT_THAT(of("readings"), testing::HasSubstr("2026-11-04,07:05,128,82,64,97,46,No,N/A\n"));
+    EXPECT_THAT(run(add).err, testing::HasSubstr("with these values already"));
+    EXPECT_EQ(run("readings --change 1000005 --time 07:06 --dia 80").status, 0);
+    EXPECT_THAT(of("readings"), testing::HasSubstr("2026-11-04,07:06,128,80,64,96,48,No,N/A\n"));
+    EXPECT_EQ(run("readings --change 1000005 --dia 128").status, 2);
+    EXPECT_EQ(run("readings --delete 1000005").status, 0);
+    EXPECT_EQ(flatData(), before);
+    EXPECT_EQ(zel({u"readings"_s, u"--patient=B"_s, u"--delete=1000005"_s}).status, 1);
 }
 
 } // namespace

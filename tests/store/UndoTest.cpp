@@ -29,6 +29,12 @@ StepName of(StepKind kind, const QString& subject = u"Smith, Margaret"_s, const 
     return {kind, subject, ID, {}};
 }
 
+StepName ofReadings(StepKind kind, std::size_t count) {
+    StepName name = of(kind);
+    name.count = count;
+    return name;
+}
+
 struct UndoTest : DataStoreTest {
     QString imported = home.filePath(u"more.xml"_s);
 
@@ -102,6 +108,13 @@ struct UndoTest : DataStoreTest {
             {of(deleteComment), [this] { dropComment(0); }},
             {of(importPatients, u"more.xml"_s, u"I"_s), [this] { ASSERT_TRUE(store.importXml(imported)); }},
             {settings, [this] { changeSetting(130); }},
+            {ofReadings(excludeReadings, 2),
+             [this] { ASSERT_TRUE(store.excludeReadings(store.getReadingForCurID(), u"cuff"_s)); }},
+            {ofReadings(addReading, 1),
+             [this] {
+                 ASSERT_TRUE(store.addReading(
+                     u"A"_s, {std::chrono::floor<Instant::duration>(clock.now()), 120, 80, 70}));
+             }},
         };
     }
     StoreErrorCode undone() {

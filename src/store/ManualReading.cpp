@@ -1,0 +1,88 @@
+#include "store/ManualReading.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace zel {
+
+namespace {
+
+auto minuteOf(Instant time) { return std::chrono::floor<std::chrono::minutes>(time); }
+
+bool isInRange(std::uint32_t value) { return leastManualValue <= value && value <= mostManualValue; }
+
+/// What an element can hold on one line.
+bool isPlain(QChar c) {
+    return c.category() != QChar::Other_Control && c != QChar{0xFFFE} && c != QChar{0xFFFF};
+}
+
+} // namespace
+
+ManualReading ManualReading::of(const ReadingModel& reading) {
+    return {reading.ReadingDate, reading.sys, reading.dia, reading.pulse};
+}
+
+ReadingModel ManualReading::writtenOver(ReadingModel reading) const {
+    const bool isSameMinute =
+        time && reading.ReadingDate && minuteOf(*time) == minuteOf(*reading.ReadingDate);
+    if (!isSameMinute) reading.ReadingDate = time;
+    reading.sys = sys;
+    reading.dia = dia;
+    reading.pulse = pulse;
+    reading.map = dia + (sys - dia) / 3; // as the monitor's readings have it
+    reading.pp = sys - dia;
+    reading.isManual = true;
+    return reading;
+}
+
+Date typedTime(const QString& date, const QString& time) {
+    const QString pattern = QStringLiteral("yyyy-MM-dd HH:mm");
+    const QString typed = date + u' ' + time;
+    const Date read = StrToDate(typed, pattern);
+    return DateToStr(read, pattern) == typed ? read : Date{};
+}
+
+std::optional<ManualProblem> manualProblem(const ManualReading& typed, Instant now) {
+    if (!typed.time || isUndatedDay(LocalZone{}.day(typed.time))) return ManualProblem::noDate;
+    if (minuteOf(*typed.time) > minuteOf(now)) return ManualProblem::inFuture;
+    if (!isInRange(typed.sys)) return ManualProblem::sys;
+    if (!isInRange(typed.dia)) return ManualProblem::dia;
+    if (!isInRange(typed.pulse)) return ManualProblem::pulse;
+    if (typed.dia >= typed.sys) return ManualProblem::diaNotBelowSys;
+    return std::nullopt;
+}
+
+QString describe(ManualProblem problem) {
+    const auto range = [](const QString& text) { return text.arg(leastManualValue).arg(mostManualValue); };
+    switch (problem) {
+    case ManualProblem::noDate: return qtTrId("ManualNoDate");
+    case ManualProblem::inFuture: return qtTrId("ManualInFuture");
+    case ManualProblem::sys: return range(qtTrId("ManualSys"));
+    case ManualProblem::dia: return range(qtTrId("ManualDia"));
+    case ManualProblem::pulse: return range(qtTrId("ManualPulse"));
+    case ManualProblem::diaNotBelowSys: return qtTrId("ManualDiaNotBelowSys");
+    }
+    return {};
+}
+
+QString exclusionReason(const QString& typed) {
+    QString kept;
+    std::ranges::copy_if(typed.simplified(), std::back_inserter(kept), isPlain);
+    return kept.simplified();
+}
+
+QString describeExclusion(const ReadingModel& reading) {
+    if (!reading.isExcluded()) return {};
+    const QString reason = reading.exclusion.simplified();
+    return reason.isEmpty() ? qtTrId("ExcludedWithoutReason") : reason;
+}
+
+QString describeRemark(const ReadingModel& reading) {
+    QStringList remarks;
+    if (reading.isManual) remarks += qtTrId("remarkManual");
+    if (reading.isExcluded()) remarks += qtTrId("remarkExcluded").arg(describeExclusion(reading));
+    return remarks.join(QStringLiteral("; "));
+}
+
+} // namespace zel

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "store/ReadingModel.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace zel {
+
+/// A reading as the user types it.
+struct ManualReading {
+    Date time; ///< to the minute; none: what was typed is no date
+    std::uint32_t sys = 0;
+    std::uint32_t dia = 0;
+    std::uint32_t pulse = 0;
+
+    [[nodiscard]] static ManualReading of(const ReadingModel& reading);
+    /// \p reading with these values and what follows from them. Of the same minute, it keeps its instant.
+    [[nodiscard]] ReadingModel writtenOver(ReadingModel reading) const;
+};
+
+/// Date and time as typed, in the forms yyyy-MM-dd and HH:mm; none for anything else, and for a time that the
+/// clocks leave out when they are put forward.
+[[nodiscard]] Date typedTime(const QString& date, const QString& time);
+
+/// What each of the three values may be: mmHg, and beats per minute.
+inline constexpr std::uint32_t leastManualValue = 30;
+inline constexpr std::uint32_t mostManualValue = 300;
+
+enum class ManualProblem {
+    noDate,   ///< none, or a day that stands for none in the file format
+    inFuture, ///< a minute after the present one
+    sys,      ///< out of range, as are the next two
+    dia,
+    pulse,
+    diaNotBelowSys,
+};
+
+/// What is wrong with it first; none: it can be stored. \p now: the present
+[[nodiscard]] std::optional<ManualProblem> manualProblem(const ManualReading& typed, Instant now);
+/// In plain words, from the translation table.
+[[nodiscard]] QString describe(ManualProblem problem);
+
+/// The reason for leaving a reading out as it is stored, on one line; empty: it is none.
+[[nodiscard]] QString exclusionReason(const QString& typed);
+
+/// What is to be known of the reading beside its values: "typed in; left out: cuff was loose"; mostly empty.
+[[nodiscard]] QString describeRemark(const ReadingModel& reading);
+
+/// Why the reading is left out, also where the file has no words for it; empty if it is not.
+[[nodiscard]] QString describeExclusion(const ReadingModel& reading);
+
+} // namespace zel

@@ -1,0 +1,253 @@
+#include "DataStoreTest.h"
+#include "support/InZone.h"
+#include "support/RealTexts.h"
+
+namespace zel {
+namespace {
+
+using enum StoreErrorCode;
+
+const QByteArray ofMonitor =
+    "<MeasureRec tag='x'><ID>A</ID><RecID>1000001</RecID><ReadingDate>2026-11-20T07:30:00+00:00</ReadingDate>"
+    "<Sys>0150</Sys><Dia>90</Dia><Map>110</Map><PP>60</PP><Pulse>70</Pulse><Own>kept</Own></MeasureRec>"
+    "<MeasureRec><ID>A</ID><RecID>1000002</RecID><ReadingDate>2026-11-20T07:30:00+00:00</ReadingDate>"
+    "<Sys>150</Sys><Dia>90</Dia><Map>110</Map><PP>60</PP><Pulse>70</Pulse></MeasureRec>"
+    "<MeasureRec><ID>B</ID><RecID>1000001</RecID><Sys>150</Sys></MeasureRec>";
+
+/// The computer's clock stands at 2026-11-21 08:00 UTC.
+struct ReadingChangeTest : DataStoreTest {
+    const InZone zone{"UTC"};
+
+    ReadingChangeTest() { setData(ofMonitor); }
+    void setData(const QByteArray& records) {
+        dataFileOfA("<Patient><ID>B</ID></Patient>" + records);
+        ASSERT_TRUE(store.load());
+        store.setCurrentID(u"A"_s);
+    }
+    [[nodiscard]] const ReadingList& readings() const { return store.getReadingForCurID(); }
+    void elsewhere(const QByteArray& before, const QByteArray& after) {
+        QByteArray changed = content();
+        ASSERT_TRUE(changed.contains(before)) << before.constData();
+        write(path, changed.replace(before, after));
+    }
+    static QByteArray flat(const QByteArray& text) {
+        return text.simplified().replace("> <", "><").replace('\'', '"').replace(" />", "/>");
+    }
+    template <class Result>
+    static std::optional<StoreErrorCode> codeOf(const Result& result) {
+        return result ? std::nullopt : std::optional{result.error().code};
+    }
+    static ManualReading typed(const char* time, std::uint32_t sys = 120, std::uint32_t dia = 80,
+                               std::uint32_t pulse = 65) {
+        return {StrToDate(QString::fromLatin1(time), u"yyyy-MM-dd HH:mm"_s), sys, dia, pulse};
+    }
+    static ReadingModel downloaded(const char* time, std::uint32_t arrhythmia = 1) {
+        ReadingModel reading = typed(time).writtenOver({});
+        reading.isManual = false;
+        reading.Arrhythmia = arrhythmia;
+        return reading;
+    }
+    /// The patient's readings: values, then ! for one that is left out, with its reason, and m for a typed
+    /// one.
+    [[nodiscard]] std::string shown() const {
+        std::string text;
+        for (const ReadingModel& reading : readings()) {
+            text += std::to_string(reading.sys) + '/' + std::to_string(reading.dia);
+            if (reading.isExcluded()) text += '!' + describeExclusion(reading).toStdString();
+            text += reading.isManual ? "m " : " ";
+        }
+        return text;
+    }
+};
+
+TEST_F(ReadingChangeTest, LeavingOutAndTakingInWriteTheMarkOnly) {
+    const QByteArray before = content();
+    ASSERT_TRUE(store.excludeReadings({readings().front()}, u"  cuff\n too  loose\x07 "_s));
+    EXPECT_EQ(shown(), "150/90!cuff too loose 150/90 ");
+    QByteArray expected = before;
+    expected.replace("<Own>kept</Own>", "<Own>kept</Own><Excluded>cuff too loose</Excluded>");
+    EXPECT_EQ(flat(content()), flat(expected));
+    ASSERT_TRUE(store.excludeReadings({readings().front()}, u"another"_s));
+    EXPECT_EQ(content().count("<Excluded>"), 1);
+    ASSERT_TRUE(store.includeReadings({readings().front()}));
+    EXPECT_FALSE(content().contains("Excluded")) << content().constData();
+    EXPECT_TRUE(content().contains("<Sys>0150</Sys>"));
+}
+
+TEST_F(ReadingChangeTest, MarkWithoutTextOrTwiceIsTakenAwayWhole) {
+    const RealTexts texts;
+    for (const QByteArray& mark : {QByteArray{"<Excluded/>"}, QByteArray{"<Excluded></Excluded>"},
+                                   QByteArray{"<Excluded> \n </Excluded><Excluded>2</Excluded>"}}) {
+        setData(QByteArray{ofMonitor}.replace("<Own>", mark + "<Own>"));
+        EXPECT_EQ(shown(), "150/90!no reason given 150/90 ");
+        ASSERT_TRUE(store.includeReadings({readings().front()}));
+        EXPECT_EQ(shown(), "150/90 150/90 ") << mark.constData();
+        EXPECT_TRUE(readings().front().exclusion.isNull());
+    }
+}
+
+TEST_F(ReadingChangeTest, EqualReadingsOfOneNumberAreEachFoundOnce) {
+    const QByteArray one = "<MeasureRec><ID>A</ID><Sys>150</Sys></MeasureRec>";
+    setData(one + one + one);
+    ASSERT_TRUE(store.excludeReadings({readings()[0], readings()[1]}, u"x"_s));
+    EXPECT_EQ(content().count("<Excluded>"), 2);
+    EXPECT_EQ(codeOf(store.excludeReadings({readings()[2], readings()[2]}, u"x"_s)), changedElsewhere);
+    EXPECT_EQ(content().count("<Excluded>"), 2);
+}
+
+TEST_F(ReadingChangeTest, WhatOthersChangedOrRemovedIsRefusedWhole) {
+    const struct {
+        QByteArray before, after;
+        StoreErrorCode code;
+    } cases[] = {
+        {"<RecID>1000002</RecID>", "<RecID>1000009</RecID>", readingGone},
+        {"<Sys>150</Sys><Dia>90</Dia>", "<Sys>151</Sys><Dia>90</Dia>", changedElsewhere},
+        {"<RecID>1000002</RecID>", "<RecID>1000002</RecID><Excluded/>", changedElsewhere},
+        {"<RecID>1000002</RecID>", "<RecID>1000002</RecID><Source>manual</Source>", changedElsewhere},
+    };
+    for (const auto& [before, after, code] : cases) {
+        setData(ofMonitor);
+        const ReadingList both = readings();
+        elsewhere(before, after);
+        const QByteArray changed = content();
+        EXPECT_EQ(codeOf(store.excludeReadings(both, u"x"_s)), code) << after.constData();
+        EXPECT_EQ(content(), changed);
+        EXPECT_EQ(store.changes().undoable(), nullptr);
+    }
+    for (const char* blank : {"", " \n\t", "\x01\x7F"})
+        EXPECT_EQ(codeOf(store.excludeReadings(readings(), QString::fromLatin1(blank))), noReason);
+}
+
+TEST_F(ReadingChangeTest, TypedReadingIsStoredLikeOthersAndMarked) {
+    ASSERT_EQ(store.addReading(u"A"_s, typed("2026-11-19 23:59", 135, 85)).value_or(QString{}), u"1000003"_s);
+    EXPECT_EQ(order(), "SystemSetting: Patient:A Patient:B MeasureRec:A1000001 MeasureRec:A1000002 "
+                       "MeasureRec:A1000003 MeasureRec:B1000001");
+    const ReadingModel& added = readings().back();
+    EXPECT_TRUE(added.isManual);
+    EXPECT_EQ(added.values(), (ReadingModel::Values{0, 65, 85, 135, 101, 50, 0}));
+    EXPECT_EQ(added.minuteOfDay, 23 * 60 + 59);
+    EXPECT_TRUE(content().contains("<Source>manual</Source>"));
+    EXPECT_TRUE(content().contains("<MAM>0</MAM>"));
+
+    ASSERT_TRUE(store.changeReading(added, typed("2026-11-19 23:59", 136, 85)));
+    EXPECT_EQ(readings().back().values(), (ReadingModel::Values{0, 65, 85, 136, 102, 51, 0}));
+    ASSERT_TRUE(store.excludeReadings({readings().back()}, u"x"_s));
+    ASSERT_TRUE(store.deleteReadings({readings().back()}));
+    EXPECT_EQ(shown(), "150/90 150/90 ");
+    while (store.changes().undoable())
+        ASSERT_TRUE(store.undo());
+    EXPECT_EQ(shown(), "150/90 150/90 ");
+    EXPECT_FALSE(content().contains("manual"));
+}
+
+TEST_F(ReadingChangeTest, TypedReadingHasToBeOne) {
+    const RealTexts texts;
+    const struct {
+        ManualReading typed;
+        std::optional<ManualProblem> problem;
+    } cases[] = {
+        {typed("2026-11-21 08:00"), {}},
+        {typed("2026-11-21 08:01"), ManualProblem::inFuture},
+        {typed("2026-02-29 08:00"), ManualProblem::noDate},
+        {typed("2000-01-01 08:00"), ManualProblem::noDate},
+        {typed("0001-05-05 08:00"), ManualProblem::noDate},
+        {typed("2026-11-20 08:00", 300, 30, 30), {}},
+        {typed("2026-11-20 08:01", 31, 30, 300), {}},
+        {typed("2026-11-20 08:00", 301), ManualProblem::sys},
+        {typed("2026-11-20 08:00", 29, 20), ManualProblem::sys},
+        {typed("2026-11-20 08:00", 120, 29), ManualProblem::dia},
+        {typed("2026-11-20 08:00", 120, 301), ManualProblem::dia},
+        {typed("2026-11-20 08:00", 120, 120), ManualProblem::diaNotBelowSys},
+        {typed("2026-11-20 08:00", 120, 80, 29), ManualProblem::pulse},
+        {typed("2026-11-20 08:00", 120, 80, 301), ManualProblem::pulse},
+    };
+    const Instant now = std::chrono::floor<Instant::duration>(clock.now()) + std::chrono::seconds{59};
+    for (const auto& [typed, problem] : cases) {
+        const QByteArray before = content();
+        EXPECT_EQ(manualProblem(typed, now), problem);
+        const auto added = store.addReading(u"A"_s, typed);
+        EXPECT_EQ(codeOf(added), problem ? std::optional{readingRefused} : std::nullopt);
+        if (problem) {
+            EXPECT_EQ(describe(added.error()), u"The reading was not stored.\n"_s + describe(*problem));
+        }
+        EXPECT_EQ(content() == before, problem.has_value());
+    }
+    EXPECT_EQ(describe(ManualProblem::sys), u"The systolic pressure is to be a number from 30 to 300."_s);
+    EXPECT_EQ(codeOf(store.addReading(u"C"_s, typed("2026-11-20 08:00"))), noSuchRecord);
+}
+
+TEST_F(ReadingChangeTest, NoReadingIsThereTwice) {
+    EXPECT_EQ(codeOf(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 70))), readingKnown);
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 71)))
+        << "equal times alone are none";
+    const ReadingModel first = readings().back();
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-20 07:31", 150, 90, 70)));
+    EXPECT_EQ(codeOf(store.changeReading(first, typed("2026-11-20 07:31", 150, 90, 70))), readingKnown);
+    EXPECT_TRUE(store.changeReading(first, ManualReading::of(first))) << "not changed";
+    ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-20 07:30", 150, 90, 71))) << "another patient's";
+}
+
+TEST_F(ReadingChangeTest, OnlyTypedReadingsAreChangedAndDeleted) {
+    for (const char* source : {"", "<Source/>", "<Source>import</Source>", "<Source>Manual</Source>"}) {
+        setData(QByteArray{ofMonitor}.replace("<Own>", QByteArray{source} + "<Own>"));
+        const QByteArray before = content();
+        EXPECT_EQ(codeOf(store.changeReading(readings()[0], typed("2026-11-20 08:00"))), notManual) << source;
+        EXPECT_EQ(codeOf(store.deleteReadings({readings()[0]})), notManual) << source;
+        EXPECT_EQ(content(), before);
+        ASSERT_TRUE(store.excludeReadings({readings()[0]}, u"x"_s));
+        EXPECT_TRUE(flat(content()).contains(source)) << "a source that is not known stays";
+    }
+}
+
+TEST_F(ReadingChangeTest, DownloadLeavesMarksAloneAndBringsNothingTwice) {
+    ASSERT_EQ(store.newDataTransfer({downloaded("2026-11-18 07:00")}).value_or(9), 1U);
+    ASSERT_TRUE(store.excludeReadings({readings().back()}, u"x"_s));
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+    ASSERT_TRUE(store.excludeReadings({readings().back()}, u"y"_s));
+    const QByteArray before = content();
+    const auto brings = [this](const char* time, std::uint32_t arrhythmia) {
+        return store.newDataTransfer({downloaded(time, arrhythmia)}).value_or(9);
+    };
+    EXPECT_EQ(brings("2026-11-18 07:00", 1), 0U);
+    EXPECT_EQ(brings("2026-11-19 07:00", 1), 0U) << "typed in before";
+    {
+        const InZone away{"Asia/Tokyo"};
+        EXPECT_EQ(brings("2026-11-19 07:00", 1), 0U) << "by what the monitor's clock shows";
+        EXPECT_EQ(brings("2026-11-19 16:00", 4), 0U) << "by its instant";
+    }
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(brings("2026-11-19 07:00", 2), 1U) << "an irregular heartbeat is nothing that was typed in";
+    EXPECT_EQ(brings("2026-11-19 07:00", 2), 0U);
+    EXPECT_EQ(brings("2026-11-19 07:01", 1), 1U);
+    EXPECT_EQ(content().count("<Excluded>"), 2);
+}
+
+TEST_F(ReadingChangeTest, ExportAndImportKeepMarks) {
+    setData(
+        "<MeasureRec><ID>A</ID><RecID>1</RecID><ReadingDate>2026-11-20T07:30:00+00:00</ReadingDate>"
+        "<Sys>150</Sys><Excluded>cuff, \"loose\"</Excluded></MeasureRec>"
+        "<MeasureRec><ID>A</ID><RecID>2</RecID><Sys>151</Sys><Excluded/><Source>manual</Source></MeasureRec>"
+        "<MeasureRec><ID>A</ID><RecID>3</RecID><Sys>152</Sys><Source>import</Source></MeasureRec>");
+    const std::string before = shown();
+    auto out = store.beginExport();
+    ASSERT_TRUE(out);
+    ASSERT_TRUE(out->writeXml(u"A"_s, home.path(), Replace::yes));
+    ASSERT_TRUE(store.exportCSV(home.path(), u"A"_s, Replace::yes));
+    const QByteArray exported = readFile(home.filePath(u"A.xml"_s)).value_or(QByteArray{});
+    ASSERT_TRUE(store.deleteXMLPatient(u"A"_s));
+    ASSERT_TRUE(store.importXml(home.filePath(u"A.xml"_s)));
+    ASSERT_TRUE(store.loadXML());
+    store.setCurrentID(u"A"_s);
+    EXPECT_EQ(shown(), before);
+    EXPECT_TRUE(content().contains("<Source>import</Source>"));
+    ASSERT_TRUE(store.beginExport()->writeXml(u"A"_s, home.path(), Replace::yes));
+    EXPECT_EQ(readFile(home.filePath(u"A.xml"_s)).value_or(QByteArray{}), exported);
+
+    const QByteArray csv = readFile(home.filePath(u"A.csv"_s)).value_or(QByteArray{});
+    EXPECT_TRUE(csv.contains(",150,0,0,0,No,N/A,\"excluded: cuff, \"\"loose\"\"\"\n")) << csv.constData();
+    EXPECT_TRUE(csv.contains(",,151,0,0,0,No,N/A,manual; excluded:\n")) << csv.constData();
+    EXPECT_TRUE(csv.contains(",,152,0,0,0,No,N/A,\n")) << csv.constData();
+}
+
+} // namespace
+} // namespace zel
