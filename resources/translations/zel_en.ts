@@ -837,6 +837,8 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>
+    <message id="summaryTrend"><translation>Trend</translation></message>
+    <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>

@@ -2,6 +2,7 @@
 
 #include "analysis/BeforeAndSince.h"
 #include "analysis/Summary.h"
+#include "report/CommentLook.h"
 #include "report/FieldText.h"
 #include "report/SummaryType.h"
 
@@ -20,7 +21,7 @@ constexpr std::array textLines{8, 4, 2};
 
 /// What a comment says, in the lines that it takes.
 struct SummaryComment {
-    QString days;
+    QString head;
     QStringList text;
     QStringList measured;
 
@@ -52,7 +53,8 @@ std::vector<SummaryComment> layOut(const ReportSource& report,
     items.reserve(comments.size());
     for (const CommentModel* comment : comments) {
         const QString change = describe(calcBeforeAndSince(means, report.comments, *comment));
-        items.push_back({daysText(*comment, report), firstLines(comment->comment, width, mostLines),
+        items.push_back({commentNumber(report.comments, *comment) + u"   "_s + daysText(*comment, report),
+                         firstLines(comment->comment, width, mostLines),
                          wrapped(change, width, summarySmall, mostMeasuredLines)});
     }
     return items;
@@ -73,7 +75,7 @@ std::size_t fitting(const std::vector<SummaryComment>& items, double height) {
 }
 
 void drawItem(Picture& picture, const SummaryComment& item, Rect& left) {
-    summaryLine(picture, item.days, left, summaryBold);
+    summaryLine(picture, item.head, left, summaryBold);
     for (const QString& line : item.text)
         summaryLine(picture, line, left, summaryFont);
     for (const QString& line : item.measured)
