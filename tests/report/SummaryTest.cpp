@@ -40,6 +40,7 @@ struct Spoiled {
 /// More than any patient has.
 SampleReport crowded() {
     SampleReport sample(700);
+    sample.highFrom = {120, 70};
     exclude(sample, 30, u"Measured after four flights of stairs, cuff over the sleeve. "_s.repeated(9));
     const QString note = u"Dose changed after the visit, dizzy when getting up. "_s;
     for (int i = 0; i < 40; ++i)
@@ -57,10 +58,11 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"no readings", SampleReport()});
     samples.push_back({"one", SampleReport(1)});
     samples.push_back({"62", SampleReport(62, 2)});
+    samples.back().sample.highFrom = {0, 85};
     samples.push_back({"100,000", SampleReport(100'000)});
     samples.back().sample.selection.period.end = DateToDayBoundary(noonOf("2160-01-01"), false);
     samples.push_back({"crowded", crowded()});
-    samples.push_back({"no date of birth, all rows of a NICE week", SampleReport(60, 1)});
+    samples.push_back({"no date of birth", SampleReport(60, 1)});
     samples.back().sample.patient.DateOfBirth = getNilDate();
     samples.push_back({"other days", SampleReport(60, 4)});
     samples.back().sample.selection.period = {DateToDayBoundary(noonOf("2030-01-01"), true),
@@ -68,6 +70,7 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"off the scale", SampleReport(60, 1)});
     for (ReadingModel& reading : samples.back().sample.readings)
         reading.sys = reading.dia = reading.pulse = UINT32_MAX;
+    samples.back().sample.highFrom = {135, 85};
     samples.push_back({"all in one minute", SampleReport(60, 1)});
     for (ReadingModel& reading : samples.back().sample.readings) {
         reading.ReadingDate = noonOf("2019-05-05");
@@ -136,7 +139,8 @@ TEST(Summary, tellsHowManyMoreThereAre) {
 }
 
 TEST(Summary, hasTheFiguresOfThePeriod) {
-    SampleReport sample(0);
+    SampleReport sample;
+    sample.highFrom = {135, 85};
     const auto add = [&](const char* time, std::uint32_t sys, std::uint32_t dia, std::uint32_t arrhythmia) {
         ReadingModel& reading = sample.readings.emplace_back();
         reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
