@@ -448,8 +448,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="noID"><translation>none</translation></message>
     <message id="none"><translation>none</translation></message>
     <message id="noneInPeriod"><translation>No readings in this period</translation></message>
-    <message id="noneInPeriodAdvice"><translation>Pick other dates above, or choose All. Readings without a date are shown when Undated readings is ticked, too.</translation></message>
-    <message id="nonePrintedAdvice"><translation>Close this window and pick other dates on the page Readings or Chart, or choose All there. Readings without a date are printed when Undated readings is ticked.</translation></message>
+    <message id="noneInPeriodAdvice"><translation>Pick other dates above, or choose All and Whole day. Readings without a date are shown when Undated readings is ticked, too.</translation></message>
+    <message id="nonePrintedAdvice"><translation>Close this window and pick other dates on the page Readings or Chart, or choose All and Whole day there. Readings without a date are printed when Undated readings is ticked.</translation></message>
     <message id="noPage"><translation>No page</translation></message>
     <message id="noPatientFound"><translation>No patient found</translation></message>
     <message id="noPatientFoundAdvice"><translation>No name and no ID holds what is searched for.</translation></message>
@@ -659,9 +659,18 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewAllHint"><translation>All readings, from the first day to the last.</translation></message>
     <message id="viewAM"><translation>A&amp;M</translation></message>
     <message id="viewAMHint"><translation>The readings before noon, of the days shown.</translation></message>
-    <message id="viewChoiceNeeded"><translation>The period shown is the last three months, or was picked or moved. Press All first; then this can be chosen.</translation></message>
-    <message id="viewPM"><translation>&amp;PM</translation></message>
+    <message id="viewBoth"><translation>Who&amp;le day</translation></message>
+    <message id="viewBothHint"><translation>The readings of all times of day, of the days shown.</translation></message>
+    <message id="viewChoiceNeeded"><translation>Undated readings belong to no day, and can be shown with All only. Press All first; then this can be chosen.</translation></message>
+    <message id="viewDays"><translation>Days shown</translation></message>
+    <message id="viewHalf"><translation>Time of day shown</translation></message>
+    <message id="viewLast"><translation>%1 days</translation></message>
+    <message id="viewLastHint"><translation>The %1 days up to the last one with a reading.</translation></message>
+    <message id="viewLastName"><translation>Last %1 days</translation></message>
+    <message id="viewPM"><translation>PM</translation></message>
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
+    <message id="viewWeek"><translation>Measuring wee&amp;k</translation></message>
+    <message id="viewWeekHint"><translation>The seven days that are averaged as the measuring week.</translation></message>
     <message id="weekBelow"><translation>Below %1</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
@@ -851,6 +860,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliAmAndPm"><translation>Give either --am or --pm, not both.</translation></message>
     <message id="CliBackupUsage"><translation>Say list, create, or restore and a copy's name; or folder and, to change it, the folder's name or --none.</translation></message>
     <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
+    <message id="CliBadDays"><translation>--last needs a whole number of days from 1 to %2, not '%1'.</translation></message>
     <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
     <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
     <message id="CliBadPaper"><translation>--paper needs A4 or Letter, not '%1'.</translation></message>
@@ -1031,7 +1041,7 @@ Options:
                                the folder of copies, and nothing else
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
-    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY] [--am | --pm] [--undated]
+    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY | --last N] [--to DAY] [--am | --pm] [--undated]
 
 Prints a patient's readings as CSV, the oldest first, with the header
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Pressures are in mmHg, the pulse in beats per minute.
@@ -1044,6 +1054,7 @@ Options:
   --patient ID                 whose readings
   --from DAY                   only from this day on (yyyy-MM-dd)
   --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
   --am                         only the readings before noon
   --pm                         only the readings from noon on
   --undated                    also the readings without a date
@@ -1069,6 +1080,9 @@ Options:
   --section KEY[,KEY...]       what to print, in the order given
   --from yyyy-MM-dd            the first day of the reporting period (that of the first reading unless told)
   --to yyyy-MM-dd              the last day of it (that of the last reading unless told)
+  --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
+  --am                         only the readings before noon (statistics and summary take all)
+  --pm                         only the readings from noon on (likewise)
   --rule esh|nice|aha          how the summary averages its measuring week, which ends with the period's last day
                                with readings; esh unless told otherwise. 'zel average --help' says what they are
   --practitioner               print the practitioner's details, from the settings, at the foot; at the head of
@@ -1097,7 +1111,7 @@ Options:
   --set KEY=VALUE              change a setting; may be given several times
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
-    <message id="CliHelpStatistics"><translation>Usage: zel statistics --patient ID [--from DAY] [--to DAY] [--undated]
+    <message id="CliHelpStatistics"><translation>Usage: zel statistics --patient ID [--from DAY | --last N] [--to DAY] [--undated]
 
 Prints the average, the minimum and the maximum of a patient's readings, a measure a line:
 'sys: AVERAGE MIN MAX', then dia, pulse, and map or pp as the settings say. Pressures are in mmHg, the
@@ -1108,12 +1122,14 @@ Options:
   --patient ID                 whose readings
   --from DAY                   only from this day on (yyyy-MM-dd)
   --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
   --undated                    also the readings without a date
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
     <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
     <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
+    <message id="CliLastAndFrom"><translation>Give either --from or --last, not both.</translation></message>
     <message id="CliMonitorChanged"><translation>The connection broke off, and the readings that arrived then may come from another monitor than the one that was asked. Nothing was stored; please try again.</translation></message>
     <message id="CliMonitorDenied"><translation>%1 Reading it needs a permission: install packaging/70-zel.rules in /etc/udev/rules.d, run 'udevadm control --reload', and attach the monitor again.</translation></message>
     <message id="CliMonitorSilent"><translation>A monitor is attached, but it did not answer within %1 s. %2</translation></message>

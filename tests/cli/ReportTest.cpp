@@ -71,6 +71,8 @@ TEST_F(ReportTest, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
         {u"comment"_s, {}, 1, "nothing to print"},
         {u"table"_s, {u"--from"_s, u"2030-01-01"_s, u"--to"_s, u"2030-02-01"_s}, 1, "nothing to print"},
         {u"table,chart"_s, {}, 2, "no section 'chart'"},
+        {u"table"_s, {u"--last"_s, u"week"_s}, 2, "not 'week'"},
+        {u"table"_s, {u"--am"_s, u"--pm"_s}, 2, "--am or --pm"},
         {u"table"_s, {u"--paper"_s, u"A5"_s}, 2, "not 'A5'"},
         {u"summary"_s, {u"--rule"_s, u"jnc"_s}, 2, "no rule 'jnc'"},
         {u"table"_s, {u"--from"_s, u"1.2.2026"_s}, 2, "--from"},

@@ -31,7 +31,7 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     body->addWidget(side);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(10);
+    column->setSpacing(6);
     column->addWidget(makeHead());
     column->addWidget(period);
     column->addLayout(body, 1);

@@ -63,6 +63,8 @@ TEST_F(TableViewTest, theRowsAreThoseOfThePeriod) {
     typeDay("beginDay", u"02032026"_s);
     EXPECT_EQ(systolic().size(), 3) << "not while it is being typed";
     press(Qt::Key_Return);
+    EXPECT_EQ(systolic(), QStringList(u"132"_s)) << "still from noon on";
+    clickPart("viewBoth");
     EXPECT_EQ(systolic(), (QStringList{u"122"_s, u"132"_s}));
     clickPart("btnViewAll");
     EXPECT_EQ(systolic().size(), 5);
