@@ -51,6 +51,21 @@ TEST_F(TrendTest, isAViewOfThePageLikeTheOthers) {
     EXPECT_FALSE(page("trendApart").isVisible());
 }
 
+TEST_F(TrendTest, aSmallScreenHasRoomForAllFourChoices) {
+    openTrend(u"20260301"_s, u"20260310"_s);
+    EXPECT_TRUE(page("readingSide").isVisible());
+    for (const char* view : {"toggleTrend", "toggleGraph"}) {
+        click(view);
+        window().resize(1200, 700);
+        window().resize(600, 400);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(page("readingSide").isVisible()) << view;
+        window().resize(600, 400);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window().width(), 600) << view;
+    }
+}
+
 TEST_F(TrendTest, keysGoFromPointToPointAndSayTheirFigures) {
     openTrend(u"20260303"_s, u"20260305"_s);
     const auto figures = [](int day) {
