@@ -8,7 +8,7 @@
 
 namespace zel {
 
-enum class Section { graph, PatientProfile, histogram, correlation, table, comment, SWStatistics };
+enum class Section { graph, PatientProfile, histogram, correlation, trend, table, comment, SWStatistics };
 
 /// One section of the report.
 struct SectionFacts {

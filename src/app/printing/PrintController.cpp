@@ -56,7 +56,7 @@ std::vector<Section> printOptions(int tab) {
     using enum Section;
     switch (tab) {
     case 0: return {PatientProfile};
-    case 1: return {graph, histogram, correlation, comment, SWStatistics};
+    case 1: return {graph, histogram, correlation, trend, comment, SWStatistics};
     case 2: return {table, comment, SWStatistics};
     default: return {};
     }
