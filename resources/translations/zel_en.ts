@@ -795,6 +795,8 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Thin dashed line: the limit of %1.</numerusform><numerusform>Thin dashed lines: the limits of %1.</numerusform></translation></message>
+    <message id="reportTrendNote"><translation>Thick lines: medians. Bands: from the 10th to the 90th percentile, or from the lowest to the highest of fewer than 5 readings. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="reportYears"><translation>years</translation></message>
     <message id="summary"><translation>Summary</translation></message>
@@ -852,6 +854,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
+    <message id="trend"><translation>Trend of blood pressure and pulse</translation></message>
     <message id="Yes"><translation>Yes</translation></message>
 </context>
 <context>
@@ -1070,6 +1073,7 @@ Sections:
   PatientProfile               the patient's data and notes
   histogram                    how the values are distributed
   correlation                  systolic against diastolic pressure
+  trend                        medians and bands by day, week or month
   table                        the readings
   comment                      the comments
   SWStatistics                 averages, limits and the readings

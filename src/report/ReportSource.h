@@ -34,6 +34,7 @@ struct ReportSource {
     bool getShowMam = true;            ///< the reading table shows its column of averages
     bool getShowPad = true;            ///< the reading table shows its arrhythmia column
     bool getIsAfib = false;            ///< which is titled for AFib, not for PAD
+    bool trendApart = false;           ///< the trend has mornings and evenings as lines of their own
     ChartStyle lowerChart = DrawPulse; ///< the graph page's charts, for what they show on the screen
     ChartStyle bloodChart = DrawBlood;
 };

@@ -32,8 +32,8 @@ TEST_F(ReportTest, everySectionIsWritten) {
     EXPECT_EQ(outcome.out, "written: " + output.toStdString() + '\n');
     EXPECT_EQ(outcome.err, "Empty, so not in the report: comment\n");
     EXPECT_TRUE(written().startsWith("%PDF-"));
-    // No comments: seven sections of one page each, three of them upright.
-    EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 4);
+    // No comments: eight sections of one page each, three of them upright.
+    EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 5);
     EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 3);
     const char* const fromZEL = "/Author <feff005a0045004c>";
     EXPECT_TRUE(written().contains(fromZEL)) << "nobody has filled in the practitioner";

@@ -54,7 +54,8 @@ TEST(Page, countsFollowRowsAndComments) {
         {Section::SWStatistics, 10, 0, 1}, {Section::SWStatistics, 11, 0, 2},
         {Section::SWStatistics, 38, 0, 2}, {Section::SWStatistics, 39, 0, 3},
         {Section::comment, 0, 0, 0},       {Section::comment, 0, 9, 1},
-        {Section::comment, 0, 10, 2},
+        {Section::comment, 0, 10, 2},      {Section::trend, 0, 0, 1},
+        {Section::trend, 100, 10, 1},
     };
     for (const Count& row : table) {
         const SampleReport sample(row.readings, row.comments);
@@ -248,7 +249,7 @@ TEST(Page, tellsHowManyReadingsItCountsAndWhichItLeavesOut) {
     };
     const QString anUndatedOne = qtTrId("leftUndated", 1);
     using enum Section;
-    for (const Section section : {graph, histogram, correlation, table, SWStatistics})
+    for (const Section section : {graph, histogram, correlation, trend, table, SWStatistics})
         EXPECT_EQ(counts(section), text(dated, {outside, anUndatedOne})) << facts(section).key;
     for (const Section section : {PatientProfile, comment})
         EXPECT_EQ(counts(section), QString()) << facts(section).key;
