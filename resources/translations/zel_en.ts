@@ -833,7 +833,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
     <message id="summaryNoReason"><translation>no reason given</translation></message>
-    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Morning is before noon. …: in full in the sections Comments and Readings.</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Straight dashes in the trend: the limits. Morning: before noon. …: in full in Comments and Readings.</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>

@@ -71,6 +71,8 @@ PrintView SampleReport::view(QPageSize::PageSizeId paper) const {
                         .rows = assembleReadingRows({readings, comments, downloads, selection}, zone),
                         .highFrom = highFrom,
                         .now = noonOf("2020-01-15"),
+                        .weekRule = weekRule,
+                        .weekEnd = weekEnd,
                         .needPhysicianInfo = needPhysicianInfo,
                         .getShowMam = getShowMam,
                         .getShowPad = getShowPad,

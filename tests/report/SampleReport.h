@@ -15,6 +15,8 @@ struct SampleReport {
     SettingModel settings = SettingModel::initWithDefault();
     ReadingSelection selection;
     LimitPair highFrom; ///< none
+    AverageRule weekRule = AverageRule::esh;
+    std::optional<DayNumber> weekEnd;
     bool needPhysicianInfo = true;
     bool getShowMam = true;
     bool getShowPad = true;

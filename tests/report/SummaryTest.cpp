@@ -1,4 +1,5 @@
 #include "SampleReport.h"
+#include "analysis/HighValues.h"
 #include "chart/Drawing.h"
 
 #include <QRegularExpression>
@@ -101,6 +102,10 @@ TEST(Summary, isOnePageThatCanBeReadWhateverTheData) {
             const Rect total = view.geometry(Section::summary).totalRect;
             const auto texts = textsOf(view.page(Section::summary, 1));
             EXPECT_GT(texts.size(), 40U) << what;
+            EXPECT_THAT(wordsOf(view), testing::Contains(testing::Truly([](const QString& words) {
+                            return words.endsWith(" Readings."_L1);
+                        })))
+                << what << ": how to read it is cut";
             for (std::size_t i = 0; i < texts.size(); ++i) {
                 const Rect box = boxOf(texts[i]);
                 const auto told = [&] {
@@ -136,6 +141,44 @@ TEST(Summary, tellsHowManyMoreThereAre) {
         EXPECT_EQ(excluded + rest("excluded readings"), 30);
         EXPECT_THAT(words, testing::Contains(u"30 excluded ones, 1 undated one not counted"_s));
     }
+}
+
+TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
+    SampleReport sample(20); // to 10 January
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-08"), false);
+    const auto expectWeek = [&](const char* words) {
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(words)));
+    };
+    expectWeek("Measuring week (ESH)  2019/01/02 \u2013 2019/01/08");
+    sample.weekRule = AverageRule::nice;
+    sample.weekEnd = sample.zone.day(noonOf("2019-01-20"));
+    expectWeek("Measuring week (NICE)  2019/01/14 \u2013 2019/01/20");
+    expectWeek("No readings in this week");
+    expectWeek("Incomplete, needs 4 more days");
+    EXPECT_THAT(wordsOf(sample.view()), testing::Not(testing::Contains(QString()))) << "no empty text";
+    sample.weekRule = AverageRule::aha;
+    sample.weekEnd = sample.zone.day(noonOf("2019-01-03"));
+    expectWeek("Measuring week (AHA)  2018/12/28 \u2013 2019/01/03");
+}
+
+TEST(Summary, tellsWhoThePatientIs) {
+    const std::pair<Date, const char*> births[] = {
+        {noonOf("1960-01-15"), "Born 1960/01/15, 60 years     ID P-17"},
+        {noonOf("1960-01-16"), "Born 1960/01/16, 59 years     ID P-17"},
+        {noonOf("2018-12-01"), "Born 2018/12/01, 1 year     ID P-17"},
+        {noonOf("2031-01-01"), "Born 2031/01/01     ID P-17"}, // next to be born
+        {getNilDate(), "Date of birth not given     ID P-17"},
+        {Date(), "Date of birth not given     ID P-17"},
+    };
+    SampleReport sample;
+    for (const auto& [birth, line] : births) {
+        sample.patient.DateOfBirth = birth;
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(line)));
+    }
+    EXPECT_TRUE(wordsOf(sample.view()).contains(u"Dr. Moreau"_s));
+    EXPECT_TRUE(wordsOf(sample.view()).contains(describeHighMark({}))) << "in place of a share";
+    sample.needPhysicianInfo = false;
+    EXPECT_FALSE(wordsOf(sample.view()).contains(u"Dr. Moreau"_s));
 }
 
 TEST(Summary, hasTheFiguresOfThePeriod) {

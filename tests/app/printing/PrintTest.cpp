@@ -95,6 +95,20 @@ TEST_F(PrintTest, theSectionsAreThoseOfTheTab) {
     EXPECT_TRUE(printers.printed.empty());
 }
 
+TEST_F(PrintTest, theSummaryHasTheWeekThatIsChosenOnTheScreen) {
+    storeReadings(3);
+    period.setWeekRule(AverageRule::nice);
+    period.setWeekEnd(20000);
+    openPrint(2);
+    choose(Section::summary);
+    printers.whenPrinted = [](const PrintView& view) {
+        EXPECT_EQ(view.report().weekRule, AverageRule::nice);
+        EXPECT_EQ(view.report().weekEnd, 20000);
+    };
+    click("printAndClose");
+    EXPECT_EQ(printers.printed.size(), 1U);
+}
+
 TEST_F(PrintTest, thePagesAreTurnedOneByOneWithinTheirLimits) {
     storeReadings(70);
     openPrint(2);
