@@ -14,7 +14,7 @@ namespace zel {
 
 namespace {
 
-constexpr double barHeight = 3, leastBar = 1.5, belowBar = 1, betweenNumbers = 2;
+constexpr double barHeight = 3, leastBar = 1.5, betweenBars = 0.75, belowBar = 1, betweenNumbers = 2;
 
 double stripHeight() { return barHeight + belowBar + lineHeight(summarySmall) + 1; }
 
@@ -50,7 +50,8 @@ void drawComments(Picture& picture, const ReportSource& report,
     std::vector<TakenRoom> taken;
     for (const CommentModel* comment : comments) {
         const auto [from, to] = daysOf(*comment, time);
-        picture.emplace_back(FillRect{{from, top - barHeight, to - from, barHeight}, Qt::black});
+        const double length = std::max(leastBar, to - from - betweenBars);
+        picture.emplace_back(FillRect{{from, top - barHeight, length, barHeight}, Qt::black});
         const QString number = commentNumber(report.comments, *comment);
         const double width = textSize(number, summarySmall).width;
         const double x = std::clamp(from, time.left, time.left + time.width - width);
