@@ -17,6 +17,7 @@ std::optional<ReportSource> reportSource(const DataStore& store, const ReadingSe
                         .settings = store.getSetting(),
                         .selection = selection,
                         .rows = std::move(rows),
+                        .highFrom = store.viewLimits().limits(),
                         .now = std::chrono::floor<Instant::duration>(clock.now()),
                         .getIsAfib = isAFib};
 }

@@ -8,6 +8,7 @@
 #include "store/PatientModel.h"
 #include "store/RecordLinks.h"
 #include "store/SettingModel.h"
+#include "store/ViewLimits.h"
 
 #include <optional>
 
@@ -22,6 +23,7 @@ struct ReportSource {
     const SettingModel& settings;
     ReadingSelection selection; ///< the reporting period and what is shown of it
     ReadingRows rows;           ///< what the reading table shows of it
+    LimitPair highFrom{};       ///< values at or above it are marked in the reading table
     Instant now{};              ///< today's date, and the day that the age is reached on
 
     bool needPhysicianInfo = false;    ///< the practitioner's details stand in the footer

@@ -1,6 +1,7 @@
 #include "cli/CliTest.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace zel {
 
@@ -81,6 +82,21 @@ TEST_F(ReportTest, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
         EXPECT_EQ(outcome.status, row.status) << row.words;
         EXPECT_THAT(outcome.err, testing::HasSubstr(row.words));
         EXPECT_FALSE(QFile::exists(output)) << row.words;
+    }
+}
+
+TEST_F(ReportTest, limitsThatWereChosenButCannotBeReadAreTold) {
+    QFile choice(QFileInfo(dataFile()).path() + u"/View.json"_s);
+    for (const auto& [text, told] :
+         {std::pair(R"({"highFrom": "own", "ownSystolic": 150, "ownDiastolic": 95})", ""),
+          {R"({"highFrom": "own", "ownSystolic": 95, "ownDiastolic": 150})", "135/85 mmHg"}}) {
+        ASSERT_TRUE(choice.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        choice.write(text);
+        choice.close();
+        const Outcome outcome = report(u"table"_s);
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.err.empty(), std::string(told).empty()) << outcome.err;
+        EXPECT_THAT(outcome.err, testing::HasSubstr(told));
     }
 }
 

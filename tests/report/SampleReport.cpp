@@ -69,6 +69,7 @@ PrintView SampleReport::view(QPageSize::PageSizeId paper) const {
                         .settings = settings,
                         .selection = selection,
                         .rows = assembleReadingRows({readings, comments, downloads, selection}, zone),
+                        .highFrom = highFrom,
                         .now = noonOf("2020-01-15"),
                         .needPhysicianInfo = needPhysicianInfo,
                         .getShowMam = getShowMam,

@@ -14,6 +14,7 @@ struct SampleReport {
     DataLogList downloads;
     SettingModel settings = SettingModel::initWithDefault();
     ReadingSelection selection;
+    LimitPair highFrom; ///< none
     bool needPhysicianInfo = true;
     bool getShowMam = true;
     bool getShowPad = true;
