@@ -94,6 +94,8 @@ void LimitBar::showLimits() {
     own->setVisible(limits.choice == LimitChoice::own);
     ownSys->setText(QString::number(limits.own.sys));
     ownDia->setText(QString::number(limits.own.dia));
+    for (QLineEdit* field : {ownSys, ownDia})
+        field->setAccessibleDescription({});
     tell(*lblHighMark, describeHighMark(limits.limits()));
     const StoreResult& read = store.viewLimitsRead();
     tell(*lblOwnProblem, read ? QString() : u"\u26A0 "_s + describeUnreadLimits(read.error()));
