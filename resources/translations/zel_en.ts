@@ -384,6 +384,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
     <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Please give feet and inches with a stroke between them, such as 5/9. Inches go up to 11.</translation></message>
+    <message id="highFrom"><translation>Limits from which on values are marked</translation></message>
+    <message id="highFromHint"><translation>Values at or above these limits are bold and marked, here and on paper. Chart, statistics, histogram and correlation keep the limits of the settings.</translation></message>
+    <message id="highFromLabel"><translation>Mark &amp;values from</translation></message>
     <message id="histogramView"><translation>Distribution of the values</translation></message>
     <message id="IDNotForMonitor"><translation>The ID “%1” does not fit the monitor. A monitor keeps IDs of 1 to 11 plain letters, digits and signs, without accents and without blanks at the ends.</translation></message>
     <message id="IDRefused"><translation>An ID has 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
@@ -422,6 +425,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="leaveOutNoReason"><translation>Please give a reason.</translation></message>
     <message id="leaveOutReason"><translation>&amp;Reason:</translation></message>
     <message id="leaveOutTitle"><translation>Leave Out</translation></message>
+    <message id="limitsHome"><translation>%1/%2 (at home)</translation></message>
+    <message id="limitsLow"><translation>%1/%2 (stricter)</translation></message>
+    <message id="limitsNotKept"><translation>The limits hold until the program ends. They could not be kept for the next start: %1</translation></message>
+    <message id="limitsOffice"><translation>%1/%2 (at a practice)</translation></message>
+    <message id="limitsOwn"><translation>own limits</translation></message>
     <message id="mainMenu"><translation>Main menu</translation></message>
     <message id="manualChapters"><translation>Chapters</translation></message>
     <message id="manualTitle"><translation>Manual</translation></message>
@@ -487,8 +495,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="noID"><translation>none</translation></message>
     <message id="none"><translation>none</translation></message>
     <message id="noneInPeriod"><translation>No readings in this period</translation></message>
-    <message id="noneInPeriodAdvice"><translation>Pick other dates above, or choose All. Readings without a date are shown when Undated readings is ticked, too.</translation></message>
-    <message id="nonePrintedAdvice"><translation>Close this window and pick other dates on the page Readings or Chart, or choose All there. Readings without a date are printed when Undated readings is ticked.</translation></message>
+    <message id="noneInPeriodAdvice"><translation>Pick other dates above, or choose All and Whole day. Readings without a date are shown when Undated readings is ticked, too.</translation></message>
+    <message id="nonePrintedAdvice"><translation>Close this window and pick other dates on the page Readings or Chart, or choose All and Whole day there. Readings without a date are printed when Undated readings is ticked.</translation></message>
     <message id="noPage"><translation>No page</translation></message>
     <message id="noPatientFound"><translation>No patient found</translation></message>
     <message id="noPatientFoundAdvice"><translation>No name and no ID holds what is searched for.</translation></message>
@@ -502,6 +510,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="ownDia"><translation>Own diastolic limit in mmHg, 0 for none</translation></message>
+    <message id="ownSys"><translation>Own systolic limit in mmHg, 0 for none</translation></message>
     <message id="pad"><translation>PAD</translation></message>
     <message id="pageChart"><translation>Chart</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
@@ -698,6 +708,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
     <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>
     <message id="unsavedTitle"><translation>Not saved yet</translation></message>
+    <message id="valueHigh"><translation>%1, at or above the limit</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 per minute</translation></message>
     <message id="valueWithUnit"><translation>%1, %2</translation></message>
@@ -705,9 +716,18 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewAllHint"><translation>All readings, from the first day to the last.</translation></message>
     <message id="viewAM"><translation>A&amp;M</translation></message>
     <message id="viewAMHint"><translation>The readings before noon, of the days shown.</translation></message>
-    <message id="viewChoiceNeeded"><translation>The period shown is the last three months, or was picked or moved. Press All first; then this can be chosen.</translation></message>
-    <message id="viewPM"><translation>&amp;PM</translation></message>
+    <message id="viewBoth"><translation>Who&amp;le day</translation></message>
+    <message id="viewBothHint"><translation>The readings of all times of day, of the days shown.</translation></message>
+    <message id="viewChoiceNeeded"><translation>Undated readings belong to no day, and can be shown with All only. Press All first; then this can be chosen.</translation></message>
+    <message id="viewDays"><translation>Days shown</translation></message>
+    <message id="viewHalf"><translation>Time of day shown</translation></message>
+    <message id="viewLast"><translation>%1 days</translation></message>
+    <message id="viewLastHint"><translation>The %1 days up to the last one with a reading.</translation></message>
+    <message id="viewLastName"><translation>Last %1 days</translation></message>
+    <message id="viewPM"><translation>PM</translation></message>
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
+    <message id="viewWeek"><translation>Measuring wee&amp;k</translation></message>
+    <message id="viewWeekHint"><translation>The seven days that are averaged as the measuring week.</translation></message>
     <message id="weekBelow"><translation>Below %1</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
@@ -838,6 +858,8 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportStruckThrough"><translation>struck through: left out of all that counts; the reasons stand behind the table</translation></message>
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Thin dashed line: the limit of %1.</numerusform><numerusform>Thin dashed lines: the limits of %1.</numerusform></translation></message>
+    <message id="reportTrendNote"><translation>Thick lines: medians. Bands: from the 10th to the 90th percentile, or from the lowest to the highest of fewer than 5 readings. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="reportYears"><translation>years</translation></message>
     <message id="summary"><translation>Summary</translation></message>
@@ -874,7 +896,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
     <message id="summaryNoReason"><translation>no reason given</translation></message>
-    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Morning is before noon. …: in full in the sections Comments and Readings.</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Straight dashes in the trend: the limits. Morning: before noon. …: in full in Comments and Readings.</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
@@ -889,10 +911,13 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>
+    <message id="summaryTrend"><translation>Trend</translation></message>
+    <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
+    <message id="trend"><translation>Trend of blood pressure and pulse</translation></message>
     <message id="Yes"><translation>Yes</translation></message>
 </context>
 <context>
@@ -901,6 +926,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliAmAndPm"><translation>Give either --am or --pm, not both.</translation></message>
     <message id="CliBackupUsage"><translation>Say list, create, or restore and a copy's name; or folder and, to change it, the folder's name or --none.</translation></message>
     <message id="CliBadDate"><translation>--%1 needs a day of the calendar as yyyy-MM-dd, not '%2'.</translation></message>
+    <message id="CliBadDays"><translation>--last needs a whole number of days from 1 to %2, not '%1'.</translation></message>
     <message id="CliBadField"><translation>The value of --%1 must not be '-', must not begin or end with a blank, and must not contain control characters.</translation></message>
     <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
     <message id="CliBadPaper"><translation>--paper needs A4 or Letter, not '%1'.</translation></message>
@@ -1082,7 +1108,8 @@ Options:
                                the folder of copies, and nothing else
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
-    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY] [--to DAY] [--am | --pm] [--undated] [--numbers]
+    <message id="CliHelpReadings"><translation>Usage: zel readings --patient ID [--from DAY | --last N] [--to DAY] [--am | --pm] [--undated]
+                    [--numbers]
        zel readings --patient ID --exclude RECORD --reason TEXT
        zel readings --patient ID --include RECORD
        zel readings --patient ID --add --date DAY --time HH:MM --sys N --dia N --pulse N
@@ -1106,6 +1133,7 @@ Options:
   --patient ID                 whose readings
   --from DAY                   only from this day on (yyyy-MM-dd)
   --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
   --am                         only the readings before noon
   --pm                         only the readings from noon on
   --undated                    also the readings without a date
@@ -1127,6 +1155,7 @@ Options:
     <message id="CliHelpReport"><translation>Usage: zel report --patient ID --section KEY[,KEY...] --output FILE.pdf [OPTION]...
 
 Writes a patient's report as a PDF, replacing FILE.pdf if it is there, and prints 'written: FILE.pdf'.
+Values of the readings at or above the limits chosen in the window (135/85 unless chosen) are marked.
 
 Sections:
   summary                      one page for a physician: averages, trend, last days, comments, what was left out
@@ -1134,6 +1163,7 @@ Sections:
   PatientProfile               the patient's data and notes
   histogram                    how the values are distributed
   correlation                  systolic against diastolic pressure
+  trend                        medians and bands by day, week or month
   table                        the readings
   comment                      the comments
   SWStatistics                 averages, limits and the readings
@@ -1144,6 +1174,9 @@ Options:
   --section KEY[,KEY...]       what to print, in the order given
   --from yyyy-MM-dd            the first day of the reporting period (that of the first reading unless told)
   --to yyyy-MM-dd              the last day of it (that of the last reading unless told)
+  --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
+  --am                         only the readings before noon (statistics and summary take all)
+  --pm                         only the readings from noon on (likewise)
   --rule esh|nice|aha          how the summary averages its measuring week, which ends with the period's last day
                                with readings; esh unless told otherwise. 'zel average --help' says what they are
   --practitioner               print the practitioner's details, from the settings, at the foot; at the head of
@@ -1172,7 +1205,7 @@ Options:
   --set KEY=VALUE              change a setting; may be given several times
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
-    <message id="CliHelpStatistics"><translation>Usage: zel statistics --patient ID [--from DAY] [--to DAY] [--undated]
+    <message id="CliHelpStatistics"><translation>Usage: zel statistics --patient ID [--from DAY | --last N] [--to DAY] [--undated]
 
 Prints the average, the minimum and the maximum of a patient's readings, a measure a line:
 'sys: AVERAGE MIN MAX', then dia, pulse, and map or pp as the settings say. Pressures are in mmHg, the
@@ -1183,12 +1216,14 @@ Options:
   --patient ID                 whose readings
   --from DAY                   only from this day on (yyyy-MM-dd)
   --to DAY                     only up to the end of this day (yyyy-MM-dd)
+  --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
   --undated                    also the readings without a date
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliIDDoesNotFit"><translation>The monitor cannot keep the ID '%1': it needs 1 to 11 plain (ASCII) characters without blanks at the ends.</translation></message>
     <message id="CliIDUnread"><translation>The monitor's ID could not be read. %1</translation></message>
     <message id="CliIDUnsent"><translation>The ID could not be written into the monitor. %1</translation></message>
+    <message id="CliLastAndFrom"><translation>Give either --from or --last, not both.</translation></message>
     <message id="CliMonitorChanged"><translation>The connection broke off, and the readings that arrived then may come from another monitor than the one that was asked. Nothing was stored; please try again.</translation></message>
     <message id="CliMonitorDenied"><translation>%1 Reading it needs a permission: install packaging/70-zel.rules in /etc/udev/rules.d, run 'udevadm control --reload', and attach the monitor again.</translation></message>
     <message id="CliMonitorSilent"><translation>A monitor is attached, but it did not answer within %1 s. %2</translation></message>

@@ -1,6 +1,7 @@
 #include "analysis/DisplayPeriod.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace zel {
@@ -9,6 +10,7 @@ namespace {
 
 constexpr int defaultMonths = 3;
 constexpr int viewAllDays = 91;
+constexpr int daysOfWeek = 7;
 constexpr int commentPlacingDays = 47;
 
 Period wholeDays(const Period& period) {
@@ -27,6 +29,9 @@ std::optional<Period> datedPeriod(const ReadingList& readings) {
     return span;
 }
 
+/// None for a day that no date text can name.
+Date firstInstant(DayNumber day) { return StrToDate(dayText(day), QStringLiteral("yyyy/MM/dd")); }
+
 } // namespace
 
 DisplayPeriod::DisplayPeriod(Instant now)
@@ -35,42 +40,79 @@ DisplayPeriod::DisplayPeriod(Instant now)
                                                                          firstDayOfThisYear} {}
 
 void DisplayPeriod::change(const std::function<void()>& assign) {
-    const ReadingSelection before = selection();
+    const auto state = [this] { return std::tuple(selection(), choice, half); };
+    const auto before = state();
     assign();
-    if (selection() != before) emit changed();
+    if (state() != before) emit changed();
 }
 
 void DisplayPeriod::setTimePeriod(Date begin, Date end) {
     change([&] {
         display = {begin ? DateToDayBoundary(*begin, true) : firstDayOfThisYear,
                    end ? DateToDayBoundary(*end, false) : firstDayOfThisYear};
-        if (view == ViewSelection::viewAll && !isWholeDataPeriod()) leaveViewChoice();
+        if (display != daysOf(choice)) leaveChoice();
     });
 }
 
-void DisplayPeriod::leaveViewChoice() {
-    view = ViewSelection::custom;
+void DisplayPeriod::leaveChoice() {
+    choice = PeriodChoice::picked;
     includeUndated = false;
 }
 
-void DisplayPeriod::setDataPeriod(const Period& period) { data = period; }
+/// Those shown where they are picked.
+Period DisplayPeriod::daysOf(PeriodChoice wanted) const {
+    if (wanted == PeriodChoice::picked) return display;
+    if (!isAnyDated) return wholeDays(data);
+    switch (wanted) {
+    case PeriodChoice::last7: return lastDays(data.end, 7);
+    case PeriodChoice::last30: return lastDays(data.end, 30);
+    case PeriodChoice::last90: return lastDays(data.end, 90);
+    case PeriodChoice::measuringWeek:
+        return lastDays(firstInstant(weekEnd.value_or(lastMeasured)).value_or(data.end), daysOfWeek);
+    case PeriodChoice::all:
+    case PeriodChoice::picked: break;
+    }
+    return wholeDays(data);
+}
+
+void DisplayPeriod::choose(PeriodChoice chosen) {
+    change([&] {
+        choice = chosen;
+        if (choice != PeriodChoice::all) includeUndated = false;
+        display = daysOf(choice);
+    });
+}
+
+void DisplayPeriod::setHalfOfDay(HalfOfDay chosen) {
+    change([&] { half = chosen; });
+}
+
+ViewSelection DisplayPeriod::getSelectViewIndex() const {
+    if (half == HalfOfDay::morning) return ViewSelection::amOnly;
+    if (half == HalfOfDay::evening) return ViewSelection::pmOnly;
+    return choice == PeriodChoice::all ? ViewSelection::viewAll : ViewSelection::custom;
+}
 
 void DisplayPeriod::setSelectViewIndex(ViewSelection chosen) {
     change([&] {
-        if (chosen == ViewSelection::custom) return leaveViewChoice();
-        view = chosen;
-        if (view == ViewSelection::viewAll) display = wholeDays(data);
+        half = chosen == ViewSelection::amOnly   ? HalfOfDay::morning
+               : chosen == ViewSelection::pmOnly ? HalfOfDay::evening
+                                                 : HalfOfDay::both;
+        if (chosen == ViewSelection::custom) leaveChoice();
+        if (chosen != ViewSelection::viewAll) return;
+        choice = PeriodChoice::all;
+        display = daysOf(choice);
     });
 }
 
 void DisplayPeriod::setIncludeNoDatetimeData(bool include) {
-    change([&] { includeUndated = include && view != ViewSelection::custom; });
+    change([&] { includeUndated = include && choice == PeriodChoice::all; });
 }
 
 bool DisplayPeriod::pickTimePeriod(Instant begin, Instant end) {
     if (!greaterInDay(end, begin)) return false;
     change([&] {
-        leaveViewChoice();
+        leaveChoice();
         display = wholeDays({begin, end});
     });
     return true;
@@ -88,34 +130,40 @@ void DisplayPeriod::setWeekRule(AverageRule rule) {
 }
 
 void DisplayPeriod::setWeekEnd(std::optional<DayNumber> end) {
-    if (std::exchange(weekEnd, end) != end) emit weekChanged();
+    if (std::exchange(weekEnd, end) == end) return;
+    emit weekChanged();
+    if (choice == PeriodChoice::measuringWeek) choose(choice);
 }
 
-Period DisplayPeriod::dataPeriodOf(const ReadingList& readings) const {
-    return datedPeriod(readings).value_or(Period{firstDayOfThisYear, firstDayOfThisYear});
+void DisplayPeriod::take(const ReadingList& readings) {
+    const auto dated = datedPeriod(readings);
+    isAnyDated = dated.has_value();
+    data = dated.value_or(Period{firstDayOfThisYear, firstDayOfThisYear});
+    lastMeasured = lastMeasuringDay(readings);
 }
 
 void DisplayPeriod::setCurrentReadingTimePeriod(const ReadingList& readings) {
-    setDataPeriod(dataPeriodOf(readings));
+    take(readings);
     setTimePeriod(getDefaultBeginDisplayDate(data.begin, data.end), data.end);
 }
 
 void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
-    const Period dated = dataPeriodOf(readings);
-    if (dated == data) return;
-    setDataPeriod(dated);
-    if (view == ViewSelection::viewAll) display = wholeDays(data);
-    if (display == wholeDays({firstDayOfThisYear, firstDayOfThisYear}))
+    const auto state = [this] { return std::tuple(data, isAnyDated, lastMeasured); };
+    const auto before = state();
+    take(readings);
+    if (state() == before) return;
+    const bool wasNone = display == wholeDays({firstDayOfThisYear, firstDayOfThisYear});
+    if (choice != PeriodChoice::picked)
+        display = daysOf(choice);
+    else if (wasNone)
         display = wholeDays({getDefaultBeginDisplayDate(data.begin, data.end), data.end});
     emit changed(); // who shows how far the data go has to know, too
 }
 
 void DisplayPeriod::adjustViewAll() {
     if (!changedUser || DayDiff(data.begin, data.end) >= viewAllDays) return;
-    setSelectViewIndex(ViewSelection::viewAll);
+    choose(PeriodChoice::all);
 }
-
-bool DisplayPeriod::isWholeDataPeriod() const { return display == wholeDays(data); }
 
 bool DisplayPeriod::isValidCommentTimeRange() const {
     return DayDiff(display.begin, display.end) < commentPlacingDays;

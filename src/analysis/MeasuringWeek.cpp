@@ -21,13 +21,6 @@ struct ReadingsOfDay {
 };
 using WeekDays = std::array<ReadingsOfDay, daysOfWeek>;
 
-DayNumber lastDay(const ReadingList& readings) {
-    DayNumber last = noDay;
-    for (const ReadingModel& reading : readings)
-        if (isAveraged(reading)) last = std::max(last, reading.day);
-    return last;
-}
-
 bool isOnDayOf(const MeasuringWeek& week, const ReadingModel& reading) {
     return week.begin <= reading.day && reading.day <= week.end;
 }
@@ -84,6 +77,13 @@ std::size_t countDays(MeasuringWeek& week, const WeekDays& days, const AverageRu
 
 } // namespace
 
+DayNumber lastMeasuringDay(const ReadingList& readings) {
+    DayNumber last = noDay;
+    for (const ReadingModel& reading : readings)
+        if (isAveraged(reading)) last = std::max(last, reading.day);
+    return last;
+}
+
 std::optional<AverageRule> averageRuleNamed(const QString& key) {
     const auto* found = std::ranges::find_if(
         averageRules, [&key](const AverageRuleFacts& facts) { return key == QLatin1String(facts.key); });
@@ -101,7 +101,7 @@ bool MeasuringWeek::reachesThreshold() const {
 
 MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule, std::optional<DayNumber> end) {
     const AverageRuleFacts& facts = factsOf(rule);
-    MeasuringWeek week{.rule = rule, .end = end.value_or(lastDay(readings))};
+    MeasuringWeek week{.rule = rule, .end = end.value_or(lastMeasuringDay(readings))};
     if (week.end != noDay) {
         week.begin = week.end - (daysOfWeek - 1);
         const std::size_t firstUsed = countDays(week, daysOf(readings, week), facts);

@@ -62,6 +62,9 @@ struct MeasuringWeek {
     [[nodiscard]] bool reachesThreshold() const;
 };
 
+/// The last day with a reading that averages count; noDay for none.
+[[nodiscard]] DayNumber lastMeasuringDay(const ReadingList& readings);
+
 /// The week that ends with \p end, or with the last day that has a reading. Undated readings are none.
 [[nodiscard]] MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule,
                                               std::optional<DayNumber> end = {});

@@ -11,6 +11,12 @@ constexpr DayNumber markerDay{markerDate.time_since_epoch().count()};
 
 } // namespace
 
+Period lastDays(Instant last, int days) {
+    // From the middle of the day, which an hour more or less where the clocks change cannot leave.
+    const Instant middle = DateToDayBoundary(last, true) + std::chrono::hours{12};
+    return {DateToDayBoundary(middle - std::chrono::days{days - 1}, true), DateToDayBoundary(last, false)};
+}
+
 bool MatchedDataType(ViewSelection view, bool isPMData) {
     switch (view) {
     case ViewSelection::custom:

@@ -15,13 +15,16 @@ struct Period {
     [[nodiscard]] bool contains(Instant date) const { return begin <= date && date <= end; }
 };
 
+/// So many whole days, the last of them that of \p last; one at least.
+[[nodiscard]] Period lastDays(Instant last, int days);
+
 /// What a view shows of its period. The numbers are those of the view choices.
 enum class ViewSelection : std::int32_t {
-    custom = -1, ///< a period chosen with the date pickers
+    custom = -1, ///< all readings of the days shown
     none = 0,    ///< no reading at all
     viewAll = 1, ///< everything: the display period is the data period
-    amOnly = 2,  ///< readings before noon
-    pmOnly = 3,  ///< readings from noon on
+    amOnly = 2,  ///< readings before noon, of whatever days are shown
+    pmOnly = 3,  ///< readings from noon on, likewise
 };
 
 /// Whether a view of that selection shows readings of that half of the day.

@@ -13,8 +13,9 @@ namespace zel {
 namespace {
 
 const TextAttribute bandFont{.size = 9};
-constexpr double longestLabel = 180;
-constexpr double leastBand = 2; ///< a day of seven years would not be seen
+constexpr double longestLabel = 180; ///< beside a band
+constexpr double enoughLabel = 80;   ///< inside a band, where it is longer
+constexpr double leastBand = 2;      ///< a day of seven years would not be seen
 constexpr double labelIndent = 3;
 constexpr double betweenBands = 4;
 constexpr double bandGap = 2; ///< between two rows
@@ -68,7 +69,8 @@ CommentBand bandOf(const CommentModel& comment, const Period& days, const Period
     CommentBand band;
     band.band.x = std::min(from, scale.left + scale.width - leastBand);
     band.band.width = std::max(leastBand, to - band.band.x);
-    const double room = std::max(band.band.width - 2 * labelIndent, std::min(longestLabel, scale.width / 3));
+    const double inside = band.band.width - 2 * labelIndent;
+    const double room = inside >= enoughLabel ? inside : std::min(longestLabel, scale.width / 3);
     band.label = labelOf(comment, room);
     band.color = getCommentColor(comment.degree, true);
     band.labelAt.x = labelX(band.band, textSize(band.label, bandFont).width, scale);

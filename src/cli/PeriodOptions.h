@@ -4,14 +4,18 @@
 #include "cli/Command.h"
 #include "store/RecordLinks.h"
 
+#include <optional>
+
 namespace zel::cli {
 
-/// The days of --from and --to, both included; either may be left open.
+/// The days of --from and --to, both included; either may be left open. Or the \p last days up to that of
+/// --to.
 struct DayRange {
     Date from;
     Date to;
+    std::optional<int> last = std::nullopt;
 
-    [[nodiscard]] bool isOpen() const { return !from && !to; }
+    [[nodiscard]] bool isOpen() const { return !from && !to && !last; }
 };
 
 /// The day that the option gives, as its begin; none if it was not given.
@@ -19,7 +23,10 @@ struct DayRange {
 
 [[nodiscard]] tl::expected<DayRange, Failure> dayRange(const Request& request);
 
-/// Whole days; an open end is that of the patient's dated readings.
+/// The half of the day of --am or --pm; viewAll for both.
+[[nodiscard]] tl::expected<ViewSelection, Failure> viewOption(const Request& request);
+
+/// Whole days; an open end is that of the patient's dated readings, which the last days count back from, too.
 [[nodiscard]] Period periodOf(const DayRange& days, const ReadingList& readings, const Clock& clock);
 
 } // namespace zel::cli

@@ -18,14 +18,6 @@ namespace {
 
 constexpr qsizetype columns = 9;
 
-tl::expected<ViewSelection, Failure> viewOption(const Request& request) {
-    const bool am = request.options.isSet(u"am"_s);
-    const bool pm = request.options.isSet(u"pm"_s);
-    if (am && pm) return wrongUsage(qtTrId("CliAmAndPm"));
-    if (am) return ViewSelection::amOnly;
-    return pm ? ViewSelection::pmOnly : ViewSelection::viewAll;
-}
-
 QStringList fields(const ReadingModel& reading) {
     const bool undated = reading.isUndated();
     QStringList fields{undated ? u"n.a"_s : dayText(reading.day, u"yyyy-MM-dd"_s),
@@ -110,8 +102,8 @@ CommandResult runReadings(const Request& request, Surroundings& around) {
 Command readingsCommand() {
     return {"readings", [] { return qtTrId("CliHelpReadings"); },
             [] {
-                return QList{valued(u"patient"_s), valued(u"from"_s),  valued(u"to"_s),   flag(u"am"_s),
-                             flag(u"pm"_s),        flag(u"undated"_s), flag(u"numbers"_s)}
+                return QList{valued(u"patient"_s), valued(u"from"_s), valued(u"to"_s),    valued(u"last"_s),
+                             flag(u"am"_s),        flag(u"pm"_s),     flag(u"undated"_s), flag(u"numbers"_s)}
                        + readingChangeOptions();
             },
             runReadings};

@@ -19,6 +19,7 @@ struct Order {
     QString ID;
     std::vector<Section> sections;
     DayRange days;
+    ViewSelection view;
     AverageRule rule;
     QPageSize paper;
     QString output;
@@ -64,13 +65,16 @@ tl::expected<Order, Failure> orderOf(const Request& request, const QPageSize& us
     if (!sections) return tl::unexpected(sections.error());
     const auto days = dayRange(request);
     if (!days) return tl::unexpected(days.error());
+    const auto view = viewOption(request);
+    if (!view) return tl::unexpected(view.error());
     const auto rule = ruleOption(request);
     if (!rule) return tl::unexpected(rule.error());
     const auto paper = paperOption(request, usualPaper);
     if (!paper) return tl::unexpected(paper.error());
     const auto output = requiredValue(request, u"output"_s);
     if (!output) return tl::unexpected(output.error());
-    return Order{*ID, *sections, *days, *rule, *paper, *output, request.options.isSet(u"practitioner"_s)};
+    return Order{*ID,   *sections, *days,   *view,
+                 *rule, *paper,    *output, request.options.isSet(u"practitioner"_s)};
 }
 
 /// A slip of the finger must not cost years of readings.
@@ -80,10 +84,11 @@ CommandResult checkOutput(const DataStore& store, const QString& path) {
     return {};
 }
 
-/// All that is stored of the patient, or the days asked for; undated readings belong to no day.
+/// All that is stored of the patient, or the days and the half of the day asked for; undated readings belong
+/// to no day.
 ReadingSelection selectionOf(const Order& order, const DataStore& store, const Clock& clock) {
-    return {periodOf(order.days, store.getReadingForCurID(), clock), ViewSelection::viewAll,
-            order.days.isOpen()};
+    const bool isAll = order.days.isOpen() && order.view == ViewSelection::viewAll;
+    return {periodOf(order.days, store.getReadingForCurID(), clock), order.view, isAll};
 }
 
 /// Says which sections of those asked for have no page.
@@ -104,6 +109,8 @@ CommandResult writeReport(const Order& order, const DataStore& store, Surroundin
     const auto written = writePdf(view, order.sections, order.output);
     if (!written) return failed(describe(written.error()));
     printLine(around.out, u"written: "_s + order.output);
+    if (const StoreResult& limits = store.viewLimitsRead(); !limits)
+        printLine(around.err, describeUnreadLimits(limits.error()));
     tellEmptySections(view, order, around);
     return {};
 }
@@ -125,7 +132,8 @@ Command reportCommand() {
     return {"report", [] { return qtTrId("CliHelpReport"); },
             [] {
                 return QList{valued(u"patient"_s), valued(u"section"_s), valued(u"from"_s),
-                             valued(u"to"_s),      valued(u"rule"_s),    flag(u"practitioner"_s),
+                             valued(u"to"_s),      valued(u"last"_s),    flag(u"am"_s),
+                             flag(u"pm"_s),        valued(u"rule"_s),    flag(u"practitioner"_s),
                              valued(u"paper"_s),   valued(u"output"_s)};
             },
             runReport};

@@ -47,7 +47,8 @@ CommandResult runStatistics(const Request& request, Surroundings& around) {
 Command statisticsCommand() {
     return {"statistics", [] { return qtTrId("CliHelpStatistics"); },
             [] {
-                return QList{valued(u"patient"_s), valued(u"from"_s), valued(u"to"_s), flag(u"undated"_s)};
+                return QList{valued(u"patient"_s), valued(u"from"_s), valued(u"to"_s), valued(u"last"_s),
+                             flag(u"undated"_s)};
             },
             runStatistics};
 }

@@ -61,7 +61,8 @@ QString shownPart(const ReportSource& report, Section section) {
 /// Which readings the section counts; none for one that is about something else.
 CountRule countRule(Section section) {
     switch (section) {
-    case Section::graph: return isInChart;
+    case Section::graph:
+    case Section::trend: return isInChart;
     case Section::histogram:
     case Section::correlation: return isCounted;
     case Section::table: return isListed;
@@ -78,7 +79,7 @@ QString countText(const ReportSource& report, Section section) {
     const CountRule rule = countRule(section);
     if (!rule) return {};
     const ReadingCount count = countReadings(report.readings, report.selection, rule);
-    const bool isHeaded = section != Section::graph && section != Section::table;
+    const bool isHeaded = section != Section::graph && section != Section::trend && section != Section::table;
     return isHeaded && describeLeftOut(count).isEmpty() ? QString() : describe(count);
 }
 

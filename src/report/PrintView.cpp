@@ -8,6 +8,7 @@
 #include "report/PageFrame.h"
 #include "report/SummaryPage.h"
 #include "report/TableLegend.h"
+#include "report/TrendPage.h"
 
 namespace zel {
 
@@ -74,6 +75,9 @@ void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section secti
         return drawPatientNote(picture, profile(), number, legendPlace(at), legendWidth(at));
     case Section::histogram: return drawHistogramPage(picture, source, at.drawingRect);
     case Section::correlation: return drawCorrelationPage(picture, source, at.drawingRect);
+    case Section::trend:
+        drawTrendPage(picture, source, at.drawingRect);
+        return drawTrendLegend(picture, source, legendPlace(at), legendWidth(at));
     case Section::comment:
         DrawComment(source, comments()).drawRect(picture, at.drawingRect, number);
         return drawCommentLegend(picture, source, legendPlace(at), legendWidth(at));

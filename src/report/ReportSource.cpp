@@ -17,8 +17,8 @@ std::optional<ReportSource> reportSource(const DataStore& store, const ReadingSe
                         .settings = store.getSetting(),
                         .selection = selection,
                         .rows = std::move(rows),
-                        .now = std::chrono::floor<Instant::duration>(clock.now()),
                         .highFrom = store.viewLimits().limits(),
+                        .now = std::chrono::floor<Instant::duration>(clock.now()),
                         .getIsAfib = isAFib};
 }
 

@@ -24,17 +24,17 @@ struct ReportSource {
     const SettingModel& settings;
     ReadingSelection selection; ///< the reporting period and what is shown of it
     ReadingRows rows;           ///< what the reading table shows of it
+    LimitPair highFrom{};       ///< values at or above it are marked in the reading table
     Instant now{};              ///< today's date, and the day that the age is reached on
 
     AverageRule weekRule = AverageRule::esh; ///< of the summary's measuring week
     std::optional<DayNumber> weekEnd{};      ///< its last day; else the period's last one with a reading
 
-    LimitPair highFrom = ViewLimits{}.limits(); ///< values are marked from there on
-
     bool needPhysicianInfo = false;    ///< the practitioner's details stand in the footer
     bool getShowMam = true;            ///< the reading table shows its column of averages
     bool getShowPad = true;            ///< the reading table shows its arrhythmia column
     bool getIsAfib = false;            ///< which is titled for AFib, not for PAD
+    bool trendApart = false;           ///< the trend has mornings and evenings as lines of their own
     ChartStyle lowerChart = DrawPulse; ///< the graph page's charts, for what they show on the screen
     ChartStyle bloodChart = DrawBlood;
 };

@@ -17,6 +17,7 @@ constexpr std::array table{
                  landscape},
     SectionFacts{Section::histogram, "histogram", [] { return qtTrId("histogram"); }, landscape},
     SectionFacts{Section::correlation, "correlation", [] { return qtTrId("correlation"); }, landscape},
+    SectionFacts{Section::trend, "trend", [] { return qtTrId("trend"); }, landscape},
     SectionFacts{Section::table, "table", [] { return qtTrId("table"); }, portrait},
     SectionFacts{Section::comment, "comment", [] { return qtTrId("comment"); }, portrait},
     SectionFacts{Section::SWStatistics, "SWStatistics", [] { return qtTrId("SWStatistics"); }, portrait},

@@ -8,7 +8,17 @@
 
 namespace zel {
 
-enum class Section { summary, graph, PatientProfile, histogram, correlation, table, comment, SWStatistics };
+enum class Section {
+    summary,
+    graph,
+    PatientProfile,
+    histogram,
+    correlation,
+    trend,
+    table,
+    comment,
+    SWStatistics
+};
 
 /// One section of the report.
 struct SectionFacts {

@@ -112,7 +112,7 @@ void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& r
     } else {
         summaryLine(picture, qtTrId("summaryNoWeek"), left, summaryFont);
     }
-    summaryLine(picture, completeText(week), left, summaryFont);
+    summaryLine(picture, completeText(week), left, week.isComplete() ? summaryFont : summaryBold);
     summaryLine(picture, weekCounts(week), left, summaryFont);
 }
 

@@ -2,6 +2,7 @@
 
 #include "analysis/BeforeAndSince.h"
 #include "analysis/Summary.h"
+#include "report/CommentLook.h"
 #include "report/FieldText.h"
 #include "report/SummaryType.h"
 
@@ -20,7 +21,7 @@ constexpr std::array textLines{8, 4, 2};
 
 /// What a comment says, in the lines that it takes.
 struct SummaryComment {
-    QString days;
+    QString head;
     QStringList text;
     QStringList measured;
 
@@ -44,36 +45,40 @@ QStringList firstLines(const QString& text, double width, int most) {
     return lines;
 }
 
-std::vector<SummaryComment> layOut(const ReportSource& report,
-                                   const std::vector<const CommentModel*>& comments, double width,
-                                   int mostLines) {
-    const DayMeans means(report.readings);
+struct CommentSource {
+    const ReportSource& report;
+    DayMeans means;
+    double width; ///< of a line
+};
+
+SummaryComment layOut(const CommentSource& source, const CommentModel& comment, int mostLines) {
+    const QString number = commentNumber(source.report.comments, comment);
+    const QString change = describe(calcBeforeAndSince(source.means, source.report.comments, comment));
+    return {number + u"   "_s + daysText(comment, source.report),
+            firstLines(comment.comment, source.width, mostLines),
+            wrapped(change, source.width, summarySmall, mostMeasuredLines)};
+}
+
+/// Those that fit; where not all do, a line more has room.
+std::vector<SummaryComment> fitting(const CommentSource& source,
+                                    const std::vector<const CommentModel*>& comments, double height,
+                                    int mostLines) {
+    const double forRest = lineHeight(summaryBold);
     std::vector<SummaryComment> items;
-    items.reserve(comments.size());
+    std::size_t besideRest = 0;
     for (const CommentModel* comment : comments) {
-        const QString change = describe(calcBeforeAndSince(means, report.comments, *comment));
-        items.push_back({daysText(*comment, report), firstLines(comment->comment, width, mostLines),
-                         wrapped(change, width, summarySmall, mostMeasuredLines)});
+        if (forRest <= height) besideRest = items.size();
+        items.push_back(layOut(source, *comment, mostLines));
+        height -= items.back().height();
+        if (height >= 0) continue;
+        items.resize(besideRest);
+        break;
     }
     return items;
 }
 
-/// How many of them fit; where not all do, a line says how many more there are.
-std::size_t fitting(const std::vector<SummaryComment>& items, double height) {
-    double taken = 0;
-    std::size_t count = 0;
-    const double forRest = lineHeight(summaryBold);
-    std::size_t withRest = 0;
-    for (; count < items.size(); ++count) {
-        if (taken + forRest <= height) withRest = count;
-        taken += items[count].height();
-        if (taken > height) return withRest;
-    }
-    return count;
-}
-
 void drawItem(Picture& picture, const SummaryComment& item, Rect& left) {
-    summaryLine(picture, item.days, left, summaryBold);
+    summaryLine(picture, item.head, left, summaryBold);
     for (const QString& line : item.text)
         summaryLine(picture, line, left, summaryFont);
     for (const QString& line : item.measured)
@@ -85,19 +90,17 @@ void drawItem(Picture& picture, const SummaryComment& item, Rect& left) {
 
 void drawSummaryComments(Picture& picture, const ReportSource& report, const Rect& rect) {
     const auto comments = commentsOfPeriod(report.comments, report.selection.period);
-    const auto total = static_cast<int>(comments.size());
     Rect left = summaryBlock(picture, qtTrId("summaryComments"), rect);
     if (comments.empty()) return summaryLine(picture, qtTrId("summaryNoComments"), left, summaryFont);
+    const CommentSource source{report, DayMeans(report.readings), left.width};
     std::vector<SummaryComment> items;
-    std::size_t shown = 0;
     for (const int lines : textLines) {
-        items = layOut(report, comments, left.width, lines);
-        shown = fitting(items, left.height);
-        if (shown == items.size()) break;
+        items = fitting(source, comments, left.height, lines);
+        if (items.size() == comments.size()) break;
     }
-    for (std::size_t i = 0; i < shown; ++i)
-        drawItem(picture, items[i], left);
-    if (const int more = total - static_cast<int>(shown); more > 0)
+    for (const SummaryComment& item : items)
+        drawItem(picture, item, left);
+    if (const int more = static_cast<int>(comments.size() - items.size()); more > 0)
         summaryLine(picture, qtTrId("summaryMoreComments", more), left, summaryBold);
 }
 

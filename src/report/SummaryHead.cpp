@@ -14,7 +14,7 @@ namespace {
 const TextAttribute nameFont{.size = 14, .bold = true};
 const TextAttribute personFont{.size = 10};
 const TextAttribute periodFont{.size = 10, .bold = true};
-constexpr int smallestOnOneLine = 11;
+constexpr int smallestOnOneLine = 11, practitionerLines = 5;
 constexpr double nameShare = 0.62, betweenColumns = 14, aboveName = 4;
 
 /// "Born 1960/05/02, 59 years"; the age is that of today, as on the profile.
@@ -67,10 +67,12 @@ Rect drawSummaryHead(Picture& picture, const ReportSource& report, const QString
     const QString ID = qtTrId("summaryID").arg(elided(report.patient.ID, left.width / 3, personFont));
     summaryLine(picture, birthText(report) + u"     "_s + ID, left, personFont);
     summaryLine(picture, periodText(report), left, periodFont);
-    const double practitioner = left.right() + betweenColumns;
-    const double bottom = std::min(left.top(), top - 5 * lineHeight(summarySmall));
-    if (report.needPhysicianInfo)
-        drawPractitioner(picture, report, {practitioner, bottom, rect.right() - practitioner, top - bottom});
+    double bottom = left.top();
+    if (report.needPhysicianInfo) {
+        bottom = std::min(bottom, top - practitionerLines * lineHeight(summarySmall));
+        const double x = left.right() + betweenColumns;
+        drawPractitioner(picture, report, {x, bottom, rect.right() - x, top - bottom});
+    }
     Rect below{rect.x, rect.y, rect.width, bottom - rect.y};
     if (!note.isEmpty()) summaryLine(picture, note, below, summaryBold);
     return below;

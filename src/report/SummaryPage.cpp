@@ -8,6 +8,7 @@
 #include "report/SummaryHead.h"
 #include "report/SummaryLeftOut.h"
 #include "report/SummaryTable.h"
+#include "report/SummaryTrend.h"
 
 namespace zel {
 
@@ -43,6 +44,8 @@ void drawSummaryPage(Picture& picture, const PageGeometry& at, const ReportSourc
     drawSummaryTable(picture, report, figures, takeTop(rest, summaryTableHeight()));
     rest.height -= gap;
     rest = {rest.x, rest.y + gap, rest.width, rest.height - gap};
+    drawSummaryTrend(picture, report, takeTop(rest, rest.height - gap - summaryDaysHeight()));
+    rest.height -= gap;
     const double days = rest.width * daysShare;
     drawSummaryDays(picture, report, {rest.x, rest.y, days - betweenColumns, rest.height});
     drawSummaryComments(picture, report, {rest.x + days, rest.y, rest.width - days, rest.height});

@@ -66,7 +66,7 @@ TEST_F(DisplayPeriodTest, NewPatientOpensWithAllOfAShortTimeOrTheLastMonthsOfALo
     }
     period.setSelectViewIndex(ViewSelection::viewAll);
     EXPECT_EQ(shown(), "2026-01-01 00:00:00 2026-01-01 23:59:59") << "not the days of somebody else";
-    EXPECT_TRUE(period.isWholeDataPeriod());
+    EXPECT_EQ(period.getChoice(), PeriodChoice::all);
 }
 
 TEST_F(DisplayPeriodTest, AViewOfAllDaysEndsWhereOtherDaysAreShown) {
@@ -89,7 +89,9 @@ TEST_F(DisplayPeriodTest, AViewOfAllDaysEndsWhereOtherDaysAreShown) {
         period.setIncludeNoDatetimeData(true);
         period.setTimePeriod(at(c.begin), at(c.end));
         EXPECT_EQ(period.getSelectViewIndex(), c.after) << c.begin;
-        EXPECT_EQ(period.getIncludeNoDatetimeData(), c.after != ViewSelection::custom) << c.begin;
+        const bool isAll = c.after == ViewSelection::viewAll;
+        EXPECT_EQ(period.getChoice(), isAll ? PeriodChoice::all : PeriodChoice::picked) << c.begin;
+        EXPECT_EQ(period.getIncludeNoDatetimeData(), isAll) << c.begin;
     }
 }
 
@@ -107,6 +109,9 @@ TEST_F(DisplayPeriodTest, UndatedReadingsAreOutWhereTheirChoiceIs) {
     period.setIncludeNoDatetimeData(true);
     EXPECT_FALSE(period.getIncludeNoDatetimeData());
     include();
+    period.choose(PeriodChoice::last30);
+    EXPECT_FALSE(period.getIncludeNoDatetimeData());
+    include();
     select(readingsAt({"2000-01-01 08:00", "2019-01-01", "2019-07-08"})); // somebody else
     EXPECT_FALSE(period.getIncludeNoDatetimeData());
 }
@@ -121,7 +126,7 @@ TEST_F(DisplayPeriodTest, PickedDaysAreAtLeastTwoAndEndTheViewChoice) {
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::pmOnly);
     EXPECT_EQ(changes, 0);
     EXPECT_TRUE(period.pickTimePeriod(at("2019-05-02 20:00"), at("2019-05-03 08:00")));
-    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::pmOnly) << "still of the days that are picked";
     EXPECT_EQ(shown(), "2019-05-02 00:00:00 2019-05-03 23:59:59");
     EXPECT_EQ(changes, 1);
     period.setSelectViewIndex(ViewSelection::viewAll);
@@ -157,6 +162,81 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
     EXPECT_EQ(shown(), "2026-01-01 00:00:00 2026-01-01 23:59:59");
 }
 
+TEST_F(DisplayPeriodTest, DaysAreChosenFromTheLastReadingBack) {
+    using enum PeriodChoice;
+    ReadingList readings = readingsAt({"2000-01-01 08:00", "2019-03-01 23:59", "2019-04-02 00:00"});
+    readings.back().exclusion = QStringLiteral("wrong cuff");
+    readings.push_back(readingAt("2019-03-30 07:00"));
+    const char* const year = "2026-01-01 00:00:00 2026-01-01 23:59:59"; // as without any choice
+    struct Case {
+        ReadingList readings;
+        std::optional<DayNumber> weekEnd;
+        PeriodChoice choice;
+        const char* shown;
+    };
+    const Case cases[] = {
+        {readings, {}, last7, "2019-03-27 00:00:00 2019-04-02 23:59:59"}, // across the change to summer time
+        {readings, {}, last30, "2019-03-04 00:00:00 2019-04-02 23:59:59"},
+        {readings, {}, last90, "2019-01-03 00:00:00 2019-04-02 23:59:59"}, // also where there are fewer
+        {readings, {}, all, "2019-03-01 00:00:00 2019-04-02 23:59:59"},
+        {readings, {}, measuringWeek, "2019-03-24 00:00:00 2019-03-30 23:59:59"},    // the last that counts
+        {readings, 17957, measuringWeek, "2019-02-24 00:00:00 2019-03-02 23:59:59"}, // a Saturday
+        {readings, {}, picked, "2019-03-01 00:00:00 2019-04-02 23:59:59"},
+        {readingsAt({"2019-03-01"}), {}, last30, "2019-01-31 00:00:00 2019-03-01 23:59:59"},
+        {readingsAt({"2019-03-01"}), {}, measuringWeek, "2019-02-23 00:00:00 2019-03-01 23:59:59"},
+        {readingsAt({"2000-01-01 08:00"}), {}, last7, year},
+        {{}, {}, measuringWeek, year},
+    };
+    for (const Case& c : cases) {
+        for (const HalfOfDay half : {HalfOfDay::both, HalfOfDay::morning, HalfOfDay::evening}) {
+            select(c.readings);
+            period.setWeekEnd(c.weekEnd);
+            period.setHalfOfDay(half);
+            period.choose(c.choice);
+            EXPECT_EQ(shown(), c.shown) << static_cast<int>(c.choice);
+            EXPECT_EQ(period.getChoice(), c.choice);
+            EXPECT_EQ(period.getHalfOfDay(), half) << "whatever the days";
+        }
+    }
+}
+
+TEST_F(DisplayPeriodTest, ChosenDaysFollowReadingsAndWeekUntilOthersAreShown) {
+    using enum PeriodChoice;
+    const ReadingList earlier = readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"});
+    const ReadingList later = readingsAt({"2019-03-01 10:00", "2019-07-08 18:00", "2019-07-20 08:00"});
+    for (const auto& [choice, before, after] : {std::tuple(last7, "2019-07-02 00:00:00 2019-07-08 23:59:59",
+                                                           "2019-07-14 00:00:00 2019-07-20 23:59:59"),
+                                                {measuringWeek, "2019-07-02 00:00:00 2019-07-08 23:59:59",
+                                                 "2019-07-14 00:00:00 2019-07-20 23:59:59"}}) {
+        select(earlier);
+        period.choose(choice);
+        period.setHalfOfDay(HalfOfDay::evening);
+        EXPECT_EQ(shown(), before);
+        period.refreshDataPeriod(later);
+        EXPECT_EQ(shown(), after);
+        ReadingList excluded = later;
+        excluded.back().exclusion = QStringLiteral("not at rest");
+        period.refreshDataPeriod(excluded);
+        EXPECT_EQ(shown(), choice == last7 ? after : before) << "a week of readings that count";
+        const Period days = period.getTimePeriod();
+        period.setTimePeriod(days.begin, days.end);
+        EXPECT_EQ(period.getChoice(), choice) << "the same days";
+        period.setTimePeriod(days.begin - std::chrono::days{1}, days.end);
+        EXPECT_EQ(period.getChoice(), picked);
+        EXPECT_EQ(period.getHalfOfDay(), HalfOfDay::evening);
+    }
+    select(later);
+    EXPECT_EQ(period.getHalfOfDay(), HalfOfDay::both) << "of a newly chosen patient";
+    period.choose(measuringWeek);
+    changes = 0;
+    period.setWeekEnd(18085); // 8 July
+    EXPECT_EQ(shown(), "2019-07-02 00:00:00 2019-07-08 23:59:59");
+    EXPECT_EQ(changes, 1);
+    period.choose(last30);
+    period.setWeekEnd({});
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
     period.setTimePeriod(at("2019-05-02 20:00"), std::nullopt);
     EXPECT_EQ(shown(), "2019-05-02 00:00:00 2026-01-01 00:00:00");
@@ -169,8 +249,15 @@ TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
     period.setSelectViewIndex(ViewSelection::amOnly);
     period.setIncludeNoDatetimeData(true);
     period.setChangeUser(true);
-    EXPECT_EQ(changes, 4);
+    EXPECT_EQ(changes, 3) << "undated readings are of no picked days";
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
+    period.choose(PeriodChoice::last7);
+    period.choose(PeriodChoice::last7);
+    EXPECT_EQ(changes, 4);
+    period.choose(PeriodChoice::last90); // the same day, since there is no reading
+    EXPECT_EQ(changes, 5) << "who shows the choice has to know";
+    period.choose(PeriodChoice::picked);
+    changes = 5;
     period.setChangeUser(false);
     period.setCurrentReadingTimePeriod(readingsAt({"2019-03-01 10:00", "2019-03-08 18:00"}));
     period.adjustViewAll();

@@ -36,12 +36,17 @@ TEST_F(AnalysisTest, ReadingsAreTheListOfThePeriod) {
     EXPECT_EQ(of("readings --from 2026-10-30 --to 2026-11-04"),
               header + "2026-11-01" + nothing + morning + evening + next + "2026-11-04" + nothing);
     EXPECT_EQ(of("readings --to 2026-11-02 --undated"), header + undated + morning + evening);
+    EXPECT_EQ(of("readings --last 1"), header + next);
+    EXPECT_EQ(of("readings --last 1 --to 2026-11-02 --am"), header + morning);
+    EXPECT_EQ(of("readings --last 36525 --to 2026-11-02"), of("readings --from 1926-11-03 --to 2026-11-02"));
 }
 
 TEST_F(AnalysisTest, StatisticsAreTheCellsOfTheTable) {
     EXPECT_EQ(of("statistics"), "sys: 124 99 152\ndia: 76 60 88\npulse: 80 66 102\npp: 48 39 64\n");
     EXPECT_EQ(of("statistics --to 2026-11-02 --undated"),
               "sys: 130 118 152\ndia: 82 79 88\npulse: 67 64 71\npp: 48 39 64\n");
+    EXPECT_EQ(of("statistics --last 2"), of("statistics"));
+    EXPECT_EQ(of("statistics --last 1"), of("statistics --from 2026-11-03"));
     ASSERT_EQ(zel({u"settings"_s, u"--set=ShowPPorMap=1"_s}).status, 0);
     EXPECT_EQ(of("statistics --from 2026-11-03"),
               "sys: 99 99 99\ndia: 60 60 60\npulse: 102 102 102\nmap: 73 73 73\n");

@@ -1,6 +1,7 @@
 #include "cli/CliTest.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace zel {
 
@@ -32,8 +33,8 @@ TEST_F(ReportTest, everySectionIsWritten) {
     EXPECT_EQ(outcome.out, "written: " + output.toStdString() + '\n');
     EXPECT_EQ(outcome.err, "Empty, so not in the report: comment\n");
     EXPECT_TRUE(written().startsWith("%PDF-"));
-    // No comments: seven sections of one page each, three of them upright.
-    EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 4);
+    // No comments: eight sections of one page each, three of them upright.
+    EXPECT_EQ(written().count("/MediaBox [0 0 792.000000 612.000000]"), 5);
     EXPECT_EQ(written().count("/MediaBox [0 0 612.000000 792.000000]"), 3);
     const char* const fromZEL = "/Author <feff005a0045004c>";
     EXPECT_TRUE(written().contains(fromZEL)) << "nobody has filled in the practitioner";
@@ -71,6 +72,8 @@ TEST_F(ReportTest, whatCannotBePrintedIsRefusedAndLeavesNoFile) {
         {u"comment"_s, {}, 1, "nothing to print"},
         {u"table"_s, {u"--from"_s, u"2030-01-01"_s, u"--to"_s, u"2030-02-01"_s}, 1, "nothing to print"},
         {u"table,chart"_s, {}, 2, "no section 'chart'"},
+        {u"table"_s, {u"--last"_s, u"week"_s}, 2, "not 'week'"},
+        {u"table"_s, {u"--am"_s, u"--pm"_s}, 2, "--am or --pm"},
         {u"table"_s, {u"--paper"_s, u"A5"_s}, 2, "not 'A5'"},
         {u"summary"_s, {u"--rule"_s, u"jnc"_s}, 2, "no rule 'jnc'"},
         {u"table"_s, {u"--from"_s, u"1.2.2026"_s}, 2, "--from"},
@@ -93,6 +96,21 @@ TEST_F(ReportTest, theSummaryIsAveragedByTheRule) {
     EXPECT_EQ(written().size(), pages[0].size());
     EXPECT_NE(pages[0].size(), pages[1].size());
     EXPECT_NE(pages[1].size(), pages[2].size());
+}
+
+TEST_F(ReportTest, limitsThatWereChosenButCannotBeReadAreTold) {
+    QFile choice(QFileInfo(dataFile()).path() + u"/View.json"_s);
+    for (const auto& [text, told] :
+         {std::pair(R"({"highFrom": "own", "ownSystolic": 150, "ownDiastolic": 95})", ""),
+          {R"({"highFrom": "own", "ownSystolic": 95, "ownDiastolic": 150})", "135/85 mmHg"}}) {
+        ASSERT_TRUE(choice.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        choice.write(text);
+        choice.close();
+        const Outcome outcome = report(u"table"_s);
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.err.empty(), std::string(told).empty()) << outcome.err;
+        EXPECT_THAT(outcome.err, testing::HasSubstr(told));
+    }
 }
 
 TEST_F(ReportTest, neverReplacesTheDataFile) {

@@ -229,6 +229,29 @@ TEST(ChartPage, tellsOfReadingsOutsideTheScales) {
     }
 }
 
+TEST(TrendPage, textsStandApartAndTheLegendSaysWhatIsDrawn) {
+    SampleReport sample(60, 7);
+    sample.comments.back()->comment = u"a word and another "_s.repeated(200);
+    const Instant begin = sample.selection.period.begin;
+    for (const int days : {1, 7, 31, 100, 159, 400, 900, 2557, 40000})
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            const Instant end = begin + std::chrono::days{days - 1} + std::chrono::hours{12};
+            sample.selection.period = {begin, DateToDayBoundary(end, false)};
+            const PrintView view = sample.view(paper);
+            const PageGeometry at = view.geometry(Section::trend);
+            ASSERT_EQ(misplaced(view.page(Section::trend, 1), at.totalRect), u""_s) << days << " days";
+        }
+    EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"Thin dashed lines: the limits of 140/90 mmHg."_s));
+    sample.settings.sysStandard = 250;
+    EXPECT_TRUE(wordsOf(sample, Section::trend)
+                    .contains(u"Thin dashed line: the limit of 90 mmHg diastolic. "
+                              "The limit of 250 mmHg systolic lies outside the scale."_s));
+    sample.settings.sysStandard = sample.settings.diaStandard = 0;
+    EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"No limits are set."_s));
+    sample.readings[0].exclusion = u"cuff slipped"_s;
+    EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"59 readings; "_s)) << "and one left out";
+}
+
 TEST(ChartPage, figuresOfAllTimesSayThatTheyAre) {
     SampleReport sample(4, 1);
     const QString statistics = u"4 readings, all times of day"_s;

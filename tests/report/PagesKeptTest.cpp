@@ -153,6 +153,7 @@ QStringList linesOf(const QString& name, const PrintView& view) {
 /// Every mark that pages have, and texts that have room.
 SampleReport usualReport() {
     SampleReport sample(34, 1);
+    sample.highFrom = {135, 85};
     sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-22"), false);
     sample.patient.Sex = 1;
     sample.patient.Smoker = 1;

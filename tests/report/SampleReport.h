@@ -14,6 +14,9 @@ struct SampleReport {
     DataLogList downloads;
     SettingModel settings = SettingModel::initWithDefault();
     ReadingSelection selection;
+    LimitPair highFrom; ///< none
+    AverageRule weekRule = AverageRule::esh;
+    std::optional<DayNumber> weekEnd;
     bool needPhysicianInfo = true;
     bool getShowMam = true;
     bool getShowPad = true;

@@ -1,4 +1,5 @@
 #include "SampleReport.h"
+#include "analysis/HighValues.h"
 #include "chart/Drawing.h"
 
 #include <QRegularExpression>
@@ -40,6 +41,7 @@ struct Spoiled {
 /// More than any patient has.
 SampleReport crowded() {
     SampleReport sample(700);
+    sample.highFrom = {120, 70};
     exclude(sample, 30, u"Measured after four flights of stairs, cuff over the sleeve. "_s.repeated(9));
     const QString note = u"Dose changed after the visit, dizzy when getting up. "_s;
     for (int i = 0; i < 40; ++i)
@@ -57,10 +59,11 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"no readings", SampleReport()});
     samples.push_back({"one", SampleReport(1)});
     samples.push_back({"62", SampleReport(62, 2)});
+    samples.back().sample.highFrom = {0, 85};
     samples.push_back({"100,000", SampleReport(100'000)});
     samples.back().sample.selection.period.end = DateToDayBoundary(noonOf("2160-01-01"), false);
     samples.push_back({"crowded", crowded()});
-    samples.push_back({"no date of birth, all rows of a NICE week", SampleReport(60, 1)});
+    samples.push_back({"no date of birth", SampleReport(60, 1)});
     samples.back().sample.patient.DateOfBirth = getNilDate();
     samples.push_back({"other days", SampleReport(60, 4)});
     samples.back().sample.selection.period = {DateToDayBoundary(noonOf("2030-01-01"), true),
@@ -68,6 +71,7 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"off the scale", SampleReport(60, 1)});
     for (ReadingModel& reading : samples.back().sample.readings)
         reading.sys = reading.dia = reading.pulse = UINT32_MAX;
+    samples.back().sample.highFrom = {135, 85};
     samples.push_back({"all in one minute", SampleReport(60, 1)});
     for (ReadingModel& reading : samples.back().sample.readings) {
         reading.ReadingDate = noonOf("2019-05-05");
@@ -98,6 +102,10 @@ TEST(Summary, isOnePageThatCanBeReadWhateverTheData) {
             const Rect total = view.geometry(Section::summary).totalRect;
             const auto texts = textsOf(view.page(Section::summary, 1));
             EXPECT_GT(texts.size(), 40U) << what;
+            EXPECT_THAT(wordsOf(view), testing::Contains(testing::Truly([](const QString& words) {
+                            return words.endsWith(" Readings."_L1);
+                        })))
+                << what << ": how to read it is cut";
             for (std::size_t i = 0; i < texts.size(); ++i) {
                 const Rect box = boxOf(texts[i]);
                 const auto told = [&] {
@@ -125,7 +133,7 @@ TEST(Summary, tellsHowManyMoreThereAre) {
             return found.isEmpty() ? 0 : found.front().section(u' ', 1, 1).toInt();
         };
         const auto comments =
-            words.filter(QRegularExpression(u"^2019/\\d\\d/10 \u2013 2019/12/20$"_s)).size();
+            words.filter(QRegularExpression(u"^\\d+   2019/\\d\\d/10 \u2013 2019/12/20$"_s)).size();
         EXPECT_GT(comments, 2);
         EXPECT_EQ(comments + rest("comments"), 40);
         const auto excluded = words.filter(u"Measured after"_s).size();
@@ -135,8 +143,47 @@ TEST(Summary, tellsHowManyMoreThereAre) {
     }
 }
 
+TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
+    SampleReport sample(20); // to 10 January
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-08"), false);
+    const auto expectWeek = [&](const char* words) {
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(words)));
+    };
+    expectWeek("Measuring week (ESH)  2019/01/02 \u2013 2019/01/08");
+    sample.weekRule = AverageRule::nice;
+    sample.weekEnd = sample.zone.day(noonOf("2019-01-20"));
+    expectWeek("Measuring week (NICE)  2019/01/14 \u2013 2019/01/20");
+    expectWeek("No readings in this week");
+    expectWeek("Incomplete, needs 4 more days");
+    EXPECT_THAT(wordsOf(sample.view()), testing::Not(testing::Contains(QString()))) << "no empty text";
+    sample.weekRule = AverageRule::aha;
+    sample.weekEnd = sample.zone.day(noonOf("2019-01-03"));
+    expectWeek("Measuring week (AHA)  2018/12/28 \u2013 2019/01/03");
+}
+
+TEST(Summary, tellsWhoThePatientIs) {
+    const std::pair<Date, const char*> births[] = {
+        {noonOf("1960-01-15"), "Born 1960/01/15, 60 years     ID P-17"},
+        {noonOf("1960-01-16"), "Born 1960/01/16, 59 years     ID P-17"},
+        {noonOf("2018-12-01"), "Born 2018/12/01, 1 year     ID P-17"},
+        {noonOf("2031-01-01"), "Born 2031/01/01     ID P-17"}, // next to be born
+        {getNilDate(), "Date of birth not given     ID P-17"},
+        {Date(), "Date of birth not given     ID P-17"},
+    };
+    SampleReport sample;
+    for (const auto& [birth, line] : births) {
+        sample.patient.DateOfBirth = birth;
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(line)));
+    }
+    EXPECT_TRUE(wordsOf(sample.view()).contains(u"Dr. Moreau"_s));
+    EXPECT_TRUE(wordsOf(sample.view()).contains(describeHighMark({}))) << "in place of a share";
+    sample.needPhysicianInfo = false;
+    EXPECT_FALSE(wordsOf(sample.view()).contains(u"Dr. Moreau"_s));
+}
+
 TEST(Summary, hasTheFiguresOfThePeriod) {
-    SampleReport sample(0);
+    SampleReport sample;
+    sample.highFrom = {135, 85};
     const auto add = [&](const char* time, std::uint32_t sys, std::uint32_t dia, std::uint32_t arrhythmia) {
         ReadingModel& reading = sample.readings.emplace_back();
         reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);

@@ -1,6 +1,7 @@
 #include "app/frame/PeriodBar.h"
 
 #include "app/widgets/DayEdit.h"
+#include "app/widgets/FlowLayout.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -8,15 +9,22 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include <algorithm>
 #include <array>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
+struct PeriodBar::Choice {
+    int tag;
+    QString name;
+    QString text;
+    QString spoken;
+    QString hint;
+};
+
 namespace {
-constexpr int gap = 16;
+constexpr int gap = 24, gapInGroup = 8, gapBetweenLines = 2;
 }
 
 PeriodBar::PeriodBar(const DataStore& dataStore, DisplayPeriod& displayPeriod, MessagePanel& messagePanel,
@@ -24,31 +32,32 @@ PeriodBar::PeriodBar(const DataStore& dataStore, DisplayPeriod& displayPeriod, M
     : QWidget(parent), store(dataStore), period(displayPeriod), panel(messagePanel),
       beginDay(new DayEdit(u"beginDay"_s, qtTrId("periodBegin"), this)),
       endDay(new DayEdit(u"endDay"_s, qtTrId("periodEnd"), this)), choices(new QButtonGroup(this)),
-      btnAverage(new QCheckBox(qtTrId("includeUndated"), this)) {
+      halves(new QButtonGroup(this)), btnAverage(new QCheckBox(qtTrId("includeUndated"), this)),
+      parts(new FlowLayout(this)) {
     setObjectName(u"periodBar"_s);
     setAccessibleName(qtTrId("periodBar"));
-    parts = new QBoxLayout(QBoxLayout::LeftToRight, this);
-    parts->setContentsMargins(0, 0, 0, 0);
-    parts->setSpacing(gap);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    auto* first = new QHBoxLayout;
-    first->setSpacing(gap);
-    first->addLayout(makeDays());
-    first->addLayout(makeChoices());
-    first->addStretch(1);
-    parts->addLayout(first, 0);
-    parts->addLayout(makeOptions(), 1);
+    parts->setGaps(gap, gapBetweenLines);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    btnAverage->setObjectName(u"btnAverage"_s);
+    btnAverage->setAccessibleName(btnAverage->text());
+    // Undated readings beside All, on which they depend; in this order two lines are enough on a small
+    // screen.
+    for (QWidget* part : {makeDays(), makeHalves(), makePeriods(), static_cast<QWidget*>(btnAverage)})
+        parts->addWidget(part);
+    connect(btnAverage, &QCheckBox::clicked, &period, &DisplayPeriod::setIncludeNoDatetimeData);
     connect(&store, &DataStore::reloaded, this, &PeriodBar::UpdateUIBySetting);
     connect(&period, &DisplayPeriod::changed, this, &PeriodBar::showPeriod);
     UpdateUIBySetting();
 }
 
-QBoxLayout* PeriodBar::makeDays() {
-    auto* row = new QHBoxLayout;
+QWidget* PeriodBar::makeDays() {
+    auto* days = new QWidget(this);
+    auto* row = new QHBoxLayout(days);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);
     for (const auto& [title, edit] :
          {std::pair(qtTrId("periodFrom"), beginDay), {qtTrId("periodTo"), endDay}}) {
-        auto* label = new QLabel(title, this);
+        auto* label = new QLabel(title, days);
         label->setBuddy(edit);
         row->addWidget(label);
         row->addWidget(edit);
@@ -57,45 +66,59 @@ QBoxLayout* PeriodBar::makeDays() {
     connect(beginDay, &DayEdit::confirmed, this, [this] { pick(qtTrId("BeginDate")); });
     connect(endDay, &DayEdit::confirmed, this,
             [this](bool inCalendar) { pick(inCalendar ? qtTrId("EndDate") : qtTrId("BeginDate")); });
-    return row;
+    return days;
 }
 
-QBoxLayout* PeriodBar::makeChoices() {
-    struct Choice {
-        ViewSelection tag;
-        QString name;
-        QString text;
+QWidget* PeriodBar::makePeriods() {
+    const auto last = [](PeriodChoice choice, const QString& days) {
+        return Choice{static_cast<int>(choice), u"viewLast"_s + days, qtTrId("viewLast").arg(days),
+                      qtTrId("viewLastName").arg(days), qtTrId("viewLastHint").arg(days)};
     };
-    const std::array table{Choice{ViewSelection::viewAll, u"viewAll"_s, qtTrId("viewAll")},
-                           Choice{ViewSelection::amOnly, u"amOnly"_s, qtTrId("viewAM")},
-                           Choice{ViewSelection::pmOnly, u"pmOnly"_s, qtTrId("viewPM")}};
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
+    const std::array table{
+        last(PeriodChoice::last7, u"7"_s), last(PeriodChoice::last30, u"30"_s),
+        last(PeriodChoice::last90, u"90"_s),
+        Choice{static_cast<int>(PeriodChoice::measuringWeek),
+               u"viewWeek"_s,
+               qtTrId("viewWeek"),
+               {},
+               qtTrId("viewWeekHint")},
+        Choice{
+            static_cast<int>(PeriodChoice::all), u"viewAll"_s, qtTrId("viewAll"), {}, qtTrId("viewAllHint")}};
+    connect(choices, &QButtonGroup::idClicked, this,
+            [this](int tag) { period.choose(static_cast<PeriodChoice>(tag)); });
+    return makeGroup(*choices, qtTrId("viewDays"), table);
+}
+
+QWidget* PeriodBar::makeHalves() {
+    const auto half = [](HalfOfDay tag, const QString& name, const QString& text, const QString& hint) {
+        return Choice{static_cast<int>(tag), name, text, {}, hint};
+    };
+    const std::array table{half(HalfOfDay::both, u"viewBoth"_s, qtTrId("viewBoth"), qtTrId("viewBothHint")),
+                           half(HalfOfDay::morning, u"amOnly"_s, qtTrId("viewAM"), qtTrId("viewAMHint")),
+                           half(HalfOfDay::evening, u"pmOnly"_s, qtTrId("viewPM"), qtTrId("viewPMHint"))};
+    connect(halves, &QButtonGroup::idClicked, this,
+            [this](int tag) { period.setHalfOfDay(static_cast<HalfOfDay>(tag)); });
+    return makeGroup(*halves, qtTrId("viewHalf"), table);
+}
+
+QWidget* PeriodBar::makeGroup(QButtonGroup& group, const QString& title, std::span<const Choice> table) {
+    auto* box = new QWidget(this);
+    box->setAccessibleName(title);
+    auto* row = new FlowLayout(box);
+    row->setGaps(gapInGroup, gapBetweenLines);
     for (const Choice& choice : table) {
-        auto* button = new QRadioButton(choice.text, this);
+        auto* button = new QRadioButton(choice.text, box);
         button->setObjectName(choice.name);
-        button->setAccessibleName(QString(choice.text).remove(u'&'));
-        choices->addButton(button, static_cast<int>(choice.tag));
+        button->setAccessibleName(choice.spoken.isEmpty() ? QString(choice.text).remove(u'&')
+                                                          : choice.spoken);
+        button->setToolTip(choice.hint);
+        group.addButton(button, choice.tag);
         row->addWidget(button);
     }
-    choices->button(static_cast<int>(ViewSelection::viewAll))->setToolTip(qtTrId("viewAllHint"));
-    connect(choices, &QButtonGroup::idClicked, this,
-            [this](int tag) { period.setSelectViewIndex(static_cast<ViewSelection>(tag)); });
-    return row;
+    return box;
 }
 
-QBoxLayout* PeriodBar::makeOptions() {
-    btnAverage->setObjectName(u"btnAverage"_s);
-    btnAverage->setAccessibleName(btnAverage->text());
-    connect(btnAverage, &QCheckBox::clicked, &period, &DisplayPeriod::setIncludeNoDatetimeData);
-    options = new QHBoxLayout;
-    options->setSpacing(gap);
-    options->addWidget(btnAverage);
-    options->addStretch(1);
-    return options;
-}
-
-void PeriodBar::addOption(QWidget& option) { options->insertWidget(options->count() - 1, &option); }
+void PeriodBar::addOption(QWidget& option) { parts->addWidget(&option); }
 
 void PeriodBar::LoadData() {
     period.adjustViewAll();
@@ -112,46 +135,27 @@ void PeriodBar::UpdateUIBySetting() {
 void PeriodBar::showPeriod() {
     beginDay->showDay(period.getTimePeriod().begin);
     endDay->showDay(period.getTimePeriod().end);
-    const int selected = static_cast<int>(period.getSelectViewIndex());
+    const int chosen = static_cast<int>(period.getChoice());
     choices->setExclusive(false); // so that none can be shown selected
     for (QAbstractButton* choice : choices->buttons())
-        choice->setChecked(choices->id(choice) == selected);
+        choice->setChecked(choices->id(choice) == chosen);
     choices->setExclusive(true);
+    halves->button(static_cast<int>(period.getHalfOfDay()))->setChecked(true);
     btnAverage->setChecked(period.getIncludeNoDatetimeData());
-    offerChoices(selected >= 1);
+    offerUndated();
 }
 
 /// What is out of reach says why, and how to get there.
-void PeriodBar::offerChoices(bool isViewChosen) {
-    const QString instead = qtTrId("viewChoiceNeeded");
-    for (const auto& [part, hint] :
-         {std::pair<QAbstractButton*, QString>(choices->button(static_cast<int>(ViewSelection::amOnly)),
-                                               qtTrId("viewAMHint")),
-          {choices->button(static_cast<int>(ViewSelection::pmOnly)), qtTrId("viewPMHint")},
-          {btnAverage, qtTrId("includeUndatedHint")}}) {
-        part->setEnabled(isViewChosen);
-        part->setToolTip(isViewChosen ? hint : instead);
-    }
+void PeriodBar::offerUndated() {
+    const bool isAll = period.getChoice() == PeriodChoice::all;
+    btnAverage->setEnabled(isAll);
+    btnAverage->setToolTip(isAll ? qtTrId("includeUndatedHint") : qtTrId("viewChoiceNeeded"));
 }
 
 void PeriodBar::pick(const QString& refusal) {
     if (period.pickTimePeriod(beginDay->day(), endDay->day())) return;
     showPeriod(); // before the message, which takes the focus from the field
     panel.ShowMessage(refusal, qtTrId("DateError"));
-}
-
-QSize PeriodBar::minimumSizeHint() const {
-    const QSize first = parts->itemAt(0)->minimumSize(), second = options->minimumSize();
-    return {std::max(first.width(), second.width()), QWidget::minimumSizeHint().height()};
-}
-
-/// In two lines where one is too narrow.
-void PeriodBar::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    const int inOneLine = parts->itemAt(0)->sizeHint().width() + gap + options->sizeHint().width();
-    const bool fits = width() >= inOneLine;
-    parts->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    parts->setSpacing(fits ? gap : gap / 2);
 }
 
 } // namespace zel

@@ -5,16 +5,18 @@
 
 #include <QWidget>
 
-class QBoxLayout;
+#include <span>
+
 class QButtonGroup;
 class QCheckBox;
 
 namespace zel {
 
 class DayEdit;
+class FlowLayout;
 
-/// The controls of the period that all views share: its first and last day, the view choices and the box for
-/// undated readings. Each page has one; all of them show the one DisplayPeriod.
+/// The controls of the period that all views share: its first and last day, the choices of days and of a half
+/// of the day, and the box for undated readings. Each page has one; all of them show the one DisplayPeriod.
 class PeriodBar final : public QWidget {
     Q_OBJECT
 public:
@@ -26,17 +28,15 @@ public:
     void UpdateUIBySetting();
     /// A further box of the page, after those for all.
     void addOption(QWidget& option);
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QBoxLayout* makeDays();
-    QBoxLayout* makeChoices();
-    QBoxLayout* makeOptions();
+    struct Choice;
+    QWidget* makeDays();
+    QWidget* makePeriods();
+    QWidget* makeHalves();
+    QWidget* makeGroup(QButtonGroup& group, const QString& title, std::span<const Choice> choices);
     void showPeriod();
-    void offerChoices(bool isViewChosen);
+    void offerUndated();
     void pick(const QString& refusal);
 
     const DataStore& store;
@@ -45,9 +45,9 @@ private:
     DayEdit* beginDay;
     DayEdit* endDay;
     QButtonGroup* choices;
+    QButtonGroup* halves;
     QCheckBox* btnAverage;
-    QBoxLayout* options = nullptr;
-    QBoxLayout* parts = nullptr;
+    FlowLayout* parts;
 };
 
 } // namespace zel

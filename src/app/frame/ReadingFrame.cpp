@@ -12,6 +12,7 @@
 #include <QScrollArea>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace zel {
@@ -19,7 +20,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
-    : QWidget(parent), parts(needed), heading(new PageHeading(this)),
+    : QWidget(parent), parts(needed), shown(view), heading(new PageHeading(this)),
       period(new PeriodBar(needed.store, needed.period, needed.panel, this)),
       statisticPanel(new StatisticViewController(needed.store, needed.period, this)),
       weekPanel(new MeasuringWeekPanel(needed.store, needed.period, this)),
@@ -31,7 +32,7 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     body->addWidget(side);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(10);
+    column->setSpacing(6);
     column->addWidget(makeHead());
     column->addWidget(period);
     column->addLayout(body, 1);
@@ -125,10 +126,17 @@ void ReadingFrame::UpdateUIBySetting() {
 
 bool ReadingFrame::isDisplayingComment() const { return commentPanel->isVisible(); }
 
+/// A page that is scrolled is as wide as all of its parts need, and no wider.
+bool ReadingFrame::isTooNarrow() const {
+    constexpr int spacing = 12;
+    const int allParts = shown.minimumSizeHint().width() + spacing + side->minimumWidth();
+    return width() <= std::max(allParts, fontMetrics().averageCharWidth() * 120 - 1);
+}
+
 /// Whoever opened or closed the panels by hand has it so until the window becomes narrow or wide.
 void ReadingFrame::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    const bool narrow = width() < fontMetrics().averageCharWidth() * 120;
+    const bool narrow = isTooNarrow();
     if (narrow == isNarrow) return;
     isNarrow = narrow;
     btnSide->setChecked(!narrow);

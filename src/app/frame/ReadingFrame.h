@@ -49,7 +49,10 @@ private:
     QWidget* makeSide();
     void showHeading();
 
+    [[nodiscard]] bool isTooNarrow() const;
+
     Parts parts;
+    QWidget& shown; ///< the page's own view
     PageHeading* heading;
     PeriodBar* period;
     StatisticViewController* statisticPanel;

@@ -39,7 +39,7 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
     content->addWidget(btnViewAll);
     // Whether it was ticked or not: other days are picked with the pickers.
     connect(btnViewAll, &QCheckBox::clicked, this, [this] {
-        period.setSelectViewIndex(ViewSelection::viewAll);
+        period.choose(PeriodChoice::all);
         setSelectViewUI();
     });
     connect(&store, &DataStore::reloaded, this, &StatisticViewController::LoadData);
@@ -72,7 +72,7 @@ QString StatisticViewController::counted() const {
 }
 
 void StatisticViewController::setSelectViewUI() {
-    btnViewAll->setChecked(static_cast<int>(period.getSelectViewIndex()) >= 1 && period.isWholeDataPeriod());
+    btnViewAll->setChecked(period.getChoice() == PeriodChoice::all);
 }
 
 void StatisticViewController::changeEvent(QEvent* event) {

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 BloodView::BloodView(const ChartSource& toShow, QWidget* parent)
     : ChartView(u"BloodView"_s, qtTrId("bloodChart"), DrawBlood, toShow, parent) {
-    setMinimumHeight(90);
+    setMinimumHeight(86);
 }
 
 std::vector<Point> BloodView::marksOf(const ReadingModel& reading) const {

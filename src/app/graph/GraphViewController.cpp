@@ -12,6 +12,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -62,8 +63,10 @@ void GraphViewController::build() {
     auto* bar = new QHBoxLayout;
     bar->addWidget(makeSwitch());
     bar->addStretch(1);
-    bar->addWidget(tools);
-    bar->addWidget(trendApart);
+    auto* ofView = new QGridLayout; // one over the other: they take the room of one
+    ofView->addWidget(tools, 0, 0);
+    ofView->addWidget(trendApart, 0, 0, Qt::AlignRight | Qt::AlignVCenter);
+    bar->addLayout(ofView);
     auto* inside = new QVBoxLayout(content);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->setSpacing(6);

@@ -36,7 +36,7 @@ bool isSame(const TimeScale& a, const TimeScale& b) {
 
 PulseView::PulseView(const ChartSource& toShow, ChartComments& chartComments, QWidget* parent)
     : ChartView(u"PulseView"_s, qtTrId("pulseChart"), DrawPulse, toShow, parent), comments(chartComments) {
-    setMinimumHeight(94);
+    setMinimumHeight(90);
     connect(&comments, &ChartComments::selected, this, [this] {
         deselected.clear();
         createComments();

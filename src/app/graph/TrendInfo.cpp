@@ -13,7 +13,9 @@ QString figure(double value) {
     return QString::number(tenths / 10, 'f', std::fmod(tenths, 10) == 0 ? 0 : 1);
 }
 
+/// The band only where it is one.
 QString bandText(const TrendBand& band) {
+    if (band.low == band.high) return figure(band.median);
     return qtTrId("trendFigures").arg(figure(band.median), figure(band.low), figure(band.high));
 }
 

@@ -56,7 +56,7 @@ std::vector<Section> printOptions(int tab) {
     using enum Section;
     switch (tab) {
     case 0: return {summary, PatientProfile};
-    case 1: return {summary, graph, histogram, correlation, comment, SWStatistics};
+    case 1: return {summary, graph, histogram, correlation, trend, comment, SWStatistics};
     case 2: return {summary, table, comment, SWStatistics};
     default: return {};
     }

@@ -11,6 +11,7 @@ std::optional<ReportSource> printSource(const DataStore& store, const DisplayPer
     source->getShowMam = views.getShowMam;
     source->getShowPad = views.getShowPad;
     source->getIsAfib = source->rows.isAFib || (!source->rows.isPad && views.isMonitorAFib);
+    source->trendApart = views.trendApart;
     source->lowerChart = views.lowerChart;
     source->bloodChart = views.bloodChart;
     return source;

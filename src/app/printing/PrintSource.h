@@ -15,6 +15,7 @@ struct ScreenViews {
     bool getShowMam = true;
     bool getShowPad = true;
     bool isMonitorAFib = false; ///< the attached monitor reports atrial fibrillation
+    bool trendApart = false;    ///< the trend has mornings and evenings as lines of their own
     ChartStyle lowerChart = DrawPulse;
     ChartStyle bloodChart = DrawBlood;
 };

@@ -291,7 +291,8 @@ void AppController::showPrintPreview(PrintPurpose purpose) {
     ScreenViews views{.drawViewState = graphPage->drawViewState(),
                       .getShowMam = tablePage->getShowMam(),
                       .getShowPad = tablePage->getShowPad(),
-                      .isMonitorAFib = parts.status.state().isAFib};
+                      .isMonitorAFib = parts.status.state().isAFib,
+                      .trendApart = graphPage->isTrendApart()};
     graphPage->setupDrawChart(views.lowerChart, views.bloodChart);
     printController->showPrintPreview(window.pageInView(), views, purpose);
 }

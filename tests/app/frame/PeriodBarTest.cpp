@@ -61,7 +61,7 @@ TEST_F(PeriodBarTest, thePeriodIsPickedByDaysOrByViewChoice) {
     EXPECT_EQ(dayIn("beginDay"), u"20/12/2025"_s);
     EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s);
     EXPECT_EQ(systolic(), u"127 121 132"_s);
-    EXPECT_FALSE(am.isEnabled() || undated.isEnabled());
+    EXPECT_TRUE(am.isEnabled() && !undated.isEnabled());
     clickPart("viewAll");
     EXPECT_EQ(dayIn("beginDay"), u"01/03/2025"_s);
     EXPECT_TRUE(find<QCheckBox>("btnViewAll").isChecked());
@@ -75,9 +75,9 @@ TEST_F(PeriodBarTest, thePeriodIsPickedByDaysOrByViewChoice) {
     EXPECT_EQ(systolic(), u"138 120 199"_s) << "not while it is being typed";
     press(Qt::Key_Return);
     EXPECT_EQ(systolic(), u"127 122 132"_s);
-    EXPECT_FALSE(am.isEnabled() || undated.isEnabled() || undated.isChecked());
-    for (const char* choice : {"viewAll", "amOnly", "pmOnly"})
-        EXPECT_FALSE(find<QRadioButton>(choice).isChecked());
+    EXPECT_FALSE(undated.isEnabled() || undated.isChecked());
+    EXPECT_FALSE(find<QRadioButton>("viewAll").isChecked());
+    EXPECT_TRUE(find<QRadioButton>("pmOnly").isChecked()) << "of the days that were typed";
     clickPart("btnViewAll");
     EXPECT_TRUE(find<QRadioButton>("viewAll").isChecked());
     EXPECT_EQ(systolic(), u"125 120 132"_s);
@@ -87,25 +87,98 @@ TEST_F(PeriodBarTest, thePeriodIsPickedByDaysOrByViewChoice) {
 
 TEST_F(PeriodBarTest, theChoicesSayWhatIsShownAndWhyOneIsOutOfReach) {
     openYear();
-    const char* const narrower[] = {"amOnly", "pmOnly", "btnAverage"};
     const auto all = period.getDataPeriod();
-    for (const char* part : narrower)
-        EXPECT_EQ(page(part).toolTip(), qtTrId("viewChoiceNeeded")) << part;
+    const auto& undated = find<QCheckBox>("btnAverage");
+    EXPECT_EQ(undated.toolTip(), qtTrId("viewChoiceNeeded"));
     for (const bool isMoved : {false, true}) {
         clickPart("viewAll");
         clickPart("btnAverage");
-        for (const char* part : narrower)
-            EXPECT_TRUE(page(part).isEnabled() && page(part).toolTip() != qtTrId("viewChoiceNeeded")) << part;
+        EXPECT_TRUE(undated.isEnabled() && undated.toolTip() == qtTrId("includeUndatedHint"));
         if (isMoved) period.setTimePeriod(all.begin + std::chrono::days{1}, all.end + std::chrono::days{1});
         EXPECT_NE(find<QRadioButton>("viewAll").isChecked(), isMoved);
         EXPECT_NE(find<QCheckBox>("btnViewAll").isChecked(), isMoved);
-        EXPECT_NE(find<QCheckBox>("btnAverage").isChecked(), isMoved);
+        EXPECT_NE(undated.isChecked(), isMoved);
     }
     clickPart("viewAll");
     clickPart("amOnly");
     period.setTimePeriod(all.begin, all.end - std::chrono::days{1});
     EXPECT_TRUE(find<QRadioButton>("amOnly").isChecked());
     EXPECT_FALSE(find<QCheckBox>("btnViewAll").isChecked()) << "not all days";
+}
+
+TEST_F(PeriodBarTest, daysAreChosenWithOneClickAndAHalfOfTheDayWithAnyOfThem) {
+    openYear();
+    struct Case {
+        const char* choice;
+        QString begin;
+        const char* half;
+        QString counted;
+    };
+    const Case cases[] = {
+        {"viewLast7", u"14/03/2026"_s, "viewBoth", u"2 readings; 3 outside the period, 1 undated"_s},
+        {"viewLast7", u"14/03/2026"_s, "amOnly", u"1 reading; 3 outside the period, 1 from noon on"_s},
+        {"viewLast30", u"19/02/2026"_s, "viewBoth", u"4 readings; 1 outside the period"_s},
+        {"viewLast90", u"21/12/2025"_s, "pmOnly", u"2 readings; 1 outside the period, 2 before noon"_s},
+        {"viewWeek", u"14/03/2026"_s, "amOnly", u"1 reading; 3 outside the period, 1 from noon on"_s},
+        {"viewAll", u"01/03/2025"_s, "pmOnly", u"2 readings; 3 before noon, 1 undated"_s},
+    };
+    for (const Case& c : cases) {
+        clickPart(c.choice);
+        clickPart(c.half);
+        EXPECT_EQ(dayIn("beginDay"), c.begin) << c.choice;
+        EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s) << c.choice;
+        for (const char* part : {c.choice, c.half})
+            EXPECT_TRUE(find<QRadioButton>(part).isChecked()) << part;
+        EXPECT_TRUE(text("lblDetail").contains(u"Counted: "_s + c.counted)) << qPrintable(text("lblDetail"));
+    }
+    typeDay("weekEnd", u"01032026"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s) << "another choice";
+    clickPart("viewWeek");
+    EXPECT_EQ(dayIn("beginDay"), u"23/02/2026"_s);
+    typeDay("weekEnd", u"20032026"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(dayIn("beginDay"), u"14/03/2026"_s) << "the week that the panel shows";
+    EXPECT_TRUE(find<QRadioButton>("viewWeek").isChecked());
+}
+
+TEST_F(PeriodBarTest, theKeyboardReachesEveryChoiceAndNoneIsCutInANarrowWindow) {
+    openYear();
+    find<QRadioButton>("viewBoth").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    EXPECT_EQ(period.getHalfOfDay(), HalfOfDay::morning);
+    press(Qt::Key_Right);
+    EXPECT_EQ(period.getHalfOfDay(), HalfOfDay::evening);
+    find<QRadioButton>("viewLast7").setFocus(Qt::TabFocusReason);
+    for (const auto& [key, choice] : {std::pair(Qt::Key_Space, PeriodChoice::last7),
+                                      {Qt::Key_Right, PeriodChoice::last30},
+                                      {Qt::Key_Right, PeriodChoice::last90},
+                                      {Qt::Key_Right, PeriodChoice::measuringWeek},
+                                      {Qt::Key_Right, PeriodChoice::all},
+                                      {Qt::Key_Left, PeriodChoice::measuringWeek}}) {
+        press(key);
+        EXPECT_EQ(period.getChoice(), choice);
+    }
+    EXPECT_EQ(period.getHalfOfDay(), HalfOfDay::evening);
+    expectNamed(page("periodBar"));
+    EXPECT_EQ(find<QRadioButton>("viewLast30").accessibleName(), qtTrId("viewLastName").arg(u"30"_s));
+    const char* const parts[] = {"viewLast7", "viewLast30", "viewLast90", "viewWeek",  "viewAll",
+                                 "viewBoth",  "amOnly",     "pmOnly",     "btnAverage"};
+    for (const double scale : {1.0, 1.75}) {
+        host->setFont(scaledFont(host->font(), scale));
+        for (const int width : {560, 1300}) {
+            host->resize(width, 700);
+            QCoreApplication::processEvents();
+            for (const char* name : parts) {
+                const QWidget* part = &page(name);
+                EXPECT_GE(part->width(), part->sizeHint().width()) << name;
+                const QPoint end = part->mapTo(host.get(), QPoint(part->width(), part->height()));
+                EXPECT_LE(end.x(), width) << name;
+                EXPECT_LE(part->mapTo(&page("periodBar"), QPoint(0, part->height())).y(),
+                          page("periodBar").height());
+            }
+        }
+    }
 }
 
 TEST_F(PeriodBarTest, theNextPatientBeginsWithoutUndatedReadings) {
@@ -141,7 +214,7 @@ TEST_F(PeriodBarTest, headingAndStatisticsSayWhatIsCountedAndWhatIsLeftOutWhy) {
     clickPart("btnAverage");
     clickPart("amOnly");
     EXPECT_EQ(text("lblDetail"), all + u". Counted: 4 readings; 2 from noon on not counted"_s);
-    clickPart("viewAll");
+    clickPart("viewBoth");
     EXPECT_EQ(text("lblDetail"), all);
     EXPECT_EQ(text("lblStatisticCount"), u"6 readings"_s);
     storeReadings(u"P1"_s, {reading(u"200001010001"_s, 198)});

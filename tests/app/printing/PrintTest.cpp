@@ -75,7 +75,7 @@ TEST_F(PrintTest, theSectionsAreThoseOfTheTab) {
         std::vector<Section> offered;
     };
     for (const Case& c : {Case{0, {summary, PatientProfile}},
-                          {1, {summary, graph, histogram, correlation, comment, SWStatistics}},
+                          {1, {summary, graph, histogram, correlation, trend, comment, SWStatistics}},
                           {2, {summary, table, comment, SWStatistics}}}) {
         openPrint(c.tab);
         const auto& list = find<QComboBox>("printOption");
@@ -89,10 +89,24 @@ TEST_F(PrintTest, theSectionsAreThoseOfTheTab) {
         click("cancelPrint");
         EXPECT_FALSE(printing->isVisible());
     }
-    printing->showPrintPreview(1, {.drawViewState = 2}, PrintPurpose::printer);
-    EXPECT_EQ(find<QComboBox>("printOption").currentText(), facts(correlation).text()) << "as on the screen";
+    printing->showPrintPreview(1, {.drawViewState = 3}, PrintPurpose::printer);
+    EXPECT_EQ(find<QComboBox>("printOption").currentText(), facts(trend).text()) << "as on the screen";
     EXPECT_TRUE(printOptions(3).empty());
     EXPECT_TRUE(printers.printed.empty());
+}
+
+TEST_F(PrintTest, theSummaryHasTheWeekThatIsChosenOnTheScreen) {
+    storeReadings(3);
+    period.setWeekRule(AverageRule::nice);
+    period.setWeekEnd(20000);
+    openPrint(2);
+    choose(Section::summary);
+    printers.whenPrinted = [](const PrintView& view) {
+        EXPECT_EQ(view.report().weekRule, AverageRule::nice);
+        EXPECT_EQ(view.report().weekEnd, 20000);
+    };
+    click("printAndClose");
+    EXPECT_EQ(printers.printed.size(), 1U);
 }
 
 TEST_F(PrintTest, thePagesAreTurnedOneByOneWithinTheirLimits) {
@@ -301,13 +315,16 @@ TEST_F(PrintTest, paperShowsWhatTheScreenDoes) {
     *pad.ReadingDate += std::chrono::hours(48);
     ASSERT_TRUE(store.newDataTransfer({pad}));
     period.setCurrentReadingTimePeriod(store.getReadingForCurID());
-    ScreenViews views{.getShowMam = false, .isMonitorAFib = true};
+    ScreenViews views{.getShowMam = false, .isMonitorAFib = true, .trendApart = true};
     views.lowerChart.iScaleBase = 33;
+    ASSERT_TRUE(store.chooseViewLimits({LimitChoice::low, {}}));
     auto source = printSource(store, period, clock, views);
     ASSERT_TRUE(source);
     EXPECT_FALSE(source->getShowMam || !source->getShowPad);
     EXPECT_FALSE(source->getIsAfib) << "the readings are of another kind";
     EXPECT_EQ(source->lowerChart.iScaleBase, 33);
+    EXPECT_TRUE(source->trendApart);
+    EXPECT_EQ(source->highFrom, (LimitPair{130, 80}));
     const PrintView view(std::move(*source), QPageSize(QPageSize::A4));
     EXPECT_EQ(SystemPrinters().print(u"nowhere"_s, view, Section::table), PrintResult::noPrinter);
 }

@@ -123,7 +123,7 @@ TEST_F(ReadingPagesTest, paperShowsWhatThePagesDo) {
     click("graphBtn");
     const Shown first = print();
     EXPECT_TRUE(first
-                == (Shown{true, true, true, startScaleBase, startScaleBase, ViewSelection::viewAll, 0}));
+                == (Shown{true, true, true, startScaleBase, startScaleBase, ViewSelection::viewAll, 1}));
     find<QScrollBar>("bloodScroller").setValue(0);
     Shown next = print();
     EXPECT_NE(next.bloodBase, first.bloodBase);
@@ -131,7 +131,7 @@ TEST_F(ReadingPagesTest, paperShowsWhatThePagesDo) {
     find<QScrollBar>("pulseScroller").setValue(0);
     EXPECT_NE(print().pulseBase, first.pulseBase);
     click("toggleCorrelation");
-    EXPECT_EQ(print().section, 2);
+    EXPECT_EQ(print().section, 3);
     click("tableBtn");
     for (const auto& [box, shown] : {std::pair("btnShowMam", &Shown::mam), {"btnShowPad", &Shown::pad}}) {
         for (const bool isShown : {false, true}) {
