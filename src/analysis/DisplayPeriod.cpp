@@ -10,7 +10,7 @@ namespace {
 
 constexpr int defaultMonths = 3;
 constexpr int viewAllDays = 91;
-constexpr int daysOfWeek = 7;
+constexpr int daysOfMeasuringWeek = 7;
 constexpr int commentPlacingDays = 47;
 
 Period wholeDays(const Period& period) {
@@ -68,7 +68,7 @@ Period DisplayPeriod::daysOf(PeriodChoice wanted) const {
     case PeriodChoice::last30: return lastDays(data.end, 30);
     case PeriodChoice::last90: return lastDays(data.end, 90);
     case PeriodChoice::measuringWeek:
-        return lastDays(firstInstant(weekEnd.value_or(lastMeasured)).value_or(data.end), daysOfWeek);
+        return lastDays(firstInstant(weekEnd.value_or(lastMeasured)).value_or(data.end), daysOfMeasuringWeek);
     case PeriodChoice::all:
     case PeriodChoice::picked: break;
     }

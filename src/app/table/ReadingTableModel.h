@@ -29,7 +29,7 @@ public:
     /// That days without a reading are missing from the list, or nothing.
     [[nodiscard]] const QString& cutNote() const { return cut; }
     void setMarkTitle(const QString& title);
-    /// The settings may have changed, on which texts and titles depend.
+    /// The settings or the limits may have changed, on which texts and titles depend.
     void refreshTexts();
     [[nodiscard]] const ReadingModel& row(int number) const;
     /// The row is the first of its comment's.

@@ -54,7 +54,7 @@ TableViewController::TableViewController(const Parts& needed)
     connect(&parts.store, &DataStore::reloaded, this, &TableViewController::reload);
     connect(&parts.store, &DataStore::currentIDChanged, this, &TableViewController::reload);
     connect(&parts.period, &DisplayPeriod::changed, this, &TableViewController::reload);
-    connect(&parts.store, &DataStore::viewLimitsChanged, this, &TableViewController::refreshTable);
+    connect(&parts.store, &DataStore::viewLimitsChanged, readingModelArray, &ReadingTableModel::refreshTexts);
     connect(&parts.status, &MonitorStatus::changed, this, &TableViewController::setPadTitle);
     connect(&frame->comments(), &CommentViewController::commentSelected, this,
             &TableViewController::refreshTable);

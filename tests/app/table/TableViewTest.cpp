@@ -191,8 +191,11 @@ TEST_F(TableViewTest, valuesFromTheLimitsOnAreMarkedAndSpokenAndTheLegendNamesTh
     EXPECT_EQ(text("lblHighMark"), describeHighMark({135, 85}));
     EXPECT_FALSE(page("ownSys").isVisible());
     expectNamed(page("limitBar"));
+    int told = 0; // to who speaks the cells, and to the view
+    QObject::connect(table().model(), &QAbstractItemModel::dataChanged, &table(), [&told] { ++told; });
     find<QComboBox>("cboHighFrom").setFocus(Qt::TabFocusReason);
     press(Qt::Key_Down);
+    EXPECT_EQ(told, 1);
     EXPECT_EQ(marks(), "----");
     EXPECT_EQ(text("lblHighMark"), describeHighMark({140, 90}));
     press(Qt::Key_Down);
