@@ -812,6 +812,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportAverage"><translation>average of several measurements</translation></message>
     <message id="reportBothAbove"><translation>Both above: %1</translation></message>
     <message id="reportCommentBars"><translation>Bars: comments, by number</translation></message>
+    <message id="reportCommentsLeftOut"><translation>A report has room for %1 comments with %2 characters. The latest follow; an export holds all of them.</translation></message>
     <message id="reportContinued"><translation>%1, continued</translation></message>
     <message id="reportCorrelationLimits" numerus="yes"><translation><numerusform>The line is the limit.</numerusform><numerusform>The lines are the limits.</numerusform></translation></message>
     <message id="reportCorrelationNote"><translation>Each square is a reading, or several with the same values, in mmHg.</translation></message>
@@ -822,6 +823,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportDiaAbove"><translation>Only diastolic above: %1</translation></message>
     <message id="reportDocument"><translation>Blood-pressure report: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ yellow: download</translation></message>
+    <message id="reportEarlierComments" numerus="yes"><translation><numerusform>%n earlier comment is not printed</numerusform><numerusform>%n earlier comments are not printed</numerusform></translation></message>
     <message id="reportEmptySections"><translation>Empty, so not in this report: %1</translation></message>
     <message id="reportEveningOnly"><translation>Only readings from noon on are shown</translation></message>
     <message id="reportFindingUnknown"><translation>N.A.: not known</translation></message>

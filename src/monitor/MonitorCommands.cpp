@@ -180,9 +180,11 @@ MonitorResult MonitorCommands::sendFrame(Command command, std::string_view frame
     return MonitorResult::success;
 }
 
-/// Of a memory that is emptied, nobody may have the readings but those that were asked before.
+/// Another monitor's readings would be those of the new ID's patient; of a memory that is emptied, nobody may
+/// have them but those that were asked before.
 MonitorResult MonitorCommands::sendID(std::string_view ID, bool clear) {
-    return sendFrame(Command::sendID, idFrame(ID, clear), clear ? Opening::sameAsBefore : Opening::any);
+    const bool isKnown = clear || transport.openings() > 0;
+    return sendFrame(Command::sendID, idFrame(ID, clear), isKnown ? Opening::sameAsBefore : Opening::any);
 }
 
 MonitorResult MonitorCommands::setBPMDate(std::string_view time) {

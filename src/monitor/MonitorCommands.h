@@ -34,7 +34,8 @@ public:
     /// \param attempt 1, 2 or 3: scales the time-outs
     [[nodiscard]] MonitorExpected<CycleData> getBPMCycleData(const DownloadProgress& progress, int attempt,
                                                              const WaitNotice& waiting = {});
-    /// \return readFailed, and nothing is sent, if the device would have to be opened anew for \p clear
+    /// \return readFailed, and nothing is sent, if the device would have to be opened anew, or, for \p clear,
+    /// for the first time
     [[nodiscard]] MonitorResult sendID(std::string_view ID, bool clear);
     /// \param time 14 characters, "yyyyMMddHHmmss"
     [[nodiscard]] MonitorResult setBPMDate(std::string_view time);

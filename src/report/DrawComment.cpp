@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace zel {
 
@@ -37,6 +38,17 @@ QString measured(const ReportSource& report, const DayMeans& means, const Commen
     return isNone ? QString() : qtTrId("reportMeasured").arg(describe(change));
 }
 
+/// How many of the earliest comments have no room in a report.
+std::size_t withoutRoom(const CommentList& comments) {
+    std::size_t printed = 0;
+    qsizetype characters = 0;
+    for (auto comment = comments.rbegin(); comment != comments.rend(); ++comment, ++printed) {
+        characters += std::min((*comment)->comment.size(), longestPrinted);
+        if (printed == mostPrintedComments || characters > mostCommentCharacters) break;
+    }
+    return comments.size() - printed;
+}
+
 } // namespace
 
 int DrawComment::iItemsPerPage(const Rect& rect) {
@@ -47,14 +59,19 @@ CommentPages layOutComments(const ReportSource& report, const Rect& rect) {
     // As many as are counted fit: the last one would else stand in the footer.
     const double least = rect.height / DrawComment::iItemsPerPage(rect);
     const double width = rect.width - barWidth - 2 * DrawComment::xMargin;
-    CommentPages layout;
-    std::vector<TextItem> items;
+    CommentPages layout{.leftOut = withoutRoom(report.comments), .lines = {}, .pages = {}};
+    if (layout.leftOut > 0)
+        layout.lines.push_back(
+            wrapped(qtTrId("reportCommentsLeftOut").arg(mostPrintedComments).arg(mostCommentCharacters),
+                    width, smallFont));
     const DayMeans means(report.readings);
-    for (const auto& comment : report.comments) {
+    for (const auto& comment : std::span(report.comments).subspan(layout.leftOut))
         layout.lines.push_back(wrapped(printable(comment->comment), width, smallFont)
                                + wrapped(measured(report, means, *comment), width, smallFont));
-        items.push_back({static_cast<int>(layout.lines.back().size()), least});
-    }
+    std::vector<TextItem> items;
+    items.reserve(layout.lines.size());
+    for (const QStringList& lines : layout.lines)
+        items.push_back({static_cast<int>(lines.size()), least});
     layout.pages = textPages(items, rect.height, lineHeight(smallFont), 2 * DrawComment::yMargin);
     return layout;
 }
@@ -71,13 +88,22 @@ void DrawComment::drawRect(Picture& picture, const Rect& rect, int page) const {
 }
 
 void DrawComment::drawItem(Picture& picture, const Rect& item, const TextPart& part) const {
-    const CommentModel& comment = *report.comments[part.item];
+    const Rect box{item.x + barWidth + xMargin, item.y, item.width - barWidth - 2 * xMargin, item.height};
+    if (layout.leftOut > 0 && part.item == 0) return drawNote(picture, box, part);
+    const std::size_t number = part.item + layout.leftOut - (layout.leftOut > 0 ? 1 : 0);
+    const CommentModel& comment = *report.comments[number];
     const QColor color = getCommentColor(comment.degree, true);
     picture.emplace_back(FillRect{{item.x, item.y + yMargin, barWidth, item.height - 2 * yMargin}, color});
-    const Rect box{item.x + barWidth + xMargin, item.y, item.width - barWidth - 2 * xMargin, item.height};
-    const QString head = QString::number(part.item + 1) + u"   "_s + days(comment, report.settings);
+    const QString head = QString::number(number + 1) + u"   "_s + days(comment, report.settings);
     drawTextPart(picture, box, {head, commentColorName(comment)}, layout.lines[part.item], part);
     picture.emplace_back(StraightLine{{item.x, item.y}, {item.right(), item.y}, 0.5, Qt::gray});
+}
+
+void DrawComment::drawNote(Picture& picture, const Rect& box, const TextPart& part) const {
+    const QString head = qtTrId("reportEarlierComments", static_cast<int>(layout.leftOut));
+    drawTextPart(picture, box, {head, {}}, layout.lines[part.item], part);
+    picture.emplace_back(
+        StraightLine{{box.x - barWidth - xMargin, box.y}, {box.right(), box.y}, 0.5, Qt::gray});
 }
 
 } // namespace zel

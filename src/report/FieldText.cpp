@@ -12,9 +12,6 @@ namespace {
 
 /// More than any field of a page has room for.
 constexpr qsizetype mostCharacters = 1000;
-/// Of a text that is printed in full: no note that somebody wrote is as long, and one of megabytes would take
-/// minutes and thousands of pages.
-constexpr qsizetype longestPrinted = 100'000;
 
 /// What a field can show at most, with a blank for each line end, tab and other control character.
 QString oneLine(const QString& text) {

@@ -27,6 +27,10 @@ void fieldFigure(Picture& picture, const QString& text, Point at, double width, 
 [[nodiscard]] QStringList wrapped(const QString& text, double width, const TextAttribute& attribute,
                                   qsizetype mostLines = std::numeric_limits<qsizetype>::max());
 
+/// Of a text that is printed in full: no note that somebody wrote is as long, and one of megabytes would take
+/// minutes and thousands of pages.
+inline constexpr qsizetype longestPrinted = 100'000;
+
 /// A text of an ordinary length as it is; of a longer one as much as some thirty pages take, and a last line
 /// that tells how much is left out.
 [[nodiscard]] QString printable(const QString& text);

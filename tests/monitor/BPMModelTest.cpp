@@ -74,12 +74,16 @@ TEST_F(BPMModelTest, WritesAndReadsBackTheID) {
     EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"A1"_s);
 }
 
-TEST_F(BPMModelTest, ErasesNoMonitorThatWasPluggedInSince) {
+TEST_F(BPMModelTest, ChangesNoMonitorThatWasPluggedInSince) {
     const int held = model.getBPMCycleDataCount().value_or(0);
     port.unplug();
     port.plug();
     EXPECT_EQ(model.eraseData(u"A1"_s), MonitorResult::readFailed);
     EXPECT_EQ(model.getBPMCycleDataCount().value_or(0), held);
+    EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"DEMO1"_s);
+    port.unplug();
+    port.plug();
+    EXPECT_EQ(model.sendID(u"A1"_s, false), MonitorResult::readFailed) << "its readings would be A1's";
     EXPECT_EQ(model.getBPMID().value_or(u"failed"_s), u"DEMO1"_s);
     EXPECT_EQ(model.eraseData(u"A1"_s), MonitorResult::success) << "once it has been asked again";
 }

@@ -169,6 +169,9 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
         expect(R"("faults": [{)" + QByteArray(fault) + "}]", u"faults[0]."_s + key, code);
     };
     expectFault(R"("command": ">", "kind": "boom")", u"kind"_s, Code::notAllowed);
+    expectFault(R"("command": ">", "kind": "")", u"kind"_s, Code::notAllowed);
+    expectFault(R"("command": ">", "kind": "x234567890x234567890x234567890x234567890x")", u"kind"_s,
+                Code::wrongLength);
     expectFault(R"("command": "\"", "kind": "badFixedContent")", u"command"_s, Code::notAllowed);
     expectFault(R"("command": "open", "kind": "noAnswer")", u"command"_s, Code::notAllowed);
     expectFault(R"("command": ">", "kind": "noAnswer", "times": 0)", u"times"_s, Code::notWhole);

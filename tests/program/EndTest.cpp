@@ -1,5 +1,7 @@
 // The whole program in a process of its own, with a device that blocks (BlockedDevice.cpp): every way to end
 // it from outside ends it. Without the limit of two seconds it would wait for the device for ever.
+#include "support/EndsWithTest.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -33,6 +35,7 @@ protected:
         environment.insert(u"HOME"_s, home.path());
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         program.setProcessEnvironment(environment);
+        endWithTest(program);
         program.setProgram(QCoreApplication::applicationDirPath() + u"/blocked_zel"_s);
     }
 

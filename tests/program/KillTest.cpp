@@ -1,6 +1,7 @@
 // A program that saves without end (EditLoop.cpp) is killed at random moments. ZEL_KILLS says how often, 50
 // by default; the seed of the moments is printed, and ZEL_SEED repeats one.
 #include "store/DataStore.h"
+#include "support/EndsWithTest.h"
 #include "support/FromEnvironment.h"
 #include "support/ManualClock.h"
 
@@ -42,6 +43,7 @@ protected:
     /// \return the last save that was reported as done; after none the one of before
     int killAfter(std::chrono::microseconds delay, int before) {
         QProcess program;
+        endWithTest(program);
         program.start(QCoreApplication::applicationDirPath() + u"/edit_loop"_s, {home.path()});
         EXPECT_TRUE(program.waitForReadyRead(longestWait))
             << "what the last kill left does not hold up the next save";

@@ -1,4 +1,5 @@
 // The whole program, started a second time, on a session bus of the test's own.
+#include "support/EndsWithTest.h"
 #include "support/PrivateBus.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,7 @@ protected:
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address);
         program->setProcessEnvironment(environment);
+        endWithTest(*program);
         program->start(QCoreApplication::applicationDirPath() + u"/blocked_zel"_s,
                        {u"--simulated-monitor"_s});
         EXPECT_TRUE(program->waitForStarted(longestStart));

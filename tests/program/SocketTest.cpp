@@ -1,5 +1,6 @@
 // The whole program opens no socket but the display's, the session bus's and the print system's, whatever is
 // done with it. SocketWitness.cpp sees each that is opened, and drives the window.
+#include "support/EndsWithTest.h"
 #include "support/PrivateBus.h"
 
 #include <QCoreApplication>
@@ -30,6 +31,7 @@ protected:
     QStringList run(const QStringList& arguments) {
         QProcess program;
         program.setProcessEnvironment(environment);
+        endWithTest(program);
         program.start(here + u"/../../zel"_s, arguments);
         EXPECT_TRUE(program.waitForFinished(longestRun)) << qPrintable(arguments.join(u' '));
         said = program.readAllStandardError();

@@ -163,6 +163,29 @@ TEST(LongText, isPrintedUpToSomeThirtyPages) {
         << "no half of a character";
 }
 
+/// Hundreds of thousands of comments take as long.
+TEST(LongText, ofTooManyCommentsTheLatestArePrintedAndTheOthersTold) {
+    for (const auto& [total, text, left] : {std::tuple(20'003, u"word"_s, 3),
+                                            {20'000, u"word"_s, 0},
+                                            {23, u"word and another "_s.repeated(20'000), 3}}) {
+        SampleReport sample;
+        for (int i = 1; i <= total; ++i)
+            sample.addComment("2019-01-05", "2019-01-06", 2, text + QString::number(i));
+        const PrintView view = sample.view();
+        const auto textOf = [&](int page) {
+            QStringList lines;
+            for (const TextLine& line : textsOf(view.page(Section::comment, page)))
+                lines += line.text;
+            return lines.join(u' ');
+        };
+        const QString told = u"%1 earlier comments are not printed"_s.arg(left);
+        EXPECT_EQ(textOf(1).contains(told), left > 0);
+        EXPECT_TRUE(textOf(1).contains(u" %1   2019/01/05"_s.arg(left + 1))) << "numbered as on the chart";
+        const QString last = textOf(view.getTotalPages(Section::comment));
+        EXPECT_TRUE(last.contains(total > 100 ? u"word%1"_s.arg(total) : u"more characters."_s));
+    }
+}
+
 } // namespace
 
 } // namespace zel

@@ -193,6 +193,12 @@ TEST_F(UndoTest, StepThatTheFileRefusesChangesNothingAndIsDropped) {
         {"comment's text", editsComment, [this] { elsewhere(">typed<", ">theirs<"); }, stepChanged},
         {"comment", emptiesComment, [this] { elsewhere("<CommentID>10001<", "<CommentID>10009<"); },
          stepGone},
+        {"comment that another one is like by now", emptiesComment,
+         [this] {
+             elsewhere("<Degree>2<", "<Degree>3<");
+             elsewhere("</ZEL>", "<Comment><ID>A</ID><CommentID>10001</CommentID></Comment></ZEL>");
+         },
+         stepChanged},
         {"deleted comment's patient", removesComment,
          [this] { elsewhere("<ID>A</ID>\n        <FamilyName>", "<ID>B</ID><FamilyName>"); },
          stepPatientGone},
@@ -215,6 +221,43 @@ TEST_F(UndoTest, StepThatTheFileRefusesChangesNothingAndIsDropped) {
         EXPECT_EQ(store.changes().redoable(), nullptr);
         if (why == stepThere) continue; // that copy has other settings, too
         EXPECT_TRUE(store.undo());
+    }
+}
+
+TEST_F(UndoTest, WhatAnotherProgramHasSetBackAlreadyIsNoHindrance) {
+    changePatient(u"A"_s, u" typed"_s);
+    elsewhere("<Address> typed", "<Address>old");
+    EXPECT_TRUE(store.undo());
+    EXPECT_TRUE(content().contains("<Address>old<"));
+    EXPECT_FALSE(content().contains(" typed"));
+}
+
+TEST_F(UndoTest, ADeletedPatientComesBackInItsPlaceAlsoWhereItsNeighbourHasGone) {
+    const QByteArray set = "<SystemSetting/>", y = "<Patient><ID>Y</ID></Patient>",
+                     z = "<Patient><ID>Z</ID></Patient>", a = "<Patient><ID>A</ID></Patient>",
+                     readings = "<MeasureRec><ID>A</ID><RecID>1</RecID></MeasureRec>"
+                                "<MeasureRec><ID>A</ID><RecID>2</RecID></MeasureRec>",
+                     ofY = "<MeasureRec><ID>Y</ID><RecID>9</RecID></MeasureRec>";
+    const struct {
+        const char* what;
+        QByteArray before, meanwhile, after;
+    } cases[]{
+        {"it stood first", a + readings + z + set, z + set, a + readings + z + set},
+        {"behind the last of each kind", set + y + z + a + readings + ofY, set + y + ofY,
+         set + y + a + ofY + readings},
+        {"at the end where there is none of its kind", set + y + z + a + readings, set + y,
+         set + y + a + readings},
+    };
+    for (const auto& [what, before, meanwhile, after] : cases) {
+        SCOPED_TRACE(what);
+        dataFile(before);
+        ASSERT_TRUE(store.load());
+        ASSERT_TRUE(store.deleteXMLPatient(u"A"_s));
+        dataFile(meanwhile);
+        ASSERT_TRUE(store.undo());
+        const std::string done = elements();
+        dataFile(after);
+        EXPECT_EQ(done, elements());
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/EndsWithTest.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -19,6 +21,7 @@ public:
                              "<allow send_destination='*' eavesdrop='true'/><allow eavesdrop='true'/>"
                              "<allow own='*'/></policy></busconfig>");
         settings.close();
+        endWithTest(daemon);
         daemon.start(QStringLiteral("dbus-daemon"),
                      {QStringLiteral("--config-file=") + settings.fileName(), QStringLiteral("--nofork"),
                       QStringLiteral("--print-address")});

@@ -185,14 +185,14 @@ StoreResult CommentViewController::save() {
     // The patient may turn out to be gone from the file: then another one's comment is shown now.
     StoreResult saved = store.saveCommentToXML(comment, *shown);
     if (!shown || shown->CommentID != comment.CommentID || shown->ID != comment.ID) return {};
-    if (!saved) return saved;
+    if (!isInPlace(saved)) return saved;
     if (isEmptied) unasked = comment.CommentID;
     shown = comment;
     form->settle();
     updateDaetInfo(comment);
     showPosition();
     tellIfNotReadBack();
-    return {};
+    return saved;
 }
 
 void CommentViewController::tellIfNotReadBack() {
@@ -215,8 +215,9 @@ void CommentViewController::rescueText() {
 bool CommentViewController::checkToSaveComment() {
     const bool isRefused = !isLoading && refuseDates();
     const StoreResult saved = save();
-    if (!saved) panel.ShowMessage(qtTrId("commentNotSaved").arg(describe(saved.error())), qtTrId("Warning"));
-    return saved.has_value() && !isRefused;
+    if (!saved)
+        panel.ShowMessage(describeWithin(qtTrId("commentNotSaved"), saved.error()), qtTrId("Warning"));
+    return isInPlace(saved) && !isRefused;
 }
 
 bool CommentViewController::finish() {
@@ -246,7 +247,8 @@ void CommentViewController::askAboutEmpty() {
 bool CommentViewController::leave() {
     const bool isRefused = refuseDates();
     const StoreResult saved = save();
-    if (saved) {
+    if (isInPlace(saved)) {
+        if (!saved) panel.ShowMessage(describe(saved.error()), qtTrId("Warning"));
         if (!isRefused) askAboutEmpty();
         return !isRefused;
     }
@@ -276,8 +278,8 @@ void CommentViewController::takeUp(const QJsonObject& draft) {
         saved = store.saveCommentToXML(comment);
     }
     if (saved) return;
-    QGuiApplication::clipboard()->setText(text);
-    panel.ShowMessage(qtTrId("commentInClipboard").arg(describe(saved.error())), qtTrId("Warning"));
+    if (!isInPlace(saved)) QGuiApplication::clipboard()->setText(text);
+    panel.ShowMessage(describeWithin(qtTrId("commentInClipboard"), saved.error()), qtTrId("Warning"));
 }
 
 void CommentViewController::deleteComment() {

@@ -62,7 +62,7 @@ bool ChartComments::select(const QString& CommentID) { return panel->setCommentS
 bool ChartComments::tell(const StoreResult& result) {
     const StoreResult& loaded = store.lastLoad();
     if (!result)
-        messages.ShowMessage(qtTrId("commentUnchanged").arg(describe(result.error())), qtTrId("Warning"));
+        messages.ShowMessage(describeWithin(qtTrId("commentUnchanged"), result.error()), qtTrId("Warning"));
     else if (!loaded)
         messages.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())), qtTrId("Warning"));
     return result.has_value();

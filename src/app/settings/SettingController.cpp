@@ -16,6 +16,17 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// An element of an older version may have no place for all of them.
+bool isPartlySaved(const SettingModel& saved, const SettingModel& shown, const SettingModel& wanted) {
+    SettingModel meant = saved;
+    meant.takeChanges(shown, wanted);
+    return saved != meant;
+}
+
+} // namespace
+
 SettingController::SettingController(const Parts& needed, QWidget* parent)
     : QDialog(parent), parts(needed), form(new SettingForm),
       exporter(new ExportController(
@@ -129,17 +140,14 @@ void SettingController::closeSetting() {
     SettingModel wanted;
     form->store(wanted);
     const auto saved = parts.store.changeSetting(shown, wanted, DataStore::WithoutPlace::leaveOut);
-    if (!saved) {
-        const QString why = describe(saved.error());
-        return parts.panel.ShowMessage(qtTrId("settingsNotSaved").arg(why), qtTrId("Warning"));
-    }
+    if (!saved)
+        parts.panel.ShowMessage(describeWithin(qtTrId("settingsNotSaved"), saved.error()), qtTrId("Warning"));
+    if (!isInPlace(saved)) return;
     accept();
-    SettingModel meant = *saved;
-    meant.takeChanges(shown, wanted);
     if (const StoreResult loaded = parts.store.loadXML(); !loaded)
         parts.panel.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())),
                                 qtTrId("dataFileUnreadable"));
-    else if (*saved != meant) // an element of an older version may have no place for all of them
+    else if (saved && isPartlySaved(*saved, shown, wanted))
         parts.panel.ShowMessage(qtTrId("settingsPartlySaved"), qtTrId("Warning"));
 }
 

@@ -105,6 +105,7 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
 void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     if (isClosing) return;
     window.show();
+    if (isWantedInFront) bringToFront();
     if (!loaded) offerBackup(loaded.error());
     if (parts.store.lastLoad()) offerUnsaved();
     if (isClosing) return;
@@ -360,13 +361,15 @@ void AppController::closeApplicaiton() {
 }
 
 void AppController::bringToFront() {
-    if (!window.isVisible()) return; // it is about to be shown
+    isWantedInFront = !window.isVisible(); // it is about to be shown; a question may come before it
     QWidget* dialog = QApplication::activeModalWidget();
-    for (QWidget* shown : {static_cast<QWidget*>(&window), dialog ? dialog : &window}) {
+    QWidget* front = dialog ? dialog : &window;
+    for (QWidget* shown : {static_cast<QWidget*>(&window), front}) {
+        if (!shown->isVisible()) continue;
         shown->setWindowState(shown->windowState() & ~Qt::WindowMinimized);
         shown->raise();
     }
-    (dialog ? dialog : &window)->activateWindow();
+    if (front->isVisible()) front->activateWindow();
 }
 
 void AppController::terminate() {

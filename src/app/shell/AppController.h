@@ -130,6 +130,7 @@ private:
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     DayNumber toldNotBackedUp = noDay; ///< the last day on which it was
+    bool isWantedInFront = false;      ///< as soon as the window is shown
     bool isClosing = false;
     bool isTerminated = false;
 };

@@ -82,6 +82,17 @@ TEST_F(SendIDTest, leavesAllAsItIsWhenTheUserCancels) {
     EXPECT_EQ(monitorHolds(), std::pair(u"OLD"_s, 12));
 }
 
+TEST_F(SendIDTest, namesNobodyWhereAnotherMonitorMayHaveBeenCounted) {
+    plan.faults = {{.kind = SimulatedFault::Kind::unplug,
+                    .command = Command::records,
+                    .times = 1,
+                    .replugAfterOpens = 0}};
+    panel.keepAnswer = KeepAnswer::cancel;
+    sendID();
+    waitFor([this] { return panel.questions.size() == 2 && !status.isBusy(); });
+    EXPECT_TRUE(panel.asked.contains(qtTrId("monitorHoldsUnknown"))) << qPrintable(panel.asked);
+}
+
 TEST_F(SendIDTest, isTheRemedyForAnIDThatCannotBeRead) {
     plan.faults = {{.kind = SimulatedFault::Kind::badFixedContent, .command = Command::id}};
     start();

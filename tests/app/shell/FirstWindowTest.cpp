@@ -104,4 +104,24 @@ TEST_F(AppTest, AnotherStartBringsTheWindowToTheFrontWithItsDialog) {
     waitFor([&] { return app->mainWndow().isActiveWindow(); });
 }
 
+TEST_F(AppTest, AnotherStartBeforeTheWindowIsThereBringsTheQuestionToTheFrontAndThenTheWindow) {
+    start();
+    QWidget& window = app->mainWndow();
+    window.hide();
+    QWidget elsewhere;
+    elsewhere.show();
+    QDialog question;
+    question.open();
+    question.showMinimized();
+    app->bringToFront();
+    EXPECT_FALSE(question.isMinimized());
+    EXPECT_FALSE(window.isVisible()) << "not before what is asked is answered";
+    question.reject();
+    elsewhere.activateWindow();
+    waitFor([&] { return elsewhere.isActiveWindow(); });
+    window.setWindowState(Qt::WindowMinimized);
+    app->applicationDidFinishLaunching(loaded);
+    EXPECT_FALSE(window.isMinimized());
+}
+
 } // namespace zel
