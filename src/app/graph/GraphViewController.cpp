@@ -1,6 +1,7 @@
 #include "app/graph/GraphViewController.h"
 
 #include "app/frame/CommentViewController.h"
+#include "app/frame/ReadingActions.h"
 #include "app/frame/ReadingFrame.h"
 #include "app/graph/ChartComments.h"
 #include "app/graph/ChartTools.h"
@@ -37,7 +38,9 @@ GraphViewController::GraphViewController(const Parts& needed)
       correlation(new CorrelationView(needed.store, needed.period, content)),
       noReadings(new EmptyState(u"noChart"_s, u":/icons/graphBtn.InactiveImg.svg"_s, content)),
       views(new QStackedWidget(content)), tools(new ChartTools(*charts, *comments, needed.period, content)),
-      frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *content, this)) {
+      frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *content, this)),
+      readingActions(new ReadingActions(
+          {needed.store, needed.panel, needed.clock}, [this] { return chosenReading(); }, *views)) {
     setObjectName(u"GraphViewController"_s);
     setAccessibleName(qtTrId("pageChart"));
     comments->setPanel(frame->comments());
@@ -54,6 +57,13 @@ void GraphViewController::build() {
     for (QWidget* each : {static_cast<QWidget*>(charts), static_cast<QWidget*>(histogram),
                           static_cast<QWidget*>(correlation), static_cast<QWidget*>(noReadings)})
         views->addWidget(each);
+    auto* between = new QAction(charts);
+    between->setSeparator(true);
+    charts->addAction(between);
+    charts->addActions(readingActions->actions());
+    noReadings->addAction(readingActions->newReading());
+    noReadings->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(charts, &DrawGraphicVC::chosenReadingChanged, readingActions, &ReadingActions::update);
     auto* bar = new QHBoxLayout;
     bar->addWidget(makeSwitch());
     bar->addStretch(1);
@@ -92,8 +102,15 @@ QWidget* GraphViewController::makeSwitch() {
     return box;
 }
 
+/// Only the chart has points to choose.
+std::vector<const ReadingModel*> GraphViewController::chosenReading() const {
+    const ReadingModel* reading = viewState == 0 ? charts->chosenReading() : nullptr;
+    return reading ? std::vector{reading} : std::vector<const ReadingModel*>{};
+}
+
 void GraphViewController::setView(int state) {
     viewState = state;
+    readingActions->update();
     if (viewState == 1) histogram->reload();
     if (viewState == 2) correlation->reload();
     const bool any = !parts.store.getReadingForCurID().empty();

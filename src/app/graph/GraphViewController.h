@@ -19,6 +19,7 @@ class CorrelationView;
 class DrawGraphicVC;
 class EmptyState;
 class HistogramView;
+class ReadingActions;
 class ReadingFrame;
 
 /// The chart page: the chart, the histogram or the correlation of the current patient's readings.
@@ -55,6 +56,7 @@ private:
     QWidget* makeSwitch();
     void setView(int state);
     void reload();
+    [[nodiscard]] std::vector<const ReadingModel*> chosenReading() const;
 
     static constexpr std::size_t viewTotal = 3;
     Parts parts;
@@ -67,6 +69,7 @@ private:
     QStackedWidget* views;
     ChartTools* tools;
     ReadingFrame* frame;
+    ReadingActions* readingActions;
     std::array<QToolButton*, viewTotal> choices{};
     int viewState = 0;
 };

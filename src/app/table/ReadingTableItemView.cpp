@@ -1,6 +1,7 @@
 #include "app/table/ReadingTableItemView.h"
 
 #include "chart/StyleTable.h"
+#include "store/ManualReading.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -43,6 +44,11 @@ void drawWords(QPainter& painter, const QRect& cell, const QString& text, bool i
     painter.setPen(Qt::black);
     const auto alignment = isCentred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(room, static_cast<int>(alignment), words);
+}
+
+/// Through the whole row, also where a column has nothing to say.
+void strikeThrough(QPainter& painter, const QRect& cell) {
+    painter.fillRect(QRect(cell.left(), cell.center().y(), cell.width(), 1), Qt::black);
 }
 
 /// Open towards the rows above and below that belong to the same comment.
@@ -97,6 +103,7 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
     if (column == ReadingTableModel::comment) drawComment(painter, cell, index);
     if (row.isNA && column != ReadingTableModel::date) return drawPlaceholder(painter, cell);
     if (column == ReadingTableModel::comment) return;
+    if (row.isExcluded()) strikeThrough(painter, cell);
     if (column == ReadingTableModel::mam || column == ReadingTableModel::mark)
         return drawCircle(painter, cell, markOf(row, column));
     drawWords(painter, cell, index.data().toString(), column > ReadingTableModel::time);
@@ -107,8 +114,11 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
 void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
     constexpr int width = 10;
     const ReadingModel& row = model.row(index.row());
+    const QRect beside = cell.adjusted(margin + width, 0, 0, 0);
+    const QString remark = describeRemark(row);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!row.comment) {
+        if (!remark.isEmpty()) drawWords(painter, beside, remark, false);
         if (!row.bAtBegin) return;
         painter.setPen(QPen(Qt::darkGray, 1));
         return painter.drawPath(band(cell, true, true, width));
@@ -120,11 +130,11 @@ void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, con
     painter.setPen(QPen(isChosen ? Qt::black : Qt::darkGray, isChosen ? 2 : 0.5));
     painter.setBrush(getCommentColor(static_cast<int>(row.comment->degree), true));
     painter.drawPath(band(cell, isFirst, isLast, width));
-    if (!isFirst) return;
+    if (!isFirst) return remark.isEmpty() ? void() : drawWords(painter, beside, remark, false);
     QFont font = painter.font();
     font.setBold(isChosen);
     painter.setFont(font);
-    drawWords(painter, cell.adjusted(margin + width, 0, 0, 0), index.data().toString(), false);
+    drawWords(painter, beside, index.data().toString(), false);
 }
 
 /// The words end at half the row's width, whichever columns lie there.

@@ -34,10 +34,13 @@ public:
     [[nodiscard]] const ReadingModel& row(int number) const;
     /// The row is the first of its comment's.
     [[nodiscard]] bool beginsComment(int number) const;
+    /// The comment of a reading on one line, without what else stands in its column.
+    [[nodiscard]] static QString commentText(const ReadingModel& reading);
     /// What the cell says, in words: for the clipboard and for who cannot see its circles.
     [[nodiscard]] QString words(const QModelIndex& index) const;
 
 private:
+    [[nodiscard]] static QString toolTip(const ReadingModel& reading, Column column);
     [[nodiscard]] QString text(const ReadingModel& reading, Column column) const;
     [[nodiscard]] QString spoken(const QModelIndex& index) const;
 

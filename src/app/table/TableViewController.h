@@ -13,6 +13,7 @@ class QTableView;
 namespace zel {
 
 class EmptyState;
+class ReadingActions;
 class ReadingFrame;
 class ReadingTableModel;
 
@@ -57,6 +58,7 @@ private:
     void reload();
     void chooseComment(const QModelIndex& index);
     void copyRows();
+    [[nodiscard]] std::vector<const ReadingModel*> chosenReadings() const;
 
     Parts parts;
     ReadingTableModel* readingModelArray;
@@ -67,6 +69,7 @@ private:
     ReadingFrame* frame;
     QCheckBox* btnShowMam;
     QCheckBox* btnShowPad;
+    ReadingActions* readingActions;
 };
 
 } // namespace zel
