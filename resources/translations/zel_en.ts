@@ -146,6 +146,7 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 before, %2 since: %3</translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
     <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
     <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
@@ -487,7 +488,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="noCommentPageAdvice"><translation>This patient has no comments yet. They are placed on the chart.</translation></message>
     <message id="noComments"><translation>No comment yet. Comments are placed on the chart.</translation></message>
     <message id="NoData"><translation>No readings yet</translation></message>
-    <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download.</translation></message>
+    <message id="NoDataAdvice"><translation>Connect the monitor, choose the patient on the Patients page and press Download, or type in a reading with Ctrl+N.</translation></message>
     <message id="noDisplay"><translation>there is no display to open a window on. Start zel in a desktop session, or use its commands that need no window: see zel --help</translation></message>
     <message id="noFiles"><translation>No XML files in this folder</translation></message>
     <message id="noFilesAdvice"><translation>Choose the folder that the patients were exported to.</translation></message>
@@ -580,6 +581,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="readingList"><translation>List of readings</translation></message>
     <message id="readingsCounted"><translation>%1. Counted: %2</translation></message>
     <message id="readingsFromTo"><translation>%1, from %2 to %3</translation></message>
+    <message id="readingsListed"><translation>%1. Listed: %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
     <message id="readingTime"><translation>Time</translation></message>

@@ -22,7 +22,7 @@ DayNumber lastDaySince(const CommentList& comments, DayNumber begin) {
 }
 
 SpanMeans spanOf(const DayMeans& means, DayNumber first, DayNumber last) {
-    return {first, last, means.between(first, last)};
+    return {first, last, means.between(first, last), means.excludedBetween(first, last)};
 }
 
 QString shown(const PressureMeans& means) {
@@ -59,15 +59,25 @@ BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comm
             spanOf(means, begin, lastDaySince(comments, begin))};
 }
 
-QString describe(const BeforeAndSince& change) {
+namespace {
+
+QString describeMeans(const BeforeAndSince& change) {
     const PressureMeans& before = change.before.means;
     const PressureMeans& since = change.since.means;
-    if (change.since.begin == noDay) return {};
     if (before.count() + since.count() == 0) return qtTrId("noneBeforeOrSince");
     if (before.count() == 0) return qtTrId("noneBefore").arg(shown(since));
     if (since.count() == 0) return qtTrId("noneSince").arg(shown(before));
     const QString few = fewReadings(before, since);
     return compared(before, since) + (few.isEmpty() ? QString() : u"; "_s + few);
+}
+
+} // namespace
+
+QString describe(const BeforeAndSince& change) {
+    if (change.since.begin == noDay) return {};
+    const int excluded = change.before.excluded + change.since.excluded;
+    const QString means = describeMeans(change);
+    return excluded == 0 ? means : means + u"; "_s + qtTrId("excludedOfDays", excluded);
 }
 
 } // namespace zel

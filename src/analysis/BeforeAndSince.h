@@ -12,6 +12,7 @@ struct SpanMeans {
     DayNumber begin = noDay;
     DayNumber end = noDay;
     PressureMeans means{};
+    int excluded = 0; ///< readings of these days that the user has left out
 };
 
 /// What was measured in the 14 days before a comment begins, and from its first day on until another comment

@@ -9,8 +9,11 @@ namespace zel {
 DayMeans::DayMeans(const ReadingList& readings) {
     std::vector<const ReadingModel*> dated;
     dated.reserve(readings.size());
-    for (const ReadingModel& reading : readings)
+    for (const ReadingModel& reading : readings) {
         if (isAveraged(reading)) dated.push_back(&reading);
+        if (reading.isExcluded() && !reading.isUndated()) excludedDays.push_back(reading.day);
+    }
+    std::ranges::sort(excludedDays);
     std::ranges::stable_sort(dated, {}, [](const ReadingModel* reading) { return reading->day; });
     PressureMeans sum;
     days.reserve(dated.size());
@@ -29,6 +32,12 @@ PressureMeans DayMeans::before(DayNumber day) const {
 PressureMeans DayMeans::between(DayNumber first, DayNumber last) const {
     if (first > last) return {};
     return before(last + 1) - before(first);
+}
+
+int DayMeans::excludedBetween(DayNumber first, DayNumber last) const {
+    if (first > last) return 0;
+    return static_cast<int>(std::ranges::upper_bound(excludedDays, last)
+                            - std::ranges::lower_bound(excludedDays, first));
 }
 
 } // namespace zel

@@ -14,6 +14,8 @@ public:
     explicit DayMeans(const ReadingList& readings);
     /// Both days included.
     [[nodiscard]] PressureMeans between(DayNumber first, DayNumber last) const;
+    /// How many readings of these days the user has left out.
+    [[nodiscard]] int excludedBetween(DayNumber first, DayNumber last) const;
 
 private:
     struct UpTo {
@@ -22,7 +24,8 @@ private:
     };
     [[nodiscard]] PressureMeans before(DayNumber day) const;
 
-    std::vector<UpTo> days; ///< ascending
+    std::vector<UpTo> days;              ///< ascending
+    std::vector<DayNumber> excludedDays; ///< ascending, one for each reading
 };
 
 } // namespace zel

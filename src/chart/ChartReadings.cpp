@@ -30,8 +30,8 @@ ChartData makeChartData(const ReadingList& readings, const DataLogList& download
     data.maReading.reserve(readings.size());
     for (const ReadingModel& reading : readings) {
         if (!reading.ReadingDate || reading.isNA) continue;
-        data.maReading.push_back(
-            {*reading.ReadingDate, reading.sys, reading.dia, reading.pulse, reading.isPMData, &reading});
+        data.maReading.push_back({*reading.ReadingDate, reading.sys, reading.dia, reading.pulse,
+                                  reading.isPMData, reading.isExcluded(), &reading});
     }
     std::ranges::stable_sort(data.maReading, {}, &ChartReading::date);
     data.downloadDays = daysOf(downloads);
@@ -41,7 +41,7 @@ ChartData makeChartData(const ReadingList& readings, const DataLogList& download
 std::span<const ChartReading> readingsAround(const std::vector<ChartReading>& readings, const Period& period,
                                              ViewSelection view) {
     const auto accepted = [view](const ChartReading& reading) {
-        return MatchedDataType(view, reading.isPMData);
+        return MatchedDataType(view, reading.isPMData) && !reading.isExcluded;
     };
     const auto begin = std::ranges::lower_bound(readings, period.begin, {}, &ChartReading::date);
     const auto end = std::ranges::upper_bound(begin, readings.end(), period.end, {}, &ChartReading::date);

@@ -16,6 +16,7 @@ struct ChartReading {
     std::uint32_t dia = 0;
     std::uint32_t pulse = 0;
     bool isPMData = false;
+    bool isExcluded = false;               ///< shown apart, joined to none
     const ReadingModel* reading = nullptr; ///< the store's, valid until its next load
 };
 
@@ -28,7 +29,8 @@ struct ChartData {
 };
 [[nodiscard]] ChartData makeChartData(const ReadingList& readings, const DataLogList& downloads);
 
-/// Those from \p begin to \p end, with the nearest accepted one on either side, which a line may come from.
+/// Those from \p begin to \p end, with the nearest one on either side that is accepted and not left out,
+/// which a line may come from.
 [[nodiscard]] std::span<const ChartReading> readingsAround(const std::vector<ChartReading>& readings,
                                                            const Period& period, ViewSelection view);
 

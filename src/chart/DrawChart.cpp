@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 
 namespace zel {
 
@@ -91,10 +92,22 @@ void addMarks(Picture& picture, PointMarks& marks, bool wanted, bool bordered) {
     picture.emplace_back(std::move(marks));
 }
 
+/// Over the lines; what they are is said at the bottom left, on paper in the legend.
+void drawHollow(Picture& picture, const ChartScale& scale, const ChartStyle& style, ReadingLines& made) {
+    std::ranges::move(made.hollow, std::back_inserter(picture));
+    if (made.excluded == 0 || style.forPrint) return;
+    const QString text = qtTrId("chartExcluded", made.excluded);
+    const Point at{scale.chartRect.x + noteGap, scale.chartRect.y + noteGap};
+    const Size size = textSize(text, attribute(captionAttribute));
+    picture.emplace_back(FillRect{{at.x, at.y, size.width, size.height}, QColor(255, 255, 255, 200)});
+    picture.emplace_back(TextLine{text, at, attribute(captionAttribute)});
+}
+
 /// What the plot does not show: readings, or some of them. On paper, the marks of downloads hang at its top.
 void drawNotes(Picture& picture, const ChartScale& scale, const ChartStyle& style, const ReadingLines& made) {
     const Rect& plot = scale.chartRect;
-    if (made.inPeriod == 0) drawInTheMiddle(picture, noReadingsText(style.showDataType), plot);
+    if (made.inPeriod == 0 && made.excluded == 0)
+        drawInTheMiddle(picture, noReadingsText(style.showDataType), plot);
     const double side = style.CompareType ? plot.width / 2 : noteGap; // the caption stands at the left
     const double top = style.forPrint ? downloadMarkHeight : noteGap;
     drawOffScale(picture, made.offScale,
@@ -110,6 +123,7 @@ void drawBloodChart(Picture& picture, const ChartScale& scale, const ChartInput&
     picture.emplace_back(std::move(made.ticks));
     addMarks(picture, made.marks, input.style.forPrint, false); // over the limits and the ticks
     drawLines(picture, made.lines);
+    drawHollow(picture, scale, input.style, made);
     drawNotes(picture, scale, input.style, made);
 }
 
@@ -120,6 +134,7 @@ void drawPulseChart(Picture& picture, const ChartScale& scale, const ChartInput&
     made.marks.bordered = false;
     picture.emplace_back(std::move(made.marks));
     drawLines(picture, made.lines);
+    drawHollow(picture, scale, input.style, made);
     drawNotes(picture, scale, input.style, made);
 }
 

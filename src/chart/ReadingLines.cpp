@@ -61,6 +61,23 @@ void countInPeriod(ReadingLines& made, const ChartScale& scale, Instant date,
     countOffScale(made.offScale, values);
 }
 
+/// What is left out stands apart: no line, no tick, no count but its own.
+void addHollow(ReadingLines& made, const ChartScale& scale, const ChartReading& reading,
+               std::initializer_list<Point> marks) {
+    constexpr double diameter = 6;
+    for (const Point& mark : marks)
+        made.hollow.push_back({mark, diameter, false, Qt::black});
+    if (reading.date >= scale.time.begin && reading.date <= scale.time.end) ++made.excluded;
+}
+
+/// A hundred at one place look like one.
+void thin(std::vector<Circle>& circles) {
+    const auto place = [](const Circle& circle) { return std::pair{circle.centre.x, circle.centre.y}; };
+    std::ranges::sort(circles, {}, place);
+    const auto repeated = std::ranges::unique(circles, {}, place);
+    circles.erase(repeated.begin(), repeated.end());
+}
+
 /// Calls \p add with each accepted reading, its x, and whether it is joined to the one before.
 template <class Add>
 void forEachAccepted(std::span<const ChartReading> readings, const ChartScale& scale, ViewSelection view,
@@ -70,7 +87,7 @@ void forEachAccepted(std::span<const ChartReading> readings, const ChartScale& s
         if (!MatchedDataType(view, reading.isPMData)) continue;
         const bool joined = previous && reading.date - *previous <= longestJoin;
         add(reading, std::trunc(scale.time.calcXPos(reading.date)), joined);
-        previous = reading.date;
+        if (!reading.isExcluded) previous = reading.date;
     }
 }
 
@@ -87,6 +104,7 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
         const Point sys = sysPoint(scale, reading, x);
         const Point dia = diaPoint(scale, reading, x);
+        if (reading.isExcluded) return addHollow(made, scale, reading, {sys, dia});
         addToRun(made.lines, sys, joined);
         addToRun(diaRuns, dia, joined);
         made.marks.points.push_back(sys);
@@ -95,6 +113,7 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
         countInPeriod(made, scale, reading.date, {{reading.sys, range}, {reading.dia, range}});
     });
     made.count = made.ticks.ticks.size();
+    thin(made.hollow);
     made.lines.insert(made.lines.end(), std::make_move_iterator(diaRuns.begin()),
                       std::make_move_iterator(diaRuns.end()));
     return made;
@@ -107,11 +126,13 @@ ReadingLines pulseLines(const std::vector<ChartReading>& all, const ChartScale& 
     made.marks.points.reserve(readings.size());
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
         const Point pulse = pulsePoint(scale, reading, x);
+        if (reading.isExcluded) return addHollow(made, scale, reading, {pulse});
         addToRun(made.lines, pulse, joined);
         made.marks.points.push_back(pulse);
         countInPeriod(made, scale, reading.date, {{reading.pulse, range}});
     });
     made.count = made.marks.points.size();
+    thin(made.hollow);
     return made;
 }
 

@@ -10,10 +10,12 @@ namespace zel {
 struct ReadingLines {
     std::vector<PolyLine> lines; ///< of runs without a gap of more than 30 days
     PointMarks marks;
-    Ticks ticks;              ///< from systolic to diastolic
-    std::size_t count = 0;    ///< accepted readings in reach
-    std::size_t inPeriod = 0; ///< those of them that lie in the period itself
-    OffScale offScale;        ///< of those in the period
+    Ticks ticks;                ///< from systolic to diastolic
+    std::vector<Circle> hollow; ///< the marks of readings that are left out, each place once
+    int excluded = 0;           ///< readings left out that lie in the period
+    std::size_t count = 0;      ///< accepted readings in reach
+    std::size_t inPeriod = 0;   ///< those of them that lie in the period itself
+    OffScale offScale;          ///< of those in the period
 };
 
 [[nodiscard]] ReadingLines bloodLines(const std::vector<ChartReading>& readings, const ChartScale& scale,

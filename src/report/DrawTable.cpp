@@ -4,6 +4,7 @@
 #include "report/CommentLook.h"
 #include "report/FieldText.h"
 #include "report/PageGeometry.h"
+#include "store/ManualReading.h"
 
 #include <algorithm>
 #include <cmath>
@@ -80,6 +81,13 @@ Point markCentre(const Rect& row, double column) {
     return {field(row, column, xSys, 0).at.x + 12, row.y + 7.5};
 }
 
+/// From the date to the comment, which says why.
+void strikeThrough(Picture& picture, const TableRow& row) {
+    const double y = row.y + textBase + textSize(u"0"_s, row.font).height / 2;
+    picture.emplace_back(
+        StraightLine{{row.x, y}, {field(row, xComment, DrawTable::baseWidth, 0).at.x - 4, y}, 1, Qt::black});
+}
+
 bool hasFinding(std::uint32_t arrhythmia) { return arrhythmia == 2 || arrhythmia == 5; }
 bool hasNoFinding(std::uint32_t arrhythmia) { return arrhythmia == 1 || arrhythmia == 4; }
 
@@ -154,6 +162,7 @@ bool DrawTable::drawReading(Picture& picture, const TableRow& row, const Reading
     } else {
         drawMarks(picture, row, *reading.reading);
         drawMeasures(picture, row, *reading.reading);
+        if (reading.reading->isExcluded()) strikeThrough(picture, row);
     }
     return drawComment(picture, row, reading, opensRun || reading.bAtBegin);
 }
@@ -178,21 +187,29 @@ void DrawTable::drawMeasures(Picture& picture, const TableRow& row, const Readin
     number(picture, row, xMap, xComment, isPP ? reading.pp : reading.map);
 }
 
-/// A bar in the comment's colour along its rows, closed at both ends, with its number and first words.
+/// A bar in the comment's colour along its rows, closed at both ends, with its number and first words behind
+/// what is to be said of the reading.
 bool DrawTable::drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading,
                             bool isNamed) const {
-    if (reading.comment == nullptr) return false;
+    const Field cell = field(row, xComment, baseWidth, textBase);
+    QStringList words;
+    if (!reading.isNA()) words += describeRemark(*reading.reading);
+    if (reading.comment) drawBar(picture, row, reading);
+    if (reading.comment && isNamed)
+        words += commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
+    words.removeAll(QString());
+    const double width = cell.width + columnGap - 6;
+    fieldText(picture, words.join(u"; "_s), {cell.at.x + 6, cell.at.y}, width, row.font);
+    return reading.comment && isNamed && !isWhole(words.join(u"; "_s), width, row.font);
+}
+
+void DrawTable::drawBar(Picture& picture, const TableRow& row, const ReadingRow& reading) {
     const Field cell = field(row, xComment, baseWidth, textBase);
     const QColor color = getCommentColor(reading.comment->degree, true);
     const Rect bar{cell.at.x, row.y, 3, rowHeight};
     picture.emplace_back(FillRect{bar, color});
     if (reading.bAtBegin) picture.emplace_back(FillRect{{bar.x, bar.top() - 2, 8, 2}, color});
     if (reading.bAtEnd) picture.emplace_back(FillRect{{bar.x, bar.y, 8, 2}, color});
-    if (!isNamed) return false;
-    const QString words = commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
-    const double width = cell.width + columnGap - 6;
-    fieldText(picture, words, {cell.at.x + 6, cell.at.y}, width, row.font);
-    return !isWhole(words, width, row.font);
 }
 
 } // namespace zel

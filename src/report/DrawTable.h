@@ -39,6 +39,8 @@ private:
     void drawMarks(Picture& picture, const TableRow& row, const ReadingModel& reading) const;
     bool drawComment(Picture& picture, const TableRow& row, const ReadingRow& reading, bool isNamed) const;
 
+    static void drawBar(Picture& picture, const TableRow& row, const ReadingRow& reading);
+
     const ReportSource& report;
 };
 

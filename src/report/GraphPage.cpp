@@ -94,6 +94,10 @@ ChartMarks drawMarks(Picture& picture, const ReportSource& report, const ChartDa
     if (style.showBlood) marks.limits = drawLimitDashes(picture, limitsOf(report), layout.scale);
     marks.readings = data.hasData();
     if (!marks.readings) return marks;
+    marks.excluded = std::ranges::any_of(data.maReading, [&](const ChartReading& reading) {
+        return reading.isExcluded && report.selection.period.contains(reading.date)
+               && MatchedDataType(style.showDataType, reading.isPMData);
+    });
     if (layout.bShowComment && !style.noBaseArea)
         marks.comments = drawComments(picture, report, layout.scale);
     if (style.showBlood) marks.downloads = drawDownloadMarks(picture, data, layout.scale);
@@ -131,6 +135,7 @@ QString graphNote(const ReportSource& report, const ChartMarks& marks) {
     if (marks.readings) note += qtTrId("reportGraphNote");
     note += limitsNote(limitsOf(report), marks.limits);
     if (marks.downloads) note += qtTrId("reportGraphDownloads");
+    if (marks.excluded) note += qtTrId("reportGraphExcluded");
     if (marks.comments) note += qtTrId("reportGraphComments");
     return note.join(u' ');
 }

@@ -19,6 +19,7 @@ struct ChartMarks {
     bool readings = false; ///< of any period
     bool comments = false;
     bool downloads = false;
+    bool excluded = false; ///< readings that are left out, which the chart shows apart
 };
 
 /// The blood-pressure chart over the pulse chart.

@@ -12,6 +12,15 @@
 
 namespace zel {
 
+namespace {
+
+/// Behind whose rows stand the readings that are left out.
+bool hasTable(std::optional<Section> section) {
+    return section == Section::table || section == Section::SWStatistics;
+}
+
+} // namespace
+
 PrintView::PrintView(ReportSource report, const QPageSize& paper)
     : source(std::move(report)), paperSize(paper) {}
 
@@ -25,13 +34,23 @@ const PatientPages& PrintView::profile() const {
     return *patientPages;
 }
 
+const LeftOutPages& PrintView::leftOut() const {
+    if (!leftOutList) leftOutList = layOutLeftOut(source, geometry(Section::table).drawingRect);
+    return *leftOutList;
+}
+
+int PrintView::leftOutPages() const { return static_cast<int>(leftOut().pages.size()); }
+
 int PrintView::getTotalPages(std::optional<Section> printSelection) const {
     const Rect drawing = geometry(printSelection).drawingRect;
-    if (printSelection == Section::table) return DrawTable(source).needPages(drawing, true);
-    if (printSelection == Section::SWStatistics) return DrawTable(source).needPages(drawing, false);
+    if (hasTable(printSelection)) return tablePages(*printSelection, drawing) + leftOutPages();
     if (printSelection == Section::comment) return static_cast<int>(comments().pages.size());
     if (printSelection == Section::PatientProfile) return 1 + static_cast<int>(profile().more.size());
     return 1;
+}
+
+int PrintView::tablePages(Section section, const Rect& drawing) const {
+    return DrawTable(source).needPages(drawing, section == Section::table);
 }
 
 PageGeometry PrintView::geometry(std::optional<Section> printSelection) const {
@@ -65,6 +84,9 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
 }
 
 void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const {
+    const int before = hasTable(section) ? tablePages(section, at.drawingRect) : 0;
+    if (hasTable(section) && number > before)
+        return drawLeftOut(picture, source, leftOut(), at.drawingRect, number - before);
     switch (section) {
     case Section::summary: return; // has a frame of its own
     case Section::graph:

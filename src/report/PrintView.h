@@ -3,6 +3,7 @@
 #include "chart/Picture.h"
 #include "report/DrawComment.h"
 #include "report/DrawPatient.h"
+#include "report/LeftOutList.h"
 #include "report/PageFrame.h"
 #include "report/ReportSource.h"
 #include "report/Section.h"
@@ -40,12 +41,16 @@ private:
 
     [[nodiscard]] const CommentPages& comments() const;
     [[nodiscard]] const PatientPages& profile() const;
+    [[nodiscard]] const LeftOutPages& leftOut() const;
+    [[nodiscard]] int leftOutPages() const;
+    [[nodiscard]] int tablePages(Section section, const Rect& drawing) const;
 
     ReportSource source;
     QPageSize paperSize;
     // Worked out when the section is first asked for: texts may be long, and many.
     mutable std::optional<CommentPages> commentPages;
     mutable std::optional<PatientPages> patientPages;
+    mutable std::optional<LeftOutPages> leftOutList;
 };
 
 } // namespace zel

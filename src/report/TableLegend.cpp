@@ -98,6 +98,8 @@ LegendItems otherMarks(const ReportSource& report, bool isCommentCut) {
         if (std::ranges::any_of(rows.rows, isSuch)) items.push_back({LegendItem::Mark::none, text, itemGap});
     };
     explain(qtTrId("reportDownloadDay"), [](const ReadingRow& row) { return row.bYellowBackground; });
+    explain(qtTrId("reportStruckThrough"),
+            [](const ReadingRow& row) { return !row.isNA() && row.reading->isExcluded(); });
     explain(qtTrId("reportNoReading"), [](const ReadingRow& row) { return row.isNA(); });
     explain(qtTrId("reportNoDate"), [](const ReadingRow& row) { return isUndatedDay(row.day); });
     explain(qtTrId("reportCommentBars"), [](const ReadingRow& row) { return row.comment != nullptr; });

@@ -7,11 +7,12 @@
 #include <algorithm>
 
 namespace zel {
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// "first day/last day: readings" on either side of the comment at \p chosen.
 std::string spans(const Sample& sample, std::size_t chosen = 0) {
-    using namespace Qt::StringLiterals;
     const auto [before, since] =
         calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[chosen]);
     QStringList parts;
@@ -37,6 +38,18 @@ TEST(BeforeAndSince, IsOf14DaysAndUpTo28UntilAnotherCommentBegins) {
     EXPECT_EQ(spans(sample, 2), "02-15/02-28: 2, 03-01/03-10: 2");
     EXPECT_EQ(spans(sample, 3), "02-25/03-10: 3, 03-11/03-28: 2");
     EXPECT_EQ(spans(sample, 4), "03-15/03-28: 1, 03-29/04-25: 1");
+    sample.readings[1].exclusion = u"29 March"_s;
+    sample.readings[7].exclusion = u"15 February"_s;
+    EXPECT_EQ(spans(sample, 1), "02-15/02-28: 1, 03-01/03-10: 2");
+    EXPECT_EQ(spans(sample, 4), "03-15/03-28: 1, 03-29/04-25: 0");
+    for (const auto& [index, before, since] :
+         {std::tuple(1U, 1, 0), std::tuple(4U, 0, 1), std::tuple(3U, 0, 0)}) {
+        const auto change =
+            calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[index]);
+        EXPECT_EQ(std::pair(change.before.excluded, change.since.excluded), std::pair(before, since))
+            << index;
+        EXPECT_EQ(describe(change).contains(u"excludedOfDays"_s), before + since > 0);
+    }
     sample.comments[0]->beginDay = noDay;
     EXPECT_EQ(spans(sample), "/: 0, /: 0");
     EXPECT_EQ(describe(calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[0])),

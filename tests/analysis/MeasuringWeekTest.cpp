@@ -229,6 +229,17 @@ TEST(MeasuringWeek, EndsWithTheLastDayThatHasAReading) {
         EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha, end).readingsUsed(), 0U) << end;
 }
 
+TEST(MeasuringWeek, WhatIsLeftOutIsCountedApart) {
+    ReadingList readings = readingsOf("120/80/60|130/81/61, 131/81/61|140/82/62|-|-|-|150/83/63|160/84/64");
+    for (const std::size_t place : {0U, 2U, 5U}) // before the week, in it, and its last day
+        readings[place].exclusion = u""_s;
+    const MeasuringWeek week = calcMeasuringWeek(readings, AverageRule::aha);
+    EXPECT_EQ(week.end, lastOfWeek - 1) << "the last day with a reading that counts";
+    EXPECT_EQ(week.readingsUsed(), 3U);
+    EXPECT_EQ(week.excluded, 2) << "a day more belongs to this week";
+    EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha, lastOfWeek).excluded, 2);
+}
+
 TEST(MeasuringWeek, MorningIsBeforeNoon) {
     ReadingList readings;
     for (const char* date :

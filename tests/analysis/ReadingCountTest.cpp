@@ -66,7 +66,8 @@ TEST(ReadingCount, WhatIsExcludedIsListedAndCountsNowhere) {
     for (ReadingModel& reading : sample.readings)
         reading.exclusion = u""_s;
     sample.readings.front().exclusion = QString();
-    EXPECT_EQ(countReadings(sample.readings, sample.selection, isListed), (ReadingCount{3, 1}));
+    EXPECT_EQ(countReadings(sample.readings, sample.selection, isListed),
+              (ReadingCount{.counted = 3, .outsidePeriod = 1, .listedExcluded = 2}));
     for (const CountRule rule : {isInStatistic, isCounted})
         EXPECT_EQ(countReadings(sample.readings, sample.selection, rule),
                   (ReadingCount{1, 1, 0, 0, 0, 0, 2}));

@@ -416,5 +416,36 @@ TEST(DrawChart, SurvivesAnySize) {
     }
 }
 
+TEST(DrawChart, WhatIsLeftOutStandsApartAndJoinsNothing) {
+    for (const ChartStyle& style : {DrawBlood, DrawPulse}) {
+        Chart chart;
+        chart.style = style;
+        chart.readings.insert(chart.readings.begin() + 1, reading(local("2019-03-03 08:00:00"), 150, 95, 80));
+        const auto lines = [&] { return chart.items<PolyLine>(); };
+        const Chart without = [&] {
+            Chart made = chart;
+            made.readings.erase(made.readings.begin() + 1);
+            return made;
+        }();
+        chart.readings[1].exclusion = u""_s;
+        chart.readings.push_back(chart.readings[1]); // at the same place
+        ASSERT_EQ(lines().size(), without.items<PolyLine>().size());
+        for (std::size_t i = 0; i < lines().size(); ++i)
+            EXPECT_EQ(lines()[i].points, without.items<PolyLine>()[i].points);
+        EXPECT_EQ(chart.items<PointMarks>().front().points, without.items<PointMarks>().front().points);
+        const auto hollow = chart.items<Circle>();
+        ASSERT_EQ(hollow.size(), style.showBlood ? 2U : 1U);
+        EXPECT_FALSE(hollow.front().filled);
+        EXPECT_EQ(chart.points().size(), style.showBlood ? 8U : 4U) << "can be pointed at";
+        const auto says = [&] {
+            return std::ranges::count(chart.items<TextLine>(), qtTrId("chartExcluded", 2), &TextLine::text);
+        };
+        EXPECT_EQ(says(), 1);
+        chart.style.forPrint = true;
+        EXPECT_EQ(says(), 0) << "the page has a legend of its own";
+        EXPECT_EQ(chart.items<Circle>().size(), hollow.size());
+    }
+}
+
 } // namespace
 } // namespace zel

@@ -195,6 +195,42 @@ TEST_F(TableTest, findingsAveragesAndDownloadsShowWithoutColour) {
     EXPECT_EQ(std::ranges::count(texts, u"\u2193"_s, &TextLine::text), 2);
 }
 
+TEST_F(TableTest, whatIsLeftOutIsStruckThroughAndListedWithItsReason) {
+    const auto allTexts = [this](Section section) {
+        QStringList texts;
+        for (int page = 1; page <= sample.view().getTotalPages(section); ++page)
+            for (const TextLine& line : textsOf(sample.view().page(section, page)))
+                texts += line.text;
+        return texts;
+    };
+    const auto strikes = [this] {
+        return std::ranges::count_if(items<StraightLine>(), [](const StraightLine& line) {
+            return line.from.y == line.to.y && line.width == 1 && line.to.x < 48 + 683 * wratio;
+        });
+    };
+    sample.readings[2].isManual = true;
+    EXPECT_EQ(row(3)[683], u"typed in"_s);
+    const int pagesBefore = sample.view().getTotalPages(Section::table);
+    EXPECT_EQ(strikes(), 0);
+    QString longReason = u"the cuff was loose and "_s;
+    while (longReason.size() < 6000)
+        longReason += u"the arm moved and "_s;
+    sample.readings[0].exclusion = longReason + u"END"_s;
+    sample.readings[1].exclusion = u""_s;
+    EXPECT_EQ(strikes(), 2);
+    EXPECT_GT(sample.view().getTotalPages(Section::table), pagesBefore);
+    for (const Section section : {Section::table, Section::SWStatistics}) {
+        const QString all = allTexts(section).join(u' ');
+        EXPECT_TRUE(all.contains(u"END"_s)) << "no reason is cut";
+        EXPECT_TRUE(all.contains(qtTrId("reportLeftOutTitle", 2)));
+        EXPECT_TRUE(all.contains(qtTrId("ExcludedWithoutReason")));
+        EXPECT_TRUE(all.contains(qtTrId("reportStruckThrough")));
+    }
+    sample.selection.period.begin = noonOf("2019-01-02"); // both lie before it
+    EXPECT_EQ(strikes(), 0);
+    EXPECT_FALSE(allTexts(Section::table).contains(qtTrId("reportLeftOutTitle", 2)));
+}
+
 } // namespace
 
 } // namespace zel

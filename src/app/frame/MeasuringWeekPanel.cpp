@@ -28,8 +28,9 @@ QString halvesOf(const MeasuringWeek& week) {
 QString countsOf(const MeasuringWeek& week) {
     const QString readings = qtTrId("weekReadings", static_cast<int>(week.readingsUsed()));
     QString counted = qtTrId("weekDays", week.daysUsed).arg(readings);
-    if (week.readingsLeftOut == 0) return counted;
-    return counted + u"; "_s + qtTrId("weekFirstDay", week.readingsLeftOut);
+    if (week.readingsLeftOut > 0) counted += u"; "_s + qtTrId("weekFirstDay", week.readingsLeftOut);
+    if (week.excluded > 0) counted += u"; "_s + qtTrId("weekExcluded", week.excluded);
+    return counted;
 }
 
 /// Of the means before they are rounded, which what is shown does not tell.

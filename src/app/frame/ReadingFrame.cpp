@@ -94,7 +94,10 @@ void ReadingFrame::showHeading() {
     const ReadingCount count =
         countReadings(parts.store.getReadingForCurID(), parts.period.selection(), counts);
     QString detail = readingSummary(parts.store);
-    if (!describeLeftOut(count).isEmpty()) detail = qtTrId("readingsCounted").arg(detail, describe(count));
+    if (count.listedExcluded > 0)
+        detail = qtTrId("readingsListed").arg(detail, describe(count));
+    else if (!describeLeftOut(count).isEmpty())
+        detail = qtTrId("readingsCounted").arg(detail, describe(count));
     if (!note.isEmpty()) detail = qtTrId("readingsNoted").arg(detail, note);
     heading->setTexts(patientHeading(parts.store), detail);
 }

@@ -1,6 +1,7 @@
 #include "app/graph/BPInfoView.h"
 
 #include "app/widgets/PageHeading.h"
+#include "store/ManualReading.h"
 
 #include <QGridLayout>
 
@@ -42,6 +43,8 @@ ReadingInfo readingInfo(const ReadingModel& reading, const DataStore& store) {
         {qtTrId("columnMam"), reading.mam == 1 ? qtTrId("answerYes") : qtTrId("answerNo")},
         {arrhythmiaTitle(reading, store), reading.getPadStr()},
     };
+    if (const QString remark = describeRemark(reading); !remark.isEmpty())
+        info.emplace_back(qtTrId("infoRemark"), shortened(remark));
     if (reading.comment) info.emplace_back(qtTrId("columnComment"), shortened(reading.comment->comment));
     return info;
 }

@@ -145,6 +145,7 @@ void ChartTools::showMenu(QPoint global, Instant day) {
     auto* menu = new QMenu(this);
     menu->setObjectName(u"chartMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    charts.keepReadingFor(*menu);
     menu->addActions(charts.actions());
     auto* addThere = new QAction(add->text(), menu);
     addThere->setObjectName(u"addCommentThere"_s);

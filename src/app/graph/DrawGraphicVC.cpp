@@ -1,5 +1,6 @@
 #include "app/graph/DrawGraphicVC.h"
 
+#include "analysis/ReadingCount.h"
 #include "app/frame/PeriodMoves.h"
 #include "app/graph/BloodView.h"
 #include "app/graph/PointedReading.h"
@@ -45,6 +46,7 @@ DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayP
     connect(&store, &DataStore::reloaded, this, &DrawGraphicVC::reload);
     connect(&store, &DataStore::currentIDChanged, this, &DrawGraphicVC::reload);
     connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::showPeriod);
+    connect(pointed, &PointedReading::changed, this, &DrawGraphicVC::chosenReadingChanged);
     reload();
 }
 
@@ -84,6 +86,7 @@ QScrollBar* DrawGraphicVC::addTimeScroller() {
 
 /// The reading pointed at may be gone already: it is forgotten before anybody asks where its marks were.
 void DrawGraphicVC::forgetPointed() {
+    menuReading = nullptr;
     bloodView->invalidate();
     pulseView->invalidate();
     pointed->forget();
@@ -152,6 +155,19 @@ Instant DrawGraphicVC::commentDay() const {
     if (time) return *time;
     const ReadingModel* reading = pointed->reading();
     return reading ? reading->ReadingDate.value_or(source.period.begin) : source.period.begin;
+}
+
+const ReadingModel* DrawGraphicVC::chosenReading() const {
+    return menuReading ? menuReading : pointed->reading();
+}
+
+void DrawGraphicVC::keepReadingFor(const QObject& menu) {
+    menuReading = pointed->reading();
+    connect(&menu, &QObject::destroyed, this, [this] {
+        menuReading = nullptr;
+        emit chosenReadingChanged();
+    });
+    emit chosenReadingChanged();
 }
 
 void DrawGraphicVC::contextMenuEvent(QContextMenuEvent* event) {
@@ -228,10 +244,11 @@ void DrawGraphicVC::walk(bool forward) {
 }
 
 void DrawGraphicVC::describe() {
-    const auto counted = std::ranges::count_if(source.data.maReading, [this](const ChartReading& reading) {
-        return source.period.contains(reading.date) && MatchedDataType(source.view, reading.isPMData);
-    });
-    const QString count = qtTrId("readingCount", static_cast<int>(counted));
+    ReadingCount counts;
+    for (const ChartReading& reading : source.data.maReading)
+        if (source.period.contains(reading.date) && MatchedDataType(source.view, reading.isPMData))
+            ++(reading.isExcluded ? counts.excluded : counts.counted);
+    const QString count = zel::describe(counts);
     for (ChartView* view : {static_cast<ChartView*>(bloodView), static_cast<ChartView*>(pulseView)})
         view->setAccessibleDescription(qtTrId("chartKeys").arg(count));
 }

@@ -26,6 +26,10 @@ public:
     /// The styles of the charts on the screen, for a pair that is to look like them.
     void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
     [[nodiscard]] PulseView& getPulseView() { return *pulseView; }
+    /// The reading that the context menu was opened on, or else the one that is pointed at; null for none.
+    [[nodiscard]] const ReadingModel* chosenReading() const;
+    /// The menu that menuWanted() asked for: until it goes it stands for the reading below it.
+    void keepReadingFor(const QObject& menu);
     /// The day that a comment is for that is made by a key: that under the pointer or of the reading that the
     /// keys have come to, whichever was later; else the first of the period.
     [[nodiscard]] Instant commentDay() const;
@@ -33,6 +37,7 @@ public:
 signals:
     /// The context menu, for a time of the day where the pointer asked for it, or of the commentDay().
     void menuWanted(QPoint global, Instant day);
+    void chosenReadingChanged();
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -61,6 +66,7 @@ private:
     BloodView* bloodView;
     PulseView* pulseView;
     PointedReading* pointed;
+    const ReadingModel* menuReading = nullptr; ///< the pointer leaves the chart for the menu
     QScrollBar* bloodScroller;
     QScrollBar* pulseScroller;
     QScrollBar* timeScroller;

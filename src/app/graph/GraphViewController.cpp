@@ -1,6 +1,7 @@
 #include "app/graph/GraphViewController.h"
 
 #include "app/frame/CommentViewController.h"
+#include "app/frame/ReadingActions.h"
 #include "app/frame/ReadingFrame.h"
 #include "app/graph/ChartComments.h"
 #include "app/graph/ChartTools.h"
@@ -42,7 +43,9 @@ GraphViewController::GraphViewController(const Parts& needed)
       noReadings(new EmptyState(u"noChart"_s, u":/icons/graphBtn.InactiveImg.svg"_s, content)),
       views(new QStackedWidget(content)), tools(new ChartTools(*charts, *comments, needed.period, content)),
       trendApart(makeTrendChoice()),
-      frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *content, this)) {
+      frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *content, this)),
+      readingActions(new ReadingActions(
+          {needed.store, needed.panel, needed.clock}, [this] { return chosenReading(); }, *views)) {
     setObjectName(u"GraphViewController"_s);
     setAccessibleName(qtTrId("pageChart"));
     comments->setPanel(frame->comments());
@@ -60,6 +63,13 @@ void GraphViewController::build() {
          {static_cast<QWidget*>(charts), static_cast<QWidget*>(histogram), static_cast<QWidget*>(correlation),
           static_cast<QWidget*>(trend), static_cast<QWidget*>(noReadings)})
         views->addWidget(each);
+    auto* between = new QAction(charts);
+    between->setSeparator(true);
+    charts->addAction(between);
+    charts->addActions(readingActions->actions());
+    noReadings->addAction(readingActions->newReading());
+    noReadings->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(charts, &DrawGraphicVC::chosenReadingChanged, readingActions, &ReadingActions::update);
     auto* bar = new QHBoxLayout;
     bar->addWidget(makeSwitch());
     bar->addStretch(1);
@@ -113,8 +123,15 @@ QCheckBox* GraphViewController::makeTrendChoice() {
 
 bool GraphViewController::isTrendApart() const { return trend->isApart(); }
 
+/// Only the chart has points to choose.
+std::vector<const ReadingModel*> GraphViewController::chosenReading() const {
+    const ReadingModel* reading = viewState == 0 ? charts->chosenReading() : nullptr;
+    return reading ? std::vector{reading} : std::vector<const ReadingModel*>{};
+}
+
 void GraphViewController::setView(int state) {
     viewState = state;
+    readingActions->update();
     if (viewState == 1) histogram->reload();
     if (viewState == 2) correlation->reload();
     if (viewState == 3) trend->reload();

@@ -20,6 +20,7 @@ class CorrelationView;
 class DrawGraphicVC;
 class EmptyState;
 class HistogramView;
+class ReadingActions;
 class ReadingFrame;
 class TrendView;
 
@@ -60,6 +61,7 @@ private:
     QCheckBox* makeTrendChoice();
     void setView(int state);
     void reload();
+    [[nodiscard]] std::vector<const ReadingModel*> chosenReading() const;
 
     static constexpr std::size_t viewTotal = 4;
     Parts parts;
@@ -74,6 +76,7 @@ private:
     ChartTools* tools;
     QCheckBox* trendApart;
     ReadingFrame* frame;
+    ReadingActions* readingActions;
     std::array<QToolButton*, viewTotal> choices{};
     int viewState = 0;
 };

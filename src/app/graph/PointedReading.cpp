@@ -58,9 +58,11 @@ void PointedReading::point(const ReadingModel* reading) {
     pointed = reading;
     for (ChartView* chart : charts)
         chart->setPointed(reading);
-    if (reading) return;
-    hideInfo();
-    isHovering = false;
+    if (!reading) {
+        hideInfo();
+        isHovering = false;
+    }
+    emit changed();
 }
 
 void PointedReading::hover(ChartView& chart, const ReadingModel* reading, QPoint mark) {

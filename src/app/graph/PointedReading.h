@@ -27,6 +27,9 @@ public:
     /// Takes the values away; the marks stay.
     void hideInfo();
 
+signals:
+    void changed(); ///< another reading is pointed at, or none
+
 private:
     void point(const ReadingModel* reading);
     void hover(ChartView& chart, const ReadingModel* reading, QPoint mark);

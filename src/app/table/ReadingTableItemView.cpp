@@ -3,6 +3,7 @@
 #include "analysis/HighValues.h"
 #include "app/widgets/PageHeading.h"
 #include "chart/StyleTable.h"
+#include "store/ManualReading.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -60,6 +61,11 @@ void drawHigh(QPainter& painter, const QRect& cell, const QString& number) {
                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), highMark);
 }
 
+/// Through the whole row, also where a column has nothing to say.
+void strikeThrough(QPainter& painter, const QRect& cell) {
+    painter.fillRect(QRect(cell.left(), cell.center().y(), cell.width(), 1), Qt::black);
+}
+
 /// Open towards the rows above and below that belong to the same comment.
 QPainterPath band(const QRect& cell, bool isFirst, bool isLast, int width) {
     constexpr int beyond = 8;
@@ -112,6 +118,7 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
     if (column == ReadingTableModel::comment) drawComment(painter, cell, index);
     if (row.isNA && column != ReadingTableModel::date) return drawPlaceholder(painter, cell);
     if (column == ReadingTableModel::comment) return;
+    if (row.isExcluded()) strikeThrough(painter, cell);
     if (column == ReadingTableModel::mam || column == ReadingTableModel::mark)
         return drawCircle(painter, cell, markOf(row, column));
     if (model.isHigh(index)) return drawHigh(painter, cell, index.data().toString());
@@ -123,8 +130,11 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
 void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
     constexpr int width = 10;
     const ReadingModel& row = model.row(index.row());
+    const QRect beside = cell.adjusted(margin + width, 0, 0, 0);
+    const QString remark = describeRemark(row);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!row.comment) {
+        if (!remark.isEmpty()) drawWords(painter, beside, remark, false);
         if (!row.bAtBegin) return;
         painter.setPen(QPen(Qt::darkGray, 1));
         return painter.drawPath(band(cell, true, true, width));
@@ -136,11 +146,11 @@ void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, con
     painter.setPen(QPen(isChosen ? Qt::black : Qt::darkGray, isChosen ? 2 : 0.5));
     painter.setBrush(getCommentColor(static_cast<int>(row.comment->degree), true));
     painter.drawPath(band(cell, isFirst, isLast, width));
-    if (!isFirst) return;
+    if (!isFirst) return remark.isEmpty() ? void() : drawWords(painter, beside, remark, false);
     QFont font = painter.font();
     font.setBold(isChosen);
     painter.setFont(font);
-    drawWords(painter, cell.adjusted(margin + width, 0, 0, 0), index.data().toString(), false);
+    drawWords(painter, beside, index.data().toString(), false);
 }
 
 /// The words end at half the row's width, whichever columns lie there.

@@ -2,6 +2,7 @@
 
 #include "analysis/HighValues.h"
 #include "analysis/ReadingRows.h"
+#include "store/ManualReading.h"
 #include "store/RecordXml.h"
 
 #include <QStringList>
@@ -76,8 +77,20 @@ QVariant ReadingTableModel::data(const QModelIndex& index, int role) const {
     const auto column = static_cast<Column>(index.column());
     if (role == Qt::DisplayRole) return text(reading, column);
     if (role == Qt::AccessibleTextRole) return spoken(index);
-    if (role == Qt::ToolTipRole && column == comment && reading.comment) return reading.comment->comment;
+    if (role == Qt::ToolTipRole) return toolTip(reading, column);
     return {};
+}
+
+/// The remark for the whole row, and the whole comment in its column.
+QString ReadingTableModel::toolTip(const ReadingModel& reading, Column column) {
+    QStringList lines{describeRemark(reading)};
+    if (column == comment && reading.comment) lines += reading.comment->comment;
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
+QString ReadingTableModel::commentText(const ReadingModel& reading) {
+    return reading.comment ? oneLine(reading.comment->comment) : QString();
 }
 
 /// Nothing for circles and placeholders, which are drawn.
@@ -85,7 +98,11 @@ QString ReadingTableModel::text(const ReadingModel& reading, Column column) cons
     if (column == date)
         return reading.isNA ? dayText(reading.day, store.getSetting().getDateFormat())
                             : reading.strDisplayDate(store.getSetting());
-    if (column == comment) return reading.comment ? oneLine(reading.comment->comment) : QString();
+    if (column == comment) {
+        QStringList parts{describeRemark(reading), commentText(reading)};
+        parts.removeAll(QString());
+        return parts.join(u" · "_s);
+    }
     if (reading.isNA) return {};
     switch (column) {
     case time: return reading.strDisplayTime(store.getSetting());
@@ -121,9 +138,12 @@ QString ReadingTableModel::words(const QModelIndex& index) const {
 QString ReadingTableModel::spoken(const QModelIndex& index) const {
     const ReadingModel& reading = row(index.row());
     if (index.column() == date && reading.isNA) return qtTrId("dayWithoutReading").arg(words(index));
-    if (index.column() == date && reading.bYellowBackground) return qtTrId("dayOfDownload").arg(words(index));
-    if (index.column() == comment && !reading.comment) return qtTrId("none");
-    return isHigh(index) ? qtTrId("valueHigh").arg(words(index)) : words(index);
+    const QString said = words(index);
+    if (index.column() == comment) return said.isEmpty() ? qtTrId("none") : said;
+    if (index.column() != date) return isHigh(index) ? qtTrId("valueHigh").arg(said) : said;
+    const QString day = reading.bYellowBackground ? qtTrId("dayOfDownload").arg(said) : said;
+    const QString remark = describeRemark(reading);
+    return remark.isEmpty() ? day : qtTrId("cellWithRemark").arg(day, remark);
 }
 
 QVariant ReadingTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -36,10 +36,13 @@ public:
     [[nodiscard]] bool beginsComment(int number) const;
     /// The cell is a pressure at or above the limit that values are marked from.
     [[nodiscard]] bool isHigh(const QModelIndex& index) const;
+    /// The comment of a reading on one line, without what else stands in its column.
+    [[nodiscard]] static QString commentText(const ReadingModel& reading);
     /// What the cell says, in words: for the clipboard and for who cannot see its circles.
     [[nodiscard]] QString words(const QModelIndex& index) const;
 
 private:
+    [[nodiscard]] static QString toolTip(const ReadingModel& reading, Column column);
     [[nodiscard]] QString text(const ReadingModel& reading, Column column) const;
     [[nodiscard]] QString spoken(const QModelIndex& index) const;
 

@@ -2,6 +2,7 @@
 
 #include "app/frame/CommentViewController.h"
 #include "app/frame/PeriodBar.h"
+#include "app/frame/ReadingActions.h"
 #include "app/frame/ReadingFrame.h"
 #include "app/table/KeptSelection.h"
 #include "app/table/LimitBar.h"
@@ -19,6 +20,7 @@
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTableView>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -47,7 +49,9 @@ TableViewController::TableViewController(const Parts& needed)
       noneInPeriod(new EmptyState(u"noneInPeriod"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       list(new ListPage(this)), listOrAdvice(new QStackedWidget(this)),
       frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *listOrAdvice, this)),
-      btnShowMam(new QCheckBox(qtTrId("showMam"), this)), btnShowPad(new QCheckBox(this)) {
+      btnShowMam(new QCheckBox(qtTrId("showMam"), this)), btnShowPad(new QCheckBox(this)),
+      readingActions(new ReadingActions(
+          {needed.store, needed.panel, needed.clock}, [this] { return chosenReadings(); }, *listOrAdvice)) {
     setObjectName(u"TableViewController"_s);
     setAccessibleName(qtTrId("pageReadings"));
     build();
@@ -131,6 +135,13 @@ void TableViewController::addBoxes() {
     btnShowMam->setAccessibleName(btnShowMam->text());
     add(btnShowMam, u"btnShowMam"_s, ReadingTableModel::mam);
     add(btnShowPad, u"btnShowPad"_s, ReadingTableModel::mark);
+    auto* button = new QToolButton(this);
+    button->setObjectName(u"btnNewReading"_s);
+    button->setDefaultAction(readingActions->newReading());
+    button->setAccessibleName(button->text());
+    button->setToolTip(qtTrId("newReadingHint"));
+    button->setFocusPolicy(Qt::StrongFocus);
+    frame->periodBar().addOption(*button);
 }
 
 void TableViewController::addActions() {
@@ -144,8 +155,14 @@ void TableViewController::addActions() {
     all->setShortcut(QKeySequence::SelectAll);
     all->setShortcutContext(Qt::WidgetShortcut);
     connect(all, &QAction::triggered, tblReadings, &QTableView::selectAll);
-    tblReadings->addActions({copy, all});
-    tblReadings->setContextMenuPolicy(Qt::ActionsContextMenu);
+    tblReadings->addActions(QList{copy, all} + readingActions->actions());
+    for (QWidget* advice : {noReadings, noneInPeriod})
+        advice->addAction(readingActions->newReading());
+    for (QWidget* each : {static_cast<QWidget*>(tblReadings), static_cast<QWidget*>(noReadings),
+                          static_cast<QWidget*>(noneInPeriod)})
+        each->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(tblReadings->selectionModel(), &QItemSelectionModel::selectionChanged, readingActions,
+            &ReadingActions::update);
 }
 
 /// What is selected stays so where it can, of the same patient. Who looks at the latest readings goes on to
@@ -168,6 +185,7 @@ void TableViewController::reload() {
     if (isSamePatient) kept.restore(*tblReadings, *readingModelArray);
     tblReadings->scrollToBottom(); // lays the rows out, too
     if (!wasAtEnd) scrolled.setValue(value);
+    readingActions->update();
     setPadTitle();
 }
 
@@ -226,6 +244,16 @@ void TableViewController::chooseComment(const QModelIndex& index) {
     if (!index.isValid() || !frame->isDisplayingComment()) return;
     if (const CommentModel* comment = readingModelArray->row(index.row()).comment)
         frame->comments().setCommentScroll(QString(comment->CommentID)); // the list is read anew meanwhile
+}
+
+/// Of the rows that are selected, in their order; days without a reading are none.
+std::vector<const ReadingModel*> TableViewController::chosenReadings() const {
+    std::vector<const ReadingModel*> chosen;
+    if (!tblReadings->selectionModel()) return chosen;
+    for (const QItemSelectionRange& range : tblReadings->selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            if (!readingModelArray->row(row).isNA) chosen.push_back(&readingModelArray->row(row));
+    return chosen;
 }
 
 void TableViewController::copyRows() {

@@ -13,6 +13,7 @@ class QTableView;
 namespace zel {
 
 class EmptyState;
+class ReadingActions;
 class ReadingFrame;
 class ReadingTableModel;
 
@@ -57,6 +58,7 @@ private:
     void reload();
     void chooseComment(const QModelIndex& index);
     void copyRows();
+    [[nodiscard]] std::vector<const ReadingModel*> chosenReadings() const;
 
     Parts parts;
     ReadingTableModel* readingModelArray;
@@ -69,6 +71,7 @@ private:
     QCheckBox* btnShowMam;
     QCheckBox* btnShowPad;
     QString listedPatient; ///< whose readings are in the list
+    ReadingActions* readingActions;
 };
 
 } // namespace zel

@@ -2,6 +2,8 @@
 
 #include "app/graph/BPInfoView.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -125,6 +127,31 @@ TEST_F(ChartPageTest, aReadingsMarkShowsItsValuesInPlainWords) {
     const QString words = spokenInfo(readingInfo(fibrillation, store));
     EXPECT_TRUE(words.contains(qtTrId("map") + u": 93 mmHg"_s)) << qPrintable(words);
     EXPECT_TRUE(words.contains(qtTrId("afib") + u": No"_s)) << qPrintable(words);
+}
+
+TEST_F(ChartPageTest, theReadingUnderTheMenuIsTheOneThatIsMeant) {
+    openChart(u"20260301"_s, u"20260310"_s);
+    blood().grab();
+    const auto action = [this](const char* name) {
+        return window().findChild<QAction*>(QLatin1String(name));
+    };
+    QAction& takeIn = *action("takeInReadings");
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().at(2)}, u"cuff"_s));
+    QTest::mouseMove(&blood(), blood().place(store.getReadingForCurID().at(1)));
+    EXPECT_FALSE(takeIn.isEnabled()) << "it counts";
+    const QPoint mark = blood().place(store.getReadingForCurID().at(2));
+    QTest::mouseMove(&blood(), mark);
+    EXPECT_TRUE(blood().accessibleDescription().contains(u"Remark: left out: cuff"_s));
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, mark, blood().mapToGlobal(mark));
+    QApplication::sendEvent(&blood(), &asked);
+    QEvent left(QEvent::Leave);
+    QApplication::sendEvent(&blood(), &left); // for the menu
+    ASSERT_TRUE(takeIn.isEnabled());
+    takeIn.trigger();
+    EXPECT_FALSE(store.getReadingForCurID().at(2).isExcluded());
+    find<QWidget>("chartMenu").close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(action("leaveOutReadings")->isEnabled()) << "none is pointed at";
 }
 
 TEST(PlaceBesideTest, thePanelNeitherCoversTheMarkNorLeavesTheWindow) {

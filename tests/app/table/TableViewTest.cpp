@@ -4,6 +4,7 @@
 #include "store/PressureLimits.h"
 #include "support/ReadingPageTest.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -38,6 +39,7 @@ protected:
         const QPoint middle = table().visualRect(table().model()->index(row, 2)).center();
         QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, middle);
     }
+    QAction& action(const char* name) { return *window().findChild<QAction*>(QLatin1String(name)); }
     QColor pixel(int row, int column, QPoint offset) {
         const QImage image = table().viewport()->grab().toImage();
         return image.pixelColor(table().visualRect(table().model()->index(row, column)).topLeft() + offset);
@@ -340,6 +342,37 @@ TEST_F(TableViewTest, savingACommentLeavesTheListWhereItIs) {
         EXPECT_EQ(scrolled.value(), std::min(place, scrolled.maximum()));
         EXPECT_EQ(table().currentIndex().row(), 3);
     }
+}
+
+TEST_F(TableViewTest, whatIsLeftOutOrTypedInIsMarkedAndSaid) {
+    storeReadings(u"P1"_s, {reading(u"202603010800"_s, 121), reading(u"202603050800"_s, 131)});
+    ASSERT_TRUE(store.addReading(u"P1"_s, {at(u"202603060800"_s), 120, 80, 60}));
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().front()}, u"cuff\t<b>"_s));
+    addComment(u"1"_s, u"20260301"_s, u"20260301"_s, u"mine"_s);
+    openTable();
+    EXPECT_EQ(cell(0, ReadingTableModel::comment), u"left out: cuff <b> · mine"_s);
+    EXPECT_EQ(cell(0, ReadingTableModel::sys, Qt::ToolTipRole), u"left out: cuff <b>"_s);
+    EXPECT_EQ(cell(0, ReadingTableModel::date, Qt::AccessibleTextRole), u"01/03/2026, left out: cuff <b>"_s);
+    EXPECT_EQ(cell(1, ReadingTableModel::sys, Qt::ToolTipRole), QString());
+    EXPECT_EQ(cell(2, ReadingTableModel::comment), u"typed in"_s);
+    EXPECT_TRUE(text("lblDetail").contains(u"3 readings, 1 of them left out"_s))
+        << qPrintable(text("lblDetail"));
+    const int middle = table().visualRect(table().model()->index(0, 0)).height() / 2;
+    for (int column = 0; column < ReadingTableModel::comment; ++column) {
+        const auto struck = [&](int row) {
+            return pixel(row, column, {2, middle}) == QColor(Qt::black)
+                   || pixel(row, column, {2, middle - 1}) == QColor(Qt::black);
+        };
+        EXPECT_TRUE(struck(0)) << column;
+        EXPECT_FALSE(struck(1)) << column;
+    }
+    clickRow(2);
+    EXPECT_TRUE(table().actions().contains(window().findChild<QAction*>(u"changeReading"_s)));
+    EXPECT_TRUE(action("changeReading").isEnabled());
+    table().selectAll();
+    EXPECT_FALSE(action("changeReading").isEnabled());
+    press(Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(store.getReadingForCurID().front().isExcluded());
 }
 
 } // namespace zel

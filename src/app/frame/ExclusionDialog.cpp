@@ -1,0 +1,58 @@
+#include "app/frame/ExclusionDialog.h"
+
+#include "app/frame/DialogParts.h"
+#include "store/ManualReading.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+ExclusionDialog::ExclusionDialog(const QString& subject, std::function<bool(const QString& reason)> store,
+                                 QWidget* parent)
+    : QDialog(parent), leaveOut(std::move(store)), reason(new QLineEdit(this)),
+      problem(problemLabel(u"exclusionProblem"_s, this)) {
+    setObjectName(u"ExclusionDialog"_s);
+    setWindowTitle(qtTrId("leaveOutTitle"));
+    auto* explained = new QLabel(qtTrId("leaveOutExplained").arg(subject), this);
+    explained->setObjectName(u"lblExclusion"_s);
+    explained->setTextFormat(Qt::PlainText);
+    explained->setWordWrap(true);
+    auto* title = new QLabel(qtTrId("leaveOutReason"), this);
+    title->setBuddy(reason);
+    reason->setObjectName(u"exclusionReason"_s);
+    reason->setAccessibleName(title->text().remove(u'&').remove(u':'));
+    reason->setPlaceholderText(qtTrId("leaveOutExample"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 14, 16, 14);
+    column->setSpacing(10);
+    column->addWidget(explained);
+    column->addWidget(title);
+    column->addWidget(reason);
+    column->addWidget(problem);
+    column->addStretch(1);
+    column->addWidget(dialogButtons(*this, u"btnLeaveOut"_s, qtTrId("leaveOutButton")));
+    reason->setFocus();
+    setMinimumWidth(fontMetrics().averageCharWidth() * 64);
+}
+
+void ExclusionDialog::setReason(const QString& known) {
+    reason->setText(known);
+    reason->selectAll();
+}
+
+void ExclusionDialog::accept() {
+    const QString kept = exclusionReason(reason->text());
+    if (!kept.isEmpty()) {
+        showProblem(*problem, {});
+        if (leaveOut(kept)) QDialog::accept();
+        return;
+    }
+    showProblem(*problem, qtTrId("leaveOutNoReason"));
+    reason->setFocus();
+}
+
+} // namespace zel

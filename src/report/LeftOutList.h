@@ -1,0 +1,26 @@
+#pragma once
+
+#include "chart/Picture.h"
+#include "report/ReportSource.h"
+#include "report/TextPages.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace zel {
+
+/// How the readings of a report's rows that are left out lie on pages behind the table, each with its whole
+/// reason.
+struct LeftOutPages {
+    std::vector<const ReadingModel*> readings;
+    std::vector<QStringList> reasons; ///< of each of them
+    TextPages pages;                  ///< none where none is left out
+};
+/// On pages with that body.
+[[nodiscard]] LeftOutPages layOutLeftOut(const ReportSource& report, const Rect& rect);
+/// One of these pages, counted from 1.
+void drawLeftOut(Picture& picture, const ReportSource& report, const LeftOutPages& list, const Rect& rect,
+                 int page);
+
+} // namespace zel

@@ -1,0 +1,222 @@
+#include "app/frame/ReadingActions.h"
+
+#include "support/ReadingPageTest.h"
+
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimeEdit>
+#include <QTimer>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// P1's readings of three days, chosen by their places. It is 09:00 on 21 November 2026.
+class ReadingActionsTest : public ReadingPageTest {
+protected:
+    ReadingActionsTest() {
+        storeReadings(u"P1"_s, {reading(u"202603010800"_s, 121), reading(u"202603030800"_s, 122),
+                                reading(u"202603100800"_s, 123)});
+        view = new QWidget;
+        view->setFocusPolicy(Qt::StrongFocus);
+        actions = new ReadingActions(
+            {store, panel, clock}, [this] { return readings(); }, *view);
+        show(view);
+    }
+    [[nodiscard]] std::vector<const ReadingModel*> readings() const {
+        std::vector<const ReadingModel*> found;
+        for (const std::size_t place : chosen)
+            if (place < store.getReadingForCurID().size())
+                found.push_back(&store.getReadingForCurID()[place]);
+        return found;
+    }
+    void choose(std::vector<std::size_t> places) {
+        chosen = std::move(places);
+        actions->update();
+    }
+    /// Presses the action's key, and acts in its dialog, which is closed at last.
+    void inDialog(const char* name, const std::function<void(QDialog&)>& act) {
+        bool isShown = false;
+        comeBack();
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr) << name;
+            isShown = true;
+            act(*dialog);
+            dialog->reject();
+        });
+        pressKeyOf(name);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(isShown) << name;
+    }
+    /// A dialog may have taken the focus with it.
+    void comeBack() {
+        window().activateWindow();
+        view->setFocus();
+        waitFor([this] { return view->hasFocus(); });
+    }
+    void pressKeyOf(const char* name) {
+        const QKeyCombination key = actionOf(name).shortcut()[0];
+        press(key.key(), key.keyboardModifiers());
+    }
+    [[nodiscard]] QAction& actionOf(const char* name) const {
+        for (QAction* action : actions->actions())
+            if (action->objectName() == QLatin1String(name)) return *action;
+        qFatal("no action %s", name);
+    }
+    static void write(const QDialog& dialog, const char* field, const QString& text) {
+        auto& line = *dialog.findChild<QLineEdit*>(QLatin1String(field));
+        line.selectAll();
+        QTest::keyClicks(&line, text);
+    }
+    static QString said(const QDialog& dialog, const char* label) {
+        const auto& line = *dialog.findChild<QLabel*>(QLatin1String(label));
+        return line.isVisible() ? line.text() : QString();
+    }
+    /// Systolic values, ! for what is left out, m for what was typed in.
+    [[nodiscard]] QString shown() const {
+        QStringList all;
+        for (const ReadingModel& reading : store.getReadingForCurID())
+            all += QString::number(reading.sys) + (reading.isExcluded() ? u"!"_s : u""_s)
+                   + (reading.isManual ? u"m"_s : u""_s);
+        return all.join(u' ');
+    }
+
+    QWidget* view;
+    std::vector<std::size_t> chosen;
+    ReadingActions* actions;
+};
+
+} // namespace
+
+TEST_F(ReadingActionsTest, leavingOutNeedsAReasonAndEscChangesNothing) {
+    choose({0, 2});
+    inDialog("leaveOutReadings", [](QDialog& dialog) {
+        expectNamed(dialog);
+        EXPECT_TRUE(said(dialog, "lblExclusion").startsWith(u"2 readings:"_s));
+        write(dialog, "exclusionReason", u"typed"_s);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(shown(), u"121 122 123"_s);
+    inDialog("leaveOutReadings", [](QDialog& dialog) {
+        write(dialog, "exclusionReason", u"  "_s);
+        QTest::keyClick(dialog.findChild<QWidget*>(u"exclusionReason"_s), Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(said(dialog, "exclusionProblem"), qtTrId("leaveOutNoReason"));
+        write(dialog, "exclusionReason", u"cuff & <b>"_s);
+        QTest::keyClick(dialog.findChild<QWidget*>(u"exclusionReason"_s), Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(shown(), u"121! 122 123!"_s);
+    EXPECT_EQ(store.changes().undoable()->name.count, 2U) << "one step";
+    choose({0, 1});
+    comeBack();
+    pressKeyOf("takeInReadings");
+    EXPECT_EQ(shown(), u"121 122 123!"_s);
+    choose({2});
+    inDialog("leaveOutReadings", [](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"exclusionReason"_s)->text(), u"cuff & <b>"_s);
+    });
+}
+
+TEST_F(ReadingActionsTest, whatIsTypedStaysWhenItCannotBeStored) {
+    choose({1});
+    inDialog("leaveOutReadings", [this](QDialog& dialog) {
+        EXPECT_TRUE(said(dialog, "lblExclusion").startsWith(u"03/03/2026 08:00 A, 122/80, pulse 65:"_s));
+        replaceDataFile(dataFile().replace("<Sys>122<", "<Sys>125<"));
+        write(dialog, "exclusionReason", u"typed"_s);
+        QTest::keyClick(dialog.findChild<QWidget*>(u"exclusionReason"_s), Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"exclusionReason"_s)->text(), u"typed"_s);
+    });
+    EXPECT_EQ(panel.messages.size(), 1);
+    EXPECT_EQ(shown(), u"121 125 123"_s);
+}
+
+TEST_F(ReadingActionsTest, readingIsTypedInChangedAndDeleted) {
+    choose({});
+    inDialog("newReading", [this](QDialog& dialog) {
+        expectNamed(dialog);
+        EXPECT_EQ(dialog.findChild<QDateEdit*>(u"readingDay"_s)->text(), u"21/11/2026"_s);
+        EXPECT_EQ(dialog.findChild<QTimeEdit*>(u"readingTime"_s)->time(), QTime(9, 0));
+        const auto save = [&] {
+            QTest::keyClick(dialog.findChild<QWidget*>(u"readingSys"_s), Qt::Key_Return);
+        };
+        const auto refused = [&] {
+            return dialog.isVisible() ? said(dialog, "readingProblem") : u"stored"_s;
+        };
+        save();
+        EXPECT_EQ(refused(), describe(ManualProblem::sys));
+        write(dialog, "readingSys", u"12O"_s);
+        save();
+        EXPECT_EQ(refused(), describe(ManualProblem::sys));
+        write(dialog, "readingSys", u"128"_s);
+        write(dialog, "readingDia", u"128"_s);
+        write(dialog, "readingPulse", u"60"_s);
+        save();
+        EXPECT_EQ(refused(), describe(ManualProblem::diaNotBelowSys));
+        EXPECT_EQ(dialog.focusWidget(), dialog.findChild<QWidget*>(u"readingDia"_s));
+        write(dialog, "readingDia", u"82"_s);
+        dialog.findChild<QTimeEdit*>(u"readingTime"_s)->setTime({9, 1});
+        save();
+        EXPECT_EQ(refused(), describe(ManualProblem::inFuture));
+        dialog.findChild<QTimeEdit*>(u"readingTime"_s)->setTime({8, 59});
+        save();
+        EXPECT_EQ(refused(), u"stored"_s);
+    });
+    EXPECT_EQ(shown(), u"121 122 123 128m"_s);
+    EXPECT_EQ(store.getReadingForCurID().back().minuteOfDay, 8 * 60 + 59);
+    choose({3});
+    inDialog("changeReading", [](QDialog& dialog) {
+        write(dialog, "readingSys", u"130"_s);
+        QTest::mouseClick(dialog.findChild<QWidget*>(u"btnSaveReading"_s), Qt::LeftButton);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(shown(), u"121 122 123 130m"_s);
+    inDialog("newReading", [](QDialog& dialog) {
+        dialog.findChild<QTimeEdit*>(u"readingTime"_s)->setTime({8, 59});
+        write(dialog, "readingSys", u"130"_s);
+        write(dialog, "readingDia", u"82"_s);
+        write(dialog, "readingPulse", u"60"_s);
+        QTest::mouseClick(dialog.findChild<QWidget*>(u"btnSaveReading"_s), Qt::LeftButton);
+        EXPECT_EQ(said(dialog, "readingProblem"), qtTrId("StoreReadingKnown"));
+    });
+    panel.answers[qtTrId("deleteReadingsTitle")] = false;
+    comeBack();
+    pressKeyOf("deleteReadings");
+    EXPECT_EQ(shown(), u"121 122 123 130m"_s);
+    EXPECT_TRUE(panel.asked.contains(u"130/82"_s));
+    panel.answers.clear();
+    comeBack();
+    pressKeyOf("deleteReadings");
+    EXPECT_EQ(shown(), u"121 122 123"_s);
+    EXPECT_EQ(panel.messages, QStringList());
+}
+
+TEST_F(ReadingActionsTest, onlyWhatMakesSenseCanBeChosen) {
+    ASSERT_TRUE(store.addReading(u"P1"_s, {std::chrono::floor<Instant::duration>(clock.now()), 120, 80, 60}));
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().front()}, u"x"_s));
+    const std::pair<std::vector<std::size_t>, QString> cases[] = {
+        {{}, u"newReading"_s},
+        {{1}, u"leaveOutReadings newReading"_s},
+        {{0, 1}, u"leaveOutReadings takeInReadings newReading"_s},
+        {{3}, u"leaveOutReadings newReading changeReading deleteReadings"_s},
+        {{1, 3}, u"leaveOutReadings newReading"_s},
+    };
+    for (const auto& [places, wanted] : cases) {
+        choose(places);
+        QStringList enabled;
+        for (const QAction* action : actions->actions())
+            if (action->isEnabled()) enabled += action->objectName();
+        EXPECT_EQ(enabled.join(u' '), wanted);
+    }
+    chosen.clear();
+    store.setCurrentID({});
+    EXPECT_FALSE(actions->newReading()->isEnabled());
+}
+
+} // namespace zel
