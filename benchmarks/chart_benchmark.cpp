@@ -1,7 +1,10 @@
 // How fast both charts of the graph page are laid out and painted at 1,400 x 500, beside a plotting library
-// that draws the same readings as lines and square marks, in one run. And what a hover or drag step costs.
+// that draws the same readings as lines and square marks, in one run. The trend of the same readings, with
+// its medians and percentiles calculated anew, beside the same library. And what a hover or drag step costs.
 
+#include "analysis/Trend.h"
 #include "chart/DrawChart.h"
+#include "chart/DrawTrend.h"
 #include "chart/PicturePainter.h"
 
 #include <QApplication>
@@ -33,6 +36,7 @@ struct MadeReadings {
         const auto between = [&random](std::uint32_t low, std::uint32_t high) {
             return std::uniform_int_distribution<std::uint32_t>(low, high)(random);
         };
+        const LocalZone zone;
         period = {DateToDayBoundary(firstDay, true),
                   DateToDayBoundary(firstDay + std::chrono::days{365 * years}, false)};
         const auto step = (period.end - period.begin) / count;
@@ -42,6 +46,7 @@ struct MadeReadings {
             reading.sys = between(105, 175);
             reading.dia = between(60, 100);
             reading.pulse = between(55, 105);
+            reading.postInit(nullptr, {}, zone); // the day
             reading.isPMData = number % 2 == 1;
             readings.push_back(std::move(reading));
         }
@@ -103,16 +108,30 @@ double milliseconds(Paint paint) {
     return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-void bothCharts(benchmark::State& state) {
-    const MadeReadings made(state.range(0), state.range(1));
-    const LocalZone zone;
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+void paintTrend(QImage& image, const MadeReadings& made, bool apart, const LocalZone& zone) {
+    const ReadingSelection all{.period = made.period};
+    const TrendSeriesList trend = calcTrendSeries(made.readings, all, apart);
+    const CommentList none;
+    const TrendLayout layout = drawTrend({.trend = trend,
+                                          .comments = none,
+                                          .selection = all,
+                                          .sysStandard = 140,
+                                          .diaStandard = 90,
+                                          .totalRect = {0, 0, width, height}},
+                                         zone);
+    QPainter painter(&image);
+    paintPicture(painter, layout.picture, height);
+}
+
+/// What \p paintOwn takes beside the library's two plots of the same readings.
+template <class Paint>
+void compareWithPlots(benchmark::State& state, const MadeReadings& made, Paint paintOwn) {
     ComparedPlot blood(made, bloodHeight, {&ReadingModel::sys, &ReadingModel::dia});
     ComparedPlot pulse(made, pulseHeight, {&ReadingModel::pulse});
     std::vector<double> own;
     std::vector<double> compared;
     for ([[maybe_unused]] auto _ : state) {
-        own.push_back(milliseconds([&] { paintCharts(image, made, zone); }));
+        own.push_back(milliseconds(paintOwn));
         compared.push_back(milliseconds([&] {
             blood.paint();
             pulse.paint();
@@ -125,6 +144,20 @@ void bothCharts(benchmark::State& state) {
     state.counters["compared_ms"] = comparedTime;
     state.counters["ratio"] = ownTime / comparedTime;   // to stay below 1
     state.counters["of_a_frame"] = ownTime * 60 / 1000; // to stay below 1
+}
+
+void bothCharts(benchmark::State& state) {
+    const MadeReadings made(state.range(0), state.range(1));
+    const LocalZone zone;
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    compareWithPlots(state, made, [&] { paintCharts(image, made, zone); });
+}
+
+void trend(benchmark::State& state) {
+    const MadeReadings made(state.range(0), state.range(1));
+    const LocalZone zone;
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    compareWithPlots(state, made, [&] { paintTrend(image, made, state.range(2) == 1, zone); });
 }
 
 /// The picture is kept as an image; a step paints the part of it that changed, and a mark or box on it.
@@ -153,6 +186,12 @@ void hoverStep(benchmark::State& state) {
 BENCHMARK(bothCharts)
     ->ArgsProduct({{365, 2000, 10000, 100000}, {1, 10}})
     ->ArgNames({"readings", "years"})
+    ->Iterations(100)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(trend)
+    ->ArgsProduct({{2000, 100000}, {1, 10}, {0, 1}})
+    ->ArgNames({"readings", "years", "apart"})
     ->Iterations(100)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);

@@ -1,6 +1,7 @@
 #include "analysis/Trend.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <span>
 
@@ -55,8 +56,23 @@ double quantile(const std::vector<std::uint32_t>& values, double share) {
     return low + (values[above] - low) * (place - static_cast<double>(below));
 }
 
+/// By counting, where there are many of a person's pressures: in a fraction of the time.
+void sortValues(std::vector<std::uint32_t>& values) {
+    constexpr std::size_t many = 64;
+    std::array<std::uint32_t, 512> counts{};
+    if (values.size() < many || std::ranges::max(values) >= counts.size()) {
+        std::ranges::sort(values);
+        return;
+    }
+    for (const std::uint32_t value : values)
+        ++counts[value];
+    auto at = values.begin();
+    for (std::uint32_t value = 0; value < counts.size(); ++value)
+        at = std::fill_n(at, counts[value], value);
+}
+
 TrendBand bandOf(std::vector<std::uint32_t>& values) {
-    std::ranges::sort(values);
+    sortValues(values);
     const bool isFew = values.size() < fewestForPercentiles;
     return {quantile(values, isFew ? 0 : 0.1), quantile(values, 0.5), quantile(values, isFew ? 1 : 0.9)};
 }

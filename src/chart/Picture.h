@@ -57,7 +57,8 @@ struct Curve {
     std::vector<Point> points;
     double width = 1;
     QColor color;
-    std::vector<double> dashes; ///< length of a dash, of the gap behind it, and so on; empty: none
+    std::vector<double>
+        dashes; ///< lengths of a dash, of the gap behind it, and so on, 0.5 or more; empty: none
 };
 
 /// A filled polygon.

@@ -124,7 +124,10 @@ const TrendBand& bandOf(const TrendPoint& point, TrendMeasure measure) {
 }
 
 double trendY(const ChartScale& scale, TrendMeasure measure, double value) {
-    return measure == TrendMeasure::pulse ? scale.mapPulseValToY(value) : scale.mapValToY(value);
+    const Rect& plot = scale.chartRect;
+    const double far = 10 * plot.height; // whatever a damaged file holds: that can still be painted
+    const double y = measure == TrendMeasure::pulse ? scale.mapPulseValToY(value) : scale.mapValToY(value);
+    return std::clamp(y, plot.y - far, plot.top() + far);
 }
 
 double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone) {

@@ -48,6 +48,17 @@ TEST(Trend, BandIsFromThe10thToThe90thPercentile) {
               "03-02/03-02 (11) 110 150 190");
 }
 
+TEST(Trend, ManyReadingsOfAStepHaveTheSameBandInAnyOrder) {
+    for (const std::uint32_t highest : {199U, 511U, 512U, 4'294'967'295U}) {
+        ReadingList readings;
+        for (std::uint32_t value = 0; value < 100; ++value)
+            readings.push_back(readingAt("2026-03-02", 100 + value * 37 % 100));
+        readings.push_back(readingAt("2026-03-02", highest));
+        EXPECT_EQ(words(calcTrend(readings, during("2026-03-01", "2026-03-07"))),
+                  "03-02/03-02 (101) 110 150 190");
+    }
+}
+
 TEST(Trend, StepsAreDaysOrWeeksFromMondayOrMonths) {
     const ReadingList readings = readingsAt({"2026-03-02 08:00", "2026-02-28 20:00", "2026-03-01 23:59:59",
                                              "2025-12-31 12:00", "2000-01-01", "2026-03-08", "2024-02-29"});

@@ -1,7 +1,12 @@
 #include "chart/DrawTrend.h"
 
 #include "analysis/Sample.h"
+#include "chart/CurvePieces.h"
 #include "chart/Drawing.h"
+#include "chart/PicturePainter.h"
+
+#include <QImage>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -206,6 +211,40 @@ TEST(DrawTrend, LinesAreToldApartInBlackAndWhite) {
     trend.selection.view = ViewSelection::pmOnly;
     EXPECT_EQ(trend.texts().filter(u" evening"_s).size(), 3);
     EXPECT_EQ(trend.texts().filter(u" morning"_s).size(), 0);
+}
+
+TEST(DrawTrend, DashesGoOnAroundCornersAndEnd) {
+    const auto pieces = [](std::vector<Point> points, std::vector<double> dashes) {
+        QStringList all;
+        for (const auto& [from, to] : curvePieces({std::move(points), 1, Qt::black, std::move(dashes)}))
+            all += u"%1,%2-%3,%4"_s.arg(from.x).arg(from.y).arg(to.x).arg(to.y);
+        return all.join(u' ').toStdString();
+    };
+    const std::vector<Point> corner{{0, 0}, {10, 0}, {10, 10}};
+    EXPECT_EQ(pieces(corner, {}), "0,0-10,0 10,0-10,10");
+    EXPECT_EQ(pieces(corner, {8, 4}), "0,0-8,0 10,2-10,10");
+    EXPECT_EQ(pieces(corner, {12, 4}), "0,0-10,0 10,0-10,2 10,6-10,10");
+    EXPECT_EQ(pieces(corner, {0, 0}), "0,0-10,0 10,0-10,10") << "a pattern without length is none";
+    EXPECT_EQ(pieces({{0, 0}}, {8, 4}), "");
+    EXPECT_EQ(pieces({{0, 0}, {0, 0}}, {8, 4}), "");
+    const Curve steep{
+        {{0, 0}, {100.0 / 3, 100.0 / 7}, {200.0 / 3, 100.0 / 11}}, 1, Qt::black, {0.7, 0.7, 1.1, 0.7}};
+    EXPECT_NEAR(static_cast<double>(curvePieces(steep).size()), 2 * 70.4 / 3.2, 3)
+        << "rounding keeps no dash up";
+}
+
+TEST(DrawTrend, PaintsValuesThatNobodyHas) {
+    TrendOf trend;
+    trend.readings[1].sys = 4'294'967'295;
+    QImage image(720, 440, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+        QPainter painter(&image);
+        paintPicture(painter, trend.layout().picture, 440);
+    }
+    for (const Curve& line : trend.medianLines())
+        for (const Point& point : line.points)
+            EXPECT_LT(std::abs(point.y), 10000);
 }
 
 TEST(DrawTrend, LimitsAreThoseOfTheOtherPictures) {
