@@ -29,6 +29,11 @@ std::optional<Period> datedPeriod(const ReadingList& readings) {
     return span;
 }
 
+HalfOfDay halfOf(ViewSelection view) {
+    if (view == ViewSelection::amOnly) return HalfOfDay::morning;
+    return view == ViewSelection::pmOnly ? HalfOfDay::evening : HalfOfDay::both;
+}
+
 /// None for a day that no date text can name.
 Date firstInstant(DayNumber day) { return StrToDate(dayText(day), QStringLiteral("yyyy/MM/dd")); }
 
@@ -95,9 +100,7 @@ ViewSelection DisplayPeriod::getSelectViewIndex() const {
 
 void DisplayPeriod::setSelectViewIndex(ViewSelection chosen) {
     change([&] {
-        half = chosen == ViewSelection::amOnly   ? HalfOfDay::morning
-               : chosen == ViewSelection::pmOnly ? HalfOfDay::evening
-                                                 : HalfOfDay::both;
+        half = halfOf(chosen);
         if (chosen == ViewSelection::custom) leaveChoice();
         if (chosen != ViewSelection::viewAll) return;
         choice = PeriodChoice::all;
@@ -153,10 +156,9 @@ void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
     take(readings);
     if (state() == before) return;
     const bool wasNone = display == wholeDays({firstDayOfThisYear, firstDayOfThisYear});
-    if (choice != PeriodChoice::picked)
-        display = daysOf(choice);
-    else if (wasNone)
+    if (choice == PeriodChoice::picked && wasNone)
         display = wholeDays({getDefaultBeginDisplayDate(data.begin, data.end), data.end});
+    if (choice != PeriodChoice::picked) display = daysOf(choice);
     emit changed(); // who shows how far the data go has to know, too
 }
 

@@ -98,8 +98,8 @@ int FlowLayout::place(const Line& line, const QRect& room) const {
     int left = room.left();
     for (QLayoutItem* item : line.items) {
         const QSize size = sizeIn(*item, room.width());
-        const QRect place(QPoint(left, room.top() + (line.height - size.height()) / 2), size);
-        item->setGeometry(QStyle::visualRect(direction, room, place));
+        const QRect own(QPoint(left, room.top() + (line.height - size.height()) / 2), size);
+        item->setGeometry(QStyle::visualRect(direction, room, own));
         left += size.width() + beside;
     }
     return line.height;
