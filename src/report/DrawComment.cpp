@@ -65,9 +65,11 @@ CommentPages layOutComments(const ReportSource& report, const Rect& rect) {
             wrapped(qtTrId("reportCommentsLeftOut").arg(mostPrintedComments).arg(mostCommentCharacters),
                     width, smallFont));
     const DayMeans means(report.readings);
-    for (const auto& comment : std::span(report.comments).subspan(layout.leftOut))
+    for (const auto& comment : std::span(report.comments).subspan(layout.leftOut)) {
         layout.lines.push_back(wrapped(printable(comment->comment), width, smallFont)
                                + wrapped(measured(report, means, *comment), width, smallFont));
+        layout.isAnyUndated |= isUndatedDay(comment->beginDay) || isUndatedDay(comment->endDay);
+    }
     std::vector<TextItem> items;
     items.reserve(layout.lines.size());
     for (const QStringList& lines : layout.lines)

@@ -14,6 +14,7 @@ struct CommentPages {
     std::size_t leftOut = 0;
     std::vector<QStringList> lines; ///< of each item: of that first one, and of each comment behind it
     TextPages pages;                ///< none for no comments
+    bool isAnyUndated = false;      ///< a comment printed lacks its begin or its end
 };
 /// No patient has as many comments, nor as long ones; laying out more of them would take minutes.
 inline constexpr std::size_t mostPrintedComments = 20'000;

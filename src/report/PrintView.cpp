@@ -102,7 +102,7 @@ void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section secti
         return drawTrendLegend(picture, source, legendPlace(at), legendWidth(at));
     case Section::comment:
         DrawComment(source, comments()).drawRect(picture, at.drawingRect, number);
-        return drawCommentLegend(picture, source, legendPlace(at), legendWidth(at));
+        return drawCommentLegend(picture, comments(), legendPlace(at), legendWidth(at));
     case Section::SWStatistics: return drawSummaryStat(picture, at, number);
     case Section::table:
         return drawTableLegend(picture, source,

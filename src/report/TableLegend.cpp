@@ -123,11 +123,8 @@ void drawTableLegend(Picture& picture, const ReportSource& report, bool isCommen
     std::ranges::move(written(size).standingOn(at), std::back_inserter(picture));
 }
 
-void drawCommentLegend(Picture& picture, const ReportSource& report, Point at, double width) {
-    const bool isAnyUndated = std::ranges::any_of(report.comments, [](const auto& comment) {
-        return isUndatedDay(comment->beginDay) || isUndatedDay(comment->endDay);
-    });
-    if (isAnyUndated) fieldText(picture, qtTrId("reportNoDate"), at, width, legendFont);
+void drawCommentLegend(Picture& picture, const CommentPages& comments, Point at, double width) {
+    if (comments.isAnyUndated) fieldText(picture, qtTrId("reportNoDate"), at, width, legendFont);
 }
 
 void drawPatientNote(Picture& picture, const PatientPages& profile, int page, Point at, double width) {

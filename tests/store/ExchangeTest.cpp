@@ -249,6 +249,21 @@ TEST_F(ExchangeTest, FailedExportLeavesNothingBehind) {
               QStringList{u"B2.xml"_s});
 }
 
+TEST_F(ExchangeTest, WhatAKilledExportLeftIsRemovedByTheNext) {
+    const QString dead = out.filePath(u".zel-aB3xYz"_s);
+    for (const bool isCsv : {true, false}) {
+        write(dead, "half of a patient");
+        if (isCsv) {
+            ASSERT_TRUE(store.exportCSV(out.path(), u"A1"_s, Replace::yes));
+        } else {
+            auto all = store.beginExport();
+            ASSERT_TRUE(all->writeXml(u"A1"_s, out.path(), Replace::yes));
+            ASSERT_TRUE(all->finish());
+        }
+        EXPECT_FALSE(QFileInfo::exists(dead)) << isCsv;
+    }
+}
+
 TEST_F(ExchangeTest, CsvHasThePatientAndTheReadings) {
     setData(R"(<ZEL><SystemSetting><DateFormat>mm dd yyyy</DateFormat><MetricFormat>kg / cm</MetricFormat>
         </SystemSetting><Patient><ID>A,1</ID><FamilyName>Adams</FamilyName><GivenNames>Anna</GivenNames>
