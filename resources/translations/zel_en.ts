@@ -356,6 +356,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
     <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Please give feet and inches with a stroke between them, such as 5/9. Inches go up to 11.</translation></message>
+    <message id="highFrom"><translation>Limits from which on values are marked</translation></message>
+    <message id="highFromHint"><translation>Values at or above these limits are bold and marked, here and on paper. Chart, statistics, histogram and correlation keep the limits of the settings.</translation></message>
+    <message id="highFromLabel"><translation>Mark &amp;values from</translation></message>
     <message id="histogramView"><translation>Distribution of the values</translation></message>
     <message id="IDNotForMonitor"><translation>The ID “%1” does not fit the monitor. A monitor keeps IDs of 1 to 11 plain letters, digits and signs, without accents and without blanks at the ends.</translation></message>
     <message id="IDRefused"><translation>An ID has 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
@@ -386,6 +389,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="infoSys"><translation>Systolic</translation></message>
     <message id="keep"><translation>&amp;Keep</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
+    <message id="limitsHome"><translation>%1/%2 (at home)</translation></message>
+    <message id="limitsLow"><translation>%1/%2 (stricter)</translation></message>
+    <message id="limitsNotKept"><translation>The limits hold until the program ends. They could not be kept for the next start: %1</translation></message>
+    <message id="limitsOffice"><translation>%1/%2 (at a practice)</translation></message>
+    <message id="limitsOwn"><translation>own limits</translation></message>
     <message id="mainMenu"><translation>Main menu</translation></message>
     <message id="manualChapters"><translation>Chapters</translation></message>
     <message id="manualTitle"><translation>Manual</translation></message>
@@ -463,6 +471,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="ownDia"><translation>Own diastolic limit in mmHg, 0 for none</translation></message>
+    <message id="ownSys"><translation>Own systolic limit in mmHg, 0 for none</translation></message>
     <message id="pad"><translation>PAD</translation></message>
     <message id="pageChart"><translation>Chart</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
@@ -653,6 +663,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
     <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>
     <message id="unsavedTitle"><translation>Not saved yet</translation></message>
+    <message id="valueHigh"><translation>%1, at or above the limit</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 per minute</translation></message>
     <message id="viewAll"><translation>&amp;All</translation></message>
@@ -1066,6 +1077,7 @@ Options:
     <message id="CliHelpReport"><translation>Usage: zel report --patient ID --section KEY[,KEY...] --output FILE.pdf [OPTION]...
 
 Writes a patient's report as a PDF, replacing FILE.pdf if it is there, and prints 'written: FILE.pdf'.
+Values of the readings at or above the limits chosen in the window (135/85 unless chosen) are marked.
 
 Sections:
   summary                      one page for a physician: averages, trend, last days, comments, what was left out

@@ -109,6 +109,8 @@ CommandResult writeReport(const Order& order, const DataStore& store, Surroundin
     const auto written = writePdf(view, order.sections, order.output);
     if (!written) return failed(describe(written.error()));
     printLine(around.out, u"written: "_s + order.output);
+    if (const StoreResult& limits = store.viewLimitsRead(); !limits)
+        printLine(around.err, describeUnreadLimits(limits.error()));
     tellEmptySections(view, order, around);
     return {};
 }

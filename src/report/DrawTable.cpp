@@ -1,5 +1,6 @@
 #include "report/DrawTable.h"
 
+#include "analysis/HighValues.h"
 #include "report/CommentLook.h"
 #include "report/FieldText.h"
 #include "report/PageGeometry.h"
@@ -58,13 +59,21 @@ void text(Picture& picture, const TableRow& row, double from, double to, const Q
     fieldFigure(picture, words, cell.at, cell.width, row.font);
 }
 
-/// Ends under the end of a three-digit number that begins at the column.
-void number(Picture& picture, const TableRow& row, double from, double to, std::uint32_t value) {
+/// Ends under the end of a three-digit number that begins at the column. One that is high is bold, with a
+/// mark.
+void number(Picture& picture, const TableRow& row, double from, double to, std::uint32_t value,
+            bool isHigh = false) {
     const Field cell = field(row, from, to, textBase);
     const QString words = QString::number(value);
     const bool isShort = words.size() <= 3;
     const Point at{isShort ? cell.at.x + row.threeDigits : cell.at.x, cell.at.y};
-    fieldFigure(picture, words, at, cell.width, row.font, isShort ? XPos::right : XPos::left);
+    TextAttribute font = row.font;
+    font.bold = isHigh;
+    fieldFigure(picture, words, at, cell.width, font, isShort ? XPos::right : XPos::left);
+    if (!isHigh) return;
+    const double end = isShort ? row.threeDigits : textSize(words, font).width;
+    const TextAttribute markFont{.size = std::max(smallestRow, row.font.size - 2)};
+    textOut(picture, highMark, {cell.at.x + end + columnGap, cell.at.y}, markFont);
 }
 
 Point markCentre(const Rect& row, double column) {
@@ -162,8 +171,8 @@ void DrawTable::drawMarks(Picture& picture, const TableRow& row, const ReadingMo
 
 void DrawTable::drawMeasures(Picture& picture, const TableRow& row, const ReadingModel& reading) const {
     text(picture, row, xTime, xMam, reading.strDisplayTime(report.settings), timeIndent);
-    number(picture, row, xSys, xDia, reading.sys);
-    number(picture, row, xDia, xPulse, reading.dia);
+    number(picture, row, xSys, xDia, reading.sys, isSysHigh(reading, report.highFrom));
+    number(picture, row, xDia, xPulse, reading.dia, isDiaHigh(reading, report.highFrom));
     number(picture, row, xPulse, xMap, reading.pulse);
     const bool isPP = report.settings.showPPorMap == 0;
     number(picture, row, xMap, xComment, isPP ? reading.pp : reading.map);

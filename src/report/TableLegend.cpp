@@ -1,5 +1,6 @@
 #include "report/TableLegend.h"
 
+#include "analysis/HighValues.h"
 #include "report/FieldText.h"
 
 #include <algorithm>
@@ -88,8 +89,11 @@ LegendItems markMeanings(const ReportSource& report) {
     return items;
 }
 
-LegendItems otherMarks(const ReadingRows& rows, bool isCommentCut) {
+LegendItems otherMarks(const ReportSource& report, bool isCommentCut) {
+    const ReadingRows& rows = report.rows;
     LegendItems items;
+    if (report.highFrom != LimitPair{})
+        items.push_back({LegendItem::Mark::none, describeHighMark(report.highFrom), itemGap});
     const auto explain = [&](const QString& text, auto&& isSuch) {
         if (std::ranges::any_of(rows.rows, isSuch)) items.push_back({LegendItem::Mark::none, text, itemGap});
     };
@@ -108,7 +112,7 @@ void drawTableLegend(Picture& picture, const ReportSource& report, bool isCommen
     const auto written = [&](int size) {
         LegendText text(width, {.size = size});
         text.add(markMeanings(report));
-        text.add(otherMarks(report.rows, isCommentCut));
+        text.add(otherMarks(report, isCommentCut));
         return text;
     };
     int size = legendFont.size;

@@ -109,6 +109,9 @@ TEST_F(DisplayPeriodTest, UndatedReadingsAreOutWhereTheirChoiceIs) {
     period.setIncludeNoDatetimeData(true);
     EXPECT_FALSE(period.getIncludeNoDatetimeData());
     include();
+    period.choose(PeriodChoice::last30);
+    EXPECT_FALSE(period.getIncludeNoDatetimeData());
+    include();
     select(readingsAt({"2000-01-01 08:00", "2019-01-01", "2019-07-08"})); // somebody else
     EXPECT_FALSE(period.getIncludeNoDatetimeData());
 }
@@ -251,7 +254,7 @@ TEST_F(DisplayPeriodTest, AnnouncesChangesOnlyAndEachOnce) {
     period.choose(PeriodChoice::last7);
     period.choose(PeriodChoice::last7);
     EXPECT_EQ(changes, 4);
-    period.choose(PeriodChoice::all); // the same day, since there is no reading
+    period.choose(PeriodChoice::last90); // the same day, since there is no reading
     EXPECT_EQ(changes, 5) << "who shows the choice has to know";
     period.choose(PeriodChoice::picked);
     changes = 5;

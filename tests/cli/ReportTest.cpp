@@ -1,6 +1,7 @@
 #include "cli/CliTest.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace zel {
 
@@ -95,6 +96,21 @@ TEST_F(ReportTest, theSummaryIsAveragedByTheRule) {
     EXPECT_EQ(written().size(), pages[0].size());
     EXPECT_NE(pages[0].size(), pages[1].size());
     EXPECT_NE(pages[1].size(), pages[2].size());
+}
+
+TEST_F(ReportTest, limitsThatWereChosenButCannotBeReadAreTold) {
+    QFile choice(QFileInfo(dataFile()).path() + u"/View.json"_s);
+    for (const auto& [text, told] :
+         {std::pair(R"({"highFrom": "own", "ownSystolic": 150, "ownDiastolic": 95})", ""),
+          {R"({"highFrom": "own", "ownSystolic": 95, "ownDiastolic": 150})", "135/85 mmHg"}}) {
+        ASSERT_TRUE(choice.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        choice.write(text);
+        choice.close();
+        const Outcome outcome = report(u"table"_s);
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.err.empty(), std::string(told).empty()) << outcome.err;
+        EXPECT_THAT(outcome.err, testing::HasSubstr(told));
+    }
 }
 
 TEST_F(ReportTest, neverReplacesTheDataFile) {

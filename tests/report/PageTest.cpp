@@ -1,10 +1,12 @@
 #include "SampleReport.h"
+#include "analysis/HighValues.h"
 #include "chart/Drawing.h"
 #include "report/FieldText.h"
 #include "report/ReportPainter.h"
 
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 
@@ -206,6 +208,34 @@ TEST(Page, countsTheReadingsAboveTheLimits) {
     EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"Both above"_s, 2)) << "once is enough";
     EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"n/a"_s));
     EXPECT_TRUE(shows(SampleReport().view(), Section::SWStatistics, u"n/a: no readings"_s));
+}
+
+TEST(Page, marksHighValuesOfTheReadingsAndNamesTheirLimits) {
+    SampleReport sample(5);
+    sample.highFrom = {135, 85};
+    const std::pair<std::uint32_t, std::uint32_t> values[] = {
+        {134, 84}, {135, 83}, {133, 85}, {199, 99}, {198, 98}};
+    for (std::size_t i = 0; i < 5; ++i)
+        std::tie(sample.readings[i].sys, sample.readings[i].dia) = values[i];
+    sample.readings[4].exclusion = u"wrong cuff"_s;
+    const auto found = [&](auto&& isSuch) {
+        QStringList words;
+        for (const TextLine& line : textsOf(sample.view().page(Section::table, 1)))
+            if (isSuch(line)) words += line.text;
+        return words;
+    };
+    static const QRegularExpression number(u"^[0-9]+$"_s);
+    const auto isBold = [](const TextLine& line) {
+        return line.attribute.bold && number.match(line.text).hasMatch();
+    };
+    const auto isMark = [](const TextLine& line) { return line.text == highMark; };
+    EXPECT_EQ(found(isBold), (QStringList{u"135"_s, u"85"_s, u"199"_s, u"99"_s}))
+        << "no reading that is left out";
+    EXPECT_EQ(found(isMark).size(), 4);
+    for (const Section section : {Section::table, Section::SWStatistics})
+        EXPECT_TRUE(shows(sample.view(), section, describeHighMark(sample.highFrom))) << facts(section).key;
+    sample.highFrom = {};
+    EXPECT_EQ(found(isBold) + found(isMark), QStringList());
 }
 
 TEST(Page, tellsTheHalfOfTheDayThatItIsLimitedTo) {

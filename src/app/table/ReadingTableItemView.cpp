@@ -1,5 +1,7 @@
 #include "app/table/ReadingTableItemView.h"
 
+#include "analysis/HighValues.h"
+#include "app/widgets/PageHeading.h"
 #include "chart/StyleTable.h"
 
 #include <QHeaderView>
@@ -43,6 +45,19 @@ void drawWords(QPainter& painter, const QRect& cell, const QString& text, bool i
     painter.setPen(Qt::black);
     const auto alignment = isCentred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(room, static_cast<int>(alignment), words);
+}
+
+/// Bold where it would stand anyway, with the mark right of it.
+void drawHigh(QPainter& painter, const QRect& cell, const QString& number) {
+    constexpr int beside = 3;
+    QFont font = painter.font();
+    font.setBold(true);
+    painter.setFont(font);
+    drawWords(painter, cell, number, true);
+    const int end = cell.center().x() + painter.fontMetrics().horizontalAdvance(number) / 2 + beside;
+    painter.setFont(scaledFont(font, 0.7));
+    painter.drawText(cell.adjusted(end - cell.left(), 0, 0, 0),
+                     static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), highMark);
 }
 
 /// Open towards the rows above and below that belong to the same comment.
@@ -99,6 +114,7 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
     if (column == ReadingTableModel::comment) return;
     if (column == ReadingTableModel::mam || column == ReadingTableModel::mark)
         return drawCircle(painter, cell, markOf(row, column));
+    if (model.isHigh(index)) return drawHigh(painter, cell, index.data().toString());
     drawWords(painter, cell, index.data().toString(), column > ReadingTableModel::time);
 }
 

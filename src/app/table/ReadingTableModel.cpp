@@ -1,5 +1,6 @@
 #include "app/table/ReadingTableModel.h"
 
+#include "analysis/HighValues.h"
 #include "analysis/ReadingRows.h"
 #include "store/RecordXml.h"
 
@@ -96,6 +97,14 @@ QString ReadingTableModel::text(const ReadingModel& reading, Column column) cons
     }
 }
 
+bool ReadingTableModel::isHigh(const QModelIndex& index) const {
+    const ReadingModel& reading = row(index.row());
+    if (reading.isNA) return false;
+    const LimitPair limits = store.viewLimits().limits();
+    if (index.column() == sys) return isSysHigh(reading, limits);
+    return index.column() == dia && isDiaHigh(reading, limits);
+}
+
 QString ReadingTableModel::words(const QModelIndex& index) const {
     const ReadingModel& reading = row(index.row());
     switch (static_cast<Column>(index.column())) {
@@ -114,7 +123,7 @@ QString ReadingTableModel::spoken(const QModelIndex& index) const {
     if (index.column() == date && reading.isNA) return qtTrId("dayWithoutReading").arg(words(index));
     if (index.column() == date && reading.bYellowBackground) return qtTrId("dayOfDownload").arg(words(index));
     if (index.column() == comment && !reading.comment) return qtTrId("none");
-    return words(index);
+    return isHigh(index) ? qtTrId("valueHigh").arg(words(index)) : words(index);
 }
 
 QVariant ReadingTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

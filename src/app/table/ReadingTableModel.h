@@ -34,6 +34,8 @@ public:
     [[nodiscard]] const ReadingModel& row(int number) const;
     /// The row is the first of its comment's.
     [[nodiscard]] bool beginsComment(int number) const;
+    /// The cell is a pressure at or above the limit that values are marked from.
+    [[nodiscard]] bool isHigh(const QModelIndex& index) const;
     /// What the cell says, in words: for the clipboard and for who cannot see its circles.
     [[nodiscard]] QString words(const QModelIndex& index) const;
 

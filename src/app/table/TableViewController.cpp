@@ -3,6 +3,7 @@
 #include "app/frame/CommentViewController.h"
 #include "app/frame/PeriodBar.h"
 #include "app/frame/ReadingFrame.h"
+#include "app/table/LimitBar.h"
 #include "app/table/ReadingTableItemView.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/widgets/EmptyState.h"
@@ -28,14 +29,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int padding = 18; ///< of a cell, both sides
-}
+
+/// The table gives way to the lines below it, however many they are.
+class ListPage final : public QWidget {
+public:
+    using QWidget::QWidget;
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+};
+} // namespace
 
 TableViewController::TableViewController(const Parts& needed)
     : parts(needed), readingModelArray(new ReadingTableModel(needed.store, this)),
       tblReadings(new QTableView(this)),
       noReadings(new EmptyState(u"noReadings"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       noneInPeriod(new EmptyState(u"noneInPeriod"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
-      listOrAdvice(new QStackedWidget(this)),
+      list(new ListPage(this)), listOrAdvice(new QStackedWidget(this)),
       frame(new ReadingFrame({needed.store, needed.period, needed.panel, needed.clock}, *listOrAdvice, this)),
       btnShowMam(new QCheckBox(qtTrId("showMam"), this)), btnShowPad(new QCheckBox(this)) {
     setObjectName(u"TableViewController"_s);
@@ -44,6 +52,7 @@ TableViewController::TableViewController(const Parts& needed)
     connect(&parts.store, &DataStore::reloaded, this, &TableViewController::reload);
     connect(&parts.store, &DataStore::currentIDChanged, this, &TableViewController::reload);
     connect(&parts.period, &DisplayPeriod::changed, this, &TableViewController::reload);
+    connect(&parts.store, &DataStore::viewLimitsChanged, this, &TableViewController::refreshTable);
     connect(&parts.status, &MonitorStatus::changed, this, &TableViewController::setPadTitle);
     connect(&frame->comments(), &CommentViewController::commentSelected, this,
             &TableViewController::refreshTable);
@@ -56,8 +65,12 @@ void TableViewController::build() {
     addActions();
     noReadings->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
     noneInPeriod->setTexts(qtTrId("noneInPeriod"), qtTrId("noneInPeriodAdvice"));
-    for (QWidget* each : {static_cast<QWidget*>(tblReadings), static_cast<QWidget*>(noReadings),
-                          static_cast<QWidget*>(noneInPeriod)})
+    auto* rows = new QVBoxLayout(list);
+    rows->setContentsMargins({});
+    rows->setSpacing(4);
+    rows->addWidget(tblReadings, 1);
+    rows->addWidget(new LimitBar(parts.store, parts.panel, list));
+    for (QWidget* each : {list, static_cast<QWidget*>(noReadings), static_cast<QWidget*>(noneInPeriod)})
         listOrAdvice->addWidget(each);
     setFocusProxy(tblReadings);
     auto* column = new QVBoxLayout(this);
@@ -143,7 +156,7 @@ void TableViewController::reload() {
     const bool isSelected = position >= 0 && selection->isRowSelected(position);
     readingModelArray->reload(parts.period.selection());
     frame->setNote(readingModelArray->cutNote());
-    QWidget* shown = tblReadings;
+    QWidget* shown = list;
     if (parts.store.getReadingForCurID().empty())
         shown = noReadings;
     else if (readingModelArray->rowCount() == 0)

@@ -63,6 +63,7 @@ private:
     QTableView* tblReadings;
     EmptyState* noReadings;
     EmptyState* noneInPeriod;
+    QWidget* list; ///< with what its marks mean
     QStackedWidget* listOrAdvice;
     ReadingFrame* frame;
     QCheckBox* btnShowMam;

@@ -317,12 +317,14 @@ TEST_F(PrintTest, paperShowsWhatTheScreenDoes) {
     period.setCurrentReadingTimePeriod(store.getReadingForCurID());
     ScreenViews views{.getShowMam = false, .isMonitorAFib = true, .trendApart = true};
     views.lowerChart.iScaleBase = 33;
+    ASSERT_TRUE(store.chooseViewLimits({LimitChoice::low, {}}));
     auto source = printSource(store, period, clock, views);
     ASSERT_TRUE(source);
     EXPECT_FALSE(source->getShowMam || !source->getShowPad);
     EXPECT_FALSE(source->getIsAfib) << "the readings are of another kind";
     EXPECT_EQ(source->lowerChart.iScaleBase, 33);
     EXPECT_TRUE(source->trendApart);
+    EXPECT_EQ(source->highFrom, (LimitPair{130, 80}));
     const PrintView view(std::move(*source), QPageSize(QPageSize::A4));
     EXPECT_EQ(SystemPrinters().print(u"nowhere"_s, view, Section::table), PrintResult::noPrinter);
 }

@@ -1,9 +1,14 @@
+#include "analysis/HighValues.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/table/TableViewController.h"
+#include "store/PressureLimits.h"
 #include "support/ReadingPageTest.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTableView>
@@ -149,6 +154,74 @@ TEST_F(TableViewTest, rowsAreBlackOnWhiteWhateverTheDesktopsColours) {
     EXPECT_EQ(cell(4, ReadingTableModel::date, Qt::AccessibleTextRole),
               qtTrId("dayOfDownload").arg(u"21/11/2026"_s));
     QApplication::setPalette(before);
+}
+
+TEST_F(TableViewTest, valuesFromTheLimitsOnAreMarkedAndSpokenAndTheLegendNamesTheLimits) {
+    ReadingModel systolicHigh = reading(u"202603010800"_s, 135),
+                 diastolicHigh = reading(u"202603020800"_s, 134);
+    systolicHigh.dia = 84;
+    diastolicHigh.dia = 85;
+    storeReadings(u"P1"_s, {systolicHigh, diastolicHigh});
+    openTable();
+    const QByteArray file = dataFile();
+    const auto hasMark = [this](int row, int column) {
+        const QRect place = table().visualRect(table().model()->index(row, column));
+        const int number = table().fontMetrics().horizontalAdvance(u"0000"_s);
+        const QRect beside = place.adjusted((place.width() + number) / 2, 3, 0, -3);
+        const QImage image = table().viewport()->grab(beside).toImage();
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (image.pixelColor(x, y).lightness() < 100) return true;
+        return false;
+    };
+    /// SYS and DIA of each row: "x" for a mark.
+    const auto marks = [&] {
+        QString all;
+        for (int row = 0; row < 2; ++row)
+            for (const int column : {ReadingTableModel::sys, ReadingTableModel::dia}) {
+                const bool isMarked = hasMark(row, column);
+                const QString words = cell(row, column);
+                EXPECT_EQ(cell(row, column, Qt::AccessibleTextRole),
+                          isMarked ? qtTrId("valueHigh").arg(words) : words);
+                all += isMarked ? u'x' : u'-';
+            }
+        return all.toStdString();
+    };
+    EXPECT_EQ(marks(), "x--x");
+    EXPECT_EQ(text("lblHighMark"), describeHighMark({135, 85}));
+    EXPECT_FALSE(page("ownSys").isVisible());
+    expectNamed(page("limitBar"));
+    find<QComboBox>("cboHighFrom").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_EQ(marks(), "----");
+    EXPECT_EQ(text("lblHighMark"), describeHighMark({140, 90}));
+    press(Qt::Key_Down);
+    EXPECT_EQ(marks(), "xxxx");
+    press(Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), &page("ownSys"));
+    EXPECT_EQ(marks(), "x--x") << "until others are typed";
+    type("ownSys", u"80"_s);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(page("lblOwnProblem").isVisible());
+    EXPECT_EQ(page("ownSys").accessibleDescription(), describe(LimitProblem::order));
+    EXPECT_EQ(marks(), "x--x");
+    type("ownDia", QString());
+    press(Qt::Key_Return);
+    EXPECT_FALSE(page("lblOwnProblem").isVisible());
+    EXPECT_EQ(marks(), "x-x-") << "no limit is none";
+    EXPECT_EQ(text("lblHighMark"), describeHighMark({80, 0}));
+    clickRow(0);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(u"\t135\t84\t"_s)) << "numbers for a sheet";
+    EXPECT_EQ(dataFile(), file);
+    ASSERT_TRUE(store.load());
+    EXPECT_EQ(store.viewLimits(), (ViewLimits{LimitChoice::own, {80, 0}}));
+    const QString choice = QFileInfo(store.getZELXMLPath()).path() + u"/View.json"_s;
+    ASSERT_TRUE(QFile::remove(choice) && QDir().mkdir(choice));
+    find<QComboBox>("cboHighFrom").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Up);
+    EXPECT_EQ(panel.messages.size(), 1) << "not kept for the next start";
+    EXPECT_EQ(marks(), "xxxx");
 }
 
 TEST_F(TableViewTest, columnsAreHiddenAndRowsAreCopiedAsTheyAreShown) {
