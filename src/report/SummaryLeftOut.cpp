@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int noteLines = 2;
+constexpr int howToReadLines = 2;
 constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
 
 QString excludedText(const ReadingModel& reading, const ReportSource& report) {
@@ -55,12 +55,13 @@ QString howToRead(const ReportSource& report) {
 } // namespace
 
 void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const Rect& rect) {
-    const double note = noteLines * lineHeight(summarySmall);
+    const double note = howToReadLines * lineHeight(summarySmall);
     Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"),
                              {rect.x, rect.y + note, rect.width, rect.height - note});
     summaryLine(picture, countsOf(report), left, summaryFont);
     drawExcluded(picture, report, left);
-    fieldParagraph(picture, howToRead(report), {rect.x, rect.y + note}, rect.width, summarySmall, noteLines);
+    fieldParagraph(picture, howToRead(report), {rect.x, rect.y + note}, rect.width, summarySmall,
+                   howToReadLines);
 }
 
 } // namespace zel

@@ -14,8 +14,8 @@ namespace zel {
 
 namespace {
 
-constexpr double gap = 8, betweenColumns = 14, boxHeight = 80, weekShare = 0.58, daysShare = 0.44,
-                 besideLogo = 130;
+constexpr double betweenBlocks = 8, betweenBoxes = 14, boxHeight = 80, weekShare = 0.58, daysShare = 0.44,
+                 leftOfLogo = 130;
 
 Rect takeTop(Rect& rect, double height) {
     rect.height -= height;
@@ -24,7 +24,7 @@ Rect takeTop(Rect& rect, double height) {
 
 void drawBoxes(Picture& picture, const ReportSource& report, const SummaryFigures& figures, Rect rect) {
     const double week = rect.width * weekShare;
-    drawSummaryWeek(picture, report, {rect.x, rect.y, week - betweenColumns, rect.height});
+    drawSummaryWeek(picture, report, {rect.x, rect.y, week - betweenBoxes, rect.height});
     drawSummaryShares(picture, report, figures, {rect.x + week, rect.y, rect.width - week, rect.height});
 }
 
@@ -34,20 +34,20 @@ void drawSummaryPage(Picture& picture, const PageGeometry& at, const ReportSourc
                      const QString& note) {
     const Rect& foot = at.footerRect;
     drawLogo(picture, at);
-    drawSummaryLeftOut(picture, report, {foot.x, foot.y, foot.width - besideLogo, foot.height});
+    drawSummaryLeftOut(picture, report, {foot.x, foot.y, foot.width - leftOfLogo, foot.height});
     const double body = at.titleRect.y - foot.top();
     Rect rest = drawSummaryHead(picture, report, note, {foot.x, foot.top(), foot.width, body});
-    rest.height -= gap;
+    rest.height -= betweenBlocks;
     const SummaryFigures figures = calcSummary(report.readings, report.selection.period);
     drawBoxes(picture, report, figures, takeTop(rest, boxHeight));
-    rest.height -= gap;
+    rest.height -= betweenBlocks;
     drawSummaryTable(picture, report, figures, takeTop(rest, summaryTableHeight()));
-    rest.height -= gap;
-    rest = {rest.x, rest.y + gap, rest.width, rest.height - gap};
-    drawSummaryTrend(picture, report, takeTop(rest, rest.height - gap - summaryDaysHeight()));
-    rest.height -= gap;
+    rest.height -= betweenBlocks;
+    rest = {rest.x, rest.y + betweenBlocks, rest.width, rest.height - betweenBlocks};
+    drawSummaryTrend(picture, report, takeTop(rest, rest.height - betweenBlocks - summaryDaysHeight()));
+    rest.height -= betweenBlocks;
     const double days = rest.width * daysShare;
-    drawSummaryDays(picture, report, {rest.x, rest.y, days - betweenColumns, rest.height});
+    drawSummaryDays(picture, report, {rest.x, rest.y, days - betweenBoxes, rest.height});
     drawSummaryComments(picture, report, {rest.x + days, rest.y, rest.width - days, rest.height});
 }
 

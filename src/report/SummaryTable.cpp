@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double labelWidth = 60, countWidth = 36, markRoom = 9, aboveRow = 1.5, beforeMeasure = 12;
+constexpr double labelWidth = 60, countWidth = 36, markRoom = 9, aboveFigures = 1.5, beforeMeasure = 12;
 
 /// Right edges of a measure's numbers, behind which there is room for a mark.
 struct MeasureColumns {
@@ -92,7 +92,7 @@ void drawTableHead(Picture& picture, const Rect& rect, double y) {
 
 double summaryTableHeight() {
     return summaryBlockHeight() + lineHeight(summaryBold) + lineHeight(summarySmall)
-           + 3 * (lineHeight(summaryFont) + aboveRow) + aboveRow;
+           + 3 * (lineHeight(summaryFont) + aboveFigures) + aboveFigures;
 }
 
 void drawSummaryTable(Picture& picture, const ReportSource& report, const SummaryFigures& figures,
@@ -100,14 +100,14 @@ void drawSummaryTable(Picture& picture, const ReportSource& report, const Summar
     const Rect left = summaryBlock(picture, qtTrId("summaryTable"), rect);
     double y = left.top() - lineHeight(summaryBold) - lineHeight(summarySmall);
     drawTableHead(picture, rect, y);
-    y -= aboveRow;
+    y -= aboveFigures;
     const auto columns = measureColumns(rect);
     const std::array<std::pair<QString, const PressureSpread*>, 3> rows{
         {{qtTrId("summaryAll"), &figures.all},
          {qtTrId("summaryMorning"), &figures.morning},
          {qtTrId("summaryEvening"), &figures.evening}}};
     for (const auto& [label, spread] : rows) {
-        y -= lineHeight(summaryFont) + aboveRow;
+        y -= lineHeight(summaryFont) + aboveFigures;
         summaryText(picture, label, {rect.x, y}, labelWidth, summaryFont);
         summaryFigure(picture, QString::number(spread->count()), {countEdge(rect), y}, countWidth,
                       summaryFont, XPos::right);

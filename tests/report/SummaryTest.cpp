@@ -181,9 +181,44 @@ TEST(Summary, tellsWhoThePatientIs) {
     EXPECT_FALSE(wordsOf(sample.view()).contains(u"Dr. Moreau"_s));
 }
 
+TEST(Summary, theLineThatCountsTheOtherCommentsHasRoom) {
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter})
+        for (int pattern = 0; pattern < 27; ++pattern) {
+            SampleReport sample(1);
+            const int lines[] = {pattern % 3, pattern / 3 % 3, pattern / 9};
+            for (int i = 0; i < 30; ++i)
+                sample.addComment("2019-02-01", "2019-02-01", 1, u"Long walk. "_s.repeated(6 * lines[i % 3]));
+            const PrintView view = sample.view(paper);
+            for (const TextLine& line : textsOf(view.page(Section::summary, 1))) {
+                if (!line.text.contains("more comments"_L1)) continue;
+                EXPECT_GE(line.origin.y, view.geometry(Section::summary).footerRect.top()) << pattern;
+            }
+        }
+}
+
+TEST(Summary, namesAsManyExcludedReadingsAsFit) {
+    int most = 0;
+    for (int count = 1; count < 12; ++count) {
+        SampleReport sample(40);
+        exclude(sample, count, u"Cuff slipped"_s);
+        const QStringList words = wordsOf(sample.view());
+        const auto named = static_cast<int>(words.filter(u": Cuff slipped"_s).size());
+        most = std::max(most, named);
+        EXPECT_EQ(words.contains(qtTrId("summaryMoreExcluded", count - named)), named < count) << count;
+        const auto texts = textsOf(sample.view().page(Section::summary, 1));
+        const auto last = std::ranges::find_if(texts.rbegin(), texts.rend(), [](const TextLine& line) {
+            return line.text.contains("excluded reading"_L1) || line.text.endsWith(": Cuff slipped"_L1);
+        });
+        const auto note = std::ranges::find_if(
+            texts, [](const TextLine& line) { return line.text.startsWith("No values are marked"_L1); });
+        EXPECT_GE(last->origin.y + 0.01, boxOf(*note).top()) << count;
+    }
+    EXPECT_GE(most, 5);
+}
+
 TEST(Summary, hasTheFiguresOfThePeriod) {
     SampleReport sample;
-    sample.highFrom = {135, 85};
+    sample.highFrom = {140, 85};
     const auto add = [&](const char* time, std::uint32_t sys, std::uint32_t dia, std::uint32_t arrhythmia) {
         ReadingModel& reading = sample.readings.emplace_back();
         reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
@@ -212,7 +247,7 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
         u"Incomplete, needs 9 more readings"_s,
         u"3 readings on 2 days; 2 of the first day left out"_s,
         // 150/90, 140/80, 130/85 and 133/88
-        u"At or above 135/85 mmHg"_s,
+        u"At or above 140/85 mmHg"_s,
         u"80 %"_s,
         u"4 of 5 readings"_s,
         u"Arrhythmia flagged (AFib): 1 of 4 readings; 1 not examined"_s,
@@ -230,6 +265,13 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
     const QStringList words = wordsOf(sample.view());
     for (const QString& line : lines)
         EXPECT_TRUE(words.contains(line)) << qPrintable(line);
+    // SYS: the three maxima, of which one is at the limit; DIA: maxima of all and of mornings, their mean and
+    // minimum, which is at the limit.
+    EXPECT_EQ(words.count(QString(highMark)), 7);
+    for (const TextLine& line : textsOf(sample.view().page(Section::summary, 1)))
+        EXPECT_TRUE(line.attribute.bold || line.text == highMark || !line.text.contains(highMark)
+                    || line.text.contains(u"threshold"_s))
+            << line.text.toStdString();
     EXPECT_EQ(words.count(u"\u2013"_s), 2 * 14 - 4) << "halves of days without a reading";
 }
 
