@@ -1044,7 +1044,9 @@ Options:
     <message id="CliHelpExportCsv"><translation>Usage: zel export-csv DIR --patient ID [--force]
 
 Writes a patient's data and readings as a CSV file, named after the patient's ID, into the folder DIR, and
-prints 'written: FILE'. Dates and measures are in the form that the settings ask for.
+prints 'written: FILE'. Dates and measures are in the form that the settings ask for. All readings are in it;
+behind the last comma of a line stands 'manual' for one that was typed in, and 'excluded: REASON' for one that
+is left out of all that counts.
 
 Options:
   --patient ID                 whose file

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// One of the jobs, and the other options that go with it.
-struct Job {
+struct ReadingJob {
     QString option;
     bool hasValue;
     QStringList goesWith;
@@ -50,13 +50,13 @@ ManualReading typedReading(const Request& request, const ManualReading& known) {
     return typed;
 }
 
-CommandResult checked(const ManualReading& typed, const Surroundings& around) {
+CommandResult checkTyped(const ManualReading& typed, const Surroundings& around) {
     const auto problem =
         manualProblem(typed, std::chrono::floor<Instant::duration>(std::as_const(around).clock.now()));
     return problem ? CommandResult(wrongUsage(describe(*problem))) : CommandResult();
 }
 
-CommandResult done(const StoreResult& result) {
+CommandResult doneOrFailed(const StoreResult& result) {
     return result ? CommandResult() : CommandResult(failed(describe(result.error())));
 }
 
@@ -74,54 +74,58 @@ tl::expected<ReadingModel, Failure> readingOf(const Request& request, const QStr
     return *found;
 }
 
-CommandResult exclude(const Request& request, DataStore& store, Surroundings&) {
+CommandResult excludeOne(const Request& request, DataStore& store, Surroundings&) {
     return readingOf(request, u"exclude"_s, store).and_then([&](const ReadingModel& reading) {
-        return done(store.excludeReadings({reading}, request.options.value(u"reason"_s)));
+        return doneOrFailed(store.excludeReadings({reading}, request.options.value(u"reason"_s)));
     });
 }
 
-CommandResult include(const Request& request, DataStore& store, Surroundings&) {
+CommandResult includeOne(const Request& request, DataStore& store, Surroundings&) {
     return readingOf(request, u"include"_s, store).and_then([&](const ReadingModel& reading) {
-        return reading.isExcluded() ? done(store.includeReadings({reading}))
+        return reading.isExcluded() ? doneOrFailed(store.includeReadings({reading}))
                                     : CommandResult(failed(qtTrId("CliNotExcluded").arg(reading.RecID)));
     });
 }
 
-CommandResult add(const Request& request, DataStore& store, Surroundings& around) {
+CommandResult addOne(const Request& request, DataStore& store, Surroundings& around) {
     const auto number = store.addReading(store.getCurrentID(), typedReading(request, {}));
     if (!number) return failed(describe(number.error()));
     printLine(around.out, u"record: "_s + *number);
     return {};
 }
 
-CommandResult change(const Request& request, DataStore& store, Surroundings& around) {
+CommandResult changeOne(const Request& request, DataStore& store, Surroundings& around) {
     return readingOf(request, u"change"_s, store).and_then([&](const ReadingModel& reading) -> CommandResult {
         const ManualReading typed = typedReading(request, ManualReading::of(reading));
-        if (!reading.isManual) return done(store.changeReading(reading, typed));
-        return checked(typed, around).and_then([&] { return done(store.changeReading(reading, typed)); });
+        if (!reading.isManual) return doneOrFailed(store.changeReading(reading, typed));
+        return checkTyped(typed, around).and_then([&] {
+            return doneOrFailed(store.changeReading(reading, typed));
+        });
     });
 }
 
-CommandResult remove(const Request& request, DataStore& store, Surroundings&) {
+CommandResult removeOne(const Request& request, DataStore& store, Surroundings&) {
     return readingOf(request, u"delete"_s, store).and_then([&](const ReadingModel& reading) {
-        return done(store.deleteReadings({reading}));
+        return doneOrFailed(store.deleteReadings({reading}));
     });
 }
 
-std::array<Job, 5> jobs() {
-    return {Job{u"exclude"_s, true, {u"reason"_s}, exclude}, Job{u"include"_s, true, {}, include},
-            Job{u"add"_s, false, typedOptions(), add}, Job{u"change"_s, true, typedOptions(), change},
-            Job{u"delete"_s, true, {}, remove}};
+std::array<ReadingJob, 5> readingJobs() {
+    return {ReadingJob{u"exclude"_s, true, {u"reason"_s}, excludeOne},
+            ReadingJob{u"include"_s, true, {}, includeOne},
+            ReadingJob{u"add"_s, false, typedOptions(), addOne},
+            ReadingJob{u"change"_s, true, typedOptions(), changeOne},
+            ReadingJob{u"delete"_s, true, {}, removeOne}};
 }
 
-const Job* chosenJob(const Request& request, const std::array<Job, 5>& all) {
-    const auto* chosen =
-        std::ranges::find_if(all, [&request](const Job& job) { return request.options.isSet(job.option); });
+const ReadingJob* chosenJob(const Request& request, const std::array<ReadingJob, 5>& all) {
+    const auto* chosen = std::ranges::find_if(
+        all, [&request](const ReadingJob& job) { return request.options.isSet(job.option); });
     return chosen == all.end() ? nullptr : chosen;
 }
 
 /// No option stands beside a job that has no use for it.
-CommandResult checkOptions(const Request& request, const Job& job) {
+CommandResult checkOptions(const Request& request, const ReadingJob& job) {
     for (const QString& name : request.options.optionNames())
         if (name != job.option && name != "patient"_L1 && !job.goesWith.contains(name))
             return wrongUsage(qtTrId("CliNotTogether").arg(job.option, name));
@@ -129,7 +133,7 @@ CommandResult checkOptions(const Request& request, const Job& job) {
 }
 
 /// What can be seen without the data file.
-CommandResult checkValues(const Request& request, const Job& job, const Surroundings& around) {
+CommandResult checkValues(const Request& request, const ReadingJob& job, const Surroundings& around) {
     if (job.option == "exclude"_L1) {
         const auto reason = requiredValue(request, u"reason"_s);
         if (!reason) return tl::unexpected(reason.error());
@@ -139,14 +143,14 @@ CommandResult checkValues(const Request& request, const Job& job, const Surround
     if (job.hasValue) return requiredValue(request, job.option).map([](const QString&) {});
     for (const QString& name : job.goesWith)
         if (const auto value = requiredValue(request, name); !value) return tl::unexpected(value.error());
-    return checked(typedReading(request, {}), around);
+    return checkTyped(typedReading(request, {}), around);
 }
 
 } // namespace
 
 QList<QCommandLineOption> readingChangeOptions() {
     QList options{valued(u"reason"_s)};
-    for (const Job& job : jobs())
+    for (const ReadingJob& job : readingJobs())
         options += job.hasValue ? valued(job.option) : flag(job.option);
     for (const QString& name : typedOptions())
         options += valued(name);
@@ -154,7 +158,7 @@ QList<QCommandLineOption> readingChangeOptions() {
 }
 
 bool asksForReadingChange(const Request& request) {
-    const auto all = jobs();
+    const auto all = readingJobs();
     if (chosenJob(request, all)) return true;
     const QStringList given = request.options.optionNames();
     return given.contains(u"reason"_s)
@@ -164,8 +168,8 @@ bool asksForReadingChange(const Request& request) {
 CommandResult changeReadings(const Request& request, Surroundings& around) {
     const auto ID = requiredValue(request, u"patient"_s);
     if (!ID) return tl::unexpected(ID.error());
-    const auto all = jobs();
-    const Job* job = chosenJob(request, all);
+    const auto all = readingJobs();
+    const ReadingJob* job = chosenJob(request, all);
     if (!job) return wrongUsage(qtTrId("CliReadingJobMissing"));
     const CommandResult isRight =
         checkOptions(request, *job).and_then([&] { return checkValues(request, *job, around); });

@@ -24,8 +24,10 @@ ManualReading ManualReading::of(const ReadingModel& reading) {
 }
 
 ReadingModel ManualReading::writtenOver(ReadingModel reading) const {
+    const LocalZone zone; // an hour that the clocks repeat has each minute twice
     const bool isSameMinute =
-        time && reading.ReadingDate && minuteOf(*time) == minuteOf(*reading.ReadingDate);
+        time && reading.ReadingDate
+        && minuteOf(*zone.wallClock(time)) == minuteOf(*zone.wallClock(reading.ReadingDate));
     if (!isSameMinute) reading.ReadingDate = time;
     reading.sys = sys;
     reading.dia = dia;

@@ -17,7 +17,8 @@ struct ManualReading {
     std::uint32_t pulse = 0;
 
     [[nodiscard]] static ManualReading of(const ReadingModel& reading);
-    /// \p reading with these values and what follows from them. Of the same minute, it keeps its instant.
+    /// \p reading with these values and what follows from them. Of a minute that the clocks
+    /// show alike, it keeps its instant.
     [[nodiscard]] ReadingModel writtenOver(ReadingModel reading) const;
 };
 

@@ -111,6 +111,8 @@ void ReadingModel::updateXMLNode(pugi::xml_node element) const {
 void ReadingModel::changeXMLNode(pugi::xml_node element, const ReadingModel& before) const {
     for (const XmlChild<R>& known : readingTable) {
         if (!known.write) continue;
+        if (known.read == readDate && ReadingDate == before.ReadingDate)
+            continue; // to write it takes longest
         const QString text = known.write(*this);
         const QString old = known.write(before);
         if (text == old && text.isNull() == old.isNull()) continue;

@@ -422,13 +422,19 @@ TEST(DrawChart, WhatIsLeftOutStandsApartAndJoinsNothing) {
         chart.style = style;
         chart.readings.insert(chart.readings.begin() + 1, reading(local("2019-03-03 08:00:00"), 150, 95, 80));
         const auto lines = [&] { return chart.items<PolyLine>(); };
-        const Chart without = [&] {
+        Chart without = [&] {
             Chart made = chart;
             made.readings.erase(made.readings.begin() + 1);
             return made;
         }();
         chart.readings[1].exclusion = u""_s;
         chart.readings.push_back(chart.readings[1]); // at the same place
+        for (Chart* shown : {&chart, &without})
+            shown->period = daysFrom("2019-03-04", 3); // the line comes from the one that counts
+        for (std::size_t i = 0; i < lines().size(); ++i)
+            EXPECT_EQ(lines()[i].points, without.items<PolyLine>().at(i).points);
+        for (Chart* shown : {&chart, &without})
+            shown->period = daysFrom("2019-03-01", 7);
         ASSERT_EQ(lines().size(), without.items<PolyLine>().size());
         for (std::size_t i = 0; i < lines().size(); ++i)
             EXPECT_EQ(lines()[i].points, without.items<PolyLine>()[i].points);

@@ -176,6 +176,18 @@ TEST_F(ReadingChangeTest, TypedReadingHasToBeOne) {
     EXPECT_EQ(codeOf(store.addReading(u"C"_s, typed("2026-11-20 08:00"))), noSuchRecord);
 }
 
+TEST_F(ReadingChangeTest, ClocksThatAreChangedMoveNoReading) {
+    const InZone berlin{"Europe/Berlin"};
+    const QByteArray second = "<ReadingDate>2025-10-26T02:30:15+01:00</ReadingDate>";
+    setData("<MeasureRec><ID>A</ID><RecID>1</RecID>" + second
+            + "<Sys>150</Sys><Source>manual</Source></MeasureRec>");
+    ASSERT_TRUE(store.changeReading(readings().front(), typed("2025-10-26 02:30")));
+    EXPECT_TRUE(content().contains(second)) << "not an hour earlier";
+    EXPECT_EQ(shown(), "120/80m ") << "values without a place in the file get one";
+    EXPECT_EQ(typedTime(u"2025-03-30"_s, u"02:30"_s), Date{}) << "there was no such hour";
+    EXPECT_TRUE(typedTime(u"2025-03-30"_s, u"03:00"_s));
+}
+
 TEST_F(ReadingChangeTest, NoReadingIsThereTwice) {
     EXPECT_EQ(codeOf(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 70))), readingKnown);
     ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 71)))

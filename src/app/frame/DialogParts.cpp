@@ -7,9 +7,25 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Wrapped words of the dialog would give way to the new line.
+void makeRoom(QWidget& dialog) {
+    QLayout* content = dialog.layout();
+    if (!content) return;
+    content->activate();
+    const int needed =
+        std::max(content->totalHeightForWidth(dialog.width()), content->totalMinimumSize().height());
+    if (dialog.height() < needed) dialog.resize(dialog.width(), needed);
+}
+
+} // namespace
 
 QLabel* problemLabel(const QString& name, QWidget* parent) {
     auto* line = new QLabel(parent);
@@ -25,6 +41,7 @@ void showProblem(QLabel& line, const QString& text) {
     line.setText(text);
     line.setAccessibleName(text);
     line.setVisible(!text.isEmpty());
+    makeRoom(*line.window());
     if (text.isEmpty()) return;
     QAccessibleEvent spoken(&line, QAccessible::Alert);
     QAccessible::updateAccessibility(&spoken);

@@ -107,6 +107,9 @@ TEST_F(ReadingActionsTest, leavingOutNeedsAReasonAndEscChangesNothing) {
         QTest::keyClick(dialog.findChild<QWidget*>(u"exclusionReason"_s), Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_EQ(said(dialog, "exclusionProblem"), qtTrId("leaveOutNoReason"));
+        QCoreApplication::processEvents();
+        const auto& words = *dialog.findChild<QLabel*>(u"lblExclusion"_s);
+        EXPECT_GE(words.height(), words.heightForWidth(words.width())) << "gives no room to the problem";
         write(dialog, "exclusionReason", u"cuff & <b>"_s);
         QTest::keyClick(dialog.findChild<QWidget*>(u"exclusionReason"_s), Qt::Key_Return);
         EXPECT_FALSE(dialog.isVisible());
