@@ -64,6 +64,7 @@ std::vector<DayHalves> calcLastDays(const ReadingList& readings, const Period& p
     if (!last) return {};
     const DayNumber first = std::max(*last - (lastDaysOnSummary - 1), LocalZone{}.day(period.begin));
     std::vector<DayHalves> days;
+    days.reserve(lastDaysOnSummary);
     for (DayNumber day = first; day <= *last; ++day)
         days.push_back({.day = day});
     for (const ReadingModel& reading : readings)

@@ -66,7 +66,7 @@ QString thresholdText(const MeasuringWeek& week) {
 
 QString weekCounts(const MeasuringWeek& week) {
     const QString readings = qtTrId("reportReadings", static_cast<int>(week.readingsUsed()));
-    const QString counted = qtTrId("summaryOnDays", week.daysUsed).arg(readings);
+    QString counted = qtTrId("summaryOnDays", week.daysUsed).arg(readings);
     if (week.readingsLeftOut == 0) return counted;
     return counted + u"; "_s + qtTrId("summaryFirstDay", week.readingsLeftOut);
 }
