@@ -15,7 +15,7 @@ using std::chrono::sys_days;
 constexpr std::int64_t fewestPoints = 30;
 constexpr std::int64_t mostPoints = 120;
 
-constexpr std::int64_t daysOfWeek = 7;
+constexpr std::int64_t daysPerWeek = 7;
 constexpr double daysOfMonth = 30.4;
 
 /// Where the longer step misses the fewest points by less than the shorter one passes the most.
@@ -31,7 +31,7 @@ struct DaySpan {
 DaySpan weekOf(DayNumber day) {
     const std::chrono::weekday weekday{sys_days{days{day}}};
     const DayNumber monday = day - static_cast<DayNumber>(weekday.iso_encoding()) + 1;
-    return {monday, monday + static_cast<DayNumber>(daysOfWeek) - 1};
+    return {monday, monday + static_cast<DayNumber>(daysPerWeek) - 1};
 }
 
 DaySpan monthOf(DayNumber day) {
@@ -104,10 +104,10 @@ TrendBand bandOf(ReadingRange readings, std::uint32_t ReadingModel::*measure,
 
 TrendStep trendStepFor(std::int64_t periodDays) {
     const auto longest = static_cast<double>(periodDays);
-    if (periodDays > mostPoints * daysOfWeek && isLongerNearer(longest, daysOfWeek, daysOfMonth))
+    if (periodDays > mostPoints * daysPerWeek && isLongerNearer(longest, daysPerWeek, daysOfMonth))
         return TrendStep::month;
-    return periodDays > mostPoints && isLongerNearer(longest, 1, daysOfWeek) ? TrendStep::week
-                                                                             : TrendStep::day;
+    return periodDays > mostPoints && isLongerNearer(longest, 1, daysPerWeek) ? TrendStep::week
+                                                                              : TrendStep::day;
 }
 
 Trend calcTrend(const ReadingList& readings, const ReadingSelection& selection) {

@@ -26,7 +26,7 @@ constexpr double headHeight = 16; ///< of the line that names the step
 constexpr double besideNames = 5;
 constexpr double plotGap = 6;      ///< between the two plots
 constexpr double pulseShare = 0.3; ///< as on the chart
-constexpr double noteInset = 4;
+constexpr double trendNoteInset = 4;
 
 /// Where the picture's parts lie.
 struct Parts {
@@ -167,7 +167,7 @@ bool drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale
     const bool isLinked = drawSeries(picture, input, scale, measures, zone);
     picture.emplace_back(EndClip{});
     if (input.forPrint) drawPlotFrame(picture, scale.whiteRect);
-    const Rect room{scale.chartRect.x, scale.chartRect.y, scale.chartRect.width - noteInset,
+    const Rect room{scale.chartRect.x, scale.chartRect.y, scale.chartRect.width - trendNoteInset,
                     scale.chartRect.height - 1};
     drawOffScale(
         picture,
@@ -253,10 +253,11 @@ TrendLayout drawTrend(const TrendInput& input, const LocalZone& zone) {
     Picture& picture = layout.picture;
     const bool isLinked = drawPlot(picture, input, parts.blood, pressures, zone);
     drawPlot(picture, input, parts.pulse, beats, zone);
-    drawDateLabels(picture, parts.pulse, noteInset, zone);
+    drawDateLabels(picture, parts.pulse, trendNoteInset, zone);
     const Rect& plot = parts.blood.chartRect;
-    drawCaption(picture, input, isLinked,
-                {plot.x + noteInset, plot.top(), all.right() - plot.x - noteInset, all.top() - plot.top()});
+    drawCaption(
+        picture, input, isLinked,
+        {plot.x + trendNoteInset, plot.top(), all.right() - plot.x - trendNoteInset, all.top() - plot.top()});
     for (TextLine& name : placeLineNames(lineEnds(input, parts.blood, parts.pulse), parts.names))
         picture.emplace_back(std::move(name));
     drawEmpty(picture, input, plot);

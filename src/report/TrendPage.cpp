@@ -8,7 +8,7 @@ namespace zel {
 
 namespace {
 
-const TextAttribute legendFont{.size = 8};
+const TextAttribute trendFont{.size = 8};
 constexpr int linesOfLegend = 2;
 
 QString trendLimitsNote(const Limits& limits) {
@@ -40,8 +40,8 @@ void drawTrendPage(Picture& picture, const ReportSource& report, const Rect& rec
 
 void drawTrendLegend(Picture& picture, const ReportSource& report, Point at, double width) {
     const QString note = qtTrId("reportTrendNote") + u' ' + trendLimitsNote(limitsOf(report));
-    const double top = at.y + linesOfLegend * lineHeight(legendFont);
-    fieldParagraph(picture, note, {at.x, top}, width, legendFont, linesOfLegend);
+    const double top = at.y + linesOfLegend * lineHeight(trendFont);
+    fieldParagraph(picture, note, {at.x, top}, width, trendFont, linesOfLegend);
 }
 
 } // namespace zel
