@@ -48,10 +48,10 @@ Function* real(const char* name) {
 
 // A name of the program's window is acted on when what is open over it has been closed, one with a + within
 // it.
-constexpr std::array visits{"graphBtn",         "toggleHistogram", "toggleCorrelation", "tableBtn",
-                            "patientBtn",       "showPrint",       "showSavePdf",       "showBackups",
-                            "+btnCreateBackup", "showSetting",     "+exportButton",     "showSetting",
-                            "+importButton",    "showAbout",       "closeApplicaiton"};
+constexpr std::array visits{"graphBtn",    "toggleHistogram",  "toggleCorrelation", "toggleTrend",
+                            "tableBtn",    "patientBtn",       "showPrint",         "showSavePdf",
+                            "showBackups", "+btnCreateBackup", "showSetting",       "+exportButton",
+                            "showSetting", "+importButton",    "showAbout",         "closeApplicaiton"};
 
 void closeDialogs() {
     while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {

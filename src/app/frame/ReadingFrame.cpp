@@ -129,10 +129,11 @@ void ReadingFrame::UpdateUIBySetting() {
 
 bool ReadingFrame::isDisplayingComment() const { return commentPanel->isVisible(); }
 
-/// A page that is scrolled is as wide as all of its parts need, and no wider.
+/// The view keeps the room that it asks for; a page that is scrolled has no more than its parts need at
+/// least.
 bool ReadingFrame::isTooNarrow() const {
     constexpr int spacing = 12;
-    const int allParts = shown.minimumSizeHint().width() + spacing + side->minimumWidth();
+    const int allParts = shown.sizeHint().width() + spacing + side->minimumWidth();
     return width() <= std::max(allParts, fontMetrics().averageCharWidth() * 120 - 1);
 }
 

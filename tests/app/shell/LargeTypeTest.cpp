@@ -86,7 +86,7 @@ TEST_F(LargeTypeTest, nothingIsCutOnASmallScreen) {
         SCOPED_TRACE(room.what);
         openIn(room);
         for (const char* button :
-             {"patientBtn", "tableBtn", "graphBtn", "toggleHistogram", "toggleCorrelation"}) {
+             {"patientBtn", "tableBtn", "graphBtn", "toggleHistogram", "toggleCorrelation", "toggleTrend"}) {
             SCOPED_TRACE(button);
             click(button);
             settle();
