@@ -906,7 +906,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comment of other days</numerusform><numerusform>%n comments of other days</numerusform></translation></message>
-    <message id="summaryOthers" numerus="yes"><translation><numerusform>%n not examined</numerusform><numerusform>%n not examined</numerusform></translation></message>
+    <message id="summaryOthers" numerus="yes"><translation><numerusform>%n reading was not examined for it</numerusform><numerusform>%n readings were not examined for it</numerusform></translation></message>
     <message id="summaryPeriod"><translation>From %1 to %2</translation></message>
     <message id="summaryPulse"><translation>Pulse %1</translation></message>
     <message id="summaryRate"><translation>Pulse, 1/min</translation></message>

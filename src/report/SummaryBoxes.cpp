@@ -86,17 +86,18 @@ QString highHeading(const LimitPair& limits) {
     return words.isEmpty() ? describeHighMark(limits) : qtTrId("summaryHigh").arg(words);
 }
 
-/// Of the kinds of monitor that there are readings of.
-QString flaggedText(const SummaryFigures& figures) {
+/// Of the kinds of monitor that there are readings of, and how many no monitor examined.
+QStringList flaggedTexts(const SummaryFigures& figures) {
     const FlaggedReadings both{figures.afib.flagged + figures.pad.flagged,
                                figures.afib.examined + figures.pad.examined};
-    if (both.examined == 0) return qtTrId("summaryNotExamined");
+    if (both.examined == 0) return {qtTrId("summaryNotExamined")};
     const QString kind = figures.pad.examined == 0    ? u"AFib"_s
                          : figures.afib.examined == 0 ? u"PAD"_s
                                                       : u"AFib, PAD"_s;
     const auto others = static_cast<int>(figures.all.count()) - both.examined;
-    const QString text = qtTrId("summaryFlagged", both.examined).arg(kind).arg(both.flagged);
-    return others == 0 ? text : text + u"; "_s + qtTrId("summaryOthers", others);
+    QStringList texts{qtTrId("summaryFlagged", both.examined).arg(kind).arg(both.flagged)};
+    if (others > 0) texts += qtTrId("summaryOthers", others);
+    return texts;
 }
 
 } // namespace
@@ -128,7 +129,8 @@ void drawSummaryShares(Picture& picture, const ReportSource& report, const Summa
                          {qtTrId("summaryHighOf", total).arg(high), qtTrId("summaryEither")}, left);
     }
     left.height -= lineHeight(summaryFont);
-    summaryLine(picture, flaggedText(figures), left, summaryFont);
+    for (const QString& text : flaggedTexts(figures))
+        summaryLine(picture, text, left, summaryFont);
 }
 
 } // namespace zel

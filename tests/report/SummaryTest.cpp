@@ -250,7 +250,8 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
         u"At or above 140/85 mmHg"_s,
         u"80 %"_s,
         u"4 of 5 readings"_s,
-        u"Arrhythmia flagged (AFib): 1 of 4 readings; 1 not examined"_s,
+        u"Arrhythmia flagged (AFib): 1 of 4 readings"_s,
+        u"1 reading was not examined for it"_s,
         // SYS 673/5; the squares from 134.6 are 503.2, a quarter of them 125.8
         u"134.6"_s,
         u"11.2"_s,
