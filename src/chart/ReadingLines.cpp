@@ -74,8 +74,8 @@ void addHollow(ReadingLines& made, const ChartScale& scale, const ChartReading& 
 void thin(std::vector<Circle>& circles) {
     const auto place = [](const Circle& circle) { return std::pair{circle.centre.x, circle.centre.y}; };
     std::ranges::sort(circles, {}, place);
-    const auto repeated = std::ranges::unique(circles, {}, place);
-    circles.erase(repeated.begin(), repeated.end());
+    const auto isSame = [&place](const Circle& one, const Circle& next) { return place(one) == place(next); };
+    circles.erase(std::unique(circles.begin(), circles.end(), isSame), circles.end());
 }
 
 /// Calls \p add with each accepted reading, its x, and whether it is joined to the one before.

@@ -197,13 +197,15 @@ TEST(DrawTrend, LinesAreToldApartInBlackAndWhite) {
     }
     ASSERT_EQ(dashes.size(), 6U);
     std::ranges::sort(dashes);
-    EXPECT_EQ(std::ranges::unique(dashes).begin() - dashes.begin(), 4) << "the pulse has a plot of its own";
+    EXPECT_EQ(std::unique(dashes.begin(), dashes.end()) - dashes.begin(), 4)
+        << "the pulse has a plot of its own";
     trend.forPrint = false;
     std::vector<QString> colours;
     for (const Curve& line : trend.medianLines())
         colours.push_back(line.color.name());
     std::ranges::sort(colours);
-    EXPECT_EQ(std::ranges::unique(colours).begin(), colours.end()) << "and each has a colour of its own";
+    EXPECT_EQ(std::unique(colours.begin(), colours.end()), colours.end())
+        << "and each has a colour of its own";
     constexpr double readable = 4.5;
     for (const Curve& line : trend.medianLines())
         EXPECT_GE(contrast(line.color, fixColor(gcScaleBackgroundColor)), readable)
