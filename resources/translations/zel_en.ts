@@ -735,7 +735,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluded by the user</numerusform><numerusform>%n excluded by the user</numerusform></translation></message>
-    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
+    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
     <message id="weekMissing"><translation>Incomplete, needs %1</translation></message>

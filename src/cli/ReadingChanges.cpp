@@ -171,7 +171,7 @@ CommandResult changeReadings(const Request& request, Surroundings& around) {
     const auto all = readingJobs();
     const ReadingJob* job = chosenJob(request, all);
     if (!job) return wrongUsage(qtTrId("CliReadingJobMissing"));
-    const CommandResult isRight =
+    CommandResult isRight =
         checkOptions(request, *job).and_then([&] { return checkValues(request, *job, around); });
     if (!isRight) return isRight;
     const OpenedStore store = openStoreForWriting(around);

@@ -38,7 +38,7 @@ TEST_F(MeasuringWeekPanelTest, theAverageFollowsRuleAndDay) {
     EXPECT_EQ(text("lblWeekMean"), u"135/80 mmHg"_s);
     EXPECT_EQ(text("lblWeekThreshold"), u"Below 135/85, pulse 65"_s) << "134.7";
     EXPECT_EQ(text("lblWeekHalves"), u"AM 140/80, PM 129/80"_s);
-    EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 left out"_s);
+    EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 of the first day left out"_s);
     EXPECT_FALSE(find<QLabel>("lblWeekMissing").isVisible());
     chooseNextRule();
     EXPECT_EQ(text("lblWeekMissing"), u"Incomplete, needs 1 more evening"_s);

@@ -3,6 +3,7 @@
 #include "support/ReadingPageTest.h"
 
 #include <QDateEdit>
+#include <QDialog>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimeEdit>
