@@ -153,11 +153,15 @@ void DisplayPeriod::setCurrentReadingTimePeriod(const ReadingList& readings) {
 void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
     const auto state = [this] { return std::tuple(data, isAnyDated, lastMeasured); };
     const auto before = state();
+    const Instant knownEnd = data.end;
+    const bool reachesEnd = isAnyDated && display.end == DateToDayBoundary(knownEnd, false);
     take(readings);
     if (state() == before) return;
     const bool wasNone = display == wholeDays({firstDayOfThisYear, firstDayOfThisYear});
     if (choice == PeriodChoice::picked && wasNone)
         display = wholeDays({getDefaultBeginDisplayDate(data.begin, data.end), data.end});
+    if (choice == PeriodChoice::picked && reachesEnd && data.end > knownEnd)
+        display.end = DateToDayBoundary(data.end, false);
     if (choice != PeriodChoice::picked) display = daysOf(choice);
     emit changed(); // who shows how far the data go has to know, too
 }

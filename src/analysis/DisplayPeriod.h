@@ -62,7 +62,8 @@ public:
     /// The patient's data period, and the default display period: the last three months of it.
     void setCurrentReadingTimePeriod(const ReadingList& readings);
     /// The same patient's readings were read anew: the data period follows them, and so does the display
-    /// period where the days are not picked or none were there before. Picked days stay.
+    /// period where the days are not picked or none were there before. Picked days stay, but those that reach
+    /// to the last reading go on doing so: what was just typed in is not out of view.
     void refreshDataPeriod(const ReadingList& readings);
     /// A newly chosen patient whose readings span fewer than 91 days opens with everything in view.
     void adjustViewAll();

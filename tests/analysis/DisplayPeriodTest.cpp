@@ -134,7 +134,7 @@ TEST_F(DisplayPeriodTest, PickedDaysAreAtLeastTwoAndEndTheViewChoice) {
     EXPECT_EQ(changes, 2);
 }
 
-TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
+TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveAViewOfAllOfNoneOrUpToTheLast) {
     select({});
     period.setSelectViewIndex(ViewSelection::custom);
     period.refreshDataPeriod(readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"}));
@@ -143,8 +143,12 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveOnlyAViewOfAllOrOfNone) {
     period.refreshDataPeriod(readingsAt({"2019-03-01 10:00", "2019-07-08 18:00"}));
     EXPECT_EQ(changes, 0);
     period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2019-01-01 10:00"}));
-    EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-08 23:59:59");
+    EXPECT_EQ(shown(), "2019-04-08 00:00:00 2019-07-09 23:59:59") << "they reached to the last reading";
     EXPECT_EQ(changes, 1);
+    period.setTimePeriod(at("2019-05-02"), at("2019-07-08"));
+    period.refreshDataPeriod(readingsAt({"2019-07-10 18:00", "2019-01-01 10:00"}));
+    EXPECT_EQ(shown(), "2019-05-02 00:00:00 2019-07-08 23:59:59");
+    period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2019-01-01 10:00"}));
     period.setSelectViewIndex(ViewSelection::viewAll);
     EXPECT_EQ(shown(), "2019-01-01 00:00:00 2019-07-09 23:59:59");
     period.refreshDataPeriod(readingsAt({"2019-07-09 18:00", "2018-01-01 10:00"}));

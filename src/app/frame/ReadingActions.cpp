@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isAny(const ReadingModel&) { return true; }
+bool isCounting(const ReadingModel& reading) { return !reading.isExcluded(); }
 bool isLeftOut(const ReadingModel& reading) { return reading.isExcluded(); }
 bool isTypedIn(const ReadingModel& reading) { return reading.isManual; }
 
@@ -96,8 +96,10 @@ QString ReadingActions::refusalOf(const Result& result) const {
     return isDone(result ? StoreResult{} : StoreResult{tl::unexpected{result.error()}}) ? QString() : u""_s;
 }
 
+/// Those that are left out already keep their reasons, unless it is all about them.
 void ReadingActions::leaveOut() {
-    const ReadingList readings = copies(isAny);
+    ReadingList readings = copies(isCounting);
+    if (readings.empty()) readings = copies(isLeftOut);
     if (readings.empty()) return;
     ExclusionDialog dialog(
         readingsInWords(readings, parts.store.getSetting()),

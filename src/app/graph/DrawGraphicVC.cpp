@@ -163,7 +163,9 @@ const ReadingModel* DrawGraphicVC::chosenReading() const {
 
 void DrawGraphicVC::keepReadingFor(const QObject& menu) {
     menuReading = pointed->reading();
-    connect(&menu, &QObject::destroyed, this, [this] {
+    keptFor = &menu;
+    connect(&menu, &QObject::destroyed, this, [this](const QObject* gone) {
+        if (keptFor != gone) return; // another menu has been opened since
         menuReading = nullptr;
         emit chosenReadingChanged();
     });
@@ -172,8 +174,10 @@ void DrawGraphicVC::keepReadingFor(const QObject& menu) {
 
 void DrawGraphicVC::contextMenuEvent(QContextMenuEvent* event) {
     std::optional<Instant> there;
-    if (event->reason() == QContextMenuEvent::Mouse)
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        pointed->forgetUnlessHovered();
         there = pulseView->timeAt(pulseView->mapFromGlobal(event->globalPos()).x());
+    }
     emit menuWanted(event->globalPos(), there.value_or(commentDay()));
 }
 

@@ -67,6 +67,7 @@ private:
     PulseView* pulseView;
     PointedReading* pointed;
     const ReadingModel* menuReading = nullptr; ///< the pointer leaves the chart for the menu
+    const QObject* keptFor = nullptr;          ///< the menu that it is kept for; only compared
     QScrollBar* bloodScroller;
     QScrollBar* pulseScroller;
     QScrollBar* timeScroller;

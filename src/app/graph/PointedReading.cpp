@@ -50,6 +50,10 @@ void PointedReading::walkTo(ChartView& chart, const ReadingModel& found) {
 
 void PointedReading::forget() { point(nullptr); }
 
+void PointedReading::forgetUnlessHovered() {
+    if (!isHovering) forget();
+}
+
 void PointedReading::hideInfo() {
     if (infoView) infoView->hide();
 }
@@ -67,9 +71,10 @@ void PointedReading::point(const ReadingModel* reading) {
 
 void PointedReading::hover(ChartView& chart, const ReadingModel* reading, QPoint mark) {
     if (!reading && isHovering) return forget();
-    if (!reading || reading == pointed) return;
-    point(reading);
+    if (!reading) return;
     isHovering = true;
+    if (reading == pointed) return;
+    point(reading);
     showInfo(chart, *reading, mark);
 }
 

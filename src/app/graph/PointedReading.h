@@ -24,6 +24,8 @@ public:
     /// The keys have come to a reading, whose values \p chart shows.
     void walkTo(ChartView& chart, const ReadingModel& found);
     void forget();
+    /// The pointer asks what it points at: nothing that the keys have walked to.
+    void forgetUnlessHovered();
     /// Takes the values away; the marks stay.
     void hideInfo();
 

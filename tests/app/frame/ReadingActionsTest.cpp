@@ -125,6 +125,14 @@ TEST_F(ReadingActionsTest, leavingOutNeedsAReasonAndEscChangesNothing) {
     inDialog("leaveOutReadings", [](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QLineEdit*>(u"exclusionReason"_s)->text(), u"cuff & <b>"_s);
     });
+    choose({0, 1, 2});
+    inDialog("leaveOutReadings", [](QDialog& dialog) {
+        EXPECT_TRUE(said(dialog, "lblExclusion").startsWith(u"2 readings:"_s));
+        write(dialog, "exclusionReason", u"ill"_s);
+        QTest::keyClick(dialog.findChild<QWidget*>(u"exclusionReason"_s), Qt::Key_Return);
+    });
+    EXPECT_EQ(store.getReadingForCurID()[2].exclusion, u"cuff & <b>"_s) << "the earlier reason stays";
+    EXPECT_EQ(store.getReadingForCurID()[0].exclusion, u"ill"_s);
 }
 
 TEST_F(ReadingActionsTest, whatIsTypedStaysWhenItCannotBeStored) {

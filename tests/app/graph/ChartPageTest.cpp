@@ -152,6 +152,13 @@ TEST_F(ChartPageTest, theReadingUnderTheMenuIsTheOneThatIsMeant) {
     find<QWidget>("chartMenu").close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(action("leaveOutReadings")->isEnabled()) << "none is pointed at";
+    blood().setFocus();
+    press(Qt::Key_Right, Qt::ControlModifier); // the keys have come to a reading
+    EXPECT_TRUE(action("leaveOutReadings")->isEnabled());
+    const QPoint empty(blood().width() / 2, blood().height() - 5);
+    QContextMenuEvent beside(QContextMenuEvent::Mouse, empty, blood().mapToGlobal(empty));
+    QApplication::sendEvent(&blood(), &beside);
+    EXPECT_FALSE(action("leaveOutReadings")->isEnabled()) << "the pointer is beside it";
 }
 
 TEST(PlaceBesideTest, thePanelNeitherCoversTheMarkNorLeavesTheWindow) {
