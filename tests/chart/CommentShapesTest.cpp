@@ -7,7 +7,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-Instant at(const char* date) {
+Instant dayAt(const char* date) {
     return StrToDate(u"2022-"_s + QLatin1StringView(date), u"yyyy-MM-dd HH:mm:ss"_s).value();
 }
 std::string minuteText(Instant date) { return DateToStr(date, u"MM-dd HH:mm:ss"_s).toStdString(); }
@@ -107,14 +107,14 @@ TEST(DrawManager, FindsTheTopmostAndDrawsWhatShows) {
 
 /// A period of two weeks around the change to summer time, 100 units a day.
 struct CommentDates : testing::Test {
-    Period period{at("03-20 00:00:00"), at("04-02 23:59:59")};
+    Period period{dayAt("03-20 00:00:00"), dayAt("04-02 23:59:59")};
     TimeScale scale{period.begin, period.end, 29, 1400};
-    double x(const char* date) const { return scale.calcXPos(at(date)); }
+    double x(const char* date) const { return scale.calcXPos(dayAt(date)); }
 };
 
 TEST_F(CommentDates, PositionsAndDatesAreInverse) {
     for (const char* date : {"03-20 00:00:00", "03-27 03:00:00", "03-31 12:34:56"})
-        EXPECT_EQ(minuteText(scale.XPosToDate(x(date))), minuteText(at(date)));
+        EXPECT_EQ(minuteText(scale.XPosToDate(x(date))), minuteText(dayAt(date)));
     EXPECT_EQ(scale.calcXPos(period.end), 1429);
     EXPECT_EQ((TimeScale{period.begin, period.end, 29, 0}).XPosToDate(500), period.begin);
     EXPECT_EQ((TimeScale{period.begin, period.begin, 29, 100}).calcXPos(period.end), 29);
@@ -142,8 +142,8 @@ TEST_F(CommentDates, BoxesSpanTheDaysInThePeriod) {
         comments.push_back(std::make_unique<CommentModel>());
         comments[0]->CommentID = u"7"_s;
         comments[0]->degree = 4;
-        comments[0]->beginDate = at(each.begin);
-        comments[0]->endDate = at(each.end);
+        comments[0]->beginDate = dayAt(each.begin);
+        comments[0]->endDate = dayAt(each.end);
         const auto boxes = commentBoxes(comments, period, scale);
         ASSERT_EQ(boxes.size(), each.shownBegin ? 1U : 0U) << each.what;
         if (boxes.empty()) continue;
@@ -158,7 +158,7 @@ TEST_F(CommentDates, BoxesSpanTheDaysInThePeriod) {
     CommentList dateless;
     dateless.push_back(std::make_unique<CommentModel>());
     dateless[0]->beginDate = getNilDate();
-    dateless[0]->endDate = at("03-21 00:00:00");
+    dateless[0]->endDate = dayAt("03-21 00:00:00");
     EXPECT_TRUE(commentBoxes(dateless, period, scale).empty());
 }
 

@@ -13,13 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-template <class... Kinds>
-struct PerKind : Kinds... {
-    using Kinds::operator()...;
-};
-template <class... Kinds>
-PerKind(Kinds...) -> PerKind<Kinds...>; // clang-tidy 14 does not see it by itself
-
 /// A shape: what it is, and the numbers that it is drawn with.
 struct Shape {
     QString kind;
@@ -38,71 +31,64 @@ void add(Shape& shape, const std::vector<Point>& points) {
         shape.numbers.insert(shape.numbers.end(), {point.x, point.y});
 }
 
+QString kind(const char* name, const QColor& color) {
+    return QLatin1StringView(name) + u' ' + color.name(QColor::HexArgb).sliced(1);
+}
+
+Shape shapeOf(const FillRect& one) {
+    return {kind("fill", one.color), {one.rect.x, one.rect.y, one.rect.width, one.rect.height}};
+}
+Shape shapeOf(const RoundRect& one) {
+    return {kind("round", one.color),
+            {one.rect.x, one.rect.y, one.rect.width, one.rect.height, double(one.radius), one.strokeWidth}};
+}
+Shape shapeOf(const StraightLine& one) {
+    return {kind("line", one.color), {one.from.x, one.from.y, one.to.x, one.to.y, one.width}};
+}
+Shape shapeOf(const Circle& one) {
+    return {kind(one.filled ? "disc" : "circle", one.color), {one.centre.x, one.centre.y, one.diameter}};
+}
+Shape shapeOf(const TextLine& one) {
+    return {u"%1 %2%3 on%4:"_s.arg(kind("text", one.attribute.color))
+                .arg(one.attribute.size)
+                .arg(one.attribute.bold ? "b"_L1 : ""_L1, written({one.origin.y})),
+            {one.origin.x}};
+}
+Shape shapeOf(const PolyLine& one) {
+    Shape shape{u"polyline"_s, {}};
+    add(shape, one.points);
+    return shape;
+}
+Shape shapeOf(const Curve& one) {
+    Shape shape{kind("curve", one.color), {one.width}};
+    add(shape, one.points);
+    return shape;
+}
+Shape shapeOf(const Area& one) {
+    Shape shape{kind("area", one.color), {}};
+    add(shape, one.outline);
+    return shape;
+}
+Shape shapeOf(const PointMarks& one) {
+    Shape shape{one.bordered ? u"marks"_s : u"small marks"_s, {}};
+    add(shape, one.points);
+    return shape;
+}
+Shape shapeOf(const Ticks& one) {
+    Shape shape{kind("ticks", one.color), {}};
+    for (const Ticks::Tick& tick : one.ticks)
+        shape.numbers.insert(shape.numbers.end(), {tick.x, tick.y1, tick.y2});
+    return shape;
+}
+Shape shapeOf(const ImageItem& one) {
+    return {u"image "_s + one.name, {one.rect.x, one.rect.y, one.rect.width, one.rect.height}};
+}
+Shape shapeOf(const BeginClip& one) {
+    return {u"clip"_s, {one.rect.x, one.rect.y, one.rect.width, one.rect.height, double(one.radius)}};
+}
+Shape shapeOf(const EndClip&) { return {u"end of clip"_s, {}}; }
 Shape shapeOf(const PictureItem& item) {
-    const auto kind = [](const char* name, const QColor& color) {
-        return QLatin1StringView(name) + u' ' + color.name(QColor::HexArgb).sliced(1);
-    };
-    return std::visit(
-        PerKind{
-            [&](const FillRect& one) -> Shape {
-                return {kind("fill", one.color), {one.rect.x, one.rect.y, one.rect.width, one.rect.height}};
-            },
-            [&](const RoundRect& one) -> Shape {
-                return {kind("round", one.color),
-                        {one.rect.x, one.rect.y, one.rect.width, one.rect.height, double(one.radius),
-                         one.strokeWidth}};
-            },
-            [&](const StraightLine& one) -> Shape {
-                return {kind("line", one.color), {one.from.x, one.from.y, one.to.x, one.to.y, one.width}};
-            },
-            [&](const Circle& one) -> Shape {
-                return {kind(one.filled ? "disc" : "circle", one.color),
-                        {one.centre.x, one.centre.y, one.diameter}};
-            },
-            [&](const TextLine& one) -> Shape {
-                return {u"%1 %2%3 on%4:"_s.arg(kind("text", one.attribute.color))
-                            .arg(one.attribute.size)
-                            .arg(one.attribute.bold ? "b"_L1 : ""_L1, written({one.origin.y})),
-                        {one.origin.x}};
-            },
-            [](const PolyLine& one) -> Shape {
-                Shape shape{u"polyline"_s, {}};
-                add(shape, one.points);
-                return shape;
-            },
-            [&](const Curve& one) -> Shape {
-                Shape shape{kind("curve", one.color), {one.width}};
-                add(shape, one.points);
-                return shape;
-            },
-            [&](const Area& one) -> Shape {
-                Shape shape{kind("area", one.color), {}};
-                add(shape, one.outline);
-                return shape;
-            },
-            [](const PointMarks& one) -> Shape {
-                Shape shape{one.bordered ? u"marks"_s : u"small marks"_s, {}};
-                add(shape, one.points);
-                return shape;
-            },
-            [&](const Ticks& one) -> Shape {
-                Shape shape{kind("ticks", one.color), {}};
-                for (const Ticks::Tick& tick : one.ticks)
-                    shape.numbers.insert(shape.numbers.end(), {tick.x, tick.y1, tick.y2});
-                return shape;
-            },
-            [](const ImageItem& one) -> Shape {
-                return {u"image "_s + one.name, {one.rect.x, one.rect.y, one.rect.width, one.rect.height}};
-            },
-            [](const BeginClip& one) -> Shape {
-                return {u"clip"_s,
-                        {one.rect.x, one.rect.y, one.rect.width, one.rect.height, double(one.radius)}};
-            },
-            [](const EndClip&) -> Shape {
-                return {u"end of clip"_s, {}};
-            },
-        },
-        item);
+    return std::visit([](const auto& one) { return shapeOf(one); }, item);
 }
 
 /// How many, the first one, and the sum of all.

@@ -17,7 +17,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 /// Empty for words that a user can read.
-std::string unreadable(const QString& words) {
+std::string unlikeWords(const QString& words) {
     const bool isSentence = words.contains(u' ') && !words.contains(u'%');
     return isSentence ? "" : words.toStdString();
 }
@@ -28,10 +28,10 @@ TEST(Words, EachErrorOfTheStoreHasItsOwn) {
     for (int code = 0; code <= static_cast<int>(StoreErrorCode::sameFileName); ++code) {
         const StoreError error{static_cast<StoreErrorCode>(code), u"/a/file"_s, u"the system's words"_s};
         const QString words = describe(error);
-        EXPECT_EQ(unreadable(words), "") << code;
+        EXPECT_EQ(unlikeWords(words), "") << code;
         EXPECT_TRUE(words.endsWith(u"\nthe system's words"_s)) << code;
         EXPECT_TRUE(said.insert(words).second) << words.toStdString();
-        EXPECT_EQ(unreadable(describeExport(error)), "") << code;
+        EXPECT_EQ(unlikeWords(describeExport(error)), "") << code;
         const bool isOfData = words.contains(u"data file"_s) && error.code != StoreErrorCode::isDataFile
                               && !isStepRefusal(error.code);
         EXPECT_TRUE(!isOfData || describeExport(error).contains(u"/a/file"_s)) << code;
@@ -59,7 +59,7 @@ TEST(Words, EachRefusalOfAnImportNamesTheFileAndThePatient) {
                                   || refusal == ImportRefusalCode::alreadyKnown;
         const QString words =
             describe({refusal, u"/a/file"_s, namesPatient ? u"P-17"_s : QString{}, u"why"_s});
-        EXPECT_EQ(unreadable(words), "") << code;
+        EXPECT_EQ(unlikeWords(words), "") << code;
         EXPECT_TRUE(words.startsWith(u"/a/file: "_s) && words.endsWith(u"\nwhy"_s)) << words.toStdString();
         EXPECT_EQ(words.contains(u"P-17"_s), namesPatient) << words.toStdString();
         EXPECT_TRUE(said.insert(words).second) << words.toStdString();
