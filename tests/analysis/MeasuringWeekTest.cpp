@@ -252,6 +252,18 @@ TEST(MeasuringWeek, MorningIsBeforeNoon) {
     EXPECT_EQ(week.daysUsed, 3);
 }
 
+/// On the day on which clocks are put forward, which has no 02:30.
+TEST(MeasuringWeek, AHundredThousandOfOneMinuteAreAsMany) {
+    ReadingList readings(100'000, readingAt("2026-03-29 03:30", 131, 81));
+    readings.back().sys = 135;
+    readings.push_back(readingAt("2026-03-26 00:00"));
+    const DayNumber wednesday = LocalZone{}.day(at("2026-04-01"));
+    const MeasuringWeek week = calcMeasuringWeek(readings, AverageRule::aha, wednesday);
+    EXPECT_EQ(counts(week), "2+0 days, 100001+0");
+    EXPECT_EQ(means(week), "131.0/81.0/60.0 (131/81/60) am 131.0/81.0 reached");
+    EXPECT_EQ(missing(week), "days 1");
+}
+
 TEST(MeasuringWeek, RulesHaveKeys) {
     for (const AverageRuleFacts& facts : averageRules)
         EXPECT_EQ(averageRuleNamed(QLatin1String(facts.key)), facts.rule);
