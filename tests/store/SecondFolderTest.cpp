@@ -9,7 +9,7 @@
 namespace zel {
 namespace {
 
-using enum SecondFolderProblem;
+using Problem = SecondFolderProblem;
 
 /// A data file with a copy of today, and a stick.
 struct SecondFolderTest : DataStoreTest {
@@ -67,7 +67,7 @@ TEST_F(SecondFolderTest, ARecordInAnotherProgramsHandsIsLeftToIt) {
     ASSERT_EQ(others.tryTake(), FileLock::Attempt::taken);
     const auto ended = nameSecondFolder(path, {});
     ASSERT_FALSE(ended);
-    EXPECT_EQ(ended.error().problem, notRecorded);
+    EXPECT_EQ(ended.error().problem, Problem::notRecorded);
     EXPECT_TRUE(isFirstFailure(path, today)) << "told rather than lost";
     EXPECT_EQ(readFile(record), before);
 }
@@ -77,7 +77,7 @@ TEST_F(SecondFolderTest, AStickThatIsAwayIsNotWrittenInItsPlaceAndGetsTheCopyOnc
     const QString marked = named().copies();
     const QString away = stick.path() + u"/elsewhere"_s;
     ASSERT_TRUE(QDir{}.rename(marked, away)); // an empty folder is left where it is mounted
-    EXPECT_EQ(bring(), SecondFolderProblem::away);
+    EXPECT_EQ(bring(), SecondFolderaway);
     EXPECT_EQ(QDir{stick.path()}.entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{u"elsewhere"_s});
     EXPECT_TRUE(isFirstFailure(path, today));
     EXPECT_FALSE(isFirstFailure(path, today)) << "once a day";
@@ -122,7 +122,7 @@ TEST_F(SecondFolderTest, AnotherComputersOrABrokenRecordNamesNone) {
                                      QByteArray{good}.replace("\"mark\": \"", "\"mark\": \"../")}) {
         write(record, broken);
         ASSERT_FALSE(secondFolder(path)) << broken.toStdString();
-        EXPECT_EQ(secondFolder(path).error().problem, recordBroken);
+        EXPECT_EQ(secondFolder(path).error().problem, Problem::recordBroken);
     }
     ASSERT_TRUE(nameSecondFolder(path, stick.path())) << "which mends it";
     const QString mark = named().mark;
