@@ -77,7 +77,7 @@ TEST_F(SecondFolderTest, AStickThatIsAwayIsNotWrittenInItsPlaceAndGetsTheCopyOnc
     const QString marked = named().copies();
     const QString away = stick.path() + u"/elsewhere"_s;
     ASSERT_TRUE(QDir{}.rename(marked, away)); // an empty folder is left where it is mounted
-    EXPECT_EQ(bring(), SecondFolderaway);
+    EXPECT_EQ(bring(), SecondFolderProblem::away);
     EXPECT_EQ(QDir{stick.path()}.entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{u"elsewhere"_s});
     EXPECT_TRUE(isFirstFailure(path, today));
     EXPECT_FALSE(isFirstFailure(path, today)) << "once a day";
