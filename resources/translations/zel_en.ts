@@ -918,6 +918,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTrend"><translation>Trend</translation></message>
     <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>

@@ -2,6 +2,7 @@
 
 #include "analysis/Summary.h"
 #include "report/FieldText.h"
+#include "report/SummaryBoxes.h"
 #include "report/SummaryType.h"
 
 #include <algorithm>
@@ -24,9 +25,23 @@ QString excludedText(const ReadingModel& reading, const ReportSource& report) {
         .arg(reason.isEmpty() ? qtTrId("summaryNoReason") : reason);
 }
 
+/// Those of the period and those of the measuring week, which may begin before it, the newest first.
+std::vector<const ReadingModel*> namedReadings(const ReportSource& report) {
+    const MeasuringWeek week = summaryWeek(report);
+    auto named = excludedReadings(report.readings, report.selection.period);
+    for (const ReadingModel& reading : report.readings) {
+        const bool isOfWeek = reading.isExcluded() && !reading.isUndated() && week.begin <= reading.day
+                              && reading.day <= week.end;
+        if (isOfWeek && !report.selection.period.contains(*reading.ReadingDate)) named.push_back(&reading);
+    }
+    std::ranges::stable_sort(named, std::ranges::greater{},
+                             [](const ReadingModel* reading) { return *reading->ReadingDate; });
+    return named;
+}
+
 /// A reason is cut rather than set smaller.
 void drawExcluded(Picture& picture, const ReportSource& report, Rect& left) {
-    const auto readings = excludedReadings(report.readings, report.selection.period);
+    const auto readings = namedReadings(report);
     const double line = lineHeight(summarySmall);
     const auto room = static_cast<std::size_t>(std::max(0.0, left.height / line));
     const std::size_t shown = readings.size() <= room ? readings.size() : std::max<std::size_t>(room, 1) - 1;

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,18 @@ QStringList wordsOf(const PrintView& view) {
 void exclude(SampleReport& sample, int count, const QString& reason) {
     for (int i = 0; i < count; ++i)
         sample.readings[static_cast<std::size_t>(2 * i)].exclusion = reason;
+}
+
+ReadingModel& add(SampleReport& sample, const char* time, std::uint32_t sys, std::uint32_t dia,
+                  std::uint32_t arrhythmia = 4) {
+    ReadingModel& reading = sample.readings.emplace_back();
+    reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
+    reading.sys = sys;
+    reading.dia = dia;
+    reading.pulse = 70;
+    reading.Arrhythmia = arrhythmia;
+    reading.postInit(nullptr, sample.settings, sample.zone);
+    return reading;
 }
 
 void addUndated(SampleReport& sample) {
@@ -60,6 +74,7 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"one", SampleReport(1)});
     samples.push_back({"62", SampleReport(62, 2)});
     samples.back().sample.highFrom = {0, 85};
+    samples.back().sample.readings[60].exclusion = u"of the last week"_s;
     samples.push_back({"100,000", SampleReport(100'000)});
     samples.back().sample.selection.period.end = DateToDayBoundary(noonOf("2160-01-01"), false);
     samples.push_back({"crowded", crowded()});
@@ -161,6 +176,60 @@ TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
     expectWeek("Measuring week (AHA)  2018/12/28 \u2013 2019/01/03");
 }
 
+TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
+    SampleReport sample;
+    add(sample, "2019-02-28 07:00", 130, 80).exclusion = u"the week before"_s;
+    add(sample, "2019-03-02 07:00", 190, 80).exclusion = u"loose cuff"_s;
+    add(sample, "2019-03-03 07:00", 150, 80);
+    add(sample, "2019-03-05 07:00", 180, 80).exclusion = u"after stairs"_s;
+    add(sample, "2019-03-07 07:00", 130, 80);
+    sample.selection.period.begin = DateToDayBoundary(noonOf("2019-03-04"), true);
+    const QStringList words = wordsOf(sample.view());
+    EXPECT_THAT(words, testing::Contains(u"2 of the week left out by the user"_s));
+    EXPECT_EQ(words.filter(u"190/80"_s), (QStringList{u"2019/03/02 07:00  190/80: loose cuff"_s}));
+    EXPECT_EQ(words.filter(u"180/80"_s), (QStringList{u"2019/03/05 07:00  180/80: after stairs"_s}));
+    EXPECT_EQ(words.filter(u"the week before"_s), QStringList());
+}
+
+TEST(Summary, aMeanBelowTheThresholdIsNotShownAsTheThreshold) {
+    struct Case {
+        std::uint32_t last, dia;
+        const char* words;
+    };
+    for (const Case& one : {Case{134, 84, "Below the threshold of 135/85 (to a tenth: <135.0/84.0)"},
+                            Case{134, 85, "At or above the threshold of 135/85 (to a tenth: <135.0/85.0)"},
+                            Case{133, 84, "Below the threshold of 135/85 (to a tenth: 134.9/84.0)"},
+                            Case{135, 84, "At or above the threshold of 135/85 (to a tenth: 135.0/84.0)"}}) {
+        SampleReport sample;
+        add(sample, "2019-03-01 07:00", 199, 99); // the first day, which does not count
+        for (int i = 0; i < 24; ++i)
+            add(sample, i % 2 == 0 ? "2019-03-02 07:00" : "2019-03-02 19:00", 135, one.dia);
+        add(sample, "2019-03-03 07:00", one.last, one.dia);
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(one.words)));
+    }
+}
+
+TEST(Summary, theShareIsNeitherNoneNorAllUnlessItIs) {
+    struct Case {
+        int high, total;
+        LimitPair limits;
+        const char* share;
+    };
+    for (const Case& one : {Case{0, 500, {135, 85}, "0 %"}, Case{2, 500, {135, 0}, "< 1 %"},
+                            Case{3, 500, {135, 85}, "1 %"}, Case{497, 500, {135, 85}, "99 %"},
+                            Case{499, 500, {135, 0}, "> 99 %"}, Case{500, 500, {135, 85}, "100 %"}}) {
+        SampleReport sample(one.total);
+        for (std::size_t i = 0; i < sample.readings.size(); ++i) {
+            sample.readings[i].sys = std::cmp_less(i, one.high) ? 135 : 134;
+            sample.readings[i].dia = 80;
+        }
+        sample.highFrom = one.limits;
+        const QStringList words = wordsOf(sample.view());
+        EXPECT_THAT(words, testing::Contains(QString::fromUtf8(one.share)));
+        EXPECT_EQ(words.contains(u"SYS or DIA or both"_s), one.limits.dia > 0) << "of two limits";
+    }
+}
+
 TEST(Summary, tellsWhoThePatientIs) {
     const std::pair<Date, const char*> births[] = {
         {noonOf("1960-01-15"), "Born 1960/01/15, 60 years     ID P-17"},
@@ -219,20 +288,11 @@ TEST(Summary, namesAsManyExcludedReadingsAsFit) {
 TEST(Summary, hasTheFiguresOfThePeriod) {
     SampleReport sample;
     sample.highFrom = {140, 85};
-    const auto add = [&](const char* time, std::uint32_t sys, std::uint32_t dia, std::uint32_t arrhythmia) {
-        ReadingModel& reading = sample.readings.emplace_back();
-        reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
-        reading.sys = sys;
-        reading.dia = dia;
-        reading.pulse = 70;
-        reading.Arrhythmia = arrhythmia;
-        reading.postInit(nullptr, sample.settings, sample.zone);
-    };
-    add("2019-03-01 07:00", 150, 90, 4);
-    add("2019-03-01 19:00", 140, 80, 4);
-    add("2019-03-02 07:00", 130, 85, 5);
-    add("2019-03-02 07:05", 133, 88, 0);
-    add("2019-03-04 19:00", 120, 70, 4);
+    add(sample, "2019-03-01 07:00", 150, 90, 4);
+    add(sample, "2019-03-01 19:00", 140, 80, 4);
+    add(sample, "2019-03-02 07:00", 130, 85, 5);
+    add(sample, "2019-03-02 07:05", 133, 88, 0);
+    add(sample, "2019-03-04 19:00", 120, 70, 4);
     sample.addComment("2019-03-02", "2019-03-02", 1, u"Started a tablet."_s);
     const QString lines[] = {
         u"Ada Byron"_s,
@@ -241,7 +301,7 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
         // The mean of 130/85, 133/88 and 120/70: the first day is left out.
         u"Measuring week (ESH)  2019/02/26 \u2013 2019/03/04"_s,
         u"128/81"_s,
-        u"Morning 132/87"_s,
+        u"Morning 132/87\u25B2"_s,
         u"Evening 120/70"_s,
         u"Below the threshold of 135/85 (to a tenth: 127.7/81.0)"_s,
         u"Incomplete, needs 9 more readings"_s,
