@@ -886,7 +886,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 of %n reading</numerusform><numerusform>%1 of %n readings</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incomplete, needs %1</translation></message>
-    <message id="summaryLastDays"><translation>Last 14 days: mean (readings)</translation></message>
+    <message id="summaryLastDays" numerus="yes"><translation><numerusform>Last day: mean (readings)</numerusform><numerusform>Last %n days: mean (readings)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Left out</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
     <message id="summaryMean"><translation>Mean</translation></message>
@@ -900,7 +900,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
     <message id="summaryNoReason"><translation>no reason given</translation></message>
-    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Straight dashes in the trend: the limits. Morning: before noon. …: in full in Comments and Readings.</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. %2 Morning: before noon. …: in full in Comments and Readings.</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
@@ -917,6 +917,8 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Trend</translation></message>
     <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
+    <message id="summaryTrendHidden"><translation>Outside the trend’s scale: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Straight dashes in the trend: %1.</translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>

@@ -27,8 +27,9 @@ double summaryDaysHeight() {
 }
 
 void drawSummaryDays(Picture& picture, const ReportSource& report, const Rect& rect) {
-    Rect left = summaryBlock(picture, qtTrId("summaryLastDays"), rect);
     const std::vector<DayHalves> days = calcLastDays(report.readings, report.selection.period);
+    const int total = days.empty() ? lastDaysOnSummary : static_cast<int>(days.size());
+    Rect left = summaryBlock(picture, qtTrId("summaryLastDays", total), rect);
     if (days.empty()) return summaryLine(picture, qtTrId("summaryNone"), left, summaryFont);
     const double dayWidth = left.width * 0.3, halfWidth = (left.width - dayWidth) / 2;
     const auto row = [&](const TextAttribute& font) {

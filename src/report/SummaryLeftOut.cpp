@@ -4,6 +4,7 @@
 #include "report/FieldText.h"
 #include "report/SummaryBoxes.h"
 #include "report/SummaryType.h"
+#include "report/TrendPage.h"
 
 #include <algorithm>
 
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int howToReadLines = 2;
+constexpr int mostHowToRead = 3;
 constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
 
 QString excludedText(const ReadingModel& reading, const ReportSource& report) {
@@ -63,20 +64,32 @@ QString countsOf(const ReportSource& report) {
     return parts.join(u"; "_s);
 }
 
+/// By the limits that the trend above draws.
+QString trendNote(const ReportSource& report) {
+    if (!lastDayOf(report.readings, report.selection.period)) return {};
+    const auto [shown, hidden] = trendLimitsOf({report.highFrom.sys, report.highFrom.dia});
+    QStringList note;
+    if (shown.count() > 0) note += qtTrId("summaryTrendLimits").arg(limitsText(shown));
+    if (hidden.count() > 0) note += qtTrId("summaryTrendHidden").arg(limitsText(hidden));
+    return note.join(u' ');
+}
+
 QString howToRead(const ReportSource& report) {
-    return describeHighMark(report.highFrom) + u". "_s + qtTrId("summaryNote").arg(highMark);
+    const QString note = qtTrId("summaryNote").arg(highMark, trendNote(report));
+    return (describeHighMark(report.highFrom) + u". "_s + note).simplified();
 }
 
 } // namespace
 
 void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const Rect& rect) {
-    const double note = howToReadLines * lineHeight(summarySmall);
+    const QString note = howToRead(report);
+    const QStringList lines = wrapped(note, rect.width, summarySmall, mostHowToRead);
+    const double height = static_cast<double>(lines.size()) * lineHeight(summarySmall);
     Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"),
-                             {rect.x, rect.y + note, rect.width, rect.height - note});
+                             {rect.x, rect.y + height, rect.width, rect.height - height});
     summaryLine(picture, countsOf(report), left, summaryFont);
     drawExcluded(picture, report, left);
-    fieldParagraph(picture, howToRead(report), {rect.x, rect.y + note}, rect.width, summarySmall,
-                   howToReadLines);
+    fieldParagraph(picture, note, {rect.x, rect.y + height}, rect.width, summarySmall, mostHowToRead);
 }
 
 } // namespace zel

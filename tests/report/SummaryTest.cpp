@@ -230,6 +230,61 @@ TEST(Summary, theShareIsNeitherNoneNorAllUnlessItIs) {
     }
 }
 
+TEST(Summary, explainsTheLimitsThatItsTrendHas) {
+    struct Case {
+        int readings;
+        LimitPair limits;
+        const char *shown, *hidden;
+    };
+    for (const Case& one :
+         {Case{20, {130, 80}, "Straight dashes in the trend: 130/80 mmHg. Morning", nullptr},
+          Case{20, {0, 85}, "Straight dashes in the trend: 85 mmHg diastolic. Morning", nullptr},
+          Case{20, {0, 0}, nullptr, nullptr}, Case{0, {130, 80}, nullptr, nullptr},
+          Case{20, {999, 85}, "dashes in the trend: 85 mmHg diastolic.", "scale: 999 mmHg systolic. Morning"},
+          Case{20, {999, 998}, nullptr, "scale: 999/998 mmHg. Morning"}}) {
+        SampleReport sample(one.readings);
+        sample.settings.sysStandard = 150; // which the chart goes by
+        sample.highFrom = one.limits;
+        const QString words = wordsOf(sample.view()).join(u' ');
+        for (const auto& [text, part] : {std::pair(one.shown, "dashes"), {one.hidden, "trend’s scale"}})
+            EXPECT_TRUE(text ? words.contains(QString::fromUtf8(text))
+                             : !words.contains(QString::fromUtf8(part)))
+                << qPrintable(words);
+        EXPECT_TRUE(words.contains(u"in full in Comments and Readings."_s)) << "not cut";
+    }
+}
+
+TEST(Summary, theTrendHasAllDaysOfAComment) {
+    SampleReport sample(62); // of January
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+    const auto bars = [&] {
+        std::vector<double> widths;
+        for (const PictureItem& item : sample.view().page(Section::summary, 1))
+            if (const auto* fill = std::get_if<FillRect>(&item); fill && fill->color == Qt::black)
+                widths.push_back(fill->rect.width);
+        return widths;
+    };
+    sample.addComment("2019-01-10", "2019-01-11", 1, u"Dose halved."_s);
+    const auto whole = bars();
+    ASSERT_EQ(whole.size(), 1U);
+    CommentModel& comment = *sample.comments[0];
+    comment.endDate = DateToDayBoundary(noonOf("2019-01-11"), true); // as other programs store it
+    EXPECT_EQ(bars(), whole);
+    std::swap(comment.beginDate, comment.endDate);
+    EXPECT_EQ(bars(), whole);
+}
+
+TEST(Summary, tellsOfHowManyDaysTheLastDaysAre) {
+    SampleReport sample(62);
+    for (const auto& [begin, heading] : {std::pair("2019-01-01", "Last 14 days: mean (readings)"),
+                                         {"2019-01-30", "Last 2 days: mean (readings)"},
+                                         {"2019-01-31", "Last day: mean (readings)"}}) {
+        sample.selection.period.begin = DateToDayBoundary(noonOf(begin), true);
+        sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(heading)));
+    }
+}
+
 TEST(Summary, tellsWhoThePatientIs) {
     const std::pair<Date, const char*> births[] = {
         {noonOf("1960-01-15"), "Born 1960/01/15, 60 years     ID P-17"},
