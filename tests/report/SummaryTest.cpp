@@ -153,8 +153,8 @@ TEST(Summary, tellsHowManyMoreThereAre) {
         EXPECT_EQ(comments + rest("comments"), 40);
         const auto excluded = words.filter(u"Measured after"_s).size();
         EXPECT_GT(excluded, 2);
-        EXPECT_EQ(excluded + rest("excluded readings"), 30);
-        EXPECT_THAT(words, testing::Contains(u"30 excluded ones, 1 undated one not counted"_s));
+        EXPECT_EQ(excluded + rest("left out by the user"), 30);
+        EXPECT_THAT(words, testing::Contains(u"30 left out by the user, 1 undated one not counted"_s));
     }
 }
 
@@ -331,7 +331,7 @@ TEST(Summary, namesAsManyExcludedReadingsAsFit) {
         EXPECT_EQ(words.contains(qtTrId("summaryMoreExcluded", count - named)), named < count) << count;
         const auto texts = textsOf(sample.view().page(Section::summary, 1));
         const auto last = std::ranges::find_if(texts.rbegin(), texts.rend(), [](const TextLine& line) {
-            return line.text.contains("excluded reading"_L1) || line.text.endsWith(": Cuff slipped"_L1);
+            return line.text.contains("more left out by the user"_L1) || line.text.endsWith(": Cuff slipped"_L1);
         });
         const auto note = std::ranges::find_if(
             texts, [](const TextLine& line) { return line.text.startsWith("No values are marked"_L1); });
