@@ -272,6 +272,10 @@ TEST(Summary, theTrendHasAllDaysOfAComment) {
     EXPECT_EQ(bars(), whole);
     std::swap(comment.beginDate, comment.endDate);
     EXPECT_EQ(bars(), whole);
+    comment.beginDate = comment.endDate;
+    comment.beginDay = comment.endDay;
+    ASSERT_EQ(bars().size(), 1U);
+    EXPECT_NEAR(whole[0], 2 * bars()[0], 1) << "two days are as long as two times one";
 }
 
 TEST(Summary, tellsOfHowManyDaysTheLastDaysAre) {
@@ -331,7 +335,8 @@ TEST(Summary, namesAsManyExcludedReadingsAsFit) {
         EXPECT_EQ(words.contains(qtTrId("summaryMoreExcluded", count - named)), named < count) << count;
         const auto texts = textsOf(sample.view().page(Section::summary, 1));
         const auto last = std::ranges::find_if(texts.rbegin(), texts.rend(), [](const TextLine& line) {
-            return line.text.contains("more left out by the user"_L1) || line.text.endsWith(": Cuff slipped"_L1);
+            return line.text.contains("more left out by the user"_L1)
+                   || line.text.endsWith(": Cuff slipped"_L1);
         });
         const auto note = std::ranges::find_if(
             texts, [](const TextLine& line) { return line.text.startsWith("No values are marked"_L1); });
