@@ -152,7 +152,7 @@
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
     <message id="highMark"><translation>%1 and bold: at or above %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluded one</numerusform><numerusform>%n excluded ones</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
     <message id="leftOut"><translation>%1 not counted</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
@@ -161,7 +161,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out</numerusform><numerusform>, %n of them left out</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out by the user</numerusform><numerusform>, %n of them left out by the user</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
@@ -734,7 +734,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluded by the user</numerusform><numerusform>%n excluded by the user</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
@@ -770,7 +770,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n reading left out</numerusform><numerusform>○ %n readings left out</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n left out by the user</numerusform><numerusform>○ %n left out by the user</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolic too high</translation></message>
     <message id="evening"><translation>Evening</translation></message>
@@ -840,7 +840,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportHistogramNote"><translation>The length of a bar is the share of all readings, in percent, that lie within its 10 mmHg or 10 beats per minute.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>At or below %1: %2</numerusform><numerusform>At or below the limits of %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulse %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out, and why</numerusform><numerusform>%n readings left out, and why</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out by the user, and why</numerusform><numerusform>%n readings left out by the user, and why</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
@@ -886,13 +886,13 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 of %n reading</numerusform><numerusform>%1 of %n readings</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incomplete, needs %1</translation></message>
-    <message id="summaryLastDays"><translation>Last 14 days: mean (readings)</translation></message>
+    <message id="summaryLastDays" numerus="yes"><translation><numerusform>Last day: mean (readings)</numerusform><numerusform>Last %n days: mean (readings)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Left out</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
     <message id="summaryMean"><translation>Mean</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>and %n more comment</numerusform><numerusform>and %n more comments</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more excluded reading</numerusform><numerusform>and %n more excluded readings</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more left out by the user</numerusform><numerusform>and %n more left out by the user</numerusform></translation></message>
     <message id="summaryMorning"><translation>Morning</translation></message>
     <message id="summaryMornings"><translation>Morning %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -900,7 +900,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
     <message id="summaryNoReason"><translation>no reason given</translation></message>
-    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. Straight dashes in the trend: the limits. Morning: before noon. …: in full in Comments and Readings.</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. %2 Morning: before noon. …: in full in Comments and Readings.</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
@@ -917,7 +917,10 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Trend</translation></message>
     <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
+    <message id="summaryTrendHidden"><translation>Outside the trend’s scale: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Straight dashes in the trend: %1.</translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
@@ -1255,7 +1258,7 @@ Options:
     <message id="CliReadableByOthers"><translation>Other users of this computer can read %1. 'zel privacy --mend' keeps them out.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason goes with --exclude; --date, --time, --sys, --dia and --pulse go with --add or --change</translation></message>
     <message id="CliReadingNotUnique"><translation>several readings have the number %1; which one is meant cannot be told</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out of all that counts; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out of all that counts; --numbers tells which, and why</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out by the user and counts nowhere; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out by the user and count nowhere; --numbers tells which, and why</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>
     <message id="CliSettingTwice"><translation>The setting %1 is given more than once.</translation></message>

@@ -28,10 +28,12 @@ QString headOf(const ReadingModel& reading, const SettingModel& settings) {
 LeftOutPages layOutLeftOut(const ReportSource& report, const Rect& rect) {
     LeftOutPages list;
     std::vector<TextItem> items;
-    for (const ReadingRow& row : report.rows.rows) {
-        if (row.isNA() || !row.reading->isExcluded()) continue;
-        list.readings.push_back(row.reading);
-        list.reasons.push_back(wrapped(printable(describeExclusion(*row.reading)), rect.width, reasonFont));
+    ReadingSelection wholeDays = report.selection;
+    wholeDays.view = ViewSelection::custom;
+    for (const ReadingModel& reading : report.readings) {
+        if (!reading.isExcluded() || !isListed(reading, wholeDays)) continue;
+        list.readings.push_back(&reading);
+        list.reasons.push_back(wrapped(printable(describeExclusion(reading)), rect.width, reasonFont));
         items.push_back(
             {static_cast<int>(list.reasons.back().size()), 2 * lineHeight(reasonFont) + 2 * textPartMargin});
     }

@@ -10,8 +10,8 @@
 
 namespace zel {
 
-/// How the readings of a report's rows that are left out lie on pages behind the table, each with its whole
-/// reason.
+/// How the readings that the user left out lie on pages behind a section that counts, each with its whole
+/// reason: those that its count tells, which are of all times of the day.
 struct LeftOutPages {
     std::vector<const ReadingModel*> readings;
     std::vector<QStringList> reasons; ///< of each of them

@@ -20,10 +20,16 @@ LimitShares limitShares(const ReadingList& readings, const ReadingSelection& sel
     return shares;
 }
 
+QString percentText(int count, int total) {
+    const long percent = std::lround(100.0 * count / total);
+    if (percent == 0 && count > 0) return u"< 1 %"_s;
+    if (percent == 100 && count < total) return u"> 99 %"_s;
+    return QString::number(percent) + u" %"_s;
+}
+
 QString shareText(int count, int total) {
     if (total == 0) return QString::number(count);
-    const long percent = std::lround(100.0 * count / total);
-    return QString::number(count) + u" ("_s + QString::number(percent) + u" %)"_s;
+    return QString::number(count) + u" ("_s + percentText(count, total) + u')';
 }
 
 } // namespace zel

@@ -19,6 +19,8 @@ struct LimitShares {
 [[nodiscard]] LimitShares limitShares(const ReadingList& readings, const ReadingSelection& selection,
                                       CountRule rule, const SettingModel& settings);
 
+/// "34 %", halves upwards; "< 1 %" and "> 99 %" where none and all would not be true. \p total: not 0.
+[[nodiscard]] QString percentText(int count, int total);
 /// "12 (34 %)"; without percent for a total of 0.
 [[nodiscard]] QString shareText(int count, int total);
 

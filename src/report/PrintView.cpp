@@ -14,9 +14,9 @@ namespace zel {
 
 namespace {
 
-/// Behind whose rows stand the readings that are left out.
-bool hasTable(std::optional<Section> section) {
-    return section == Section::table || section == Section::SWStatistics;
+/// Whether the readings that are left out may stand on pages behind it; the summary has them on its own.
+bool canNameBehind(std::optional<Section> section) {
+    return section && section != Section::summary && (namesLeftOut(*section) || onlyCountsLeftOut(*section));
 }
 
 } // namespace
@@ -34,23 +34,25 @@ const PatientPages& PrintView::profile() const {
     return *patientPages;
 }
 
-const LeftOutPages& PrintView::leftOut() const {
-    if (!leftOutList) leftOutList = layOutLeftOut(source, geometry(Section::table).drawingRect);
-    return *leftOutList;
+const LeftOutPages& PrintView::leftOut(Section section) const {
+    const auto [found, isNew] = leftOutLists.try_emplace(getOrientation(section));
+    if (isNew) found->second = layOutLeftOut(source, geometry(section).drawingRect);
+    return found->second;
 }
 
-int PrintView::leftOutPages() const { return static_cast<int>(leftOut().pages.size()); }
-
 int PrintView::getTotalPages(std::optional<Section> printSelection) const {
-    const Rect drawing = geometry(printSelection).drawingRect;
-    if (hasTable(printSelection)) return tablePages(*printSelection, drawing) + leftOutPages();
+    const int own = ownPages(printSelection);
+    if (own == 0 || !canNameBehind(printSelection)) return own;
+    return own + static_cast<int>(leftOut(*printSelection).pages.size());
+}
+
+int PrintView::ownPages(std::optional<Section> printSelection) const {
+    if (printSelection == Section::table || printSelection == Section::SWStatistics)
+        return DrawTable(source).needPages(geometry(printSelection).drawingRect,
+                                           printSelection == Section::table);
     if (printSelection == Section::comment) return static_cast<int>(comments().pages.size());
     if (printSelection == Section::PatientProfile) return 1 + static_cast<int>(profile().more.size());
     return 1;
-}
-
-int PrintView::tablePages(Section section, const Rect& drawing) const {
-    return DrawTable(source).needPages(drawing, section == Section::table);
 }
 
 PageGeometry PrintView::geometry(std::optional<Section> printSelection) const {
@@ -84,9 +86,9 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
 }
 
 void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const {
-    const int before = hasTable(section) ? tablePages(section, at.drawingRect) : 0;
-    if (hasTable(section) && number > before)
-        return drawLeftOut(picture, source, leftOut(), at.drawingRect, number - before);
+    const int own = ownPages(section);
+    if (canNameBehind(section) && number > own)
+        return drawLeftOut(picture, source, leftOut(section), at.drawingRect, number - own);
     switch (section) {
     case Section::summary: return; // has a frame of its own
     case Section::graph:

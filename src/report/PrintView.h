@@ -11,6 +11,7 @@
 #include <QPageSize>
 #include <QSizeF>
 
+#include <map>
 #include <optional>
 
 namespace zel {
@@ -21,8 +22,11 @@ public:
     /// What \p report refers to must outlive the view. \p paper is upright.
     PrintView(ReportSource report, const QPageSize& paper);
 
-    /// Pages of the section; one, without a body, for none. An empty table or comment list has no page.
+    /// Pages of the section where it stands alone, with those behind it that name the readings left out; one,
+    /// without a body, for none. An empty table or comment list has no page.
     [[nodiscard]] int getTotalPages(std::optional<Section> printSelection) const;
+    /// The same without those behind it, where another section names them.
+    [[nodiscard]] int ownPages(std::optional<Section> printSelection) const;
     /// Turned by the section's orientation.
     [[nodiscard]] PageGeometry geometry(std::optional<Section> printSelection) const;
     /// The page, counted from 1, in points of the paper of geometry().
@@ -41,16 +45,14 @@ private:
 
     [[nodiscard]] const CommentPages& comments() const;
     [[nodiscard]] const PatientPages& profile() const;
-    [[nodiscard]] const LeftOutPages& leftOut() const;
-    [[nodiscard]] int leftOutPages() const;
-    [[nodiscard]] int tablePages(Section section, const Rect& drawing) const;
+    [[nodiscard]] const LeftOutPages& leftOut(Section section) const;
 
     ReportSource source;
     QPageSize paperSize;
     // Worked out when the section is first asked for: texts may be long, and many.
     mutable std::optional<CommentPages> commentPages;
     mutable std::optional<PatientPages> patientPages;
-    mutable std::optional<LeftOutPages> leftOutList;
+    mutable std::map<QPageLayout::Orientation, LeftOutPages> leftOutLists;
 };
 
 } // namespace zel

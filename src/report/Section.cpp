@@ -38,6 +38,15 @@ std::optional<Section> sectionByKey(const QString& key) {
     return find([&](const SectionFacts& row) { return key == QLatin1StringView(row.key); });
 }
 
+bool namesLeftOut(Section section) {
+    return section == Section::summary || section == Section::table || section == Section::SWStatistics;
+}
+
+bool onlyCountsLeftOut(Section section) {
+    return section == Section::graph || section == Section::histogram || section == Section::correlation
+           || section == Section::trend;
+}
+
 QPageLayout::Orientation getOrientation(std::optional<Section> section) {
     return section ? facts(*section).orientation : landscape;
 }

@@ -5,7 +5,6 @@
 #include "report/SummaryType.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace zel {
 
@@ -25,43 +24,56 @@ QString ruleName(AverageRule rule) {
     return {};
 }
 
-/// The one that was chosen, or the last one of the period.
-MeasuringWeek weekOf(const ReportSource& report) {
-    auto end = report.weekEnd;
-    if (!end) end = lastDayOf(report.readings, report.selection.period);
-    return calcMeasuringWeek(report.readings, report.weekRule,
-                             end.value_or(LocalZone{}.day(report.selection.period.end)));
-}
+/// Beside a large number.
+struct BesideLine {
+    QString text;
+    bool isBold = false;
+};
+using BesideLines = std::vector<BesideLine>;
 
 /// The large number at the left of a block, and lines beside it. \return what is left below
-Rect drawLarge(Picture& picture, const QString& text, const QStringList& beside, Rect block) {
+Rect drawLarge(Picture& picture, const QString& text, const BesideLines& beside, Rect block) {
     const double height = lineHeight(largeFont);
     const double width = block.width * largeShare;
     block.height -= height;
     summaryFigure(picture, text, {block.x, block.top()}, width, largeFont);
     const double right = block.x + width + besideLarge;
     Rect lines{right, block.y, block.right() - right, block.height + height - aboveLines};
-    for (const QString& line : beside)
-        summaryLine(picture, line, lines, summaryFont);
+    for (const BesideLine& line : beside)
+        summaryLine(picture, line.text, lines, line.isBold ? summaryBold : summaryFont);
     block.height = std::min(block.top(), lines.top()) - block.y;
     return block;
 }
 
-QStringList weekHalves(const MeasuringWeek& week) {
-    QStringList lines;
-    const auto line = [](const PressureMeans& means) { return pressureText(means, {}); };
-    if (week.morning.count() > 0) lines += qtTrId("summaryMornings").arg(line(week.morning));
-    if (week.evening.count() > 0) lines += qtTrId("summaryEvenings").arg(line(week.evening));
-    lines += qtTrId("summaryPulse").arg(week.all.pulse.rounded());
+LimitPair thresholdOf(const MeasuringWeek& week) {
+    return {factsOf(week.rule).sysThreshold, factsOf(week.rule).diaThreshold};
+}
+
+BesideLines weekHalves(const MeasuringWeek& week) {
+    BesideLines lines;
+    const LimitPair threshold = thresholdOf(week);
+    const auto add = [&](const QString& words, const PressureMeans& means) {
+        if (means.count() > 0)
+            lines.push_back({words.arg(pressureText(means, threshold)), isAnyHigh(means, threshold)});
+    };
+    add(qtTrId("summaryMornings"), week.morning);
+    add(qtTrId("summaryEvenings"), week.evening);
+    lines.push_back({qtTrId("summaryPulse").arg(week.all.pulse.rounded())});
     return lines;
+}
+
+/// A mean below the limit is not shown as the limit only because it was rounded.
+QString tenthsText(const ExactMean& mean, std::uint32_t limit) {
+    const QString tenths = mean.withTenths();
+    return !mean.isAtLeast(limit) && tenths == u"%1.0"_s.arg(limit) ? u'<' + tenths : tenths;
 }
 
 /// By the means before they are rounded.
 QString thresholdText(const MeasuringWeek& week) {
-    const AverageRuleFacts& facts = factsOf(week.rule);
-    const QString threshold = u"%1/%2"_s.arg(facts.sysThreshold).arg(facts.diaThreshold);
+    const auto [sys, dia] = thresholdOf(week);
     const QString words = week.reachesThreshold() ? qtTrId("summaryReached") : qtTrId("summaryBelow");
-    return words.arg(threshold, week.all.sys.withTenths(), week.all.dia.withTenths());
+    return words.arg(u"%1/%2"_s.arg(sys).arg(dia), tenthsText(week.all.sys, sys),
+                     tenthsText(week.all.dia, dia));
 }
 
 QString weekCounts(const MeasuringWeek& week) {
@@ -74,11 +86,6 @@ QString weekCounts(const MeasuringWeek& week) {
 QString completeText(const MeasuringWeek& week) {
     return week.isComplete() ? qtTrId("summaryComplete")
                              : qtTrId("summaryIncomplete").arg(describeMissing(week));
-}
-
-QString percentText(int count, std::uint64_t total) {
-    return total == 0 ? u"\u2013"_s
-                      : QString::number(std::lround(100.0 * count / static_cast<double>(total))) + u" %"_s;
 }
 
 QString highHeading(const LimitPair& limits) {
@@ -102,19 +109,27 @@ QStringList flaggedTexts(const SummaryFigures& figures) {
 
 } // namespace
 
+MeasuringWeek summaryWeek(const ReportSource& report) {
+    auto end = report.weekEnd;
+    if (!end) end = lastDayOf(report.readings, report.selection.period);
+    return calcMeasuringWeek(report.readings, report.weekRule,
+                             end.value_or(LocalZone{}.day(report.selection.period.end)));
+}
+
 void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& rect) {
-    const MeasuringWeek week = weekOf(report);
+    const MeasuringWeek week = summaryWeek(report);
     const QString days = summaryDay(week.begin, report) + u" \u2013 "_s + summaryDay(week.end, report);
     Rect left = summaryBlock(picture, qtTrId("summaryWeek").arg(ruleName(week.rule), days), rect);
     if (week.readingsUsed() > 0) {
-        const LimitPair threshold{factsOf(week.rule).sysThreshold, factsOf(week.rule).diaThreshold};
-        left = drawLarge(picture, pressureText(week.all, threshold), weekHalves(week), left);
+        left = drawLarge(picture, pressureText(week.all, thresholdOf(week)), weekHalves(week), left);
         summaryLine(picture, thresholdText(week), left, summaryBold);
     } else {
         summaryLine(picture, qtTrId("summaryNoWeek"), left, summaryFont);
     }
     summaryLine(picture, completeText(week), left, week.isComplete() ? summaryFont : summaryBold);
     summaryLine(picture, weekCounts(week), left, summaryFont);
+    if (week.excluded > 0)
+        summaryLine(picture, qtTrId("summaryWeekExcluded", week.excluded), left, summaryFont);
 }
 
 void drawSummaryShares(Picture& picture, const ReportSource& report, const SummaryFigures& figures,
@@ -125,8 +140,10 @@ void drawSummaryShares(Picture& picture, const ReportSource& report, const Summa
         left.height -= lineHeight(largeFont);
     } else {
         const int high = countHighReadings(report.readings, report.selection.period, report.highFrom);
-        left = drawLarge(picture, percentText(high, figures.all.count()),
-                         {qtTrId("summaryHighOf", total).arg(high), qtTrId("summaryEither")}, left);
+        BesideLines beside{{qtTrId("summaryHighOf", total).arg(high)}};
+        if (report.highFrom.sys > 0 && report.highFrom.dia > 0) beside.push_back({qtTrId("summaryEither")});
+        const QString share = total == 0 ? u"\u2013"_s : percentText(high, total);
+        left = drawLarge(picture, share, beside, left);
     }
     left.height -= lineHeight(summaryFont);
     for (const QString& text : flaggedTexts(figures))

@@ -7,6 +7,9 @@
 
 namespace zel {
 
+/// The one that was chosen, or the last one of the period.
+[[nodiscard]] MeasuringWeek summaryWeek(const ReportSource& report);
+
 /// The average of the measuring week, large.
 void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& rect);
 /// Share of the readings at or above the limits, large, and how many were flagged.

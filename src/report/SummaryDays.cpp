@@ -14,10 +14,9 @@ constexpr double aboveRow = 0.25;
 
 void drawHalf(Picture& picture, const PressureMeans& means, const LimitPair& limits, Point at, double width) {
     if (means.count() == 0) return summaryText(picture, u"\u2013"_s, at, width, summaryFont);
-    const bool isMarked = isHigh(means.sys, limits.sys) || isHigh(means.dia, limits.dia);
     QString text = pressureText(means, limits);
     if (means.count() > 1) text += u" (%1)"_s.arg(means.count());
-    summaryFigure(picture, text, at, width, isMarked ? summaryBold : summaryFont);
+    summaryFigure(picture, text, at, width, isAnyHigh(means, limits) ? summaryBold : summaryFont);
 }
 
 } // namespace
@@ -28,8 +27,9 @@ double summaryDaysHeight() {
 }
 
 void drawSummaryDays(Picture& picture, const ReportSource& report, const Rect& rect) {
-    Rect left = summaryBlock(picture, qtTrId("summaryLastDays"), rect);
     const std::vector<DayHalves> days = calcLastDays(report.readings, report.selection.period);
+    const int total = days.empty() ? lastDaysOnSummary : static_cast<int>(days.size());
+    Rect left = summaryBlock(picture, qtTrId("summaryLastDays", total), rect);
     if (days.empty()) return summaryLine(picture, qtTrId("summaryNone"), left, summaryFont);
     const double dayWidth = left.width * 0.3, halfWidth = (left.width - dayWidth) / 2;
     const auto row = [&](const TextAttribute& font) {

@@ -2,7 +2,9 @@
 
 #include "analysis/Summary.h"
 #include "report/FieldText.h"
+#include "report/SummaryBoxes.h"
 #include "report/SummaryType.h"
+#include "report/TrendPage.h"
 
 #include <algorithm>
 
@@ -12,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int howToReadLines = 2;
+constexpr int mostHowToRead = 3;
 constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
 
 QString excludedText(const ReadingModel& reading, const ReportSource& report) {
@@ -24,9 +26,23 @@ QString excludedText(const ReadingModel& reading, const ReportSource& report) {
         .arg(reason.isEmpty() ? qtTrId("summaryNoReason") : reason);
 }
 
+/// Those of the period and those of the measuring week, which may begin before it, the newest first.
+std::vector<const ReadingModel*> namedReadings(const ReportSource& report) {
+    const MeasuringWeek week = summaryWeek(report);
+    auto named = excludedReadings(report.readings, report.selection.period);
+    for (const ReadingModel& reading : report.readings) {
+        const bool isOfWeek = reading.isExcluded() && !reading.isUndated() && week.begin <= reading.day
+                              && reading.day <= week.end;
+        if (isOfWeek && !report.selection.period.contains(*reading.ReadingDate)) named.push_back(&reading);
+    }
+    std::ranges::stable_sort(named, std::ranges::greater{},
+                             [](const ReadingModel* reading) { return *reading->ReadingDate; });
+    return named;
+}
+
 /// A reason is cut rather than set smaller.
 void drawExcluded(Picture& picture, const ReportSource& report, Rect& left) {
-    const auto readings = excludedReadings(report.readings, report.selection.period);
+    const auto readings = namedReadings(report);
     const double line = lineHeight(summarySmall);
     const auto room = static_cast<std::size_t>(std::max(0.0, left.height / line));
     const std::size_t shown = readings.size() <= room ? readings.size() : std::max<std::size_t>(room, 1) - 1;
@@ -48,20 +64,32 @@ QString countsOf(const ReportSource& report) {
     return parts.join(u"; "_s);
 }
 
+/// By the limits that the trend above draws.
+QString trendNote(const ReportSource& report) {
+    if (!lastDayOf(report.readings, report.selection.period)) return {};
+    const auto [shown, hidden] = trendLimitsOf({report.highFrom.sys, report.highFrom.dia});
+    QStringList note;
+    if (shown.count() > 0) note += qtTrId("summaryTrendLimits").arg(limitsText(shown));
+    if (hidden.count() > 0) note += qtTrId("summaryTrendHidden").arg(limitsText(hidden));
+    return note.join(u' ');
+}
+
 QString howToRead(const ReportSource& report) {
-    return describeHighMark(report.highFrom) + u". "_s + qtTrId("summaryNote").arg(highMark);
+    const QString note = qtTrId("summaryNote").arg(highMark, trendNote(report));
+    return (describeHighMark(report.highFrom) + u". "_s + note).simplified();
 }
 
 } // namespace
 
 void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const Rect& rect) {
-    const double note = howToReadLines * lineHeight(summarySmall);
+    const QString note = howToRead(report);
+    const QStringList lines = wrapped(note, rect.width, summarySmall, mostHowToRead);
+    const double height = static_cast<double>(lines.size()) * lineHeight(summarySmall);
     Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"),
-                             {rect.x, rect.y + note, rect.width, rect.height - note});
+                             {rect.x, rect.y + height, rect.width, rect.height - height});
     summaryLine(picture, countsOf(report), left, summaryFont);
     drawExcluded(picture, report, left);
-    fieldParagraph(picture, howToRead(report), {rect.x, rect.y + note}, rect.width, summarySmall,
-                   howToReadLines);
+    fieldParagraph(picture, note, {rect.x, rect.y + height}, rect.width, summarySmall, mostHowToRead);
 }
 
 } // namespace zel

@@ -14,7 +14,7 @@ namespace zel {
 
 namespace {
 
-constexpr double betweenBlocks = 8, betweenBoxes = 14, boxHeight = 80, weekShare = 0.58, daysShare = 0.44,
+constexpr double betweenBlocks = 8, betweenBoxes = 14, boxHeight = 92, weekShare = 0.58, daysShare = 0.44,
                  leftOfLogo = 130;
 
 Rect takeTop(Rect& rect, double height) {

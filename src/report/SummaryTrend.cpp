@@ -23,15 +23,15 @@ struct TakenRoom {
     double from, to;
 };
 
-/// Where the comment lies, as far as the plot goes.
+/// Where the comment's whole days lie, as far as the plot goes.
 TakenRoom daysOf(const CommentModel& comment, const TimeScale& time) {
     const double right = time.left + time.width;
-    const auto x = [&](const Date& date, const Date& other) {
-        const Date& known = isNilDate(date) ? other : date;
-        return std::clamp(time.calcXPos(*known), time.left, right);
+    const Instant begin = *(isNilDate(comment.beginDate) ? comment.endDate : comment.beginDate);
+    const Instant end = *(isNilDate(comment.endDate) ? comment.beginDate : comment.endDate);
+    const auto x = [&](Instant date, bool isBegin) {
+        return std::clamp(time.calcXPos(DateToDayBoundary(date, isBegin)), time.left, right);
     };
-    const auto [from, to] =
-        std::minmax({x(comment.beginDate, comment.endDate), x(comment.endDate, comment.beginDate)});
+    const double from = x(std::min(begin, end), true), to = x(std::max(begin, end), false);
     return {std::min(from, right - leastBar), std::max(to, from + leastBar)};
 }
 

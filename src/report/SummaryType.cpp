@@ -43,6 +43,10 @@ double summaryBlockHeight() { return lineHeight(summaryHeading) + aboveLine + be
 
 bool isHigh(const ExactMean& mean, std::uint32_t limit) { return limit > 0 && mean.isAtLeast(limit); }
 
+bool isAnyHigh(const PressureMeans& means, const LimitPair& limits) {
+    return isHigh(means.sys, limits.sys) || isHigh(means.dia, limits.dia);
+}
+
 QString pressureText(const PressureMeans& means, const LimitPair& limits) {
     if (means.count() == 0) return {};
     const auto text = [](const ExactMean& mean, std::uint32_t limit) {

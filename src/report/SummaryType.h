@@ -25,6 +25,7 @@ void summaryFigure(Picture& picture, const QString& text, Point at, double width
 [[nodiscard]] double summaryBlockHeight(); ///< of the heading and its line
 
 [[nodiscard]] bool isHigh(const ExactMean& mean, std::uint32_t limit);
+[[nodiscard]] bool isAnyHigh(const PressureMeans& means, const LimitPair& limits);
 /// "138/90", each value with its mark where it is high; empty for none.
 [[nodiscard]] QString pressureText(const PressureMeans& means, const LimitPair& limits);
 /// In the format of the settings; "n.a." for none.

@@ -2,7 +2,6 @@
 
 #include "chart/DrawTrend.h"
 #include "report/FieldText.h"
-#include "report/GraphPage.h"
 
 namespace zel {
 
@@ -13,9 +12,7 @@ constexpr int linesOfLegend = 2;
 
 QString trendLimitsNote(const Limits& limits) {
     if (limits.count() == 0) return qtTrId("reportNoLimits");
-    const auto [sys, dia] = trendLimits(limits.sys, limits.dia);
-    const Limits shown{sys, dia};
-    const Limits hidden{sys > 0 ? 0 : limits.sys, dia > 0 ? 0 : limits.dia};
+    const auto [shown, hidden] = trendLimitsOf(limits);
     QStringList note;
     if (shown.count() > 0) note += qtTrId("reportTrendLimits", shown.count()).arg(limitsText(shown));
     if (hidden.count() > 0) note += qtTrId("reportGraphHiddenLimits", hidden.count()).arg(limitsText(hidden));
@@ -23,6 +20,11 @@ QString trendLimitsNote(const Limits& limits) {
 }
 
 } // namespace
+
+TrendLimits trendLimitsOf(const Limits& limits) {
+    const auto [sys, dia] = trendLimits(limits.sys, limits.dia);
+    return {{sys, dia}, {sys > 0 ? 0 : limits.sys, dia > 0 ? 0 : limits.dia}};
+}
 
 void drawTrendPage(Picture& picture, const ReportSource& report, const Rect& rect) {
     const Limits limits = limitsOf(report);

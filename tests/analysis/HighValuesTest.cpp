@@ -1,6 +1,7 @@
 #include "analysis/HighValues.h"
 
 #include "analysis/Sample.h"
+#include "support/RealTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -27,10 +28,12 @@ TEST(HighValuesTest, AValueIsHighFromItsLimitOnAndWithoutALimitNever) {
 }
 
 TEST(HighValuesTest, TheLegendNamesTheLimitsThatThereAre) {
+    const RealTexts texts;
     EXPECT_EQ(describe(LimitPair{}), QString());
-    EXPECT_EQ(describeHighMark({}), qtTrId("noHighMark"));
-    EXPECT_EQ(describe(LimitPair{135, 0}), qtTrId("limitSysAlone").arg(135));
-    EXPECT_EQ(describe(LimitPair{0, 85}), qtTrId("limitDiaAlone").arg(85));
+    EXPECT_EQ(describeHighMark({}), u"No values are marked as high"_s);
+    EXPECT_EQ(describeHighMark({135, 85}), u"\u25B2 and bold: at or above 135/85 mmHg"_s);
+    EXPECT_EQ(describe(LimitPair{135, 0}), u"SYS 135 mmHg"_s);
+    EXPECT_EQ(describe(LimitPair{0, 85}), u"DIA 85 mmHg"_s);
     EXPECT_EQ(ViewLimits{}.limits(), (LimitPair{135, 85}));
 }
 

@@ -2,6 +2,7 @@
 #include "analysis/HighValues.h"
 #include "chart/Drawing.h"
 #include "report/FieldText.h"
+#include "report/ReportDocument.h"
 #include "report/ReportPainter.h"
 
 #include <QImage>
@@ -301,6 +302,43 @@ TEST(Page, tellsHowManyReadingsItCountsAndWhichItLeavesOut) {
     const auto onSummary = textsOf(sample.view().page(SWStatistics, 1));
     EXPECT_EQ(std::ranges::count(onSummary, qtTrId("reportReadings", 10), &TextLine::text), 1)
         << "limits and figures are of the same readings";
+}
+
+TEST(Page, sectionsThatCountNameWhatTheUserLeftOutOfAllTimesOfTheDay) {
+    using enum Section;
+    SampleReport sample(10);
+    sample.selection.view = ViewSelection::amOnly;
+    for (ReadingModel& reading : sample.readings)
+        if (reading.isPMData && reading.sys < 120) reading.exclusion = u"in the evening"_s;
+    sample.readings.back().exclusion = u"of another month"_s;
+    sample.readings.back().ReadingDate = noonOf("2018-01-01");
+    const auto excluded = static_cast<int>(
+        std::ranges::count(sample.readings, std::optional(u"in the evening"_s), &ReadingModel::exclusion));
+    ASSERT_GE(excluded, 1);
+    const PrintView view = sample.view();
+    const auto named = [&](std::initializer_list<Section> sections) {
+        QStringList places;
+        const ReportDocument document(view, sections);
+        for (std::size_t index = 0; index < document.pages().size(); ++index) {
+            const auto texts = textsOf(document.page(index));
+            EXPECT_EQ(std::ranges::count(texts, u"of another month"_s, &TextLine::text), 0);
+            if (const auto count = std::ranges::count(texts, u"in the evening"_s, &TextLine::text))
+                places += u"%1 behind %2"_s.arg(count).arg(
+                    QLatin1String(facts(document.pages()[index].section).key));
+        }
+        return places;
+    };
+    const auto behind = [&](const char* key) {
+        return QStringList{u"%1 behind %2"_s.arg(excluded).arg(QLatin1String(key))};
+    };
+    for (const Section section : {graph, histogram, correlation, trend, table, SWStatistics}) {
+        EXPECT_TRUE(shows(view, section, qtTrId("leftExcluded", excluded))) << facts(section).key;
+        EXPECT_EQ(named({section}), behind(facts(section).key));
+    }
+    EXPECT_EQ(named({trend, graph, comment, PatientProfile}), behind("graph"));
+    EXPECT_EQ(named({graph, table, trend}), behind("table"));
+    EXPECT_EQ(named({graph, summary}), QStringList()) << "which has them at its foot";
+    EXPECT_EQ(named({comment, PatientProfile}), QStringList());
 }
 
 TEST(Page, commentsTellTheirDaysAndColours) {

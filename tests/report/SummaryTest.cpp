@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,18 @@ QStringList wordsOf(const PrintView& view) {
 void exclude(SampleReport& sample, int count, const QString& reason) {
     for (int i = 0; i < count; ++i)
         sample.readings[static_cast<std::size_t>(2 * i)].exclusion = reason;
+}
+
+ReadingModel& add(SampleReport& sample, const char* time, std::uint32_t sys, std::uint32_t dia,
+                  std::uint32_t arrhythmia = 4) {
+    ReadingModel& reading = sample.readings.emplace_back();
+    reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
+    reading.sys = sys;
+    reading.dia = dia;
+    reading.pulse = 70;
+    reading.Arrhythmia = arrhythmia;
+    reading.postInit(nullptr, sample.settings, sample.zone);
+    return reading;
 }
 
 void addUndated(SampleReport& sample) {
@@ -60,6 +74,7 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"one", SampleReport(1)});
     samples.push_back({"62", SampleReport(62, 2)});
     samples.back().sample.highFrom = {0, 85};
+    samples.back().sample.readings[60].exclusion = u"of the last week"_s;
     samples.push_back({"100,000", SampleReport(100'000)});
     samples.back().sample.selection.period.end = DateToDayBoundary(noonOf("2160-01-01"), false);
     samples.push_back({"crowded", crowded()});
@@ -138,8 +153,8 @@ TEST(Summary, tellsHowManyMoreThereAre) {
         EXPECT_EQ(comments + rest("comments"), 40);
         const auto excluded = words.filter(u"Measured after"_s).size();
         EXPECT_GT(excluded, 2);
-        EXPECT_EQ(excluded + rest("excluded readings"), 30);
-        EXPECT_THAT(words, testing::Contains(u"30 excluded ones, 1 undated one not counted"_s));
+        EXPECT_EQ(excluded + rest("left out by the user"), 30);
+        EXPECT_THAT(words, testing::Contains(u"30 left out by the user, 1 undated one not counted"_s));
     }
 }
 
@@ -159,6 +174,119 @@ TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
     sample.weekRule = AverageRule::aha;
     sample.weekEnd = sample.zone.day(noonOf("2019-01-03"));
     expectWeek("Measuring week (AHA)  2018/12/28 \u2013 2019/01/03");
+}
+
+TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
+    SampleReport sample;
+    add(sample, "2019-02-28 07:00", 130, 80).exclusion = u"the week before"_s;
+    add(sample, "2019-03-02 07:00", 190, 80).exclusion = u"loose cuff"_s;
+    add(sample, "2019-03-03 07:00", 150, 80);
+    add(sample, "2019-03-05 07:00", 180, 80).exclusion = u"after stairs"_s;
+    add(sample, "2019-03-07 07:00", 130, 80);
+    sample.selection.period.begin = DateToDayBoundary(noonOf("2019-03-04"), true);
+    const QStringList words = wordsOf(sample.view());
+    EXPECT_THAT(words, testing::Contains(u"2 of the week left out by the user"_s));
+    EXPECT_EQ(words.filter(u"190/80"_s), (QStringList{u"2019/03/02 07:00  190/80: loose cuff"_s}));
+    EXPECT_EQ(words.filter(u"180/80"_s), (QStringList{u"2019/03/05 07:00  180/80: after stairs"_s}));
+    EXPECT_EQ(words.filter(u"the week before"_s), QStringList());
+}
+
+TEST(Summary, aMeanBelowTheThresholdIsNotShownAsTheThreshold) {
+    struct Case {
+        std::uint32_t last, dia;
+        const char* words;
+    };
+    for (const Case& one : {Case{134, 84, "Below the threshold of 135/85 (to a tenth: <135.0/84.0)"},
+                            Case{134, 85, "At or above the threshold of 135/85 (to a tenth: <135.0/85.0)"},
+                            Case{133, 84, "Below the threshold of 135/85 (to a tenth: 134.9/84.0)"},
+                            Case{135, 84, "At or above the threshold of 135/85 (to a tenth: 135.0/84.0)"}}) {
+        SampleReport sample;
+        add(sample, "2019-03-01 07:00", 199, 99); // the first day, which does not count
+        for (int i = 0; i < 24; ++i)
+            add(sample, i % 2 == 0 ? "2019-03-02 07:00" : "2019-03-02 19:00", 135, one.dia);
+        add(sample, "2019-03-03 07:00", one.last, one.dia);
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(one.words)));
+    }
+}
+
+TEST(Summary, theShareIsNeitherNoneNorAllUnlessItIs) {
+    struct Case {
+        int high, total;
+        LimitPair limits;
+        const char* share;
+    };
+    for (const Case& one : {Case{0, 500, {135, 85}, "0 %"}, Case{2, 500, {135, 0}, "< 1 %"},
+                            Case{3, 500, {135, 85}, "1 %"}, Case{497, 500, {135, 85}, "99 %"},
+                            Case{499, 500, {135, 0}, "> 99 %"}, Case{500, 500, {135, 85}, "100 %"}}) {
+        SampleReport sample(one.total);
+        for (std::size_t i = 0; i < sample.readings.size(); ++i) {
+            sample.readings[i].sys = std::cmp_less(i, one.high) ? 135 : 134;
+            sample.readings[i].dia = 80;
+        }
+        sample.highFrom = one.limits;
+        const QStringList words = wordsOf(sample.view());
+        EXPECT_THAT(words, testing::Contains(QString::fromUtf8(one.share)));
+        EXPECT_EQ(words.contains(u"SYS or DIA or both"_s), one.limits.dia > 0) << "of two limits";
+    }
+}
+
+TEST(Summary, explainsTheLimitsThatItsTrendHas) {
+    struct Case {
+        int readings;
+        LimitPair limits;
+        const char *shown, *hidden;
+    };
+    for (const Case& one :
+         {Case{20, {130, 80}, "Straight dashes in the trend: 130/80 mmHg. Morning", nullptr},
+          Case{20, {0, 85}, "Straight dashes in the trend: 85 mmHg diastolic. Morning", nullptr},
+          Case{20, {0, 0}, nullptr, nullptr}, Case{0, {130, 80}, nullptr, nullptr},
+          Case{20, {999, 85}, "dashes in the trend: 85 mmHg diastolic.", "scale: 999 mmHg systolic. Morning"},
+          Case{20, {999, 998}, nullptr, "scale: 999/998 mmHg. Morning"}}) {
+        SampleReport sample(one.readings);
+        sample.settings.sysStandard = 150; // which the chart goes by
+        sample.highFrom = one.limits;
+        const QString words = wordsOf(sample.view()).join(u' ');
+        for (const auto& [text, part] : {std::pair(one.shown, "dashes"), {one.hidden, "trend’s scale"}})
+            EXPECT_TRUE(text ? words.contains(QString::fromUtf8(text))
+                             : !words.contains(QString::fromUtf8(part)))
+                << qPrintable(words);
+        EXPECT_TRUE(words.contains(u"in full in Comments and Readings."_s)) << "not cut";
+    }
+}
+
+TEST(Summary, theTrendHasAllDaysOfAComment) {
+    SampleReport sample(62); // of January
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+    const auto bars = [&] {
+        std::vector<double> widths;
+        for (const PictureItem& item : sample.view().page(Section::summary, 1))
+            if (const auto* fill = std::get_if<FillRect>(&item); fill && fill->color == Qt::black)
+                widths.push_back(fill->rect.width);
+        return widths;
+    };
+    sample.addComment("2019-01-10", "2019-01-11", 1, u"Dose halved."_s);
+    const auto whole = bars();
+    ASSERT_EQ(whole.size(), 1U);
+    CommentModel& comment = *sample.comments[0];
+    comment.endDate = DateToDayBoundary(noonOf("2019-01-11"), true); // as other programs store it
+    EXPECT_EQ(bars(), whole);
+    std::swap(comment.beginDate, comment.endDate);
+    EXPECT_EQ(bars(), whole);
+    comment.beginDate = comment.endDate;
+    comment.beginDay = comment.endDay;
+    ASSERT_EQ(bars().size(), 1U);
+    EXPECT_NEAR(whole[0], 2 * bars()[0], 1) << "two days are as long as two times one";
+}
+
+TEST(Summary, tellsOfHowManyDaysTheLastDaysAre) {
+    SampleReport sample(62);
+    for (const auto& [begin, heading] : {std::pair("2019-01-01", "Last 14 days: mean (readings)"),
+                                         {"2019-01-30", "Last 2 days: mean (readings)"},
+                                         {"2019-01-31", "Last day: mean (readings)"}}) {
+        sample.selection.period.begin = DateToDayBoundary(noonOf(begin), true);
+        sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(heading)));
+    }
 }
 
 TEST(Summary, tellsWhoThePatientIs) {
@@ -207,7 +335,8 @@ TEST(Summary, namesAsManyExcludedReadingsAsFit) {
         EXPECT_EQ(words.contains(qtTrId("summaryMoreExcluded", count - named)), named < count) << count;
         const auto texts = textsOf(sample.view().page(Section::summary, 1));
         const auto last = std::ranges::find_if(texts.rbegin(), texts.rend(), [](const TextLine& line) {
-            return line.text.contains("excluded reading"_L1) || line.text.endsWith(": Cuff slipped"_L1);
+            return line.text.contains("more left out by the user"_L1)
+                   || line.text.endsWith(": Cuff slipped"_L1);
         });
         const auto note = std::ranges::find_if(
             texts, [](const TextLine& line) { return line.text.startsWith("No values are marked"_L1); });
@@ -219,20 +348,11 @@ TEST(Summary, namesAsManyExcludedReadingsAsFit) {
 TEST(Summary, hasTheFiguresOfThePeriod) {
     SampleReport sample;
     sample.highFrom = {140, 85};
-    const auto add = [&](const char* time, std::uint32_t sys, std::uint32_t dia, std::uint32_t arrhythmia) {
-        ReadingModel& reading = sample.readings.emplace_back();
-        reading.ReadingDate = StrToDate(QLatin1String(time), u"yyyy-MM-dd HH:mm"_s);
-        reading.sys = sys;
-        reading.dia = dia;
-        reading.pulse = 70;
-        reading.Arrhythmia = arrhythmia;
-        reading.postInit(nullptr, sample.settings, sample.zone);
-    };
-    add("2019-03-01 07:00", 150, 90, 4);
-    add("2019-03-01 19:00", 140, 80, 4);
-    add("2019-03-02 07:00", 130, 85, 5);
-    add("2019-03-02 07:05", 133, 88, 0);
-    add("2019-03-04 19:00", 120, 70, 4);
+    add(sample, "2019-03-01 07:00", 150, 90, 4);
+    add(sample, "2019-03-01 19:00", 140, 80, 4);
+    add(sample, "2019-03-02 07:00", 130, 85, 5);
+    add(sample, "2019-03-02 07:05", 133, 88, 0);
+    add(sample, "2019-03-04 19:00", 120, 70, 4);
     sample.addComment("2019-03-02", "2019-03-02", 1, u"Started a tablet."_s);
     const QString lines[] = {
         u"Ada Byron"_s,
@@ -241,7 +361,7 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
         // The mean of 130/85, 133/88 and 120/70: the first day is left out.
         u"Measuring week (ESH)  2019/02/26 \u2013 2019/03/04"_s,
         u"128/81"_s,
-        u"Morning 132/87"_s,
+        u"Morning 132/87\u25B2"_s,
         u"Evening 120/70"_s,
         u"Below the threshold of 135/85 (to a tenth: 127.7/81.0)"_s,
         u"Incomplete, needs 9 more readings"_s,
