@@ -7,6 +7,7 @@
     <message id="BackupLast"><translation>%1, %2, the last of %3</translation></message>
     <message id="BackupPatients" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="BackupReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="ExcludedAsMeasured"><translation>measured by the monitor, too</translation></message>
     <message id="ExcludedWithoutReason"><translation>no reason given</translation></message>
     <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
     <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>

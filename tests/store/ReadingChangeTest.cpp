@@ -214,24 +214,52 @@ TEST_F(ReadingChangeTest, OnlyTypedReadingsAreChangedAndDeleted) {
 TEST_F(ReadingChangeTest, DownloadLeavesMarksAloneAndBringsNothingTwice) {
     ASSERT_EQ(store.newDataTransfer({downloaded("2026-11-18 07:00")}).value_or(9), 1U);
     ASSERT_TRUE(store.excludeReadings({readings().back()}, u"x"_s));
+    const QByteArray before = content();
+    const auto brings = [this](const char* time) {
+        return store.newDataTransfer({downloaded(time)}).value_or(9);
+    };
+    EXPECT_EQ(brings("2026-11-18 07:00"), 0U);
+    const InZone away{"Asia/Tokyo"};
+    EXPECT_EQ(brings("2026-11-18 07:00"), 0U) << "by what the monitor's clock shows";
+    EXPECT_EQ(brings("2026-11-18 16:00"), 0U) << "by its instant";
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
+    const RealTexts texts;
+    const std::string left = "120/80!measured by the monitor, toom 120/80 ";
+    const struct {
+        const char* what;
+        const char* time;
+        std::uint32_t arrhythmia;
+        const char* zone;
+        std::string shown;
+    } cases[] = {
+        {"with a finding that nobody types in", "2026-11-19 07:00", 2, "UTC", left},
+        {"with nothing but what was typed", "2026-11-19 07:00", 0, "UTC", left},
+        {"by what the monitor's clock shows", "2026-11-19 07:00", 1, "Asia/Tokyo", left},
+        {"by its instant", "2026-11-19 16:00", 1, "Asia/Tokyo", left},
+        {"a minute later", "2026-11-19 07:01", 1, "UTC", "120/80m 120/80 "},
+    };
+    for (const auto& [what, time, arrhythmia, zoneName, expected] : cases) {
+        setData({});
+        ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-19 07:00")));
+        ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+        const InZone there{zoneName};
+        ReadingModel measured = downloaded(time, arrhythmia);
+        EXPECT_EQ(store.newDataTransfer({measured}).value_or(9), 1U) << what;
+        EXPECT_EQ(shown(), expected) << what;
+        EXPECT_EQ(store.newDataTransfer({measured}).value_or(9), 0U) << what;
+        EXPECT_EQ(content().count("<Excluded>"), expected == left ? 1 : 0) << "not another patient's";
+    }
+    setData({});
     ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
     ASSERT_TRUE(store.excludeReadings({readings().back()}, u"y"_s));
-    const QByteArray before = content();
-    const auto brings = [this](const char* time, std::uint32_t arrhythmia) {
-        return store.newDataTransfer({downloaded(time, arrhythmia)}).value_or(9);
-    };
-    EXPECT_EQ(brings("2026-11-18 07:00", 1), 0U);
-    EXPECT_EQ(brings("2026-11-19 07:00", 1), 0U) << "typed in before";
-    {
-        const InZone away{"Asia/Tokyo"};
-        EXPECT_EQ(brings("2026-11-19 07:00", 1), 0U) << "by what the monitor's clock shows";
-        EXPECT_EQ(brings("2026-11-19 16:00", 4), 0U) << "by its instant";
-    }
-    EXPECT_EQ(content(), before);
-    EXPECT_EQ(brings("2026-11-19 07:00", 2), 1U) << "an irregular heartbeat is nothing that was typed in";
-    EXPECT_EQ(brings("2026-11-19 07:00", 2), 0U);
-    EXPECT_EQ(brings("2026-11-19 07:01", 1), 1U);
-    EXPECT_EQ(content().count("<Excluded>"), 2);
+    ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 07:00")}));
+    EXPECT_EQ(shown(), "120/80!ym 120/80 ") << "left out before: as it was";
+    ASSERT_TRUE(store.includeReadings({readings().front()}));
+    EXPECT_EQ(store.newDataTransfer({downloaded("2026-11-19 07:00")}).value_or(9), 0U);
+    EXPECT_EQ(shown(), "120/80m 120/80 ") << "taken in since: the user's choice";
 }
 
 TEST_F(ReadingChangeTest, ExportAndImportKeepMarks) {
