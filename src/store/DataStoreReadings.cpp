@@ -2,6 +2,7 @@
 
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
+#include "store/ReadingsBefore.h"
 #include "store/RecordXml.h"
 #include "store/Text.h"
 
@@ -84,15 +85,6 @@ bool hasSameReading(pugi::xml_node root, const ReadingModel& wanted, pugi::xml_n
         const auto other = ReadingModel::initWithXMLNode(node);
         return other.ReadingDate && key(other) == key(wanted);
     }));
-}
-
-QString freeReadingNumber(pugi::xml_node root) {
-    constexpr auto kind = Records::Counter::reading;
-    Records counters;
-    for (const pugi::xml_node node : root.children()) {
-        if (isElement(node, "MeasureRec")) counters.countID(kind, childText(node, "RecID"));
-    }
-    return counters.getMaxID(kind);
 }
 
 bool isDownloaded(const ReadingModel& reading) { return !reading.isManual; }

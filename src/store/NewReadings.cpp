@@ -94,20 +94,22 @@ ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList down
 std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QString& ID,
                                                    const ReadingList& measured) {
     const LocalZone zone;
-    std::set<std::optional<Likeness>> byWall;
-    std::set<std::optional<Likeness>> byInstant;
+    std::set<Likeness> byWall;
+    std::set<Likeness> byInstant;
     for (const ReadingModel& reading : measured) {
-        byWall.insert(shownLikeness(reading, zone.wallClock(reading.ReadingDate), zone));
-        byInstant.insert(shownLikeness(reading, reading.ReadingDate, zone));
+        if (const auto wall = shownLikeness(reading, zone.wallClock(reading.ReadingDate), zone))
+            byWall.insert(*wall);
+        if (const auto instant = shownLikeness(reading, reading.ReadingDate, zone))
+            byInstant.insert(*instant);
     }
     std::vector<pugi::xml_node> found;
     for (const pugi::xml_node element : root.children()) {
         if (!isReadingForID(element, ID)) continue;
         const auto reading = ReadingModel::initWithXMLNode(element);
+        if (!reading.isManual || reading.isExcluded()) continue;
         const auto instant = shownLikeness(reading, reading.ReadingDate, zone);
-        if (!reading.isManual || reading.isExcluded() || !instant) continue;
-        if (byInstant.contains(instant)
-            || byWall.contains(shownLikeness(reading, wallClockOf(element), zone)))
+        const auto wall = shownLikeness(reading, wallClockOf(element), zone);
+        if ((instant && byInstant.contains(*instant)) || (wall && byWall.contains(*wall)))
             found.push_back(element);
     }
     return found;

@@ -242,6 +242,7 @@ TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
         {"a minute later", "2026-11-19 07:01", 1, "UTC", "120/80m 120/80 "},
     };
     for (const auto& [what, time, arrhythmia, zoneName, expected] : cases) {
+        const InZone here{"UTC"};
         setData({});
         ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-19 07:00")));
         ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
@@ -260,6 +261,44 @@ TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
     ASSERT_TRUE(store.includeReadings({readings().front()}));
     EXPECT_EQ(store.newDataTransfer({downloaded("2026-11-19 07:00")}).value_or(9), 0U);
     EXPECT_EQ(shown(), "120/80m 120/80 ") << "taken in since: the user's choice";
+}
+
+TEST_F(ReadingChangeTest, NothingComesBackBesideWhatADownloadBrought) {
+    const auto add = [this] { ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00"))); };
+    const auto edit = [this] {
+        ASSERT_TRUE(store.changeReading(readings().front(), typed("2026-11-19 07:00", 125)));
+    };
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        const char* measuredAt;
+        std::optional<StoreErrorCode> refusal;
+        std::string shown, redone;
+    } cases[] = {
+        {"deleted", [this] { ASSERT_TRUE(store.deleteReadings({readings().front()})); }, "2026-11-19 07:00",
+         stepThere, "120/80 ", "120/80 "},
+        {"deleted, its number taken", [this] { ASSERT_TRUE(store.deleteReadings({readings().front()})); },
+         "2026-11-19 07:01", std::nullopt, "120/80m 120/80 ", "120/80 "},
+        {"changed", edit, "2026-11-19 07:00", stepThere, "125/80m 120/80 ", "125/80m 120/80 "},
+        {"changed, and another", edit, "2026-11-19 07:01", std::nullopt, "120/80m 120/80 ",
+         "125/80m 120/80 "},
+        {"left out", [this] { ASSERT_TRUE(store.excludeReadings({readings().front()}, u"x"_s)); },
+         "2026-11-19 07:00", stepThere, "120/80!xm 120/80 ", "120/80!xm 120/80 "},
+    };
+    for (const auto& [what, act, measuredAt, refusal, expected, redone] : cases) {
+        setData({});
+        add();
+        act();
+        ASSERT_TRUE(store.newDataTransfer({downloaded(measuredAt)}));
+        EXPECT_EQ(codeOf(store.undo()), refusal) << what;
+        EXPECT_EQ(shown(), expected) << what;
+        QSet<QString> numbers;
+        for (const ReadingModel& reading : readings())
+            numbers.insert(reading.RecID);
+        EXPECT_EQ(numbers.size(), static_cast<qsizetype>(readings().size())) << what;
+        EXPECT_EQ(codeOf(store.redo()), refusal ? std::optional{noStep} : std::nullopt) << what;
+        EXPECT_EQ(shown(), redone) << what;
+    }
 }
 
 TEST_F(ReadingChangeTest, ExportAndImportKeepMarks) {
