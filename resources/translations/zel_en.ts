@@ -936,6 +936,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
     <message id="CliBadPaper"><translation>--paper needs A4 or Letter, not '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait needs a whole number of seconds from 0 to %1.</translation></message>
+    <message id="CliChangeOfNothing"><translation>--change needs at least one of --date, --time, --sys, --dia and --pulse.</translation></message>
     <message id="CliClockUnread"><translation>The monitor's clock could not be read. %1</translation></message>
     <message id="CliClockUnset"><translation>The monitor's clock could not be set. %1</translation></message>
     <message id="CliCountUnread"><translation>The number of readings in the monitor could not be read. %1</translation></message>

@@ -106,7 +106,8 @@ StoreResult DataStore::changeReadings(StepKind kind, const ReadingList& asRead, 
         nameReadingStep(recorder, kind, root, asRead.front().ID, asRead.size());
         for (std::size_t i = 0; i < asRead.size() && found; ++i)
             found = change((*elements)[i], asRead[i], recorder);
-        return found ? Edit::changed : Edit::unchanged;
+        const bool isAnother = found && !recorder.step().changes.empty();
+        return isAnother ? Edit::changed : Edit::unchanged;
     });
     return changed && !found ? found : changed;
 }

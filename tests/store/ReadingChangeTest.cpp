@@ -199,6 +199,18 @@ TEST_F(ReadingChangeTest, NoReadingIsThereTwice) {
     ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-20 07:30", 150, 90, 71))) << "another patient's";
 }
 
+TEST_F(ReadingChangeTest, SavingNothingWritesNothing) {
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 71)));
+    const ReadingModel added = readings().back();
+    ASSERT_TRUE(store.excludeReadings({readings().front()}, u"x"_s));
+    elsewhere("<ZEL>", "<ZEL>\n\n\n"); // a write would lay it out anew
+    const QByteArray before = content();
+    EXPECT_TRUE(store.excludeReadings({readings().front()}, u" x "_s));
+    EXPECT_TRUE(store.changeReading(added, ManualReading::of(added)));
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(store.changes().undoable()->name.kind, StepKind::excludeReadings);
+}
+
 TEST_F(ReadingChangeTest, OnlyTypedReadingsAreChangedAndDeleted) {
     for (const char* source : {"", "<Source/>", "<Source>import</Source>", "<Source>Manual</Source>"}) {
         setData(QByteArray{ofMonitor}.replace("<Own>", QByteArray{source} + "<Own>"));
