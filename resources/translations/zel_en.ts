@@ -35,6 +35,7 @@
     <message id="ManualNoDate"><translation>There is no such date and time. (An hour is left out when clocks are put forward, and 1 January 2000 stands for no date at all.)</translation></message>
     <message id="ManualPulse"><translation>The pulse is to be a number from %1 to %2.</translation></message>
     <message id="ManualSys"><translation>The systolic pressure is to be a number from %1 to %2.</translation></message>
+    <message id="ManualTooEarly"><translation>The date is before the year 1900.</translation></message>
     <message id="NotBackedUp"><translation>No copy of the data file could be made in %1 before this change. %2</translation></message>
     <message id="remarkExcluded"><translation>left out: %1</translation></message>
     <message id="remarkManual"><translation>typed in</translation></message>
