@@ -7,6 +7,7 @@
     <message id="BackupLast"><translation>%1, %2, the last of %3</translation></message>
     <message id="BackupPatients" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="BackupReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
+    <message id="ExcludedAsMeasured"><translation>measured by the monitor, too</translation></message>
     <message id="ExcludedWithoutReason"><translation>no reason given</translation></message>
     <message id="ExportAlreadyExists"><translation>There is a file %1 already. It was left as it is.</translation></message>
     <message id="ExportIsDataFile"><translation>The file %1 is the data file itself, which no export replaces. Please choose another folder.</translation></message>
@@ -34,6 +35,7 @@
     <message id="ManualNoDate"><translation>There is no such date and time. (An hour is left out when clocks are put forward, and 1 January 2000 stands for no date at all.)</translation></message>
     <message id="ManualPulse"><translation>The pulse is to be a number from %1 to %2.</translation></message>
     <message id="ManualSys"><translation>The systolic pressure is to be a number from %1 to %2.</translation></message>
+    <message id="ManualTooEarly"><translation>The date is before the year 1900.</translation></message>
     <message id="NotBackedUp"><translation>No copy of the data file could be made in %1 before this change. %2</translation></message>
     <message id="remarkExcluded"><translation>left out: %1</translation></message>
     <message id="remarkManual"><translation>typed in</translation></message>
@@ -938,6 +940,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliBadID"><translation>The value of --id must be 1 to 11 plain letters, digits or signs, without accents: more a monitor cannot keep.</translation></message>
     <message id="CliBadPaper"><translation>--paper needs A4 or Letter, not '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait needs a whole number of seconds from 0 to %1.</translation></message>
+    <message id="CliChangeOfNothing"><translation>--change needs at least one of --date, --time, --sys, --dia and --pulse.</translation></message>
     <message id="CliClockUnread"><translation>The monitor's clock could not be read. %1</translation></message>
     <message id="CliClockUnset"><translation>The monitor's clock could not be set. %1</translation></message>
     <message id="CliCountUnread"><translation>The number of readings in the monitor could not be read. %1</translation></message>

@@ -29,10 +29,22 @@ bool isOfWeek(const ReadingModel& reading, const MeasuringWeek& week) {
     return isAveraged(reading) && isOnDayOf(week, reading);
 }
 
-int excludedOf(const ReadingList& readings, const MeasuringWeek& week) {
-    return static_cast<int>(std::ranges::count_if(readings, [&week](const ReadingModel& reading) {
-        return reading.isExcluded() && !reading.isUndated() && isOnDayOf(week, reading);
+bool isDatedExcluded(const ReadingModel& reading) { return reading.isExcluded() && !reading.isUndated(); }
+
+int excludedOf(const ReadingList& readings, DayNumber begin, DayNumber end) {
+    return static_cast<int>(std::ranges::count_if(readings, [begin, end](const ReadingModel& reading) {
+        return isDatedExcluded(reading) && begin <= reading.day && reading.day <= end;
     }));
+}
+
+/// Of a week whose end was not chosen: also those of later days, which would have been its last ones; where
+/// no reading counts, those of the week that they would make.
+int excludedOfLastDays(const ReadingList& readings, const MeasuringWeek& week) {
+    DayNumber last = noDay;
+    for (const ReadingModel& reading : readings)
+        if (isDatedExcluded(reading)) last = std::max(last, reading.day);
+    if (last == noDay) return 0;
+    return excludedOf(readings, week.end == noDay ? last - (daysOfWeek - 1) : week.begin, last);
 }
 
 WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {
@@ -105,9 +117,9 @@ MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule, s
     if (week.end != noDay) {
         week.begin = week.end - (daysOfWeek - 1);
         const std::size_t firstUsed = countDays(week, daysOf(readings, week), facts);
-        week.excluded = excludedOf(readings, week);
         addMeans(week, readings, week.begin + static_cast<DayNumber>(firstUsed));
     }
+    week.excluded = end ? excludedOf(readings, week.begin, week.end) : excludedOfLastDays(readings, week);
     week.missingDays = std::max(0, facts.days - week.daysUsed - week.daysLeftOut);
     week.missingReadings = std::max(0, facts.readings - static_cast<int>(week.readingsUsed()));
     return week;

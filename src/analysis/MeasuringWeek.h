@@ -50,7 +50,8 @@ struct MeasuringWeek {
     int daysUsed = 0; ///< measuring days that count
     int daysLeftOut = 0;
     int readingsLeftOut = 0; ///< those of the days left out
-    int excluded = 0;        ///< readings of the week that the user has left out
+    int excluded =
+        0; ///< readings of the week, or of later days where no end was told, that the user left out
     int missingDays = 0;
     int missingReadings = 0;
     int missingMornings = 0; ///< readings, like the next

@@ -6,16 +6,15 @@ namespace zel {
 
 namespace {
 
-bool isExcludedOfPeriod(const ReadingModel& reading, const ReadingSelection& selection) {
-    return reading.isExcluded()
-           && (hasUndatedMarker(reading) || selection.period.contains(*reading.ReadingDate));
-}
-
-int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection& selection) {
-    if (hasUndatedMarker(reading) && !selection.includeUndated) return &ReadingCount::undated;
-    if (isExcludedOfPeriod(reading, selection)) return &ReadingCount::excluded;
+/// Of a reading that the rule does not take: being excluded is the reason where nothing else is.
+int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection& selection, CountRule rule) {
+    const bool isMarked = hasUndatedMarker(reading);
+    if (isMarked && !selection.includeUndated) return &ReadingCount::undated;
+    if (isMarked && reading.isExcluded()) return &ReadingCount::excluded;
     if (reading.isUndated()) return &ReadingCount::withoutDate;
     if (!selection.period.contains(*reading.ReadingDate)) return &ReadingCount::outsidePeriod;
+    const bool isOfHalf = rule == isInStatistic || MatchedDataType(selection.view, reading.isPMData);
+    if (isOfHalf && reading.isExcluded()) return &ReadingCount::excluded;
     return reading.isPMData ? &ReadingCount::fromNoon : &ReadingCount::beforeNoon;
 }
 
@@ -27,7 +26,7 @@ ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& 
     ReadingCount count;
     for (const ReadingModel& reading : readings) {
         const bool isTaken = rule(reading, counted);
-        ++(count.*(isTaken ? &ReadingCount::counted : reasonFor(reading, counted)));
+        ++(count.*(isTaken ? &ReadingCount::counted : reasonFor(reading, counted, rule)));
         if (isTaken && reading.isExcluded()) ++count.listedExcluded;
     }
     return count;

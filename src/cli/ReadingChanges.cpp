@@ -140,6 +140,9 @@ CommandResult checkValues(const Request& request, const ReadingJob& job, const S
         if (exclusionReason(*reason).isEmpty())
             return wrongUsage(qtTrId("CliOptionMissing").arg(u"reason"_s));
     }
+    const auto isGiven = [&request](const QString& name) { return request.options.isSet(name); };
+    if (job.option == "change"_L1 && std::ranges::none_of(job.goesWith, isGiven))
+        return wrongUsage(qtTrId("CliChangeOfNothing"));
     if (job.hasValue) return requiredValue(request, job.option).map([](const QString&) {});
     for (const QString& name : job.goesWith)
         if (const auto value = requiredValue(request, name); !value) return tl::unexpected(value.error());

@@ -108,6 +108,17 @@ StoreResult put(const QByteArray& content, const QString& path, const QString& t
     return {};
 }
 
+/// \p path as the user is told of it
+StoreResult flushEach(std::initializer_list<QString> places, const QString& path) {
+    for (const QString& each : places) {
+        const Handle handle{::open(QFile::encodeName(each).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)};
+        const bool isFlushed =
+            !handle.isOpen() || uninterrupted([&] { return ::fsync(handle.get()); }) == 0 || errno == EINVAL;
+        if (!isFlushed) return failed(StoreErrorCode::notFlushed, path, systemWords(errno));
+    }
+    return {};
+}
+
 } // namespace
 
 StoreError writeError(int error, const QString& path) {
@@ -139,13 +150,11 @@ StoreResult makeFile(const QString& path, const QByteArray& content) {
 StoreResult flushNewFolder(const QString& folder) {
     const QString parent = QFileInfo{folder}.absolutePath();
     // Flushing any other folder writes FAT's table, before the name leads into it.
-    for (const QString& each : {QFileInfo{parent}.absolutePath(), parent}) {
-        const Handle handle{::open(QFile::encodeName(each).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-        const bool isFlushed =
-            !handle.isOpen() || uninterrupted([&] { return ::fsync(handle.get()); }) == 0 || errno == EINVAL;
-        if (!isFlushed) return failed(StoreErrorCode::notFlushed, folder, systemWords(errno));
-    }
-    return {};
+    return flushEach({QFileInfo{parent}.absolutePath(), parent}, folder);
+}
+
+StoreResult flushAgain(const QString& path) {
+    return flushEach({path, QFileInfo{path}.absolutePath()}, path);
 }
 
 void removeDeadReplacements(const QString& path) { removeDeadFiles(temporaryPrefix(realPath(path))); }

@@ -22,6 +22,9 @@ namespace zel {
 /// system.
 [[nodiscard]] StoreResult flushNewFolder(const QString& folder);
 
+/// Tries again to have a file outlast a power cut that was replaced, but not flushed then: notFlushed.
+[[nodiscard]] StoreResult flushAgain(const QString& path);
+
 /// Removes what programs left beside the file when they were killed while they replaced it.
 void removeDeadReplacements(const QString& path);
 

@@ -25,8 +25,9 @@ public:
     [[nodiscard]] const ChangeStep* redoable() const { return done < steps.size() ? &steps[done] : nullptr; }
 
     // Each may be called only if there is such a step.
-    void undone() { --done; }
-    void redone() { ++done; }
+    // As it was made in the file: what came back may have another number there.
+    void undone(ChangeStep step) { steps[--done] = std::move(step); }
+    void redone(ChangeStep step) { steps[done++] = std::move(step); }
     void dropUndoable() { steps.erase(steps.begin() + static_cast<std::ptrdiff_t>(--done)); }
     void dropRedoable() { steps.erase(steps.begin() + static_cast<std::ptrdiff_t>(done)); }
     void clear() { *this = {}; }

@@ -89,7 +89,8 @@ public:
     changeSetting(const SettingModel& shown, const SettingModel& wanted, WithoutPlace withoutPlace);
 
     /// Stores what a download brought for the patient, in the monitor's order, leaving out what is stored
-    /// already, with one log entry if anything is new; reloads.
+    /// already, with one log entry if anything is new; reloads. A typed reading with minute, pressures and
+    /// pulse of a new one is left out from now on.
     /// \return how many readings were new; on an error nothing was stored: noSuchRecord if the patient is no
     /// longer in the file
     [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(const QString& ID,

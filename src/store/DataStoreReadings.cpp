@@ -2,6 +2,7 @@
 
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
+#include "store/ReadingsBefore.h"
 #include "store/RecordXml.h"
 #include "store/Text.h"
 
@@ -86,15 +87,6 @@ bool hasSameReading(pugi::xml_node root, const ReadingModel& wanted, pugi::xml_n
     }));
 }
 
-QString freeReadingNumber(pugi::xml_node root) {
-    constexpr auto kind = Records::Counter::reading;
-    Records counters;
-    for (const pugi::xml_node node : root.children()) {
-        if (isElement(node, "MeasureRec")) counters.countID(kind, childText(node, "RecID"));
-    }
-    return counters.getMaxID(kind);
-}
-
 bool isDownloaded(const ReadingModel& reading) { return !reading.isManual; }
 
 } // namespace
@@ -114,7 +106,8 @@ StoreResult DataStore::changeReadings(StepKind kind, const ReadingList& asRead, 
         nameReadingStep(recorder, kind, root, asRead.front().ID, asRead.size());
         for (std::size_t i = 0; i < asRead.size() && found; ++i)
             found = change((*elements)[i], asRead[i], recorder);
-        return found ? Edit::changed : Edit::unchanged;
+        const bool isAnother = found && !recorder.step().changes.empty();
+        return isAnother ? Edit::changed : Edit::unchanged;
     });
     return changed && !found ? found : changed;
 }

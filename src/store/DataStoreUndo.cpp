@@ -12,7 +12,7 @@ StoreResult DataStore::redo() { return retrace(false); }
 StoreResult DataStore::retrace(bool back) {
     const ChangeStep* next = back ? history.undoable() : history.redoable();
     if (!next) return tl::unexpected{StoreError{StoreErrorCode::noStep, {}, {}}};
-    const ChangeStep step = back ? invert(*next) : *next;
+    ChangeStep step = back ? invert(*next) : *next;
     StoreResult applied;
     StoreResult written = edit([&](pugi::xml_node root) {
         applied = apply(root, step);
@@ -20,7 +20,7 @@ StoreResult DataStore::retrace(bool back) {
     });
     if (!isInPlace(written)) return written;
     if (applied)
-        back ? history.undone() : history.redone();
+        back ? history.undone(invert(step)) : history.redone(std::move(step));
     else
         back ? history.dropUndoable() : history.dropRedoable();
     emit historyChanged();

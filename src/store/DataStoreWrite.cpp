@@ -70,6 +70,16 @@ void number(ReadingList& readings, const QString& ID, QString next) {
     }
 }
 
+/// So that nothing that was measured counts twice.
+void leaveOutTyped(const std::vector<pugi::xml_node>& elements) {
+    for (const pugi::xml_node element : elements) {
+        const auto before = ReadingModel::initWithXMLNode(element);
+        ReadingModel excluded = before;
+        excluded.exclusion = qtTrId("ExcludedAsMeasured");
+        excluded.changeXMLNode(element, before);
+    }
+}
+
 void saveXMLDataTransfer(pugi::xml_node root, const DataTransferLogModel& log, const ReadingList& readings) {
     log.updateXMLNode(insertElement<DataTransferLogModel>(root, lastElement(root, "DataTransferLog")));
     pugi::xml_node last = placeForReadings(root, log.ID);
@@ -259,6 +269,7 @@ tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(const QString& 
         ReadingList added = newReadings(root, ID, std::move(downloaded));
         count = added.size();
         if (added.empty()) return Edit::unchanged;
+        leaveOutTyped(typedMeanwhileMeasured(root, ID, added));
         number(added, ID, current.getMaxID(Counter::reading));
         saveXMLDataTransfer(root, newDataLog(current, ID, count), added);
         return Edit::changed;

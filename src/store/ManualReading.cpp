@@ -10,6 +10,9 @@ namespace {
 
 auto minuteOf(Instant time) { return std::chrono::floor<std::chrono::minutes>(time); }
 
+constexpr std::chrono::sys_days firstManualDate{std::chrono::year{1900} / 1 / 1};
+constexpr DayNumber firstManualDay{firstManualDate.time_since_epoch().count()};
+
 bool isInRange(std::uint32_t value) { return leastManualValue <= value && value <= mostManualValue; }
 
 /// What an element can hold on one line.
@@ -47,6 +50,7 @@ Date typedTime(const QString& date, const QString& time) {
 
 std::optional<ManualProblem> manualProblem(const ManualReading& typed, Instant now) {
     if (!typed.time || isUndatedDay(LocalZone{}.day(typed.time))) return ManualProblem::noDate;
+    if (LocalZone{}.day(typed.time) < firstManualDay) return ManualProblem::tooEarly;
     if (minuteOf(*typed.time) > minuteOf(now)) return ManualProblem::inFuture;
     if (!isInRange(typed.sys)) return ManualProblem::sys;
     if (!isInRange(typed.dia)) return ManualProblem::dia;
@@ -59,6 +63,7 @@ QString describe(ManualProblem problem) {
     const auto range = [](const QString& text) { return text.arg(leastManualValue).arg(mostManualValue); };
     switch (problem) {
     case ManualProblem::noDate: return qtTrId("ManualNoDate");
+    case ManualProblem::tooEarly: return qtTrId("ManualTooEarly");
     case ManualProblem::inFuture: return qtTrId("ManualInFuture");
     case ManualProblem::sys: return range(qtTrId("ManualSys"));
     case ManualProblem::dia: return range(qtTrId("ManualDia"));

@@ -32,6 +32,7 @@ inline constexpr std::uint32_t mostManualValue = 300;
 
 enum class ManualProblem {
     noDate,   ///< none, or a day that stands for none in the file format
+    tooEarly, ///< before 1900: a slip of the year
     inFuture, ///< a minute after the present one
     sys,      ///< out of range, as are the next two
     dia,

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
+#include <set>
 
 namespace zel {
 
@@ -21,38 +23,39 @@ Likeness likeness(const ReadingModel& reading, const Date& time, const LocalZone
     return {isNilDay(zone.day(reading.ReadingDate)) ? Date{} : time, reading.values()};
 }
 
-/// What a reading that was typed in has of one: minute and the three values that the monitor shows.
-Likeness shownLikeness(const ReadingModel& reading, const Date& time) {
-    const auto minute = [](Instant at) { return Instant{std::chrono::floor<std::chrono::minutes>(at)}; };
-    return {time ? Date{minute(*time)} : time, {0, reading.pulse, reading.dia, reading.sys}};
+/// What a reading that was typed in has of one: minute and the three values that the monitor shows. None
+/// without a date.
+std::optional<Likeness> shownLikeness(const ReadingModel& reading, const Date& time, const LocalZone& zone) {
+    if (!time || isUndatedDay(zone.day(reading.ReadingDate))) return std::nullopt;
+    return Likeness{Date{Instant{std::chrono::floor<std::chrono::minutes>(*time)}},
+                    {0, reading.pulse, reading.dia, reading.sys}};
 }
 
-/// The monitor found an irregular heartbeat, which nobody types in.
-bool hasFinding(const ReadingModel& reading) { return reading.Arrhythmia == 2 || reading.Arrhythmia == 5; }
+/// What the file shows, whatever zone it was written in.
+Date wallClockOf(pugi::xml_node element) {
+    const QByteArray date = childText(element, "ReadingDate").toUtf8();
+    return XMLStrToWallClock({date.constData(), static_cast<std::size_t>(date.size())});
+}
+
+bool isReadingForID(pugi::xml_node element, const QString& ID) {
+    return isElement(element, "MeasureRec") && childText(element, "ID") == ID;
+}
 
 /// The stored readings that no reading of the download has been found to be yet.
 class UnmatchedReadings {
 public:
     UnmatchedReadings(pugi::xml_node root, const QString& ID, const LocalZone& zone) {
         for (const pugi::xml_node element : root.children()) {
-            if (!isElement(element, "MeasureRec") || childText(element, "ID") != ID) continue;
+            if (!isReadingForID(element, ID)) continue;
             const auto reading = ReadingModel::initWithXMLNode(element);
-            const QByteArray date = childText(element, "ReadingDate").toUtf8();
-            const Date wall = XMLStrToWallClock({date.constData(), static_cast<std::size_t>(date.size())});
-            byWall[likeness(reading, wall, zone)].push_back(isMatched.size());
+            if (reading.isManual) continue; // stands for nothing measured
+            byWall[likeness(reading, wallClockOf(element), zone)].push_back(isMatched.size());
             byInstant[likeness(reading, reading.ReadingDate, zone)].push_back(isMatched.size());
-            if (reading.isManual) {
-                typedByWall[shownLikeness(reading, wall)].push_back(isMatched.size());
-                typedByInstant[shownLikeness(reading, reading.ReadingDate)].push_back(isMatched.size());
-            }
             isMatched.push_back(false);
         }
     }
     bool matchWall(const Likeness& wanted) { return match(byWall, wanted); }
     bool matchInstant(const Likeness& wanted) { return match(byInstant, wanted); }
-    bool matchTyped(const Likeness& wall, const Likeness& instant) {
-        return match(typedByWall, wall) || match(typedByInstant, instant);
-    }
 
 private:
     using Index = std::map<Likeness, std::vector<std::size_t>>;
@@ -70,8 +73,6 @@ private:
     }
     Index byWall;
     Index byInstant;
-    Index typedByWall;
-    Index typedByInstant;
     std::vector<bool> isMatched;
 };
 
@@ -87,12 +88,31 @@ ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList down
     std::erase_if(downloaded, [&](const ReadingModel& reading) {
         return stored.matchInstant(likeness(reading, reading.ReadingDate, zone));
     });
-    std::erase_if(downloaded, [&](const ReadingModel& reading) {
-        return !hasFinding(reading)
-               && stored.matchTyped(shownLikeness(reading, zone.wallClock(reading.ReadingDate)),
-                                    shownLikeness(reading, reading.ReadingDate));
-    });
     return downloaded;
+}
+
+std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QString& ID,
+                                                   const ReadingList& measured) {
+    const LocalZone zone;
+    std::set<Likeness> byWall;
+    std::set<Likeness> byInstant;
+    for (const ReadingModel& reading : measured) {
+        if (const auto wall = shownLikeness(reading, zone.wallClock(reading.ReadingDate), zone))
+            byWall.insert(*wall);
+        if (const auto instant = shownLikeness(reading, reading.ReadingDate, zone))
+            byInstant.insert(*instant);
+    }
+    std::vector<pugi::xml_node> found;
+    for (const pugi::xml_node element : root.children()) {
+        if (!isReadingForID(element, ID)) continue;
+        const auto reading = ReadingModel::initWithXMLNode(element);
+        if (!reading.isManual || reading.isExcluded()) continue;
+        const auto instant = shownLikeness(reading, reading.ReadingDate, zone);
+        const auto wall = shownLikeness(reading, wallClockOf(element), zone);
+        if ((instant && byInstant.contains(*instant)) || (wall && byWall.contains(*wall)))
+            found.push_back(element);
+    }
+    return found;
 }
 
 } // namespace zel

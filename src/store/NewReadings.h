@@ -7,13 +7,19 @@
 
 #include <pugixml.hpp>
 
+#include <vector>
+
 namespace zel {
 
 /// Those of \p downloaded that the patient with that ID does not have below \p root, in their order. A
 /// reading is stored if one with equal values is of the same instant or shows the same date and time in its
-/// text: the monitor's clock knows no time zone. One that the user typed in stands for one of that minute
-/// with the same pressures and pulse, unless the monitor found an irregular heartbeat. Each stored reading
+/// text: the monitor's clock knows no time zone. One that was typed in stands for none. Each stored reading
 /// stands for one of the download, so that of two equal ones the second is new when one is stored.
 [[nodiscard]] ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList downloaded);
+
+/// The patient's typed readings that count, and that have minute, pressures and pulse of one of those
+/// \p measured: they were typed off the monitor, and would count twice.
+[[nodiscard]] std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QString& ID,
+                                                                 const ReadingList& measured);
 
 } // namespace zel

@@ -121,6 +121,23 @@ void removeDeadCopies(const SecondFolder& there) {
         removeDeadReplacements(there.path(name.mid(1, name.lastIndexOf(mark) - 1)));
 }
 
+SecondFolderResult makeCopy(const QString& backups, const Backup& copy, const SecondFolder& to) {
+    removeDeadCopies(to);
+    const auto bytes = readFile(backups + u'/' + copy.name);
+    if (!bytes) return refusal(failed, to.folder, describe(bytes.error()));
+    const StoreResult written = replaceFile(to.path(copy.name), *bytes);
+    if (written) return {};
+    const StoreError& why = written.error();
+    if (isInPlace(written)) return refusal(notFlushed, to.folder, why.detail);
+    return refusal(failed, to.folder, why.detail.isEmpty() ? describe(why) : why.detail);
+}
+
+/// Perhaps it was told as one that may not outlast a power cut: it is done only once it does.
+SecondFolderResult makeLast(const SecondFolder& to, const Backup& copy) {
+    const StoreResult flushed = flushAgain(to.path(copy.name));
+    return flushed ? SecondFolderResult{} : refusal(notFlushed, to.folder, flushed.error().detail);
+}
+
 } // namespace
 
 QString SecondFolder::copies() const { return folder + u"/ZEL-"_s + mark; }
@@ -184,18 +201,11 @@ SecondFolderResult bringCopy(const QString& backups, const SecondFolder& to, Day
     const auto copy = copyOfDay(backups, day);
     if (!copy) return {};
     if (!to.isThere()) return refusal(away, to.folder);
-    if (const auto there = copyOfDay(to.copies(), day); there && there->size == copy->size) return {};
+    const auto there = copyOfDay(to.copies(), day);
+    const bool isThere = there && there->size == copy->size;
     const qint64 most = roomThere(to);
-    if (copy->size > most) return refusal(noRoom, to.folder);
-    const QString target = to.path(copy->name);
-    removeDeadCopies(to);
-    const auto bytes = readFile(backups + u'/' + copy->name);
-    if (!bytes) return refusal(failed, to.folder, describe(bytes.error()));
-    if (const StoreResult written = replaceFile(target, *bytes); !written) {
-        const StoreError& why = written.error();
-        if (isInPlace(written)) return refusal(notFlushed, to.folder, why.detail);
-        return refusal(failed, to.folder, why.detail.isEmpty() ? describe(why) : why.detail);
-    }
+    if (!isThere && copy->size > most) return refusal(noRoom, to.folder);
+    if (const auto made = isThere ? makeLast(to, *there) : makeCopy(backups, *copy, to); !made) return made;
     for (const Backup& old : superfluousBackups(to.list(), most))
         if (!QFile::remove(to.path(old.name)))
             qCInfo(lcStore, "A copy in the second folder could not be removed");

@@ -51,8 +51,9 @@ secondFolder(const QString& dataFile);
 /// From now on copies go there; an empty \p folder ends that, and leaves those that are there.
 [[nodiscard]] SecondFolderResult nameSecondFolder(const QString& dataFile, const QString& folder);
 
-/// Copies the daily copy of \p day from \p backups, the usual folder, unless it is there already, and removes
-/// daily copies that are kept no longer (superfluousBackups()); nothing if there is none of that day.
+/// Copies the daily copy of \p day from \p backups, the usual folder, unless it is there already, when it is
+/// flushed again, and removes daily copies that are kept no longer (superfluousBackups()); nothing if there
+/// is none of that day.
 [[nodiscard]] SecondFolderResult bringCopy(const QString& backups, const SecondFolder& to, DayNumber day);
 /// Makes a copy that lies there one of the usual folder, from where it can be restored. \return its name
 [[nodiscard]] tl::expected<QString, StoreError> fetchCopy(const QString& backups, const QString& path,

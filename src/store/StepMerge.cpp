@@ -3,11 +3,14 @@
 #include "store/DocumentElements.h"
 #include "store/ElementMerge.h"
 #include "store/ElementText.h"
+#include "store/ReadingsBefore.h"
 #include "store/RootIndex.h"
 #include "store/Text.h"
 
 #include <QSet>
 
+#include <algorithm>
+#include <optional>
 #include <string>
 
 namespace zel {
@@ -25,13 +28,19 @@ bool isPatientsRecord(pugi::xml_node node) {
     return isElement(node, "Comment") || isElement(node, "MeasureRec");
 }
 
+/// Not looked at in full: there may be very many.
+bool mayBringTyped(const ElementChange& change) {
+    return change.after.startsWith("<MeasureRec") && change.after.contains("manual");
+}
+
 class StepMerge {
 public:
     explicit StepMerge(pugi::xml_node documentRoot) : root{documentRoot}, index{documentRoot} {}
 
-    [[nodiscard]] StoreResult make(const ChangeStep& step) {
+    [[nodiscard]] StoreResult make(ChangeStep& step) {
         if (isThereAgain(step)) return stepError(StoreErrorCode::stepThere);
-        for (const ElementChange& change : step.changes)
+        if (std::ranges::any_of(step.changes, mayBringTyped)) atFirst.emplace(root);
+        for (ElementChange& change : step.changes)
             if (StoreResult made = make(change); !made) return made;
         return belongsTogether();
     }
@@ -47,7 +56,7 @@ private:
                          : isElement(after.node(), "Comment") && index.same(after.node());
     }
 
-    [[nodiscard]] StoreResult make(const ElementChange& change) {
+    [[nodiscard]] StoreResult make(ElementChange& change) {
         if (change.before.isEmpty()) return add(change);
         const Fragment before{change.before};
         const pugi::xml_node same = index.same(before.node());
@@ -56,13 +65,37 @@ private:
         if (alike.empty()) return stepError(StoreErrorCode::stepGone);
         if (!same && alike.size() > 1) return stepError(StoreErrorCode::stepChanged);
         const Fragment after{change.after};
-        if (!mergeChildren(same ? same : alike.front(), before.node(), after.node()))
+        const pugi::xml_node target = same ? same : alike.front();
+        const auto asItWas = ReadingModel::initWithXMLNode(target);
+        if (!mergeChildren(target, before.node(), after.node()))
             return stepError(StoreErrorCode::stepChanged);
-        return {};
+        return wouldCountTwice(target, &asItWas) ? stepError(StoreErrorCode::stepThere) : StoreResult{};
     }
 
-    [[nodiscard]] StoreResult add(const ElementChange& change) {
+    /// A typed reading that comes back, or is changed from \p asItWas, beside one that a download has
+    /// brought.
+    [[nodiscard]] bool wouldCountTwice(pugi::xml_node element, const ReadingModel* asItWas) {
+        if (!isElement(element, "MeasureRec")) return false;
+        const auto reading = ReadingModel::initWithXMLNode(element);
+        if (!reading.isManual || reading.isExcluded()) return false;
+        const bool isAsItWas =
+            asItWas && asItWas->isSame(reading) && asItWas->isExcluded() == reading.isExcluded();
+        return !isAsItWas && atFirst && atFirst->hasCounting(reading);
+    }
+
+    /// A typed reading whose number a download has taken gets another one, in the step, too.
+    void renumber(pugi::xml_node element, ElementChange& change) {
+        if (!isElement(element, "MeasureRec")) return;
+        const auto reading = ReadingModel::initWithXMLNode(element);
+        if (!reading.isManual || !atFirst || !atFirst->hasNumber(reading)) return;
+        setElementText(firstElement(element, "RecID"), freeReadingNumber(root));
+        change.after = rawText(element);
+    }
+
+    [[nodiscard]] StoreResult add(ElementChange& change) {
         const Fragment after{change.after};
+        if (wouldCountTwice(after.node(), nullptr)) return stepError(StoreErrorCode::stepThere);
+        renumber(after.node(), change);
         const QString ID = childText(after.node(), "ID");
         if (isPatientElement(after.node())) {
             hasPatients = true;
@@ -126,6 +159,7 @@ private:
 
     pugi::xml_node root;
     RootIndex index;
+    std::optional<ReadingsBefore> atFirst; ///< where the step brings a typed reading
     QByteArray lastPrevious;
     std::string lastKind;
     pugi::xml_node lastPlace;
@@ -136,6 +170,6 @@ private:
 
 } // namespace
 
-StoreResult apply(pugi::xml_node root, const ChangeStep& step) { return StepMerge{root}.make(step); }
+StoreResult apply(pugi::xml_node root, ChangeStep& step) { return StepMerge{root}.make(step); }
 
 } // namespace zel

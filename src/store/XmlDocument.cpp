@@ -45,7 +45,7 @@ struct Survey {
     bool hasEqualsSign = false;   ///< after the declaration: perhaps an attribute's
     bool hasNonCharacter = false; ///< U+FFFE or U+FFFF
     bool hasCdata = false;
-    bool hasBlankFirst = false; ///< before which a declaration says nothing about the encoding
+    bool hasBlankFirst = false; ///< what a declaration behind it says of the encoding was not read
     std::size_t parts = 0;      ///< half as many as elements, attributes and pieces of text, or more
     std::size_t tags = 0;       ///< of these, begins of tags
 };
@@ -213,6 +213,12 @@ QString parserWords(const pugi::xml_parse_result& result, const QByteArray& utf8
     return qtTrId("XmlErrorNearLine").arg(line).arg(QString::fromLatin1(result.description()));
 }
 
+/// Read as UTF-8, and written as what it names, it would have other characters.
+bool namesOtherEncoding(pugi::xml_node declaration) {
+    const QByteArray named{declaration.attribute("encoding").value()};
+    return !named.isEmpty() && named.compare("UTF-8", Qt::CaseInsensitive) != 0;
+}
+
 /// What is wrong with the parsed document as a whole, or an empty text.
 QString documentFault(const pugi::xml_document& tree, const Survey& seen) {
     qsizetype roots = 0;
@@ -221,7 +227,8 @@ QString documentFault(const pugi::xml_document& tree, const Survey& seen) {
         if (type == pugi::node_element) ++roots;
         if (type == pugi::node_pcdata || type == pugi::node_cdata) return qtTrId("XmlTextOutsideRoot");
         const bool isMisplaced =
-            (type == pugi::node_declaration && (seen.hasBlankFirst || node != tree.first_child()))
+            (type == pugi::node_declaration
+             && (node != tree.first_child() || (seen.hasBlankFirst && namesOtherEncoding(node))))
             || (type == pugi::node_doctype && roots > 0);
         if (isMisplaced) return qtTrId("XmlMisplacedDeclaration");
     }

@@ -236,8 +236,14 @@ TEST(MeasuringWeek, WhatIsLeftOutIsCountedApart) {
     const MeasuringWeek week = calcMeasuringWeek(readings, AverageRule::aha);
     EXPECT_EQ(week.end, lastOfWeek - 1) << "the last day with a reading that counts";
     EXPECT_EQ(week.readingsUsed(), 3U);
-    EXPECT_EQ(week.excluded, 2) << "a day more belongs to this week";
+    EXPECT_EQ(week.excluded, 3) << "a day more belongs to this week, and the last day is none of another";
     EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha, lastOfWeek).excluded, 2);
+    EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha, lastOfWeek - 1).excluded, 2);
+    for (ReadingModel& reading : readings)
+        reading.exclusion = u""_s;
+    const MeasuringWeek none = calcMeasuringWeek(readings, AverageRule::aha);
+    EXPECT_EQ(none.end, noDay);
+    EXPECT_EQ(none.excluded, 5) << "of seven days";
 }
 
 TEST(MeasuringWeek, MorningIsBeforeNoon) {

@@ -78,5 +78,28 @@ TEST(ReadingCount, WhatIsExcludedIsListedAndCountsNowhere) {
     EXPECT_EQ(calcHistogram(sample.readings, sample.selection).total, 1);
 }
 
+TEST(ReadingCount, WhatTheHalfOfTheDayLeavesOutIsNotToldAsExcluded) {
+    ReadingSelection selection = during("2019-03-01", "2019-03-31");
+    ReadingList readings = readingsAt({"2019-03-02 08:00", "2019-03-03 20:00"});
+    for (ReadingModel& reading : readings)
+        reading.exclusion = u""_s;
+    const struct {
+        ViewSelection view;
+        CountRule rule;
+        ReadingCount count;
+    } cases[] = {
+        {ViewSelection::amOnly, isListed, {.counted = 1, .fromNoon = 1, .listedExcluded = 1}},
+        {ViewSelection::pmOnly, isListed, {.counted = 1, .beforeNoon = 1, .listedExcluded = 1}},
+        {ViewSelection::amOnly, isCounted, {.fromNoon = 1, .excluded = 1}},
+        {ViewSelection::pmOnly, isInChart, {.beforeNoon = 1, .excluded = 1}},
+        {ViewSelection::amOnly, isInStatistic, {.excluded = 2}},
+        {ViewSelection::custom, isCounted, {.excluded = 2}},
+    };
+    for (const auto& [view, rule, count] : cases) {
+        selection.view = view;
+        EXPECT_EQ(countReadings(readings, selection, rule), count) << static_cast<int>(view);
+    }
+}
+
 } // namespace
 } // namespace zel

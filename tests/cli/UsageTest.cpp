@@ -71,6 +71,7 @@ TEST_F(CliTest, WrongUsageSaysWhatIsWrongAndTouchesNothing) {
         {"readings --patient A --include 1 --from 2026-01-01", "--include and --from"},
         {"readings --patient A --include 1 --numbers", "--include and --numbers"},
         {"readings --patient A --delete 1 --sys 120", "--delete and --sys"},
+        {"readings --patient A --change 1", "at least one of"},
         {"readings --patient A --reason x", "--reason goes with"},
         {"readings --patient A --pulse 60", "--change"},
         {"readings --patient A --add --date 2026-11-20 --time 07:00 --sys 120 --dia 80",

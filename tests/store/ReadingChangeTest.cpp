@@ -151,6 +151,9 @@ TEST_F(ReadingChangeTest, TypedReadingHasToBeOne) {
         {typed("2026-02-29 08:00"), ManualProblem::noDate},
         {typed("2000-01-01 08:00"), ManualProblem::noDate},
         {typed("0001-05-05 08:00"), ManualProblem::noDate},
+        {typed("0206-11-20 08:00"), ManualProblem::tooEarly},
+        {typed("1899-12-31 23:59"), ManualProblem::tooEarly},
+        {typed("1900-01-01 00:00"), {}},
         {typed("2026-11-20 08:00", 300, 30, 30), {}},
         {typed("2026-11-20 08:01", 31, 30, 300), {}},
         {typed("2026-11-20 08:00", 301), ManualProblem::sys},
@@ -199,6 +202,18 @@ TEST_F(ReadingChangeTest, NoReadingIsThereTwice) {
     ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-20 07:30", 150, 90, 71))) << "another patient's";
 }
 
+TEST_F(ReadingChangeTest, SavingNothingWritesNothing) {
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 71)));
+    const ReadingModel added = readings().back();
+    ASSERT_TRUE(store.excludeReadings({readings().front()}, u"x"_s));
+    elsewhere("<ZEL>", "<ZEL>\n\n\n"); // a write would lay it out anew
+    const QByteArray before = content();
+    EXPECT_TRUE(store.excludeReadings({readings().front()}, u" x "_s));
+    EXPECT_TRUE(store.changeReading(added, ManualReading::of(added)));
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(store.changes().undoable()->name.kind, StepKind::excludeReadings);
+}
+
 TEST_F(ReadingChangeTest, OnlyTypedReadingsAreChangedAndDeleted) {
     for (const char* source : {"", "<Source/>", "<Source>import</Source>", "<Source>Manual</Source>"}) {
         setData(QByteArray{ofMonitor}.replace("<Own>", QByteArray{source} + "<Own>"));
@@ -214,24 +229,91 @@ TEST_F(ReadingChangeTest, OnlyTypedReadingsAreChangedAndDeleted) {
 TEST_F(ReadingChangeTest, DownloadLeavesMarksAloneAndBringsNothingTwice) {
     ASSERT_EQ(store.newDataTransfer({downloaded("2026-11-18 07:00")}).value_or(9), 1U);
     ASSERT_TRUE(store.excludeReadings({readings().back()}, u"x"_s));
+    const QByteArray before = content();
+    const auto brings = [this](const char* time) {
+        return store.newDataTransfer({downloaded(time)}).value_or(9);
+    };
+    EXPECT_EQ(brings("2026-11-18 07:00"), 0U);
+    const InZone away{"Asia/Tokyo"};
+    EXPECT_EQ(brings("2026-11-18 07:00"), 0U) << "by what the monitor's clock shows";
+    EXPECT_EQ(brings("2026-11-18 16:00"), 0U) << "by its instant";
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
+    const RealTexts texts;
+    const std::string left = "120/80!measured by the monitor, toom 120/80 ";
+    const struct {
+        const char* what;
+        const char* time;
+        std::uint32_t arrhythmia;
+        const char* zone;
+        std::string shown;
+    } cases[] = {
+        {"with a finding that nobody types in", "2026-11-19 07:00", 2, "UTC", left},
+        {"with nothing but what was typed", "2026-11-19 07:00", 0, "UTC", left},
+        {"by what the monitor's clock shows", "2026-11-19 07:00", 1, "Asia/Tokyo", left},
+        {"by its instant", "2026-11-19 16:00", 1, "Asia/Tokyo", left},
+        {"a minute later", "2026-11-19 07:01", 1, "UTC", "120/80m 120/80 "},
+    };
+    for (const auto& [what, time, arrhythmia, zoneName, expected] : cases) {
+        const InZone here{"UTC"};
+        setData({});
+        ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-19 07:00")));
+        ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+        const InZone there{zoneName};
+        ReadingModel measured = downloaded(time, arrhythmia);
+        EXPECT_EQ(store.newDataTransfer({measured}).value_or(9), 1U) << what;
+        EXPECT_EQ(shown(), expected) << what;
+        EXPECT_EQ(store.newDataTransfer({measured}).value_or(9), 0U) << what;
+        EXPECT_EQ(content().count("<Excluded>"), expected == left ? 1 : 0) << "not another patient's";
+    }
+    setData({});
     ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
     ASSERT_TRUE(store.excludeReadings({readings().back()}, u"y"_s));
-    const QByteArray before = content();
-    const auto brings = [this](const char* time, std::uint32_t arrhythmia) {
-        return store.newDataTransfer({downloaded(time, arrhythmia)}).value_or(9);
+    ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 07:00")}));
+    EXPECT_EQ(shown(), "120/80!ym 120/80 ") << "left out before: as it was";
+    ASSERT_TRUE(store.includeReadings({readings().front()}));
+    EXPECT_EQ(store.newDataTransfer({downloaded("2026-11-19 07:00")}).value_or(9), 0U);
+    EXPECT_EQ(shown(), "120/80m 120/80 ") << "taken in since: the user's choice";
+}
+
+TEST_F(ReadingChangeTest, NothingComesBackBesideWhatADownloadBrought) {
+    const auto add = [this] { ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00"))); };
+    const auto edit = [this] {
+        ASSERT_TRUE(store.changeReading(readings().front(), typed("2026-11-19 07:00", 125)));
     };
-    EXPECT_EQ(brings("2026-11-18 07:00", 1), 0U);
-    EXPECT_EQ(brings("2026-11-19 07:00", 1), 0U) << "typed in before";
-    {
-        const InZone away{"Asia/Tokyo"};
-        EXPECT_EQ(brings("2026-11-19 07:00", 1), 0U) << "by what the monitor's clock shows";
-        EXPECT_EQ(brings("2026-11-19 16:00", 4), 0U) << "by its instant";
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        const char* measuredAt;
+        std::optional<StoreErrorCode> refusal;
+        std::string shown, redone;
+    } cases[] = {
+        {"deleted", [this] { ASSERT_TRUE(store.deleteReadings({readings().front()})); }, "2026-11-19 07:00",
+         stepThere, "120/80 ", "120/80 "},
+        {"deleted, its number taken", [this] { ASSERT_TRUE(store.deleteReadings({readings().front()})); },
+         "2026-11-19 07:01", std::nullopt, "120/80m 120/80 ", "120/80 "},
+        {"changed", edit, "2026-11-19 07:00", stepThere, "125/80m 120/80 ", "125/80m 120/80 "},
+        {"changed, and another", edit, "2026-11-19 07:01", std::nullopt, "120/80m 120/80 ",
+         "125/80m 120/80 "},
+        {"left out", [this] { ASSERT_TRUE(store.excludeReadings({readings().front()}, u"x"_s)); },
+         "2026-11-19 07:00", stepThere, "120/80!xm 120/80 ", "120/80!xm 120/80 "},
+    };
+    for (const auto& [what, act, measuredAt, refusal, expected, redone] : cases) {
+        setData({});
+        add();
+        act();
+        ASSERT_TRUE(store.newDataTransfer({downloaded(measuredAt)}));
+        EXPECT_EQ(codeOf(store.undo()), refusal) << what;
+        EXPECT_EQ(shown(), expected) << what;
+        QSet<QString> numbers;
+        for (const ReadingModel& reading : readings())
+            numbers.insert(reading.RecID);
+        EXPECT_EQ(numbers.size(), static_cast<qsizetype>(readings().size())) << what;
+        EXPECT_EQ(codeOf(store.redo()), refusal ? std::optional{noStep} : std::nullopt) << what;
+        EXPECT_EQ(shown(), redone) << what;
     }
-    EXPECT_EQ(content(), before);
-    EXPECT_EQ(brings("2026-11-19 07:00", 2), 1U) << "an irregular heartbeat is nothing that was typed in";
-    EXPECT_EQ(brings("2026-11-19 07:00", 2), 0U);
-    EXPECT_EQ(brings("2026-11-19 07:01", 1), 1U);
-    EXPECT_EQ(content().count("<Excluded>"), 2);
 }
 
 TEST_F(ReadingChangeTest, ExportAndImportKeepMarks) {

@@ -53,6 +53,12 @@ TEST_F(SecondFolderTest, TheDaysCopyGoesThereAndIsReadFromThere) {
     const auto asCopied = QFileInfo{there}.lastModified();
     EXPECT_EQ(bring(), std::nullopt);
     EXPECT_EQ(QFileInfo{there}.lastModified(), asCopied) << "once";
+    for (int day = 10; day < 29; ++day)
+        write(named().copies() + u"/ZEL-2020-01-%1.xml"_s.arg(day), "<ZEL/>");
+    EXPECT_EQ(bring(), std::nullopt);
+    EXPECT_LT(named().list().size(), 19U) << "no more of them than are kept";
+    for (const Backup& old : named().list())
+        if (old.name.startsWith("ZEL-2020"_L1)) QFile::remove(named().path(old.name));
     QDir{backups}.removeRecursively();
     const auto fetched = fetchCopy(backups, there, Instant{});
     ASSERT_TRUE(fetched);

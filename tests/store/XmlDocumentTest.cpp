@@ -77,6 +77,16 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
     }
 }
 
+TEST(XmlDocument, TakesABlankBeforeADeclarationOfUtf8) {
+    for (const char* encoding : {"", " encoding=\"UTF-8\"", " encoding='utf-8'", " encoding=\"\""}) {
+        const QByteArray declaration = QByteArray{"<?xml version=\"1.0\""} + encoding + "?>";
+        const auto document = XmlDocument::parse("\r\n " + declaration + "<ZEL><A>\xC3\xA4</A></ZEL>");
+        ASSERT_TRUE(document) << encoding;
+        const QByteArray again = document->serialise().value_or(QByteArray{});
+        EXPECT_TRUE(again.startsWith("<?xml") && again.contains("\xC3\xA4")) << again.constData();
+    }
+}
+
 TEST(XmlDocument, KeepsEverythingItDoesNotKnow) {
     auto document = XmlDocument::parse(QByteArray::fromStdString(good));
     ASSERT_TRUE(document);

@@ -41,6 +41,7 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     setObjectName(u"ManualReadingDialog"_s);
     setWindowTitle(qtTrId("newReadingTitle"));
     day->setFormat(settings.dateFormat);
+    day->setMinimumDate({1900, 1, 1});
     time->setObjectName(u"readingTime"_s);
     time->setAccessibleName(qtTrId("readingTime"));
     time->setDisplayFormat(settings.is12Hours() ? u"hh:mm AP"_s : timePattern);
@@ -84,6 +85,7 @@ void ManualReadingDialog::showTime(Instant at) {
 
 void ManualReadingDialog::setReading(const ManualReading& known) {
     setWindowTitle(qtTrId("changeReadingTitle"));
+    day->clearMinimumDate(); // an earlier date is shown as it is, to be mended
     if (known.time) showTime(*known.time);
     for (const auto& [field, value] :
          {std::pair(sys, known.sys), std::pair(dia, known.dia), std::pair(pulse, known.pulse)})
@@ -101,6 +103,7 @@ ManualReading ManualReadingDialog::typed() const {
 QWidget* ManualReadingDialog::fieldOf(ManualProblem problem) const {
     switch (problem) {
     case ManualProblem::noDate:
+    case ManualProblem::tooEarly:
     case ManualProblem::inFuture: return day;
     case ManualProblem::sys: return sys;
     case ManualProblem::dia:

@@ -1,0 +1,39 @@
+#include "store/ReadingsBefore.h"
+
+#include "store/DocumentElements.h"
+#include "store/Records.h"
+
+namespace zel {
+
+ReadingsBefore::ReadingsBefore(pugi::xml_node root) {
+    for (const pugi::xml_node node : root.children()) {
+        if (!isElement(node, "MeasureRec")) continue;
+        const auto reading = ReadingModel::initWithXMLNode(node);
+        numbers.emplace(reading.ID, reading.RecID);
+        if (!reading.isExcluded() && reading.ReadingDate) counting.insert(likeness(reading));
+    }
+}
+
+bool ReadingsBefore::hasCounting(const ReadingModel& reading) const {
+    return reading.ReadingDate && counting.contains(likeness(reading));
+}
+
+bool ReadingsBefore::hasNumber(const ReadingModel& reading) const {
+    return numbers.contains({reading.ID, reading.RecID});
+}
+
+ReadingsBefore::Likeness ReadingsBefore::likeness(const ReadingModel& reading) {
+    const Instant minute{std::chrono::floor<std::chrono::minutes>(*reading.ReadingDate)};
+    return {reading.ID, minute, reading.sys, reading.dia, reading.pulse};
+}
+
+QString freeReadingNumber(pugi::xml_node root) {
+    constexpr auto kind = Records::Counter::reading;
+    Records counters;
+    for (const pugi::xml_node node : root.children()) {
+        if (isElement(node, "MeasureRec")) counters.countID(kind, childText(node, "RecID"));
+    }
+    return counters.getMaxID(kind);
+}
+
+} // namespace zel
