@@ -6,15 +6,15 @@ namespace zel {
 
 namespace {
 
-/// Of a reading that the rule does not take: being excluded is the reason where nothing else is.
+/// Of a reading that the rule does not take. What is excluded counts nowhere, whatever the half of the day.
 int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection& selection, CountRule rule) {
     const bool isMarked = hasUndatedMarker(reading);
     if (isMarked && !selection.includeUndated) return &ReadingCount::undated;
     if (isMarked && reading.isExcluded()) return &ReadingCount::excluded;
     if (reading.isUndated()) return &ReadingCount::withoutDate;
     if (!selection.period.contains(*reading.ReadingDate)) return &ReadingCount::outsidePeriod;
-    const bool isOfHalf = rule == isInStatistic || MatchedDataType(selection.view, reading.isPMData);
-    if (isOfHalf && reading.isExcluded()) return &ReadingCount::excluded;
+    // The list has excluded ones, too.
+    if (rule != isListed && reading.isExcluded()) return &ReadingCount::excluded;
     return reading.isPMData ? &ReadingCount::fromNoon : &ReadingCount::beforeNoon;
 }
 
