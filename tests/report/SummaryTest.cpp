@@ -25,7 +25,7 @@ QStringList wordsOf(const PrintView& view) {
 
 void exclude(SampleReport& sample, int count, const QString& reason) {
     for (int i = 0; i < count; ++i)
-        sample.readings[static_cast<std::size_t>(2 * i)].exclusion = reason;
+        sample.readings[2 * static_cast<std::size_t>(i)].exclusion = reason;
 }
 
 ReadingModel& add(SampleReport& sample, const char* time, std::uint32_t sys, std::uint32_t dia,
@@ -123,8 +123,8 @@ TEST(Summary, isOnePageThatCanBeReadWhateverTheData) {
                 << what << ": how to read it is cut";
             for (std::size_t i = 0; i < texts.size(); ++i) {
                 const Rect box = boxOf(texts[i]);
-                const auto told = [&] {
-                    return (QLatin1String(what) + u": "_s + texts[i].text).toStdString();
+                const auto told = [what = what, &text = texts[i].text] {
+                    return (QLatin1String(what) + u": "_s + text).toStdString();
                 };
                 EXPECT_GE(texts[i].attribute.size, smallest) << told();
                 EXPECT_EQ(texts[i].attribute.color, QColor(Qt::black)) << told();
@@ -315,7 +315,8 @@ TEST(Summary, theLineThatCountsTheOtherCommentsHasRoom) {
             SampleReport sample(1);
             const int lines[] = {pattern % 3, pattern / 3 % 3, pattern / 9};
             for (int i = 0; i < 30; ++i)
-                sample.addComment("2019-02-01", "2019-02-01", 1, u"Long walk. "_s.repeated(6 * lines[i % 3]));
+                sample.addComment("2019-02-01", "2019-02-01", 1,
+                                  u"Long walk. "_s.repeated(qsizetype{6} * lines[i % 3]));
             const PrintView view = sample.view(paper);
             for (const TextLine& line : textsOf(view.page(Section::summary, 1))) {
                 if (!line.text.contains("more comments"_L1)) continue;
