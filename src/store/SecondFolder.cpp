@@ -205,7 +205,7 @@ SecondFolderResult bringCopy(const QString& backups, const SecondFolder& to, Day
     const bool isThere = there && there->size == copy->size;
     const qint64 most = roomThere(to);
     if (!isThere && copy->size > most) return refusal(noRoom, to.folder);
-    if (const auto made = isThere ? makeLast(to, *there) : makeCopy(backups, *copy, to); !made) return made;
+    if (auto made = isThere ? makeLast(to, *there) : makeCopy(backups, *copy, to); !made) return made;
     for (const Backup& old : superfluousBackups(to.list(), most))
         if (!QFile::remove(to.path(old.name)))
             qCInfo(lcStore, "A copy in the second folder could not be removed");
