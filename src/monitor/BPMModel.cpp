@@ -133,7 +133,8 @@ MonitorExpected<QString> BPMModel::Link::askVersion() {
     gsVersion.clear();
     const auto reply = commands.getBPMVersion();
     if (!reply) return tl::unexpected(reply.error());
-    gsVersion = fromMonitor(std::string_view(*reply).substr(versionPrefix.size(), 2)).toUpper();
+    const QByteArray code = QByteArray::fromStdString(*reply).mid(qsizetype(versionPrefix.size()), 2);
+    gsVersion = QString::fromLatin1(code.toUpper()); // that of bytes makes none longer
     return gsVersion;
 }
 

@@ -60,6 +60,7 @@ TEST(ReadingDecoder, Dates) {
     EXPECT_EQ(*dated("xx00000000").ReadingDate, getNilReadingDate());
     EXPECT_FALSE(dated("1913221405").ReadingDate.has_value());
     EXPECT_FALSE(dated("19032214z5").ReadingDate.has_value());
+    EXPECT_FALSE(dated("2062221 02").ReadingDate.has_value()) << "no year 202";
     EXPECT_EQ(dateText(dated("2402292359")), QStringLiteral("2024-02-29 23:59"));
 }
 
