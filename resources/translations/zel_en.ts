@@ -1155,7 +1155,7 @@ Options:
   --reason TEXT                why
   --include RECORD             have it count again
   --add                        store a reading that you type in
-  --change RECORD              change one that was typed in; what is not given stays as it is
+  --change RECORD              change one that was typed in; give at least one value; the others stay as they are
   --delete RECORD              delete one that was typed in
   --date DAY                   the day on which it was taken (yyyy-MM-dd)
   --time HH:MM                 the time, from 00:00 to 23:59

@@ -34,22 +34,40 @@ StoreResult DataStore::load() {
 
 void DataStore::loadViewLimits() {
     const auto read = readViewLimits(getZELXMLPath());
-    highFrom = read.value_or(ViewLimits{});
+    limitsSeen = highFrom = read.value_or(ViewLimits{});
     highFromRead = read ? StoreResult{} : tl::unexpected{read.error()};
+}
+
+/// What another program chose since; what was chosen here stays where it could not be written.
+void DataStore::takeViewLimits() {
+    const auto read = readViewLimits(getZELXMLPath());
+    if (!read || *read == limitsSeen) return;
+    limitsSeen = highFrom = *read;
+    highFromRead = {};
+    emit viewLimitsChanged();
 }
 
 StoreResult DataStore::chooseViewLimits(const ViewLimits& chosen) {
     if (limitProblem(chosen.own.sys, chosen.own.dia))
         return tl::unexpected{StoreError{StoreErrorCode::invalidRecord, {}, {}}};
-    highFrom = chosen;
+    ViewLimits laid = chosen;
+    const auto read = readViewLimits(getZELXMLPath());
+    if (read && *read != limitsSeen) { // only what was changed here is laid over what another program chose
+        if (chosen.choice == highFrom.choice) laid.choice = read->choice;
+        if (chosen.own == highFrom.own) laid.own = read->own;
+    }
+    highFrom = laid;
     highFromRead = {};
     emit viewLimitsChanged();
-    return writeViewLimits(getZELXMLPath(), chosen);
+    auto written = writeViewLimits(getZELXMLPath(), laid);
+    if (written) limitsSeen = laid;
+    return written;
 }
 
 StoreResult DataStore::loadXML() {
     loaded = readRecords();
     emit reloaded();
+    takeViewLimits();
     return loaded;
 }
 
@@ -83,6 +101,7 @@ StoreResult DataStore::takeChanges() {
     take(*document);
     loaded = {};
     emit reloaded();
+    takeViewLimits();
     return {};
 }
 

@@ -157,7 +157,8 @@ public:
     [[nodiscard]] const ViewLimits& viewLimits() const { return highFrom; }
     /// Whether an earlier choice could be read; the usual limits hold where it could not.
     [[nodiscard]] const StoreResult& viewLimitsRead() const { return highFromRead; }
-    /// They hold from now on, also where they cannot be written down for the next start.
+    /// They hold from now on, also where they cannot be written down for the next start. What is as it was
+    /// (choice or own limits) does not replace what another program chose since.
     [[nodiscard]] StoreResult chooseViewLimits(const ViewLimits& chosen);
 
 signals:
@@ -188,6 +189,7 @@ private:
                                                   std::size_t count) const;
     void keepSelectedComment();
     void loadViewLimits();
+    void takeViewLimits();
 
     DataFile file;
     Clock& clock;
@@ -196,6 +198,7 @@ private:
     Records records;
     SettingModel settingAsRead = records.gSettingModel;
     ViewLimits highFrom;
+    ViewLimits limitsSeen; ///< as read or written last
     StoreResult highFromRead;
     StoreResult loaded;
     FileStamp lastSeen; ///< of the file as it was read, or written since

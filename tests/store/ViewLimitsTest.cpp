@@ -66,5 +66,23 @@ TEST_F(ViewLimitsTest, AChoiceThatCannotBeReadLeavesTheUsualLimitsAndIsTold) {
     EXPECT_EQ(store.viewLimits().choice, LimitChoice::office) << "until the program ends";
 }
 
+TEST_F(ViewLimitsTest, WhatAnotherProgramChoosesIsShownAndKept) {
+    ASSERT_TRUE(writeViewLimits(path, {LimitChoice::office, {150, 95}}));
+    ASSERT_TRUE(store.chooseViewLimits({LimitChoice::low, {}})) << "the own limits are as they were here";
+    EXPECT_EQ(readViewLimits(path), (ViewLimits{LimitChoice::low, {150, 95}}));
+    EXPECT_EQ(store.viewLimits(), (ViewLimits{LimitChoice::low, {150, 95}}));
+    ASSERT_TRUE(writeViewLimits(path, {LimitChoice::home, {150, 95}}));
+    ASSERT_TRUE(store.chooseViewLimits({LimitChoice::low, {140, 90}}));
+    EXPECT_EQ(readViewLimits(path), (ViewLimits{LimitChoice::home, {140, 90}}));
+
+    ASSERT_TRUE(writeViewLimits(path, {LimitChoice::own, {150, 95}}));
+    ASSERT_TRUE(store.takeChanges());
+    EXPECT_EQ(store.viewLimits(), (ViewLimits{LimitChoice::own, {150, 95}}));
+    ASSERT_TRUE(QFile::remove(choice) && QDir().mkdir(choice));
+    EXPECT_FALSE(store.chooseViewLimits({LimitChoice::office, {150, 95}}));
+    ASSERT_TRUE(store.takeChanges());
+    EXPECT_EQ(store.viewLimits().choice, LimitChoice::office) << "what could not be written stays chosen";
+}
+
 } // namespace
 } // namespace zel

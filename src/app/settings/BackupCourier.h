@@ -52,7 +52,7 @@ private:
     QString told;          ///< the folder of the last failure,
     DayNumber toldOn = noDay;
     bool isWantedAgain = false;
-    BackgroundJobs jobs;
+    BackgroundJobs jobs{std::chrono::seconds{2}}; // a copy under way may be whole by then
 };
 
 } // namespace zel

@@ -47,7 +47,7 @@ private:
     bool isLooking = false;
     bool isWaiting = false; ///< for the keyboard
     bool isUnreadable = false;
-    BackgroundJobs jobs;
+    BackgroundJobs jobs{std::chrono::milliseconds{0}}; // the end waits for no look
 };
 
 } // namespace zel

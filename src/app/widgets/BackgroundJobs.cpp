@@ -1,23 +1,18 @@
 #include "app/widgets/BackgroundJobs.h"
 
-#include <chrono>
 #include <thread>
 #include <utility>
 
 namespace zel {
 
-namespace {
-
-constexpr std::chrono::seconds longestWaitAtEnd{2};
-
-} // namespace
-
-BackgroundJobs::BackgroundJobs() { mailbox->calls = &calls; }
+BackgroundJobs::BackgroundJobs(std::chrono::milliseconds wait) : longestWait{wait} {
+    mailbox->calls = &calls;
+}
 
 BackgroundJobs::~BackgroundJobs() {
     std::unique_lock lock(mailbox->mutex);
     // By the system's clock, whose waiting the thread sanitizer knows.
-    mailbox->emptied.wait_until(lock, std::chrono::system_clock::now() + longestWaitAtEnd,
+    mailbox->emptied.wait_until(lock, std::chrono::system_clock::now() + longestWait,
                                 [this] { return mailbox->underWay == 0; });
     mailbox->calls = nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include "app/widgets/CallQueue.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -14,10 +15,11 @@ class BackgroundJobs final {
 public:
     using Then = std::function<void()>;
 
-    BackgroundJobs();
+    /// \p longestWait: at the end, for what is under way; none for what only looks.
+    explicit BackgroundJobs(std::chrono::milliseconds longestWait);
     BackgroundJobs(const BackgroundJobs&) = delete;
     BackgroundJobs& operator=(const BackgroundJobs&) = delete;
-    /// What is under way may take two seconds more; what hangs is left to the end of the process.
+    /// What hangs longer than the longest wait is left to the end of the process.
     ~BackgroundJobs();
 
     /// \p job must own all that it uses. What it returns is called on the thread that this lives on, and
@@ -32,6 +34,7 @@ private:
         CallQueue* calls = nullptr; ///< null once nobody waits any more
         int underWay = 0;
     };
+    std::chrono::milliseconds longestWait;
     CallQueue calls;
     std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
 };

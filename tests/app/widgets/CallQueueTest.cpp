@@ -31,7 +31,7 @@ TEST(BackgroundJobsTest, bringResultsToTheirThreadAndOneThatHangsHoldsUpNoEnd) {
     std::promise<void> ended;
     bool isLateTaken = false;
     {
-        BackgroundJobs jobs;
+        BackgroundJobs jobs{std::chrono::milliseconds{50}};
         std::thread::id thread;
         jobs.run([&] { return [&] { thread = std::this_thread::get_id(); }; });
         while (thread == std::thread::id())
