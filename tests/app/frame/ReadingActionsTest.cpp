@@ -151,7 +151,7 @@ TEST_F(ReadingActionsTest, whatIsTypedStaysWhenItCannotBeStored) {
 
 TEST_F(ReadingActionsTest, readingIsTypedInChangedAndDeleted) {
     choose({});
-    inDialog("newReading", [this](QDialog& dialog) {
+    inDialog("newReading", [](QDialog& dialog) {
         expectNamed(dialog);
         EXPECT_EQ(dialog.findChild<QDateEdit*>(u"readingDay"_s)->text(), u"21/11/2026"_s);
         EXPECT_EQ(dialog.findChild<QTimeEdit*>(u"readingTime"_s)->time(), QTime(9, 0));
