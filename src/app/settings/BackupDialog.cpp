@@ -2,13 +2,13 @@
 
 #include "app/widgets/TableLook.h"
 #include "store/CopyContent.h"
+#include "store/Languages.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidget>
@@ -197,7 +197,7 @@ void BackupDialog::addRow(const Backup& copy, const QString& path, const QString
     name->setToolTip(path);
     tblBackups->setItem(row, nameColumn, name);
     tblBackups->setItem(row, dayColumn, new QTableWidgetItem(dayText(copy.day, pattern)));
-    tblBackups->setItem(row, sizeColumn, new QTableWidgetItem(QLocale().formattedDataSize(copy.size)));
+    tblBackups->setItem(row, sizeColumn, new QTableWidgetItem(textLocale().formattedDataSize(copy.size)));
     if (row == 0 || path == chosen) tblBackups->selectRow(row);
 }
 

@@ -4,6 +4,7 @@
 #include "app/settings/ImportController.h"
 #include "app/settings/SettingForm.h"
 #include "app/widgets/Log.h"
+#include "store/LanguageChoice.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -119,9 +120,24 @@ QWidget* SettingController::makeButtons() {
 void SettingController::showSetting() {
     form->fill(std::as_const(parts.store).getSetting());
     form->store(shown);
+    fillLanguage();
     enableButtons();
     open();
     form->begin();
+}
+
+void SettingController::fillLanguage() {
+    const auto chosen = readLanguageChoice(parts.languageFile);
+    shownLanguage = chosen ? std::optional(*chosen) : std::nullopt;
+    form->fillLanguage(chosen.value_or(QString()),
+                       chosen ? QString() : describeUnreadLanguage(chosen.error()));
+}
+
+/// Also over one that could not be read, which would be told at every start.
+void SettingController::saveLanguage() {
+    if (shownLanguage == form->language()) return;
+    if (const StoreResult saved = writeLanguageChoice(parts.languageFile, form->language()); !saved)
+        parts.panel.ShowMessage(describeWithin(qtTrId("languageNotSaved"), saved.error()), qtTrId("Warning"));
 }
 
 void SettingController::scrollToFocus() {
@@ -143,6 +159,7 @@ void SettingController::closeSetting() {
     if (!saved)
         parts.panel.ShowMessage(describeWithin(qtTrId("settingsNotSaved"), saved.error()), qtTrId("Warning"));
     if (!isInPlace(saved)) return;
+    saveLanguage();
     accept();
     if (const StoreResult loaded = parts.store.loadXML(); !loaded)
         parts.panel.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())),
