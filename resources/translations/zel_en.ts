@@ -6,6 +6,8 @@
     <name>store</name>
     <message id="%1 A"><translation>%1 A</translation></message>
     <message id="%1 P"><translation>%1 P</translation></message>
+    <message id=", "><translation>, </translation></message>
+    <message id="; "><translation>; </translation></message>
     <message id="BackupLast"><translation>%1, %2, the last of %3</translation></message>
     <message id="BackupPatients" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="BackupReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
@@ -17,6 +19,7 @@
     <message id="ExportNotWritten"><translation>The file %1 could not be written. Please check that the folder is there, that you may write in it, and that the disk is not full.</translation></message>
     <message id="ExportSameFileName"><translation>The file %1 was not written: this disk takes its name for the one of the file just written for the patient below. Please export to a disk that tells capital letters from small ones.</translation></message>
     <message id="Female"><translation>Female</translation></message>
+    <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: a patient with the ID “%2” is already in the list. Patients are never overwritten, so nothing was taken from the file.</translation></message>
     <message id="ImportBadID"><translation>%1: the ID “%2” in the file has a line end or another control character in it, with which it could never be saved or sent to a monitor. Nothing was taken from the file.</translation></message>
     <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
@@ -56,6 +59,7 @@
     <message id="SecondFolderNotRecorded"><translation>The second folder for copies could not be noted in %1. Nothing was changed.</translation></message>
     <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
+    <message id="SettingQuoted"><translation>“%1”</translation></message>
     <message id="SettingText"><translation>any text without control characters</translation></message>
     <message id="stepAddComment"><translation>new comment of %1</translation></message>
     <message id="stepAddPatient"><translation>new patient %1</translation></message>
@@ -459,9 +463,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuPrint"><translation>&amp;Print …</translation></message>
     <message id="menuQuit"><translation>&amp;Quit</translation></message>
     <message id="menuRedo"><translation>&amp;Redo</translation></message>
+    <message id="menuRedoStep"><translation>&amp;Redo %1</translation></message>
     <message id="menuSavePdf"><translation>Save as P&amp;DF …</translation></message>
     <message id="menuSettings"><translation>&amp;Settings …</translation></message>
     <message id="menuUndo"><translation>&amp;Undo</translation></message>
+    <message id="menuUndoStep"><translation>&amp;Undo %1</translation></message>
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd yyyy</translation></message>
@@ -848,6 +854,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="formWeightKg"><translation>Weight(kg)</translation></message>
     <message id="formWeightLb"><translation>Weight(lb)</translation></message>
     <message id="formYear"><translation>Year</translation></message>
+    <message id="formYears" numerus="yes"><translation><numerusform>year</numerusform><numerusform>years</numerusform></translation></message>
     <message id="graph"><translation>Blood-pressure and pulse chart</translation></message>
     <message id="histogram"><translation>Distribution of the readings</translation></message>
     <message id="mam"><translation>MAM</translation></message>
@@ -911,7 +918,6 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Thin dashed line: the limit of %1.</numerusform><numerusform>Thin dashed lines: the limits of %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Thick lines: medians. Bands: from the 10th to the 90th percentile, or from the lowest to the highest of fewer than 5 readings. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
-    <message id="reportYears"><translation>years</translation></message>
     <message id="summary"><translation>Summary</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
     <message id="summaryAll"><translation>All</translation></message>
@@ -1004,7 +1010,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
-    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]]
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG]
        zel COMMAND [OPTION]...
 
 Keeps the readings of automatic blood-pressure monitors, patient by patient.
@@ -1026,6 +1032,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
+  --language TAG               the language of messages and reports, such as de or zh_TW
   -h, --help                   show this text; 'zel COMMAND --help' tells about a command
   --version                    show the version
 

@@ -163,12 +163,13 @@ void drawRisks(Sheet& sheet, const ReportSource& report, int growth) {
     const PatientModel& patient = report.patient;
     const bool isMetric = report.settings.isMetric();
     const bool hasBirth = !isNilDate(patient.DateOfBirth);
-    const QString age = hasBirth ? QString::number(GetAge(*patient.DateOfBirth, report.now)) : QString();
+    const int years = hasBirth ? GetAge(*patient.DateOfBirth, report.now) : 0;
+    const QString age = hasBirth ? QString::number(years) : QString();
     const double more = growth * sheet.paragraphLine();
     sheet.block({373, 0, 373, 224 + more}, qtTrId("formRisks"));
     constexpr double left = 395, right = 571, fieldWidth = 76, labelWidth = 76;
     row(sheet, {left, 34, labelWidth, fieldWidth}, qtTrId("formSex"), sexText(patient.Sex));
-    row(sheet, {right, 34, labelWidth, fieldWidth}, qtTrId("formAge"), age, qtTrId("reportYears"));
+    row(sheet, {right, 34, labelWidth, fieldWidth}, qtTrId("formAge"), age, qtTrId("formYears", years));
     row(sheet, {left, 64, labelWidth, fieldWidth}, isMetric ? qtTrId("formWeightKg") : qtTrId("formWeightLb"),
         patient.getWeightStr(report.settings));
     // Spelled so in the form.

@@ -199,8 +199,8 @@ bool DrawTable::drawComment(Picture& picture, const TableRow& row, const Reading
         words += commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
     words.removeAll(QString());
     const double width = cell.width + columnGap - 6;
-    fieldText(picture, words.join(u"; "_s), {cell.at.x + 6, cell.at.y}, width, row.font);
-    return reading.comment && isNamed && !isWhole(words.join(u"; "_s), width, row.font);
+    fieldText(picture, words.join(qtTrId("; ")), {cell.at.x + 6, cell.at.y}, width, row.font);
+    return reading.comment && isNamed && !isWhole(words.join(qtTrId("; ")), width, row.font);
 }
 
 void DrawTable::drawBar(Picture& picture, const TableRow& row, const ReadingRow& reading) {

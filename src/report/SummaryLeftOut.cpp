@@ -62,7 +62,7 @@ QString countsOf(const ReportSource& report) {
     QStringList parts{left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left};
     if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
         parts += qtTrId("summaryOtherComments", others);
-    return parts.join(u"; "_s);
+    return parts.join(qtTrId("; "));
 }
 
 /// By the limits that the trend above draws.

@@ -94,7 +94,7 @@ QString describeRemark(const ReadingModel& reading) {
     QStringList remarks;
     if (reading.isManual) remarks += qtTrId("remarkManual");
     if (reading.isExcluded()) remarks += qtTrId("remarkExcluded").arg(describeExclusion(reading));
-    return remarks.join(QStringLiteral("; "));
+    return remarks.join(qtTrId("; "));
 }
 
 } // namespace zel

@@ -80,6 +80,16 @@ TEST(LanguagesTest, ATextThatATableLacksIsEnglish) {
     EXPECT_EQ(textLocale().language(), QLocale::English);
 }
 
+TEST(LanguagesTest, EachLanguageHasATableOfItsOwn) {
+    for (const Language& language : languages()) {
+        const RealTexts texts(language);
+        EXPECT_EQ(qtTrId("languageTag"), language.tag);
+        EXPECT_EQ(textLocale(), QLocale(language.tag.toString())) << language.tag.data();
+        EXPECT_NE(textLocale(), QLocale::c()) << language.tag.data();
+        EXPECT_EQ(&languageOfRun({}, language.tag.toString(), {}), languageFor(language.tag.toString()));
+    }
+}
+
 struct LanguageChoiceTest : testing::Test {
     QTemporaryDir home;
     QString file = languageFile(home.path());

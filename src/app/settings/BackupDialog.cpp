@@ -1,5 +1,6 @@
 #include "app/settings/BackupDialog.h"
 
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/TableLook.h"
 #include "store/CopyContent.h"
 #include "store/Languages.h"
@@ -80,7 +81,7 @@ QTableWidget* BackupDialog::makeList() {
 QPushButton* BackupDialog::addButton(const char* name, const QString& text, void (BackupDialog::*pressed)()) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1StringView{name});
-    button->setAccessibleName(button->text().remove(u'&'));
+    button->setAccessibleName(withoutMnemonic(button->text()));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, pressed);
     return button;
