@@ -832,13 +832,13 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="comments"><translation>Kommentare</translation></message>
     <message id="correlation"><translation>Systolischer gegen diastolischen Blutdruck</translation></message>
     <message id="date"><translation>Datum</translation></message>
-    <message id="formAddress"><translation>Anschrift</translation></message>
+    <message id="formAddress"><translation>Adresse</translation></message>
     <message id="formAge"><translation>Alter</translation></message>
     <message id="formBirth"><translation>Geburtsdatum</translation></message>
-    <message id="formCholesterol"><translation>Cholesterin (mg/dL)</translation></message>
+    <message id="formCholesterol"><translation>Cholesterin (mg/dl)</translation></message>
     <message id="formDay"><translation>Tag</translation></message>
     <message id="formDiabetic"><translation>Diabetes</translation></message>
-    <message id="formFamilyHistory"><translation>Familie</translation></message>
+    <message id="formFamilyHistory"><translation>Fam.-Anamnese</translation></message>
     <message id="formFamilyName"><translation>Nachname</translation></message>
     <message id="formGivenNames"><translation>Vorname(n)</translation></message>
     <message id="formHeightCm"><translation>Größe (cm)</translation></message>
@@ -862,7 +862,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="N.A."><translation>N.A.</translation></message>
     <message id="No"><translation>Nein</translation></message>
     <message id="PatientProfile"><translation>Patientendaten</translation></message>
-    <message id="reportAllComments"><translation>Kommentare aus allen Zeiten, nicht nur aus diesem Zeitraum</translation></message>
+    <message id="reportAllComments"><translation>Kommentare aller Zeiten, nicht nur dieses Zeitraums</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1, alle Tageszeiten</translation></message>
     <message id="reportAverage"><translation>Mittelwert mehrerer Messungen</translation></message>
     <message id="reportBothAbove"><translation>Beide darüber: %1</translation></message>

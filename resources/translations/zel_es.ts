@@ -4,8 +4,8 @@
 <!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
 <context>
     <name>store</name>
-    <message id="%1 A"><translation>%1 a. m.</translation></message>
-    <message id="%1 P"><translation>%1 p. m.</translation></message>
+    <message id="%1 A"><translation>%1 AM</translation></message>
+    <message id="%1 P"><translation>%1 PM</translation></message>
     <message id=", "><translation>, </translation></message>
     <message id="; "><translation>; </translation></message>
     <message id="BackupLast"><translation>%1, %2, la última del %3</translation></message>
@@ -838,7 +838,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="formCholesterol"><translation>Colesterol (mg/dL)</translation></message>
     <message id="formDay"><translation>Día</translation></message>
     <message id="formDiabetic"><translation>Diabetes</translation></message>
-    <message id="formFamilyHistory"><translation>Antec. familiares</translation></message>
+    <message id="formFamilyHistory"><translation>Antecedentes</translation></message>
     <message id="formFamilyName"><translation>Apellidos</translation></message>
     <message id="formGivenNames"><translation>Nombre</translation></message>
     <message id="formHeightCm"><translation>Estatura (cm)</translation></message>
@@ -862,7 +862,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>
     <message id="No"><translation>No</translation></message>
     <message id="PatientProfile"><translation>Datos del paciente</translation></message>
-    <message id="reportAllComments"><translation>Comentarios de todas las fechas, no solo de este periodo</translation></message>
+    <message id="reportAllComments"><translation>Comentarios de toda fecha, no solo del periodo</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1, a cualquier hora del día</translation></message>
     <message id="reportAverage"><translation>media de varias mediciones</translation></message>
     <message id="reportBothAbove"><translation>Ambas por encima: %1</translation></message>

@@ -862,7 +862,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="N.A."><translation>N.A.</translation></message>
     <message id="No"><translation>Non</translation></message>
     <message id="PatientProfile"><translation>Profil du patient</translation></message>
-    <message id="reportAllComments"><translation>Commentaires de toutes les dates, pas seulement de cette période</translation></message>
+    <message id="reportAllComments"><translation>Commentaires de toutes dates, hors période aussi</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1, toutes heures du jour</translation></message>
     <message id="reportAverage"><translation>moyenne de plusieurs mesures</translation></message>
     <message id="reportBothAbove"><translation>Les deux au-dessus : %1</translation></message>

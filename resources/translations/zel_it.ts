@@ -838,7 +838,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="formCholesterol"><translation>Colesterolo (mg/dL)</translation></message>
     <message id="formDay"><translation>Giorno</translation></message>
     <message id="formDiabetic"><translation>Diabete</translation></message>
-    <message id="formFamilyHistory"><translation>Anamnesi fam.</translation></message>
+    <message id="formFamilyHistory"><translation>Anamnesi</translation></message>
     <message id="formFamilyName"><translation>Cognome</translation></message>
     <message id="formGivenNames"><translation>Nome</translation></message>
     <message id="formHeightCm"><translation>Altezza (cm)</translation></message>

@@ -4,8 +4,8 @@
 <!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
 <context>
     <name>store</name>
-    <message id="%1 A"><translation>上午 %1</translation></message>
-    <message id="%1 P"><translation>下午 %1</translation></message>
+    <message id="%1 A"><translation>上午%1</translation></message>
+    <message id="%1 P"><translation>下午%1</translation></message>
     <message id=", "><translation>，</translation></message>
     <message id="; "><translation>；</translation></message>
     <message id="BackupLast"><translation>%1、%2，最後一筆在 %3</translation></message>

@@ -27,9 +27,9 @@ public:
              u"--given-names"_s, u"Zoë"_s});
         run({u"settings"_s, u"--set"_s, u"EraseRecAfterReading=0"_s});
         type(u"2026-11-02"_s, u"19:30"_s, u"120"_s, u"80"_s, u"66"_s); // which the monitor brings, too
-        type(u"2026-11-01"_s, u"08:00"_s, u"141"_s, u"92"_s, u"70"_s);
+        const QString typed = type(u"2026-11-01"_s, u"08:00"_s, u"141"_s, u"92"_s, u"70"_s);
         run({u"download"_s, u"--patient"_s, u"A1"_s, u"--any-monitor"_s});
-        run({u"readings"_s, u"--patient"_s, u"A1"_s, u"--exclude"_s, u"1"_s, u"--reason"_s,
+        run({u"readings"_s, u"--patient"_s, u"A1"_s, u"--exclude"_s, typed, u"--reason"_s,
              u"cuff, \"loose\""_s});
         const QString out = folder.filePath(u"out"_s);
         QDir().mkpath(out);
@@ -47,17 +47,22 @@ public:
     void TestBody() override {}
 
 private:
-    void type(const QString& date, const QString& time, const QString& sys, const QString& dia,
-              const QString& pulse) {
-        run({u"readings"_s, u"--patient"_s, u"A1"_s, u"--add"_s, u"--date"_s, date, u"--time"_s, time,
-             u"--sys"_s, sys, u"--dia"_s, dia, u"--pulse"_s, pulse});
+    /// \return the reading's number
+    QString type(const QString& date, const QString& time, const QString& sys, const QString& dia,
+                 const QString& pulse) {
+        return QString::fromStdString(
+                   run({u"readings"_s, u"--patient"_s, u"A1"_s, u"--add"_s, u"--date"_s, date, u"--time"_s,
+                        time, u"--sys"_s, sys, u"--dia"_s, dia, u"--pulse"_s, pulse}))
+            .section(u' ', 1)
+            .trimmed();
     }
     /// Keeps what was printed, but for the folder's own name.
-    void run(const QStringList& arguments) {
+    std::string run(const QStringList& arguments) {
         const Outcome outcome = zel(arguments);
         EXPECT_EQ(outcome.status, 0) << outcome.err;
         files["zel " + arguments.first().toStdString() + ' ' + std::to_string(files.size())] =
             QString::fromStdString(outcome.out).remove(folder.path()).toStdString();
+        return outcome.out;
     }
     static std::string content(const QString& path) {
         QFile file(path);
@@ -95,7 +100,7 @@ TEST(LanguageOfFilesTest, AReasonOfTheProgramsOwnIsShownInTheLanguageOfTheDay) {
 
 TEST_F(CliTest, MessagesAreInTheLanguage) {
     const std::pair<const char*, const char*> cases[]{
-        {"de", "Aufruf: zel"}, {"fr", "Usage : zel"}, {"zh_TW", "用法：zel"}};
+        {"de", "Aufruf: zel"}, {"fr", "Usage\u202F: zel"}, {"zh_TW", "用法：zel"}};
     for (const auto& [tag, words] : cases) {
         const ProgramTexts texts(*languageFor(QString::fromLatin1(tag)));
         EXPECT_THAT(zel({u"--help"_s}).out, testing::StartsWith(QString::fromUtf8(words).toStdString()))

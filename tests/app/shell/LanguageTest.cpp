@@ -41,8 +41,10 @@ protected:
     void look(QWidget& at, const QString& name) const {
         settle();
         expectNothingCut(at);
-        if (const QString folder = qEnvironmentVariable("ZEL_LANGUAGE_PICTURES"); !folder.isEmpty())
-            EXPECT_TRUE(at.grab().save(folder + u'/' + name + u'-' + language + u".png"_s));
+        const QString folder = qEnvironmentVariable("ZEL_LANGUAGE_PICTURES");
+        if (folder.isEmpty()) return;
+
+        EXPECT_TRUE(at.grab().save(folder + u'/' + name + u'-' + language + u".png"_s));
     }
     void lookAtDialog(QDialog& dialog) const {
         look(dialog, dialog.objectName());
