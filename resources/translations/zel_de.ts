@@ -4,8 +4,8 @@
 <!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
 <context>
     <name>store</name>
-    <message id="%1 A"><translation>%1 A</translation></message>
-    <message id="%1 P"><translation>%1 P</translation></message>
+    <message id="%1 A"><translation>%1 AM</translation></message>
+    <message id="%1 P"><translation>%1 PM</translation></message>
     <message id=", "><translation>, </translation></message>
     <message id="; "><translation>; </translation></message>
     <message id="BackupLast"><translation>%1, %2, die letzte vom %3</translation></message>
@@ -50,7 +50,7 @@
     <message id="N/A"><translation>N/A</translation></message>
     <message id="NotBackedUp"><translation>Vor dieser Änderung konnte in %1 keine Sicherung der Datendatei angelegt werden. %2</translation></message>
     <message id="remarkExcluded"><translation>ausgeschlossen: %1</translation></message>
-    <message id="remarkManual"><translation>von Hand eingegeben</translation></message>
+    <message id="remarkManual"><translation>eingegeben</translation></message>
     <message id="SecondFolderAway"><translation>Der zweite Ordner für Sicherungen der Datendatei, %1, ist nicht erreichbar; die heutige Sicherung fehlt dort deshalb. Sie wird mit der nächsten Änderung kopiert, sobald der Ordner wieder da ist.</translation></message>
     <message id="SecondFolderBroken"><translation>Aus %1 lässt sich nicht lesen, in welchen zweiten Ordner Sicherungen der Datendatei kopiert werden; sie werden deshalb in keinen kopiert. Bitte wählen Sie den Ordner neu.</translation></message>
     <message id="SecondFolderFailed"><translation>Die heutige Sicherung der Datendatei konnte nicht in den zweiten Ordner, %1, geschrieben werden.</translation></message>
@@ -438,6 +438,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="keep"><translation>&amp;Behalten</translation></message>
     <message id="languageNotSaved"><translation>Die Sprache wurde nicht geändert; die übrigen Einstellungen sind gespeichert. %1</translation></message>
     <message id="lastDownload"><translation>Zuletzt ausgelesen</translation></message>
+    <message id="lastDownloadNone"><translation>noch nie</translation></message>
     <message id="leaveOutAction"><translation>Ausschließen …</translation></message>
     <message id="leaveOutButton"><translation>&amp;Ausschließen</translation></message>
     <message id="leaveOutExample"><translation>z. B. Manschette saß locker</translation></message>
@@ -838,7 +839,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="formCholesterol"><translation>Cholesterin (mg/dl)</translation></message>
     <message id="formDay"><translation>Tag</translation></message>
     <message id="formDiabetic"><translation>Diabetes</translation></message>
-    <message id="formFamilyHistory"><translation>Fam.-Anamnese</translation></message>
+    <message id="formFamilyHistory"><translation>Familie</translation></message>
     <message id="formFamilyName"><translation>Nachname</translation></message>
     <message id="formGivenNames"><translation>Vorname(n)</translation></message>
     <message id="formHeightCm"><translation>Größe (cm)</translation></message>

@@ -438,6 +438,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="keep"><translation>&amp;Keep</translation></message>
     <message id="languageNotSaved"><translation>The language was not changed; the other settings are stored. %1</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
+    <message id="lastDownloadNone"><translation>none</translation></message>
     <message id="leaveOutAction"><translation>Leave Out…</translation></message>
     <message id="leaveOutButton"><translation>&amp;Leave Out</translation></message>
     <message id="leaveOutExample"><translation>such as: cuff was loose</translation></message>

@@ -438,6 +438,7 @@ mmHg</translation></message>
     <message id="keep"><translation>&amp;Conservar</translation></message>
     <message id="languageNotSaved"><translation>No se ha cambiado el idioma; el resto de la configuración está guardado. %1</translation></message>
     <message id="lastDownload"><translation>Última descarga</translation></message>
+    <message id="lastDownloadNone"><translation>ninguna</translation></message>
     <message id="leaveOutAction"><translation>Excluir…</translation></message>
     <message id="leaveOutButton"><translation>&amp;Excluir</translation></message>
     <message id="leaveOutExample"><translation>por ejemplo: manguito flojo</translation></message>

@@ -50,7 +50,7 @@
     <message id="N/A"><translation>N/A</translation></message>
     <message id="NotBackedUp"><translation>Aucune copie du fichier de données n’a pu être créée dans %1 avant cette modification. %2</translation></message>
     <message id="remarkExcluded"><translation>exclue : %1</translation></message>
-    <message id="remarkManual"><translation>saisie à la main</translation></message>
+    <message id="remarkManual"><translation>saisie</translation></message>
     <message id="SecondFolderAway"><translation>Le second dossier pour les copies du fichier de données, %1, est absent ; la copie du jour n’y figure donc pas. Elle y sera placée à la prochaine modification, une fois le dossier de nouveau présent.</translation></message>
     <message id="SecondFolderBroken"><translation>Impossible de lire dans %1 quel second dossier reçoit les copies du fichier de données ; aucun n’en reçoit donc. Veuillez le choisir à nouveau.</translation></message>
     <message id="SecondFolderFailed"><translation>La copie du jour du fichier de données n’a pas pu être écrite dans le second dossier, %1.</translation></message>
@@ -438,6 +438,7 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="keep"><translation>&amp;Conserver</translation></message>
     <message id="languageNotSaved"><translation>La langue n’a pas été changée ; les autres réglages sont enregistrés. %1</translation></message>
     <message id="lastDownload"><translation>Dernier transfert</translation></message>
+    <message id="lastDownloadNone"><translation>aucun</translation></message>
     <message id="leaveOutAction"><translation>Exclure…</translation></message>
     <message id="leaveOutButton"><translation>&amp;Exclure</translation></message>
     <message id="leaveOutExample"><translation>par exemple : brassard mal serré</translation></message>

@@ -50,7 +50,7 @@
     <message id="N/A"><translation>N/A</translation></message>
     <message id="NotBackedUp"><translation>Prima di questa modifica non è stato possibile creare una copia del file dei dati in %1. %2</translation></message>
     <message id="remarkExcluded"><translation>esclusa: %1</translation></message>
-    <message id="remarkManual"><translation>inserita a mano</translation></message>
+    <message id="remarkManual"><translation>inserita</translation></message>
     <message id="SecondFolderAway"><translation>La seconda cartella per le copie del file dei dati, %1, non è disponibile, perciò la copia di oggi vi manca. Verrà aggiunta con la prima modifica dopo il ritorno della cartella.</translation></message>
     <message id="SecondFolderBroken"><translation>Impossibile leggere da %1 qual è la seconda cartella per le copie del file dei dati, perciò le copie non vanno in nessuna seconda cartella. Sceglierla di nuovo.</translation></message>
     <message id="SecondFolderFailed"><translation>Impossibile scrivere la copia di oggi del file dei dati nella seconda cartella, %1.</translation></message>
@@ -438,6 +438,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="keep"><translation>&amp;Conserva</translation></message>
     <message id="languageNotSaved"><translation>La lingua non è stata cambiata; le altre impostazioni sono salvate. %1</translation></message>
     <message id="lastDownload"><translation>Ultimo scarico</translation></message>
+    <message id="lastDownloadNone"><translation>nessuno</translation></message>
     <message id="leaveOutAction"><translation>Escludi…</translation></message>
     <message id="leaveOutButton"><translation>&amp;Escludi</translation></message>
     <message id="leaveOutExample"><translation>ad es. bracciale allentato</translation></message>

@@ -50,7 +50,7 @@
     <message id="N/A"><translation>N/A</translation></message>
     <message id="NotBackedUp"><translation>Przed tą zmianą nie udało się utworzyć kopii pliku danych w %1. %2</translation></message>
     <message id="remarkExcluded"><translation>pominięty: %1</translation></message>
-    <message id="remarkManual"><translation>wpisany ręcznie</translation></message>
+    <message id="remarkManual"><translation>wpisany</translation></message>
     <message id="SecondFolderAway"><translation>Drugi folder na kopie pliku danych, %1, jest niedostępny, dlatego nie ma w nim dzisiejszej kopii. Zostanie w nim zapisana przy następnej zmianie, gdy folder będzie znów dostępny.</translation></message>
     <message id="SecondFolderBroken"><translation>Z %1 nie można odczytać, do którego drugiego folderu trafiają kopie pliku danych, dlatego nie trafiają do żadnego. Proszę wybrać go ponownie.</translation></message>
     <message id="SecondFolderFailed"><translation>Nie udało się zapisać dzisiejszej kopii pliku danych w drugim folderze, %1.</translation></message>
@@ -438,6 +438,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="keep"><translation>&amp;Zachowaj</translation></message>
     <message id="languageNotSaved"><translation>Język nie został zmieniony; pozostałe ustawienia są zapisane. %1</translation></message>
     <message id="lastDownload"><translation>Ostatnie pobranie</translation></message>
+    <message id="lastDownloadNone"><translation>brak</translation></message>
     <message id="leaveOutAction"><translation>Pomiń…</translation></message>
     <message id="leaveOutButton"><translation>Po&amp;miń</translation></message>
     <message id="leaveOutExample"><translation>na przykład: luźny mankiet</translation></message>

@@ -438,6 +438,7 @@ mmHg</translation></message>
     <message id="keep"><translation>保留(&amp;K)</translation></message>
     <message id="languageNotSaved"><translation>語言未變更；其他設定已儲存。%1</translation></message>
     <message id="lastDownload"><translation>上次下載</translation></message>
+    <message id="lastDownloadNone"><translation>尚未下載</translation></message>
     <message id="leaveOutAction"><translation>排除…</translation></message>
     <message id="leaveOutButton"><translation>排除(&amp;L)</translation></message>
     <message id="leaveOutExample"><translation>例如：壓脈帶鬆脫</translation></message>
@@ -804,7 +805,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="max"><translation>最高</translation></message>
     <message id="min"><translation>最低</translation></message>
     <message id="mmHg"><translation>mmHg</translation></message>
-    <message id="monthOfYear"><translation>%2 年 %1</translation></message>
+    <message id="monthOfYear"><translation>%2年%1</translation></message>
     <message id="morning"><translation>早上</translation></message>
     <message id="noEveningReadings"><translation>此期間中午以後沒有量測</translation></message>
     <message id="noMorningReadings"><translation>此期間中午前沒有量測</translation></message>

@@ -62,7 +62,10 @@ QString countsOf(const ReportSource& report) {
     QStringList parts{left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left};
     if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
         parts += qtTrId("summaryOtherComments", others);
-    return parts.join(qtTrId("; "));
+    QString line = parts.join(qtTrId("; "));
+    line.front() =
+        line.front().toUpper(); // within a sentence, some languages begin with a word where others count
+    return line;
 }
 
 /// By the limits that the trend above draws.

@@ -13,6 +13,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -87,7 +89,9 @@ void SettingController::build() {
     QWidget* buttons = makeButtons();
     column->addWidget(buttons);
     // All of it at once where the screen is large enough; a scroll area by itself would ask for less.
-    const QSize whole = controls->sizeHint() + QSize(0, buttons->sizeHint().height());
+    QSize whole = controls->sizeHint();
+    whole.setHeight(std::max(whole.height(), inside->heightForWidth(whole.width())));
+    whole.rheight() += buttons->sizeHint().height();
     resize(whole.boundedTo(screen()->availableSize()));
 }
 

@@ -89,7 +89,7 @@ QFormLayout* makeForm(QGroupBox* group) {
 
 SettingForm::SettingForm(QWidget* parent)
     : QWidget(parent), cboLanguage(named(new QComboBox, u"cboLanguage"_s, qtTrId("settingLanguage"))),
-      lblLanguage(new QuietLabel(QString())),
+      lblLanguage(new QuietLabel(qtTrId("settingLanguageWhen"))),
       dateFormate(named(new QComboBox, u"dateFormate"_s, qtTrId("settingDate"))),
       timeFormate(named(new QComboBox, u"timeFormate"_s, qtTrId("settingTime"))),
       metricFormate(named(new QComboBox, u"metricFormate"_s, qtTrId("settingUnits"))),
@@ -126,9 +126,9 @@ void SettingForm::build() {
 QGroupBox* SettingForm::makeDisplayGroup() {
     auto* group = new QGroupBox(qtTrId("settingDisplay"), this);
     QFormLayout* form = makeForm(group);
-    QWidget* languageRow = makeLanguage();
-    form->addRow(qtTrId("settingLanguageLabel"), languageRow);
-    qobject_cast<QLabel*>(form->labelForField(languageRow))->setBuddy(cboLanguage);
+    fillLanguages();
+    form->addRow(qtTrId("settingLanguageLabel"), cboLanguage);
+    form->addRow(lblLanguage);
     form->addRow(qtTrId("settingDateLabel"), dateFormate);
     form->addRow(qtTrId("settingTimeLabel"), timeFormate);
     form->addRow(qtTrId("settingUnitsLabel"), metricFormate);
@@ -137,20 +137,13 @@ QGroupBox* SettingForm::makeDisplayGroup() {
 }
 
 /// Each by its own name, so that who cannot read the others finds it.
-QWidget* SettingForm::makeLanguage() {
-    auto* both = new QWidget;
-    auto* column = new QVBoxLayout(both);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+void SettingForm::fillLanguages() {
     cboLanguage->addItem(qtTrId("settingLanguageSystem"), QString());
     for (const Language& language : languages())
         cboLanguage->addItem(language.ownName.toString(), language.tag.toString());
     lblLanguage->setObjectName(u"lblLanguage"_s);
     lblLanguage->setTextFormat(Qt::PlainText);
     lblLanguage->setWordWrap(true);
-    column->addWidget(cboLanguage);
-    column->addWidget(lblLanguage);
-    return both;
 }
 
 QWidget* SettingForm::makeDisplayPPorMAP() {

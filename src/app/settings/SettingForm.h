@@ -48,7 +48,7 @@ private:
     void build();
     QGroupBox* makeDisplayGroup();
     QWidget* makeDisplayPPorMAP();
-    QWidget* makeLanguage();
+    void fillLanguages();
     QGroupBox* makeLimitGroup();
     QGroupBox* makeMonitorGroup();
     QGroupBox* makePhysicianGroup();

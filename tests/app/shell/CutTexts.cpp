@@ -7,8 +7,11 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QStyleOptionComboBox>
+#include <QTableView>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -43,7 +46,8 @@ void expectEntriesWhole(const QComboBox& list) {
                          ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list)
                          .width();
     for (int i = 0; i < list.count(); ++i) {
-        const int width = list.fontMetrics().horizontalAdvance(list.itemText(i));
+        // Of what is drawn, as boxes measure their entries: a wide bracket ends in a blank.
+        const int width = list.fontMetrics().boundingRect(list.itemText(i)).width();
         EXPECT_LE(width, room) << qPrintable(list.objectName()) << ": " << qPrintable(list.itemText(i));
     }
 }
@@ -59,6 +63,17 @@ void expectTitlesWhole(const QHeaderView& header) {
     }
 }
 
+void expectCellsWhole(const QTableView& table) {
+    const QAbstractItemModel& model = *table.model();
+    for (int row = 0; row < std::min(model.rowCount(), 20); ++row)
+        for (int column = 0; column < model.columnCount(); ++column) {
+            const QString text = model.index(row, column).data().toString();
+            if (table.isColumnHidden(column)) continue;
+            EXPECT_LE(table.fontMetrics().horizontalAdvance(text), table.columnWidth(column))
+                << qPrintable(table.objectName()) << ": " << qPrintable(text);
+        }
+}
+
 } // namespace
 
 void expectNothingCut(const QWidget& window) {
@@ -67,9 +82,16 @@ void expectNothingCut(const QWidget& window) {
         EXPECT_FALSE(isCut(*one)) << one->metaObject()->className() << ' ' << qPrintable(one->objectName())
                                   << ' ' << one->width() << 'x' << one->height() << " of "
                                   << one->minimumSizeHint().width() << 'x' << one->minimumSizeHint().height();
-        if (const auto* list = qobject_cast<const QComboBox*>(one)) expectEntriesWhole(*list);
-        if (const auto* header = qobject_cast<const QHeaderView*>(one)) expectTitlesWhole(*header);
     }
+}
+
+void expectListsWhole(const QWidget& window) {
+    for (const auto* list : window.findChildren<QComboBox*>())
+        if (list->isVisible() && list->window() == &window) expectEntriesWhole(*list);
+    for (const auto* table : window.findChildren<QTableView*>())
+        if (table->isVisible() && table->window() == &window) expectCellsWhole(*table);
+    for (const auto* header : window.findChildren<QHeaderView*>())
+        if (header->isVisible() && header->window() == &window) expectTitlesWhole(*header);
 }
 
 } // namespace zel

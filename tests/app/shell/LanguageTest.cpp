@@ -8,7 +8,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace zel {
@@ -18,6 +20,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize smallScreen{1366, 745}; ///< less what the desktop takes
+
+/// Voice control says what is written, and not the key that opens it.
+void expectSpokenWithoutKeys(const QWidget& window) {
+    for (const QWidget* one : window.findChildren<QWidget*>())
+        EXPECT_FALSE(one->accessibleName().contains(QRegularExpression(u"&|\\([A-Z]\\)"_s)))
+            << qPrintable(one->objectName()) << ": " << qPrintable(one->accessibleName());
+}
 
 class LanguageTest : public AppTest {
 protected:
@@ -41,6 +50,8 @@ protected:
     void look(QWidget& at, const QString& name) const {
         settle();
         expectNothingCut(at);
+        expectListsWhole(at);
+        expectSpokenWithoutKeys(at);
         const QString folder = qEnvironmentVariable("ZEL_LANGUAGE_PICTURES");
         if (folder.isEmpty()) return;
 
@@ -80,6 +91,9 @@ protected:
     }
     void lookAtDialogs() {
         app->showSetting();
+        settle();
+        for (const auto* bar : page("settingScroll").findChildren<QScrollBar*>())
+            EXPECT_EQ(bar->maximum(), 0) << "all settings are seen at once";
         lookAtDialog(find<QDialog>("SettingController"));
         app->showPrint();
         lookAtDialog(find<QDialog>("PrintController"));
