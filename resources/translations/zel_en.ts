@@ -4,6 +4,10 @@
 <!-- Every text of the program by its key; code asks for them with qtTrId("key"). Sorted by key in each context. -->
 <context>
     <name>store</name>
+    <message id="%1 A"><translation>%1 A</translation></message>
+    <message id="%1 P"><translation>%1 P</translation></message>
+    <message id=", "><translation>, </translation></message>
+    <message id="; "><translation>; </translation></message>
     <message id="BackupLast"><translation>%1, %2, the last of %3</translation></message>
     <message id="BackupPatients" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="BackupReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
@@ -15,6 +19,7 @@
     <message id="ExportNotWritten"><translation>The file %1 could not be written. Please check that the folder is there, that you may write in it, and that the disk is not full.</translation></message>
     <message id="ExportSameFileName"><translation>The file %1 was not written: this disk takes its name for the one of the file just written for the patient below. Please export to a disk that tells capital letters from small ones.</translation></message>
     <message id="Female"><translation>Female</translation></message>
+    <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: a patient with the ID “%2” is already in the list. Patients are never overwritten, so nothing was taken from the file.</translation></message>
     <message id="ImportBadID"><translation>%1: the ID “%2” in the file has a line end or another control character in it, with which it could never be saved or sent to a monitor. Nothing was taken from the file.</translation></message>
     <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
@@ -25,6 +30,11 @@
     <message id="ImportNotStored"><translation>%1: what the file holds could not be stored. Nothing was taken from it.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: two patients in the file have the same ID, “%2”. Nothing was taken from it.</translation></message>
     <message id="ImportTooLarge"><translation>%1: the file is larger than 512 MiB. Nothing was taken from it.</translation></message>
+    <message id="LanguageMissing"><translation>--language needs a language, one of %1</translation></message>
+    <message id="languageTag"><translation>en</translation></message>
+    <message id="LanguageTwice"><translation>--language can be given only once</translation></message>
+    <message id="LanguageUnknown"><translation>there is no language “%1”; the languages are %2</translation></message>
+    <message id="LanguageUnread"><translation>The choice of the language in the file %1 cannot be read. The language of the system is shown until another is chosen in the settings.</translation></message>
     <message id="LimitDiastolic"><translation>The diastolic limit is %1.</translation></message>
     <message id="LimitOrder"><translation>The diastolic limit has to be below the systolic one.</translation></message>
     <message id="LimitSystolic"><translation>The systolic limit is %1.</translation></message>
@@ -36,6 +46,8 @@
     <message id="ManualPulse"><translation>The pulse is to be a number from %1 to %2.</translation></message>
     <message id="ManualSys"><translation>The systolic pressure is to be a number from %1 to %2.</translation></message>
     <message id="ManualTooEarly"><translation>The date is before the year 1900.</translation></message>
+    <message id="n.a"><translation>n.a</translation></message>
+    <message id="N/A"><translation>N/A</translation></message>
     <message id="NotBackedUp"><translation>No copy of the data file could be made in %1 before this change. %2</translation></message>
     <message id="remarkExcluded"><translation>left out: %1</translation></message>
     <message id="remarkManual"><translation>typed in</translation></message>
@@ -47,6 +59,7 @@
     <message id="SecondFolderNotRecorded"><translation>The second folder for copies could not be noted in %1. Nothing was changed.</translation></message>
     <message id="SettingLimit"><translation>0 for none, or a whole number from %1 to %2</translation></message>
     <message id="SettingOneOf"><translation>one of %1</translation></message>
+    <message id="SettingQuoted"><translation>“%1”</translation></message>
     <message id="SettingText"><translation>any text without control characters</translation></message>
     <message id="stepAddComment"><translation>new comment of %1</translation></message>
     <message id="stepAddPatient"><translation>new patient %1</translation></message>
@@ -177,6 +190,8 @@
 </context>
 <context>
     <name>app</name>
+    <message id="12-hours"><translation>12-hours</translation></message>
+    <message id="24-hours"><translation>24-hours</translation></message>
     <message id="aboutData"><translation>Data file: %1</translation></message>
     <message id="aboutLicence"><translation>Licence: all rights reserved. ZEL uses Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (Unicode licence) and expected (CC0), each under its own licence.</translation></message>
     <message id="addComment"><translation>Add a comment</translation></message>
@@ -311,6 +326,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="dayOfDownload"><translation>%1, day of a download</translation></message>
     <message id="daysButtons"><translation>Days</translation></message>
     <message id="dayWithoutReading"><translation>%1, no reading on this day</translation></message>
+    <message id="dd mm yyyy"><translation>dd mm yyyy</translation></message>
     <message id="DeleteComment"><translation>Delete comment</translation></message>
     <message id="deleteCommentButton"><translation>Delete…</translation></message>
     <message id="deleteCommentHint"><translation>Delete this comment, after a question.</translation></message>
@@ -420,7 +436,9 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="infoRemark"><translation>Remark</translation></message>
     <message id="infoSys"><translation>Systolic</translation></message>
     <message id="keep"><translation>&amp;Keep</translation></message>
+    <message id="languageNotSaved"><translation>The language was not changed; the other settings are stored. %1</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
+    <message id="lastDownloadNone"><translation>none</translation></message>
     <message id="leaveOutAction"><translation>Leave Out…</translation></message>
     <message id="leaveOutButton"><translation>&amp;Leave Out</translation></message>
     <message id="leaveOutExample"><translation>such as: cuff was loose</translation></message>
@@ -446,11 +464,14 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuPrint"><translation>&amp;Print …</translation></message>
     <message id="menuQuit"><translation>&amp;Quit</translation></message>
     <message id="menuRedo"><translation>&amp;Redo</translation></message>
+    <message id="menuRedoStep"><translation>&amp;Redo %1</translation></message>
     <message id="menuSavePdf"><translation>Save as P&amp;DF …</translation></message>
     <message id="menuSettings"><translation>&amp;Settings …</translation></message>
     <message id="menuUndo"><translation>&amp;Undo</translation></message>
+    <message id="menuUndoStep"><translation>&amp;Undo %1</translation></message>
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
+    <message id="mm dd yyyy"><translation>mm dd yyyy</translation></message>
     <message id="monitorClock"><translation>Clock</translation></message>
     <message id="monitorConnected"><translation>Monitor connected</translation></message>
     <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Choose this patient and press Download to fetch the readings.</translation></message>
@@ -625,6 +646,10 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="settingErase"><translation>Empty the monitor after each download</translation></message>
     <message id="settingEraseButton"><translation>Empt&amp;y the monitor after a download</translation></message>
     <message id="settingEraseHint"><translation>Its readings are deleted from the monitor once all of them are safely stored here.</translation></message>
+    <message id="settingLanguage"><translation>Language</translation></message>
+    <message id="settingLanguageLabel"><translation>&amp;Language</translation></message>
+    <message id="settingLanguageSystem"><translation>As the system</translation></message>
+    <message id="settingLanguageWhen"><translation>Another language is shown from the next start on.</translation></message>
     <message id="settingLimits"><translation>Blood pressure limits</translation></message>
     <message id="settingMAP"><translation>Show the mean arterial pressure</translation></message>
     <message id="settingMAPButton"><translation>&amp;Mean arterial pressure (MAP)</translation></message>
@@ -762,6 +787,7 @@ AHA: 12 readings on 3 days or more</translation></message>
 
 Open another window beside it? That does no harm: what both save is kept.</translation></message>
     <message id="yes"><translation>&amp;Yes</translation></message>
+    <message id="yyyy mm dd"><translation>yyyy mm dd</translation></message>
 </context>
 <context>
     <name>chart</name>
@@ -779,6 +805,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="max"><translation>Max</translation></message>
     <message id="min"><translation>Min</translation></message>
     <message id="mmHg"><translation>mmHg</translation></message>
+    <message id="monthOfYear"><translation>%1 %2</translation></message>
     <message id="morning"><translation>Morning</translation></message>
     <message id="noEveningReadings"><translation>No readings from noon on in this period</translation></message>
     <message id="noMorningReadings"><translation>No readings before noon in this period</translation></message>
@@ -806,9 +833,34 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="comments"><translation>Comments</translation></message>
     <message id="correlation"><translation>Systolic against diastolic pressure</translation></message>
     <message id="date"><translation>Date</translation></message>
+    <message id="formAddress"><translation>Address</translation></message>
+    <message id="formAge"><translation>Age</translation></message>
+    <message id="formBirth"><translation>Date of Birth</translation></message>
+    <message id="formCholesterol"><translation>Cholesterol(mg/dL)</translation></message>
+    <message id="formDay"><translation>Day</translation></message>
+    <message id="formDiabetic"><translation>Diabetic</translation></message>
+    <message id="formFamilyHistory"><translation>Family history</translation></message>
+    <message id="formFamilyName"><translation>Family Name</translation></message>
+    <message id="formGivenNames"><translation>Given Name(s)</translation></message>
+    <message id="formHeightCm"><translation>Heigt(cm)</translation></message>
+    <message id="formHeightFtIn"><translation>Heigt(ft/in)</translation></message>
+    <message id="formID"><translation>ID</translation></message>
+    <message id="formMonth"><translation>Month</translation></message>
+    <message id="formNotes"><translation>Patient Notes</translation></message>
+    <message id="formPersonal"><translation>Personal Data</translation></message>
+    <message id="formPhoneEmail"><translation>Phone / E-Mail</translation></message>
+    <message id="formRisks"><translation>Risk Factor</translation></message>
+    <message id="formSex"><translation>Sex</translation></message>
+    <message id="formSmoker"><translation>Smoker</translation></message>
+    <message id="formWeightKg"><translation>Weight(kg)</translation></message>
+    <message id="formWeightLb"><translation>Weight(lb)</translation></message>
+    <message id="formYear"><translation>Year</translation></message>
+    <message id="formYears" numerus="yes"><translation><numerusform>year</numerusform><numerusform>years</numerusform></translation></message>
     <message id="graph"><translation>Blood-pressure and pulse chart</translation></message>
     <message id="histogram"><translation>Distribution of the readings</translation></message>
     <message id="mam"><translation>MAM</translation></message>
+    <message id="n.a."><translation>n.a.</translation></message>
+    <message id="N.A."><translation>N.A.</translation></message>
     <message id="No"><translation>No</translation></message>
     <message id="PatientProfile"><translation>Patient profile</translation></message>
     <message id="reportAllComments"><translation>Comments of all times, not only of this period</translation></message>
@@ -867,7 +919,6 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Thin dashed line: the limit of %1.</numerusform><numerusform>Thin dashed lines: the limits of %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Thick lines: medians. Bands: from the 10th to the 90th percentile, or from the lowest to the highest of fewer than 5 readings. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
-    <message id="reportYears"><translation>years</translation></message>
     <message id="summary"><translation>Summary</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
     <message id="summaryAll"><translation>All</translation></message>
@@ -960,7 +1011,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
-    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]]
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG]
        zel COMMAND [OPTION]...
 
 Keeps the readings of automatic blood-pressure monitors, patient by patient.
@@ -982,6 +1033,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
+  --language TAG               the language of messages and reports, such as de or zh_TW
   -h, --help                   show this text; 'zel COMMAND --help' tells about a command
   --version                    show the version
 

@@ -68,7 +68,7 @@ QString describeMeans(const BeforeAndSince& change) {
     if (before.count() == 0) return qtTrId("noneBefore").arg(shown(since));
     if (since.count() == 0) return qtTrId("noneSince").arg(shown(before));
     const QString few = fewReadings(before, since);
-    return compared(before, since) + (few.isEmpty() ? QString() : u"; "_s + few);
+    return compared(before, since) + (few.isEmpty() ? QString() : qtTrId("; ") + few);
 }
 
 } // namespace
@@ -77,7 +77,7 @@ QString describe(const BeforeAndSince& change) {
     if (change.since.begin == noDay) return {};
     const int excluded = change.before.excluded + change.since.excluded;
     const QString means = describeMeans(change);
-    return excluded == 0 ? means : means + u"; "_s + qtTrId("excludedOfDays", excluded);
+    return excluded == 0 ? means : means + qtTrId("; ") + qtTrId("excludedOfDays", excluded);
 }
 
 } // namespace zel

@@ -131,7 +131,7 @@ QString describeMissing(const MeasuringWeek& week) {
     if (week.missingReadings > 0) missing += qtTrId("missingReadings", week.missingReadings);
     if (week.missingMornings > 0) missing += qtTrId("missingMornings", week.missingMornings);
     if (week.missingEvenings > 0) missing += qtTrId("missingEvenings", week.missingEvenings);
-    return missing.join(QStringLiteral(", "));
+    return missing.join(qtTrId(", "));
 }
 
 } // namespace zel

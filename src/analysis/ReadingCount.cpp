@@ -40,14 +40,14 @@ QString describeLeftOut(const ReadingCount& count) {
     if (count.excluded > 0) reasons += qtTrId("leftExcluded", count.excluded);
     if (count.undated > 0) reasons += qtTrId("leftUndated", count.undated);
     if (count.withoutDate > 0) reasons += qtTrId("leftWithoutDate", count.withoutDate);
-    return reasons.isEmpty() ? QString() : qtTrId("leftOut").arg(reasons.join(QStringLiteral(", ")));
+    return reasons.isEmpty() ? QString() : qtTrId("leftOut").arg(reasons.join(qtTrId(", ")));
 }
 
 QString describe(const ReadingCount& count) {
     QString counted = qtTrId("readingCount", count.counted);
     if (count.listedExcluded > 0) counted += qtTrId("listedExcluded", count.listedExcluded);
     const QString left = describeLeftOut(count);
-    return left.isEmpty() ? counted : counted + QStringLiteral("; ") + left;
+    return left.isEmpty() ? counted : counted + qtTrId("; ") + left;
 }
 
 } // namespace zel

@@ -116,7 +116,7 @@ void drawTopLines(Rows& rows) {
 } // namespace
 
 QString ReadingRow::strDisplayDate(const SettingModel& settings) const {
-    return isUndatedDay(day) ? u"n.a"_s : dayText(day, settings.getDateFormat());
+    return isUndatedDay(day) ? qtTrId("n.a") : dayText(day, settings.getDateFormat());
 }
 
 QString describeCut(const ReadingRows& list) {

@@ -1,8 +1,7 @@
 #include "chart/DateLabels.h"
 
 #include "chart/ChartScale.h"
-
-#include <QLocale>
+#include "store/Languages.h"
 
 #include <algorithm>
 
@@ -29,7 +28,7 @@ QString yearText(const AxisDay& day) {
 }
 
 QString monthName(const AxisDay& day) {
-    return QLocale::c().standaloneMonthName(static_cast<int>(static_cast<unsigned>(day.date.month())));
+    return textLocale().standaloneMonthName(static_cast<int>(static_cast<unsigned>(day.date.month())));
 }
 
 void addMonths(std::vector<DateLabel>& labels, Days days, const LabelRoom& room, const TextWidth& width,
@@ -99,8 +98,9 @@ void addNumbers(std::vector<DateLabel>& labels, Days days, const LabelRoom& room
 std::vector<DateLabel> dayLabels(Days days, const LabelRoom& room, const TextWidth& width) {
     std::vector<DateLabel> labels;
     addNumbers(labels, days, room, width);
-    addMonths(labels, days, room, width, 0,
-              [](const AxisDay& month) { return monthName(month) + u' ' + yearText(month); });
+    addMonths(labels, days, room, width, 0, [](const AxisDay& month) {
+        return qtTrId("monthOfYear").arg(monthName(month), yearText(month));
+    });
     return labels;
 }
 

@@ -8,6 +8,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QChar lineFeed(u'\n');
@@ -54,6 +56,18 @@ qsizetype fittingLength(QStringView text, double width, const QFontMetricsF& met
     return tooWide == ends.begin() ? 0 : *(tooWide - 1);
 }
 
+bool isIdeograph(QChar c) { return c.script() == QChar::Script_Han; }
+
+/// Ideographs stand without blanks; only what closes or ends something stays with what it stands behind.
+bool isBetweenIdeographs(const QString& text, int at) {
+    const QChar before = text[at], next = text[at + 1];
+    const bool staysBefore =
+        next.category() == QChar::Punctuation_Close || u"、。，．：；！？％"_s.contains(next);
+    const bool staysBehind = before.category() == QChar::Punctuation_Open;
+    const bool endsSentence = u"、。，：；）」"_s.contains(before);
+    return (isIdeograph(before) || isIdeograph(next) || endsSentence) && !staysBefore && !staysBehind;
+}
+
 } // namespace
 
 Size textSize(const QString& text, const TextAttribute& attribute) {
@@ -89,7 +103,7 @@ int getLineIndex(const QString& text, int from, double width, const TextAttribut
 int adjustWordBreak(const QString& text, int from, int to) {
     if (to < from) return -1;
     if (to + 1 >= text.size() || isBlank(text, to + 1)) return to;
-    while (to >= from && !isBlank(text, to))
+    while (to >= from && !isBlank(text, to) && !isBetweenIdeographs(text, to))
         --to;
     return to < from ? -1 : to;
 }

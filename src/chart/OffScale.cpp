@@ -19,7 +19,7 @@ QString shortText(const OffScale& counts) {
     QStringList sides;
     if (counts.above > 0) sides += qtTrId("aboveScaleShort").arg(counts.above);
     if (counts.below > 0) sides += qtTrId("belowScaleShort").arg(counts.below);
-    return sides.join(u", "_s);
+    return sides.join(qtTrId(", "));
 }
 
 struct Note {
@@ -69,7 +69,7 @@ QString offScaleText(const OffScale& counts, OffScaleOf what) {
         sides += isPoints ? qtTrId("abovePoints", counts.above) : qtTrId("aboveScale", counts.above);
     if (counts.below > 0)
         sides += isPoints ? qtTrId("belowPoints", counts.below) : qtTrId("belowScale", counts.below);
-    return sides.join(u", "_s);
+    return sides.join(qtTrId(", "));
 }
 
 bool hasRoomForOffScale(const OffScale& counts, const Rect& room) {

@@ -6,11 +6,13 @@
 #include "monitor/SimulatedMonitor.h"
 #include "report/TextApplication.h"
 #include "report/UsualPaper.h"
+#include "store/LanguageChoice.h"
+#include "store/Languages.h"
 #include "store/SystemLog.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLoggingCategory>
-#include <QTranslator>
 
 #include <iostream>
 #include <unistd.h>
@@ -28,6 +30,11 @@ QStringList argumentsOf(int argc, char** argv) {
     return arguments;
 }
 
+/// The command, behind whatever options stand before it.
+QString commandWord(int argc, char** argv) {
+    return takeSimulatedMonitor(takeLanguageOption(argumentsOf(argc, argv)).words).words.value(0);
+}
+
 AttachedMonitor attachMonitor(const std::optional<QString>& simulated, const Clock& clock) {
     if (simulated) return makeSimulatedMonitor(*simulated, clock);
     return std::make_unique<HidPort>();
@@ -35,8 +42,7 @@ AttachedMonitor attachMonitor(const std::optional<QString>& simulated, const Clo
 
 /// A report is painted; the other commands do without what that takes.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
-    const QString word = takeSimulatedMonitor(argumentsOf(argc, argv)).words.value(0);
-    if (word == "report"_L1) return makeTextApplication(argc, argv);
+    if (commandWord(argc, argv) == "report"_L1) return makeTextApplication(argc, argv);
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 
@@ -47,22 +53,33 @@ void quietLog() {
         QLoggingCategory::setFilterRules(u"*.info=false\n*.debug=false"_s);
 }
 
+tl::expected<QString, StoreError> chosenLanguage() {
+    const QString home = qEnvironmentVariable("HOME");
+    if (QDir::isRelativePath(home)) return QString(); // which each command tells
+    return readLanguageChoice(languageFile(home));
+}
+
 } // namespace
 
 bool isCommand(int argc, char** argv) {
-    const QString word = takeSimulatedMonitor(argumentsOf(argc, argv)).words.value(0);
+    const QString word = commandWord(argc, argv);
     if (word.isEmpty()) return false;
     return !word.startsWith(u'-') || word == "--help"_L1 || word == "-h"_L1 || word == "--version"_L1;
 }
 
 int run(int argc, char** argv) {
-    const QPageSize paper = usualPaper(paperLocale()); // before the next line hides what the user has set
+    // Both before the locale is set, which hides what the user has set.
+    const QPageSize paper = usualPaper(paperLocale());
+    const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     // The same output in every environment; Qt, too, wants a UTF-8 locale and would speak up about another.
     qputenv("LC_ALL", "C.UTF-8");
     const auto application = makeApplication(argc, argv);
     quietLog();
-    QTranslator texts;
-    if (texts.load(u":/zel_en.qm"_s)) QCoreApplication::installTranslator(&texts);
+    const auto chosen = chosenLanguage();
+    const QStringList arguments = argumentsOf(argc, argv);
+    const ProgramTexts texts(
+        languageOfRun(takeLanguageOption(arguments), chosen.value_or(QString()), environment));
+    if (!chosen) printLine(std::cerr, u"zel: "_s + describeUnreadLanguage(chosen.error()));
     SystemClock clock;
     Surroundings around{.out = std::cout,
                         .err = std::cerr,
@@ -73,7 +90,7 @@ int run(int argc, char** argv) {
                                   .applicationFolder = QCoreApplication::applicationDirPath(),
                                   .templateFolder = u":/templates"_s},
                         .attach = [&](const auto& simulated) { return attachMonitor(simulated, clock); }};
-    return run(argumentsOf(argc, argv), around);
+    return run(arguments, around);
 }
 
 } // namespace zel::cli

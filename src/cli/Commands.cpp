@@ -2,6 +2,7 @@
 
 #include "cli/Usage.h"
 #include "store/Backups.h"
+#include "store/Languages.h"
 #include "store/SecondFolder.h"
 
 #include <QDateTime>
@@ -86,11 +87,15 @@ std::optional<Command> commandByName(const QString& name) {
 }
 
 int run(const QStringList& given, Surroundings& around) {
-    const Arguments arguments = takeSimulatedMonitor(given);
+    const LanguageOption language = takeLanguageOption(given);
+    const Arguments arguments = takeSimulatedMonitor(language.words);
     const auto command = commandByName(arguments.words.value(0));
     const QString program = command ? u"zel "_s + QLatin1String(command->name) : u"zel"_s;
     const QDateTime before = dataFileTime(around);
-    CommandResult result = command ? runCommand(*command, arguments, around) : runGlobal(arguments, around);
+    const QString problem = languageProblem(language);
+    CommandResult result = !problem.isEmpty() ? wrongUsage(problem)
+                           : command          ? runCommand(*command, arguments, around)
+                                              : runGlobal(arguments, around);
     if (dataFileTime(around) != before) copyToSecondFolder(around, program);
     if (result && !around.out.flush()) result = failed(qtTrId("CliOutputFailed"));
     if (!result) tell(around, program, result.error());

@@ -5,7 +5,6 @@
 #include "cli/PeriodOptions.h"
 #include "cli/ReadingChanges.h"
 #include "cli/Usage.h"
-#include "store/ManualReading.h"
 #include "store/RecordXml.h"
 
 #include <QTime>
@@ -28,6 +27,12 @@ QStringList fields(const ReadingModel& reading) {
     return fields << reading.getMamStr() << reading.getPadStr();
 }
 
+/// As stored, whatever the language.
+QString reasonInFile(const ReadingModel& reading) {
+    const QString reason = reading.exclusion.simplified();
+    return reading.isExcluded() && reason.isEmpty() ? u"no reason given"_s : reason;
+}
+
 /// The lines of one call, with the columns that are asked for.
 class Lines {
 public:
@@ -38,7 +43,7 @@ public:
     }
     void add(const ReadingModel& reading) {
         QStringList all = fields(reading);
-        if (hasNumbers) all << reading.RecID << describeExclusion(reading);
+        if (hasNumbers) all << reading.RecID << reasonInFile(reading);
         lines += csvLine(all);
         if (reading.isExcluded()) ++excluded;
     }

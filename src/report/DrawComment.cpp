@@ -20,7 +20,7 @@ constexpr double barWidth = 6;
 double itemHeight() { return (2 * lineHeight(smallFont) + 3 * DrawComment::yMargin) * 2; }
 
 QString day(DayNumber number, const SettingModel& settings) {
-    return isUndatedDay(number) ? u"n.a"_s : dayText(number, settings.getDateFormat());
+    return isUndatedDay(number) ? qtTrId("n.a") : dayText(number, settings.getDateFormat());
 }
 
 QString days(const CommentModel& comment, const SettingModel& settings) {

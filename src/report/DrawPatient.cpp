@@ -108,20 +108,19 @@ void row(Sheet& sheet, const Row& at, const QString& label, const QString& value
 
 /// Day, month and year in boxes of their own, each above its name.
 void drawBirth(Sheet& sheet, const PatientModel& patient, double y) {
-    sheet.label(22, y, u"Date of Birth"_s, 88);
+    sheet.label(22, y, qtTrId("formBirth"), 88);
     struct Part {
-        const char* label;
-        QString pattern;
+        QString label, pattern;
         double x, width;
     };
-    const std::array<Part, 3> parts{
-        {{"Day", u"d"_s, 110, 50}, {"Month", u"M"_s, 170, 50}, {"Year", u"yyyy"_s, 230, 70}}};
+    const std::array<Part, 3> parts{{{qtTrId("formDay"), u"d"_s, 110, 50},
+                                     {qtTrId("formMonth"), u"M"_s, 170, 50},
+                                     {qtTrId("formYear"), u"yyyy"_s, 230, 70}}};
     for (const Part& part : parts) {
         const Date& birth = patient.DateOfBirth;
-        const QString label = QLatin1StringView(part.label);
         const QString value = isNilDate(birth) ? QString() : DateToStr(birth, part.pattern);
-        sheet.field({part.x, y, part.width, fieldHeight}, label, value);
-        sheet.label(part.x, y + 18, label, part.width);
+        sheet.field({part.x, y, part.width, fieldHeight}, part.label, value);
+        sheet.label(part.x, y + 18, part.label, part.width);
     }
 }
 
@@ -141,15 +140,15 @@ int growthOf(const Sheet& sheet, const PatientModel& patient) {
 
 void drawPersonal(Sheet& sheet, const PatientModel& patient, int growth) {
     const double more = growth * sheet.paragraphLine();
-    sheet.block({0, 0, 373, 224 + more}, u"Personal Data"_s);
+    sheet.block({0, 0, 373, 224 + more}, qtTrId("formPersonal"));
     constexpr double x = 22, labelWidth = 88, fieldWidth = addressWidth;
-    row(sheet, {x, 34, labelWidth, fieldWidth}, u"Family Name"_s, patient.FamilyName);
-    row(sheet, {x, 57, labelWidth, fieldWidth}, u"Given Name(s)"_s, patient.GivenNames);
-    row(sheet, {x, 80, labelWidth, fieldWidth}, u"ID"_s, patient.ID);
-    sheet.label(x, 103, u"Address"_s, labelWidth);
-    sheet.paragraph({x + labelWidth, 103, fieldWidth, 42 + more}, u"Address"_s, patient.Address,
+    row(sheet, {x, 34, labelWidth, fieldWidth}, qtTrId("formFamilyName"), patient.FamilyName);
+    row(sheet, {x, 57, labelWidth, fieldWidth}, qtTrId("formGivenNames"), patient.GivenNames);
+    row(sheet, {x, 80, labelWidth, fieldWidth}, qtTrId("formID"), patient.ID);
+    sheet.label(x, 103, qtTrId("formAddress"), labelWidth);
+    sheet.paragraph({x + labelWidth, 103, fieldWidth, 42 + more}, qtTrId("formAddress"), patient.Address,
                     addressLines + growth);
-    row(sheet, {x, 149 + more, labelWidth, fieldWidth}, u"Phone / E-Mail"_s, patient.PhoneEmail);
+    row(sheet, {x, 149 + more, labelWidth, fieldWidth}, qtTrId("formPhoneEmail"), patient.PhoneEmail);
     drawBirth(sheet, patient, 174 + more);
 }
 
@@ -164,23 +163,24 @@ void drawRisks(Sheet& sheet, const ReportSource& report, int growth) {
     const PatientModel& patient = report.patient;
     const bool isMetric = report.settings.isMetric();
     const bool hasBirth = !isNilDate(patient.DateOfBirth);
-    const QString age = hasBirth ? QString::number(GetAge(*patient.DateOfBirth, report.now)) : QString();
+    const int years = hasBirth ? GetAge(*patient.DateOfBirth, report.now) : 0;
+    const QString age = hasBirth ? QString::number(years) : QString();
     const double more = growth * sheet.paragraphLine();
-    sheet.block({373, 0, 373, 224 + more}, u"Risk Factor"_s);
+    sheet.block({373, 0, 373, 224 + more}, qtTrId("formRisks"));
     constexpr double left = 395, right = 571, fieldWidth = 76, labelWidth = 76;
-    row(sheet, {left, 34, labelWidth, fieldWidth}, u"Sex"_s, sexText(patient.Sex));
-    row(sheet, {right, 34, labelWidth, fieldWidth}, u"Age"_s, age, qtTrId("reportYears"));
-    row(sheet, {left, 64, labelWidth, fieldWidth}, isMetric ? u"Weight(kg)"_s : u"Weight(lb)"_s,
+    row(sheet, {left, 34, labelWidth, fieldWidth}, qtTrId("formSex"), sexText(patient.Sex));
+    row(sheet, {right, 34, labelWidth, fieldWidth}, qtTrId("formAge"), age, qtTrId("formYears", years));
+    row(sheet, {left, 64, labelWidth, fieldWidth}, isMetric ? qtTrId("formWeightKg") : qtTrId("formWeightLb"),
         patient.getWeightStr(report.settings));
     // Spelled so in the form.
-    row(sheet, {right, 64, labelWidth, fieldWidth}, isMetric ? u"Heigt(cm)"_s : u"Heigt(ft/in)"_s,
-        patient.getHeightStr(report.settings));
-    row(sheet, {left, 94, labelWidth, fieldWidth}, u"Smoker"_s, yesNo(patient.Smoker));
-    row(sheet, {right, 94, labelWidth, fieldWidth}, u"Diabetic"_s, yesNo(patient.Diabetic));
-    row(sheet, {left, 124, right - left + labelWidth, fieldWidth}, u"Cholesterol(mg/dL)"_s,
+    row(sheet, {right, 64, labelWidth, fieldWidth},
+        isMetric ? qtTrId("formHeightCm") : qtTrId("formHeightFtIn"), patient.getHeightStr(report.settings));
+    row(sheet, {left, 94, labelWidth, fieldWidth}, qtTrId("formSmoker"), yesNo(patient.Smoker));
+    row(sheet, {right, 94, labelWidth, fieldWidth}, qtTrId("formDiabetic"), yesNo(patient.Diabetic));
+    row(sheet, {left, 124, right - left + labelWidth, fieldWidth}, qtTrId("formCholesterol"),
         patient.getCholestrolStr());
-    sheet.label(left, 154, u"Family history"_s, labelWidth);
-    sheet.paragraph({left + labelWidth, 154, historyWidth, 54 + more}, u"Family history"_s,
+    sheet.label(left, 154, qtTrId("formFamilyHistory"), labelWidth);
+    sheet.paragraph({left + labelWidth, 154, historyWidth, 54 + more}, qtTrId("formFamilyHistory"),
                     patient.FamilyHistory, historyLines + growth);
 }
 
@@ -192,8 +192,8 @@ std::vector<FormText> drawForm(Picture& picture, const ReportSource& report, con
     const double more = growth * sheet.paragraphLine();
     drawPersonal(sheet, report.patient, growth);
     drawRisks(sheet, report, growth);
-    sheet.block({0, 224 + more, 746, 116 - more}, u"Patient Notes"_s);
-    sheet.paragraph({22, 254 + more, notesWidth, 70 - more}, u"Patient Notes"_s, report.patient.PatientNotes,
+    sheet.block({0, 224 + more, 746, 116 - more}, qtTrId("formNotes"));
+    sheet.paragraph({22, 254 + more, notesWidth, 70 - more}, qtTrId("formNotes"), report.patient.PatientNotes,
                     noteLines - growth);
     return std::move(sheet).cutTexts();
 }

@@ -158,7 +158,7 @@ bool DrawTable::drawReading(Picture& picture, const TableRow& row, const Reading
         textOut(picture, u"\u2193"_s, {field(row, xMam, xPad, 0).at.x - columnGap, row.y + textBase},
                 row.font, XPos::right);
     if (reading.isNA()) {
-        text(picture, row, xSys, xDia, u"n.a."_s);
+        text(picture, row, xSys, xDia, qtTrId("n.a."));
     } else {
         drawMarks(picture, row, *reading.reading);
         drawMeasures(picture, row, *reading.reading);
@@ -175,7 +175,7 @@ void DrawTable::drawMarks(Picture& picture, const TableRow& row, const ReadingMo
     if (isKnown)
         picture.emplace_back(Circle{markCentre(row, xPad), mark, hasFinding(reading.Arrhythmia), Qt::black});
     else
-        text(picture, row, xPad, xSys, u"N.A."_s);
+        text(picture, row, xPad, xSys, qtTrId("N.A."));
 }
 
 void DrawTable::drawMeasures(Picture& picture, const TableRow& row, const ReadingModel& reading) const {
@@ -199,8 +199,8 @@ bool DrawTable::drawComment(Picture& picture, const TableRow& row, const Reading
         words += commentNumber(report.comments, *reading.comment) + u' ' + reading.comment->comment;
     words.removeAll(QString());
     const double width = cell.width + columnGap - 6;
-    fieldText(picture, words.join(u"; "_s), {cell.at.x + 6, cell.at.y}, width, row.font);
-    return reading.comment && isNamed && !isWhole(words.join(u"; "_s), width, row.font);
+    fieldText(picture, words.join(qtTrId("; ")), {cell.at.x + 6, cell.at.y}, width, row.font);
+    return reading.comment && isNamed && !isWhole(words.join(qtTrId("; ")), width, row.font);
 }
 
 void DrawTable::drawBar(Picture& picture, const TableRow& row, const ReadingRow& reading) {

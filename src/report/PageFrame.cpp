@@ -102,7 +102,7 @@ void drawPractitioner(Picture& picture, const Rect& foot, QString text) {
     while (font.size > smallestPractitioner && !fits())
         --font.size;
     if (!fits()) {
-        text.replace(u'\n', u", "_s);
+        text.replace(u'\n', qtTrId(", "));
         font.size = practitionerSize;
     }
     while (font.size > smallestPractitioner && !fits())
@@ -119,7 +119,7 @@ void drawPractitioner(Picture& picture, const Rect& foot, QString text) {
 
 QString emptyText(const PagePlace& place) {
     if (place.number != 1 || place.emptySections.isEmpty()) return {};
-    return qtTrId("reportEmptySections").arg(place.emptySections.join(u", "_s));
+    return qtTrId("reportEmptySections").arg(place.emptySections.join(qtTrId(", ")));
 }
 
 double patientTitleHeight() { return static_cast<int>(2 * lineHeight(plainFont) + 20); }

@@ -33,7 +33,8 @@ std::vector<PdfBookmark> bookmarksOf(const ReportDocument& document) {
 
 PdfFacts factsOf(const ReportSource& report, const ReportDocument& document) {
     const PatientModel& patient = report.patient;
-    const QString name = (patient.GivenNames.left(200) + u' ' + patient.FamilyName.left(200)).trimmed();
+    const QString name =
+        qtTrId("fullName").arg(patient.GivenNames.left(200), patient.FamilyName.left(200)).trimmed();
     return {.title = qtTrId("reportDocument").arg(name, patient.ID.left(200)),
             .author = author(report),
             .creator = u"ZEL "_s + QStringLiteral(ZEL_VERSION),

@@ -80,7 +80,7 @@ QString weekCounts(const MeasuringWeek& week) {
     const QString readings = qtTrId("reportReadings", static_cast<int>(week.readingsUsed()));
     QString counted = qtTrId("summaryOnDays", week.daysUsed).arg(readings);
     if (week.readingsLeftOut == 0) return counted;
-    return counted + u"; "_s + qtTrId("summaryFirstDay", week.readingsLeftOut);
+    return counted + qtTrId("; ") + qtTrId("summaryFirstDay", week.readingsLeftOut);
 }
 
 QString completeText(const MeasuringWeek& week) {
@@ -98,9 +98,9 @@ QStringList flaggedTexts(const SummaryFigures& figures) {
     const FlaggedReadings both{figures.afib.flagged + figures.pad.flagged,
                                figures.afib.examined + figures.pad.examined};
     if (both.examined == 0) return {qtTrId("summaryNotExamined")};
-    const QString kind = figures.pad.examined == 0    ? u"AFib"_s
-                         : figures.afib.examined == 0 ? u"PAD"_s
-                                                      : u"AFib, PAD"_s;
+    const QString kind = figures.pad.examined == 0    ? qtTrId("afib")
+                         : figures.afib.examined == 0 ? qtTrId("pad")
+                                                      : qtTrId("afib") + qtTrId(", ") + qtTrId("pad");
     const auto others = static_cast<int>(figures.all.count()) - both.examined;
     QStringList texts{qtTrId("summaryFlagged", both.examined).arg(kind).arg(both.flagged)};
     if (others > 0) texts += qtTrId("summaryOthers", others);

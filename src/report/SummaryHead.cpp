@@ -28,7 +28,7 @@ QString birthText(const ReportSource& report) {
 
 /// A long name on two lines, so that it can be read.
 void drawName(Picture& picture, const PatientModel& patient, Rect& left) {
-    const QString whole = (patient.GivenNames + u' ' + patient.FamilyName).trimmed();
+    const QString whole = qtTrId("fullName").arg(patient.GivenNames, patient.FamilyName).trimmed();
     const bool isOneLine = isWhole(whole, left.width, {.size = smallestOnOneLine, .bold = true})
                            || patient.GivenNames.isEmpty() || patient.FamilyName.isEmpty();
     if (isOneLine) return summaryLine(picture, whole, left, nameFont);
@@ -47,7 +47,7 @@ void drawPractitioner(Picture& picture, const ReportSource& report, const Rect& 
         return wrapped(text, rect.width, font, room(font) + 1).size() <= room(font);
     };
     const TextAttribute& font = fits(summaryFont) ? summaryFont : summarySmall;
-    if (!fits(font)) text.replace(u'\n', u", "_s);
+    if (!fits(font)) text.replace(u'\n', qtTrId(", "));
     fieldParagraph(picture, text, {rect.x, rect.top()}, rect.width, font, room(font));
 }
 

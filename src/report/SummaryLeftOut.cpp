@@ -5,6 +5,7 @@
 #include "report/SummaryBoxes.h"
 #include "report/SummaryType.h"
 #include "report/TrendPage.h"
+#include "store/ManualReading.h"
 
 #include <algorithm>
 
@@ -18,7 +19,7 @@ constexpr int mostHowToRead = 3;
 constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
 
 QString excludedText(const ReadingModel& reading, const ReportSource& report) {
-    const QString reason = reading.exclusion.left(mostOfReason).simplified();
+    const QString reason = describeReason(reading.exclusion.simplified()).left(mostOfReason);
     return qtTrId("summaryExcluded")
         .arg(reading.strDisplayDate(report.settings), reading.strDisplayTime(report.settings))
         .arg(reading.sys)
@@ -61,7 +62,10 @@ QString countsOf(const ReportSource& report) {
     QStringList parts{left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left};
     if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
         parts += qtTrId("summaryOtherComments", others);
-    return parts.join(u"; "_s);
+    QString line = parts.join(qtTrId("; "));
+    line.front() =
+        line.front().toUpper(); // within a sentence, some languages begin with a word where others count
+    return line;
 }
 
 /// By the limits that the trend above draws.

@@ -57,7 +57,7 @@ QString pressureText(const PressureMeans& means, const LimitPair& limits) {
 }
 
 QString summaryDay(DayNumber day, const ReportSource& report) {
-    return isNilDay(day) ? u"n.a."_s : dayText(day, report.settings.getDateFormat());
+    return isNilDay(day) ? qtTrId("n.a.") : dayText(day, report.settings.getDateFormat());
 }
 
 } // namespace zel

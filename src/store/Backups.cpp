@@ -57,7 +57,7 @@ QString freeName(const QString& folder, BackupKind kind, Instant now) {
 QString describe(const BackupContent& content, const QString& dateFormat) {
     const QString patients = qtTrId("BackupPatients", static_cast<int>(content.patients));
     const QString readings = qtTrId("BackupReadings", static_cast<int>(content.readings));
-    if (content.lastReading == noDay) return patients + u", "_s + readings;
+    if (content.lastReading == noDay) return patients + qtTrId(", ") + readings;
     return qtTrId("BackupLast").arg(patients, readings, dayText(content.lastReading, dateFormat));
 }
 

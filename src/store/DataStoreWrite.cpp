@@ -1,6 +1,7 @@
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
 #include "store/Log.h"
+#include "store/ManualReading.h"
 #include "store/NewReadings.h"
 #include "store/RecordXml.h"
 #include "store/Text.h"
@@ -75,7 +76,7 @@ void leaveOutTyped(const std::vector<pugi::xml_node>& elements) {
     for (const pugi::xml_node element : elements) {
         const auto before = ReadingModel::initWithXMLNode(element);
         ReadingModel excluded = before;
-        excluded.exclusion = qtTrId("ExcludedAsMeasured");
+        excluded.exclusion = measuredReason.toString();
         excluded.changeXMLNode(element, before);
     }
 }

@@ -76,20 +76,25 @@ QString describe(ManualProblem problem) {
 QString exclusionReason(const QString& typed) {
     QString kept;
     std::ranges::copy_if(typed.simplified(), std::back_inserter(kept), isPlain);
-    return kept.simplified();
+    kept = kept.simplified();
+    return kept == describeReason(measuredReason.toString()) ? measuredReason.toString() : kept;
 }
 
 QString describeExclusion(const ReadingModel& reading) {
     if (!reading.isExcluded()) return {};
     const QString reason = reading.exclusion.simplified();
-    return reason.isEmpty() ? qtTrId("ExcludedWithoutReason") : reason;
+    return reason.isEmpty() ? qtTrId("ExcludedWithoutReason") : describeReason(reason);
+}
+
+QString describeReason(const QString& stored) {
+    return stored == measuredReason ? qtTrId("ExcludedAsMeasured") : stored;
 }
 
 QString describeRemark(const ReadingModel& reading) {
     QStringList remarks;
     if (reading.isManual) remarks += qtTrId("remarkManual");
     if (reading.isExcluded()) remarks += qtTrId("remarkExcluded").arg(describeExclusion(reading));
-    return remarks.join(QStringLiteral("; "));
+    return remarks.join(qtTrId("; "));
 }
 
 } // namespace zel

@@ -45,7 +45,11 @@ enum class ManualProblem {
 /// In plain words, from the translation table.
 [[nodiscard]] QString describe(ManualProblem problem);
 
-/// The reason for leaving a reading out as it is stored, on one line; empty: it is none.
+/// Why a typed reading is left out when the monitor brings the same one: as it is stored, in every language.
+inline constexpr QStringView measuredReason{u"measured by the monitor, too"};
+
+/// The reason for leaving a reading out as it is stored, on one line; empty: it is none. What
+/// describeExclusion() shows for measuredReason is measuredReason again.
 [[nodiscard]] QString exclusionReason(const QString& typed);
 
 /// What is to be known of the reading beside its values: "typed in; left out: cuff was loose"; mostly empty.
@@ -53,5 +57,7 @@ enum class ManualProblem {
 
 /// Why the reading is left out, also where the file has no words for it; empty if it is not.
 [[nodiscard]] QString describeExclusion(const ReadingModel& reading);
+/// A stored reason as it is shown.
+[[nodiscard]] QString describeReason(const QString& stored);
 
 } // namespace zel

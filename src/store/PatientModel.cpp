@@ -137,7 +137,7 @@ QString PatientModel::exportCSV(const SettingModel& settings) const {
            + quoted("Address", Address) + quoted("Phone / E-Mail", PhoneEmail) + plain("Date of Birth", birth)
            + plain("Weight", getWeightStr(settings) + (settings.isMetric() ? u"(kg)"_s : u"(lb)"_s))
            + plain("Height", getHeightStr(settings) + (settings.isMetric() ? u"(cm)"_s : u"(ft/in)"_s))
-           + plain("Sex", Sex == 1 ? qtTrId("Male") : qtTrId("Female")) + plain("Smoker", toYesNo(Smoker))
+           + plain("Sex", Sex == 1 ? u"Male"_s : u"Female"_s) + plain("Smoker", toYesNo(Smoker))
            + plain("Diabetic", toYesNo(Diabetic)) + plain("Cholesterol", getCholestrolStr() + u"(mg/dL)"_s)
            + quoted("Family history", FamilyHistory) + quoted("Patient Notes", PatientNotes);
 }

@@ -144,6 +144,13 @@ QString ReadingModel::getPadStr() const {
 
 QString ReadingModel::getMamStr() const { return mam == 1 ? u"Yes"_s : u"No"_s; }
 
+QString ReadingModel::strDisplayPad() const {
+    if (!isPad() && !isAFib()) return qtTrId("N/A");
+    return Arrhythmia == 2 || Arrhythmia == 5 ? qtTrId("Yes") : qtTrId("No");
+}
+
+QString ReadingModel::strDisplayMam() const { return mam == 1 ? qtTrId("Yes") : qtTrId("No"); }
+
 QString ReadingModel::exportCSV(const SettingModel& settings) const {
     QString date = u","_s;
     if (!isUndated()) {
@@ -168,7 +175,7 @@ void ReadingModel::postInit(const ReadingModel* previous, const SettingModel& se
 }
 
 QString ReadingModel::strDisplayDate(const SettingModel& settings) const {
-    return isUndated() ? u"n.a"_s : dayText(day, settings.getDateFormat());
+    return isUndated() ? qtTrId("n.a") : dayText(day, settings.getDateFormat());
 }
 
 QString ReadingModel::strDisplayTime(const SettingModel& settings) const {
@@ -176,7 +183,8 @@ QString ReadingModel::strDisplayTime(const SettingModel& settings) const {
     const int hour = minuteOfDay / 60;
     const QString minute = twoDigits(minuteOfDay % 60);
     if (!settings.is12Hours()) return twoDigits(hour) + u':' + minute;
-    return twoDigits(hourOnDial(minuteOfDay)) + u':' + minute + (isPMData ? u" P"_s : u" A"_s);
+    const QString time = twoDigits(hourOnDial(minuteOfDay)) + u':' + minute;
+    return (isPMData ? qtTrId("%1 P") : qtTrId("%1 A")).arg(time);
 }
 
 } // namespace zel

@@ -63,8 +63,10 @@ struct ReadingModel {
     [[nodiscard]] bool isExcluded() const { return !exclusion.isNull(); }
     [[nodiscard]] bool isPad() const;
     [[nodiscard]] bool isAFib() const;
-    [[nodiscard]] QString getPadStr() const; ///< "Yes", "No" or "N/A", as in exported files
-    [[nodiscard]] QString getMamStr() const; ///< "Yes" or "No", as in exported files
+    [[nodiscard]] QString getPadStr() const;     ///< "Yes", "No" or "N/A", as in exported files
+    [[nodiscard]] QString getMamStr() const;     ///< "Yes" or "No", as in exported files
+    [[nodiscard]] QString strDisplayPad() const; ///< as getPadStr(), in words to be shown
+    [[nodiscard]] QString strDisplayMam() const;
 
     /// The reading's line in an exported CSV file, with its end; date and time are empty when undated. Behind
     /// the last comma stands "manual" or "excluded: ..." with the reason, where it is.

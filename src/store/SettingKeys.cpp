@@ -33,6 +33,14 @@ bool setNumber(S& setting, const QString& text) {
     return true;
 }
 
+QString oneOf(const QStringList& entries) {
+    QStringList quoted;
+    quoted.reserve(entries.size());
+    for (const QString& entry : entries)
+        quoted += qtTrId("SettingQuoted").arg(entry);
+    return qtTrId("SettingOneOf").arg(quoted.join(u", "_s));
+}
+
 template <auto Member, QStringList (*Entries)()>
 constexpr SettingKey list(const char* name) {
     return {name, plainText<Member>,
@@ -41,7 +49,7 @@ constexpr SettingKey list(const char* name) {
                 setting.*Member = text;
                 return true;
             },
-            [] { return qtTrId("SettingOneOf").arg(u'“' + Entries().join(u"”, “"_s) + u'”'); }};
+            [] { return oneOf(Entries()); }};
 }
 
 template <auto Member>

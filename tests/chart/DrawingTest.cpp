@@ -44,11 +44,13 @@ TEST(Drawing, WordsBreakAtBlanks) {
         QString line;
         int from, to, at;
     } cases[]{
-        {u"abc def ghi"_s, 0, 6, 6},   {u"abc def ghi"_s, 0, 7, 7},
-        {u"abc def ghi"_s, 0, 9, 7},   {u"abc def ghi"_s, 4, 6, 6},
-        {u"abc def ghi"_s, 5, 5, -1},  {u"abcdef"_s, 0, 3, -1},
-        {u"abc def ghi"_s, 0, 10, 10}, {u"a b"_s, 1, 0, -1},
-        {u"ab \u0301cd"_s, 0, 4, -1}, // a blank that carries an accent
+        {u"abc def ghi"_s, 0, 6, 6},        {u"abc def ghi"_s, 0, 7, 7},
+        {u"abc def ghi"_s, 0, 9, 7},        {u"abc def ghi"_s, 4, 6, 6},
+        {u"abc def ghi"_s, 5, 5, -1},       {u"abcdef"_s, 0, 3, -1},
+        {u"abc def ghi"_s, 0, 10, 10},      {u"a b"_s, 1, 0, -1},
+        {u"ab \u0301cd"_s, 0, 4, -1},       // a blank that carries an accent
+        {u"測量血壓值，請坐下"_s, 0, 4, 3}, // what ends a clause begins no line
+        {u"測量血壓值，請坐下"_s, 0, 5, 5}, {u"值（高）下"_s, 0, 1, 0},
     };
     for (const auto& each : cases)
         EXPECT_EQ(adjustWordBreak(each.line, each.from, each.to), each.at) << each.line.toStdString();

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "store/Languages.h"
+
 #include <QCoreApplication>
 #include <QTranslator>
-
-#include <gtest/gtest.h>
 
 namespace zel {
 
@@ -11,20 +11,27 @@ namespace zel {
 /// zel_resources.
 class RealTexts {
 public:
-    RealTexts() {
-        EXPECT_TRUE(texts.load(QStringLiteral(":/zel_en.qm")));
-        QCoreApplication::installTranslator(&texts);
-    }
-    ~RealTexts() { QCoreApplication::removeTranslator(&texts); }
-    RealTexts(const RealTexts&) = delete;
-    RealTexts& operator=(const RealTexts&) = delete;
+    explicit RealTexts(const Language& language = english()) : texts(language) {}
 
 private:
     char name[6] = "tests";
     char* arguments[2] = {name, nullptr};
     int count = 1;
     QCoreApplication application{count, arguments};
-    QTranslator texts;
+    ProgramTexts texts;
+};
+
+/// Puts a mark before every text, so that one shows wherever it gets to. Needs an application.
+class MarkedTexts final : public QTranslator {
+public:
+    static constexpr auto mark = u'\u00A7';
+
+    MarkedTexts() { QCoreApplication::installTranslator(this); }
+    ~MarkedTexts() override { QCoreApplication::removeTranslator(this); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char*, const char* key, const char*, int) const override {
+        return mark + QString::fromUtf8(key);
+    }
 };
 
 } // namespace zel

@@ -20,14 +20,22 @@ CLEAN = {
     "src/app/graph/CMakeLists.txt": "zel_room(app_graph DOORS zel_app_frame)\n",
     "src/app/printing/Print.h": "#include <QPrinter>\n",
     "src/app/shell/Window.h": '#include "app/graph/Page.h"\n#include "monitor/Port.h"\n#include <QDBusConnection>\n',
-    "src/app/shell/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n',
+    "src/app/shell/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title") + qtTrId("Of");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n',
     "src/cli/CommandLine.h": '#include "store/File.h"\n',
     "tests/monitor/PortTest.cpp": '#include "monitor/Port.h"\n#include "support/Clock.h"\n#include <pugixml.hpp>\n',
     "tests/app/graph/PageTest.cpp": '#include "app/graph/Page.h"\n#include "support/ReadingPageTest.h"\n',
     "tests/support/WidgetTest.h": '#include "app/widgets/Box.h"\n',
     "tests/app/graph/CMakeLists.txt": "zel_test(app_graph LINKS zel_resources zel_test_frame)\n",
-    "texts.ts": '<context><name>app</name><message id="Title"><translation>T</translation></message>\n'
-    '<message id="Word" numerus="yes"><translation><numerusform>W</numerusform></translation></message></context>\n',
+    "translations/zel_en.ts": '<TS language="en"><context><name>app</name>'
+    '<message id="Of"><translation>%1 of %2</translation></message>'
+    '<message id="Title"><translation>T</translation></message>\n'
+    '<message id="Word" numerus="yes"><translation><numerusform>W</numerusform><numerusform>%n Ws</numerusform></translation>'
+    "</message></context>\n",
+    "translations/zel_pl.ts": '<TS language="pl"><context><name>app</name>'
+    '<message id="Of"><translation>%2: %1</translation></message>'
+    '<message id="Title"><translation>Tytuł</translation></message>\n'
+    '<message id="Word" numerus="yes"><translation><numerusform>A</numerusform><numerusform>%n B</numerusform>'
+    "<numerusform>%n C</numerusform></translation></message></context>\n",
 }
 
 # What is added to which file, and the words of the one finding that it must give.
@@ -72,14 +80,28 @@ ROOM_PLANTS = (
 TEXT_PLANTS = (
     ("src/store/File.h", 'auto t = qtTrId("NoWords");', "no words for the key NoWords"),
     ("src/store/File.h", "auto t = qtTrId(key);", "no literal"),
-    ("texts.ts", '<message id="Zebra"><translation>Z</translation></message>', "nothing asks for the key Zebra"),
-    ("texts.ts", '<message id="Word"><translation>W</translation></message>', "Word stands in the table twice"),
-    ("texts.ts", '<context><name>cli</name><message id="b"/></context>type="unfinished"', "unfinished"),
+    ("translations/zel_en.ts", '<message id="Zebra"><translation>Z</translation></message>', "nothing asks for the key Zebra"),
+    ("translations/zel_en.ts", '<message id="Word"><translation>W</translation></message>', "Word stands in the table twice"),
+    ("translations/zel_en.ts", '<translation type="unfinished"/>', "unfinished"),
+    ("translations/zel_pl.ts", '<translation type="unfinished"/>', "zel_pl.ts: a text is marked as unfinished"),
+    ("translations/zel_pl.ts", '<message id="Zebra"><translation>Z</translation></message>', "not in the English table"),
+    ("translations/zel_pl.ts", '<message id="Title"><translation>W</translation></message>', "stands in the table twice"),
 )
-# Spoiled words: what is replaced by what.
+# Spoiled words of a table: what is replaced by what.
 TEXT_SPOILS = (
-    (">T<", "> <", "no words for the key Title"),
-    ('"Title"', '"Xitle"', "no words for the key Title"),
+    ("en", ">T<", "> <", "no words for the key Title"),
+    ("en", '"Title"', '"Xitle"', "no words for the key Title"),
+    ("pl", ">Tytuł<", ">  <", "Title: one of the two texts is empty"),
+    ("pl", '<message id="Title"><translation>Tytuł</translation></message>', "", "no text for the key Title"),
+    ("pl", '"Title"', '"Ab"', "the keys of the context app are not sorted"),
+    ("pl", "%2: %1", "%2", "Of: the places ['%2'] are not those"),
+    ("pl", "%2: %1", "%2: %1 %3", "Of: the places ['%1', '%2', '%3'] are not those"),
+    ("pl", "%n C", "C", "Word: the places [] are not those"),
+    ("pl", "<numerusform>%n C</numerusform>", "", "Word: 2 forms are not those of the language"),
+    ("pl", ' numerus="yes"', "", "Word: 3 forms are not those of the language"),
+    ("pl", "<name>app<", "<name>cli<", "stands in the context cli, not in app"),
+    ("pl", 'language="pl"', 'language="de"', "not said to be of the language pl"),
+    ("pl", ">Tytuł<", ">&lt;b>Tytuł<", "Title: the marks of the type"),
 )
 
 
@@ -118,11 +140,12 @@ def main(qt_headers):
         return [*rooms.findings(os.path.join(root, "src"), qt_headers), *rooms.test_findings(os.path.join(root, "tests"))]
 
     def in_texts(root):
-        return texts.findings(os.path.join(root, "src"), os.path.join(root, "texts.ts"))
+        return texts.findings(os.path.join(root, "src"), os.path.join(root, "translations"))
 
     wrong = plant(in_rooms, ROOM_PLANTS) + plant(in_texts, TEXT_PLANTS)
-    for old, new, wanted in TEXT_SPOILS:
-        files = CLEAN | {"texts.ts": CLEAN["texts.ts"].replace(old, new)}
+    for tag, old, new, wanted in TEXT_SPOILS:
+        name = f"translations/zel_{tag}.ts"
+        files = CLEAN | {name: CLEAN[name].replace(old, new)}
         wrong += expect(wanted, found_in(files, in_texts), f"{old} made {new}")
     return 1 if wrong else 0
 

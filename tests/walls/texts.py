@@ -1,4 +1,5 @@
-"""Every text that the code asks for by its key has words in the table, and every text of the table is asked for."""
+"""Every text that the code asks for by its key has words in the English table, every text of that table is asked for,
+and each other table zel_XX.ts has the same texts, whole."""
 import os
 import re
 import sys
@@ -37,18 +38,88 @@ def table_findings(table, used):
             yield f"the keys of the context {re.search('<name>(.*?)</name>', context)[1]} are not sorted"
     keys = [key for key, _ in MESSAGE.findall(table)]
     yield from (f"the key {key} stands in the table twice" for key in sorted({k for k in keys if keys.count(k) > 1}))
-    yield from (f"nothing asks for the key {key}" for key in sorted(set(keys) - used))
-    if 'type="unfinished"' in table:
-        yield "a text is marked as unfinished"
+    if used is not None:
+        yield from (f"nothing asks for the key {key}" for key in sorted(set(keys) - used))
+    for kind in sorted(set(re.findall(r'<translation[^>]*type="(\w+)"', table))):
+        yield f"a text is marked as {kind}"
 
 
-def findings(source, table_path):
-    with open(table_path, encoding="utf-8") as file:
-        table = re.sub(r"<!--.*?-->", "", file.read(), flags=re.S)
-    texts = {key: re.sub(r"<[^>]*>", "", body) for key, body in MESSAGE.findall(table)}
+def plain(table):
+    return re.sub(r"<!--.*?-->", "", table, flags=re.S)
+
+
+def read(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+# A text's forms: one, or as many as the language has plurals.
+FORM = re.compile(r"<numerusform>(.*?)</numerusform>", re.S)
+PLURALS = {"pl": 3, "zh_TW": 1}
+USUAL_PLURALS = 2
+
+
+def forms(body):
+    found = FORM.findall(body)
+    return found if found else [re.sub(r"</?translation[^>]*>", "", body)]
+
+
+def messages(table):
+    """By its key: the context, whether it counts something, the forms."""
+    found = {}
+    for context in table.split("<context>")[1:]:
+        name = re.search("<name>(.*?)</name>", context)[1]
+        for key, attributes, body in re.findall(r'<message id="([^"]*)"([^>]*)>(.*?)</message>', context, re.S):
+            found[key] = (name, "numerus" in attributes, forms(body))
+    return found
+
+
+def places(text):
+    return sorted(set(re.findall(r"%L?\d+|%n", text)))
+
+
+def form_findings(key, counts, ours, english):
+    """The first of several forms, the singular, may leave out the number."""
+    for number, form in enumerate(ours):
+        wanted = places(english[-1])
+        may = [wanted, [place for place in wanted if place != "%n"]] if counts and number == 0 else [wanted]
+        if places(form) not in may:
+            yield f"{key}: the places {places(form)} are not those of the English text, {wanted}"
+        if bool(form.strip()) != bool(english[-1].strip()):
+            yield f"{key}: one of the two texts is empty"
+        if re.findall(r"&lt;/?\w+", form) != re.findall(r"&lt;/?\w+", english[-1]):
+            yield f"{key}: the marks of the type are not those of the English text"
+
+
+def translation_findings(tag, table, english):
+    if f'language="{tag}"' not in table:
+        yield f"the table is not said to be of the language {tag}"
+    ours, theirs = messages(table), messages(english)
+    yield from (f"there is no text for the key {key}" for key in theirs if key not in ours)
+    yield from (f"the key {key} is not in the English table" for key in ours if key not in theirs)
+    for key in [key for key in ours if key in theirs]:
+        (context, counts, texts), (their_context, their_counts, their_texts) = ours[key], theirs[key]
+        if context != their_context:
+            yield f"{key} stands in the context {context}, not in {their_context}"
+        if counts != their_counts or len(texts) != (PLURALS.get(tag, USUAL_PLURALS) if counts else 1):
+            yield f"{key}: {len(texts)} forms are not those of the language"
+        else:
+            yield from form_findings(key, counts, texts, their_texts)
+    if ours.get("languageTag", ("", False, [tag]))[2] != [tag]:
+        yield f"languageTag is not {tag}"
+
+
+def findings(source, folder):
+    tables = {name[4:-3]: plain(read(os.path.join(folder, name))) for name in sorted(os.listdir(folder))
+              if name.startswith("zel_") and name.endswith(".ts")}
+    english = tables.pop("en")
+    texts = {key: re.sub(r"<[^>]*>", "", body) for key, body in MESSAGE.findall(english)}
     used = set()
     yield from code_findings(source, texts, used)
-    yield from table_findings(table, used - {None})
+    yield from table_findings(english, used - {None})
+    for tag, table in tables.items():
+        found = [*table_findings(table, None), *translation_findings(tag, table, english)]
+        yield from (f"zel_{tag}.ts: {finding}" for finding in found)
 
 
 if __name__ == "__main__":

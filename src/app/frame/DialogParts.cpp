@@ -1,5 +1,6 @@
 #include "app/frame/DialogParts.h"
 
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
 
 #include <QAccessible>
@@ -55,7 +56,7 @@ QWidget* dialogButtons(QDialog& dialog, const QString& name, const QString& text
     const auto add = [&](const QString& buttonName, const QString& words) {
         auto* button = new QPushButton(words, row);
         button->setObjectName(buttonName);
-        button->setAccessibleName(button->text().remove(u'&'));
+        button->setAccessibleName(withoutMnemonic(button->text()));
         button->setAutoDefault(false);
         buttons->addWidget(button);
         return button;

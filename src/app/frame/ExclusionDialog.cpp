@@ -1,6 +1,7 @@
 #include "app/frame/ExclusionDialog.h"
 
 #include "app/frame/DialogParts.h"
+#include "app/widgets/Mnemonic.h"
 #include "store/ManualReading.h"
 
 #include <QLabel>
@@ -24,7 +25,7 @@ ExclusionDialog::ExclusionDialog(const QString& subject, std::function<bool(cons
     auto* title = new QLabel(qtTrId("leaveOutReason"), this);
     title->setBuddy(reason);
     reason->setObjectName(u"exclusionReason"_s);
-    reason->setAccessibleName(title->text().remove(u'&').remove(u':'));
+    reason->setAccessibleName(withoutMnemonic(title->text()).remove(u':').trimmed());
     reason->setPlaceholderText(qtTrId("leaveOutExample"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 14, 16, 14);

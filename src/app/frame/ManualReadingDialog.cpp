@@ -2,6 +2,7 @@
 
 #include "app/frame/DialogParts.h"
 #include "app/widgets/DayEdit.h"
+#include "store/Languages.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -44,6 +45,7 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     day->setMinimumDate({1900, 1, 1});
     time->setObjectName(u"readingTime"_s);
     time->setAccessibleName(qtTrId("readingTime"));
+    time->setLocale(textLocale()); // how it says morning and evening
     time->setDisplayFormat(settings.is12Hours() ? u"hh:mm AP"_s : timePattern);
     auto* form = new QFormLayout;
     form->addRow(titleOf(qtTrId("readingDay"), day), day);

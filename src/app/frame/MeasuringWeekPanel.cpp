@@ -22,14 +22,14 @@ QString halvesOf(const MeasuringWeek& week) {
     QStringList halves;
     if (week.morning.count() > 0) halves += qtTrId("weekMornings").arg(pressure(week.morning));
     if (week.evening.count() > 0) halves += qtTrId("weekEvenings").arg(pressure(week.evening));
-    return halves.join(u", "_s);
+    return halves.join(qtTrId(", "));
 }
 
 QString countsOf(const MeasuringWeek& week) {
     const QString readings = qtTrId("weekReadings", static_cast<int>(week.readingsUsed()));
     QString counted = qtTrId("weekDays", week.daysUsed).arg(readings);
-    if (week.readingsLeftOut > 0) counted += u"; "_s + qtTrId("weekFirstDay", week.readingsLeftOut);
-    if (week.excluded > 0) counted += u"; "_s + qtTrId("weekExcluded", week.excluded);
+    if (week.readingsLeftOut > 0) counted += qtTrId("; ") + qtTrId("weekFirstDay", week.readingsLeftOut);
+    if (week.excluded > 0) counted += qtTrId("; ") + qtTrId("weekExcluded", week.excluded);
     return counted;
 }
 
@@ -121,7 +121,7 @@ void MeasuringWeekPanel::showMeans(const MeasuringWeek& week) {
             ? QString()
             : qtTrId("weekMeanHint").arg(all.sys.withTenths(), all.dia.withTenths(), all.pulse.withTenths()));
     lblWeekThreshold->setText(
-        isNone ? QString() : comparison(week) + u", "_s + qtTrId("weekPulse").arg(all.pulse.rounded()));
+        isNone ? QString() : comparison(week) + qtTrId(", ") + qtTrId("weekPulse").arg(all.pulse.rounded()));
     lblWeekHalves->setText(halvesOf(week));
 }
 

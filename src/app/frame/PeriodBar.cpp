@@ -2,6 +2,7 @@
 
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/FlowLayout.h"
+#include "app/widgets/Mnemonic.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -109,8 +110,7 @@ QWidget* PeriodBar::makeGroup(QButtonGroup& group, const QString& title, std::sp
     for (const Choice& choice : table) {
         auto* button = new QRadioButton(choice.text, box);
         button->setObjectName(choice.name);
-        button->setAccessibleName(choice.spoken.isEmpty() ? QString(choice.text).remove(u'&')
-                                                          : choice.spoken);
+        button->setAccessibleName(choice.spoken.isEmpty() ? withoutMnemonic(choice.text) : choice.spoken);
         button->setToolTip(choice.hint);
         group.addButton(button, choice.tag);
         row->addWidget(button);

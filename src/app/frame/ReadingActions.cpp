@@ -2,6 +2,7 @@
 
 #include "app/frame/ExclusionDialog.h"
 #include "app/frame/ManualReadingDialog.h"
+#include "store/ManualReading.h"
 #include "store/Text.h"
 
 #include <algorithm>
@@ -105,7 +106,7 @@ void ReadingActions::leaveOut() {
         readingsInWords(readings, parts.store.getSetting()),
         [&](const QString& reason) { return isDone(parts.store.excludeReadings(readings, reason)); },
         shownIn.window());
-    if (readings.size() == 1) dialog.setReason(readings.front().exclusion);
+    if (readings.size() == 1) dialog.setReason(describeReason(readings.front().exclusion));
     dialog.exec();
 }
 

@@ -41,7 +41,7 @@ ReadingInfo readingInfo(const ReadingModel& reading, const DataStore& store) {
         {qtTrId("infoPulse"), qtTrId("valuePulse").arg(reading.pulse)},
         {showPP ? qtTrId("pp") : qtTrId("map"), mmHg(showPP ? reading.pp : reading.map)},
         {qtTrId("columnMam"), reading.mam == 1 ? qtTrId("answerYes") : qtTrId("answerNo")},
-        {arrhythmiaTitle(reading, store), reading.getPadStr()},
+        {arrhythmiaTitle(reading, store), reading.strDisplayPad()},
     };
     if (const QString remark = describeRemark(reading); !remark.isEmpty())
         info.emplace_back(qtTrId("infoRemark"), shortened(remark));

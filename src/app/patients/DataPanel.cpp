@@ -25,7 +25,7 @@ void DataPanel::showState() {
     lblReadings->setText(QString::number(store.getReadingForCurID().size()));
     const QString format = store.getSetting().getDateFormat();
     lblLastDownload->setText(downloads.empty() || format.isNull()
-                                 ? qtTrId("none")
+                                 ? qtTrId("lastDownloadNone")
                                  : DateToStr(downloads.back().transferDate, format));
     showPath();
 }

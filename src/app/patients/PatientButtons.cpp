@@ -1,5 +1,7 @@
 #include "app/patients/PatientButtons.h"
 
+#include "app/widgets/Mnemonic.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
@@ -31,7 +33,7 @@ PatientButtons::PatientButtons(QWidget* parent) : QWidget(parent), row(new QHBox
 QPushButton* PatientButtons::addButton(const QString& name, const QString& text, const QString& hint) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(name);
-    button->setAccessibleName(QString(text).remove(u'&'));
+    button->setAccessibleName(withoutMnemonic(text));
     button->setToolTip(hint);
     row->addWidget(button);
     return button;

@@ -4,12 +4,12 @@
 #include "app/patients/PatientFieldGroup.h"
 #include "app/patients/PatientInputs.h"
 #include "app/widgets/PageHeading.h"
+#include "store/Languages.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -34,11 +34,10 @@ std::size_t at(PatientField field) { return static_cast<std::size_t>(field); }
 
 QString nameOf(PatientField field) { return QLatin1String(names.at(at(field))); }
 
-/// A month has an English name, as all texts have.
 QStringList months() {
     QStringList list(qtTrId("birthMonthNone"));
     for (int month = 1; month <= 12; ++month)
-        list += QLocale(QLocale::English).standaloneMonthName(month);
+        list += textLocale().standaloneMonthName(month);
     return list;
 }
 

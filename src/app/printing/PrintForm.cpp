@@ -168,7 +168,7 @@ bool PrintForm::needsPhysicianInfo() const { return printAddAddress->isChecked()
 void PrintForm::showPage(const PrintView* view, std::optional<Section> section, int page, int total) {
     count(qtTrId("pageText").arg(page).arg(total));
     pageText->setAccessibleName(qtTrId("reportPage").arg(page).arg(total));
-    previewView->setAccessibleDescription(selectedText() + ", "_L1 + pageText->accessibleName());
+    previewView->setAccessibleDescription(selectedText() + qtTrId(", ") + pageText->accessibleName());
     previousButton->setEnabled(page > 1);
     nextButton->setEnabled(page < total);
     previewView->gotoPreviewPage(view, section, page);

@@ -1,14 +1,15 @@
 #include "app/settings/BackupDialog.h"
 
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/TableLook.h"
 #include "store/CopyContent.h"
+#include "store/Languages.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidget>
@@ -80,7 +81,7 @@ QTableWidget* BackupDialog::makeList() {
 QPushButton* BackupDialog::addButton(const char* name, const QString& text, void (BackupDialog::*pressed)()) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1StringView{name});
-    button->setAccessibleName(button->text().remove(u'&'));
+    button->setAccessibleName(withoutMnemonic(button->text()));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, pressed);
     return button;
@@ -197,7 +198,7 @@ void BackupDialog::addRow(const Backup& copy, const QString& path, const QString
     name->setToolTip(path);
     tblBackups->setItem(row, nameColumn, name);
     tblBackups->setItem(row, dayColumn, new QTableWidgetItem(dayText(copy.day, pattern)));
-    tblBackups->setItem(row, sizeColumn, new QTableWidgetItem(QLocale().formattedDataSize(copy.size)));
+    tblBackups->setItem(row, sizeColumn, new QTableWidgetItem(textLocale().formattedDataSize(copy.size)));
     if (row == 0 || path == chosen) tblBackups->selectRow(row);
 }
 

@@ -25,7 +25,8 @@ QStringList failureTexts(const std::vector<StoreError>& failures) {
         for (std::size_t i = 1; i < alike.size(); ++i)
             others += fileName(alike[i]->path);
         texts += describeExport(*alike.front());
-        if (!others.isEmpty()) texts.back() += u'\n' + qtTrId("exportAlsoFailed").arg(others.join(", "_L1));
+        if (!others.isEmpty())
+            texts.back() += u'\n' + qtTrId("exportAlsoFailed").arg(others.join(qtTrId(", ")));
     }
     return texts;
 }
@@ -103,7 +104,7 @@ void ExportController::write(const QStringList& IDs, const QString& extension, c
 }
 
 bool ExportController::askToReplace(const QStringList& names) const {
-    QString listed = names.mid(0, namesInQuestion).join(", "_L1);
+    QString listed = names.mid(0, namesInQuestion).join(qtTrId(", "));
     if (names.size() > namesInQuestion) listed += u", …"_s;
     const QString folder = QDir::toNativeSeparators(outcome.folder);
     return parts.panel.AskToErase(qtTrId("exportReplace", static_cast<int>(names.size())).arg(folder, listed),

@@ -2,6 +2,7 @@
 
 #include "app/settings/XmlFileList.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/TableLook.h"
 
 #include <QCheckBox>
@@ -152,7 +153,7 @@ void ImportFileDialog::showChosen() {
     const int chosen = static_cast<int>(files->chosenFiles().size());
     btnImport->setEnabled(chosen > 0);
     btnImport->setText(chosen > 0 ? qtTrId("importButtonFiles", chosen) : qtTrId("importButton"));
-    btnImport->setAccessibleName(QString(btnImport->text()).remove(u'&'));
+    btnImport->setAccessibleName(withoutMnemonic(btnImport->text()));
     boxAll->setChecked(chosen > 0 && chosen == files->rowCount());
 }
 

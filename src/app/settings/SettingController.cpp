@@ -4,6 +4,7 @@
 #include "app/settings/ImportController.h"
 #include "app/settings/SettingForm.h"
 #include "app/widgets/Log.h"
+#include "store/LanguageChoice.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -11,6 +12,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -86,7 +89,9 @@ void SettingController::build() {
     QWidget* buttons = makeButtons();
     column->addWidget(buttons);
     // All of it at once where the screen is large enough; a scroll area by itself would ask for less.
-    const QSize whole = controls->sizeHint() + QSize(0, buttons->sizeHint().height());
+    QSize whole = controls->sizeHint();
+    whole.setHeight(std::max(whole.height(), inside->heightForWidth(whole.width())));
+    whole.rheight() += buttons->sizeHint().height();
     resize(whole.boundedTo(screen()->availableSize()));
 }
 
@@ -119,9 +124,24 @@ QWidget* SettingController::makeButtons() {
 void SettingController::showSetting() {
     form->fill(std::as_const(parts.store).getSetting());
     form->store(shown);
+    fillLanguage();
     enableButtons();
     open();
     form->begin();
+}
+
+void SettingController::fillLanguage() {
+    const auto chosen = readLanguageChoice(parts.languageFile);
+    shownLanguage = chosen ? std::optional(*chosen) : std::nullopt;
+    form->fillLanguage(chosen.value_or(QString()),
+                       chosen ? QString() : describeUnreadLanguage(chosen.error()));
+}
+
+/// Also over one that could not be read, which would be told at every start.
+void SettingController::saveLanguage() {
+    if (shownLanguage == form->language()) return;
+    if (const StoreResult saved = writeLanguageChoice(parts.languageFile, form->language()); !saved)
+        parts.panel.ShowMessage(describeWithin(qtTrId("languageNotSaved"), saved.error()), qtTrId("Warning"));
 }
 
 void SettingController::scrollToFocus() {
@@ -143,6 +163,7 @@ void SettingController::closeSetting() {
     if (!saved)
         parts.panel.ShowMessage(describeWithin(qtTrId("settingsNotSaved"), saved.error()), qtTrId("Warning"));
     if (!isInPlace(saved)) return;
+    saveLanguage();
     accept();
     if (const StoreResult loaded = parts.store.loadXML(); !loaded)
         parts.panel.ShowMessage(qtTrId("storedNotReadBack").arg(describe(loaded.error())),

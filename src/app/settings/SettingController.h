@@ -8,6 +8,7 @@
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 
 class QPushButton;
 
@@ -28,6 +29,7 @@ public:
         MonitorWorker& monitor;
         MessagePanel& panel;
         FileChooser& selectFolderController;
+        QString languageFile; ///< of the user's choice
         /// Settles what is typed on a page and not saved. \return false if nothing is to be exported
         std::function<bool()> isReadyToExport = [] { return true; };
     };
@@ -54,10 +56,13 @@ private:
     void enableButtons();
     void send();
     void clockSent(MonitorResult result);
+    void fillLanguage();
+    void saveLanguage();
 
     Parts parts;
     SettingForm* form;
-    SettingModel shown{}; ///< what the controls held when they were filled
+    SettingModel shown{};                 ///< what the controls held when they were filled
+    std::optional<QString> shownLanguage; ///< none: it could not be read
     ExportController* exporter;
     ImportController* importer;
     QPushButton* sendButton;

@@ -2,6 +2,7 @@
 
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
+#include "store/Languages.h"
 #include "store/SettingKeys.h"
 
 #include <QButtonGroup>
@@ -32,11 +33,22 @@ public:
     }
 };
 
-/// The entries are the file's own texts. A setting that is none of them leaves the list at the entry that it
-/// counts as, so that OK does not change what the pages show.
+/// The file's own text in words to be shown.
+QString shownEntry(const QString& entry) {
+    if (entry == "dd mm yyyy"_L1) return qtTrId("dd mm yyyy");
+    if (entry == "mm dd yyyy"_L1) return qtTrId("mm dd yyyy");
+    if (entry == "yyyy mm dd"_L1) return qtTrId("yyyy mm dd");
+    if (entry == "12-hours"_L1) return qtTrId("12-hours");
+    if (entry == "24-hours"_L1) return qtTrId("24-hours");
+    return entry;
+}
+
+/// What an entry stands for are the file's own texts. A setting that is none of them leaves the list at the
+/// entry that it counts as, so that OK does not change what the pages show.
 void fillList(QComboBox& list, const QStringList& entries, int whenUnknown, const QString& setting) {
     list.clear();
-    list.addItems(entries);
+    for (const QString& entry : entries)
+        list.addItem(shownEntry(entry), entry);
     list.setCurrentIndex(whenUnknown);
     SettingForm::setSelectItem(list, setting);
 }
@@ -76,7 +88,9 @@ QFormLayout* makeForm(QGroupBox* group) {
 } // namespace
 
 SettingForm::SettingForm(QWidget* parent)
-    : QWidget(parent), dateFormate(named(new QComboBox, u"dateFormate"_s, qtTrId("settingDate"))),
+    : QWidget(parent), cboLanguage(named(new QComboBox, u"cboLanguage"_s, qtTrId("settingLanguage"))),
+      lblLanguage(new QuietLabel(qtTrId("settingLanguageWhen"))),
+      dateFormate(named(new QComboBox, u"dateFormate"_s, qtTrId("settingDate"))),
       timeFormate(named(new QComboBox, u"timeFormate"_s, qtTrId("settingTime"))),
       metricFormate(named(new QComboBox, u"metricFormate"_s, qtTrId("settingUnits"))),
       eraseMeasures(
@@ -112,11 +126,24 @@ void SettingForm::build() {
 QGroupBox* SettingForm::makeDisplayGroup() {
     auto* group = new QGroupBox(qtTrId("settingDisplay"), this);
     QFormLayout* form = makeForm(group);
+    fillLanguages();
+    form->addRow(qtTrId("settingLanguageLabel"), cboLanguage);
+    form->addRow(lblLanguage);
     form->addRow(qtTrId("settingDateLabel"), dateFormate);
     form->addRow(qtTrId("settingTimeLabel"), timeFormate);
     form->addRow(qtTrId("settingUnitsLabel"), metricFormate);
     form->addRow(makeDisplayPPorMAP());
     return group;
+}
+
+/// Each by its own name, so that who cannot read the others finds it.
+void SettingForm::fillLanguages() {
+    cboLanguage->addItem(qtTrId("settingLanguageSystem"), QString());
+    for (const Language& language : languages())
+        cboLanguage->addItem(language.ownName.toString(), language.tag.toString());
+    lblLanguage->setObjectName(u"lblLanguage"_s);
+    lblLanguage->setTextFormat(Qt::PlainText);
+    lblLanguage->setWordWrap(true);
 }
 
 QWidget* SettingForm::makeDisplayPPorMAP() {
@@ -185,10 +212,19 @@ void SettingForm::fill(const SettingModel& setting) {
     physisian->setPlainText(setting.physicianAddress);
 }
 
+void SettingForm::fillLanguage(const QString& tag, const QString& problem) {
+    const Language* known = languageFor(tag);
+    cboLanguage->setCurrentIndex(known ? cboLanguage->findData(known->tag.toString()) : 0);
+    lblLanguage->setText(problem.isEmpty() ? qtTrId("settingLanguageWhen") : u"\u26A0 "_s + problem);
+    cboLanguage->setAccessibleDescription(lblLanguage->text());
+}
+
+QString SettingForm::language() const { return cboLanguage->currentData().toString(); }
+
 void SettingForm::store(SettingModel& setting) const {
-    setting.dateFormat = dateFormate->currentText();
-    setting.timeFormat = timeFormate->currentText();
-    setting.metricFormat = metricFormate->currentText();
+    setting.dateFormat = dateFormate->currentData().toString();
+    setting.timeFormat = timeFormate->currentData().toString();
+    setting.metricFormat = metricFormate->currentData().toString();
     setting.eraseRecAfterReading = eraseMeasures->isChecked() ? 1 : 0;
     setting.showPPorMap = displayPPorMAP->checkedId() == 0 ? 0 : 1;
     setting.userWhoStandard = useWHOStandard->isChecked() ? 1 : 0;
@@ -218,7 +254,7 @@ void SettingForm::tellLimitProblem(std::optional<LimitProblem> problem) {
 void SettingForm::begin() { dateFormate->setFocus(); }
 
 int SettingForm::setSelectItem(QComboBox& list, const QString& text) {
-    const int index = list.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const int index = list.findData(text, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index < 0) {
         qCInfo(lcApp, "setSelectItem can't find %s", qUtf8Printable(text));
         return -1;

@@ -30,10 +30,14 @@ public:
     [[nodiscard]] bool takesLimits();
     /// Takes every control over into \p setting.
     void store(SettingModel& setting) const;
+    /// Shows the language chosen, by its tag (empty: the system's), and what was wrong with the choice, if
+    /// anything.
+    void fillLanguage(const QString& tag, const QString& problem);
+    [[nodiscard]] QString language() const;
     /// Has the first control take the keys.
     void begin();
 
-    /// Selects the first entry that reads \p text.
+    /// Selects the first entry that stands for \p text of the file.
     /// \return its index; -1, and the selection stays as it was, when there is none
     static int setSelectItem(QComboBox& list, const QString& text);
 
@@ -44,6 +48,7 @@ private:
     void build();
     QGroupBox* makeDisplayGroup();
     QWidget* makeDisplayPPorMAP();
+    void fillLanguages();
     QGroupBox* makeLimitGroup();
     QGroupBox* makeMonitorGroup();
     QGroupBox* makePhysicianGroup();
@@ -51,6 +56,8 @@ private:
     void standardCheckChanged(bool checked);
     void standardChaged(); // spelled so in the interface
 
+    QComboBox* cboLanguage;
+    QLabel* lblLanguage;
     QComboBox* dateFormate; // these three are spelled so in the interface
     QComboBox* timeFormate;
     QComboBox* metricFormate;

@@ -16,6 +16,7 @@
 #include "app/table/TableViewController.h"
 #include "app/widgets/Log.h"
 #include "store/CopyContent.h"
+#include "store/LanguageChoice.h"
 #include "store/Privacy.h"
 
 #include <QApplication>
@@ -110,12 +111,19 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     if (parts.store.lastLoad()) offerUnsaved();
     if (isClosing) return;
     offerPrivacy();
+    tellUnreadLanguage();
+    if (isClosing) return;
     splash = new SplashWindow(&window);
     connect(splash, &SplashWindow::splashClosed, this, [this] {
         watch.setSplashClosed();
         window.activateWindow();
     });
     splash->showSplash(timing.splash);
+}
+
+void AppController::tellUnreadLanguage() {
+    if (const auto chosen = readLanguageChoice(parts.languageFile); !chosen)
+        parts.panel.ShowMessage(describeUnreadLanguage(chosen.error()), qtTrId("Warning"));
 }
 
 /// Of the copies beside the data file; where there is none, one of the second folder joins them.
@@ -258,9 +266,10 @@ void AppController::checkToSaveComment() { pageInView().checkToSaveComment(); }
 void AppController::showSetting() {
     checkToSaveComment();
     if (!settings) {
-        settings = new SettingController({parts.store, parts.status, parts.monitor, parts.panel,
-                                          parts.chooser, [this] { return pageInView().readyToPrint(); }},
-                                         &window);
+        settings =
+            new SettingController({parts.store, parts.status, parts.monitor, parts.panel, parts.chooser,
+                                   parts.languageFile, [this] { return pageInView().readyToPrint(); }},
+                                  &window);
         connect(settings, &SettingController::finished, this, &AppController::UpdateUIBySetting);
         connect(settings, &SettingController::imported, this, &AppController::reload);
     }

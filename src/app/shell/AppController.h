@@ -46,6 +46,7 @@ public:
         DisplayPeriod& period;
         Printers& printers;
         DocumentOpener openDocument;
+        QString languageFile; ///< of the user's choice
     };
     struct Timing {
         std::chrono::milliseconds polling{2000};
@@ -94,6 +95,7 @@ private:
     void offerBackup(const StoreError& damage);
     [[nodiscard]] std::optional<Backup> newestReadable() const;
     void offerPrivacy();
+    void tellUnreadLanguage();
     void keepOthersOut();
     void goBackTo(const Backup& copy);
     void showRestored(const QString& name, const QString& kept);

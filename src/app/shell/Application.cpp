@@ -5,6 +5,8 @@
 #include "app/shell/TerminationSignals.h"
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
+#include "store/LanguageChoice.h"
+#include "store/Languages.h"
 #include "store/SystemLog.h"
 
 #include <QApplication>
@@ -12,7 +14,6 @@
 #include <QDir>
 #include <QIcon>
 #include <QTimer>
-#include <QTranslator>
 
 #include <array>
 #include <cstdio>
@@ -29,6 +30,7 @@ constexpr int failed = 1, wrongUsage = 2;
 struct Options {
     bool simulatedMonitor = false;
     QString planFile{}; ///< empty: the built-in monitor
+    const Language* language = nullptr;
 };
 
 int complain(int status, const QString& text) {
@@ -60,8 +62,11 @@ bool hasDisplay() {
     return std::ranges::any_of(names, [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
 }
 
-void installTexts(QTranslator& translator) {
-    if (translator.load(u":/zel_en.qm"_s)) QCoreApplication::installTranslator(&translator);
+/// One that cannot be read is told once the window is there.
+QString chosenLanguage() {
+    const QString home = qEnvironmentVariable("HOME");
+    return QDir::isRelativePath(home) ? QString()
+                                      : readLanguageChoice(languageFile(home)).value_or(QString());
 }
 
 void name() {
@@ -73,13 +78,18 @@ void name() {
 /// Reads the arguments where no display is needed yet, so that a mistake in them is told anywhere.
 tl::expected<Options, int> prepare(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    QTranslator translator;
-    installTexts(translator);
-    const auto options = parse(QCoreApplication::arguments());
+    const LanguageOption given = takeLanguageOption(QCoreApplication::arguments());
+    const Language& language =
+        languageOfRun(given, chosenLanguage(), QProcessEnvironment::systemEnvironment());
+    const ProgramTexts texts(language);
+    if (const QString problem = languageProblem(given); !problem.isEmpty())
+        return tl::unexpected(complain(wrongUsage, problem));
+    auto options = parse(given.words);
     if (!options) return tl::unexpected(complain(wrongUsage, options.error()));
     if (QDir::isRelativePath(qEnvironmentVariable("HOME")))
         return tl::unexpected(complain(failed, qtTrId("noHome")));
     if (!hasDisplay()) return tl::unexpected(complain(failed, qtTrId("noDisplay")));
+    options->language = &language;
     return *options;
 }
 
@@ -114,8 +124,7 @@ int runApplication(int argc, char** argv) {
     termination.watch();
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(u":/icons/zel.svg"_s));
-    QTranslator translator;
-    installTexts(translator);
+    const ProgramTexts texts(*options->language);
     SystemClock clock;
     auto port = makePort(*options, clock);
     if (!port) return complain(failed, port.error());

@@ -8,10 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// \p words: what stands before the step's name.
-void showStep(QAction& action, const ChangeStep* step, bool isPossible, const QString& words) {
+/// \p words: with a place for the step's name; \p none: where there is no step.
+void showStep(QAction& action, const ChangeStep* step, bool isPossible, const QString& words,
+              const QString& none) {
     const QString name = step ? shortStepName(step->name) : QString();
-    action.setText(QString(words + u' ' + QString(name).replace(u'&', "&&"_L1)).trimmed());
+    action.setText(step ? words.arg(QString(name).replace(u'&', "&&"_L1)) : none);
     action.setEnabled(step && isPossible);
 }
 
@@ -40,8 +41,8 @@ QAction* EditMenu::add(const QString& name, QKeySequence::StandardKey key) {
 
 void EditMenu::showSteps() {
     const ChangeHistory& changes = store.changes();
-    showStep(*undo, changes.undoable(), !status.isBusy(), qtTrId("menuUndo"));
-    showStep(*redo, changes.redoable(), !status.isBusy(), qtTrId("menuRedo"));
+    showStep(*undo, changes.undoable(), !status.isBusy(), qtTrId("menuUndoStep"), qtTrId("menuUndo"));
+    showStep(*redo, changes.redoable(), !status.isBusy(), qtTrId("menuRedoStep"), qtTrId("menuRedo"));
 }
 
 } // namespace zel

@@ -7,6 +7,7 @@
 #include "app/shell/AppController.h"
 #include "app/widgets/MessageBoxPanel.h"
 #include "store/DataStore.h"
+#include "store/LanguageChoice.h"
 
 #include <memory>
 
@@ -17,14 +18,17 @@ class GlobalVar {
 public:
     GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock,
               const AppController::Timing& timing = {})
-        : port(std::move(monitorPort)), store(std::move(paths), clock), loaded(store.load()),
-          monitor(*port, clock), period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
-          appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop},
+        : port(std::move(monitorPort)), languagePath(languageFile(paths.home)),
+          store(std::move(paths), clock), loaded(store.load()), monitor(*port, clock),
+          period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
+          appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop,
+                         languagePath},
                         timing) {
         panel.setWindow(&appController.mainWndow());
     }
 
     std::unique_ptr<MonitorPort> port;
+    QString languagePath;
     DataStore store;
     StoreResult loaded; ///< how the data file was loaded at start
     MonitorStatus status;

@@ -1,5 +1,6 @@
 #include "app/shell/TabButton.h"
 
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
 
 #include <QIcon>
@@ -17,7 +18,7 @@ constexpr int imageSize = 28, margin = 14, gap = 10, accent = 4;
 TabButton::TabButton(const QString& name, const QString& text, QWidget* parent) : QAbstractButton(parent) {
     setObjectName(name);
     setText(text);
-    setAccessibleName(QString(text).remove(u'&'));
+    setAccessibleName(withoutMnemonic(text));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);

@@ -127,8 +127,8 @@ QString ReadingTableModel::words(const QModelIndex& index) const {
     switch (static_cast<Column>(index.column())) {
     case date:
     case comment: break;
-    case mam: return reading.isNA ? qtTrId("noValue") : reading.getMamStr();
-    case mark: return reading.isNA ? qtTrId("noValue") : reading.getPadStr();
+    case mam: return reading.isNA ? qtTrId("noValue") : reading.strDisplayMam();
+    case mark: return reading.isNA ? qtTrId("noValue") : reading.strDisplayPad();
     default:
         if (reading.isNA) return qtTrId("noValue");
     }

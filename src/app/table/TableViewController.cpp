@@ -113,7 +113,14 @@ void TableViewController::layOutColumns() {
     std::array<int, ReadingTableModel::comment> widths{};
     widths.fill(metrics.horizontalAdvance(u"00000"_s) + padding);
     widths[ReadingTableModel::date] = metrics.horizontalAdvance(u"00/00/0000"_s) + padding;
-    widths[ReadingTableModel::time] = metrics.horizontalAdvance(u"00:00 P"_s) + padding;
+    for (const QString& time : {qtTrId("%1 A"), qtTrId("%1 P")})
+        widths[ReadingTableModel::time] = std::max(widths[ReadingTableModel::time],
+                                                   metrics.horizontalAdvance(time.arg(u"00:00"_s)) + padding);
+    for (int column = 0; column < ReadingTableModel::comment; ++column) {
+        const QString title = tblReadings->model()->headerData(column, Qt::Horizontal).toString();
+        int& width = widths.at(static_cast<std::size_t>(column));
+        width = std::max(width, metrics.size(0, title).width() + padding);
+    }
     int total = 0;
     for (int column = 0; column < ReadingTableModel::comment; ++column)
         if (!tblReadings->isColumnHidden(column)) total += widths.at(static_cast<std::size_t>(column));

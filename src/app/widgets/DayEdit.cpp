@@ -1,5 +1,7 @@
 #include "app/widgets/DayEdit.h"
 
+#include "store/Languages.h"
+
 #include <QCalendarWidget>
 #include <QEvent>
 #include <QSignalBlocker>
@@ -66,6 +68,8 @@ void DayEdit::setFormat(const QString& dateFormat) {
     if (locale() == wanted && displayFormat() == display) return;
     const QSignalBlocker silence(this);
     setLocale(wanted);
+    calendarWidget()->setLocale(textLocale()); // its words; on which day a week begins stays
+    calendarWidget()->setFirstDayOfWeek(wanted.firstDayOfWeek());
     setDisplayFormat(display);
 }
 

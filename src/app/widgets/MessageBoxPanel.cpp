@@ -1,5 +1,6 @@
 #include "app/widgets/MessageBoxPanel.h"
 
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
 
 #include <QApplication>
@@ -73,7 +74,7 @@ QPushButton* addButton(QMessageBox& box, const QString& name, const QString& tex
     // Not the roles of a yes and a no, which would make one of them the answer of Enter and of Esc.
     QPushButton* button = box.addButton(text, QMessageBox::ActionRole);
     button->setObjectName(name);
-    button->setAccessibleName(QString(text).remove(u'&'));
+    button->setAccessibleName(withoutMnemonic(text));
     return button;
 }
 

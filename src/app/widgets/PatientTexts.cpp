@@ -59,7 +59,8 @@ QString shortText(const QString& text, int longest) {
 }
 
 QString shortName(const PatientModel& patient) {
-    const QString name = TrimStr(shortText(patient.GivenNames) + u' ' + shortText(patient.FamilyName));
+    const QString name =
+        TrimStr(qtTrId("fullName").arg(shortText(patient.GivenNames), shortText(patient.FamilyName)));
     return name.isEmpty() ? qtTrId("NewPatient") : name;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/settings/SettingController.h"
+#include "store/LanguageChoice.h"
 #include "support/MonitorTest.h"
 #include "support/ScriptedChooser.h"
 
@@ -17,7 +18,8 @@ protected:
         if (!host) {
             attach();
             show(new QWidget);
-            auto* made = new SettingController({store, status, *worker, panel, chooser}, host.get());
+            auto* made = new SettingController(
+                {store, status, *worker, panel, chooser, languageFile(home.path())}, host.get());
             QObject::connect(made, &SettingController::imported, made,
                              [this] { EXPECT_TRUE(store.loadXML()); });
         }

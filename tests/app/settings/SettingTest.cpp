@@ -1,10 +1,12 @@
 #include "SettingDialogTest.h"
+#include "store/LanguageChoice.h"
 #include "store/PressureLimits.h"
 #include "support/DamageAfterWrite.h"
 #include "support/FullDisk.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -283,6 +285,48 @@ TEST_F(SettingTest, everyControlSaysWhatItIs) {
     open();
     for (const char* name : {"SettingController", "exportProgress", "importProgress"})
         expectNamed(page(name));
+}
+
+TEST_F(SettingTest, TheLanguageIsThePersonsAndNotTheDataFiles) {
+    const QString file = languageFile(home.path());
+    const QByteArray before = dataFile();
+    open();
+    choose("cboLanguage", u"Polski"_s);
+    click("cancelButton");
+    EXPECT_FALSE(QFile::exists(file));
+    open();
+    EXPECT_EQ(find<QComboBox>("cboLanguage").currentIndex(), 0);
+    click("okButton");
+    EXPECT_FALSE(QFile::exists(file)) << "nothing was chosen";
+    open();
+    choose("cboLanguage", u"Polski"_s);
+    EXPECT_EQ(text("lblLanguage"), qtTrId("settingLanguageWhen"));
+    click("okButton");
+    EXPECT_EQ(readLanguageChoice(file), u"pl"_s);
+    open();
+    EXPECT_EQ(find<QComboBox>("cboLanguage").currentText(), u"Polski"_s);
+    click("okButton");
+    EXPECT_EQ(dataFile(), before);
+    EXPECT_TRUE(panel.messages.isEmpty());
+}
+
+TEST_F(SettingTest, ALanguageThatIsNotReadOrNotSavedIsTold) {
+    const QString file = languageFile(home.path());
+    ASSERT_TRUE(QDir().mkpath(file));
+    open();
+    EXPECT_TRUE(text("lblLanguage").contains(file));
+    choose("cboLanguage", u"Polski"_s);
+    type("sys", u"135"_s);
+    type("dia", u"85"_s);
+    click("okButton");
+    ASSERT_EQ(panel.messages.size(), 1);
+    EXPECT_TRUE(panel.messages.first().contains(qtTrId("languageNotSaved").section(u'%', 0, 0)));
+    EXPECT_EQ(store.getSetting().sysStandard, 135U) << "as the message says";
+    ASSERT_TRUE(QDir().rmdir(file));
+    ASSERT_TRUE(QFile(file).open(QFile::WriteOnly));
+    open();
+    click("okButton");
+    EXPECT_EQ(readLanguageChoice(file), QString()) << "what could not be read is not told for ever";
 }
 
 } // namespace zel

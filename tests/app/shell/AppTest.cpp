@@ -1,5 +1,7 @@
 #include "AppTest.h"
 
+#include "store/LanguageChoice.h"
+
 namespace zel {
 
 using namespace std::chrono_literals;
@@ -17,8 +19,10 @@ void AppTest::launch(AppController::Timing timing) {
         opened += path;
         return hasViewer;
     };
-    app = std::make_unique<AppController>(
-        AppController::Parts{store, status, *worker, panel, clock, chooser, period, printers, open}, timing);
+    app = std::make_unique<AppController>(AppController::Parts{store, status, *worker, panel, clock, chooser,
+                                                               period, printers, open,
+                                                               languageFile(home.path())},
+                                          timing);
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
 }

@@ -1,9 +1,8 @@
 #include "AppTest.h"
+#include "CutTexts.h"
 #include "app/shell/WindowPlacement.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QDialog>
 #include <QScreen>
 #include <QScrollArea>
@@ -51,33 +50,6 @@ protected:
 
     const QFont usual = QApplication::font();
 };
-
-bool isScrolled(const QWidget& inside) {
-    const QWidget* around = inside.parentWidget();
-    return around && qobject_cast<const QAbstractScrollArea*>(around->parentWidget());
-}
-
-/// Words that have less room than they take, or stand outside of what holds them.
-bool isCut(const QWidget& one) {
-    if (!isScrolled(one) && !one.parentWidget()->rect().contains(one.geometry())) return true;
-    const auto* label = qobject_cast<const QLabel*>(&one);
-    const bool isShort = label && label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
-    if (isShort
-        || (!label && !qobject_cast<const QAbstractButton*>(&one) && !qobject_cast<const QComboBox*>(&one)))
-        return false; // what a tool tip says in full, and what scrolls its text
-    const QSize least = one.minimumSizeHint();
-    const int height = label && label->wordWrap() ? label->heightForWidth(one.width()) : least.height();
-    return one.width() < least.width() || one.height() < height;
-}
-
-void expectNothingCut(const QWidget& window) {
-    for (const QWidget* one : window.findChildren<QWidget*>()) {
-        if (!one->isVisible() || one->window() != &window || one->objectName().startsWith(u"qt_"_s)) continue;
-        EXPECT_FALSE(isCut(*one)) << one->metaObject()->className() << ' ' << qPrintable(one->objectName())
-                                  << ' ' << one->width() << 'x' << one->height() << " of "
-                                  << one->minimumSizeHint().width() << 'x' << one->minimumSizeHint().height();
-    }
-}
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "AppTest.h"
 #include "app/shell/SplashWindow.h"
 #include "app/shell/TabButton.h"
+#include "store/LanguageChoice.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -187,6 +188,15 @@ TEST_F(WindowTest, withABrokenDataFileStartsEmptyAndSaysWhatIsWrong) {
     EXPECT_EQ(panel.messages.size(), 2);
     EXPECT_TRUE(page("FamilyName").isVisible()) << "the file has been mended";
     EXPECT_TRUE(page("tableBtn").isEnabled());
+}
+
+TEST_F(WindowTest, aLanguageThatCannotBeReadIsTold) {
+    ASSERT_TRUE(QDir().mkpath(languageFile(home.path())));
+    startsPlugged = false;
+    start();
+    ASSERT_EQ(panel.messages.size(), 1);
+    EXPECT_TRUE(panel.messages.first().contains(languageFile(home.path())));
+    EXPECT_TRUE(app->mainWndow().isVisible());
 }
 
 TEST_F(WindowTest, aBrokenDataFileGivesWayToItsNewestCopyIfTheUserSaysSo) {
