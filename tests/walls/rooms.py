@@ -55,7 +55,7 @@ SUPPORT = {
     "WidgetTest": "app/widgets",
 }
 # Folders of tests that are no room's, and the room that they are held to; None: whatever they like.
-OTHER_TESTS = {"fuzz": None, "printing": "app/printing", "program": None, "realusb": "monitor", "walls": None, "data": None}
+OTHER_TESTS = {"fuzz": None, "package": None, "printing": "app/printing", "program": None, "realusb": "monitor", "walls": None, "data": None}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 
