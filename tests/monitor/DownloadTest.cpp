@@ -174,6 +174,9 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
         int shown; ///< how many records the progress got to
     };
     const auto all = checked(header("03") + record + record + record);
+    std::string april = record; // whose first five bytes add up to nothing in a check field
+    april.replace(0, 5, "19042");
+    const auto aprils = checked(header("03") + april + april + april);
     const auto two = checked(header("02") + record + record) + record + "00";
     const Case cases[] = {
         {"nothing", [](auto&) {}, MonitorResult::success, 3},
@@ -187,6 +190,13 @@ TEST_F(DownloadTest, OneGoodDownloadSpoiledOnce) {
         {"check field", [](auto& r) { r.back().back() ^= 1; }, MonitorResult::badCheckField, 3},
         {"0x00 in a record", [](auto& r) { r[5][3] = 0; }, MonitorResult::badCheckField, 3},
         {"records run over the header's end", [&](auto& r) { r = reply(all, 14); },
+         MonitorResult::badCheckField, 3},
+        {"records run over, the check field right by chance without them",
+         [&](auto& r) {
+             r = reply(aprils.substr(0, 30));
+             for (Report& report : reportsOf(aprils.substr(30), 7))
+                 r.push_back(report);
+         },
          MonitorResult::badCheckField, 3},
         {"more records announced than come", [](auto& r) { r[0][5] = 'F'; }, MonitorResult::timeOut, 3},
         {"no hexadecimal digits", [](auto& r) { r[0][4] = 'z'; }, MonitorResult::badFixedContent, 0},

@@ -180,6 +180,19 @@ TEST_F(MonitorTransportTest, WaitsEndInTime) {
     EXPECT_TRUE(deadline.passed());
 }
 
+TEST_F(MonitorTransportTest, EachSilenceIsToldFromItsThirdSecondOn) {
+    port.onRead = [this, isSent = false]() mutable {
+        if (elapsed() >= 4500ms && !std::exchange(isSent, true)) port.queued.push_back({0x01, '0'});
+    };
+    std::vector<std::chrono::seconds> lefts;
+    const auto gathered = transport.gather(
+        {.wanted = 2, .limit = 9400ms, .acknowledged = false, .onWait = [&](std::chrono::seconds left) {
+             lefts.push_back(left);
+         }});
+    EXPECT_FALSE(gathered);
+    EXPECT_EQ(lefts, (std::vector<std::chrono::seconds>{7s, 6s, 2s, 1s})) << "at 3, 4, 4.5 + 3 and 4.5 + 4 s";
+}
+
 TEST_F(MonitorTransportTest, ClockThatIsSetBackDoesNotMakeAWaitLast) {
     const std::pair<std::chrono::milliseconds, double> cases[] = {{24h, 1.5}, {1100ms, 1.5}, {900ms, 1.9}};
     for (const auto& [step, longest] : cases) { // a step of a second at most is waited for

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 namespace zel {
 namespace {
 
@@ -27,14 +29,19 @@ protected:
         std::ignore = model->checkIsConnected();
         return model;
     }
-    std::string answer(Command command) {
+    std::vector<std::string> reportsTo(Command command) {
         std::ignore = port->open();
         EXPECT_TRUE(port->write(commandFrame(command)));
-        std::string text;
+        std::vector<std::string> reports;
         std::array<std::uint8_t, 256> report{};
-        for (bool first = true; port->read(report) > 0; first = false)
-            text += reportPayload(report, first);
-        return text;
+        while (port->read(report) > 0)
+            reports.push_back(reportPayload(report, false));
+        return reports;
+    }
+    std::string answer(Command command) { // behind its acknowledgement
+        const auto reports = reportsTo(command);
+        const std::string all = std::accumulate(reports.begin(), reports.end(), std::string{});
+        return all.empty() ? all : all.substr(1);
     }
 
     ManualClock clock;
@@ -61,6 +68,28 @@ TEST_F(SimulatedMonitorTest, AnswersByteForByte) {
     EXPECT_EQ(answer(Command::records).substr(0, 64), records);
     EXPECT_TRUE(checkSum(answer(Command::records)));
     EXPECT_EQ(answer(static_cast<Command>('?')), "");
+}
+
+TEST_F(SimulatedMonitorTest, ReportsAreAsLongAsThePlanSaysAndAsManyAsAFaultLeaves) {
+    const struct {
+        const char* faults;
+        Command command;
+        std::vector<std::size_t> lengths;
+    } cases[] = {
+        {"", Command::version, {5, 5, 3}},
+        {"", Command::records, {5, 5, 5, 5, 5, 5, 3, 5, 5, 5, 5, 5, 5, 4}},    // the header ends a report
+        {R"({"command": "$", "kind": "halfAnswer"})", Command::id, {5, 5, 5}}, // of seven
+        {R"({"command": "$", "kind": "halfAnswer", "afterReports": 1})", Command::id, {5}},
+    };
+    for (const auto& [faults, command, lengths] : cases) {
+        attach(R"({"model": "41", "id": "A", "reportSizes": [5],
+                   "records": [{"time": "undated", "sys": 1, "dia": 2, "pulse": 3}], "faults": [)"
+               + QByteArray(faults) + "]}");
+        std::vector<std::size_t> found;
+        for (const std::string& report : reportsTo(command))
+            found.push_back(report.size());
+        EXPECT_EQ(found, lengths) << static_cast<char>(command) << faults;
+    }
 }
 
 TEST_F(SimulatedMonitorTest, DownloadsWhatThePlanSaysInEverySplit) {
@@ -164,6 +193,8 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
     expect(R"("reportSizes": [])", u"reportSizes[0]"_s, Code::missing);
     expect(R"("clockOffsetSeconds": "1")", u"clockOffsetSeconds"_s, Code::notWhole);
     expect(R"("Id": "A")", u"Id"_s, Code::unknownKey);
+    expect(R"("clock": "")", u"clock"_s, Code::notAllowed);
+    expect(R"("clock": "x234567890x234567890x234567890x234567890x")", u"clock"_s, Code::wrongLength);
 
     const auto expectFault = [&](const char* fault, const QString& key, Code code) {
         expect(R"("faults": [{)" + QByteArray(fault) + "}]", u"faults[0]."_s + key, code);
@@ -174,6 +205,8 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
                 Code::wrongLength);
     expectFault(R"("command": "\"", "kind": "badFixedContent")", u"command"_s, Code::notAllowed);
     expectFault(R"("command": "open", "kind": "noAnswer")", u"command"_s, Code::notAllowed);
+    expectFault(R"("command": "shut", "kind": "absent")", u"command"_s, Code::notAllowed);
+    expectFault(R"("command": "close", "kind": "absent")", u"command"_s, Code::wrongLength);
     expectFault(R"("command": ">", "kind": "noAnswer", "times": 0)", u"times"_s, Code::notWhole);
     expectFault(R"("command": ">", "kind": "noAnswer", "delayMs": 1)", u"delayMs"_s, Code::unknownKey);
 
@@ -229,6 +262,17 @@ TEST_F(SimulatedMonitorTest, PlansReachToTheirLimitsAndNoFurther) {
             QByteArray(R"({"time": "undated", "sys": 1, "dia": 2, "pulse": 3, "flag": )") + flag + '}';
         EXPECT_EQ(isTaken("records", record, 1), good) << flag;
     }
+}
+
+TEST_F(SimulatedMonitorTest, SettingTheClockLeavesTheSettingsBehindIt) {
+    const auto model = attach(R"({"model": "41", "id": "A", "clock": "unset"})");
+    const auto settings = [this] {
+        const std::string reply = answer(Command::date);
+        return reply.substr(14, reply.size() - 14 - checkFieldLength);
+    };
+    const std::string before = settings();
+    EXPECT_EQ(model->setBPMDate(), MonitorResult::success);
+    EXPECT_EQ(settings(), before);
 }
 
 TEST_F(SimulatedMonitorTest, ClockOfAPlanIsSetOrNot) {

@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <set>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -49,6 +51,9 @@ TEST(LongText, noLineBeginsWithTheBlankThatItWasBrokenAt) {
     EXPECT_EQ(wrapped(u"one two three"_s, 1, plain).join(QString()), u"onetwothree"_s);
     EXPECT_EQ(wrapped(u"a\nb\nc"_s, width, plain, 2), (QStringList{u"a"_s, u"b"_s}));
     EXPECT_TRUE(wrapped({}, width, plain).isEmpty());
+    const QString accented = u" \u0301three"_s; // which is no blank to break at
+    EXPECT_EQ(wrapped(u"onetwo"_s + accented, textSize(u"onetwo"_s, plain).width + 1, plain),
+              (QStringList{u"onetwo"_s, accented}));
 }
 
 TEST(LongText, itemsGrowWhereThePageHasRoomAndGoOnWhereNot) {
@@ -181,6 +186,11 @@ TEST(LongText, ofTooManyCommentsTheLatestArePrintedAndTheOthersTold) {
         const QString told = u"%1 earlier comments are not printed"_s.arg(left);
         EXPECT_EQ(textOf(1).contains(told), left > 0);
         EXPECT_TRUE(textOf(1).contains(u" %1   2019/01/05"_s.arg(left + 1))) << "numbered as on the chart";
+        std::set<double> begins; // of the lines below what is told and below each comment
+        for (const PictureItem& item : view.page(Section::comment, 1))
+            if (const auto* line = std::get_if<StraightLine>(&item); line && line->color == QColor(Qt::gray))
+                begins.insert(line->from.x);
+        EXPECT_EQ(begins.size(), 1U);
         const QString last = textOf(view.getTotalPages(Section::comment));
         EXPECT_TRUE(last.contains(total > 100 ? u"word%1"_s.arg(total) : u"more characters."_s));
     }

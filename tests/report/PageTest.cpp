@@ -2,6 +2,7 @@
 #include "analysis/HighValues.h"
 #include "chart/Drawing.h"
 #include "report/FieldText.h"
+#include "report/LimitShares.h"
 #include "report/ReportDocument.h"
 #include "report/ReportPainter.h"
 
@@ -24,6 +25,8 @@ TEST(Page, geometryFollowsThePaperAndItsMargins) {
     EXPECT_EQ(at.bodyRect, (Rect{48, 132, 499, 633}));
     EXPECT_EQ(at.titleRect, (Rect{48, 765, 499, 45}));
     EXPECT_EQ(at.drawingRect, (Rect{48, 132, 499, 588}));
+    EXPECT_EQ(mapRectToRect({50, 100}, {10, 20, 300, 200}), (Rect{110, 20, 100, 200}));
+    EXPECT_EQ(mapRectToRect({100, 50}, {10, 20, 200, 300}), (Rect{10, 120, 200, 100}));
 }
 
 TEST(Page, sectionsAreFoundByKeyAndHaveTheirOrientation) {
@@ -209,6 +212,8 @@ TEST(Page, countsTheReadingsAboveTheLimits) {
     EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"Both above"_s, 2)) << "once is enough";
     EXPECT_FALSE(shows(sample.view(), Section::SWStatistics, u"n/a"_s));
     EXPECT_TRUE(shows(SampleReport().view(), Section::SWStatistics, u"n/a: no readings"_s));
+    EXPECT_EQ(shareText(1, 1), u"1 (100 %)"_s);
+    EXPECT_EQ(shareText(0, 0), u"0"_s);
 }
 
 TEST(Page, marksHighValuesOfTheReadingsAndNamesTheirLimits) {

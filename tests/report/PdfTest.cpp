@@ -83,6 +83,7 @@ TEST(Pdf, namesTheCharacterThatWasWrittenWhereAFontHasOneGlyphForSeveral) {
              std::pair(glyph + "<2F29>" + end, glyph + "<5C0F>" + end),
              {glyph + "[<738B> <2F29> <0009> <2EE2> <2EE9> <2EF0> <2ED1> <2E9F> <2E80> ]" + end,
               glyph + "[<738B> <5C0F> <0020> <9A6C> <9EC4> <9F99> <9577> <6BCD> <2E80> ]" + end},
+             {glyph + "[<00B2> <00B5> <FF21> ]" + end, glyph + "[<00B2> <00B5> <FF21> ]" + end},
              {"1 beginbfrange\n<0001> <0002> <2F29>" + end, "1 beginbfrange\n<0001> <0002> <2F29>" + end},
              {glyph + "<2F29>", glyph + "<2F29>"}, // without an end it is no map
              {glyph + "<2F29>" + end + glyph + "<2EE2>" + end,
@@ -158,6 +159,14 @@ TEST(Pdf, saysWhatItIsAndTurnsItsPages) {
                              "CreationDate: +Wed Jan 15", "1 size: +842 x 595", "2 size: +595 x 842"})
         EXPECT_TRUE(info.contains(QRegularExpression(QLatin1StringView(line)))) << line << qPrintable(info);
     EXPECT_TRUE(pdf.contains("/Lang (en)"));
+    SampleReport endless(1);
+    endless.patient.GivenNames = u"g"_s.repeated(300);
+    endless.patient.FamilyName = u"f"_s.repeated(300);
+    endless.patient.ID = u"i"_s.repeated(300);
+    endless.settings.physicianAddress = u"a"_s.repeated(300);
+    const QString ofEndless = said(u"pdfinfo"_s, pdfOf(endless, {Section::table}));
+    for (const char* line : {"report: g{200} f{200} \\(i{200}\\)\n", "Author: +a{200}\n"})
+        EXPECT_TRUE(ofEndless.contains(QRegularExpression(QLatin1StringView(line)))) << qPrintable(ofEndless);
     SampleReport own(1);
     own.needPhysicianInfo = false;
     const auto isFromZEL = [&] {

@@ -1,6 +1,7 @@
 #include "SampleReport.h"
 #include "analysis/HighValues.h"
 #include "chart/Drawing.h"
+#include "report/SummaryComments.h"
 
 #include <QRegularExpression>
 
@@ -179,16 +180,24 @@ TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
 TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
     SampleReport sample;
     add(sample, "2019-02-28 07:00", 130, 80).exclusion = u"the week before"_s;
+    add(sample, "2019-03-01 07:00", 191, 81).exclusion = u"first day"_s;
     add(sample, "2019-03-02 07:00", 190, 80).exclusion = u"loose cuff"_s;
     add(sample, "2019-03-03 07:00", 150, 80);
     add(sample, "2019-03-05 07:00", 180, 80).exclusion = u"after stairs"_s;
     add(sample, "2019-03-07 07:00", 130, 80);
     sample.selection.period.begin = DateToDayBoundary(noonOf("2019-03-04"), true);
     const QStringList words = wordsOf(sample.view());
-    EXPECT_THAT(words, testing::Contains(u"2 of the week left out by the user"_s));
+    EXPECT_THAT(words, testing::Contains(u"3 of the week left out by the user"_s));
+    EXPECT_EQ(words.filter(u"191/81"_s), (QStringList{u"2019/03/01 07:00  191/81: first day"_s}));
     EXPECT_EQ(words.filter(u"190/80"_s), (QStringList{u"2019/03/02 07:00  190/80: loose cuff"_s}));
     EXPECT_EQ(words.filter(u"180/80"_s), (QStringList{u"2019/03/05 07:00  180/80: after stairs"_s}));
     EXPECT_EQ(words.filter(u"the week before"_s), QStringList());
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-03-06"), false);
+    sample.weekEnd = sample.zone.day(noonOf("2019-03-08"));
+    add(sample, "2019-03-08 07:00", 130, 80).exclusion = u"last day"_s;
+    add(sample, "2019-03-09 07:00", 130, 80).exclusion = u"the week after"_s;
+    EXPECT_EQ(wordsOf(sample.view()).filter(u"last day"_s).size(), 1);
+    EXPECT_EQ(wordsOf(sample.view()).filter(u"the week after"_s).size(), 0);
 }
 
 TEST(Summary, aMeanBelowTheThresholdIsNotShownAsTheThreshold) {
@@ -323,6 +332,25 @@ TEST(Summary, theLineThatCountsTheOtherCommentsHasRoom) {
                 EXPECT_GE(line.origin.y, view.geometry(Section::summary).footerRect.top()) << pattern;
             }
         }
+}
+
+TEST(Summary, aCommentStandsWhereItsLinesHaveRoom) {
+    SampleReport sample(1);
+    for (int i = 0; i < 2; ++i)
+        sample.addComment("2019-02-01", "2019-02-01", 1, u"Long walk."_s);
+    const PrintView view = sample.view();
+    const auto drawn = [&](double height) {
+        Picture picture;
+        drawSummaryComments(picture, view.report(), {0, 0, 300, height});
+        return textsOf(picture);
+    };
+    constexpr double plenty = 500;
+    const auto texts = drawn(plenty);
+    ASSERT_EQ(texts.size(), 7U) << "the heading, and of each its days, its text and its figures";
+    const double first = texts[1].origin.y, item = first - texts[4].origin.y;
+    const double needed = plenty - boxOf(texts[1]).top() + 2 * item;
+    EXPECT_EQ(drawn(needed + 0.01).size(), texts.size());
+    EXPECT_EQ(drawn(needed - 0.01).back().text, u"and 1 more comment"_s);
 }
 
 TEST(Summary, namesAsManyExcludedReadingsAsFit) {

@@ -60,6 +60,8 @@ TEST_F(TableTest, eachValueStandsInItsColumn) {
     sample.settings.timeFormat = u"12-hours"_s;
     reading.isPMData = true;
     EXPECT_EQ(row(1)[86], u"12:00 P"_s);
+    reading.map = 1040;
+    EXPECT_EQ(row(1)[600], u"1040"_s) << "into no other column";
 }
 
 TEST_F(TableTest, aRowIsOfOneTypeOnOneLineWithRoomBetween) {
@@ -121,6 +123,10 @@ TEST_F(TableTest, aLegendWithoutRoomHasNoEmptyLine) {
     const double line = lineHeight({.size = 6});
     for (std::size_t i = 0; i < texts.size(); ++i)
         EXPECT_NEAR(texts[i].origin.y, 50 + line * static_cast<double>(texts.size() - 1 - i), 0.01) << i;
+    picture.clear();
+    drawTableLegend(picture, sample.view().report(), false, {100, 50}, 25);
+    for (const TextLine& text : textsOf(picture))
+        EXPECT_LE(text.origin.x + textSize(text.text, text.attribute).width, 125.01) << qPrintable(text.text);
 }
 
 TEST_F(TableTest, theHeaderNamesTheFourthMeasure) {
