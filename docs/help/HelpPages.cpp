@@ -66,12 +66,10 @@ void paintCover(QPainter& painter, const Words& words, const std::vector<Chapter
     painter.fillRect(QRectF(side, 202, 90, 4), titleColor);
     painter.setFont(font(12));
     painter.setPen(quiet);
-    painter.drawText(QRectF(side, 218, paper.width() - 2 * side, 20), Qt::AlignLeft,
-                     QStringLiteral("Version ") + words.version);
+    painter.drawText(QRectF(side, 218, paper.width() - 2 * side, 20), Qt::AlignLeft, words.version);
     painter.setPen(titleColor);
     painter.setFont(font(14, true));
-    painter.drawText(QRectF(side, 292, paper.width() - 2 * side, 24), Qt::AlignLeft,
-                     QStringLiteral("Contents"));
+    painter.drawText(QRectF(side, 292, paper.width() - 2 * side, 24), Qt::AlignLeft, words.contents);
     paintContents(painter, chapters);
 }
 

@@ -9,8 +9,9 @@ namespace help {
 
 /// The words around the manual's own text.
 struct Words {
-    QString title;   ///< its first heading
-    QString version; ///< of the program
+    QString title;    ///< its first heading
+    QString version;  ///< of the program, "Version 1.0"
+    QString contents; ///< the heading of the list of chapters
 };
 
 /// Size of the text on a page, in points.

@@ -1,4 +1,4 @@
-// make_help MANUAL.md HELP.pdf VERSION: sets the manual as a PDF.
+// make_help MANUAL[.LANGUAGE].md HELP.pdf VERSION: sets the manual as a PDF.
 #include "HelpLook.h"
 #include "HelpPages.h"
 
@@ -12,6 +12,8 @@
 #include <QUrl>
 
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,6 +44,11 @@ void findPictures(QTextDocument& document, const QString& folder) {
     }
 }
 
+/// \p suffix: of the manual's name, "md" or "de.md"
+QString contentsHeading(const QString& suffix) {
+    return suffix == "de.md"_L1 ? QStringLiteral("Inhalt") : QStringLiteral("Contents");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -64,5 +71,6 @@ int main(int argc, char** argv) {
     help::dress(document);
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("ZEL ") + arguments[3]);
-    return help::paintPages(writer, document, {title, arguments[3]}) ? 0 : 1;
+    const QString contents = contentsHeading(QFileInfo(source).completeSuffix());
+    return help::paintPages(writer, document, {title, "Version "_L1 + arguments[3], contents}) ? 0 : 1;
 }

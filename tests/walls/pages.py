@@ -1,4 +1,4 @@
-"""pages.py MANUAL.pdf: no page between the cover and the last one may be left half empty."""
+"""pages.py MANUAL.pdf...: no page between the cover and the last one may be left half empty."""
 import subprocess
 import sys
 
@@ -16,7 +16,7 @@ def ends(pdf):
         images = rest[width * height:]
 
 
-found = [f"page {number} ends at {end:.0%} of its height"
-         for number, end in list(enumerate(ends(sys.argv[1]), 1))[1:-1] if end < 0.65]
+found = [f"{manual}: page {number} ends at {end:.0%} of its height" for manual in sys.argv[1:]
+         for number, end in list(enumerate(ends(manual), 1))[1:-1] if end < 0.65]
 print("\n".join(found))
 sys.exit(bool(found))

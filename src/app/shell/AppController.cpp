@@ -310,7 +310,7 @@ void AppController::showPrintPreview(PrintPurpose purpose) {
 void AppController::showHelp() {
     checkToSaveComment();
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    const QString path = unpackHelp(u":/help.pdf"_s, cache);
+    const QString path = unpackHelp(manualResource(u":/help%1.pdf"_s), cache);
     qCInfo(lcApp, "showHelp %s", qUtf8Printable(path));
     if (!path.isEmpty() && parts.openDocument(path)) return;
     if (!helpWindow) helpWindow = new HelpWindow(&window);

@@ -25,6 +25,11 @@ bool openWithDesktop(const QString& path) {
     return hasPdfViewer() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
+QString manualResource(const QString& name) {
+    const QString inLanguage = name.arg(u'.' + qtTrId("languageTag"));
+    return QFile::exists(inLanguage) ? inLanguage : name.arg(QString());
+}
+
 QString unpackHelp(const QString& resource, const QString& folder) {
     QFile packed(resource); // no file of the system's
     if (!packed.open(QIODevice::ReadOnly) || !makePrivateFolder(folder)) return {};

@@ -1,5 +1,7 @@
 #include "app/shell/HelpWindow.h"
 
+#include "app/shell/HelpDocument.h"
+
 #include <QFile>
 #include <QListWidget>
 #include <QScreen>
@@ -22,7 +24,7 @@ namespace {
 constexpr int chapterLevel = 2; ///< of the manual's headings
 
 QString manualText() {
-    QFile file(u":/manual/manual.md"_s);
+    QFile file(manualResource(u":/manual/manual%1.md"_s));
     return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
