@@ -2,6 +2,7 @@
 // into a folder.
 #include "AppTest.h"
 #include "CutTexts.h"
+#include "app/shell/HelpDocument.h"
 #include "store/Languages.h"
 
 #include <QDialog>
@@ -119,6 +120,17 @@ TEST_F(LanguageTest, nothingIsCutInAnyLanguage) {
             lookAtDialogs();
             app.reset();
         }
+    }
+}
+
+TEST_F(LanguageTest, theManualIsInTheProgramsLanguageWhereThereIsOne) {
+    for (const auto& [spoken, document, text] :
+         {std::tuple{"de_AT", u":/help.de.pdf"_s, u":/manual/manual.de.md"_s},
+          std::tuple{"fr", u":/help.pdf"_s, u":/manual/manual.md"_s}}) {
+        const ProgramTexts texts(*languageFor(QString::fromLatin1(spoken)));
+        EXPECT_EQ(manualResource(u":/help%1.pdf"_s), document);
+        EXPECT_EQ(manualResource(u":/manual/manual%1.md"_s), text);
+        EXPECT_TRUE(QFile::exists(document) && QFile::exists(text));
     }
 }
 
