@@ -1274,8 +1274,8 @@ umgekehrten Schrägstrich.
                                gespeichert ist; sonst 0
   ShowPPorMap                  0: Pulsdruck anzeigen; 1: mittleren arteriellen Druck anzeigen
   UserWhoStandard              1: die Einstellungen zeigen die Grenzwerte als die der WHO; sonst 0
-  SysStandard                  systolischer Grenzwert, 0 bis 999 mmHg
-  DiaStandard                  diastolischer Grenzwert, 0 bis 999 mmHg
+  SysStandard                  systolischer Grenzwert, 0 (keiner) oder 60 bis 260 mmHg
+  DiaStandard                  diastolischer Grenzwert, 0 oder 30 bis 160 mmHg, unter dem systolischen
   PhysicianAddress             die Praxisangaben auf gedruckten Berichten
 
 Optionen:

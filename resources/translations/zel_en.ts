@@ -1261,8 +1261,8 @@ values is refused, none is changed. In texts, \n stands for a line end and \\ fo
   EraseRecAfterReading         1: erase the monitor's memory after a download that is safely stored; else 0
   ShowPPorMap                  0: show pulse pressure; 1: show mean arterial pressure
   UserWhoStandard              1: the settings dialog shows the limits as those of the WHO; else 0
-  SysStandard                  systolic limit, 0 to 999 mmHg
-  DiaStandard                  diastolic limit, 0 to 999 mmHg
+  SysStandard                  systolic limit, 0 (none) or 60 to 260 mmHg
+  DiaStandard                  diastolic limit, 0 (none) or 30 to 160 mmHg, below the systolic one
   PhysicianAddress             the practitioner's lines on printed reports
 
 Options:

@@ -1265,8 +1265,8 @@ los valores, no se cambia ninguno. En los textos, \n representa un salto de lín
   EraseRecAfterReading         1: vaciar el tensiómetro tras una descarga bien guardada; si no, 0
   ShowPPorMap                  0: mostrar la presión de pulso; 1: mostrar la presión arterial media
   UserWhoStandard              1: la ventana de configuración muestra los límites como los de la OMS; si no, 0
-  SysStandard                  límite sistólico, de 0 a 999 mmHg
-  DiaStandard                  límite diastólico, de 0 a 999 mmHg
+  SysStandard                  límite sistólico, 0 (ninguno) o de 60 a 260 mmHg
+  DiaStandard                  límite diastólico, 0 (ninguno) o de 30 a 160 mmHg, inferior al sistólico
   PhysicianAddress             las líneas del médico en los informes impresos
 
 Opciones:

@@ -1269,8 +1269,8 @@ barre oblique inverse.
   EraseRecAfterReading         1 : effacer le tensiomètre après un transfert bien enregistré ; sinon 0
   ShowPPorMap                  0 : afficher la pression pulsée ; 1 : la pression artérielle moyenne
   UserWhoStandard              1 : les réglages présentent les limites comme celles de l’OMS ; sinon 0
-  SysStandard                  limite systolique, 0 à 999 mmHg
-  DiaStandard                  limite diastolique, 0 à 999 mmHg
+  SysStandard                  limite systolique, 0 (aucune) ou de 60 à 260 mmHg
+  DiaStandard                  limite diastolique, 0 (aucune) ou de 30 à 160 mmHg, inférieure à la systolique
   PhysicianAddress             les lignes du praticien sur les rapports imprimés
 
 Options :

@@ -1273,8 +1273,8 @@ barra rovesciata.
   ShowPPorMap                  0: mostra la pressione differenziale; 1: mostra la pressione arteriosa media
   UserWhoStandard              1: la finestra delle impostazioni mostra i limiti come quelli dell'OMS;
                                altrimenti 0
-  SysStandard                  limite sistolico, da 0 a 999 mmHg
-  DiaStandard                  limite diastolico, da 0 a 999 mmHg
+  SysStandard                  limite sistolico, 0 (nessuno) o da 60 a 260 mmHg
+  DiaStandard                  limite diastolico, 0 (nessuno) o da 30 a 160 mmHg, inferiore a quello sistolico
   PhysicianAddress             le righe del medico sui rapporti stampati
 
 Opzioni:

@@ -1263,8 +1263,8 @@ lewy ukośnik.
   EraseRecAfterReading         1: wymazuj pamięć ciśnieniomierza po bezpiecznie zapisanym pobraniu; inaczej 0
   ShowPPorMap                  0: pokazuj ciśnienie tętna; 1: pokazuj średnie ciśnienie tętnicze
   UserWhoStandard              1: okno ustawień pokazuje granice jako granice WHO; inaczej 0
-  SysStandard                  granica skurczowa, od 0 do 999 mmHg
-  DiaStandard                  granica rozkurczowa, od 0 do 999 mmHg
+  SysStandard                  granica skurczowa, 0 (brak) albo od 60 do 260 mmHg
+  DiaStandard                  granica rozkurczowa, 0 (brak) albo od 30 do 160 mmHg, niższa od skurczowej
   PhysicianAddress             dane lekarza na drukowanych raportach
 
 Opcje:

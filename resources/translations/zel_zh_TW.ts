@@ -1249,8 +1249,8 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
   EraseRecAfterReading         1：下載並安全儲存後清空血壓計的記憶體；否則為 0
   ShowPPorMap                  0：顯示脈壓；1：顯示平均動脈壓
   UserWhoStandard              1：設定視窗將上限顯示為 WHO 的上限；否則為 0
-  SysStandard                  收縮壓上限，0 到 999 mmHg
-  DiaStandard                  舒張壓上限，0 到 999 mmHg
+  SysStandard                  收縮壓上限，0（無上限）或 60 到 260 mmHg
+  DiaStandard                  舒張壓上限，0（無上限）或 30 到 160 mmHg，且低於收縮壓上限
   PhysicianAddress             列印報告上的醫師資料
 
 選項：

@@ -1,5 +1,5 @@
 #pragma once
-// The limits of the blood pressure, from where on values count as too high: in mmHg, 0 for none.
+// The limits of the blood pressure, above which values count as too high: in mmHg, 0 for none.
 
 #include <QString>
 
