@@ -858,6 +858,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="formYears" numerus="yes"><translation><numerusform>Jahr</numerusform><numerusform>Jahre</numerusform></translation></message>
     <message id="graph"><translation>Blutdruck- und Pulsdiagramm</translation></message>
     <message id="histogram"><translation>Verteilung der Messungen</translation></message>
+    <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

@@ -858,6 +858,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="formYears" numerus="yes"><translation><numerusform>year</numerusform><numerusform>years</numerusform></translation></message>
     <message id="graph"><translation>Blood-pressure and pulse chart</translation></message>
     <message id="histogram"><translation>Distribution of the readings</translation></message>
+    <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

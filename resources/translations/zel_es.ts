@@ -858,6 +858,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="formYears" numerus="yes"><translation><numerusform>año</numerusform><numerusform>años</numerusform></translation></message>
     <message id="graph"><translation>Gráfico de presión arterial y pulso</translation></message>
     <message id="histogram"><translation>Distribución de las mediciones</translation></message>
+    <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

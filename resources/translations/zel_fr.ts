@@ -858,6 +858,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="formYears" numerus="yes"><translation><numerusform>an</numerusform><numerusform>ans</numerusform></translation></message>
     <message id="graph"><translation>Graphique de la pression artérielle et du pouls</translation></message>
     <message id="histogram"><translation>Répartition des mesures</translation></message>
+    <message id="legendTitle"><translation>%1 :</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

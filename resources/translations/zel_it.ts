@@ -858,6 +858,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="formYears" numerus="yes"><translation><numerusform>anno</numerusform><numerusform>anni</numerusform></translation></message>
     <message id="graph"><translation>Grafico di pressione e polso</translation></message>
     <message id="histogram"><translation>Distribuzione delle misurazioni</translation></message>
+    <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

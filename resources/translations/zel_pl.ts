@@ -858,6 +858,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="formYears" numerus="yes"><translation><numerusform>rok</numerusform><numerusform>lata</numerusform><numerusform>lat</numerusform></translation></message>
     <message id="graph"><translation>Wykres ciśnienia krwi i tętna</translation></message>
     <message id="histogram"><translation>Rozkład pomiarów</translation></message>
+    <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

@@ -858,6 +858,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="formYears" numerus="yes"><translation><numerusform>歲</numerusform></translation></message>
     <message id="graph"><translation>血壓與脈搏圖</translation></message>
     <message id="histogram"><translation>量測分布</translation></message>
+    <message id="legendTitle"><translation>%1：</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>

@@ -78,13 +78,14 @@ LegendItems markMeanings(const ReportSource& report) {
     using enum LegendItem::Mark;
     LegendItems items;
     if (report.getShowPad) {
-        items = {{none, (report.getIsAfib ? qtTrId("afib") : qtTrId("pad")) + u':', wordGap},
-                 {filled, qtTrId("reportFound"), itemGap},
-                 {open, qtTrId("reportNotFound"), itemGap},
-                 {none, qtTrId("reportFindingUnknown"), itemGap * 2}};
+        items = {
+            {none, qtTrId("legendTitle").arg(report.getIsAfib ? qtTrId("afib") : qtTrId("pad")), wordGap},
+            {filled, qtTrId("reportFound"), itemGap},
+            {open, qtTrId("reportNotFound"), itemGap},
+            {none, qtTrId("reportFindingUnknown"), itemGap * 2}};
     }
     if (!report.getShowMam) return items;
-    items.push_back({none, qtTrId("mam") + u':', wordGap});
+    items.push_back({none, qtTrId("legendTitle").arg(qtTrId("mam")), wordGap});
     items.push_back({filled, qtTrId("reportAverage"), itemGap});
     return items;
 }

@@ -4,6 +4,8 @@
 #include "store/LanguageChoice.h"
 #include "support/RealTexts.h"
 
+#include <QLibraryInfo>
+
 #include <sys/stat.h>
 
 namespace zel {
@@ -88,6 +90,17 @@ TEST(LanguagesTest, EachLanguageHasATableOfItsOwn) {
         EXPECT_NE(textLocale(), QLocale::c()) << language.tag.data();
         EXPECT_EQ(&languageOfRun({}, language.tag.toString(), {}), languageFor(language.tag.toString()));
     }
+}
+
+TEST(LanguagesTest, QtSpeaksTheLanguageWhereItsTablesAreInstalled) {
+    if (!QFile::exists(QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_de.qm"_s))
+        GTEST_SKIP() << "qt6-translations-l10n";
+    const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+    for (const auto& [tag, words] : {std::pair{"de", "Abbrechen"}, {"zh_TW", "取消"}, {"en", "Cancel"}}) {
+        const RealTexts texts(*languageFor(QString::fromLatin1(tag)));
+        EXPECT_EQ(cancel(), QString::fromUtf8(words)) << tag;
+    }
+    EXPECT_EQ(cancel(), u"Cancel"_s) << "no table is left behind";
 }
 
 struct LanguageChoiceTest : testing::Test {

@@ -220,8 +220,8 @@ void BackupDialog::showChosen() {
     const auto content = isFar ? contentOfCopy(name) : store.backups().content(name);
     btnRestore->setEnabled(content.has_value());
     const QString pattern = std::as_const(store).getSetting().getDateFormat();
-    lblBackup->setText(shown + u": "_s
-                       + (content ? describe(*content, pattern) : qtTrId("backupUnreadable")));
+    lblBackup->setText(
+        qtTrId("infoLine").arg(shown, content ? describe(*content, pattern) : qtTrId("backupUnreadable")));
 }
 
 void BackupDialog::create() {
