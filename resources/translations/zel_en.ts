@@ -928,6 +928,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryBornOn"><translation>Born %1</translation></message>
     <message id="summaryComments"><translation>What changed: comments, newest first</translation></message>
     <message id="summaryComplete"><translation>Complete</translation></message>
+    <message id="summaryCut"><translation>…: shortened.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
     <message id="summaryEither"><translation>SYS or DIA or both</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +941,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 of %n reading</numerusform><numerusform>%1 of %n readings</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incomplete, needs %1</translation></message>
+    <message id="summaryInFull"><translation>…: in full in %1.</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Last day: mean (readings)</numerusform><numerusform>Last %n days: mean (readings)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Left out</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
@@ -954,7 +956,8 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
     <message id="summaryNoReason"><translation>no reason given</translation></message>
-    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. %2 Morning: before noon. …: in full in Comments and Readings.</translation></message>
+    <message id="summaryNoneCountsYet"><translation>No reading counts yet</translation></message>
+    <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. %2 Morning: before noon. %3</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
@@ -966,6 +969,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryRate"><translation>Pulse, 1/min</translation></message>
     <message id="summaryReached"><translation>At or above the threshold of %1 (to a tenth: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Readings</translation></message>
+    <message id="summaryReasonsInFull"><translation>…: shortened; readings left out: in full in %1.</translation></message>
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Readings of the period (SD: of a sample, n − 1)</translation></message>

@@ -42,8 +42,12 @@ QString compared(const PressureMeans& before, const PressureMeans& since) {
 }
 
 QString fewReadings(const PressureMeans& before, const PressureMeans& since) {
-    const bool isFewBefore = before.count() < enoughReadings;
-    const bool isFewSince = since.count() < enoughReadings;
+    // Where there is none at all, that is told already.
+    const auto isFew = [](const PressureMeans& side) {
+        return 0 < side.count() && side.count() < enoughReadings;
+    };
+    const bool isFewBefore = isFew(before);
+    const bool isFewSince = isFew(since);
     if (isFewBefore && isFewSince) return qtTrId("fewOnBothSides").arg(enoughReadings);
     if (isFewBefore) return qtTrId("fewBefore").arg(enoughReadings);
     return isFewSince ? qtTrId("fewSince").arg(enoughReadings) : QString();
@@ -61,14 +65,19 @@ BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comm
 
 namespace {
 
+/// Of one side at least.
+QString describeSides(const PressureMeans& before, const PressureMeans& since) {
+    if (before.count() == 0) return qtTrId("noneBefore").arg(shown(since));
+    if (since.count() == 0) return qtTrId("noneSince").arg(shown(before));
+    return compared(before, since);
+}
+
 QString describeMeans(const BeforeAndSince& change) {
     const PressureMeans& before = change.before.means;
     const PressureMeans& since = change.since.means;
     if (before.count() + since.count() == 0) return qtTrId("noneBeforeOrSince");
-    if (before.count() == 0) return qtTrId("noneBefore").arg(shown(since));
-    if (since.count() == 0) return qtTrId("noneSince").arg(shown(before));
     const QString few = fewReadings(before, since);
-    return compared(before, since) + (few.isEmpty() ? QString() : qtTrId("; ") + few);
+    return describeSides(before, since) + (few.isEmpty() ? QString() : qtTrId("; ") + few);
 }
 
 } // namespace

@@ -75,15 +75,6 @@ std::vector<DayHalves> calcLastDays(const ReadingList& readings, const Period& p
     return days;
 }
 
-std::vector<const ReadingModel*> excludedReadings(const ReadingList& readings, const Period& period) {
-    std::vector<const ReadingModel*> excluded;
-    for (const ReadingModel& reading : readings)
-        if (reading.isExcluded() && isListed(reading, summarySelection(period))) excluded.push_back(&reading);
-    std::ranges::stable_sort(excluded, std::ranges::greater{},
-                             [](const ReadingModel* reading) { return *reading->ReadingDate; });
-    return excluded;
-}
-
 std::vector<const CommentModel*> commentsOfPeriod(const CommentList& comments, const Period& period) {
     const LocalZone zone;
     const DayNumber first = zone.day(period.begin), last = zone.day(period.end);

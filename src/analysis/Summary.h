@@ -64,10 +64,6 @@ inline constexpr int lastDaysOnSummary = 14;
 /// before the period begins.
 [[nodiscard]] std::vector<DayHalves> calcLastDays(const ReadingList& readings, const Period& period);
 
-/// Those left out by the user, the newest first. The list's.
-[[nodiscard]] std::vector<const ReadingModel*> excludedReadings(const ReadingList& readings,
-                                                                const Period& period);
-
 /// Those that share a day with the period, the last to begin first. The list's.
 [[nodiscard]] std::vector<const CommentModel*> commentsOfPeriod(const CommentList& comments,
                                                                 const Period& period);

@@ -4,6 +4,8 @@
 
 #include <QDate>
 
+#include <algorithm>
+
 namespace zel::cli {
 
 using namespace Qt::StringLiterals;
@@ -57,8 +59,10 @@ Period periodOf(const DayRange& days, const ReadingList& readings, const Clock& 
     period.setCurrentReadingTimePeriod(readings);
     const Period data = period.getDataPeriod();
     if (days.last) return lastDays(days.to.value_or(data.end), *days.last);
-    period.setTimePeriod(days.from.value_or(data.begin), days.to.value_or(data.end));
-    return period.getTimePeriod();
+    // An open end is a day that the data reach to, or the other end where they do not reach it.
+    const Instant begin = days.from.value_or(std::min(data.begin, days.to.value_or(data.begin)));
+    const Instant end = days.to.value_or(std::max(data.end, begin));
+    return {DateToDayBoundary(begin, true), DateToDayBoundary(end, false)};
 }
 
 } // namespace zel::cli

@@ -26,7 +26,8 @@ struct DayRange {
 /// The half of the day of --am or --pm; viewAll for both.
 [[nodiscard]] tl::expected<ViewSelection, Failure> viewOption(const Request& request);
 
-/// Whole days; an open end is that of the patient's dated readings, which the last days count back from, too.
+/// Whole days, never reversed; an open end is that of the patient's dated readings, which the last days count
+/// back from, too, or the day of the other end where no reading lies behind it.
 [[nodiscard]] Period periodOf(const DayRange& days, const ReadingList& readings, const Clock& clock);
 
 } // namespace zel::cli

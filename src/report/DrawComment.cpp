@@ -31,11 +31,12 @@ QString days(const CommentModel& comment, const SettingModel& settings) {
     return period + u"  ("_s + (qtTrId("reportDays", total)) + u')';
 }
 
-/// What was measured before and since; empty where nothing was.
+/// What was measured before and since; empty where nothing was, nor left out.
 QString measured(const ReportSource& report, const DayMeans& means, const CommentModel& comment) {
     const BeforeAndSince change = calcBeforeAndSince(means, report.comments, comment);
     const bool isNone = change.before.means.count() + change.since.means.count() == 0;
-    return isNone ? QString() : qtTrId("reportMeasured").arg(describe(change));
+    const bool isAnyExcluded = change.before.excluded + change.since.excluded > 0;
+    return isNone && !isAnyExcluded ? QString() : qtTrId("reportMeasured").arg(describe(change));
 }
 
 /// How many of the earliest comments have no room in a report.

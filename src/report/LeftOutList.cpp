@@ -25,15 +25,13 @@ QString headOf(const ReadingModel& reading, const SettingModel& settings) {
 
 } // namespace
 
-LeftOutPages layOutLeftOut(const ReportSource& report, const Rect& rect) {
+LeftOutPages layOutLeftOut(const ReportSource& report, const LeftOutScope& scope, const Rect& rect) {
     LeftOutPages list;
     std::vector<TextItem> items;
-    ReadingSelection wholeDays = report.selection;
-    wholeDays.view = ViewSelection::custom;
-    for (const ReadingModel& reading : report.readings) {
-        if (!reading.isExcluded() || !isListed(reading, wholeDays)) continue;
-        list.readings.push_back(&reading);
-        list.reasons.push_back(wrapped(printable(describeExclusion(reading)), rect.width, reasonFont));
+    list.readings = leftOutReadings(report, scope);
+    items.reserve(list.readings.size());
+    for (const ReadingModel* reading : list.readings) {
+        list.reasons.push_back(wrapped(printable(describeExclusion(*reading)), rect.width, reasonFont));
         items.push_back(
             {static_cast<int>(list.reasons.back().size()), 2 * lineHeight(reasonFont) + 2 * textPartMargin});
     }

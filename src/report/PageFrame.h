@@ -2,6 +2,7 @@
 // What stands around the body of every page.
 
 #include "chart/Picture.h"
+#include "report/LeftOutReadings.h"
 #include "report/PageGeometry.h"
 #include "report/ReportSource.h"
 #include "report/Section.h"
@@ -10,11 +11,14 @@
 
 namespace zel {
 
-/// Where a page stands in its document, and what its first page says of that.
+/// Where a page stands in its document, and what its pages have to know of the others.
 struct PagePlace {
     int number = 1; ///< from 1
     int total = 1;
-    QStringList emptySections; ///< that were asked for, too; as the user reads them
+    QStringList emptySections{};      ///< that were asked for, too; as the user reads them
+    LeftOutScope leftOut{};           ///< which readings its pages of those left out name
+    std::optional<Section> namedIn{}; ///< the section that these pages follow
+    bool hasComments = false;         ///< a section has all comments in full
 };
 
 /// Room that the patient title takes at the head of the body.

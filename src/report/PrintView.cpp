@@ -16,7 +16,17 @@ namespace {
 
 /// Whether the readings that are left out may stand on pages behind it; the summary has them on its own.
 bool canNameBehind(std::optional<Section> section) {
-    return section && section != Section::summary && (namesLeftOut(*section) || onlyCountsLeftOut(*section));
+    return section && (namesLeftOut(*section) || onlyCountsLeftOut(*section));
+}
+
+/// Of a page of the section where that is the whole document.
+PagePlace aloneAt(int number, std::optional<Section> section) {
+    PagePlace place{.number = number};
+    if (!section) return place;
+    place.leftOut = leftOutScope({&*section, 1});
+    place.hasComments = section == Section::comment;
+    if (canNameBehind(section)) place.namedIn = section;
+    return place;
 }
 
 } // namespace
@@ -34,16 +44,24 @@ const PatientPages& PrintView::profile() const {
     return *patientPages;
 }
 
-const LeftOutPages& PrintView::leftOut(Section section) const {
-    const auto [found, isNew] = leftOutLists.try_emplace(getOrientation(section));
-    if (isNew) found->second = layOutLeftOut(source, geometry(section).drawingRect);
+const LeftOutPages& PrintView::leftOut(Section section, const LeftOutScope& scope) const {
+    const auto [found, isNew] = leftOutLists.try_emplace(std::pair(getOrientation(section), scope));
+    if (isNew) found->second = layOutLeftOut(source, scope, geometry(section).drawingRect);
     return found->second;
 }
 
 int PrintView::getTotalPages(std::optional<Section> printSelection) const {
     const int own = ownPages(printSelection);
     if (own == 0 || !canNameBehind(printSelection)) return own;
-    return own + static_cast<int>(leftOut(*printSelection).pages.size());
+    return own + pagesBehind(*printSelection, aloneAt(1, printSelection).leftOut);
+}
+
+int PrintView::pagesBehind(Section section, const LeftOutScope& scope) const {
+    return static_cast<int>(leftOut(section, scope).pages.size());
+}
+
+bool PrintView::namesAllOnSummary(const PagePlace& place) const {
+    return zel::namesAllOnSummary(geometry(Section::summary), source, place);
 }
 
 int PrintView::ownPages(std::optional<Section> printSelection) const {
@@ -63,7 +81,9 @@ PageGeometry PrintView::geometry(std::optional<Section> printSelection) const {
 }
 
 Picture PrintView::page(std::optional<Section> printSelection, int number) const {
-    return page(printSelection, number, {number, getTotalPages(printSelection), {}});
+    PagePlace place = aloneAt(number, printSelection);
+    place.total = getTotalPages(printSelection);
+    return page(printSelection, number, place);
 }
 
 Picture PrintView::page(std::optional<Section> printSelection, int number, const PagePlace& place) const {
@@ -71,13 +91,13 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
     Picture picture;
     if (printSelection == Section::summary) {
         drawTitle(picture, at, source, facts(Section::summary).text());
-        drawSummaryPage(picture, at, source, emptyText(place));
+        drawSummaryPage(picture, at, source, place);
         drawPageNumber(picture, at, place);
         return picture;
     }
     if (printSelection) {
         drawPatientTitle(picture, at, source, *printSelection, place);
-        drawBody(picture, at, *printSelection, number);
+        drawBody(picture, at, *printSelection, number, place.leftOut);
     }
     drawTitle(picture, at, source, printSelection ? facts(*printSelection).text() : QString());
     drawFooter(picture, at, source);
@@ -85,10 +105,11 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
     return picture;
 }
 
-void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const {
+void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number,
+                         const LeftOutScope& scope) const {
     const int own = ownPages(section);
     if (canNameBehind(section) && number > own)
-        return drawLeftOut(picture, source, leftOut(section), at.drawingRect, number - own);
+        return drawLeftOut(picture, source, leftOut(section, scope), at.drawingRect, number - own);
     switch (section) {
     case Section::summary: return; // has a frame of its own
     case Section::graph:

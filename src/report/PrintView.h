@@ -13,6 +13,7 @@
 
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace zel {
 
@@ -27,6 +28,10 @@ public:
     [[nodiscard]] int getTotalPages(std::optional<Section> printSelection) const;
     /// The same without those behind it, where another section names them.
     [[nodiscard]] int ownPages(std::optional<Section> printSelection) const;
+    /// Those behind it, where it is a part of a document that has to name these.
+    [[nodiscard]] int pagesBehind(Section section, const LeftOutScope& scope) const;
+    /// Whether all readings left out that a document has to name stand whole on its summary.
+    [[nodiscard]] bool namesAllOnSummary(const PagePlace& place) const;
     /// Turned by the section's orientation.
     [[nodiscard]] PageGeometry geometry(std::optional<Section> printSelection) const;
     /// The page, counted from 1, in points of the paper of geometry().
@@ -40,19 +45,20 @@ public:
     void setNeedPhysicianInfo(bool need) { source.needPhysicianInfo = need; }
 
 private:
-    void drawBody(Picture& picture, const PageGeometry& at, Section section, int number) const;
+    void drawBody(Picture& picture, const PageGeometry& at, Section section, int number,
+                  const LeftOutScope& scope) const;
     void drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const;
 
     [[nodiscard]] const CommentPages& comments() const;
     [[nodiscard]] const PatientPages& profile() const;
-    [[nodiscard]] const LeftOutPages& leftOut(Section section) const;
+    [[nodiscard]] const LeftOutPages& leftOut(Section section, const LeftOutScope& scope) const;
 
     ReportSource source;
     QPageSize paperSize;
     // Worked out when the section is first asked for: texts may be long, and many.
     mutable std::optional<CommentPages> commentPages;
     mutable std::optional<PatientPages> patientPages;
-    mutable std::map<QPageLayout::Orientation, LeftOutPages> leftOutLists;
+    mutable std::map<std::pair<QPageLayout::Orientation, LeftOutScope>, LeftOutPages> leftOutLists;
 };
 
 } // namespace zel

@@ -26,6 +26,7 @@ public:
 
 private:
     const PrintView& view;
+    PagePlace place; ///< what is common to all pages
     std::vector<Page> list;
     std::vector<Section> empty;
 };

@@ -38,13 +38,11 @@ std::optional<Section> sectionByKey(const QString& key) {
     return find([&](const SectionFacts& row) { return key == QLatin1StringView(row.key); });
 }
 
-bool namesLeftOut(Section section) {
-    return section == Section::summary || section == Section::table || section == Section::SWStatistics;
-}
+bool namesLeftOut(Section section) { return section == Section::table || section == Section::SWStatistics; }
 
 bool onlyCountsLeftOut(Section section) {
     return section == Section::graph || section == Section::histogram || section == Section::correlation
-           || section == Section::trend;
+           || section == Section::trend || section == Section::comment;
 }
 
 QPageLayout::Orientation getOrientation(std::optional<Section> section) {

@@ -32,9 +32,9 @@ struct SectionFacts {
 [[nodiscard]] std::span<const SectionFacts> sections();
 [[nodiscard]] const SectionFacts& facts(Section section);
 [[nodiscard]] std::optional<Section> sectionByKey(const QString& key);
-/// Whether the section names the readings that the user left out, with their reasons.
+/// Whether the section is followed by the readings that the user left out, with their reasons.
 [[nodiscard]] bool namesLeftOut(Section section);
-/// Whether it only counts them, and so is followed by their reasons where no other section names them.
+/// Whether it only counts them, and so is followed by their reasons where no other section names them all.
 [[nodiscard]] bool onlyCountsLeftOut(Section section);
 /// Landscape for no section, too.
 [[nodiscard]] QPageLayout::Orientation getOrientation(std::optional<Section> section);

@@ -110,10 +110,13 @@ QStringList flaggedTexts(const SummaryFigures& figures) {
 } // namespace
 
 MeasuringWeek summaryWeek(const ReportSource& report) {
+    const LocalZone zone;
+    const Period& period = report.selection.period;
+    const DayNumber first = zone.day(period.begin);
     auto end = report.weekEnd;
-    if (!end) end = lastDayOf(report.readings, report.selection.period);
+    if (!end || *end < first) end = lastDayOf(report.readings, period);
     return calcMeasuringWeek(report.readings, report.weekRule,
-                             end.value_or(LocalZone{}.day(report.selection.period.end)));
+                             end.value_or(std::max(first, zone.day(period.end))));
 }
 
 void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& rect) {
@@ -124,7 +127,9 @@ void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& r
         left = drawLarge(picture, pressureText(week.all, thresholdOf(week)), weekHalves(week), left);
         summaryLine(picture, thresholdText(week), left, summaryBold);
     } else {
-        summaryLine(picture, qtTrId("summaryNoWeek"), left, summaryFont);
+        const bool isAny = week.readingsLeftOut + week.excluded > 0;
+        summaryLine(picture, isAny ? qtTrId("summaryNoneCountsYet") : qtTrId("summaryNoWeek"), left,
+                    summaryFont);
     }
     summaryLine(picture, completeText(week), left, week.isComplete() ? summaryFont : summaryBold);
     summaryLine(picture, weekCounts(week), left, summaryFont);

@@ -7,7 +7,7 @@
 
 namespace zel {
 
-/// The one that was chosen, or the last one of the period.
+/// The one that was chosen, or the last one of the period; none that ends before the period begins.
 [[nodiscard]] MeasuringWeek summaryWeek(const ReportSource& report);
 
 /// The average of the measuring week, large.

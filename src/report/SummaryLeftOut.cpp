@@ -2,12 +2,13 @@
 
 #include "analysis/Summary.h"
 #include "report/FieldText.h"
-#include "report/SummaryBoxes.h"
+#include "report/LeftOutReadings.h"
 #include "report/SummaryType.h"
 #include "report/TrendPage.h"
 #include "store/ManualReading.h"
 
 #include <algorithm>
+#include <array>
 
 namespace zel {
 
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostHowToRead = 3;
+constexpr int mostHowToRead = 4;
 constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
 
 QString excludedText(const ReadingModel& reading, const ReportSource& report) {
@@ -27,25 +28,24 @@ QString excludedText(const ReadingModel& reading, const ReportSource& report) {
         .arg(reason.isEmpty() ? qtTrId("summaryNoReason") : reason);
 }
 
-/// Those of the period and those of the measuring week, which may begin before it, the newest first.
+/// Those that the page counts somewhere, the newest first; undated ones it counts as such.
 std::vector<const ReadingModel*> namedReadings(const ReportSource& report) {
-    const MeasuringWeek week = summaryWeek(report);
-    auto named = excludedReadings(report.readings, report.selection.period);
-    for (const ReadingModel& reading : report.readings) {
-        const bool isOfWeek = reading.isExcluded() && !reading.isUndated() && week.begin <= reading.day
-                              && reading.day <= week.end;
-        if (isOfWeek && !report.selection.period.contains(*reading.ReadingDate)) named.push_back(&reading);
-    }
+    constexpr std::array sections{Section::summary};
+    auto named = leftOutReadings(report, leftOutScope(sections));
+    std::erase_if(named, [](const ReadingModel* reading) { return reading->isUndated(); });
     std::ranges::stable_sort(named, std::ranges::greater{},
                              [](const ReadingModel* reading) { return *reading->ReadingDate; });
     return named;
 }
 
+std::size_t linesIn(double height) {
+    return static_cast<std::size_t>(std::max(0.0, height / lineHeight(summarySmall)));
+}
+
 /// A reason is cut rather than set smaller.
 void drawExcluded(Picture& picture, const ReportSource& report, Rect& left) {
     const auto readings = namedReadings(report);
-    const double line = lineHeight(summarySmall);
-    const auto room = static_cast<std::size_t>(std::max(0.0, left.height / line));
+    const std::size_t room = linesIn(left.height);
     const std::size_t shown = readings.size() <= room ? readings.size() : std::max<std::size_t>(room, 1) - 1;
     for (std::size_t i = 0; i < shown; ++i)
         summaryLine(picture, excludedText(*readings[i], report), left, summarySmall);
@@ -78,22 +78,50 @@ QString trendNote(const ReportSource& report) {
     return note.join(u' ');
 }
 
-QString howToRead(const ReportSource& report) {
-    const QString note = qtTrId("summaryNote").arg(highMark, trendNote(report));
+/// Where what the page cuts stands in full.
+QString cutNote(const PagePlace& place) {
+    QStringList where;
+    if (place.hasComments) where += facts(Section::comment).text();
+    if (place.namedIn && !(place.hasComments && place.namedIn == Section::comment))
+        where += facts(*place.namedIn).text();
+    if (where.isEmpty()) return qtTrId("summaryCut");
+    return (place.hasComments ? qtTrId("summaryInFull") : qtTrId("summaryReasonsInFull"))
+        .arg(where.join(u", "_s));
+}
+
+QString howToRead(const ReportSource& report, const PagePlace& place) {
+    const QString note = qtTrId("summaryNote").arg(highMark, trendNote(report), cutNote(place));
     return (describeHighMark(report.highFrom) + u". "_s + note).simplified();
+}
+
+/// What the note below it leaves of the block.
+Rect aboveNote(const QString& note, const Rect& rect) {
+    const QStringList lines = wrapped(note, rect.width, summarySmall, mostHowToRead);
+    const double height = static_cast<double>(lines.size()) * lineHeight(summarySmall);
+    return {rect.x, rect.y + height, rect.width, rect.height - height};
 }
 
 } // namespace
 
-void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const Rect& rect) {
-    const QString note = howToRead(report);
-    const QStringList lines = wrapped(note, rect.width, summarySmall, mostHowToRead);
-    const double height = static_cast<double>(lines.size()) * lineHeight(summarySmall);
-    Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"),
-                             {rect.x, rect.y + height, rect.width, rect.height - height});
+void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const PagePlace& place,
+                        const Rect& rect) {
+    const QString note = howToRead(report, place);
+    const Rect above = aboveNote(note, rect);
+    Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"), above);
     summaryLine(picture, countsOf(report), left, summaryFont);
     drawExcluded(picture, report, left);
-    fieldParagraph(picture, note, {rect.x, rect.y + height}, rect.width, summarySmall, mostHowToRead);
+    fieldParagraph(picture, note, {rect.x, above.y}, rect.width, summarySmall, mostHowToRead);
+}
+
+bool namesAllLeftOut(const ReportSource& report, const PagePlace& place, const Rect& rect) {
+    const auto named = namedReadings(report);
+    const double heading = summaryBlockHeight() + lineHeight(summaryFont);
+    if (named.size() > linesIn(aboveNote(howToRead(report, place), rect).height - heading)) return false;
+    const auto isNamedWhole = [&](const ReadingModel* reading) {
+        return std::ranges::find(named, reading) != named.end() && reading->exclusion.size() <= mostOfReason
+               && isWhole(excludedText(*reading, report), rect.width, summarySmall);
+    };
+    return std::ranges::all_of(leftOutReadings(report, place.leftOut), isNamedWhole);
 }
 
 } // namespace zel

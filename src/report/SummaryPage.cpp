@@ -1,7 +1,6 @@
 #include "report/SummaryPage.h"
 
 #include "analysis/Summary.h"
-#include "report/PageFrame.h"
 #include "report/SummaryBoxes.h"
 #include "report/SummaryComments.h"
 #include "report/SummaryDays.h"
@@ -28,15 +27,24 @@ void drawBoxes(Picture& picture, const ReportSource& report, const SummaryFigure
     drawSummaryShares(picture, report, figures, {rect.x + week, rect.y, rect.width - week, rect.height});
 }
 
+Rect leftOutRect(const PageGeometry& at) {
+    const Rect& foot = at.footerRect;
+    return {foot.x, foot.y, foot.width - leftOfLogo, foot.height};
+}
+
 } // namespace
 
+bool namesAllOnSummary(const PageGeometry& at, const ReportSource& report, const PagePlace& place) {
+    return namesAllLeftOut(report, place, leftOutRect(at));
+}
+
 void drawSummaryPage(Picture& picture, const PageGeometry& at, const ReportSource& report,
-                     const QString& note) {
+                     const PagePlace& place) {
     const Rect& foot = at.footerRect;
     drawLogo(picture, at);
-    drawSummaryLeftOut(picture, report, {foot.x, foot.y, foot.width - leftOfLogo, foot.height});
+    drawSummaryLeftOut(picture, report, place, leftOutRect(at));
     const double body = at.titleRect.y - foot.top();
-    Rect rest = drawSummaryHead(picture, report, note, {foot.x, foot.top(), foot.width, body});
+    Rect rest = drawSummaryHead(picture, report, emptyText(place), {foot.x, foot.top(), foot.width, body});
     rest.height -= betweenBlocks;
     const SummaryFigures figures = calcSummary(report.readings, report.selection.period);
     drawBoxes(picture, report, figures, takeTop(rest, boxHeight));

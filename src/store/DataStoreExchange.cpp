@@ -6,18 +6,36 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <vector>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// As the list has them: by date, those of one instant in the file's order, but undated ones at the marker's
+/// date, the last stored before the others.
+std::vector<const ReadingModel*> inOrderOfTime(const ReadingList& readings) {
+    std::vector<const ReadingModel*> sorted;
+    sorted.reserve(readings.size());
+    for (const ReadingModel& reading : readings)
+        sorted.push_back(&reading);
+    const auto dated = std::ranges::stable_partition(sorted, &ReadingModel::isUndated).begin();
+    std::reverse(sorted.begin(), dated);
+    const Instant marker = getNilReadingDate();
+    std::ranges::stable_sort(
+        sorted, {}, [marker](const ReadingModel* reading) { return reading->ReadingDate.value_or(marker); });
+    return sorted;
+}
+
 QString csvText(const PatientModel& patient, const ReadingList& readings, const SettingModel& settings,
                 const QString& target) {
     QString text = u'\n' + patient.exportCSV(settings) + u'\n';
     text += u"date,time,sys(mmHg),dia(mmHg),pulse(P/min),map,mam,%1,\n"_s.arg(target);
-    for (const ReadingModel& reading : readings)
-        text += reading.exportCSV(settings);
+    for (const ReadingModel* reading : inOrderOfTime(readings))
+        text += reading->exportCSV(settings);
     return text + u'\n';
 }
 

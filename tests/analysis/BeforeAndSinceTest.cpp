@@ -60,5 +60,33 @@ TEST(BeforeAndSince, IsOf14DaysAndUpTo28UntilAnotherCommentBegins) {
               QString());
 }
 
+TEST(BeforeAndSince, saysWhichSideHasFewReadingsAlsoWhereTheOtherHasNone) {
+    const RealTexts texts;
+    struct Case {
+        int before, since;
+        const char* words;
+    };
+    for (const Case& one :
+         {Case{0, 0, "no reading before or since"},
+          Case{0, 2, "no reading in the 14 days before, 130/80 (2) since; fewer than 6 readings since"},
+          Case{0, 6, "no reading in the 14 days before, 130/80 (6) since"},
+          Case{5, 0, "140/80 (5) before, no reading since; fewer than 6 readings before"},
+          Case{6, 0, "140/80 (6) before, no reading since"},
+          Case{5, 6, "140/80 (5) before, 130/80 (6) since: -10/0; fewer than 6 readings before"},
+          Case{6, 5, "140/80 (6) before, 130/80 (5) since: -10/0; fewer than 6 readings since"},
+          Case{5, 5, "140/80 (5) before, 130/80 (5) since: -10/0; fewer than 6 readings on both sides"},
+          Case{6, 6, "140/80 (6) before, 130/80 (6) since: -10/0"}}) {
+        Sample sample;
+        sample.comment("2019-03-01", "2019-03-01");
+        for (int i = 0; i < one.before; ++i)
+            sample.readings.push_back(readingAt("2019-02-20", 140));
+        for (int i = 0; i < one.since; ++i)
+            sample.readings.push_back(readingAt("2019-03-02", 130));
+        EXPECT_EQ(
+            describe(calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[0])),
+            QLatin1String(one.words));
+    }
+}
+
 } // namespace
 } // namespace zel

@@ -12,6 +12,8 @@
 
 #include <gmock/gmock.h>
 
+#include <map>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -346,6 +348,99 @@ TEST(Page, sectionsThatCountNameWhatTheUserLeftOutOfAllTimesOfTheDay) {
     EXPECT_EQ(named({graph, table, trend}), behind("table"));
     EXPECT_EQ(named({graph, summary}), QStringList()) << "which has them at its foot";
     EXPECT_EQ(named({comment, PatientProfile}), QStringList());
+}
+
+/// "40 on table" for each section that names readings left out for a reason that ends so.
+QStringList namedOn(const PrintView& view, const std::vector<Section>& sections, const QString& ending) {
+    std::map<Section, int> counts;
+    const ReportDocument document(view, sections);
+    for (std::size_t index = 0; index < document.pages().size(); ++index)
+        for (const TextLine& line : textsOf(document.page(index)))
+            if (line.text.endsWith(ending)) ++counts[document.pages()[index].section];
+    QStringList places;
+    for (const auto& [section, count] : counts)
+        places += u"%1 on %2"_s.arg(count).arg(QLatin1String(facts(section).key));
+    return places;
+}
+
+QString wholeText(const Picture& page) {
+    QStringList texts;
+    for (const TextLine& line : textsOf(page))
+        texts += line.text;
+    return texts.join(u' ');
+}
+
+TEST(Page, whatTheSummaryHasNoRoomForIsNamedBehindIt) {
+    using enum Section;
+    struct Case {
+        int count;
+        QString reason;
+        std::vector<Section> sections;
+        QStringList places;
+        const char* note; ///< of the summary, which its last line ends with
+    };
+    const QString brief = u"loose cuff END"_s, lengthy = u"flights of stairs, "_s.repeated(9) + u"END"_s;
+    for (const Case& one :
+         {Case{2, brief, {summary, graph}, {u"2 on summary"_s}, "…: shortened."},
+          Case{20, brief, {summary}, {u"5 on summary"_s}, "…: shortened."},
+          Case{20,
+               brief,
+               {summary, trend, graph, PatientProfile},
+               {u"5 on summary"_s, u"20 on graph"_s},
+               "…: shortened; readings left out: in full in Blood-pressure and pulse chart."},
+          Case{20,
+               brief,
+               {summary, comment},
+               {u"5 on summary"_s, u"20 on comment"_s},
+               "…: in full in Comments."},
+          Case{1,
+               lengthy,
+               {summary, comment, graph},
+               {u"1 on graph"_s},
+               "…: in full in Comments, Blood-pressure and pulse chart."},
+          Case{1,
+               brief,
+               {summary, comment, table},
+               {u"1 on summary"_s, u"1 on table"_s},
+               "…: in full in Comments, Readings."}}) {
+        SampleReport sample(40, 1);
+        for (int i = 0; i < one.count; ++i)
+            sample.readings[static_cast<std::size_t>(i)].exclusion = one.reason;
+        const PrintView view = sample.view();
+        EXPECT_EQ(namedOn(view, one.sections, u"END"_s), one.places) << one.places.join(u';').toStdString();
+        const QString page = wholeText(ReportDocument(view, one.sections).page(0));
+        EXPECT_TRUE(page.contains(QString::fromUtf8(one.note))) << page.toStdString();
+    }
+}
+
+TEST(Page, whatCommentsCountIsNamedAlsoOutsideThePeriod) {
+    using enum Section;
+    SampleReport sample(60); // January
+    sample.addComment("2019-01-20", "2019-01-21", 1, u"New dose."_s);
+    sample.selection.period = {DateToDayBoundary(noonOf("2019-01-20"), true),
+                               DateToDayBoundary(noonOf("2019-01-22"), false)};
+    const auto exclude = [&](const char* day, const char* reason) {
+        for (ReadingModel& reading : sample.readings)
+            if (reading.day == sample.zone.day(noonOf(day)) && reading.isPMData)
+                reading.exclusion = QLatin1String(reason);
+    };
+    exclude("2019-01-05", "more than 14 days before OUT");
+    exclude("2019-01-06", "before IN");
+    exclude("2019-01-21", "since IN");
+    exclude("2019-01-28", "behind the period IN");
+    const auto named = [&](const std::vector<Section>& sections) {
+        EXPECT_EQ(namedOn(sample.view(), sections, u"OUT"_s), QStringList());
+        return namedOn(sample.view(), sections, u"IN"_s);
+    };
+    EXPECT_EQ(named({comment}), QStringList(u"3 on comment"_s));
+    EXPECT_EQ(named({graph}), QStringList(u"1 on graph"_s));
+    EXPECT_EQ(named({comment, graph}), QStringList(u"3 on graph"_s));
+    EXPECT_EQ(named({comment, table}), QStringList(u"3 on table"_s));
+    EXPECT_EQ(named({summary}), QStringList(u"3 on summary"_s)) << "whose comments count them, too";
+    for (ReadingModel& reading : sample.readings)
+        reading.exclusion = u"all of them IN"_s;
+    EXPECT_TRUE(wholeText(sample.view().page(comment, 1))
+                    .contains(u"no reading before or since; 51 left out by the user"_s));
 }
 
 TEST(Page, commentsTellTheirDaysAndColours) {

@@ -119,7 +119,7 @@ TEST(Summary, isOnePageThatCanBeReadWhateverTheData) {
             const auto texts = textsOf(view.page(Section::summary, 1));
             EXPECT_GT(texts.size(), 40U) << what;
             EXPECT_THAT(wordsOf(view), testing::Contains(testing::Truly([](const QString& words) {
-                            return words.endsWith(" Readings."_L1);
+                            return words.endsWith("shortened."_L1);
                         })))
                 << what << ": how to read it is cut";
             for (std::size_t i = 0; i < texts.size(); ++i) {
@@ -175,6 +175,24 @@ TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
     sample.weekRule = AverageRule::aha;
     sample.weekEnd = sample.zone.day(noonOf("2019-01-03"));
     expectWeek("Measuring week (AHA)  2018/12/28 \u2013 2019/01/03");
+    sample.selection.period.begin = DateToDayBoundary(noonOf("2019-01-04"), true);
+    expectWeek("Measuring week (AHA)  2019/01/02 \u2013 2019/01/08");
+}
+
+TEST(Summary, saysThatNoReadingOfTheWeekCountsYetWhereThereAreSome) {
+    for (const auto& [reason, words] :
+         {std::pair(QString(), "0 readings on 0 days; 2 of the first day left out"),
+          {u"loose cuff"_s, "2 of the week left out by the user"}}) {
+        SampleReport sample;
+        add(sample, "2019-03-02 07:00", 150, 80).exclusion = reason;
+        add(sample, "2019-03-02 19:00", 150, 80).exclusion = reason;
+        sample.weekEnd = sample.zone.day(noonOf("2019-03-02"));
+        const QStringList shown = wordsOf(sample.view());
+        EXPECT_TRUE(shown.contains(QString::fromUtf8(words))) << words;
+        EXPECT_TRUE(shown.contains(u"No reading counts yet"_s)
+                    && !shown.contains(u"No readings in this week"_s))
+            << words;
+    }
 }
 
 TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
@@ -259,7 +277,7 @@ TEST(Summary, explainsTheLimitsThatItsTrendHas) {
             EXPECT_TRUE(text ? words.contains(QString::fromUtf8(text))
                              : !words.contains(QString::fromUtf8(part)))
                 << qPrintable(words);
-        EXPECT_TRUE(words.contains(u"in full in Comments and Readings."_s)) << "not cut";
+        EXPECT_TRUE(words.contains(u"…: shortened."_s)) << "not cut";
     }
 }
 

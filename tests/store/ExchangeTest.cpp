@@ -272,12 +272,14 @@ Town</Address><PhoneEmail>a@b</PhoneEmail><DateOfBirth>1970-02-03T00:00:00+01:00
         <Weight>72.500000</Weight><Height>175.000000</Height><Sex>1</Sex><Smoker>1</Smoker><Diabetic>2</Diabetic>
         <Cholestrol>190.250000</Cholestrol><FamilyHistory>"</FamilyHistory><PatientNotes/></Patient>
         <Patient><ID>B</ID><Weight>1e300</Weight></Patient>
-        <MeasureRec><ID>A,1</ID><MAM>1</MAM><Arrhythmia>5</Arrhythmia>
+        <MeasureRec><ID>A,1</ID><ReadingDate>2026-12-31T00:30:00+01:00</ReadingDate><Sys>3000000000</Sys>
+        </MeasureRec><MeasureRec><ID>A,1</ID><MAM>1</MAM><Arrhythmia>5</Arrhythmia>
         <ReadingDate>2026-07-05T21:05:00+02:00</ReadingDate><Sys>121</Sys><Dia>81</Dia><Map>94</Map>
         <Pulse>61</Pulse></MeasureRec>
-        <MeasureRec><ID>A,1</ID><ReadingDate>2026-12-31T00:30:00+01:00</ReadingDate><Sys>3000000000</Sys>
-        </MeasureRec><MeasureRec><ID>A,1</ID><ReadingDate>2000-01-01T00:00:00+01:00</ReadingDate></MeasureRec>
-        <MeasureRec><ID>A,1</ID></MeasureRec></ZEL>)");
+        <MeasureRec><ID>A,1</ID><ReadingDate>1999-12-31T12:00:00+01:00</ReadingDate><Sys>1</Sys></MeasureRec>
+        <MeasureRec><ID>A,1</ID><ReadingDate>2026-07-05T15:05:00-04:00</ReadingDate><Sys>2</Sys></MeasureRec>
+        <MeasureRec><ID>A,1</ID><ReadingDate>2000-01-01T00:00:00+01:00</ReadingDate><Sys>3</Sys></MeasureRec>
+        <MeasureRec><ID>A,1</ID><Sys>4</Sys></MeasureRec></ZEL>)");
     write(home.filePath(u".target"_s), "arm\n");
     ASSERT_TRUE(store.exportCSV(out.path(), u"A,1"_s, Replace::no));
     EXPECT_EQ(exported(u"A,1.csv"_s).toStdString(),
@@ -287,9 +289,11 @@ Town</Address><PhoneEmail>a@b</PhoneEmail><DateOfBirth>1970-02-03T00:00:00+01:00
               "Sex,Male,\nSmoker,Yes,\nDiabetic,No,\nCholesterol,190.2(mg/dL),\n"
               "Family history,\"\"\"\",\nPatient Notes,\"\",\n\n"
               "date,time,sys(mmHg),dia(mmHg),pulse(P/min),map,mam,arm,\n"
+              "12/31/1999,12:0 PM,1,0,0,0,No,N/A,\n"
+              ",,4,0,0,0,No,N/A,\n,,3,0,0,0,No,N/A,\n"
               "07/05/2026,9:5 PM,121,81,61,94,Yes,Yes,\n"
-              "12/31/2026,12:30 AM,-1294967296,0,0,0,No,N/A,\n"
-              ",,0,0,0,0,No,N/A,\n,,0,0,0,0,No,N/A,\n\n");
+              "07/05/2026,9:5 PM,2,0,0,0,No,N/A,\n"
+              "12/31/2026,12:30 AM,-1294967296,0,0,0,No,N/A,\n\n");
 
     store.getSetting().metricFormat = u"lb / in"_s;
     ASSERT_TRUE(store.exportCSV(out.path(), u"B"_s, Replace::no));
