@@ -277,6 +277,9 @@ TEST(DrawTrend, AFittedPictureShowsMoreOfThePressure) {
     const double usual = slope();
     trend.isFitted = true;
     EXPECT_GT(slope(), 1.8 * usual);
+    trend.sysStandard = 190;
+    EXPECT_LT(trend.curves(0.6).front().points.front().y, trend.layout().plot.top()) << "with its limits";
+    trend.sysStandard = 135;
     for (const auto& [low, high] : {std::pair(65U, 65U), {40U, 65U}, {65U, 120U}, {48U, 108U}, {0U, 999U}}) {
         trend.readings[0].pulse = low;
         trend.readings[1].pulse = trend.readings[2].pulse = high;
