@@ -917,7 +917,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportStruckThrough"><translation>struck through: left out of all that counts; the reasons stand behind the table</translation></message>
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Thin dashed line: the limit of %1.</numerusform><numerusform>Thin dashed lines: the limits of %1.</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Fine straight line: the limit of %1.</numerusform><numerusform>Fine straight lines: the limits of %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Thick lines: medians. Bands: from the 10th to the 90th percentile, or from the lowest to the highest of fewer than 5 readings. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="summary"><translation>Summary</translation></message>
@@ -976,9 +976,11 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTrend"><translation>Trend</translation></message>
     <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
     <message id="summaryTrendHidden"><translation>Outside the trend’s scale: %1.</translation></message>
-    <message id="summaryTrendLimits"><translation>Straight dashes in the trend: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Fine straight lines in the trend: %1.</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Typed in: %1 of %n reading</numerusform><numerusform>Typed in: %1 of %n readings</numerusform></translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n of the week typed in</numerusform><numerusform>%n of the week typed in</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
@@ -1246,6 +1248,7 @@ Options:
   --last N                     instead of --from: N days, up to that of --to, or to the last with a reading
   --am                         only the readings before noon (statistics and summary take all)
   --pm                         only the readings from noon on (likewise)
+  --apart                      the trend has mornings and evenings as lines of their own
   --rule esh|nice|aha          how the summary averages its measuring week, which ends with the period's last day
                                with readings; esh unless told otherwise. 'zel average --help' says what they are
   --practitioner               print the practitioner's details, from the settings, at the foot; at the head of

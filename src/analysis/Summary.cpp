@@ -42,6 +42,7 @@ SummaryFigures calcSummary(const ReadingList& readings, const Period& period) {
         figures.all.add(reading);
         (reading.isPMData ? figures.evening : figures.morning).add(reading);
         addFlag(figures, reading);
+        if (reading.isManual) ++figures.typedIn;
     }
     return figures;
 }

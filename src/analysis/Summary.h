@@ -37,6 +37,7 @@ struct SummaryFigures {
     PressureSpread evening{};
     FlaggedReadings afib{};
     FlaggedReadings pad{};
+    int typedIn = 0; ///< not measured by a monitor that is known
 };
 
 /// The days of the period as a selection of what the summary counts: not the view's half of the day, and no

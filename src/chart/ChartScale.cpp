@@ -10,13 +10,14 @@ constexpr int belowBase = 20;  ///< the plot begins that much below the base val
 constexpr int bloodSpan = 180; ///< mmHg from the bottom to the top of the plot
 constexpr int pulseSpan = 80;  ///< beats per minute
 
-double valueToY(const ChartScale& scale, double value, int span) {
-    return scale.chartRect.y + (value - scale.iScaleBase + belowBase) * scale.chartRect.height / span;
+double valueToY(const ChartScale& scale, double value, const ScaleRange& range) {
+    const auto least = static_cast<double>(range.least), span = static_cast<double>(range.most) - least;
+    return scale.chartRect.y + (value - least) * scale.chartRect.height / span;
 }
 
 ScaleRange rangeOf(const ChartScale& scale, int span) {
     const std::int64_t least = std::int64_t{scale.iScaleBase} - belowBase;
-    return {least, least + span};
+    return scale.fitted.value_or(ScaleRange{least, least + span});
 }
 
 } // namespace
@@ -31,9 +32,9 @@ ChartScale::ChartScale(const Rect& total, const Period& shown, bool noBaseArea, 
     chartRect.height -= getBaseAreaHeight();
 }
 
-double ChartScale::mapValToY(double value) const { return valueToY(*this, value, bloodSpan); }
+double ChartScale::mapValToY(double value) const { return valueToY(*this, value, bloodRange()); }
 
-double ChartScale::mapPulseValToY(double value) const { return valueToY(*this, value, pulseSpan); }
+double ChartScale::mapPulseValToY(double value) const { return valueToY(*this, value, pulseRange()); }
 
 ScaleRange ChartScale::bloodRange() const { return rangeOf(*this, bloodSpan); }
 

@@ -5,6 +5,8 @@
 #include "chart/OffScale.h"
 #include "chart/TimeScale.h"
 
+#include <optional>
+
 namespace zel {
 
 inline constexpr int commentHeight = 14; ///< of the comment strip
@@ -24,6 +26,7 @@ struct ChartScale {
     Rect chartRect; ///< the plot
     TimeScale time; ///< from the first second of a day to the last second of one
     int iScaleBase = startScaleBase;
+    std::optional<ScaleRange> fitted{}; ///< shown in place of what belongs to the base; not empty
 
     ChartScale(const Rect& totalRect, const Period& period, bool noBaseArea, int iScaleBase);
 

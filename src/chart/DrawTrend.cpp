@@ -6,6 +6,7 @@
 #include "chart/TimeAxis.h"
 #include "chart/TrendCurves.h"
 #include "chart/TrendNames.h"
+#include "chart/TrendScale.h"
 #include "chart/ValueScale.h"
 
 #include <QCoreApplication>
@@ -24,8 +25,9 @@ constexpr std::array beats{TrendMeasure::pulse};
 constexpr int captionFont = 1, emptyFont = 4;
 constexpr double headHeight = 16; ///< of the line that names the step
 constexpr double besideNames = 5;
-constexpr double plotGap = 6;      ///< between the two plots
+constexpr double plotGap = 7;      ///< between the two plots: half a number
 constexpr double pulseShare = 0.3; ///< as on the chart
+constexpr double fittedPulseShare = 0.2;
 constexpr double trendNoteInset = 4;
 
 /// Where the picture's parts lie.
@@ -43,10 +45,17 @@ int commentRows(double height) {
     return std::clamp(static_cast<int>(std::min(height * share, rest) / commentBandHeight), 0, 4);
 }
 
-/// Enough for a number and the unit in a low picture.
-double pulseHeight(double plots) {
+/// Enough for two numbers in a low picture.
+double pulseHeight(double plots, bool isFitted) {
     constexpr double least = 36, mostOfLow = 0.45;
-    return std::floor(std::max(plots * pulseShare, std::min(least, plots * mostOfLow)));
+    const double share = isFitted ? fittedPulseShare : pulseShare;
+    return std::floor(std::max(plots * share, std::min(least, plots * mostOfLow)));
+}
+
+TrendAmong amongOf(const TrendInput& input) {
+    const auto drawn = std::ranges::count_if(
+        input.trend.series, [](const TrendSeries& series) { return !series.points.empty(); });
+    return {.bothHalves = drawn > 1, .black = input.forPrint};
 }
 
 /// The ends of all lines that there are.
@@ -59,10 +68,16 @@ std::vector<LineName> lineEnds(const TrendInput& input, const ChartScale& blood,
             const double y = trendY(scale, measure, bandOf(series.points.back(), measure).median);
             names.push_back({trendName(measure, series.half),
                              std::clamp(y, scale.chartRect.y, scale.chartRect.top()),
-                             trendLook(measure, series.half, input.forPrint).color});
+                             trendLook(measure, series.half, amongOf(input)).color});
         }
     }
     return names;
+}
+
+void fitScales(Parts& parts, const TrendInput& input) {
+    const std::array limits{input.sysStandard, input.diaStandard};
+    parts.blood.fitted = fittedRange(input.trend.series, pressures, limits, parts.blood.bloodRange());
+    parts.pulse.fitted = fittedRange(input.trend.series, beats, {}, parts.pulse.pulseRange());
 }
 
 Parts partsOf(const TrendInput& input) {
@@ -76,12 +91,14 @@ Parts partsOf(const TrendInput& input) {
     const double bottom = all.y + bands.height();
     bands = layOutCommentBands(input.comments, input.selection.period, time, bottom, commentRows(all.height));
     const double plots = all.height - bands.height() - headHeight - getBaseAreaHeight() - plotGap;
-    const double low = pulseHeight(plots) + getBaseAreaHeight();
+    const double low = pulseHeight(plots, input.isFitted) + getBaseAreaHeight();
     const double high = all.top() - headHeight - (bottom + low + plotGap);
-    return {{{all.x, bottom + low + plotGap, width, high}, input.selection.period, true, startScaleBase},
-            {{all.x, bottom, width, low}, input.selection.period, false, startScaleBase},
-            {all.x + width + besideNames, bottom, names - 2 * besideNames, all.top() - bottom},
-            std::move(bands)};
+    Parts parts{{{all.x, bottom + low + plotGap, width, high}, input.selection.period, true, startScaleBase},
+                {{all.x, bottom, width, low}, input.selection.period, false, startScaleBase},
+                {all.x + width + besideNames, bottom, names - 2 * besideNames, all.top() - bottom},
+                std::move(bands)};
+    if (input.isFitted) fitScales(parts, input);
+    return parts;
 }
 
 /// Days in a short period; else months, or years where months would shade the plot.
@@ -105,13 +122,13 @@ void drawDateLines(Picture& picture, const ChartScale& scale, const LocalZone& z
     }
 }
 
-/// The pale line of a limit is lost in black and white.
+/// The pale line of a limit is lost in black and white. On paper it is fine, and without the dashes that a
+/// line of medians may have.
 void drawTrendLimit(Picture& picture, const ChartScale& scale, std::uint32_t limit, bool black) {
-    DrawAlphaLine(picture, scale, limit);
-    if (!black || limit == 0) return;
+    if (!black) return DrawAlphaLine(picture, scale, limit);
+    if (limit == 0) return;
     const double y = scale.mapValToY(limit);
-    picture.emplace_back(
-        Curve{{{scale.chartRect.x, y}, {scale.chartRect.right(), y}}, 0.75, Qt::black, {5, 4}});
+    picture.emplace_back(Curve{{{scale.chartRect.x, y}, {scale.chartRect.right(), y}}, 0.6, Qt::black, {}});
 }
 
 template <class Item>
@@ -126,7 +143,7 @@ bool drawSeries(Picture& picture, const TrendInput& input, const ChartScale& sca
     std::vector<TrendCurves> curves;
     for (const TrendMeasure measure : measures)
         for (const TrendSeries& series : input.trend.series)
-            curves.push_back(trendCurves(series, measure, scale, zone, input.forPrint));
+            curves.push_back(trendCurves(series, measure, scale, zone, amongOf(input)));
     for (TrendCurves& one : curves)
         addAll(picture, one.bands);
     bool isLinked = false;
@@ -154,10 +171,8 @@ bool drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale
               std::span<const TrendMeasure> measures, const LocalZone& zone) {
     const bool isPulse = measures.front() == TrendMeasure::pulse;
     picture.emplace_back(FillRect{scale.whiteRect, Qt::white});
-    if (isPulse)
-        drawPulseScale(picture, scale);
-    else
-        drawBloodScale(picture, scale);
+    const ScaleRange range = isPulse ? scale.pulseRange() : scale.bloodRange();
+    drawTrendScale(picture, scale, range);
     picture.emplace_back(BeginClip{scale.chartRect});
     drawDateLines(picture, scale, zone);
     if (!isPulse) {
@@ -169,10 +184,7 @@ bool drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale
     if (input.forPrint) drawPlotFrame(picture, scale.whiteRect);
     const Rect room{scale.chartRect.x, scale.chartRect.y, scale.chartRect.width - trendNoteInset,
                     scale.chartRect.height - 1};
-    drawOffScale(
-        picture,
-        trendOffScale(input.trend.series, measures, isPulse ? scale.pulseRange() : scale.bloodRange()), room,
-        OffScaleOf::points);
+    drawOffScale(picture, trendOffScale(input.trend.series, measures, range), room, OffScaleOf::points);
     return isLinked;
 }
 
@@ -188,6 +200,12 @@ void drawCaption(Picture& picture, const TrendInput& input, bool isLinked, const
         if (textSize(form, font).width > head.width && form != step) continue;
         return textOut(picture, form, {head.x, head.y + head.height / 2}, font, XPos::left, YPos::centre);
     }
+}
+
+/// Above the numbers of the pressure, and beside the lower strip of the dates.
+void drawUnits(Picture& picture, const Parts& parts) {
+    drawTrendUnit(picture, parts.blood, qtTrId("mmHg"), parts.blood.chartRect.top() + headHeight / 2);
+    drawTrendUnit(picture, parts.pulse, qtTrId("P/min"), parts.pulse.totalRect.y + commentHeight / 2.0);
 }
 
 void drawEmpty(Picture& picture, const TrendInput& input, const Rect& plot) {
@@ -253,6 +271,7 @@ TrendLayout drawTrend(const TrendInput& input, const LocalZone& zone) {
     Picture& picture = layout.picture;
     const bool isLinked = drawPlot(picture, input, parts.blood, pressures, zone);
     drawPlot(picture, input, parts.pulse, beats, zone);
+    drawUnits(picture, parts);
     drawDateLabels(picture, parts.pulse, trendNoteInset, zone);
     const Rect& plot = parts.blood.chartRect;
     drawCaption(

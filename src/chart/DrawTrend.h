@@ -14,6 +14,8 @@ struct TrendInput {
     std::uint32_t sysStandard = 0; ///< mmHg; 0: no limit
     std::uint32_t diaStandard = 0; ///< mmHg; 0: no limit
     bool forPrint = false;         ///< black on white
+    bool isFitted =
+        false; ///< scales of no more than readings and limits need, and a lower plot for the pulse
     Rect totalRect;
 };
 

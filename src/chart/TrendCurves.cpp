@@ -16,7 +16,8 @@ constexpr double markDiameter = 5;
 constexpr double roomForMarks = 20;   ///< of a step, for each point to have one and its dashes to be seen
 constexpr DayNumber longestLink = 30; ///< days, as in the chart
 constexpr int bandAlpha = 55;
-const std::vector<double> dotted{2, 3};
+const std::vector<double> dotted{1, 3};
+const QColor linkOnPaper(110, 110, 110);
 
 using Points = std::span<const TrendPoint>;
 
@@ -34,8 +35,10 @@ QColor colorOf(TrendMeasure measure, bool evening) {
 
 class CurveMaker {
 public:
-    CurveMaker(TrendMeasure shown, const ChartScale& at, const LocalZone& local, TrendLook look)
-        : measure(shown), scale(at), zone(local), style(std::move(look)),
+    CurveMaker(TrendMeasure shown, const ChartScale& at, const LocalZone& local, ViewSelection half,
+               const TrendAmong& among)
+        : measure(shown), scale(at), zone(local), style(trendLook(shown, half, among)),
+          linkColor(among.black ? linkOnPaper : style.color),
           halfDay(at.time.width / (local.day(at.time.end) - local.day(at.time.begin) + 1) / 2) {}
 
     void addRun(TrendCurves& made, Points run) const {
@@ -47,7 +50,7 @@ public:
     }
 
     [[nodiscard]] Curve link(const TrendPoint& from, const TrendPoint& to) const {
-        return {{median(from), median(to)}, 1, style.color, dotted};
+        return {{median(from), median(to)}, 1, linkColor, dotted};
     }
 
 private:
@@ -93,17 +96,17 @@ private:
     const ChartScale& scale;
     const LocalZone& zone;
     TrendLook style;
+    QColor linkColor;
     double halfDay; ///< in the picture
 };
 
 } // namespace
 
-TrendLook trendLook(TrendMeasure measure, ViewSelection half, bool black) {
-    const bool isApart = half == ViewSelection::amOnly || half == ViewSelection::pmOnly;
-    TrendLook look{black ? QColor(Qt::black) : colorOf(measure, isEvening(half)), {}};
+TrendLook trendLook(TrendMeasure measure, ViewSelection half, const TrendAmong& among) {
+    TrendLook look{among.black ? QColor(Qt::black) : colorOf(measure, isEvening(half)), {}};
     const bool isDia = measure == TrendMeasure::dia;
-    if (isApart && isEvening(half))
-        look.dashes = isDia ? std::vector<double>{8, 3, 2, 3} : std::vector<double>{3, 3};
+    if (among.bothHalves && isEvening(half))
+        look.dashes = isDia ? std::vector<double>{8, 3, 2, 3} : std::vector<double>{5, 3};
     else if (isDia)
         look.dashes = {9, 4};
     return look;
@@ -140,8 +143,8 @@ double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const Local
 }
 
 TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure, const ChartScale& scale,
-                        const LocalZone& zone, bool black) {
-    const CurveMaker maker(measure, scale, zone, trendLook(measure, series.half, black));
+                        const LocalZone& zone, const TrendAmong& among) {
+    const CurveMaker maker(measure, scale, zone, series.half, among);
     TrendCurves made;
     const Points points(series.points);
     for (std::size_t begin = 0; begin < points.size();) {

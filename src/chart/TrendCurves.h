@@ -17,7 +17,12 @@ struct TrendLook {
     QColor color;
     std::vector<double> dashes; ///< as Curve has them
 };
-[[nodiscard]] TrendLook trendLook(TrendMeasure measure, ViewSelection half, bool black);
+/// What a line is drawn with.
+struct TrendAmong {
+    bool bothHalves = false; ///< the other half of the day has lines, too
+    bool black = false;      ///< on paper
+};
+[[nodiscard]] TrendLook trendLook(TrendMeasure measure, ViewSelection half, const TrendAmong& among);
 
 /// "SYS", "SYS morning".
 [[nodiscard]] QString trendName(TrendMeasure measure, ViewSelection half);
@@ -37,7 +42,8 @@ struct TrendCurves {
     std::vector<Circle> marks;
 };
 [[nodiscard]] TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure,
-                                      const ChartScale& scale, const LocalZone& zone, bool black);
+                                      const ChartScale& scale, const LocalZone& zone,
+                                      const TrendAmong& among);
 
 /// The points whose bands reach beyond a scale, each step once.
 [[nodiscard]] OffScale trendOffScale(std::span<const TrendSeries> series,

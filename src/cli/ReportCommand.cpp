@@ -24,6 +24,7 @@ struct Order {
     QPageSize paper;
     QString output;
     bool needsPractitioner;
+    bool isTrendApart;
 };
 
 QString sectionKeys() {
@@ -73,8 +74,15 @@ tl::expected<Order, Failure> orderOf(const Request& request, const QPageSize& us
     if (!paper) return tl::unexpected(paper.error());
     const auto output = requiredValue(request, u"output"_s);
     if (!output) return tl::unexpected(output.error());
-    return Order{*ID,   *sections, *days,   *view,
-                 *rule, *paper,    *output, request.options.isSet(u"practitioner"_s)};
+    return Order{*ID,
+                 *sections,
+                 *days,
+                 *view,
+                 *rule,
+                 *paper,
+                 *output,
+                 request.options.isSet(u"practitioner"_s),
+                 request.options.isSet(u"apart"_s)};
 }
 
 /// A slip of the finger must not cost years of readings.
@@ -105,6 +113,7 @@ CommandResult writeReport(const Order& order, const DataStore& store, Surroundin
     if (!source) return failed(qtTrId("CliNoSuchPatient").arg(order.ID));
     source->needPhysicianInfo = order.needsPractitioner;
     source->weekRule = order.rule;
+    source->trendApart = order.isTrendApart;
     const PrintView view(std::move(*source), order.paper);
     const auto written = writePdf(view, order.sections, order.output);
     if (!written) return failed(describe(written.error()));
@@ -131,10 +140,10 @@ CommandResult runReport(const Request& request, Surroundings& around) {
 Command reportCommand() {
     return {"report", [] { return qtTrId("CliHelpReport"); },
             [] {
-                return QList{valued(u"patient"_s), valued(u"section"_s), valued(u"from"_s),
-                             valued(u"to"_s),      valued(u"last"_s),    flag(u"am"_s),
-                             flag(u"pm"_s),        valued(u"rule"_s),    flag(u"practitioner"_s),
-                             valued(u"paper"_s),   valued(u"output"_s)};
+                return QList{valued(u"patient"_s),    valued(u"section"_s), valued(u"from"_s),
+                             valued(u"to"_s),         valued(u"last"_s),    flag(u"am"_s),
+                             flag(u"pm"_s),           flag(u"apart"_s),     valued(u"rule"_s),
+                             flag(u"practitioner"_s), valued(u"paper"_s),   valued(u"output"_s)};
             },
             runReport};
 }

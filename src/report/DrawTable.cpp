@@ -24,6 +24,7 @@ constexpr double textBase = 1;    ///< of a text above its row's bottom
 constexpr double mark = 8;        ///< diameter of a filled or outlined circle
 constexpr double summaryGap = 10; ///< below the statistics
 constexpr int smallestRow = 7;
+constexpr double strikeWidth = 0.4;
 
 const TextAttribute cellFont{};
 const TextAttribute columnUnitFont{.size = 7};
@@ -81,11 +82,11 @@ Point markCentre(const Rect& row, double column) {
     return {field(row, column, xSys, 0).at.x + 12, row.y + 7.5};
 }
 
-/// From the date to the comment, which says why.
+/// From the date to the comment, which says why; so fine that the values are still read.
 void strikeThrough(Picture& picture, const TableRow& row) {
     const double y = row.y + textBase + textSize(u"0"_s, row.font).height / 2;
-    picture.emplace_back(
-        StraightLine{{row.x, y}, {field(row, xComment, DrawTable::baseWidth, 0).at.x - 4, y}, 1, Qt::black});
+    picture.emplace_back(StraightLine{
+        {row.x, y}, {field(row, xComment, DrawTable::baseWidth, 0).at.x - 4, y}, strikeWidth, Qt::black});
 }
 
 bool hasFinding(std::uint32_t arrhythmia) { return arrhythmia == 2 || arrhythmia == 5; }

@@ -83,6 +83,18 @@ QString weekCounts(const MeasuringWeek& week) {
     return counted + qtTrId("; ") + qtTrId("summaryFirstDay", week.readingsLeftOut);
 }
 
+/// What is to be known of the week's readings beside their number.
+QString weekRemarks(const MeasuringWeek& week, const ReadingList& readings) {
+    const auto typed = std::ranges::count_if(readings, [&](const ReadingModel& reading) {
+        return reading.isManual && !reading.isExcluded() && !reading.isUndated() && week.begin <= reading.day
+               && reading.day <= week.end;
+    });
+    QStringList remarks;
+    if (week.excluded > 0) remarks += qtTrId("summaryWeekExcluded", week.excluded);
+    if (typed > 0) remarks += qtTrId("summaryWeekTyped", static_cast<int>(typed));
+    return remarks.join(u"; "_s);
+}
+
 QString completeText(const MeasuringWeek& week) {
     return week.isComplete() ? qtTrId("summaryComplete")
                              : qtTrId("summaryIncomplete").arg(describeMissing(week));
@@ -133,8 +145,8 @@ void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& r
     }
     summaryLine(picture, completeText(week), left, week.isComplete() ? summaryFont : summaryBold);
     summaryLine(picture, weekCounts(week), left, summaryFont);
-    if (week.excluded > 0)
-        summaryLine(picture, qtTrId("summaryWeekExcluded", week.excluded), left, summaryFont);
+    if (const QString remarks = weekRemarks(week, report.readings); !remarks.isEmpty())
+        summaryLine(picture, remarks, left, summaryFont);
 }
 
 void drawSummaryShares(Picture& picture, const ReportSource& report, const SummaryFigures& figures,
@@ -153,6 +165,8 @@ void drawSummaryShares(Picture& picture, const ReportSource& report, const Summa
     left.height -= lineHeight(summaryFont);
     for (const QString& text : flaggedTexts(figures))
         summaryLine(picture, text, left, summaryFont);
+    if (figures.typedIn > 0)
+        summaryLine(picture, qtTrId("summaryTyped", total).arg(figures.typedIn), left, summaryFont);
 }
 
 } // namespace zel

@@ -78,6 +78,7 @@ void drawSummaryTrend(Picture& picture, const ReportSource& report, const Rect& 
                                    .sysStandard = report.highFrom.sys,
                                    .diaStandard = report.highFrom.dia,
                                    .forPrint = true,
+                                   .isFitted = true,
                                    .totalRect = {left.x, left.y + strip, left.width, left.height - strip}},
                                   LocalZone());
     append(picture, std::move(trend.picture));

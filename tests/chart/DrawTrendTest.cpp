@@ -4,6 +4,7 @@
 #include "chart/CurvePieces.h"
 #include "chart/Drawing.h"
 #include "chart/PicturePainter.h"
+#include "chart/TrendScale.h"
 
 #include <QImage>
 #include <QPainter>
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace zel {
@@ -26,6 +28,7 @@ struct TrendOf {
     bool apart = false;
     bool forPrint = false;
     std::uint32_t sysStandard = 135;
+    bool isFitted = false;
     Rect rect{10, 20, 700, 400};
 
     void comment(const char* from, const char* to, const QString& text) {
@@ -36,7 +39,8 @@ struct TrendOf {
     }
     [[nodiscard]] TrendLayout layout() const {
         const TrendSeriesList trend = calcTrendSeries(readings, selection, apart);
-        return drawTrend({trend, comments, selection, sysStandard, 85, forPrint, rect}, LocalZone());
+        return drawTrend({trend, comments, selection, sysStandard, 85, forPrint, isFitted, rect},
+                         LocalZone());
     }
     template <class Item>
     [[nodiscard]] std::vector<Item> items() const {
@@ -119,11 +123,14 @@ TEST(DrawTrend, NamesStandClearOfEachOtherAtTheirLinesEnds) {
 
 TEST(DrawTrend, NothingStandsOverAnythingElse) {
     for (const Rect& rect : {Rect{10, 20, 1000, 500}, Rect{0, 0, 590, 290}, Rect{0, 0, 480, 130}}) {
-        TrendOf trend{.rect = rect};
-        trend.comment("2019-03-05", "2019-03-20", u"Ramipril 5 mg"_s);
-        trend.comment("2019-03-06", "2019-03-06", u"a cold, with fever and a cough that lasted for weeks"_s);
-        trend.comment("2019-03-30", "2019-03-31", u"headache"_s);
-        EXPECT_EQ(crowded(trend.items<TextLine>(), rect).join(u'\n').toStdString(), "") << rect.width;
+        for (const bool isFitted : {false, true}) {
+            TrendOf trend{.isFitted = isFitted, .rect = rect};
+            trend.comment("2019-03-05", "2019-03-20", u"Ramipril 5 mg"_s);
+            trend.comment("2019-03-06", "2019-03-06",
+                          u"a cold, with fever and a cough that lasted for weeks"_s);
+            trend.comment("2019-03-30", "2019-03-31", u"headache"_s);
+            EXPECT_EQ(crowded(trend.items<TextLine>(), rect).join(u'\n').toStdString(), "") << rect.width;
+        }
     }
 }
 
@@ -215,6 +222,76 @@ TEST(DrawTrend, LinesAreToldApartInBlackAndWhite) {
     EXPECT_EQ(trend.texts().filter(u" morning"_s).size(), 0);
 }
 
+TEST(DrawTrend, OneHalfOfTheDayAloneLooksLikeAllAndUnlikeItsLinks) {
+    const char* const evenings[]{"2019-03-01 20:00", "2019-03-02 20:00", "2019-03-05 20:00"};
+    for (const ViewSelection view : {ViewSelection::pmOnly, ViewSelection::viewAll}) {
+        TrendOf trend{.readings = {}, .apart = true, .forPrint = true};
+        trend.selection.view = view;
+        for (const char* date : evenings)
+            trend.readings.push_back(readingAt(date, 130, 80));
+        const auto lines = trend.medianLines();
+        ASSERT_EQ(lines.size(), 3U);
+        EXPECT_TRUE(lines[0].dashes.empty()) << "SYS";
+        EXPECT_FALSE(lines[1].dashes.empty()) << "DIA";
+        ASSERT_EQ(trend.links().size(), 3U);
+        for (const Curve& link : trend.links())
+            EXPECT_GT(link.color.lightness(), lines[0].color.lightness());
+    }
+}
+
+TEST(DrawTrend, AFittedScaleHasAllThatIsDrawnAndLittleElse) {
+    const ScaleRange usual{40, 220};
+    const std::array measures{TrendMeasure::sys, TrendMeasure::dia};
+    const struct {
+        double high, low;
+        std::array<std::uint32_t, 2> limits;
+        ScaleRange fitted;
+    } cases[]{{158, 92, {135, 85}, {80, 160}},  {124, 86, {150, 85}, {80, 160}},
+              {160, 90, {0, 0}, {80, 170}}, // clear of the frame
+              {120, 100, {400, 39}, {90, 130}}, {120, 119, {0, 0}, {100, 140}},
+              {41, 40, {0, 0}, {40, 80}},       {4e9, 4e9, {0, 0}, {180, 220}},
+              {4e9, 0, {0, 0}, usual}};
+    for (const auto& [high, low, limits, fitted] : cases) {
+        const TrendSeries series{
+            .points = {{.sys = {high, high, high}, .dia = {low, low, low}, .pulse = {}}}};
+        EXPECT_EQ(fittedRange(std::span(&series, 1), measures, limits, usual), fitted) << high << '/' << low;
+    }
+    EXPECT_EQ(fittedRange({}, measures, {}, usual), usual);
+}
+
+TEST(DrawTrend, AFittedPictureShowsMoreOfThePressure) {
+    TrendOf trend{.forPrint = true, .rect = {0, 0, 520, 215}};
+    const auto slope = [&] {
+        trend.readings[0].sys = 150;
+        const auto points = trend.medianLines().front().points;
+        return points.front().y - points.back().y;
+    };
+    const auto numbers = [&] {
+        const double edge = trend.layout().plot.x;
+        auto texts = trend.items<TextLine>();
+        std::erase_if(texts, [&](const TextLine& text) {
+            return text.text.toInt() == 0 || std::abs(boxOf(text).right() - edge) > 3;
+        });
+        return texts;
+    };
+    const double usual = slope();
+    trend.isFitted = true;
+    EXPECT_GT(slope(), 1.8 * usual);
+    trend.sysStandard = 190;
+    EXPECT_LT(trend.curves(0.6).front().points.front().y, trend.layout().plot.top()) << "with its limits";
+    trend.sysStandard = 135;
+    for (const auto& [low, high] : {std::pair(65U, 65U), {40U, 65U}, {65U, 120U}, {48U, 108U}, {0U, 999U}}) {
+        trend.readings[0].pulse = low;
+        trend.readings[1].pulse = trend.readings[2].pulse = high;
+        const auto texts = numbers();
+        const double pulseTop = trend.items<BeginClip>().back().rect.top();
+        const auto isOfPulse = [&](const TextLine& text) { return text.origin.y < pulseTop; };
+        EXPECT_GE(std::ranges::count_if(texts, isOfPulse), 2) << "of the pulse: " << low << " to " << high;
+        for (const TextLine& text : texts)
+            EXPECT_LT(boxOf(text).right(), trend.layout().plot.x) << "clear of the frame";
+    }
+}
+
 TEST(DrawTrend, DashesGoOnAroundCornersAndEnd) {
     const auto pieces = [](std::vector<Point> points, std::vector<double> dashes) {
         QStringList all;
@@ -258,7 +335,9 @@ TEST(DrawTrend, LimitsAreThoseOfTheOtherPictures) {
     EXPECT_EQ(limits({}), 2);
     EXPECT_EQ(limits({.sysStandard = 0}), 1) << "0 is no limit";
     const TrendOf paper{.forPrint = true};
-    EXPECT_EQ(paper.curves(0.75).size(), 2U) << "in black, too";
+    ASSERT_EQ(paper.curves(0.6).size(), 2U) << "in black";
+    for (const Curve& limit : paper.curves(0.6))
+        EXPECT_TRUE(limit.dashes.empty()) << "DIA has dashes";
     EXPECT_EQ(trendLimits(221, 90), std::pair(0U, 90U));
     EXPECT_EQ(trendLimits(220, 39), std::pair(220U, 0U));
 }

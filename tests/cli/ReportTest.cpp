@@ -124,6 +124,15 @@ TEST_F(ReportTest, daysBesideTheReadingsAreNoReversedPeriod) {
     }
 }
 
+TEST_F(ReportTest, theTrendHasMorningsAndEveningsApartWhereAsked) {
+    for (const bool isApart : {false, true}) {
+        ASSERT_EQ(report(u"trend"_s, isApart ? QStringList{u"--apart"_s} : QStringList()).status, 0);
+        const std::string text = writtenText();
+        EXPECT_EQ(text.find("SYS morning") != std::string::npos, isApart);
+        EXPECT_EQ(text.find("DIA evening") != std::string::npos, isApart);
+    }
+}
+
 TEST_F(ReportTest, limitsThatWereChosenButCannotBeReadAreTold) {
     QFile choice(QFileInfo(dataFile()).path() + u"/View.json"_s);
     for (const auto& [text, told] :

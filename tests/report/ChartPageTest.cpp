@@ -241,10 +241,11 @@ TEST(TrendPage, textsStandApartAndTheLegendSaysWhatIsDrawn) {
             const PageGeometry at = view.geometry(Section::trend);
             ASSERT_EQ(misplaced(view.page(Section::trend, 1), at.totalRect), u""_s) << days << " days";
         }
-    EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"Thin dashed lines: the limits of 140/90 mmHg."_s));
+    EXPECT_TRUE(
+        wordsOf(sample, Section::trend).contains(u"Fine straight lines: the limits of 140/90 mmHg."_s));
     sample.settings.sysStandard = 250;
     EXPECT_TRUE(wordsOf(sample, Section::trend)
-                    .contains(u"Thin dashed line: the limit of 90 mmHg diastolic. "
+                    .contains(u"Fine straight line: the limit of 90 mmHg diastolic. "
                               "The limit of 250 mmHg systolic lies outside the scale."_s));
     sample.settings.sysStandard = sample.settings.diaStandard = 0;
     EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"No limits are set."_s));

@@ -76,6 +76,8 @@ std::vector<Spoiled> spoiledSamples() {
     samples.push_back({"62", SampleReport(62, 2)});
     samples.back().sample.highFrom = {0, 85};
     samples.back().sample.readings[60].exclusion = u"of the last week"_s;
+    for (ReadingModel& reading : samples.back().sample.readings)
+        reading.isManual = true;
     samples.push_back({"100,000", SampleReport(100'000)});
     samples.back().sample.selection.period.end = DateToDayBoundary(noonOf("2160-01-01"), false);
     samples.push_back({"crowded", crowded()});
@@ -201,7 +203,9 @@ TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
     add(sample, "2019-03-01 07:00", 191, 81).exclusion = u"first day"_s;
     add(sample, "2019-03-02 07:00", 190, 80).exclusion = u"loose cuff"_s;
     add(sample, "2019-03-03 07:00", 150, 80);
-    add(sample, "2019-03-05 07:00", 180, 80).exclusion = u"after stairs"_s;
+    ReadingModel& typed = add(sample, "2019-03-05 07:00", 180, 80);
+    typed.exclusion = u"after stairs"_s;
+    typed.isManual = true;
     add(sample, "2019-03-07 07:00", 130, 80);
     sample.selection.period.begin = DateToDayBoundary(noonOf("2019-03-04"), true);
     const QStringList words = wordsOf(sample.view());
@@ -210,6 +214,7 @@ TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
     EXPECT_EQ(words.filter(u"190/80"_s), (QStringList{u"2019/03/02 07:00  190/80: loose cuff"_s}));
     EXPECT_EQ(words.filter(u"180/80"_s), (QStringList{u"2019/03/05 07:00  180/80: after stairs"_s}));
     EXPECT_EQ(words.filter(u"the week before"_s), QStringList());
+    EXPECT_EQ(words.filter(u"yped in"_s), QStringList()) << "what counts nowhere";
     sample.selection.period.end = DateToDayBoundary(noonOf("2019-03-06"), false);
     sample.weekEnd = sample.zone.day(noonOf("2019-03-08"));
     add(sample, "2019-03-08 07:00", 130, 80).exclusion = u"last day"_s;
@@ -264,16 +269,17 @@ TEST(Summary, explainsTheLimitsThatItsTrendHas) {
         const char *shown, *hidden;
     };
     for (const Case& one :
-         {Case{20, {130, 80}, "Straight dashes in the trend: 130/80 mmHg. Morning", nullptr},
-          Case{20, {0, 85}, "Straight dashes in the trend: 85 mmHg diastolic. Morning", nullptr},
+         {Case{20, {130, 80}, "Fine straight lines in the trend: 130/80 mmHg. Morning", nullptr},
+          Case{20, {0, 85}, "Fine straight lines in the trend: 85 mmHg diastolic. Morning", nullptr},
           Case{20, {0, 0}, nullptr, nullptr}, Case{0, {130, 80}, nullptr, nullptr},
-          Case{20, {999, 85}, "dashes in the trend: 85 mmHg diastolic.", "scale: 999 mmHg systolic. Morning"},
+          Case{20, {999, 85}, "lines in the trend: 85 mmHg diastolic.", "scale: 999 mmHg systolic. Morning"},
           Case{20, {999, 998}, nullptr, "scale: 999/998 mmHg. Morning"}}) {
         SampleReport sample(one.readings);
         sample.settings.sysStandard = 150; // which the chart goes by
         sample.highFrom = one.limits;
         const QString words = wordsOf(sample.view()).join(u' ');
-        for (const auto& [text, part] : {std::pair(one.shown, "dashes"), {one.hidden, "trend’s scale"}})
+        for (const auto& [text, part] :
+             {std::pair(one.shown, "straight lines"), {one.hidden, "trend’s scale"}})
             EXPECT_TRUE(text ? words.contains(QString::fromUtf8(text))
                              : !words.contains(QString::fromUtf8(part)))
                 << qPrintable(words);
@@ -398,7 +404,7 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
     add(sample, "2019-03-01 07:00", 150, 90, 4);
     add(sample, "2019-03-01 19:00", 140, 80, 4);
     add(sample, "2019-03-02 07:00", 130, 85, 5);
-    add(sample, "2019-03-02 07:05", 133, 88, 0);
+    add(sample, "2019-03-02 07:05", 133, 88, 0).isManual = true;
     add(sample, "2019-03-04 19:00", 120, 70, 4);
     sample.addComment("2019-03-02", "2019-03-02", 1, u"Started a tablet."_s);
     const QString lines[] = {
@@ -419,6 +425,8 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
         u"4 of 5 readings"_s,
         u"Arrhythmia flagged (AFib): 1 of 4 readings"_s,
         u"1 reading was not examined for it"_s,
+        u"Typed in: 1 of 5 readings"_s,
+        u"1 of the week typed in"_s,
         // SYS 673/5; the squares from 134.6 are 503.2, a quarter of them 125.8
         u"134.6"_s,
         u"11.2"_s,

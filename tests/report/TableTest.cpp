@@ -211,7 +211,7 @@ TEST_F(TableTest, whatIsLeftOutIsStruckThroughAndListedWithItsReason) {
     };
     const auto strikes = [this] {
         return std::ranges::count_if(items<StraightLine>(), [](const StraightLine& line) {
-            return line.from.y == line.to.y && line.width == 1 && line.to.x < 48 + 683 * wratio;
+            return line.from.y == line.to.y && line.width < 1 && line.to.x < 48 + 683 * wratio;
         });
     };
     sample.readings[2].isManual = true;

@@ -2,9 +2,22 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// "62, 1 of them left out by the user".
+QString readingsText(const ReadingList& readings) {
+    const auto excluded = std::ranges::count_if(readings, &ReadingModel::isExcluded);
+    const QString total = QString::number(readings.size());
+    return excluded == 0 ? total : total + qtTrId("listedExcluded", static_cast<int>(excluded));
+}
+
+} // namespace
 
 DataPanel::DataPanel(const DataStore& dataStore, QWidget* parent)
     : SidePanel(u"dataPanel"_s, qtTrId("dataPanel"), parent), store(dataStore),
@@ -22,7 +35,7 @@ DataPanel::DataPanel(const DataStore& dataStore, QWidget* parent)
 void DataPanel::showState() {
     const DataLogList& downloads = store.getTrasferLogForCurID();
     lblPatients->setText(QString::number(store.getPatientArray().size()));
-    lblReadings->setText(QString::number(store.getReadingForCurID().size()));
+    lblReadings->setText(readingsText(store.getReadingForCurID()));
     const QString format = store.getSetting().getDateFormat();
     lblLastDownload->setText(downloads.empty() || format.isNull()
                                  ? qtTrId("lastDownloadNone")

@@ -1,3 +1,4 @@
+#include "app/patients/DataPanel.h"
 #include "app/patients/PatientViewController.h"
 #include "support/DamageAfterWrite.h"
 #include "support/MonitorTest.h"
@@ -81,6 +82,17 @@ protected:
 };
 
 } // namespace
+
+TEST_F(PatientPageTest, theNumberOfReadingsSaysHowManyAreLeftOut) {
+    for (const char* time : {"08:00", "20:00"})
+        ASSERT_TRUE(
+            store.addReading(u"P1"_s, {typedTime(u"2026-01-02"_s, QLatin1StringView(time)), 140, 90, 60}));
+    store.setCurrentID(u"P1"_s);
+    show(new DataPanel(store, nullptr));
+    EXPECT_EQ(text("lblReadings"), u"2"_s);
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().front()}, u"loose cuff"_s));
+    EXPECT_EQ(text("lblReadings"), u"2, 1 of them left out by the user"_s);
+}
 
 TEST_F(PatientPageTest, aNewPatientIsTypedInAndSaved) {
     start();
