@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace zel {
@@ -86,8 +88,8 @@ TEST_F(SimulatedMonitorTest, ReportsAreAsLongAsThePlanSaysAndAsManyAsAFaultLeave
                    "records": [{"time": "undated", "sys": 1, "dia": 2, "pulse": 3}], "faults": [)"
                + QByteArray(faults) + "]}");
         std::vector<std::size_t> found;
-        for (const std::string& report : reportsTo(command))
-            found.push_back(report.size());
+        std::ranges::transform(reportsTo(command), std::back_inserter(found),
+                               [](const std::string& report) { return report.size(); });
         EXPECT_EQ(found, lengths) << static_cast<char>(command) << faults;
     }
 }
