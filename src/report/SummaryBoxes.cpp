@@ -135,6 +135,8 @@ void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& r
     summaryLine(picture, weekCounts(week), left, summaryFont);
     if (week.excluded > 0)
         summaryLine(picture, qtTrId("summaryWeekExcluded", week.excluded), left, summaryFont);
+    if (week.ofOtherZone > 0)
+        summaryLine(picture, qtTrId("summaryWeekZone", week.ofOtherZone), left, summaryFont);
 }
 
 void drawSummaryShares(Picture& picture, const ReportSource& report, const SummaryFigures& figures,
