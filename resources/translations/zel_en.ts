@@ -768,6 +768,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekMissing"><translation>Incomplete, needs %1</translation></message>
     <message id="weekMornings"><translation>AM %1</translation></message>
     <message id="weekNoMean"><translation>No average</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n reading was stored in another time zone; its time is that of this computer</numerusform><numerusform>%n readings were stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="weekPanel"><translation>Measuring week</translation></message>
     <message id="weekPulse"><translation>pulse %1</translation></message>
     <message id="weekReached"><translation>At or above %1</translation></message>
@@ -981,6 +982,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n of the week typed in</numerusform><numerusform>%n of the week typed in</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n stored in another time zone; times are those of this computer</numerusform><numerusform>%n stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
     <message id="time"><translation>Time</translation></message>
@@ -1065,8 +1067,8 @@ Numbers only: what they mean for the patient is for a physician to say.
   evening     sys/dia of those from noon on
   threshold   reached where sys or dia is at its part of it or above, before rounding
 
-A line that has nothing to say is left out. How many readings of the first day are left out goes to
-standard error.
+Days and times are those of this computer's time zone. A line that has nothing to say is left out. How many
+readings of the week do not count, and how many were stored in another time zone, goes to standard error.
 
 Options:
   --patient ID                 whose readings
@@ -1314,6 +1316,7 @@ Options:
     <message id="CliOptionMissing"><translation>--%1 is missing, or its value is empty.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 is given more than once.</translation></message>
     <message id="CliOtherMonitor"><translation>The monitor holds the ID '%1', not '%2', so its readings may be another patient's. Use --any-monitor to download them all the same.</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n reading of the week was stored in another time zone; its day and time are those of this computer.</numerusform><numerusform>%n readings of the week were stored in another time zone; days and times are those of this computer.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>The output could not be written.</translation></message>
     <message id="CliPatientKnown"><translation>There is a patient with the ID '%1' already.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= needs the name of a file behind it; alone, without '=', it is the built-in monitor.</translation></message>

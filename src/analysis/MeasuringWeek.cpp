@@ -118,6 +118,9 @@ MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule, s
         week.begin = week.end - (daysOfWeek - 1);
         const std::size_t firstUsed = countDays(week, daysOf(readings, week), facts);
         addMeans(week, readings, week.begin + static_cast<DayNumber>(firstUsed));
+        week.ofOtherZone = static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
+            return reading.isOfOtherZone && isOfWeek(reading, week);
+        }));
     }
     week.excluded = end ? excludedOf(readings, week.begin, week.end) : excludedOfLastDays(readings, week);
     week.missingDays = std::max(0, facts.days - week.daysUsed - week.daysLeftOut);

@@ -52,6 +52,7 @@ struct MeasuringWeek {
     int readingsLeftOut = 0; ///< those of the days left out
     int excluded =
         0; ///< readings of the week, or of later days where no end was told, that the user left out
+    int ofOtherZone = 0; ///< readings of the week that were stored in another time zone than the computer's
     int missingDays = 0;
     int missingReadings = 0;
     int missingMornings = 0; ///< readings, like the next

@@ -59,6 +59,7 @@ CommandResult runAverage(const Request& request, Surroundings& around) {
         printLine(around.out, linesOf(week).join(u'\n'));
         if (week.readingsLeftOut > 0)
             printLine(around.err, qtTrId("CliFirstDayLeftOut", week.readingsLeftOut));
+        if (week.ofOtherZone > 0) printLine(around.err, qtTrId("CliOtherZone", week.ofOtherZone));
         if (week.excluded > 0) printLine(around.err, qtTrId("CliExcludedLeftOut", week.excluded));
     });
 }

@@ -92,7 +92,7 @@ QString weekRemarks(const MeasuringWeek& week, const ReadingList& readings) {
     QStringList remarks;
     if (week.excluded > 0) remarks += qtTrId("summaryWeekExcluded", week.excluded);
     if (typed > 0) remarks += qtTrId("summaryWeekTyped", static_cast<int>(typed));
-    return remarks.join(u"; "_s);
+    return remarks.join(qtTrId("; "));
 }
 
 QString completeText(const MeasuringWeek& week) {
@@ -147,6 +147,8 @@ void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& r
     summaryLine(picture, weekCounts(week), left, summaryFont);
     if (const QString remarks = weekRemarks(week, report.readings); !remarks.isEmpty())
         summaryLine(picture, remarks, left, summaryFont);
+    if (week.ofOtherZone > 0)
+        summaryLine(picture, qtTrId("summaryWeekZone", week.ofOtherZone), left, summaryFont);
 }
 
 void drawSummaryShares(Picture& picture, const ReportSource& report, const SummaryFigures& figures,

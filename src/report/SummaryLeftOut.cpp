@@ -86,7 +86,7 @@ QString cutNote(const PagePlace& place) {
         where += facts(*place.namedIn).text();
     if (where.isEmpty()) return qtTrId("summaryCut");
     return (place.hasComments ? qtTrId("summaryInFull") : qtTrId("summaryReasonsInFull"))
-        .arg(where.join(u", "_s));
+        .arg(where.join(qtTrId(", ")));
 }
 
 QString howToRead(const ReportSource& report, const PagePlace& place) {

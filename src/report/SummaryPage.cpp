@@ -1,6 +1,7 @@
 #include "report/SummaryPage.h"
 
 #include "analysis/Summary.h"
+#include "report/FieldText.h"
 #include "report/SummaryBoxes.h"
 #include "report/SummaryComments.h"
 #include "report/SummaryDays.h"
@@ -8,6 +9,7 @@
 #include "report/SummaryLeftOut.h"
 #include "report/SummaryTable.h"
 #include "report/SummaryTrend.h"
+#include "report/SummaryType.h"
 
 namespace zel {
 
@@ -47,7 +49,9 @@ void drawSummaryPage(Picture& picture, const PageGeometry& at, const ReportSourc
     Rect rest = drawSummaryHead(picture, report, emptyText(place), {foot.x, foot.top(), foot.width, body});
     rest.height -= betweenBlocks;
     const SummaryFigures figures = calcSummary(report.readings, report.selection.period);
-    drawBoxes(picture, report, figures, takeTop(rest, boxHeight));
+    // All else that the week may have to say fits.
+    const double forZone = summaryWeek(report).ofOtherZone > 0 ? lineHeight(summaryFont) : 0;
+    drawBoxes(picture, report, figures, takeTop(rest, boxHeight + forZone));
     rest.height -= betweenBlocks;
     drawSummaryTable(picture, report, figures, takeTop(rest, summaryTableHeight()));
     rest.height -= betweenBlocks;

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <array>
+#include <cstdlib>
 
 namespace zel {
 
@@ -23,6 +24,18 @@ using R = ReadingModel;
 void readDate(R& reading, std::string_view text) {
     constexpr std::string_view marker = "2000-01-01T00:00:00";
     reading.ReadingDate = text.starts_with(marker) ? Date(getNilReadingDate()) : XMLStrToDate(text);
+    const auto offset = XMLStrToOffset(text);
+    reading.utcOffset = offset ? static_cast<std::int16_t>(offset->count()) : R::noOffset;
+}
+
+/// Whether the clocks here show something else than those of the reading's offset.
+bool isElsewhere(const R& reading) {
+    if (reading.utcOffset == R::noOffset || reading.isUndated()) return false;
+    const auto sinceEpoch = std::chrono::floor<std::chrono::minutes>(reading.ReadingDate->time_since_epoch());
+    const std::int64_t here =
+        std::int64_t{reading.day} * (24 * 60) + reading.minuteOfDay - sinceEpoch.count();
+    // Offsets of the times before time zones have seconds.
+    return std::abs(here - reading.utcOffset) > 1;
 }
 
 /// A child that only some readings have, behind the others; makeXmlNode() makes none.
@@ -170,6 +183,7 @@ void ReadingModel::postInit(const ReadingModel* previous, const SettingModel& se
     day = local.day;
     minuteOfDay = static_cast<std::uint16_t>(local.minute);
     isPMData = minuteOfDay >= 12 * 60;
+    isOfOtherZone = isElsewhere(*this);
     bYellowBackground = previous && previous->day == day && previous->bYellowBackground;
     bDrawTopLine = previous && shownDay(*previous, settings) != shownDay(*this, settings);
 }

@@ -32,6 +32,7 @@ struct ReadingModel {
     QString exclusion;                     ///< why it counts nowhere, may be empty; null: it counts
     DayNumber day = noDay;                 ///< local day of ReadingDate, set by postInit
     std::uint16_t minuteOfDay = 0;         ///< local, 0 to 1439, set by postInit
+    std::int16_t utcOffset = noOffset;     ///< minutes, as ReadingDate was stored
     bool bAtBegin = false;                 ///< first and last row of a comment's run of rows
     bool bAtEnd = false;
     bool bDrawTopLine = false;      ///< opens a new displayed day
@@ -39,6 +40,10 @@ struct ReadingModel {
     bool isPMData = false;          ///< hours 12 to 23
     bool isNA = false;
     bool isManual = false; ///< typed in by the user, not downloaded
+    /// Stored with another offset than the computer's zone has at that moment: its day and its hour are not
+    /// those that the monitor showed. Set by postInit.
+    bool isOfOtherZone = false;
+    static constexpr std::int16_t noOffset = INT16_MIN;
 
     static ReadingModel initNA(Instant date);
     static ReadingModel initWithXMLNode(pugi::xml_node element);

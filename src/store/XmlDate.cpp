@@ -16,6 +16,8 @@ namespace {
 
 constexpr std::string_view emptyDateText = "0001-01-01T00:00:00+08:00";
 
+constexpr std::string_view zoneShape = "+dd:dd";
+
 /// The same as \p shape, with any digit where that has a "d".
 bool hasShape(std::string_view text, std::string_view shape) {
     return std::ranges::equal(
@@ -34,14 +36,12 @@ int digits(std::string_view text) {
 Date parseUsualForm(std::string_view text) {
     constexpr std::string_view shape = "dddd-dd-ddTdd:dd:dd";
     constexpr std::string_view millisecondsShape = ".ddd";
-    constexpr std::string_view zoneShape = "+dd:dd";
     const bool hasMilliseconds = text.size() == shape.size() + millisecondsShape.size() + zoneShape.size();
     if (!hasMilliseconds && text.size() != shape.size() + zoneShape.size()) return {};
-    const std::string_view zone = text.substr(text.size() - zoneShape.size());
+    const auto offset = XMLStrToOffset(text);
     const std::string_view fraction =
         text.substr(shape.size(), hasMilliseconds ? millisecondsShape.size() : 0);
-    if (!hasShape(text.substr(0, shape.size()), shape)
-        || !hasShape(zone, zone.starts_with('-') ? "-dd:dd" : zoneShape)
+    if (!hasShape(text.substr(0, shape.size()), shape) || !offset
         || (hasMilliseconds && !hasShape(fraction, millisecondsShape))) {
         return {};
     }
@@ -51,17 +51,12 @@ Date parseUsualForm(std::string_view text) {
     const int hour = number(11, 2);
     const int minute = number(14, 2);
     const int second = number(17, 2);
-    const int zoneHour = digits(zone.substr(1, 2));
-    const int zoneMinute = digits(zone.substr(4, 2));
     const std::chrono::year_month_day date{std::chrono::year{number(0, 4)},
                                            std::chrono::month{static_cast<unsigned>(number(5, 2))},
                                            std::chrono::day{static_cast<unsigned>(number(8, 2))}};
-    if (!date.ok() || date.year() < std::chrono::year{1} || hour > 23 || minute > 59 || second > 59
-        || zoneHour > 23 || zoneMinute > 59) {
+    if (!date.ok() || date.year() < std::chrono::year{1} || hour > 23 || minute > 59 || second > 59)
         return {};
-    }
-    const int offset = (zoneHour * 60 + zoneMinute) * (zone.starts_with('-') ? -1 : 1);
-    return Instant{std::chrono::sys_days{date}} + seconds{(hour * 60 + minute - offset) * 60 + second}
+    return Instant{std::chrono::sys_days{date}} - *offset + seconds{(hour * 60 + minute) * 60 + second}
            + milliseconds{hasMilliseconds ? digits(fraction.substr(1)) : 0};
 }
 
@@ -95,6 +90,15 @@ Date XMLStrToDate(std::string_view text) {
     constexpr std::size_t longest = 100; // with more digits of a second than any clock has
     if (text.size() > longest) return {};
     return parseAnyForm(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+std::optional<std::chrono::minutes> XMLStrToOffset(std::string_view text) {
+    if (text.size() < zoneShape.size()) return {};
+    const std::string_view zone = text.substr(text.size() - zoneShape.size());
+    if (!hasShape(zone, zone.starts_with('-') ? "-dd:dd" : zoneShape)) return {};
+    const int hour = digits(zone.substr(1, 2)), minute = digits(zone.substr(4, 2));
+    if (hour > 23 || minute > 59) return {};
+    return std::chrono::minutes{(hour * 60 + minute) * (zone.starts_with('-') ? -1 : 1)};
 }
 
 Date XMLStrToWallClock(std::string_view text) {

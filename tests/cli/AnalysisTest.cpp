@@ -1,4 +1,8 @@
 #include "cli/CliTest.h"
+#include "support/InZone.h"
+
+#include <QFile>
+#include <QRegularExpression>
 
 namespace zel {
 
@@ -74,6 +78,73 @@ TEST_F(AnalysisTest, AverageIsThatOfTheRulesWeek) {
     EXPECT_EQ(none.out,
               "rule: esh\ncomplete: no\nmissing: 3 more days, 12 more readings\ndays: 0\nreadings: 0\n");
     EXPECT_EQ(none.err, "");
+}
+
+TEST_F(AnalysisTest, AverageOfReadingsOfAnotherTimeZoneSaysSo) {
+    QString records = u"<MeasureRec><ID>M1</ID><ReadingDate>2026-07-10T07:00:00+02:00</ReadingDate><Sys>130"
+                      "</Sys><Dia>80</Dia><Pulse>60</Pulse></MeasureRec>"_s;
+    for (int day = 9; day <= 15; ++day)
+        for (const auto& [hour, sys] : {std::pair("07", 140), {"19", 120}})
+            records +=
+                u"<MeasureRec><ID>M1</ID><ReadingDate>2026-11-%1T%2:00:00-05:00</ReadingDate>"
+                "<Sys>%3</Sys><Dia>80</Dia><Pulse>60</Pulse></MeasureRec>"_s.arg(day, 2, 10, QLatin1Char('0'))
+                    .arg(QLatin1String(hour))
+                    .arg(sys);
+    setData(data().replace("</ZEL>", records.toUtf8() + "</ZEL>"));
+    const std::string firstDay = "2 readings of the first measuring day are not counted.\n";
+    const auto words = [](const Outcome& outcome) { return outcome.out.substr(0, outcome.out.find("dia")); };
+    const auto halves = [](const Outcome& outcome) {
+        return outcome.out.substr(outcome.out.find("morning"));
+    };
+    {
+        const InZone there("America/New_York");
+        const Outcome week = run("average");
+        EXPECT_EQ(words(week), "rule: esh\ncomplete: yes\ndays: 6\nreadings: 12\nsys: 130.0\n");
+        EXPECT_EQ(halves(week), "morning: 140.0/80.0\nevening: 120.0/80.0\nthreshold: 135/85 not reached\n");
+        EXPECT_EQ(week.err, firstDay);
+        EXPECT_THAT(run("average --to 2026-07-10").err,
+                    testing::HasSubstr("1 reading of the week was stored"));
+    }
+    const Outcome week = run("average");
+    EXPECT_EQ(words(week),
+              "rule: esh\ncomplete: no\nmissing: 1 more reading\ndays: 6\nreadings: 11\nsys: 129.1\n");
+    EXPECT_EQ(halves(week), "morning: 120.0/80.0\nevening: 140.0/80.0\nthreshold: 135/85 not reached\n");
+    EXPECT_EQ(week.err, firstDay
+                            + "13 readings of the week were stored in another time zone; days and times are "
+                              "those of this computer.\n");
+    EXPECT_EQ(run("average --to 2026-07-10").err, "1 reading of the first measuring day is not counted.\n")
+        << "summer time is of the same zone";
+}
+
+TEST_F(AnalysisTest, AverageOfTheDemonstrationIsTheOneOfTheDocument) {
+    clock.set(std::chrono::sys_days{std::chrono::year{2026} / 11 / 22} + std::chrono::hours{8});
+    addPatient(u"DEMO"_s);
+    ASSERT_EQ(zel({u"--simulated-monitor"_s, u"download"_s, u"--patient=DEMO"_s, u"--any-monitor"_s}).status,
+              0);
+    QFile file(QStringLiteral(ZEL_TEST_DATA "/../../docs/clinical.md"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString document = QString::fromUtf8(file.readAll());
+    static const QRegularExpression row(
+        u"\\| (\\d+) November[^|]*\\| (\\d+)/(\\d+),\\D*(\\d+) \\| (\\d+)/(\\d+),\\D*(\\d+) \\|"_s);
+    int days = 0;
+    for (const QRegularExpressionMatch& match : row.globalMatch(document)) {
+        const QString day = u"2026-11-"_s + match.captured(1);
+        const QString readings = QString::fromStdString(
+            zel({u"readings"_s, u"--patient=DEMO"_s, u"--from"_s, day, u"--to"_s, day}).out);
+        for (const int at : {2, 5}) {
+            const QStringList values{match.captured(at), match.captured(at + 1), match.captured(at + 2)};
+            EXPECT_TRUE(readings.section(u'\n', at == 2 ? 1 : 2, at == 2 ? 1 : 2)
+                            .contains(u',' + values.join(u',') + u','))
+                << readings.toStdString() << values.join(u',').toStdString();
+        }
+        ++days;
+    }
+    EXPECT_EQ(days, 7);
+    const QString command = u"    $ zel average --patient DEMO --rule esh\n"_s;
+    const QString printed = document.section(command, 1).section(u"\n\n"_s, 0, 0);
+    const Outcome average = zel({u"average"_s, u"--patient"_s, u"DEMO"_s, u"--rule"_s, u"esh"_s});
+    EXPECT_EQ(average.out, QString(printed + u'\n').replace(u"    "_s, QString()).toStdString());
+    EXPECT_EQ(average.err, "2 readings of the first measuring day are not counted.\n");
 }
 
 TEST_F(AnalysisTest, WhatIsLeftOutIsTold) {

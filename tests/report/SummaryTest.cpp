@@ -95,6 +95,10 @@ std::vector<Spoiled> spoiledSamples() {
         reading.ReadingDate = noonOf("2019-05-05");
         reading.postInit(nullptr, samples.back().sample.settings, samples.back().sample.zone);
     }
+    samples.push_back({"another time zone", SampleReport(62, 2)});
+    for (ReadingModel& reading : samples.back().sample.readings)
+        reading.isOfOtherZone = true;
+    samples.back().sample.readings[60].exclusion = u"of the last week"_s;
     samples.push_back({"all undated", SampleReport()});
     for (int i = 0; i < 50; ++i)
         addUndated(samples.back().sample);
@@ -194,6 +198,20 @@ TEST(Summary, saysThatNoReadingOfTheWeekCountsYetWhereThereAreSome) {
         EXPECT_TRUE(shown.contains(u"No reading counts yet"_s)
                     && !shown.contains(u"No readings in this week"_s))
             << words;
+    }
+}
+
+TEST(Summary, theWeekTellsWhatWasStoredInAnotherTimeZone) {
+    SampleReport sample(20);
+    sample.readings[0].isOfOtherZone = true; // on 1 January
+    const QString told = u" stored in another time zone; times are those of this computer"_s;
+    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList()) << "none of the week";
+    sample.readings[17].isOfOtherZone = sample.readings[18].isOfOtherZone = true;
+    sample.readings[16].exclusion = u"loose cuff"_s;
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+        const QStringList words = wordsOf(sample.view(paper));
+        EXPECT_EQ(words.filter(told), QStringList(u"2"_s + told));
+        EXPECT_TRUE(words.contains(u"1 of the week left out by the user"_s));
     }
 }
 

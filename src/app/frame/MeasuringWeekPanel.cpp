@@ -61,6 +61,7 @@ MeasuringWeekPanel::MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod
     lblWeekMissing = addLine(u"lblWeekMissing"_s);
     lblWeekMissing->setFont(scaledFont(font(), 1, true));
     lblWeekCount = addLine(u"lblWeekCount"_s);
+    lblWeekZone = addLine(u"lblWeekZone"_s);
     connect(&store, &DataStore::reloaded, this, &MeasuringWeekPanel::LoadData);
     connect(&store, &DataStore::currentIDChanged, this, &MeasuringWeekPanel::LoadData);
     connect(&period, &DisplayPeriod::weekChanged, this, &MeasuringWeekPanel::LoadData);
@@ -106,7 +107,8 @@ void MeasuringWeekPanel::LoadData() {
     if (const Date end = week.end == noDay ? Date() : instantOf(week.end)) weekEnd->showDay(*end);
     showMeans(week);
     showCounts(week);
-    for (QLabel* line : {lblWeekMean, lblWeekHalves, lblWeekThreshold, lblWeekMissing, lblWeekCount}) {
+    for (QLabel* line :
+         {lblWeekMean, lblWeekHalves, lblWeekThreshold, lblWeekMissing, lblWeekCount, lblWeekZone}) {
         line->setVisible(!line->text().isEmpty());
         line->setAccessibleName(line->text().isEmpty() ? accessibleName() : line->text());
     }
@@ -128,6 +130,7 @@ void MeasuringWeekPanel::showMeans(const MeasuringWeek& week) {
 void MeasuringWeekPanel::showCounts(const MeasuringWeek& week) {
     lblWeekMissing->setText(week.isComplete() ? QString() : qtTrId("weekMissing").arg(describeMissing(week)));
     lblWeekCount->setText(countsOf(week));
+    lblWeekZone->setText(week.ofOtherZone == 0 ? QString() : qtTrId("weekOtherZone", week.ofOtherZone));
 }
 
 /// The last day with a reading is followed again as soon as it is chosen.

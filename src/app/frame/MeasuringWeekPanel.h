@@ -34,6 +34,7 @@ private:
     QLabel* lblWeekThreshold;
     QLabel* lblWeekMissing;
     QLabel* lblWeekCount;
+    QLabel* lblWeekZone; ///< empty unless readings of another time zone are among them
 };
 
 } // namespace zel

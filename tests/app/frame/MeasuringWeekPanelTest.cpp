@@ -40,6 +40,12 @@ TEST_F(MeasuringWeekPanelTest, theAverageFollowsRuleAndDay) {
     EXPECT_EQ(text("lblWeekHalves"), u"AM 140/80, PM 129/80"_s);
     EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 of the first day left out"_s);
     EXPECT_FALSE(find<QLabel>("lblWeekMissing").isVisible());
+    EXPECT_FALSE(find<QLabel>("lblWeekZone").isVisible());
+    replaceDataFile(dataFile().replace("2026-03-12T07:00:00+01:00", "2026-03-12T01:00:00-05:00"));
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_EQ(text("lblWeekZone"),
+              u"1 reading was stored in another time zone; its time is that of this computer"_s);
+    EXPECT_EQ(text("lblWeekHalves"), u"AM 140/80, PM 129/80"_s) << "of the same moments";
     chooseNextRule();
     EXPECT_EQ(text("lblWeekMissing"), u"Incomplete, needs 1 more evening"_s);
     chooseNextRule();
