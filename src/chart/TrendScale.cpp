@@ -27,13 +27,14 @@ struct Extent {
     }
 };
 
-/// From one line to the next: as near as the numbers have room.
+/// From one line to the next: as near as the numbers have room, but no thicket of lines.
 std::int64_t valuesPerLine(const ScaleRange& range, double height) {
     constexpr double air = 2;
-    const double needed = attribute(scaleNumberFont).size + air;
+    constexpr std::int64_t mostLines = 10;
+    const std::int64_t span = range.most - range.least;
+    const double needed = (attribute(scaleNumberFont).size + air) * static_cast<double>(span);
     for (const std::int64_t step : {10, 20, 40})
-        if (height * static_cast<double>(step) >= needed * static_cast<double>(range.most - range.least))
-            return step;
+        if (span <= mostLines * step && height * static_cast<double>(step) >= needed) return step;
     return 100;
 }
 

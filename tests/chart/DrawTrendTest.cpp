@@ -275,6 +275,9 @@ TEST(DrawTrend, AFittedPictureShowsMoreOfThePressure) {
         return texts;
     };
     const double usual = slope();
+    trend.rect.height = 1500;
+    EXPECT_EQ(numbers().size(), 9U + 8U) << "however much room there is";
+    trend.rect.height = 215;
     trend.isFitted = true;
     EXPECT_GT(slope(), 1.8 * usual);
     trend.sysStandard = 190;
