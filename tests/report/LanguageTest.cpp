@@ -62,11 +62,11 @@ QStringList faults(const PrintView& view, Section section, int page) {
 
 QStringList faultsOfAllPages(const SampleReport& sample, Section section) {
     QStringList found;
-    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
-        const PrintView view = sample.view(paper);
+    SampleReport other = sample;
+    other.getIsAfib = false; // titled for the other kind of monitor
+    for (const PrintView& view : {sample.view(), sample.view(QPageSize::Letter), other.view()})
         for (int page = 1; page <= view.getTotalPages(section); ++page)
             found += faults(view, section, page);
-    }
     return found;
 }
 
