@@ -199,7 +199,7 @@
     <message id="addCommentTooLong"><translation>I commenti si possono aggiungere se il periodo non supera i 47 giorni.</translation></message>
     <message id="addDay"><translation>Più giorni: uno in più a ogni estremo del periodo</translation></message>
     <message id="addDayHint"><translation>Più giorni: uno in più a ogni estremo del periodo (+)</translation></message>
-    <message id="afib"><translation>AFib</translation></message>
+    <message id="afib"><translation>FA</translation></message>
     <message id="age"><translation>Età: %1</translation></message>
     <message id="answerNo"><translation>No</translation></message>
     <message id="answerYes"><translation>Sì</translation></message>
@@ -410,7 +410,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="IDNotForMonitor"><translation>L’ID “%1” non è adatto al misuratore. Un misuratore memorizza ID da 1 a 11 lettere, cifre e segni semplici, senza accenti e senza spazi all’inizio o alla fine.</translation></message>
     <message id="IDRefused"><translation>Un ID ha da 1 a 11 lettere, cifre o segni semplici, senza accenti: di più un misuratore non può memorizzare.</translation></message>
     <message id="IDStays"><translation>L’ID non si può modificare: vi sono legati le misurazioni e i commenti.</translation></message>
-    <message id="ihd"><translation>IHD</translation></message>
+    <message id="ihd"><translation>Aritmia</translation></message>
     <message id="importAll"><translation>&amp;Tutti</translation></message>
     <message id="importAllFiles"><translation>Scegli tutti i file</translation></message>
     <message id="importButton"><translation>&amp;Importa</translation></message>
@@ -536,7 +536,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="ok"><translation>&amp;OK</translation></message>
     <message id="ownDia"><translation>Limite diastolico proprio in mmHg, 0 per nessuno</translation></message>
     <message id="ownSys"><translation>Limite sistolico proprio in mmHg, 0 per nessuno</translation></message>
-    <message id="pad"><translation>PAD</translation></message>
+    <message id="pad"><translation>Aritmia</translation></message>
     <message id="pageChart"><translation>Grafico</translation></message>
     <message id="pagePatients"><translation>Pazienti</translation></message>
     <message id="pageReadings"><translation>Misurazioni</translation></message>
@@ -674,9 +674,9 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="settingWHO"><translation>Usa i limiti dell’Organizzazione Mondiale della Sanità</translation></message>
     <message id="settingWHOButton"><translation>Limiti O&amp;MS (140/90)</translation></message>
     <message id="settingWHOHint"><translation>Imposta entrambi i limiti su quelli dell’Organizzazione Mondiale della Sanità: 140 e 90 mmHg.</translation></message>
-    <message id="show afib readings"><translation>Mostra AFib</translation></message>
-    <message id="show ihd readings"><translation>Mostra IHD</translation></message>
-    <message id="show pad readings"><translation>Mostra PAD</translation></message>
+    <message id="show afib readings"><translation>Mostra FA</translation></message>
+    <message id="show ihd readings"><translation>Mostra aritmia</translation></message>
+    <message id="show pad readings"><translation>Mostra aritmia</translation></message>
     <message id="showCorrelation"><translation>Correlazione</translation></message>
     <message id="showGraph"><translation>Grafico</translation></message>
     <message id="showHistogram"><translation>Istogramma</translation></message>

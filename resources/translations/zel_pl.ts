@@ -199,7 +199,7 @@
     <message id="addCommentTooLong"><translation>Komentarze można dodawać, gdy okres ma najwyżej 47 dni.</translation></message>
     <message id="addDay"><translation>Więcej dni: o jeden więcej na każdym końcu okresu</translation></message>
     <message id="addDayHint"><translation>Więcej dni: o jeden więcej na każdym końcu okresu (+)</translation></message>
-    <message id="afib"><translation>AFib</translation></message>
+    <message id="afib"><translation>AF</translation></message>
     <message id="age"><translation>Wiek: %1</translation></message>
     <message id="answerNo"><translation>Nie</translation></message>
     <message id="answerYes"><translation>Tak</translation></message>
@@ -410,7 +410,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="IDNotForMonitor"><translation>ID „%1” nie pasuje do ciśnieniomierza. Ciśnieniomierz przechowuje ID złożone z 1 do 11 zwykłych liter, cyfr i innych znaków, bez liter takich jak ą czy ł i bez spacji na końcach.</translation></message>
     <message id="IDRefused"><translation>ID składa się z 1 do 11 zwykłych liter, cyfr lub innych znaków, bez liter takich jak ą czy ł: więcej ciśnieniomierz nie pomieści.</translation></message>
     <message id="IDStays"><translation>ID nie można zmienić: należą do niego pomiary i komentarze.</translation></message>
-    <message id="ihd"><translation>IHD</translation></message>
+    <message id="ihd"><translation>Arytmia</translation></message>
     <message id="importAll"><translation>&amp;Wszystkie</translation></message>
     <message id="importAllFiles"><translation>Wybierz wszystkie pliki</translation></message>
     <message id="importButton"><translation>&amp;Importuj</translation></message>
@@ -536,7 +536,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="ok"><translation>&amp;OK</translation></message>
     <message id="ownDia"><translation>Własna granica rozkurczowa w mmHg, 0 oznacza brak</translation></message>
     <message id="ownSys"><translation>Własna granica skurczowa w mmHg, 0 oznacza brak</translation></message>
-    <message id="pad"><translation>PAD</translation></message>
+    <message id="pad"><translation>Arytmia</translation></message>
     <message id="pageChart"><translation>Wykres</translation></message>
     <message id="pagePatients"><translation>Pacjenci</translation></message>
     <message id="pageReadings"><translation>Pomiary</translation></message>
@@ -674,9 +674,9 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="settingWHO"><translation>Użyj granic Światowej Organizacji Zdrowia</translation></message>
     <message id="settingWHOButton"><translation>Granice &amp;WHO (140/90)</translation></message>
     <message id="settingWHOHint"><translation>Ustawia obie granice według Światowej Organizacji Zdrowia: 140 i 90 mmHg.</translation></message>
-    <message id="show afib readings"><translation>Pokaż AFib</translation></message>
-    <message id="show ihd readings"><translation>Pokaż IHD</translation></message>
-    <message id="show pad readings"><translation>Pokaż PAD</translation></message>
+    <message id="show afib readings"><translation>Pokaż AF</translation></message>
+    <message id="show ihd readings"><translation>Pokaż arytmię</translation></message>
+    <message id="show pad readings"><translation>Pokaż arytmię</translation></message>
     <message id="showCorrelation"><translation>Korelacja</translation></message>
     <message id="showGraph"><translation>Wykres</translation></message>
     <message id="showHistogram"><translation>Histogram</translation></message>

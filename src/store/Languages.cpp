@@ -33,7 +33,7 @@ bool isTraditional(const QStringList& behind) {
     return std::ranges::any_of(signs, [&](QLatin1StringView sign) { return behind.contains(sign); });
 }
 
-bool isPlain(const QString& locale) {
+bool isPlainLocale(const QString& locale) {
     return locale.isEmpty() || locale == "C"_L1 || locale == "POSIX"_L1 || locale.startsWith("C."_L1);
 }
 
@@ -42,7 +42,7 @@ QStringList wantedLocales(const QProcessEnvironment& environment) {
     QString messages;
     for (const auto& variable : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s})
         if (messages.isEmpty()) messages = environment.value(variable);
-    if (isPlain(messages)) return {};
+    if (isPlainLocale(messages)) return {};
     const QStringList listed = environment.value(u"LANGUAGE"_s).split(u':', Qt::SkipEmptyParts);
     return listed.isEmpty() ? QStringList{messages} : listed;
 }

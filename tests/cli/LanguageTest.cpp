@@ -16,12 +16,12 @@ using testing::HasSubstr;
 
 namespace {
 
-using Files = std::map<std::string, std::string>;
+using Content = std::map<std::string, std::string>;
 
 /// A life of a data file: its patients, readings of all kinds, settings and exports.
 class Life final : public CliTest {
 public:
-    Files live() {
+    Content live() {
         plug(planM1);
         run({u"patients"_s, u"--add"_s, u"--id"_s, u"A1"_s, u"--family-name"_s, u"Łuczak"_s,
              u"--given-names"_s, u"Zoë"_s});
@@ -69,11 +69,11 @@ private:
         return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : "not read";
     }
 
-    Files files;
+    Content files;
 };
 
 TEST(LanguageOfFilesTest, DataFileExportsAndPrintedFiguresStayAsTheyAre) {
-    const Files english = Life().live();
+    const Content english = Life().live();
     EXPECT_THAT(english.at("data"), HasSubstr("<Excluded>measured by the monitor, too</Excluded>"));
     EXPECT_THAT(english.at("A1.csv"), HasSubstr("excluded: measured by the monitor, too"));
     EXPECT_THAT(english.at("A1.csv"), HasSubstr("Sex,Female,"));

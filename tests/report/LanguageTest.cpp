@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-SampleReport usualReport() {
+SampleReport reportInLanguage() {
     SampleReport sample(62, 2);
     sample.patient.DateOfBirth = noonOf("1958-03-05");
     sample.patient.GivenNames = u"Anna"_s;
@@ -60,18 +60,21 @@ QStringList faults(const PrintView& view, Section section, int page) {
     return found;
 }
 
-QStringList faultsOfAllPages(const SampleReport& sample, Section section) {
+/// Of both kinds of monitor, which the table has columns of their own for.
+QStringList faultsOfAllPages(SampleReport& sample, Section section) {
     QStringList found;
-    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
-        const PrintView view = sample.view(paper);
-        for (int page = 1; page <= view.getTotalPages(section); ++page)
-            found += faults(view, section, page);
-    }
+    for (const bool isAfib : {true, false})
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            sample.getIsAfib = isAfib;
+            const PrintView view = sample.view(paper);
+            for (int page = 1; page <= view.getTotalPages(section); ++page)
+                found += faults(view, section, page);
+        }
     return found;
 }
 
 TEST(ReportLanguage, nothingIsCutOrCovered) {
-    const SampleReport sample = usualReport();
+    SampleReport sample = reportInLanguage();
     for (const Section section : allSections()) {
         const auto usual =
             faultsOfAllPages(sample, section).size(); // names of a histogram's neighbours may touch
@@ -86,7 +89,7 @@ TEST(ReportLanguage, nothingIsCutOrCovered) {
 
 /// Of one word in the language's own letters, so that what is drawn is the table's.
 TEST(ReportLanguage, monthsAndTheFormAreInTheLanguage) {
-    const SampleReport sample = usualReport();
+    const SampleReport sample = reportInLanguage();
     const auto words = [&](Section section) {
         QStringList all;
         for (const TextLine& line : textsOf(sample.view().page(section, 1)))

@@ -76,7 +76,7 @@ PrintView SampleReport::view(QPageSize::PageSizeId paper) const {
                         .needPhysicianInfo = needPhysicianInfo,
                         .getShowMam = getShowMam,
                         .getShowPad = getShowPad,
-                        .getIsAfib = true};
+                        .getIsAfib = getIsAfib};
     return {std::move(source), QPageSize(paper)};
 }
 

@@ -20,6 +20,7 @@ struct SampleReport {
     bool needPhysicianInfo = true;
     bool getShowMam = true;
     bool getShowPad = true;
+    bool getIsAfib = true;
     LocalZone zone;
 
     /// Every value occurs once in the table: nothing stands for something else.

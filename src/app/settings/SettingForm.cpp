@@ -139,8 +139,8 @@ QGroupBox* SettingForm::makeDisplayGroup() {
 /// Each by its own name, so that who cannot read the others finds it.
 void SettingForm::fillLanguages() {
     cboLanguage->addItem(qtTrId("settingLanguageSystem"), QString());
-    for (const Language& language : languages())
-        cboLanguage->addItem(language.ownName.toString(), language.tag.toString());
+    for (const Language& each : languages())
+        cboLanguage->addItem(each.ownName.toString(), each.tag.toString());
     lblLanguage->setObjectName(u"lblLanguage"_s);
     lblLanguage->setTextFormat(Qt::PlainText);
     lblLanguage->setWordWrap(true);
