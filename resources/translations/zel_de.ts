@@ -768,6 +768,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="weekMissing"><translation>Unvollständig, noch nötig: %1</translation></message>
     <message id="weekMornings"><translation>Morgens %1</translation></message>
     <message id="weekNoMean"><translation>Kein Mittelwert</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n Messung wurde in einer anderen Zeitzone gespeichert; ihre Zeit ist die dieses Computers</numerusform><numerusform>%n Messungen wurden in einer anderen Zeitzone gespeichert; die Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="weekPanel"><translation>Messwoche</translation></message>
     <message id="weekPulse"><translation>Puls %1</translation></message>
     <message id="weekReached"><translation>%1 oder darüber</translation></message>
@@ -917,7 +918,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportStruckThrough"><translation>durchgestrichen: ausgeschlossen, zählt nirgends mit; Gründe hinter der Tabelle</translation></message>
     <message id="reportSysAbove"><translation>Nur systolisch darüber: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Der Rest dieses Textes ist nicht gedruckt: %1 weitere Zeichen.</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Dünne Strichlinie: Grenzwert %1.</numerusform><numerusform>Dünne Strichlinien: Grenzwerte %1.</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Feine gerade Linie: Grenzwert %1.</numerusform><numerusform>Feine gerade Linien: Grenzwerte %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Dicke Linien: Mediane. Bänder: 10. bis 90. Perzentile, bei weniger als 5 Messungen niedrigster bis höchster Wert. Wo Messungen fehlen, ist die Linie unterbrochen; Punkte verbinden die Enden über höchstens 30 Tage.</translation></message>
     <message id="reportWriteFailed"><translation>Das Schreiben der Datei %1 ist fehlgeschlagen; es gibt deshalb keine neue Datei. Bitte prüfen Sie, ob der Datenträger voll ist, und versuchen Sie es dann noch einmal.</translation></message>
     <message id="summary"><translation>Übersicht</translation></message>
@@ -928,6 +929,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryBornOn"><translation>Geb. %1</translation></message>
     <message id="summaryComments"><translation>Was sich geändert hat: Kommentare, neueste zuerst</translation></message>
     <message id="summaryComplete"><translation>Vollständig</translation></message>
+    <message id="summaryCut"><translation>…: gekürzt.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
     <message id="summaryEither"><translation>SYS oder DIA oder beide</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +942,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 von %n Messung</numerusform><numerusform>%1 von %n Messungen</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Unvollständig, noch nötig: %1</translation></message>
+    <message id="summaryInFull"><translation>…: vollständig in „%1“.</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Letzter Tag: Mittelwert (Messungen)</numerusform><numerusform>Letzte %n Tage: Mittelwert (Messungen)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Nicht berücksichtigt</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
@@ -953,8 +956,9 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryNoBirth"><translation>Geburtsdatum nicht angegeben</translation></message>
     <message id="summaryNoComments"><translation>Keine Kommentare in diesem Zeitraum</translation></message>
     <message id="summaryNone"><translation>Keine Messungen in diesem Zeitraum</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Noch zählt keine Messung</translation></message>
     <message id="summaryNoReason"><translation>kein Grund angegeben</translation></message>
-    <message id="summaryNote"><translation>Messwoche: %1 ab ihrem Schwellenwert. %2 Morgens: vor 12 Uhr. …: vollständig in „Kommentare“ und „Messungen“.</translation></message>
+    <message id="summaryNote"><translation>Messwoche: %1 ab ihrem Schwellenwert. %2 Morgens: vor 12 Uhr. %3</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmie: keine Messung darauf untersucht</translation></message>
     <message id="summaryNothingLeftOut"><translation>Alle Messungen sind gezählt</translation></message>
     <message id="summaryNoWeek"><translation>Keine Messungen in dieser Woche</translation></message>
@@ -966,15 +970,19 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryRate"><translation>Puls, 1/min</translation></message>
     <message id="summaryReached"><translation>Schwellenwert %1 erreicht (auf ein Zehntel: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Messungen</translation></message>
+    <message id="summaryReasonsInFull"><translation>…: gekürzt; ausgeschlossene Messungen: vollständig in „%1“.</translation></message>
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Messungen des Zeitraums (SD: Stichprobe, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Trend</translation></message>
     <message id="summaryTrendComments"><translation>Trend und darunter die Kommentare nach Nummer</translation></message>
     <message id="summaryTrendHidden"><translation>Außerhalb der Skala des Trends: %1.</translation></message>
-    <message id="summaryTrendLimits"><translation>Gerade Strichlinien im Trend: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Feine gerade Linien im Trend: %1.</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Eingegeben: %1 von %n Messung</numerusform><numerusform>Eingegeben: %1 von %n Messungen</numerusform></translation></message>
     <message id="summaryWeek"><translation>Messwoche (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche von Hand ausgeschlossen</numerusform><numerusform>%n der Woche von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n der Woche eingegeben</numerusform><numerusform>%n der Woche eingegeben</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistik und Messungen</translation></message>
     <message id="table"><translation>Messungen</translation></message>
     <message id="time"><translation>Uhrzeit</translation></message>
@@ -1061,8 +1069,9 @@ Schwellenwert des Mittelwerts. Nur Zahlen: Was sie für den Patienten bedeuten, 
   evening     sys/dia der Messungen ab 12 Uhr
   threshold   reached, wenn sys oder dia vor dem Runden an seinem Teil des Schwellenwerts oder darüber liegt
 
-Eine Zeile, die nichts zu sagen hat, entfällt. Wie viele Messungen vom ersten Tag nicht gezählt sind, steht
-auf der Standardfehlerausgabe.
+Tage und Zeiten sind die der Zeitzone dieses Computers. Eine Zeile, die nichts zu sagen hat, entfällt.
+Wie viele Messungen der Woche nicht zählen und wie viele in einer anderen Zeitzone gespeichert wurden,
+steht auf der Standardfehlerausgabe.
 
 Optionen:
   --patient ID                 wessen Messungen
@@ -1252,6 +1261,7 @@ Optionen:
   --last N                     statt --from: N Tage, bis zu dem von --to oder dem letzten mit einer Messung
   --am                         nur die Messungen vor 12 Uhr (Statistik und Übersicht nehmen alle)
   --pm                         nur die Messungen ab 12 Uhr (ebenso)
+  --apart                      der Trend hat Morgens und Abends als eigene Linien
   --rule esh|nice|aha          wie die Übersicht ihre Messwoche mittelt, die mit dem letzten Tag des Zeitraums
                                mit Messungen endet; esh, falls nicht anders angegeben. 'zel average --help'
                                erklärt die Regeln
@@ -1320,6 +1330,7 @@ Optionen:
     <message id="CliOptionMissing"><translation>--%1 fehlt, oder der Wert ist leer.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 ist mehr als einmal angegeben.</translation></message>
     <message id="CliOtherMonitor"><translation>Im Messgerät ist die ID '%1' gespeichert, nicht '%2'; seine Messungen gehören deshalb möglicherweise zu einem anderen Patienten. Mit --any-monitor lesen Sie sie trotzdem aus.</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n Messung der Woche wurde in einer anderen Zeitzone gespeichert; Tag und Uhrzeit sind die dieses Computers.</numerusform><numerusform>%n Messungen der Woche wurden in einer anderen Zeitzone gespeichert; Tage und Uhrzeiten sind die dieses Computers.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>Die Ausgabe konnte nicht geschrieben werden.</translation></message>
     <message id="CliPatientKnown"><translation>Einen Patienten mit der ID '%1' gibt es schon.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= braucht dahinter den Namen einer Datei; allein, ohne '=', ist es das eingebaute Messgerät.</translation></message>

@@ -768,6 +768,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="weekMissing"><translation>Incompleta, necesita %1</translation></message>
     <message id="weekMornings"><translation>Mañana %1</translation></message>
     <message id="weekNoMean"><translation>Sin media</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n medición se guardó en otra zona horaria; su hora es la de este equipo</numerusform><numerusform>%n mediciones se guardaron en otra zona horaria; las horas son las de este equipo</numerusform></translation></message>
     <message id="weekPanel"><translation>Semana de medición</translation></message>
     <message id="weekPulse"><translation>pulso %1</translation></message>
     <message id="weekReached"><translation>Igual o superior a %1</translation></message>
@@ -917,7 +918,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportStruckThrough"><translation>tachada: excluida de todos los cálculos; los motivos figuran después de la tabla</translation></message>
     <message id="reportSysAbove"><translation>Solo la sistólica por encima: %1</translation></message>
     <message id="reportTextTooLong"><translation>… El resto de este texto no se imprime: %1 caracteres más.</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Línea discontinua fina: el límite de %1.</numerusform><numerusform>Líneas discontinuas finas: los límites de %1.</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Línea recta fina: el límite de %1.</numerusform><numerusform>Líneas rectas finas: los límites de %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Líneas gruesas: medianas. Bandas: del percentil 10 al 90, o de la más baja a la más alta si son menos de 5 mediciones. La línea se interrumpe donde no hay mediciones; los puntos unen sus extremos a lo largo de 30 días como máximo.</translation></message>
     <message id="reportWriteFailed"><translation>Ha fallado la escritura del archivo %1, así que no hay archivo nuevo. Compruebe que el disco no está lleno y vuelva a intentarlo.</translation></message>
     <message id="summary"><translation>Resumen</translation></message>
@@ -928,6 +929,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryBornOn"><translation>Nacimiento: %1</translation></message>
     <message id="summaryComments"><translation>Cambios: comentarios, primero los más recientes</translation></message>
     <message id="summaryComplete"><translation>Completa</translation></message>
+    <message id="summaryCut"><translation>…: abreviado.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
     <message id="summaryEither"><translation>SYS, DIA o ambas</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +942,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 de %n medición</numerusform><numerusform>%1 de %n mediciones</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incompleta, necesita %1</translation></message>
+    <message id="summaryInFull"><translation>…: texto completo en «%1».</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Último día: media (mediciones)</numerusform><numerusform>Últimos %n días: media (mediciones)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Excluidas</translation></message>
     <message id="summaryMax"><translation>Máx</translation></message>
@@ -953,8 +956,9 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryNoBirth"><translation>Fecha de nacimiento no indicada</translation></message>
     <message id="summaryNoComments"><translation>Sin comentarios en este periodo</translation></message>
     <message id="summaryNone"><translation>Sin mediciones en este periodo</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Aún no cuenta ninguna medición</translation></message>
     <message id="summaryNoReason"><translation>sin motivo indicado</translation></message>
-    <message id="summaryNote"><translation>Semana de medición: %1 igual o superior a su umbral. %2 Mañana: antes del mediodía. …: texto completo en «Comentarios» y «Mediciones».</translation></message>
+    <message id="summaryNote"><translation>Semana de medición: %1 igual o superior a su umbral. %2 Mañana: antes del mediodía. %3</translation></message>
     <message id="summaryNotExamined"><translation>Arritmia: no se ha buscado en ninguna medición</translation></message>
     <message id="summaryNothingLeftOut"><translation>Se cuentan todas las mediciones</translation></message>
     <message id="summaryNoWeek"><translation>Sin mediciones en esta semana</translation></message>
@@ -966,15 +970,19 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryRate"><translation>Pulso, lpm</translation></message>
     <message id="summaryReached"><translation>Igual o superior al umbral de %1 (con un decimal: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Mediciones</translation></message>
+    <message id="summaryReasonsInFull"><translation>…: abreviado; mediciones excluidas: texto completo en «%1».</translation></message>
     <message id="summarySD"><translation>DE</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Mediciones del periodo (DE: muestral, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Tendencia</translation></message>
     <message id="summaryTrendComments"><translation>Tendencia y, debajo, los comentarios por número</translation></message>
     <message id="summaryTrendHidden"><translation>Fuera de la escala de la tendencia: %1.</translation></message>
-    <message id="summaryTrendLimits"><translation>Líneas rectas discontinuas en la tendencia: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Líneas rectas finas en la tendencia: %1.</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Manuales: %1 de %n medición</numerusform><numerusform>Manuales: %1 de %n mediciones</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semana de medición (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida por el usuario</numerusform><numerusform>%n de la semana excluidas por el usuario</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semana, manual</numerusform><numerusform>%n de la semana, manuales</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="SWStatistics"><translation>Estadística y mediciones</translation></message>
     <message id="table"><translation>Mediciones</translation></message>
     <message id="time"><translation>Hora</translation></message>
@@ -1059,8 +1067,9 @@ media. Solo son cifras: lo que significan para el paciente debe decirlo un médi
   evening     sys/dia de las realizadas a partir del mediodía
   threshold   reached si sys o dia son iguales o superiores a su parte del umbral, antes de redondear
 
-Las líneas que no tienen nada que decir se omiten. En la salida de error se indica cuántas mediciones del
-primer día no se cuentan.
+Los días y las horas son los de la zona horaria de este equipo. Las líneas que no tienen nada que decir se
+omiten. En la salida de error se indica cuántas mediciones de la semana no se cuentan y cuántas se guardaron
+en otra zona horaria.
 
 Opciones:
   --patient ID                 de quién son las mediciones
@@ -1245,6 +1254,7 @@ Opciones:
   --last N                     en vez de --from: N días, hasta el de --to o hasta el último con mediciones
   --am                         solo las de antes del mediodía (estadística y resumen las toman todas)
   --pm                         solo las realizadas a partir del mediodía (igualmente)
+  --apart                      la tendencia tiene líneas propias para mañana y tarde
   --rule esh|nice|aha          cómo calcula el resumen la media de su semana de medición, que termina el
                                último día del periodo con mediciones; esh si no se indica otra; las
                                explica 'zel average --help'
@@ -1311,6 +1321,7 @@ Opciones:
     <message id="CliOptionMissing"><translation>Falta --%1, o su valor está vacío.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 se ha indicado más de una vez.</translation></message>
     <message id="CliOtherMonitor"><translation>El tensiómetro tiene el ID '%1', no '%2', así que sus mediciones podrían ser de otro paciente. Use --any-monitor para descargarlas de todos modos.</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n medición de la semana se guardó en otra zona horaria; el día y la hora son los de este equipo.</numerusform><numerusform>%n mediciones de la semana se guardaron en otra zona horaria; los días y las horas son los de este equipo.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>No se ha podido escribir la salida.</translation></message>
     <message id="CliPatientKnown"><translation>Ya hay un paciente con el ID '%1'.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= necesita detrás el nombre de un archivo; solo, sin '=', es el tensiómetro incorporado.</translation></message>

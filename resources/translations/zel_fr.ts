@@ -768,6 +768,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="weekMissing"><translation>Incomplète, il manque %1</translation></message>
     <message id="weekMornings"><translation>Matin %1</translation></message>
     <message id="weekNoMean"><translation>Aucune moyenne</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n mesure a été enregistrée dans un autre fuseau horaire ; son heure est celle de cet ordinateur</numerusform><numerusform>%n mesures ont été enregistrées dans un autre fuseau horaire ; les heures sont celles de cet ordinateur</numerusform></translation></message>
     <message id="weekPanel"><translation>Semaine de mesure</translation></message>
     <message id="weekPulse"><translation>pouls %1</translation></message>
     <message id="weekReached"><translation>Seuil de %1 atteint</translation></message>
@@ -917,7 +918,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="reportStruckThrough"><translation>barrée : exclue, ne compte nulle part ; les motifs figurent après le tableau</translation></message>
     <message id="reportSysAbove"><translation>Systolique seule au-dessus : %1</translation></message>
     <message id="reportTextTooLong"><translation>… La suite de ce texte n’est pas imprimée : encore %1 caractères.</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Ligne fine tiretée : limite de %1.</numerusform><numerusform>Lignes fines tiretées : limites de %1.</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Ligne droite fine : limite de %1.</numerusform><numerusform>Lignes droites fines : limites de %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Lignes épaisses : médianes. Bandes : du 10e au 90e percentile, ou de la plus basse à la plus haute s’il y a moins de 5 mesures. Une ligne s’interrompt là où il n’y a pas de mesure ; des points en relient les bouts sur 30 jours au plus.</translation></message>
     <message id="reportWriteFailed"><translation>L’écriture du fichier %1 a échoué ; il n’y a donc pas de nouveau fichier. Veuillez vérifier que le disque n’est pas plein, puis réessayer.</translation></message>
     <message id="summary"><translation>Synthèse</translation></message>
@@ -928,6 +929,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryBornOn"><translation>Né(e) le %1</translation></message>
     <message id="summaryComments"><translation>Ce qui a changé : commentaires, récents d’abord</translation></message>
     <message id="summaryComplete"><translation>Complète</translation></message>
+    <message id="summaryCut"><translation>… : abrégé.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
     <message id="summaryEither"><translation>SYS ou DIA ou les deux</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +942,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 sur %n mesure</numerusform><numerusform>%1 sur %n mesures</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incomplète, il manque %1</translation></message>
+    <message id="summaryInFull"><translation>… : texte complet dans « %1 ».</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Dernier jour : moyenne (mesures)</numerusform><numerusform>%n derniers jours : moyenne (mesures)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Non pris en compte</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
@@ -953,8 +956,9 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryNoBirth"><translation>Date de naissance non indiquée</translation></message>
     <message id="summaryNoComments"><translation>Aucun commentaire dans cette période</translation></message>
     <message id="summaryNone"><translation>Aucune mesure dans cette période</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Aucune mesure ne compte encore</translation></message>
     <message id="summaryNoReason"><translation>sans motif indiqué</translation></message>
-    <message id="summaryNote"><translation>Semaine de mesure : %1 à partir de son seuil. %2 Matin : avant midi. … : texte complet dans Commentaires et Mesures.</translation></message>
+    <message id="summaryNote"><translation>Semaine de mesure : %1 à partir de son seuil. %2 Matin : avant midi. %3</translation></message>
     <message id="summaryNotExamined"><translation>Arythmie : aucune mesure n’a été examinée</translation></message>
     <message id="summaryNothingLeftOut"><translation>Toutes les mesures sont comptées</translation></message>
     <message id="summaryNoWeek"><translation>Aucune mesure dans cette semaine</translation></message>
@@ -966,15 +970,19 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryRate"><translation>Pouls, bpm</translation></message>
     <message id="summaryReached"><translation>Seuil de %1 atteint (au dixième : %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Mesures</translation></message>
+    <message id="summaryReasonsInFull"><translation>… : abrégé ; mesures exclues : texte complet dans « %1 ».</translation></message>
     <message id="summarySD"><translation>ET</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Mesures de la période (ET : écart-type d’un échantillon, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Tendance</translation></message>
     <message id="summaryTrendComments"><translation>Tendance et, dessous, les commentaires par numéro</translation></message>
     <message id="summaryTrendHidden"><translation>Hors de l’échelle de la tendance : %1.</translation></message>
-    <message id="summaryTrendLimits"><translation>Tirets droits de la tendance : %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Lignes droites fines de la tendance : %1.</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Saisies : %1 mesure sur %n</numerusform><numerusform>Saisies : %1 mesures sur %n</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semaine de mesure (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semaine exclue par l’utilisateur</numerusform><numerusform>%n de la semaine exclues par l’utilisateur</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semaine saisie</numerusform><numerusform>%n de la semaine saisies</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistiques et mesures</translation></message>
     <message id="table"><translation>Mesures</translation></message>
     <message id="time"><translation>Heure</translation></message>
@@ -1059,8 +1067,9 @@ et le seuil de la moyenne. Ce ne sont que des chiffres : au médecin de dire c
   evening     sys/dia des mesures à partir de midi
   threshold   reached (atteint) si sys ou dia est égale ou supérieure à sa part du seuil, avant arrondi
 
-Une ligne qui n’a rien à dire est omise. Le nombre de mesures du premier jour non comptées est indiqué sur
-l’erreur standard.
+Les jours et les heures sont ceux du fuseau horaire de cet ordinateur. Une ligne qui n’a rien à dire est
+omise. Le nombre de mesures de la semaine non comptées, et de celles enregistrées dans un autre fuseau
+horaire, est indiqué sur l’erreur standard.
 
 Options :
   --patient ID                 les mesures de quel patient
@@ -1248,6 +1257,7 @@ Options :
   --last N                     au lieu de --from : N jours jusqu’à --to, ou jusqu’au dernier avec une mesure
   --am                         seulement les mesures avant midi (SWStatistics et summary les prennent toutes)
   --pm                         seulement les mesures à partir de midi (de même)
+  --apart                      la tendance a des lignes distinctes pour le matin et le soir
   --rule esh|nice|aha          comment la synthèse calcule la moyenne de sa semaine de mesure, qui finit le
                                dernier jour de la période avec mesures ; esh par défaut. 'zel average --help'
                                décrit ces règles
@@ -1315,6 +1325,7 @@ Options :
     <message id="CliOptionMissing"><translation>--%1 manque, ou sa valeur est vide.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 est indiquée plusieurs fois.</translation></message>
     <message id="CliOtherMonitor"><translation>Le tensiomètre contient l’ID '%1', et non '%2' ; ses mesures peuvent donc être celles d’un autre patient. Utilisez --any-monitor pour les transférer malgré tout.</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n mesure de la semaine a été enregistrée dans un autre fuseau horaire ; le jour et l’heure sont ceux de cet ordinateur.</numerusform><numerusform>%n mesures de la semaine ont été enregistrées dans un autre fuseau horaire ; les jours et les heures sont ceux de cet ordinateur.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>La sortie n’a pas pu être écrite.</translation></message>
     <message id="CliPatientKnown"><translation>Il existe déjà un patient ayant l’ID '%1'.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= doit être suivi du nom d’un fichier ; seul, sans '=', il désigne le tensiomètre simulé intégré.</translation></message>

@@ -768,6 +768,7 @@ D’ora in poi questa operazione viene quindi tralasciata; le altre non sono int
     <message id="weekMissing"><translation>Incompleta, mancanti: %1</translation></message>
     <message id="weekMornings"><translation>Mattina %1</translation></message>
     <message id="weekNoMean"><translation>Nessuna media</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n misurazione è stata salvata in un altro fuso orario; l’orario è quello di questo computer</numerusform><numerusform>%n misurazioni sono state salvate in un altro fuso orario; gli orari sono quelli di questo computer</numerusform></translation></message>
     <message id="weekPanel"><translation>Settimana di misura</translation></message>
     <message id="weekPulse"><translation>polso %1</translation></message>
     <message id="weekReached"><translation>Soglia %1 raggiunta</translation></message>
@@ -917,7 +918,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportStruckThrough"><translation>barrata: esclusa da tutti i calcoli; i motivi sono dopo la tabella</translation></message>
     <message id="reportSysAbove"><translation>Sopra solo la sistolica: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Il resto di questo testo non è stampato: altri %1 caratteri.</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Linea tratteggiata sottile: il limite di %1.</numerusform><numerusform>Linee tratteggiate sottili: i limiti di %1.</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Linea retta sottile: il limite di %1.</numerusform><numerusform>Linee rette sottili: i limiti di %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Linee spesse: mediane. Bande: dal 10º al 90º percentile, o dal minimo al massimo se le misurazioni sono meno di 5. Una linea si interrompe dove mancano misurazioni; dei punti ne uniscono le estremità, al massimo per 30 giorni.</translation></message>
     <message id="reportWriteFailed"><translation>La scrittura del file %1 non è riuscita, perciò non c’è un nuovo file. Controllare che il disco non sia pieno e riprovare.</translation></message>
     <message id="summary"><translation>Riepilogo</translation></message>
@@ -928,6 +929,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryBornOn"><translation>Nascita: %1</translation></message>
     <message id="summaryComments"><translation>Cambiamenti: commenti, prima i più recenti</translation></message>
     <message id="summaryComplete"><translation>Completa</translation></message>
+    <message id="summaryCut"><translation>…: abbreviato.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
     <message id="summaryEither"><translation>SYS o DIA o entrambe</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +942,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 su %n misurazione</numerusform><numerusform>%1 su %n misurazioni</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incompleta, mancanti: %1</translation></message>
+    <message id="summaryInFull"><translation>…: per intero in “%1”.</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Ultimo giorno: media (misurazioni)</numerusform><numerusform>Ultimi %n giorni: media (misurazioni)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Escluse o non conteggiate</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
@@ -953,8 +956,9 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryNoBirth"><translation>Data di nascita non indicata</translation></message>
     <message id="summaryNoComments"><translation>Nessun commento nel periodo</translation></message>
     <message id="summaryNone"><translation>Nessuna misurazione nel periodo</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Nessuna misurazione conta ancora</translation></message>
     <message id="summaryNoReason"><translation>nessun motivo indicato</translation></message>
-    <message id="summaryNote"><translation>Settimana di misura: %1 se la soglia è raggiunta. %2 Mattina: prima delle 12. …: per intero in Commenti e Misurazioni.</translation></message>
+    <message id="summaryNote"><translation>Settimana di misura: %1 se la soglia è raggiunta. %2 Mattina: prima delle 12. %3</translation></message>
     <message id="summaryNotExamined"><translation>Aritmia: nessuna misurazione esaminata</translation></message>
     <message id="summaryNothingLeftOut"><translation>Tutte conteggiate</translation></message>
     <message id="summaryNoWeek"><translation>Nessuna misurazione nella settimana</translation></message>
@@ -966,15 +970,19 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryRate"><translation>Polso, bpm</translation></message>
     <message id="summaryReached"><translation>Soglia di %1 raggiunta (al decimo: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Misurazioni</translation></message>
+    <message id="summaryReasonsInFull"><translation>…: abbreviato; misurazioni escluse: per intero in “%1”.</translation></message>
     <message id="summarySD"><translation>DS</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Misurazioni del periodo (DS: campionaria, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Andamento</translation></message>
     <message id="summaryTrendComments"><translation>Andamento e, sotto, i commenti per numero</translation></message>
     <message id="summaryTrendHidden"><translation>Fuori dalla scala dell’andamento: %1.</translation></message>
-    <message id="summaryTrendLimits"><translation>Linee tratteggiate diritte nell’andamento: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Linee rette sottili nell’andamento: %1.</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Inserite: %1 di %n misurazione</numerusform><numerusform>Inserite: %1 di %n misurazioni</numerusform></translation></message>
     <message id="summaryWeek"><translation>Settimana di misura (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n della settimana esclusa dall’utente</numerusform><numerusform>%n della settimana escluse dall’utente</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n della settimana inserita</numerusform><numerusform>%n della settimana inserite</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistiche e misurazioni</translation></message>
     <message id="table"><translation>Misurazioni</translation></message>
     <message id="time"><translation>Ora</translation></message>
@@ -1060,8 +1068,9 @@ Solo numeri: che cosa significhino per il paziente spetta dirlo a un medico.
   evening     sys/dia di quelle dalle 12 in poi
   threshold   raggiunta se sys o dia è pari o superiore alla propria parte della soglia, prima di arrotondare
 
-Una riga che non ha nulla da dire viene omessa. Il numero di misurazioni del primo giorno non conteggiate
-va sullo standard error.
+Giorni e orari sono quelli del fuso orario di questo computer. Una riga che non ha nulla da dire viene
+omessa. Il numero di misurazioni della settimana non conteggiate, e di quelle salvate in un altro fuso
+orario, va sullo standard error.
 
 Opzioni:
   --patient ID                 di quale paziente
@@ -1250,6 +1259,7 @@ Opzioni:
   --last N                     invece di --from: N giorni, fino a quello di --to o all'ultimo con misurazioni
   --am                         solo le misurazioni prima delle 12 (statistiche e riepilogo le prendono tutte)
   --pm                         solo le misurazioni dalle 12 in poi (idem)
+  --apart                      l’andamento ha linee distinte per mattina e sera
   --rule esh|nice|aha          come il riepilogo calcola la media della sua settimana di misura, che termina
                                con l'ultimo giorno del periodo con misurazioni; esh se non indicato
                                altrimenti. 'zel average --help' spiega le regole
@@ -1319,6 +1329,7 @@ Opzioni:
     <message id="CliOptionMissing"><translation>--%1 manca, oppure il suo valore è vuoto.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 è indicata più di una volta.</translation></message>
     <message id="CliOtherMonitor"><translation>Il misuratore contiene l'ID '%1', non '%2', perciò le sue misurazioni potrebbero essere di un altro paziente. Usare --any-monitor per scaricarle comunque.</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n misurazione della settimana è stata salvata in un altro fuso orario; giorno e ora sono quelli di questo computer.</numerusform><numerusform>%n misurazioni della settimana sono state salvate in un altro fuso orario; giorni e orari sono quelli di questo computer.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>Impossibile scrivere l'output.</translation></message>
     <message id="CliPatientKnown"><translation>Esiste già un paziente con l'ID '%1'.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= richiede dopo di sé il nome di un file; da sola, senza '=', è il misuratore simulato integrato.</translation></message>

@@ -768,6 +768,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="weekMissing"><translation>Niepełny, potrzebne jeszcze: %1</translation></message>
     <message id="weekMornings"><translation>Rano %1</translation></message>
     <message id="weekNoMean"><translation>Brak średniej</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n pomiar zapisano w innej strefie czasowej; jego godzina jest według tego komputera</numerusform><numerusform>%n pomiary zapisano w innej strefie czasowej; godziny są według tego komputera</numerusform><numerusform>%n pomiarów zapisano w innej strefie czasowej; godziny są według tego komputera</numerusform></translation></message>
     <message id="weekPanel"><translation>Tydzień pomiarowy</translation></message>
     <message id="weekPulse"><translation>tętno %1</translation></message>
     <message id="weekReached"><translation>Co najmniej %1</translation></message>
@@ -917,7 +918,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportStruckThrough"><translation>przekreślone: pominięte we wszystkich obliczeniach; powody podano za tabelą</translation></message>
     <message id="reportSysAbove"><translation>Tylko skurczowe powyżej: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Reszty tekstu nie wydrukowano; liczba dalszych znaków: %1.</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Cienka linia przerywana: granica %1.</numerusform><numerusform>Cienkie linie przerywane: granice %1.</numerusform><numerusform>Cienkie linie przerywane: granice %1.</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Cienka prosta linia: granica %1.</numerusform><numerusform>Cienkie proste linie: granice %1.</numerusform><numerusform>Cienkie proste linie: granice %1.</numerusform></translation></message>
     <message id="reportTrendNote"><translation>Grube linie: mediany. Pasma: od 10. do 90. percentyla, a przy mniej niż 5 pomiarach od najniższego do najwyższego. Linia urywa się tam, gdzie nie ma pomiarów; kropki łączą jej końce przez najwyżej 30 dni.</translation></message>
     <message id="reportWriteFailed"><translation>Zapis pliku %1 się nie powiódł, dlatego nie ma nowego pliku. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
     <message id="summary"><translation>Podsumowanie</translation></message>
@@ -928,6 +929,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryBornOn"><translation>Ur. %1</translation></message>
     <message id="summaryComments"><translation>Co się zmieniło: komentarze od najnowszego</translation></message>
     <message id="summaryComplete"><translation>Pełny</translation></message>
+    <message id="summaryCut"><translation>…: skrócono.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
     <message id="summaryEither"><translation>SYS lub DIA, lub oba</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +942,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 z %n pomiaru</numerusform><numerusform>%1 z %n pomiarów</numerusform><numerusform>%1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Niepełny, potrzebne jeszcze: %1</translation></message>
+    <message id="summaryInFull"><translation>…: w całości w sekcji „%1”.</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Ostatni dzień: średnia (pomiary)</numerusform><numerusform>Ostatnie %n dni: średnia (pomiary)</numerusform><numerusform>Ostatnie %n dni: średnia (pomiary)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Pominięte</translation></message>
     <message id="summaryMax"><translation>Max</translation></message>
@@ -953,8 +956,9 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryNoBirth"><translation>Nie podano daty urodzenia</translation></message>
     <message id="summaryNoComments"><translation>Brak komentarzy w tym okresie</translation></message>
     <message id="summaryNone"><translation>Brak pomiarów w tym okresie</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Żaden pomiar jeszcze się nie liczy</translation></message>
     <message id="summaryNoReason"><translation>nie podano powodu</translation></message>
-    <message id="summaryNote"><translation>Tydzień pomiarowy: %1 próg osiągnięty lub przekroczony. %2 Rano: przed południem. …: w całości w sekcjach Komentarze i Pomiary.</translation></message>
+    <message id="summaryNote"><translation>Tydzień pomiarowy: %1 próg osiągnięty lub przekroczony. %2 Rano: przed południem. %3</translation></message>
     <message id="summaryNotExamined"><translation>Arytmia: żadnego pomiaru nie badano pod tym kątem</translation></message>
     <message id="summaryNothingLeftOut"><translation>Liczą się wszystkie pomiary</translation></message>
     <message id="summaryNoWeek"><translation>Brak pomiarów w tym tygodniu</translation></message>
@@ -966,15 +970,19 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryRate"><translation>Tętno, 1/min</translation></message>
     <message id="summaryReached"><translation>Na progu %1 lub powyżej (do 0,1: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Pomiary</translation></message>
+    <message id="summaryReasonsInFull"><translation>…: skrócono; pomiary pominięte: w całości w sekcji „%1”.</translation></message>
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Pomiary z okresu (SD: z próby, n − 1)</translation></message>
     <message id="summaryTrend"><translation>Trend</translation></message>
     <message id="summaryTrendComments"><translation>Trend, a pod nim komentarze według numerów</translation></message>
     <message id="summaryTrendHidden"><translation>Poza skalą trendu: %1.</translation></message>
-    <message id="summaryTrendLimits"><translation>Proste linie przerywane na wykresie trendu: %1.</translation></message>
+    <message id="summaryTrendLimits"><translation>Cienkie proste linie na wykresie trendu: %1.</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Wpisane: %1 z %n pomiaru</numerusform><numerusform>Wpisane: %1 z %n pomiarów</numerusform><numerusform>Wpisane: %1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryWeek"><translation>Tydzień pomiarowy (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominięte przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n z tygodnia wpisany</numerusform><numerusform>%n z tygodnia wpisane</numerusform><numerusform>%n z tygodnia wpisanych</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statystyka i pomiary</translation></message>
     <message id="table"><translation>Pomiary</translation></message>
     <message id="time"><translation>Godzina</translation></message>
@@ -1060,8 +1068,8 @@ Same liczby: co oznaczają dla pacjenta, ocenia lekarz.
   evening     sys/dia z pomiarów od południa
   threshold   reached, gdy sys lub dia jest przed zaokrągleniem na swoim progu lub powyżej
 
-Wiersz, który nic nie wnosi, jest pomijany. Liczba pomiarów z pierwszego dnia, które się nie liczą, trafia na
-wyjście błędów.
+Dni i godziny są według strefy czasowej tego komputera. Wiersz, który nic nie wnosi, jest pomijany. Liczba
+pomiarów z tygodnia, które się nie liczą, i zapisanych w innej strefie czasowej trafia na wyjście błędów.
 
 Opcje:
   --patient ID                 czyje pomiary
@@ -1243,6 +1251,7 @@ Opcje:
   --last N                     zamiast --from: N dni do dnia --to albo do ostatniego dnia z pomiarem
   --am                         tylko pomiary przed południem (statystyka i podsumowanie obejmują wszystkie)
   --pm                         tylko pomiary od południa (tak samo)
+  --apart                      trend ma osobne linie dla pomiarów rano i wieczorem
   --rule esh|nice|aha          jak podsumowanie liczy średnią z tygodnia pomiarowego, który kończy ostatni
                                dzień okresu z pomiarami; domyślnie esh. Opis: 'zel average --help'
   --practitioner               drukuj dane lekarza z ustawień u dołu strony, a w podsumowaniu
@@ -1309,6 +1318,7 @@ Opcje:
     <message id="CliOptionMissing"><translation>Brakuje --%1 albo wartość tej opcji jest pusta.</translation></message>
     <message id="CliOptionTwice"><translation>--%1 podano więcej niż raz.</translation></message>
     <message id="CliOtherMonitor"><translation>Ciśnieniomierz ma ID „%1”, a nie „%2”, dlatego jego pomiary mogą należeć do innego pacjenta. Aby mimo to je pobrać, należy użyć --any-monitor.</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n pomiar z tygodnia zapisano w innej strefie czasowej; dzień i godzina są według tego komputera.</numerusform><numerusform>%n pomiary z tygodnia zapisano w innej strefie czasowej; dni i godziny są według tego komputera.</numerusform><numerusform>%n pomiarów z tygodnia zapisano w innej strefie czasowej; dni i godziny są według tego komputera.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>Nie udało się zapisać danych wyjściowych.</translation></message>
     <message id="CliPatientKnown"><translation>Pacjent o ID „%1” już istnieje.</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= wymaga po sobie nazwy pliku; sama opcja, bez „=”, oznacza wbudowany ciśnieniomierz.</translation></message>

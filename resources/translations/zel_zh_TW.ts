@@ -768,6 +768,7 @@ mmHg</translation></message>
     <message id="weekMissing"><translation>不完整，尚缺 %1</translation></message>
     <message id="weekMornings"><translation>早上 %1</translation></message>
     <message id="weekNoMean"><translation>沒有平均</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n 筆量測儲存於其他時區；時間以這部電腦為準</numerusform></translation></message>
     <message id="weekPanel"><translation>量測週</translation></message>
     <message id="weekPulse"><translation>脈搏 %1</translation></message>
     <message id="weekReached"><translation>達到或高於 %1</translation></message>
@@ -917,7 +918,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportStruckThrough"><translation>刪除線：已排除，不計入任何結果；原因列於表格之後</translation></message>
     <message id="reportSysAbove"><translation>僅收縮壓高於：%1</translation></message>
     <message id="reportTextTooLong"><translation>… 其餘文字未列印：還有 %1 個字元。</translation></message>
-    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>細虛線：上限（%1）。</numerusform></translation></message>
+    <message id="reportTrendLimits" numerus="yes"><translation><numerusform>細直線：上限（%1）。</numerusform></translation></message>
     <message id="reportTrendNote"><translation>粗線：中位數。色帶：第 10 至第 90 百分位數；量測少於 5 筆時為最低值至最高值。沒有量測處線條中斷；間隔最多 30 天時以點線連接兩端。</translation></message>
     <message id="reportWriteFailed"><translation>寫入檔案 %1 失敗，因此沒有新的檔案。請確認磁碟空間足夠，然後再試一次。</translation></message>
     <message id="summary"><translation>摘要</translation></message>
@@ -928,6 +929,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryBornOn"><translation>%1 出生</translation></message>
     <message id="summaryComments"><translation>有何變化：註記，最新的在前</translation></message>
     <message id="summaryComplete"><translation>完整</translation></message>
+    <message id="summaryCut"><translation>…：已縮短。</translation></message>
     <message id="summaryDia"><translation>DIA (mmHg)</translation></message>
     <message id="summaryEither"><translation>SYS 或 DIA，或兩者</translation></message>
     <message id="summaryEsh"><translation>ESH</translation></message>
@@ -940,6 +942,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%n 筆量測中有 %1 筆</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>不完整，尚缺 %1</translation></message>
+    <message id="summaryInFull"><translation>…：全文見「%1」。</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>最近 %n 天：平均（筆數）</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>排除與未計入</translation></message>
     <message id="summaryMax"><translation>最高</translation></message>
@@ -953,8 +956,9 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryNoBirth"><translation>未填寫出生日期</translation></message>
     <message id="summaryNoComments"><translation>此期間沒有註記</translation></message>
     <message id="summaryNone"><translation>此期間沒有量測</translation></message>
+    <message id="summaryNoneCountsYet"><translation>尚無計入的量測</translation></message>
     <message id="summaryNoReason"><translation>未填寫原因</translation></message>
-    <message id="summaryNote"><translation>量測週：%1 達到或高於其閾值。%2 早上：中午前。…：全文見「註記」與「量測紀錄」。</translation></message>
+    <message id="summaryNote"><translation>量測週：%1 達到或高於其閾值。%2 早上：中午前。%3</translation></message>
     <message id="summaryNotExamined"><translation>心律不整：沒有經過偵測的量測</translation></message>
     <message id="summaryNothingLeftOut"><translation>所有量測皆計入</translation></message>
     <message id="summaryNoWeek"><translation>這一週沒有量測</translation></message>
@@ -966,15 +970,19 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryRate"><translation>脈搏（次/分）</translation></message>
     <message id="summaryReached"><translation>達到或高於閾值 %1（至小數一位：%2/%3）</translation></message>
     <message id="summaryReadings"><translation>筆數</translation></message>
+    <message id="summaryReasonsInFull"><translation>…：已縮短；已排除的量測：全文見「%1」。</translation></message>
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS (mmHg)</translation></message>
     <message id="summaryTable"><translation>期間內的量測（SD：樣本標準差，n − 1）</translation></message>
     <message id="summaryTrend"><translation>趨勢</translation></message>
     <message id="summaryTrendComments"><translation>趨勢，下方為註記編號</translation></message>
     <message id="summaryTrendHidden"><translation>在趨勢刻度之外：%1。</translation></message>
-    <message id="summaryTrendLimits"><translation>趨勢中的直虛線：%1。</translation></message>
+    <message id="summaryTrendLimits"><translation>趨勢中的細直線：%1。</translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>手動輸入：%n 筆量測中的 %1 筆</numerusform></translation></message>
     <message id="summaryWeek"><translation>量測週（%1）  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>本週由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>該週手動輸入 %n 筆</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這部電腦為準</numerusform></translation></message>
     <message id="SWStatistics"><translation>統計與量測</translation></message>
     <message id="table"><translation>量測紀錄</translation></message>
     <message id="time"><translation>時間</translation></message>
@@ -1057,7 +1065,8 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
   evening     中午以後量測的 sys/dia
   threshold   以四捨五入前的 sys 或 dia 判斷，任一達到或高於其閾值即為 reached
 
-沒有內容的行會省略。第一天不計的量測筆數輸出至標準錯誤。
+日期與時間以這部電腦的時區為準。沒有內容的行會省略。該週不計的量測筆數，以及儲存於其他時區的筆數，
+輸出至標準錯誤。
 
 選項：
   --patient ID                 要處理的病患
@@ -1231,6 +1240,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
   --last N                     取代 --from：到 --to 的日期，共 N 天；未指定 --to 時，到最後一個有量測的日子
   --am                         只列中午前的量測（統計與摘要採用全部）
   --pm                         只列中午以後的量測（同上）
+  --apart                      趨勢圖將早上與晚上畫成不同的線
   --rule esh|nice|aha          摘要計算量測週平均的準則；量測週以期間內最後一個有量測的日子結束；
                                預設為 esh。'zel average --help' 有各準則的說明
   --practitioner               將設定中的醫師資料印在頁尾；摘要則印在頁首
@@ -1294,6 +1304,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliOptionMissing"><translation>未指定 --%1，或其值為空。</translation></message>
     <message id="CliOptionTwice"><translation>--%1 指定了不只一次。</translation></message>
     <message id="CliOtherMonitor"><translation>血壓計的 ID 是「%1」，不是「%2」，其中的量測可能屬於另一位病患。使用 --any-monitor 仍可下載。</translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>該週有 %n 筆量測儲存於其他時區；日期與時間以這部電腦為準。</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>無法寫入輸出。</translation></message>
     <message id="CliPatientKnown"><translation>已有 ID 為「%1」的病患。</translation></message>
     <message id="CliPlanWithoutFile"><translation>--simulated-monitor= 後面需要檔名；不加 '=' 單獨使用時，即為內建的血壓計。</translation></message>
