@@ -904,8 +904,8 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNoBirth"><translation>Date of birth not given</translation></message>
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
-    <message id="summaryNoReason"><translation>no reason given</translation></message>
     <message id="summaryNoneCountsYet"><translation>No reading counts yet</translation></message>
+    <message id="summaryNoReason"><translation>no reason given</translation></message>
     <message id="summaryNote"><translation>Measuring week: %1 at or above its threshold. %2 Morning: before noon. %3</translation></message>
     <message id="summaryNotExamined"><translation>Arrhythmia: no reading was examined for it</translation></message>
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
