@@ -121,12 +121,13 @@ TEST_F(MonitorTransportTest, FirstQueryAfterAFailedOpenOnlyProbes) {
 }
 
 TEST_F(MonitorTransportTest, LateAnswerIsNotTakenForTheNextOne) {
-    port.answers = {reply(goodVersion), reply(goodVersion), reply(goodVersion)};
+    port.answers = {reply(goodVersion), reply(goodVersion), reply(goodVersion), reply(goodVersion)};
     EXPECT_EQ(version(), MonitorResult::success);
-    for (const int late : {3, 4}) { // a device's queue may read as empty before it does not
+    for (const int late : {3, 4, 5}) { // a device's queue may read as empty before it does not
         port.reads = 0;
         port.onRead = [this, late] {
-            if (port.reads == late) port.queued.push_front({0x02, 0x06, 'X'});
+            if (port.reads == late || (port.reads == 1 && late > 4))
+                port.queued.push_front({0x02, 0x06, 'X'});
         };
         EXPECT_EQ(version(), MonitorResult::success);
     }

@@ -178,12 +178,12 @@ SampleReport fullReport() {
 }
 
 /// Readings that are left out or typed in, reasons and comments that go on on the next page, a day without
-/// reading, nobody to sign.
+/// reading, more of a practice than the foot has room for.
 SampleReport markedReport() {
     SampleReport sample(26);
     sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-13"), false);
     sample.highFrom = {130, 80};
-    sample.needPhysicianInfo = false;
+    sample.settings.physicianAddress = u"Practice for everything\n"_s.repeated(90).trimmed();
     sample.readings[0].exclusion = u"Cuff over the sleeve"_s;
     sample.readings[3].exclusion = u""_s;
     sample.readings[4].isManual = true;
