@@ -1,5 +1,6 @@
 #include "store/XmlEncoding.h"
 
+#include <QRegularExpression>
 #include <QString>
 #include <QUtf8StringView>
 
@@ -36,19 +37,14 @@ constexpr std::array<Signature, 9> signatures{{
     {"\xFF\xFE"sv, "UTF-16LE", true},
 }};
 
-/// The value of encoding="..." in the declaration; empty when there is none.
+/// The value of encoding="..." in the declaration; empty when there is none. No other attribute's name or
+/// value is taken for it, since the parser would not do so either.
 QByteArray declaredEncoding(const QByteArray& file) {
     if (!file.startsWith("<?xml")) return {};
-    const QByteArray declaration = file.left(file.indexOf("?>"));
-    const auto attribute = declaration.indexOf("encoding");
-    if (attribute < 0) return {};
-    const auto isQuote = [](char c) { return c == '"' || c == '\''; };
-    auto start = attribute;
-    while (start < declaration.size() && !isQuote(declaration[start]))
-        ++start;
-    if (start == declaration.size()) return {};
-    const auto end = declaration.indexOf(declaration[start], start + 1);
-    return declaration.mid(start + 1, end - start - 1);
+    static const QRegularExpression declaration(QStringLiteral(
+        R"(^<\?xml(?:\s+[^\s='"]+\s*=\s*(?:"[^"]*"|'[^']*'))*?\s+encoding\s*=\s*(?:"([^"]*)"|'([^']*)'))"));
+    const auto found = declaration.match(QString::fromLatin1(file.left(file.indexOf("?>"))));
+    return (found.captured(1) + found.captured(2)).toLatin1();
 }
 
 struct CloseConverter {

@@ -32,6 +32,7 @@ Date readSlowly(const QString& text, bool hasMilliseconds) {
 void requireFormsAgree(std::string_view text, Instant date) {
     constexpr std::size_t usual = 25;
     if (text.size() != usual && text.size() != usual + 4) return;
+    if (text[text.size() - 3] != ':') return; // that of the offset is the last one in either form
     const Date slow =
         readSlowly(QString::fromUtf8(text.data(), qsizetype(text.size())), text.size() != usual);
     if (slow) require(*slow == date, "the quick reader takes a date as the slow one does");

@@ -78,12 +78,14 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
 }
 
 TEST(XmlDocument, TakesABlankBeforeADeclarationOfUtf8) {
-    for (const char* encoding : {"", " encoding=\"UTF-8\"", " encoding='utf-8'", " encoding=\"\""}) {
+    for (const char* encoding : {"", " encoding=\"UTF-8\"", " encoding='utf-8'", " encoding=\"\"",
+                                 " otherencoding=\"no-such\"", " other=\" encoding='no-such'\""}) {
         const QByteArray declaration = QByteArray{"<?xml version=\"1.0\""} + encoding + "?>";
         const auto document = XmlDocument::parse("\r\n " + declaration + "<ZEL><A>\xC3\xA4</A></ZEL>");
         ASSERT_TRUE(document) << encoding;
         const QByteArray again = document->serialise().value_or(QByteArray{});
         EXPECT_TRUE(again.startsWith("<?xml") && again.contains("\xC3\xA4")) << again.constData();
+        EXPECT_TRUE(XmlDocument::parse(again)) << "without the blank, too: " << again.constData();
     }
 }
 
