@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12 Stunden</translation></message>
     <message id="24-hours"><translation>24 Stunden</translation></message>
     <message id="aboutData"><translation>Datendatei: %1</translation></message>
-    <message id="aboutLicence"><translation>Lizenz: Alle Rechte vorbehalten. ZEL verwendet Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (Unicode-Lizenz) und expected (CC0), jeweils unter eigener Lizenz.</translation></message>
+    <message id="aboutLicence"><translation>Lizenz: MIT. Für ZEL wird keinerlei Gewähr übernommen. ZEL verwendet Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (Unicode-Lizenz) und expected (CC0), jeweils unter eigener Lizenz.</translation></message>
     <message id="addComment"><translation>Kommentar hinzufügen</translation></message>
     <message id="addCommentHint"><translation>Ziehen Sie das Symbol auf einen Tag im Streifen unter dem Pulsdiagramm, um dort einen Kommentar hinzuzufügen. Mit der Tastatur: Drücken Sie die Schaltfläche oder die Taste Einfg.</translation></message>
     <message id="addCommentTooLong"><translation>Kommentare lassen sich hinzufügen, solange der Zeitraum höchstens 47 Tage umfasst.</translation></message>

@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12-hours</translation></message>
     <message id="24-hours"><translation>24-hours</translation></message>
     <message id="aboutData"><translation>Data file: %1</translation></message>
-    <message id="aboutLicence"><translation>Licence: all rights reserved. ZEL uses Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (Unicode licence) and expected (CC0), each under its own licence.</translation></message>
+    <message id="aboutLicence"><translation>Licence: MIT. ZEL comes without any warranty. It uses Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (Unicode licence) and expected (CC0), each under its own licence.</translation></message>
     <message id="addComment"><translation>Add a comment</translation></message>
     <message id="addCommentHint"><translation>Drag this to a day in the strip below the pulse chart to add a comment there. With the keyboard, press it or the Insert key.</translation></message>
     <message id="addCommentTooLong"><translation>Comments can be added while the period has 47 days or fewer.</translation></message>

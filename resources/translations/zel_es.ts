@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12 horas</translation></message>
     <message id="24-hours"><translation>24 horas</translation></message>
     <message id="aboutData"><translation>Archivo de datos: %1</translation></message>
-    <message id="aboutLicence"><translation>Licencia: todos los derechos reservados. ZEL utiliza Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licencia Unicode) y expected (CC0), cada uno con su propia licencia.</translation></message>
+    <message id="aboutLicence"><translation>Licencia: MIT. ZEL se ofrece sin garantía alguna. ZEL utiliza Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licencia Unicode) y expected (CC0), cada uno con su propia licencia.</translation></message>
     <message id="addComment"><translation>Añadir un comentario</translation></message>
     <message id="addCommentHint"><translation>Arrástrelo hasta un día de la franja que hay debajo del gráfico del pulso para añadir allí un comentario. Con el teclado, púlselo o pulse la tecla Insert.</translation></message>
     <message id="addCommentTooLong"><translation>Se pueden añadir comentarios cuando el periodo tiene 47 días o menos.</translation></message>

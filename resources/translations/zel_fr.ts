@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12 heures</translation></message>
     <message id="24-hours"><translation>24 heures</translation></message>
     <message id="aboutData"><translation>Fichier de données : %1</translation></message>
-    <message id="aboutLicence"><translation>Licence : tous droits réservés. ZEL utilise Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licence Unicode) et expected (CC0), chacun selon sa propre licence.</translation></message>
+    <message id="aboutLicence"><translation>Licence : MIT. ZEL est fourni sans aucune garantie. ZEL utilise Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licence Unicode) et expected (CC0), chacun selon sa propre licence.</translation></message>
     <message id="addComment"><translation>Ajouter un commentaire</translation></message>
     <message id="addCommentHint"><translation>Faites glisser cette icône vers un jour de la bande située sous le graphique du pouls pour y ajouter un commentaire. Au clavier : actionnez-la ou appuyez sur Inser.</translation></message>
     <message id="addCommentTooLong"><translation>Il est possible d’ajouter des commentaires tant que la période compte 47 jours ou moins.</translation></message>

@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12 ore</translation></message>
     <message id="24-hours"><translation>24 ore</translation></message>
     <message id="aboutData"><translation>File dei dati: %1</translation></message>
-    <message id="aboutLicence"><translation>Licenza: tutti i diritti riservati. ZEL usa Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licenza Unicode) ed expected (CC0), ciascuno con la propria licenza.</translation></message>
+    <message id="aboutLicence"><translation>Licenza: MIT. ZEL è fornito senza alcuna garanzia. ZEL usa Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licenza Unicode) ed expected (CC0), ciascuno con la propria licenza.</translation></message>
     <message id="addComment"><translation>Aggiungi un commento</translation></message>
     <message id="addCommentHint"><translation>Trascinare questo simbolo su un giorno nella striscia sotto il grafico del polso per aggiungervi un commento. Con la tastiera: attivarlo oppure premere il tasto Ins.</translation></message>
     <message id="addCommentTooLong"><translation>I commenti si possono aggiungere se il periodo non supera i 47 giorni.</translation></message>

@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12-godzinny</translation></message>
     <message id="24-hours"><translation>24-godzinny</translation></message>
     <message id="aboutData"><translation>Plik danych: %1</translation></message>
-    <message id="aboutLicence"><translation>Licencja: wszelkie prawa zastrzeżone. ZEL korzysta z Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licencja Unicode) i expected (CC0); każde z nich ma własną licencję.</translation></message>
+    <message id="aboutLicence"><translation>Licencja: MIT. ZEL jest udostępniany bez jakiejkolwiek gwarancji. ZEL korzysta z Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licencja Unicode) i expected (CC0); każde z nich ma własną licencję.</translation></message>
     <message id="addComment"><translation>Dodaj komentarz</translation></message>
     <message id="addCommentHint"><translation>Aby dodać komentarz, należy przeciągnąć ten przycisk na wybrany dzień paska pod wykresem tętna. Z klawiatury: nacisnąć przycisk albo klawisz Insert.</translation></message>
     <message id="addCommentTooLong"><translation>Komentarze można dodawać, gdy okres ma najwyżej 47 dni.</translation></message>

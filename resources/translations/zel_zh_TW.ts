@@ -193,7 +193,7 @@
     <message id="12-hours"><translation>12 小時制</translation></message>
     <message id="24-hours"><translation>24 小時制</translation></message>
     <message id="aboutData"><translation>資料檔：%1</translation></message>
-    <message id="aboutLicence"><translation>授權：保留所有權利。ZEL 使用 Qt（LGPL 3）、hidapi（BSD）、pugixml（MIT）、ICU（Unicode 授權）與 expected（CC0），各依其授權條款。</translation></message>
+    <message id="aboutLicence"><translation>授權：MIT。ZEL 不附帶任何擔保。ZEL 使用 Qt（LGPL 3）、hidapi（BSD）、pugixml（MIT）、ICU（Unicode 授權）與 expected（CC0），各依其授權條款。</translation></message>
     <message id="addComment"><translation>新增註記</translation></message>
     <message id="addCommentHint"><translation>將此按鈕拖曳到脈搏圖下方橫條中的某一天，即可在該日新增註記。使用鍵盤時，請按下此按鈕或 Insert 鍵。</translation></message>
     <message id="addCommentTooLong"><translation>期間為 47 天以內時才能新增註記。</translation></message>

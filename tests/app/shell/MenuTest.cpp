@@ -250,7 +250,8 @@ TEST_F(MenuTest, aboutSaysVersionLicenceAndWhereTheDataLie) {
     start();
     window().findChild<QAction*>(u"showAbout"_s)->trigger();
     ASSERT_EQ(panel.messages.size(), 1);
-    for (const QString& part : {QString(QLatin1String(ZEL_VERSION)), store.getZELXMLPath(), u"Licence"_s})
+    for (const QString& part : {QString(QLatin1String(ZEL_VERSION)), store.getZELXMLPath(),
+                                u"Licence: MIT. ZEL comes without any warranty."_s})
         EXPECT_TRUE(panel.messages.first().contains(part)) << qPrintable(part);
 }
 
