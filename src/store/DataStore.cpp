@@ -112,11 +112,14 @@ void DataStore::take(const XmlDocument& document) {
         pugi::xml_document defaults;
         records.gSettingModel = SettingModel::initWithXMLNode(SettingModel::makeXmlNode(defaults));
         // The file gains the settings now if it can; a read-only one is reported by checkXmlWritable.
-        std::ignore = write([](pugi::xml_node root) {
+        StoreResult kept;
+        std::ignore = write([&](pugi::xml_node root) {
             if (firstElement(root, "SystemSetting")) return DataFile::Edit::unchanged;
             SettingModel::makeXmlNode(root);
+            kept = copies.keepDaily();
             return DataFile::Edit::changed;
         });
+        if (!kept) tellNotBackedUp(kept.error());
     }
     settingAsRead = records.gSettingModel;
 }

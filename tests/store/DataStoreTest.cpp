@@ -61,6 +61,8 @@ TEST_F(DataStoreTest, FileWithoutSettingsGainsThem) {
     dataFile("<Own/>");
     ASSERT_TRUE(store.load());
     EXPECT_EQ(order(), "Own: SystemSetting:");
+    EXPECT_EQ(QDir(QFileInfo(path).path() + u"/Backups"_s).entryList({u"ZEL-*.xml"_s}).size(), 1)
+        << "a copy is kept before it, as before any change";
     EXPECT_EQ(store.getSetting().metricFormat, u"lb / in"_s);
 }
 
