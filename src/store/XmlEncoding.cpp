@@ -42,7 +42,7 @@ constexpr std::array<Signature, 9> signatures{{
 QByteArray declaredEncoding(const QByteArray& file) {
     if (!file.startsWith("<?xml")) return {};
     static const QRegularExpression declaration(QStringLiteral(
-        R"(^<\?xml(?:\s+[^\s='"]+\s*=\s*(?:"[^"]*"|'[^']*'))*?\s+encoding\s*=\s*(?:"([^"]*)"|'([^']*)'))"));
+        R"re(^<\?xml(?:\s+[^\s='"]+\s*=\s*(?:"[^"]*"|'[^']*'))*?\s+encoding\s*=\s*(?:"([^"]*)"|'([^']*)'))re"));
     const auto found = declaration.match(QString::fromLatin1(file.left(file.indexOf("?>"))));
     return (found.captured(1) + found.captured(2)).toLatin1();
 }
