@@ -5,6 +5,7 @@
 
 #include <compare>
 #include <span>
+#include <tuple>
 #include <vector>
 
 namespace zel {
@@ -15,7 +16,11 @@ struct LeftOutScope {
     bool isOfSummary = false;  ///< also of the measuring week, and before and since the period's comments
     bool isOfComments = false; ///< also before and since any comment
 
-    auto operator<=>(const LeftOutScope&) const = default;
+    bool operator==(const LeftOutScope&) const = default;
+    bool operator<(const LeftOutScope& other) const {
+        return std::tie(isOfPeriod, isOfSummary, isOfComments)
+               < std::tie(other.isOfPeriod, other.isOfSummary, other.isOfComments);
+    }
 };
 [[nodiscard]] LeftOutScope leftOutScope(std::span<const Section> sections);
 

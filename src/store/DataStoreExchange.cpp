@@ -22,7 +22,8 @@ std::vector<const ReadingModel*> inOrderOfTime(const ReadingList& readings) {
     sorted.reserve(readings.size());
     for (const ReadingModel& reading : readings)
         sorted.push_back(&reading);
-    const auto dated = std::ranges::stable_partition(sorted, &ReadingModel::isUndated).begin();
+    const auto dated = std::stable_partition(
+        sorted.begin(), sorted.end(), [](const ReadingModel* reading) { return reading->isUndated(); });
     std::reverse(sorted.begin(), dated);
     const Instant marker = getNilReadingDate();
     std::ranges::stable_sort(
