@@ -46,11 +46,11 @@
     <message id="ManualPulse"><translation>El pulso debe ser un número de %1 a %2.</translation></message>
     <message id="ManualSys"><translation>La presión sistólica debe ser un número de %1 a %2.</translation></message>
     <message id="ManualTooEarly"><translation>La fecha es anterior al año 1900.</translation></message>
-    <message id="n.a"><translation>n.a</translation></message>
-    <message id="N/A"><translation>N/A</translation></message>
+    <message id="n.a"><translation>sin fecha</translation></message>
+    <message id="N/A"><translation>n. d.</translation></message>
     <message id="NotBackedUp"><translation>Antes de este cambio no se ha podido hacer una copia del archivo de datos en %1. %2</translation></message>
     <message id="remarkExcluded"><translation>excluida: %1</translation></message>
-    <message id="remarkManual"><translation>manual</translation></message>
+    <message id="remarkManual"><translation>introducida</translation></message>
     <message id="SecondFolderAway"><translation>La segunda carpeta para las copias del archivo de datos, %1, no está disponible, así que la copia de hoy no está en ella. Se copiará con el próximo cambio, cuando la carpeta vuelva a estar disponible.</translation></message>
     <message id="SecondFolderBroken"><translation>No se puede leer en %1 cuál es la segunda carpeta para las copias del archivo de datos, así que no se copian a ninguna. Elíjala de nuevo.</translation></message>
     <message id="SecondFolderFailed"><translation>No se ha podido escribir la copia de hoy del archivo de datos en la segunda carpeta, %1.</translation></message>
@@ -140,7 +140,7 @@
     <message id="monitorSuccess"><translation>El tensiómetro ha hecho lo que se le ha pedido.</translation></message>
     <message id="monitorTimeOut"><translation>El tensiómetro no ha respondido a tiempo. Compruebe que está encendido y vuelva a intentarlo.</translation></message>
     <message id="monitorUnconfirmed"><translation>Se ha enviado al tensiómetro, pero no se ha podido leer qué tiene ahora. Compruébelo antes de volver a intentarlo.</translation></message>
-    <message id="monitorUnfitID"><translation>El tensiómetro no puede guardar este ID, así que no se ha enviado nada. Un ID para el tensiómetro tiene de 1 a 11 letras, cifras o signos, sin acentos.</translation></message>
+    <message id="monitorUnfitID"><translation>El tensiómetro no puede guardar este ID, así que no se ha enviado nada. Un ID para el tensiómetro tiene de 1 a 11 letras, cifras o signos, sin acentos ni «ñ».</translation></message>
     <message id="monitorWriteFailed"><translation>El tensiómetro no acepta lo que se le envía. Desconéctelo, vuelva a conectarlo e inténtelo otra vez.</translation></message>
     <message id="simulatedMissing"><translation>Falta el valor de «%1».</translation></message>
     <message id="simulatedNoPlan"><translation>Debe contener un objeto JSON.</translation></message>
@@ -200,7 +200,7 @@
     <message id="addDay"><translation>Más días: uno más en cada extremo del periodo</translation></message>
     <message id="addDayHint"><translation>Más días: uno más en cada extremo del periodo (+)</translation></message>
     <message id="afib"><translation>FA</translation></message>
-    <message id="age"><translation>%1 años</translation></message>
+    <message id="age"><translation>Edad: %1</translation></message>
     <message id="answerNo"><translation>No</translation></message>
     <message id="answerYes"><translation>Sí</translation></message>
     <message id="AP_Title"><translation>ZEL – mediciones de la presión arterial</translation></message>
@@ -349,7 +349,7 @@ mmHg</translation></message>
     <message id="downloadNew" numerus="yes"><translation><numerusform>%1, %n nueva</numerusform><numerusform>%1, %n nuevas</numerusform></translation></message>
     <message id="downloadNotFlushed"><translation>Las mediciones se han guardado, pero no es seguro que se conserven. %1</translation></message>
     <message id="downloadNothingNew"><translation>%1, ninguna nueva: todas estaban ya guardadas</translation></message>
-    <message id="downloadNotReadBack"><translation>%1. Después no se ha podido leer el archivo de datos, así que no se ha vaciado el tensiómetro. %2</translation></message>
+    <message id="downloadNotReadBack"><translation>%1. Después no se ha podido leer el archivo de datos, así que no se ha vaciado la memoria del tensiómetro. %2</translation></message>
     <message id="downloadNotStored"><translation>No se han podido guardar las mediciones. Siguen en el tensiómetro. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Las mediciones del tensiómetro pertenecen a un ID distinto del de este paciente, así que no se ha guardado nada. Conecte el tensiómetro de este paciente y vuelva a intentarlo.</translation></message>
     <message id="downloadProgress"><translation>Progreso de la descarga</translation></message>
@@ -360,8 +360,8 @@ mmHg</translation></message>
     <message id="EndDate"><translation>El último día debe ser posterior al primero, de modo que el periodo abarque dos días o más. Las fechas se han dejado como estaban.</translation></message>
     <message id="endEarlier"><translation>Terminar un día antes</translation></message>
     <message id="endLater"><translation>Terminar un día después</translation></message>
-    <message id="eraseFailed"><translation>%1. Las mediciones están bien guardadas, pero no se ha podido vaciar el tensiómetro: todavía las contiene. %2</translation></message>
-    <message id="eraseNotSeen"><translation>%1. Las mediciones están bien guardadas, pero no se ha podido comprobar si el tensiómetro está vacío ahora. %2</translation></message>
+    <message id="eraseFailed"><translation>%1. Las mediciones están bien guardadas, pero no se ha podido vaciar la memoria del tensiómetro: todavía las contiene. %2</translation></message>
+    <message id="eraseNotSeen"><translation>%1. Las mediciones están bien guardadas, pero no se ha podido comprobar si la memoria del tensiómetro está vacía ahora. %2</translation></message>
     <message id="eraseThem"><translation>&amp;Eliminar</translation></message>
     <message id="exportAll"><translation>Exportar todos los pacientes como archivos XML</translation></message>
     <message id="exportAlsoFailed"><translation>Lo mismo ha ocurrido con: %1</translation></message>
@@ -407,8 +407,8 @@ mmHg</translation></message>
     <message id="highFromHint"><translation>Los valores iguales o superiores a estos límites aparecen en negrita y marcados, aquí y en el papel. El gráfico, la estadística, el histograma y la correlación usan los límites de la configuración.</translation></message>
     <message id="highFromLabel"><translation>Marcar &amp;valores desde</translation></message>
     <message id="histogramView"><translation>Distribución de los valores</translation></message>
-    <message id="IDNotForMonitor"><translation>El ID «%1» no es adecuado para el tensiómetro. Un tensiómetro guarda ID de 1 a 11 letras, cifras y signos simples, sin acentos y sin espacios al principio ni al final.</translation></message>
-    <message id="IDRefused"><translation>Un ID tiene de 1 a 11 letras, cifras o signos simples, sin acentos: un tensiómetro no puede guardar más.</translation></message>
+    <message id="IDNotForMonitor"><translation>El ID «%1» no es adecuado para el tensiómetro. Un tensiómetro guarda ID de 1 a 11 letras, cifras y signos simples, sin acentos ni «ñ» y sin espacios al principio ni al final.</translation></message>
+    <message id="IDRefused"><translation>Un ID tiene de 1 a 11 letras, cifras o signos simples, sin acentos ni «ñ»: un tensiómetro no puede guardar más.</translation></message>
     <message id="IDStays"><translation>El ID no se puede cambiar: las mediciones y los comentarios dependen de él.</translation></message>
     <message id="ihd"><translation>Arritmia</translation></message>
     <message id="importAll"><translation>&amp;Todos</translation></message>
@@ -447,7 +447,7 @@ mmHg</translation></message>
     <message id="leaveOutReason"><translation>&amp;Motivo:</translation></message>
     <message id="leaveOutTitle"><translation>Excluir</translation></message>
     <message id="limitsHome"><translation>%1/%2 (en casa)</translation></message>
-    <message id="limitsLow"><translation>%1/%2 (más estricto)</translation></message>
+    <message id="limitsLow"><translation>%1/%2 (más estrictos)</translation></message>
     <message id="limitsNotKept"><translation>Los límites valen hasta que se cierre el programa. No se han podido conservar para la próxima vez: %1</translation></message>
     <message id="limitsOffice"><translation>%1/%2 (en consulta)</translation></message>
     <message id="limitsOwn"><translation>límites propios</translation></message>
@@ -475,9 +475,9 @@ mmHg</translation></message>
     <message id="monitorClock"><translation>Reloj</translation></message>
     <message id="monitorConnected"><translation>Tensiómetro conectado</translation></message>
     <message id="monitorConnectedID"><translation>El tensiómetro tiene el ID %1. Elija a ese paciente y pulse «Descargar» para recoger las mediciones.</translation></message>
-    <message id="monitorCounting"><translation>Preguntando al tensiómetro por sus mediciones. Puede tardar hasta 20 segundos…</translation></message>
+    <message id="monitorCounting"><translation>Consultando cuántas mediciones contiene el tensiómetro. Puede tardar hasta 20 segundos…</translation></message>
     <message id="monitorDownloading"><translation>Descargando mediciones…</translation></message>
-    <message id="monitorErasing"><translation>Vaciando el tensiómetro…</translation></message>
+    <message id="monitorErasing"><translation>Vaciando la memoria del tensiómetro…</translation></message>
     <message id="monitorGreeting"><translation>Leyendo el reloj y el ID del tensiómetro…</translation></message>
     <message id="monitorHoldsNone"><translation>El tensiómetro no tiene ahora ningún ID.</translation></message>
     <message id="monitorHoldsOther"><translation>El tensiómetro tiene ahora el ID %1, que no pertenece a ningún paciente de la lista.</translation></message>
@@ -511,13 +511,13 @@ mmHg</translation></message>
     <message id="noCommentPageAdvice"><translation>Este paciente aún no tiene comentarios. Se colocan en el gráfico.</translation></message>
     <message id="noComments"><translation>Todavía no hay comentarios. Los comentarios se colocan en el gráfico.</translation></message>
     <message id="NoData"><translation>Aún no hay mediciones</translation></message>
-    <message id="NoDataAdvice"><translation>Conecte el tensiómetro, elija el paciente en la página «Pacientes» y pulse «Descargar», o introduzca una medición con Ctrl+N.</translation></message>
+    <message id="NoDataAdvice"><translation>Conecte el tensiómetro, elija al paciente en la página «Pacientes» y pulse «Descargar», o introduzca una medición con Ctrl+N.</translation></message>
     <message id="noDisplay"><translation>no hay pantalla en la que abrir una ventana. Inicie zel en una sesión de escritorio o use las órdenes que no necesitan ventana: véase zel --help</translation></message>
     <message id="noFiles"><translation>No hay archivos XML en esta carpeta</translation></message>
     <message id="noFilesAdvice"><translation>Elija la carpeta a la que se exportaron los pacientes.</translation></message>
     <message id="noHome"><translation>la variable de entorno HOME no indica una carpeta (ruta absoluta), así que no hay lugar para los datos.</translation></message>
     <message id="noID"><translation>ninguno</translation></message>
-    <message id="none"><translation>no hay</translation></message>
+    <message id="none"><translation>ninguno</translation></message>
     <message id="noneInPeriod"><translation>No hay mediciones en este periodo</translation></message>
     <message id="noneInPeriodAdvice"><translation>Elija otras fechas arriba, o bien «Todo» y «Día entero». Las mediciones sin fecha se muestran si además está marcada la casilla «Mediciones sin fecha».</translation></message>
     <message id="nonePrintedAdvice"><translation>Cierre esta ventana y elija otras fechas en la página «Mediciones» o «Gráfico», o bien «Todo» y «Día entero» allí. Las mediciones sin fecha se imprimen si está marcada la casilla «Mediciones sin fecha».</translation></message>
@@ -532,7 +532,7 @@ mmHg</translation></message>
     <message id="NoPrnterMsg"><translation>Este equipo no tiene ninguna impresora, así que no se puede imprimir. Instale una en la configuración del sistema y vuelva a intentarlo, o guarde las páginas como PDF.</translation></message>
     <message id="notes"><translation>Notas</translation></message>
     <message id="notKnown"><translation>–</translation></message>
-    <message id="noValue"><translation>n.a.</translation></message>
+    <message id="noValue"><translation>n. d.</translation></message>
     <message id="ok"><translation>&amp;Aceptar</translation></message>
     <message id="ownDia"><translation>Límite diastólico propio en mmHg, 0 si no hay</translation></message>
     <message id="ownSys"><translation>Límite sistólico propio en mmHg, 0 si no hay</translation></message>
@@ -544,7 +544,7 @@ mmHg</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n paciente</numerusform><numerusform>%n pacientes</numerusform></translation></message>
     <message id="patientDeleted"><translation>Se han eliminado los datos de %1.</translation></message>
     <message id="patientEditor"><translation>Datos del paciente</translation></message>
-    <message id="patientGone"><translation>%1 ya no está en el archivo de datos: otro programa ha quitado este paciente o aquí se ha deshecho un cambio. Lo que ha escrito sigue aquí, y con «Guardar» se vuelve a añadir el paciente.</translation></message>
+    <message id="patientGone"><translation>%1 ya no está en el archivo de datos: otro programa ha eliminado sus datos o aquí se ha deshecho un cambio. Lo que ha escrito sigue aquí, y con «Guardar» se vuelve a añadir el paciente.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
     <message id="patientIDTwice"><translation>El archivo de datos contiene más de un paciente con el ID %1. No se pueden distinguir, así que no se cambia ni se elimina ninguno de ellos.</translation></message>
@@ -553,7 +553,7 @@ mmHg</translation></message>
     <message id="patientPartlySaved"><translation>No se han podido guardar todos los datos de %1: en el archivo de datos no hay lugar para algunos. Lo que no se ha podido guardar sigue en los campos.</translation></message>
     <message id="patientRefused"><translation>Todavía no se ha guardado nada. Corrija lo que está marcado:
 %1</translation></message>
-    <message id="patientReplaced"><translation>%1 ya no está en el archivo de datos: otro programa ha quitado este paciente. Ahora se muestra otro.</translation></message>
+    <message id="patientReplaced"><translation>%1 ya no está en el archivo de datos: otro programa ha eliminado sus datos. Ahora se muestra otro paciente.</translation></message>
     <message id="patientSaved"><translation>Se han guardado los datos de %1.</translation></message>
     <message id="patientsDetail"><translation>Elija un paciente o introduzca uno nuevo.</translation></message>
     <message id="patientsInputFields"><translation>Los apellidos, el nombre y el ID son necesarios. Todavía no se ha guardado nada; rellene lo que está marcado.</translation></message>
@@ -578,7 +578,7 @@ mmHg</translation></message>
     <message id="printDone"><translation>Enviado a la impresora %1</translation></message>
     <message id="printer"><translation>Impresora</translation></message>
     <message id="printerButton"><translation>I&amp;mpresora…</translation></message>
-    <message id="printerGone"><translation>La impresora «%1» ya no está disponible, así que no se ha imprimido nada. Compruebe que está encendida y conectada, o elija otra.</translation></message>
+    <message id="printerGone"><translation>La impresora «%1» ya no está disponible, así que no se ha impreso nada. Compruebe que está encendida y conectada, o elija otra.</translation></message>
     <message id="printerLabel"><translation>I&amp;mpresora</translation></message>
     <message id="printerShown"><translation>Impresora: %1</translation></message>
     <message id="printFailed"><translation>No se han podido entregar todas las páginas a la impresora «%1». El trabajo se ha retirado y no se imprime nada. Compruebe su cola de impresión y que el disco no está lleno, y vuelva a intentarlo.</translation></message>
@@ -643,20 +643,20 @@ mmHg</translation></message>
     <message id="settingDia"><translation>Límite diastólico en mmHg</translation></message>
     <message id="settingDiaLabel"><translation>&amp;Diastólica</translation></message>
     <message id="settingDisplay"><translation>Presentación</translation></message>
-    <message id="settingErase"><translation>Vaciar el tensiómetro después de cada descarga</translation></message>
-    <message id="settingEraseButton"><translation>&amp;Vaciar el tensiómetro tras descargar</translation></message>
+    <message id="settingErase"><translation>Vaciar la memoria del tensiómetro después de cada descarga</translation></message>
+    <message id="settingEraseButton"><translation>&amp;Vaciar la memoria tras descargar</translation></message>
     <message id="settingEraseHint"><translation>Sus mediciones se eliminan del tensiómetro en cuanto están todas bien guardadas aquí.</translation></message>
     <message id="settingLanguage"><translation>Idioma</translation></message>
     <message id="settingLanguageLabel"><translation>Idi&amp;oma</translation></message>
-    <message id="settingLanguageSystem"><translation>Como el sistema</translation></message>
-    <message id="settingLanguageWhen"><translation>El nuevo idioma se muestra a partir del próximo inicio.</translation></message>
+    <message id="settingLanguageSystem"><translation>El del sistema</translation></message>
+    <message id="settingLanguageWhen"><translation>El nuevo idioma se usará la próxima vez que abra ZEL.</translation></message>
     <message id="settingLimits"><translation>Límites de presión arterial</translation></message>
     <message id="settingMAP"><translation>Mostrar la presión arterial media</translation></message>
     <message id="settingMAPButton"><translation>Presión arterial &amp;media (PAM)</translation></message>
     <message id="settingOK"><translation>Guardar la configuración</translation></message>
     <message id="settingPhysician"><translation>Médico, para el pie de los informes impresos</translation></message>
     <message id="settingPhysicianTitle"><translation>Médico</translation></message>
-    <message id="settingPhysicianUse"><translation>Figura al pie de los informes impresos cuando se marca en la ventana de impresión.</translation></message>
+    <message id="settingPhysicianUse"><translation>Figura al pie de los informes si se marca «Datos del médico» al imprimir.</translation></message>
     <message id="settingPP"><translation>Mostrar la presión de pulso</translation></message>
     <message id="settingPPButton"><translation>&amp;Presión de pulso (PP)</translation></message>
     <message id="settingPPorMAP"><translation>Mostrar con cada medición</translation></message>
@@ -693,7 +693,7 @@ mmHg</translation></message>
     <message id="spokenPulse"><translation>Pulso, latidos por minuto</translation></message>
     <message id="spokenSys"><translation>Presión sistólica, mmHg</translation></message>
     <message id="statisticAll"><translation>Todos los días con mediciones</translation></message>
-    <message id="statisticAllHint"><translation>Tomar todo el tiempo, de la primera medición a la última. Para tomar solo una parte, elija otras fechas arriba.</translation></message>
+    <message id="statisticAllHint"><translation>Usar todos los días, de la primera medición a la última. Para usar solo una parte, elija otras fechas arriba.</translation></message>
     <message id="statisticPanel"><translation>Estadística</translation></message>
     <message id="statisticWholeDay"><translation>A cualquier hora del día: %1</translation></message>
     <message id="statusBroken"><translation>Tensiómetro conectado, falla la comunicación</translation></message>
@@ -734,7 +734,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="undone"><translation>Deshecho: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
     <message id="unitPulse"><translation>latidos por minuto</translation></message>
-    <message id="unsavedDelete"><translation>¿Eliminar lo escrito para %1? Si no, se le volverá a preguntar en el próximo inicio.</translation></message>
+    <message id="unsavedDelete"><translation>¿Eliminar lo escrito para %1? Si no, se le volverá a preguntar la próxima vez que abra ZEL.</translation></message>
     <message id="unsavedFound"><translation>Al cerrarse el programa, no se pudo guardar lo que se estaba escribiendo para %1. ¿Continuar ahora con ello?</translation></message>
     <message id="unsavedTitle"><translation>Sin guardar todavía</translation></message>
     <message id="valueHigh"><translation>%1, igual o superior al límite</translation></message>
@@ -762,7 +762,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="weekEnd"><translation>Último día de la semana de medición</translation></message>
     <message id="weekEvenings"><translation>Tarde %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
-    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primer día sin contar</numerusform><numerusform>%n del primer día sin contar</numerusform></translation></message>
+    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primer día, sin contar</numerusform><numerusform>%n del primer día, sin contar</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Media %1/%2 mmHg, pulso %3</translation></message>
     <message id="weekMissing"><translation>Incompleta, necesita %1</translation></message>
@@ -840,11 +840,11 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="formCholesterol"><translation>Colesterol (mg/dL)</translation></message>
     <message id="formDay"><translation>Día</translation></message>
     <message id="formDiabetic"><translation>Diabetes</translation></message>
-    <message id="formFamilyHistory"><translation>Antecedentes</translation></message>
+    <message id="formFamilyHistory"><translation>Ant. familiares</translation></message>
     <message id="formFamilyName"><translation>Apellidos</translation></message>
     <message id="formGivenNames"><translation>Nombre</translation></message>
     <message id="formHeightCm"><translation>Estatura (cm)</translation></message>
-    <message id="formHeightFtIn"><translation>Estatura (pies/pulg.)</translation></message>
+    <message id="formHeightFtIn"><translation>Estatura (ft/in)</translation></message>
     <message id="formID"><translation>ID</translation></message>
     <message id="formMonth"><translation>Mes</translation></message>
     <message id="formNotes"><translation>Notas sobre el paciente</translation></message>
@@ -861,13 +861,13 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="histogram"><translation>Distribución de las mediciones</translation></message>
     <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
-    <message id="n.a."><translation>n.a.</translation></message>
-    <message id="N.A."><translation>N.A.</translation></message>
+    <message id="n.a."><translation>n. d.</translation></message>
+    <message id="N.A."><translation>n. d.</translation></message>
     <message id="No"><translation>No</translation></message>
     <message id="PatientProfile"><translation>Datos del paciente</translation></message>
     <message id="reportAllComments"><translation>Comentarios de toda fecha, no solo del periodo</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1, a cualquier hora del día</translation></message>
-    <message id="reportAverage"><translation>media de varias mediciones</translation></message>
+    <message id="reportAverage"><translation>media de varias tomas</translation></message>
     <message id="reportBothAbove"><translation>Ambas por encima: %1</translation></message>
     <message id="reportCommentBars"><translation>Barras: comentarios, por número</translation></message>
     <message id="reportCommentsLeftOut"><translation>En un informe caben %1 comentarios con %2 caracteres en total. Siguen los más recientes; una exportación los contiene todos.</translation></message>
@@ -884,7 +884,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportEarlierComments" numerus="yes"><translation><numerusform>%n comentario anterior no se imprime</numerusform><numerusform>%n comentarios anteriores no se imprimen</numerusform></translation></message>
     <message id="reportEmptySections"><translation>Sin datos, por lo que no están en este informe: %1</translation></message>
     <message id="reportEveningOnly"><translation>Solo se muestran las mediciones a partir del mediodía</translation></message>
-    <message id="reportFindingUnknown"><translation>N.A.: se desconoce</translation></message>
+    <message id="reportFindingUnknown"><translation>n. d.: se desconoce</translation></message>
     <message id="reportFound"><translation>detectada</translation></message>
     <message id="reportGoesOn"><translation>continúa en la página siguiente</translation></message>
     <message id="reportGraphComments"><translation>Recuadros numerados: comentarios.</translation></message>
@@ -893,7 +893,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>El límite de %1 queda fuera de la escala.</numerusform><numerusform>Los límites de %1 quedan fuera de la escala.</numerusform></translation></message>
     <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Línea discontinua: el límite de %1.</numerusform><numerusform>Líneas discontinuas: los límites de %1.</numerusform></translation></message>
     <message id="reportGraphNote"><translation>Línea superior: presión sistólica; línea inferior: presión diastólica.</translation></message>
-    <message id="reportHistogramNote"><translation>La longitud de cada barra es la proporción, en porcentaje, de todas las mediciones que quedan en su intervalo de 10 mmHg o de 10 latidos por minuto.</translation></message>
+    <message id="reportHistogramNote"><translation>La longitud de cada barra es la proporción, en porcentaje, de las mediciones que caen en su intervalo de 10 mmHg o de 10 latidos por minuto.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Igual o inferior a %1: %2</numerusform><numerusform>Igual o inferior a los límites de %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulso %5</translation></message>
     <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n medición excluida por el usuario, y su motivo</numerusform><numerusform>%n mediciones excluidas por el usuario, y sus motivos</numerusform></translation></message>
@@ -904,16 +904,16 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportMoreNumbers" numerus="yes"><translation><numerusform>y %n más</numerusform><numerusform>y %n más</numerusform></translation></message>
     <message id="reportMorningOnly"><translation>Solo se muestran las mediciones de antes del mediodía</translation></message>
     <message id="reportNoData"><translation>No hay nada que imprimir: las secciones elegidas no contienen datos para este paciente y periodo. No se ha escrito ningún archivo.</translation></message>
-    <message id="reportNoDate"><translation>n.a: sin fecha</translation></message>
+    <message id="reportNoDate"><translation>sin fecha: no se guardó ninguna</translation></message>
     <message id="reportNoFigures"><translation>n/a: sin mediciones</translation></message>
     <message id="reportNoLimits"><translation>No hay límites fijados.</translation></message>
-    <message id="reportNoReading"><translation>n.a.: sin medición</translation></message>
+    <message id="reportNoReading"><translation>n. d.: sin medición</translation></message>
     <message id="reportNotFound"><translation>no detectada</translation></message>
     <message id="reportNotPainted"><translation>No se han podido convertir las páginas en un PDF. No se ha escrito ningún archivo.</translation></message>
     <message id="reportNotWritable"><translation>No se ha podido escribir el archivo %1. Compruebe que su carpeta existe y que tiene permiso para escribir en ella.</translation></message>
     <message id="reportPage"><translation>Página %1 de %2</translation></message>
-    <message id="reportPatient"><translation>Paciente=%1 %2  ID=%3</translation></message>
-    <message id="reportPeriod"><translation>Desde: %1 Hasta: %2</translation></message>
+    <message id="reportPatient"><translation>Paciente: %1 %2  ID: %3</translation></message>
+    <message id="reportPeriod"><translation>Del %1 al %2</translation></message>
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n medición</numerusform><numerusform>%n mediciones</numerusform></translation></message>
     <message id="reportStruckThrough"><translation>tachada: excluida de todos los cálculos; los motivos figuran después de la tabla</translation></message>
     <message id="reportSysAbove"><translation>Solo la sistólica por encima: %1</translation></message>
@@ -936,15 +936,15 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryEvening"><translation>Tarde</translation></message>
     <message id="summaryEvenings"><translation>Tarde %1</translation></message>
     <message id="summaryExcluded"><translation>%1 %2  %3/%4: %5</translation></message>
-    <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n del primer día sin contar</numerusform><numerusform>%n del primer día sin contar</numerusform></translation></message>
-    <message id="summaryFlagged" numerus="yes"><translation><numerusform>Arritmia señalada (función %1): %2 de %n medición</numerusform><numerusform>Arritmia señalada (función %1): %2 de %n mediciones</numerusform></translation></message>
+    <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n del primer día, sin contar</numerusform><numerusform>%n del primer día, sin contar</numerusform></translation></message>
+    <message id="summaryFlagged" numerus="yes"><translation><numerusform>Aviso de %1: %2 de %n medición</numerusform><numerusform>Aviso de %1: %2 de %n mediciones</numerusform></translation></message>
     <message id="summaryHigh"><translation>Igual o superior a %1</translation></message>
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 de %n medición</numerusform><numerusform>%1 de %n mediciones</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Incompleta, necesita %1</translation></message>
     <message id="summaryInFull"><translation>…: texto completo en «%1».</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Último día: media (mediciones)</numerusform><numerusform>Últimos %n días: media (mediciones)</numerusform></translation></message>
-    <message id="summaryLeftOut"><translation>Excluidas</translation></message>
+    <message id="summaryLeftOut"><translation>Sin contar</translation></message>
     <message id="summaryMax"><translation>Máx</translation></message>
     <message id="summaryMean"><translation>Media</translation></message>
     <message id="summaryMin"><translation>Mín</translation></message>
@@ -978,10 +978,10 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryTrendComments"><translation>Tendencia y, debajo, los comentarios por número</translation></message>
     <message id="summaryTrendHidden"><translation>Fuera de la escala de la tendencia: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Líneas rectas finas en la tendencia: %1.</translation></message>
-    <message id="summaryTyped" numerus="yes"><translation><numerusform>Manuales: %1 de %n medición</numerusform><numerusform>Manuales: %1 de %n mediciones</numerusform></translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Introducida a mano: %1 de %n medición</numerusform><numerusform>Introducidas a mano: %1 de %n mediciones</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semana de medición (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida por el usuario</numerusform><numerusform>%n de la semana excluidas por el usuario</numerusform></translation></message>
-    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semana, manual</numerusform><numerusform>%n de la semana, manuales</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semana, introducida</numerusform><numerusform>%n de la semana, introducidas</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="SWStatistics"><translation>Estadística y mediciones</translation></message>
     <message id="table"><translation>Mediciones</translation></message>
@@ -997,7 +997,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliBadDate"><translation>--%1 necesita un día del calendario en la forma yyyy-MM-dd, no '%2'.</translation></message>
     <message id="CliBadDays"><translation>--last necesita un número entero de días de 1 a %2, no '%1'.</translation></message>
     <message id="CliBadField"><translation>El valor de --%1 no debe ser '-', ni empezar o terminar con un espacio, ni contener caracteres de control.</translation></message>
-    <message id="CliBadID"><translation>El valor de --id debe tener de 1 a 11 letras, cifras o signos simples, sin acentos: un tensiómetro no puede guardar más.</translation></message>
+    <message id="CliBadID"><translation>El valor de --id debe tener de 1 a 11 letras, cifras o signos simples, sin acentos ni 'ñ': un tensiómetro no puede guardar más.</translation></message>
     <message id="CliBadPaper"><translation>--paper necesita A4 o Letter, no '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait necesita un número entero de segundos de 0 a %1.</translation></message>
     <message id="CliChangeOfNothing"><translation>--change necesita al menos una de estas opciones: --date, --time, --sys, --dia y --pulse.</translation></message>
@@ -1005,11 +1005,11 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliClockUnset"><translation>No se ha podido ajustar el reloj del tensiómetro. %1</translation></message>
     <message id="CliCountUnread"><translation>No se ha podido leer el número de mediciones del tensiómetro. %1</translation></message>
     <message id="CliDownloadFailed"><translation>No se han podido descargar las mediciones y no se ha guardado nada. %1 Siguen en el tensiómetro: vuelva a intentarlo.</translation></message>
-    <message id="CliDownloadNotReadBack"><translation>Las mediciones se han guardado, pero después no se ha podido leer el archivo de datos, así que no se ha vaciado el tensiómetro. %1</translation></message>
+    <message id="CliDownloadNotReadBack"><translation>Las mediciones se han guardado, pero después no se ha podido leer el archivo de datos, así que no se ha vaciado la memoria del tensiómetro. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>No se han podido guardar las mediciones descargadas. %1 Siguen en el tensiómetro.</translation></message>
     <message id="CliEmptySections"><translation>Sin datos, por lo que no están en el informe: %1</translation></message>
     <message id="CliEraseAfterFailed"><translation>Las mediciones están bien guardadas, pero después no se ha podido vaciar la memoria del tensiómetro. %1 Puede vaciarla con 'zel monitor --erase --yes'.</translation></message>
-    <message id="CliEraseAfterUnseen"><translation>Las mediciones están bien guardadas, pero no se ha podido comprobar si el tensiómetro está vacío ahora. %1 'zel monitor' muestra lo que contiene.</translation></message>
+    <message id="CliEraseAfterUnseen"><translation>Las mediciones están bien guardadas, pero no se ha podido comprobar si la memoria del tensiómetro está vacía ahora. %1 'zel monitor' muestra lo que contiene.</translation></message>
     <message id="CliEraseFailed"><translation>No se ha podido vaciar la memoria del tensiómetro. %1</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase elimina todas las mediciones del tensiómetro de forma definitiva. Añada --yes si es lo que quiere.</translation></message>
     <message id="CliEraseNoID"><translation>La memoria del tensiómetro se vacía escribiéndole de nuevo su propio ID, pero no tiene ninguno que pueda guardar. Dele antes uno con 'zel monitor --send-id ID'.</translation></message>
@@ -1200,10 +1200,10 @@ una frase en la salida de error.
 
 Con --exclude, --include, --add, --change o --delete, en cambio, se modifica el archivo de datos. Una medición
 excluida sigue en el archivo y en la lista, con su motivo, y no cuenta en ningún cálculo; una frase en la
-salida de error dice cuántas de las mediciones listadas lo están. Una medición introducida a mano se marca
-como manual; las presiones y el pulso son números enteros de 30 a 300, la presión diastólica es inferior a la
-sistólica y la hora no está en el futuro. --add muestra 'record: RECORD'. Solo se pueden cambiar o eliminar
-las mediciones introducidas a mano.
+salida de error dice cuántas de las mediciones listadas lo están. Una medición introducida a mano lleva la
+marca 'introducida'; las presiones y el pulso son números enteros de 30 a 300, la presión diastólica es
+inferior a la sistólica y la hora no está en el futuro. --add muestra 'record: RECORD'. Solo se pueden cambiar
+o eliminar las mediciones introducidas a mano.
 
 Opciones:
   --patient ID                 de quién son las mediciones
@@ -1273,7 +1273,7 @@ los valores, no se cambia ninguno. En los textos, \n representa un salto de lín
   DateFormat                   dd mm yyyy, mm dd yyyy o yyyy mm dd
   TimeFormat                   12-hours o 24-hours
   MetricFormat                 kg / cm o lb / in
-  EraseRecAfterReading         1: vaciar el tensiómetro tras una descarga bien guardada; si no, 0
+  EraseRecAfterReading         1: vaciar la memoria del tensiómetro tras una descarga bien guardada; si no, 0
   ShowPPorMap                  0: mostrar la presión de pulso; 1: mostrar la presión arterial media
   UserWhoStandard              1: la ventana de configuración muestra los límites como los de la OMS; si no, 0
   SysStandard                  límite sistólico, 0 (ninguno) o de 60 a 260 mmHg
@@ -1334,7 +1334,7 @@ Opciones:
     <message id="CliSettingNotKept"><translation>En el archivo de datos no hay lugar para el valor de configuración %1, así que no se ha cambiado nada.</translation></message>
     <message id="CliSettingTwice"><translation>El valor de configuración %1 se ha indicado más de una vez.</translation></message>
     <message id="CliSettingUnknown"><translation>No hay ningún valor de configuración '%1'. Los que hay son: %2.</translation></message>
-    <message id="CliSettingValue"><translation>%1 admite %2, no '%3'.</translation></message>
+    <message id="CliSettingValue"><translation>%1 no admite '%3'; admite %2.</translation></message>
     <message id="CliTryHelp"><translation>Pruebe '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' no se esperaba aquí.</translation></message>
     <message id="CliUnknownCommand"><translation>No hay ninguna orden '%1'.</translation></message>
