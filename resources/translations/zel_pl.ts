@@ -46,17 +46,17 @@
     <message id="ManualPulse"><translation>Tętno musi być liczbą od %1 do %2.</translation></message>
     <message id="ManualSys"><translation>Ciśnienie skurczowe musi być liczbą od %1 do %2.</translation></message>
     <message id="ManualTooEarly"><translation>Data jest wcześniejsza niż rok 1900.</translation></message>
-    <message id="n.a"><translation>n.a</translation></message>
-    <message id="N/A"><translation>N/A</translation></message>
-    <message id="NotBackedUp"><translation>Przed tą zmianą nie udało się utworzyć kopii pliku danych w %1. %2</translation></message>
+    <message id="n.a"><translation>b.d.</translation></message>
+    <message id="N/A"><translation>b.d.</translation></message>
+    <message id="NotBackedUp"><translation>Przed tą zmianą nie udało się utworzyć kopii pliku danych w folderze %1. %2</translation></message>
     <message id="remarkExcluded"><translation>pominięty: %1</translation></message>
     <message id="remarkManual"><translation>wpisany</translation></message>
     <message id="SecondFolderAway"><translation>Drugi folder na kopie pliku danych, %1, jest niedostępny, dlatego nie ma w nim dzisiejszej kopii. Zostanie w nim zapisana przy następnej zmianie, gdy folder będzie znów dostępny.</translation></message>
-    <message id="SecondFolderBroken"><translation>Z %1 nie można odczytać, do którego drugiego folderu trafiają kopie pliku danych, dlatego nie trafiają do żadnego. Proszę wybrać go ponownie.</translation></message>
+    <message id="SecondFolderBroken"><translation>Z pliku %1 nie można odczytać, do jakiego drugiego folderu mają trafiać kopie pliku danych, dlatego nie trafiają do żadnego. Proszę wybrać go ponownie.</translation></message>
     <message id="SecondFolderFailed"><translation>Nie udało się zapisać dzisiejszej kopii pliku danych w drugim folderze, %1.</translation></message>
     <message id="SecondFolderNoRoom"><translation>Dzisiejszej kopii pliku danych nie ma w drugim folderze, %1: wszystkie kopie mogą tam zająć łącznie jedną dziesiątą wolnego miejsca na dysku, a to mniej niż rozmiar pliku.</translation></message>
     <message id="SecondFolderNotFlushed"><translation>Dzisiejszą kopię pliku danych zapisano w drugim folderze, %1, ale dysk nie potwierdził trwałego zapisu: po zaniku zasilania kopii może brakować.</translation></message>
-    <message id="SecondFolderNotRecorded"><translation>Nie udało się zapisać drugiego folderu na kopie w %1. Niczego nie zmieniono.</translation></message>
+    <message id="SecondFolderNotRecorded"><translation>Nie udało się zapisać drugiego folderu na kopie w pliku %1. Niczego nie zmieniono.</translation></message>
     <message id="SettingLimit"><translation>0 (brak) albo liczba całkowita od %1 do %2</translation></message>
     <message id="SettingOneOf"><translation>jedna z wartości %1</translation></message>
     <message id="SettingQuoted"><translation>„%1”</translation></message>
@@ -77,7 +77,7 @@
     <message id="StoreAlreadyKnown"><translation>Pacjent o ID „%1” jest już na liście. Niczego nie zmieniono.</translation></message>
     <message id="StoreBusy"><translation>Inny program korzysta z pliku danych %1, na tym komputerze albo na innym, który ma do niego dostęp. Niczego nie zmieniono; proszę spróbować ponownie za chwilę albo, jeśli tamten komputer stracił połączenie z siecią, za kilka minut.</translation></message>
     <message id="StoreChangedElsewhere"><translation>W międzyczasie zmienił to inny program. Tutaj niczego nie zmieniono; proszę sprawdzić, jak to wygląda teraz.</translation></message>
-    <message id="StoreDiskFull"><translation>Dysk jest pełny: nie udało się zapisać %1. Dotychczasowa zawartość pozostała bez zmian. Proszę zwolnić miejsce na dysku i spróbować ponownie.</translation></message>
+    <message id="StoreDiskFull"><translation>Dysk jest pełny: nie udało się zapisać pliku %1. Dotychczasowa zawartość pozostała bez zmian. Proszę zwolnić miejsce na dysku i spróbować ponownie.</translation></message>
     <message id="StoreInvalidRecord"><translation>Pacjent musi mieć własne ID; „%1” nim nie jest. Niczego nie zmieniono.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 zajmuje miejsce, w którym programy zaznaczają, że korzystają z pliku danych, a takim znacznikiem nie jest. Niczego nie zmieniono; proszę to przenieść gdzie indziej i spróbować ponownie.</translation></message>
     <message id="StoreNoPermissions"><translation>Inne osoby na tym komputerze nadal mogą odczytać %1: ten system plików nie obsługuje uprawnień. Proszę przechowywać dane na innym dysku.</translation></message>
@@ -86,28 +86,28 @@
     <message id="StoreNoStep"><translation>Nie ma czego cofnąć ani ponowić.</translation></message>
     <message id="StoreNoSuchBackup"><translation>Nie ma kopii pliku danych o nazwie „%1”.</translation></message>
     <message id="StoreNoSuchRecord"><translation>Nie ma pacjenta o ID „%1”.</translation></message>
-    <message id="StoreNotCreated"><translation>Nie ma jeszcze pliku danych i nie udało się utworzyć %1. Proszę sprawdzić, czy wolno zapisywać w folderze i czy dysk nie jest pełny, a potem uruchomić program ponownie.</translation></message>
+    <message id="StoreNotCreated"><translation>Nie ma jeszcze pliku danych i nie udało się go utworzyć (%1). Proszę sprawdzić, czy wolno zapisywać w folderze i czy dysk nie jest pełny, a potem uruchomić program ponownie.</translation></message>
     <message id="StoreNotFlushed"><translation>Plik %1 zapisano, ale dysk nie potwierdził trwałego zapisu: po zaniku zasilania może w nim być znów starsza zawartość. Proszę sprawdzić dysk; pomiary z ciśnieniomierza są nadal w ciśnieniomierzu.</translation></message>
     <message id="StoreNotMadePrivate"><translation>Inne osoby na tym komputerze nadal mogą odczytać %1: nie udało się zmienić uprawnień.</translation></message>
     <message id="StoreNotManual"><translation>Pomiarów pobranych z ciśnieniomierza nie można zmieniać ani usuwać; można je pominąć, podając powód. Niczego nie zmieniono.</translation></message>
     <message id="StoreNotParsed"><translation>Plik danych %1 jest uszkodzony albo nie jest plikiem danych tego programu. Pozostaje bez zmian; dopóki nie da się go odczytać, niczego nie można zapisać: proszę go naprawić, zastąpić kopią albo przenieść w inne miejsce, aby zacząć od nowego.</translation></message>
     <message id="StoreNotReadable"><translation>Nie można odczytać pliku danych %1. Pozostaje on bez zmian i dopóki nie da się go odczytać, niczego nie można zapisać.</translation></message>
     <message id="StoreNotWritable"><translation>Nie można zapisać pliku danych %1. Niczego nie zmieniono; proszę sprawdzić uprawnienia do pliku i jego folderu.</translation></message>
-    <message id="StoreQuotaReached"><translation>Na tym dysku nie można zapisać więcej danych (limit miejsca jest wyczerpany): nie udało się zapisać %1. Dotychczasowa zawartość pozostała bez zmian. Proszę usunąć zbędne pliki albo poprosić o więcej miejsca i spróbować ponownie.</translation></message>
+    <message id="StoreQuotaReached"><translation>Na tym dysku nie można zapisać więcej danych (limit miejsca jest wyczerpany): nie udało się zapisać pliku %1. Dotychczasowa zawartość pozostała bez zmian. Proszę usunąć zbędne pliki albo poprosić o więcej miejsca i spróbować ponownie.</translation></message>
     <message id="StoreReadingGone"><translation>Tego pomiaru już nie ma. Niczego nie zmieniono.</translation></message>
     <message id="StoreReadingKnown"><translation>Istnieje już pomiar z tej samej minuty o tych samych wartościach. Niczego nie zmieniono.</translation></message>
     <message id="StoreReadingRefused"><translation>Pomiaru nie zapisano.</translation></message>
-    <message id="StoreSizeLimit"><translation>Pliki nie mogą tu być tak duże: nie udało się zapisać %1. Dotychczasowa zawartość pozostała bez zmian. Proszę zapytać opiekuna tego komputera o limit rozmiaru plików.</translation></message>
+    <message id="StoreSizeLimit"><translation>Pliki nie mogą tu być tak duże: nie udało się zapisać pliku %1. Dotychczasowa zawartość pozostała bez zmian. Proszę zapytać opiekuna tego komputera o limit rozmiaru plików.</translation></message>
     <message id="StoreStepChanged"><translation>To, czego dotyczy ta czynność, zostało od tego czasu ponownie zmienione przez inny program lub ręcznie. Niczego nie zmieniono.</translation></message>
     <message id="StoreStepGone"><translation>Tego, czego dotyczy ta czynność, nie ma już w pliku danych. Niczego nie zmieniono.</translation></message>
-    <message id="StoreStepHasRecords"><translation>Od tego czasu pacjent o ID „%1” ma pomiary lub komentarze, które nie należałyby do nikogo. Niczego nie zmieniono.</translation></message>
+    <message id="StoreStepHasRecords"><translation>Pacjentowi o ID „%1” przybyły od tego czasu pomiary lub komentarze, które nie należałyby już do nikogo. Niczego nie zmieniono.</translation></message>
     <message id="StoreStepPatientGone"><translation>Pacjenta o ID „%1”, do którego należy komentarz, nie ma już w pliku danych. Niczego nie zmieniono.</translation></message>
     <message id="StoreStepPatientKnown"><translation>Pacjent o ID „%1” jest już na liście. Niczego nie zmieniono.</translation></message>
     <message id="StoreStepThere"><translation>To, co miałoby wrócić, jest już z powrotem w pliku danych. Niczego nie zmieniono.</translation></message>
     <message id="StoreTooLarge"><translation>Plik danych %1 jest większy niż 512 MiB; tak dużych plików program nie odczytuje. Plik pozostaje bez zmian i niczego nie można zapisać: proszę zastąpić go mniejszą kopią albo przenieść w inne miejsce, aby zacząć od nowego.</translation></message>
     <message id="StoreUnreadable"><translation>Plik danych %1 pozostał bez zmian: tego, co miało zostać zapisane, nie udało się potem z powrotem odczytać.</translation></message>
     <message id="StoreWriteFailed"><translation>Zapis pliku danych %1 się nie powiódł; plik pozostał bez zmian. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
-    <message id="ViewLimitsUnread"><translation>Nie można odczytać %1, gdzie zapisano, od jakich granic oznacza się wartości. Do czasu ponownego wyboru granic wartości są oznaczane od %2/%3 mmHg.</translation></message>
+    <message id="ViewLimitsUnread"><translation>Nie można odczytać pliku %1, w którym zapisano, od jakich granic oznacza się wartości. Do czasu ponownego wyboru granic wartości są oznaczane od %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Uwaga</translation></message>
     <message id="XmlAttributeTwice"><translation>Ten sam atrybut występuje w elemencie dwukrotnie.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>Plik zawiera bajty spoza swojego kodowania, %1.</translation></message>
@@ -149,7 +149,7 @@
     <message id="simulatedNotList"><translation>Wartość „%1” musi być listą.</translation></message>
     <message id="simulatedNotObject"><translation>Wartość „%1” musi być obiektem.</translation></message>
     <message id="simulatedNotText"><translation>Wartość „%1” musi być tekstem.</translation></message>
-    <message id="simulatedNotTime"><translation>Wartość „%1” musi być datą i godziną w rodzaju 2026-11-01T07:12, z lat 2000–2099, albo słowem undated.</translation></message>
+    <message id="simulatedNotTime"><translation>Wartość „%1” musi być datą i godziną, na przykład 2026-11-01T07:12, z lat 2000–2099, albo słowem undated.</translation></message>
     <message id="simulatedNotWhole"><translation>Wartość „%1” musi być liczbą całkowitą z zakresu %2.</translation></message>
     <message id="simulatedRefused"><translation>Nie można użyć pliku symulowanego ciśnieniomierza %1: %2</translation></message>
     <message id="simulatedTooMany"><translation>Lista „%1” może mieć najwyżej tyle pozycji: %2.</translation></message>
@@ -252,13 +252,13 @@
     <message id="changeReadingAction"><translation>Zmień pomiar…</translation></message>
     <message id="changeReadingTitle"><translation>Zmiana pomiaru</translation></message>
     <message id="chartKeys"><translation>W okresie: %1. Strzałki przesuwają okres, plus i minus wydłużają go i skracają, Ctrl ze strzałką w lewo lub w prawo przechodzi od pomiaru do pomiaru.</translation></message>
-    <message id="cholestrolRefused"><translation>Proszę podać liczbę od 10 do 5000 mg/dL, na przykład 200. 1 mmol/L to około 38,7 mg/dL.</translation></message>
+    <message id="cholestrolRefused"><translation>Proszę podać liczbę od 10 do 5000 mg/dl, na przykład 200. 1 mmol/L to około 38,7 mg/dl.</translation></message>
     <message id="choosePrinter"><translation>Wybierz drukarkę</translation></message>
-    <message id="clockAhead"><translation>%1 do przodu względem komputera</translation></message>
-    <message id="clockBehind"><translation>%1 do tyłu względem komputera</translation></message>
+    <message id="clockAhead"><translation>spieszy się o %1</translation></message>
+    <message id="clockBehind"><translation>spóźnia się o %1</translation></message>
     <message id="clockDays" numerus="yes"><translation><numerusform>%n dzień</numerusform><numerusform>%n dni</numerusform><numerusform>%n dni</numerusform></translation></message>
-    <message id="clockHours" numerus="yes"><translation><numerusform>%n godzina</numerusform><numerusform>%n godziny</numerusform><numerusform>%n godzin</numerusform></translation></message>
-    <message id="clockMinutes" numerus="yes"><translation><numerusform>%n minuta</numerusform><numerusform>%n minuty</numerusform><numerusform>%n minut</numerusform></translation></message>
+    <message id="clockHours" numerus="yes"><translation><numerusform>%n godzinę</numerusform><numerusform>%n godziny</numerusform><numerusform>%n godzin</numerusform></translation></message>
+    <message id="clockMinutes" numerus="yes"><translation><numerusform>%n minutę</numerusform><numerusform>%n minuty</numerusform><numerusform>%n minut</numerusform></translation></message>
     <message id="clockNotSet"><translation>nie powiodło się; zegar może nadal wskazywać błędny czas. %1</translation></message>
     <message id="clockNotSetAtGreeting"><translation>Nie udało się ustawić zegara ciśnieniomierza. %1</translation></message>
     <message id="clockRight"><translation>Zgodny z tym komputerem</translation></message>
@@ -293,7 +293,7 @@ mmHg</translation></message>
     <message id="commentBeginDay"><translation>Pierwszy dzień komentarza</translation></message>
     <message id="commentCount" numerus="yes"><translation><numerusform>%n komentarz</numerusform><numerusform>%n komentarze</numerusform><numerusform>%n komentarzy</numerusform></translation></message>
     <message id="commentDayFar"><translation>„%1” przypada za ponad dwa lata: proszę sprawdzić rok. Daty pozostały bez zmian.</translation></message>
-    <message id="commentDayHint"><translation>Wpisać datę i nacisnąć Enter.</translation></message>
+    <message id="commentDayHint"><translation>Proszę wpisać datę i nacisnąć Enter.</translation></message>
     <message id="commentDayOrder"><translation>Ostatni dzień komentarza nie może poprzedzać pierwszego. Daty pozostały bez zmian.</translation></message>
     <message id="commentDayUnread"><translation>„%1” nie może być datą komentarza: proszę ją wpisać w postaci %2, z rokiem od 1900. Daty pozostały bez zmian.</translation></message>
     <message id="commentEmpty"><translation>Komentarz z dnia %1 nie ma tekstu. Usunąć go?</translation></message>
@@ -322,7 +322,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="dataPanel"><translation>Dane</translation></message>
     <message id="dataUnreadNow"><translation>W tej chwili nie można odczytać pliku danych ani niczego zapisać. Widoczny jest stan wcześniejszy.</translation></message>
     <message id="DateError"><translation>Proszę sprawdzić daty</translation></message>
-    <message id="dayHint"><translation>Wpisać datę i nacisnąć Enter albo otworzyć kalendarz strzałką.</translation></message>
+    <message id="dayHint"><translation>Proszę wpisać datę i nacisnąć Enter albo otworzyć kalendarz strzałką.</translation></message>
     <message id="dayOfDownload"><translation>%1, dzień pobrania</translation></message>
     <message id="daysButtons"><translation>Dni</translation></message>
     <message id="dayWithoutReading"><translation>%1, brak pomiarów tego dnia</translation></message>
@@ -360,7 +360,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="EndDate"><translation>Ostatni dzień musi następować po pierwszym, tak aby okres obejmował co najmniej dwa dni. Daty pozostały bez zmian.</translation></message>
     <message id="endEarlier"><translation>Koniec o dzień wcześniej</translation></message>
     <message id="endLater"><translation>Koniec o dzień później</translation></message>
-    <message id="eraseFailed"><translation>%1. Pomiary są bezpiecznie zapisane, ale ciśnieniomierza nie udało się opróżnić: nadal są w nim te pomiary. %2</translation></message>
+    <message id="eraseFailed"><translation>%1. Pomiary są bezpiecznie zapisane, ale nie udało się opróżnić ciśnieniomierza: pomiary nadal w nim są. %2</translation></message>
     <message id="eraseNotSeen"><translation>%1. Pomiary są bezpiecznie zapisane, ale nie udało się sprawdzić, czy ciśnieniomierz jest teraz pusty. %2</translation></message>
     <message id="eraseThem"><translation>&amp;Usuń</translation></message>
     <message id="exportAll"><translation>Eksportuj wszystkich pacjentów jako pliki XML</translation></message>
@@ -382,7 +382,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="exportReplaceTitle"><translation>Zastąpić pliki?</translation></message>
     <message id="ExportTitle"><translation>Eksport</translation></message>
     <message id="fieldAddress"><translation>Adres</translation></message>
-    <message id="fieldCholestrol"><translation>Cholesterol (mg/dL)</translation></message>
+    <message id="fieldCholestrol"><translation>Cholesterol (mg/dl)</translation></message>
     <message id="fieldDateOfBirth"><translation>Data urodzenia</translation></message>
     <message id="fieldDiabetic"><translation>Cukrzyca</translation></message>
     <message id="fieldFamilyHistory"><translation>Wywiad rodzinny</translation></message>
@@ -523,7 +523,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="nonePrintedAdvice"><translation>Proszę zamknąć to okno i na stronie „Pomiary” lub „Wykres” wybrać inne daty albo „Wszystko” i „Cały dzień”. Pomiary bez daty są drukowane, gdy zaznaczono „Pomiary bez daty”.</translation></message>
     <message id="noPage"><translation>Brak strony</translation></message>
     <message id="noPatientFound"><translation>Nie znaleziono pacjenta</translation></message>
-    <message id="noPatientFoundAdvice"><translation>Szukanego tekstu nie zawiera żadne nazwisko, imię ani ID.</translation></message>
+    <message id="noPatientFoundAdvice"><translation>Żadne nazwisko, imię ani ID nie zawiera szukanego tekstu.</translation></message>
     <message id="noPatients"><translation>Nie ma jeszcze pacjentów</translation></message>
     <message id="noPatientsAdvice"><translation>Aby wpisać pierwszego, proszę nacisnąć „Nowy”.</translation></message>
     <message id="noPatientSelected"><translation>Nie wybrano pacjenta</translation></message>
@@ -590,7 +590,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
 
 Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego folderu i jego kopii.</translation></message>
     <message id="privacyAskedMore"><translation>%1 oraz inne pliki (liczba: %2)</translation></message>
-    <message id="privacyMended"><translation>Teraz plik danych i jego kopie może odczytać tylko ich właściciel.</translation></message>
+    <message id="privacyMended"><translation>Teraz plik danych i jego kopie może odczytać tylko obecny użytkownik.</translation></message>
     <message id="privacyTitle"><translation>Inni mogą odczytać dane pacjentów</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
     <message id="programPurpose"><translation>Pomiary ciśnienia krwi – z ciśnieniomierza do dokumentacji</translation></message>
@@ -706,7 +706,7 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="stepProgress"><translation>Pliki: %1 z %2</translation></message>
     <message id="storedNotReadBack"><translation>Zmianę zapisano, ale potem nie udało się odczytać pliku danych. %1</translation></message>
     <message id="Synchronization"><translation>Ustawić zegar ciśnieniomierza?</translation></message>
-    <message id="synctimeAsk"><translation>Zegar ciśnieniomierza: %1. Ustawić go według tego komputera, aby nowe pomiary miały właściwą datę i godzinę?</translation></message>
+    <message id="synctimeAsk"><translation>Zegar ciśnieniomierza %1 względem tego komputera. Ustawić go według komputera, aby nowe pomiary miały właściwą datę i godzinę?</translation></message>
     <message id="tabChart"><translation>&amp;Wykres</translation></message>
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>P&amp;acjenci</translation></message>
@@ -821,7 +821,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="trendBandShort"><translation>%1; pasmo: od 10. do 90. percentyla</translation></message>
     <message id="trendDay"><translation>Mediana z każdego dnia</translation></message>
     <message id="trendEvening"><translation>%1 wieczorem</translation></message>
-    <message id="trendLinked"><translation>%1; kropki: brak pomiarów pomiędzy</translation></message>
+    <message id="trendLinked"><translation>%1; kropki: przerwa w pomiarach</translation></message>
     <message id="trendMonth"><translation>Mediana z każdego miesiąca</translation></message>
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>brak tu miejsca na jeszcze %n komentarz</numerusform><numerusform>brak tu miejsca na jeszcze %n komentarze</numerusform><numerusform>brak tu miejsca na jeszcze %n komentarzy</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 rano</translation></message>
@@ -829,7 +829,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
 </context>
 <context>
     <name>report</name>
-    <message id="appDescrption"><translation>Raport ciśnienia krwi z programu ZEL</translation></message>
+    <message id="appDescrption"><translation>Raport z pomiarów ciśnienia krwi (ZEL)</translation></message>
     <message id="comment"><translation>Komentarze</translation></message>
     <message id="comments"><translation>Komentarze</translation></message>
     <message id="correlation"><translation>Ciśnienie skurczowe a rozkurczowe</translation></message>
@@ -837,7 +837,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="formAddress"><translation>Adres</translation></message>
     <message id="formAge"><translation>Wiek</translation></message>
     <message id="formBirth"><translation>Data urodzenia</translation></message>
-    <message id="formCholesterol"><translation>Cholesterol (mg/dL)</translation></message>
+    <message id="formCholesterol"><translation>Cholesterol (mg/dl)</translation></message>
     <message id="formDay"><translation>Dzień</translation></message>
     <message id="formDiabetic"><translation>Cukrzyca</translation></message>
     <message id="formFamilyHistory"><translation>Wywiad rodz.</translation></message>
@@ -861,11 +861,11 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="histogram"><translation>Rozkład pomiarów</translation></message>
     <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
-    <message id="n.a."><translation>n.a.</translation></message>
-    <message id="N.A."><translation>N.A.</translation></message>
+    <message id="n.a."><translation>b.d.</translation></message>
+    <message id="N.A."><translation>b.d.</translation></message>
     <message id="No"><translation>Nie</translation></message>
     <message id="PatientProfile"><translation>Karta pacjenta</translation></message>
-    <message id="reportAllComments"><translation>Komentarze z całego czasu, nie tylko z tego okresu</translation></message>
+    <message id="reportAllComments"><translation>Komentarze ze wszystkich dni, nie tylko z tego okresu</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1, wszystkie pory dnia</translation></message>
     <message id="reportAverage"><translation>średnia z kilku pomiarów</translation></message>
     <message id="reportBothAbove"><translation>Oba powyżej: %1</translation></message>
@@ -874,17 +874,17 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportContinued"><translation>%1, ciąg dalszy</translation></message>
     <message id="reportCorrelationLimits" numerus="yes"><translation><numerusform>Linia oznacza granicę.</numerusform><numerusform>Linie oznaczają granice.</numerusform><numerusform>Linie oznaczają granice.</numerusform></translation></message>
     <message id="reportCorrelationNote"><translation>Każdy kwadrat to pomiar albo kilka pomiarów o tych samych wartościach, w mmHg.</translation></message>
-    <message id="reportCutComments"><translation>…: w całości w sekcji Komentarze</translation></message>
+    <message id="reportCutComments"><translation>…: pełny tekst w sekcji „Komentarze”</translation></message>
     <message id="reportCutPractitioner"><translation>…: tu skrócone; pełny tekst znajduje się w ustawieniach.</translation></message>
     <message id="reportCutTexts"><translation>…: tu skrócone; pełny tekst znajduje się na następnej stronie.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n dzień</numerusform><numerusform>%n dni</numerusform><numerusform>%n dni</numerusform></translation></message>
     <message id="reportDiaAbove"><translation>Tylko rozkurczowe powyżej: %1</translation></message>
-    <message id="reportDocument"><translation>Raport ciśnienia krwi: %1 (%2)</translation></message>
+    <message id="reportDocument"><translation>Raport z pomiarów ciśnienia krwi: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ żółte tło: pobranie</translation></message>
     <message id="reportEarlierComments" numerus="yes"><translation><numerusform>nie wydrukowano %n wcześniejszego komentarza</numerusform><numerusform>nie wydrukowano %n wcześniejszych komentarzy</numerusform><numerusform>nie wydrukowano %n wcześniejszych komentarzy</numerusform></translation></message>
     <message id="reportEmptySections"><translation>Puste, dlatego nie ma ich w tym raporcie: %1</translation></message>
     <message id="reportEveningOnly"><translation>Pokazano tylko pomiary od południa</translation></message>
-    <message id="reportFindingUnknown"><translation>N.A.: nie wiadomo</translation></message>
+    <message id="reportFindingUnknown"><translation>b.d.: nie wiadomo</translation></message>
     <message id="reportFound"><translation>wykryto</translation></message>
     <message id="reportGoesOn"><translation>dalszy ciąg na następnej stronie</translation></message>
     <message id="reportGraphComments"><translation>Numery w ramkach: komentarze.</translation></message>
@@ -893,10 +893,10 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>Granica %1 leży poza skalą.</numerusform><numerusform>Granice %1 leżą poza skalą.</numerusform><numerusform>Granice %1 leżą poza skalą.</numerusform></translation></message>
     <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Linia przerywana: granica %1.</numerusform><numerusform>Linie przerywane: granice %1.</numerusform><numerusform>Linie przerywane: granice %1.</numerusform></translation></message>
     <message id="reportGraphNote"><translation>Górna linia: ciśnienie skurczowe, dolna linia: ciśnienie rozkurczowe.</translation></message>
-    <message id="reportHistogramNote"><translation>Długość słupka to odsetek pomiarów (w procentach wszystkich), które mieszczą się w jego przedziale 10 mmHg lub 10 uderzeń na minutę.</translation></message>
+    <message id="reportHistogramNote"><translation>Długość słupka: jaki procent wszystkich pomiarów mieści się w jego przedziale (10 mmHg lub 10 uderzeń na minutę).</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Nie wyższe niż %1: %2</numerusform><numerusform>Nie wyższe niż granice %1: %2</numerusform><numerusform>Nie wyższe niż granice %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, tętno %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n pomiar pominięty przez użytkownika i powód</numerusform><numerusform>%n pomiary pominięte przez użytkownika i powody</numerusform><numerusform>%n pomiarów pominiętych przez użytkownika i powody</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n pomiar pominięty przez użytkownika (z powodem)</numerusform><numerusform>%n pomiary pominięte przez użytkownika (z powodami)</numerusform><numerusform>%n pomiarów pominiętych przez użytkownika (z powodami)</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg (rozkurczowe)</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg (skurczowe)</translation></message>
@@ -904,27 +904,27 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportMoreNumbers" numerus="yes"><translation><numerusform>i jeszcze %n</numerusform><numerusform>i jeszcze %n</numerusform><numerusform>i jeszcze %n</numerusform></translation></message>
     <message id="reportMorningOnly"><translation>Pokazano tylko pomiary przed południem</translation></message>
     <message id="reportNoData"><translation>Nie ma czego drukować: wybrane sekcje nie zawierają danych dla tego pacjenta i okresu. Nie zapisano żadnego pliku.</translation></message>
-    <message id="reportNoDate"><translation>n.a: brak daty</translation></message>
+    <message id="reportNoDate"><translation>b.d. (data): bez daty</translation></message>
     <message id="reportNoFigures"><translation>n/a: brak pomiarów</translation></message>
     <message id="reportNoLimits"><translation>Nie ustawiono granic.</translation></message>
-    <message id="reportNoReading"><translation>n.a.: brak pomiaru</translation></message>
+    <message id="reportNoReading"><translation>b.d. (wartości): brak pomiaru</translation></message>
     <message id="reportNotFound"><translation>nie wykryto</translation></message>
     <message id="reportNotPainted"><translation>Nie udało się utworzyć pliku PDF ze stron. Nie zapisano żadnego pliku.</translation></message>
     <message id="reportNotWritable"><translation>Nie udało się zapisać pliku %1. Proszę sprawdzić, czy jego folder istnieje i czy wolno w nim zapisywać.</translation></message>
     <message id="reportPage"><translation>Strona %1 z %2</translation></message>
-    <message id="reportPatient"><translation>Pacjent=%1 %2  ID=%3</translation></message>
+    <message id="reportPatient"><translation>Pacjent: %1 %2  ID: %3</translation></message>
     <message id="reportPeriod"><translation>Od: %1 Do: %2</translation></message>
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n pomiar</numerusform><numerusform>%n pomiary</numerusform><numerusform>%n pomiarów</numerusform></translation></message>
     <message id="reportStruckThrough"><translation>przekreślone: pominięte we wszystkich obliczeniach; powody podano za tabelą</translation></message>
     <message id="reportSysAbove"><translation>Tylko skurczowe powyżej: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Reszty tekstu nie wydrukowano; liczba dalszych znaków: %1.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Cienka prosta linia: granica %1.</numerusform><numerusform>Cienkie proste linie: granice %1.</numerusform><numerusform>Cienkie proste linie: granice %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Grube linie: mediany. Pasma: od 10. do 90. percentyla, a przy mniej niż 5 pomiarach od najniższego do najwyższego. Linia urywa się tam, gdzie nie ma pomiarów; kropki łączą jej końce przez najwyżej 30 dni.</translation></message>
+    <message id="reportTrendNote"><translation>Grube linie: mediany. Pasma: od 10. do 90. percentyla, a przy mniej niż 5 pomiarach – od najniższego do najwyższego. Linia urywa się tam, gdzie nie ma pomiarów; jeśli przerwa trwa najwyżej 30 dni, jej końce łączą kropki.</translation></message>
     <message id="reportWriteFailed"><translation>Zapis pliku %1 się nie powiódł, dlatego nie ma nowego pliku. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
     <message id="summary"><translation>Podsumowanie</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
     <message id="summaryAll"><translation>Wszystkie</translation></message>
-    <message id="summaryBelow"><translation>Poniżej progu %1 (do 0,1: %2/%3)</translation></message>
+    <message id="summaryBelow"><translation>Poniżej progu %1 (dokładniej: %2/%3)</translation></message>
     <message id="summaryBorn" numerus="yes"><translation><numerusform>Ur. %1, %n rok</numerusform><numerusform>Ur. %1, %n lata</numerusform><numerusform>Ur. %1, %n lat</numerusform></translation></message>
     <message id="summaryBornOn"><translation>Ur. %1</translation></message>
     <message id="summaryComments"><translation>Co się zmieniło: komentarze od najnowszego</translation></message>
@@ -942,10 +942,10 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 z %n pomiaru</numerusform><numerusform>%1 z %n pomiarów</numerusform><numerusform>%1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
     <message id="summaryIncomplete"><translation>Niepełny, potrzebne jeszcze: %1</translation></message>
-    <message id="summaryInFull"><translation>…: w całości w sekcji „%1”.</translation></message>
+    <message id="summaryInFull"><translation>…: pełny tekst w sekcji: %1.</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Ostatni dzień: średnia (pomiary)</numerusform><numerusform>Ostatnie %n dni: średnia (pomiary)</numerusform><numerusform>Ostatnie %n dni: średnia (pomiary)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Pominięte</translation></message>
-    <message id="summaryMax"><translation>Max</translation></message>
+    <message id="summaryMax"><translation>Maks.</translation></message>
     <message id="summaryMean"><translation>Średnia</translation></message>
     <message id="summaryMin"><translation>Min.</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>i jeszcze %n komentarz</numerusform><numerusform>i jeszcze %n komentarze</numerusform><numerusform>i jeszcze %n komentarzy</numerusform></translation></message>
@@ -968,9 +968,9 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryPeriod"><translation>Od %1 do %2</translation></message>
     <message id="summaryPulse"><translation>Tętno %1</translation></message>
     <message id="summaryRate"><translation>Tętno, 1/min</translation></message>
-    <message id="summaryReached"><translation>Na progu %1 lub powyżej (do 0,1: %2/%3)</translation></message>
+    <message id="summaryReached"><translation>Na progu %1 lub powyżej (dokładniej: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Pomiary</translation></message>
-    <message id="summaryReasonsInFull"><translation>…: skrócono; pomiary pominięte: w całości w sekcji „%1”.</translation></message>
+    <message id="summaryReasonsInFull"><translation>…: skrócono; pełny wykaz pominiętych pomiarów w sekcji: %1.</translation></message>
     <message id="summarySD"><translation>SD</translation></message>
     <message id="summarySys"><translation>SYS, mmHg</translation></message>
     <message id="summaryTable"><translation>Pomiary z okresu (SD: z próby, n − 1)</translation></message>
@@ -978,10 +978,10 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryTrendComments"><translation>Trend, a pod nim komentarze według numerów</translation></message>
     <message id="summaryTrendHidden"><translation>Poza skalą trendu: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Cienkie proste linie na wykresie trendu: %1.</translation></message>
-    <message id="summaryTyped" numerus="yes"><translation><numerusform>Wpisane: %1 z %n pomiaru</numerusform><numerusform>Wpisane: %1 z %n pomiarów</numerusform><numerusform>Wpisane: %1 z %n pomiarów</numerusform></translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Wpisane ręcznie: %1 z %n pomiaru</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryWeek"><translation>Tydzień pomiarowy (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominięte przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominiętych przez użytkownika</numerusform></translation></message>
-    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n z tygodnia wpisany</numerusform><numerusform>%n z tygodnia wpisane</numerusform><numerusform>%n z tygodnia wpisanych</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n wpisany ręcznie</numerusform><numerusform>%n wpisane ręcznie</numerusform><numerusform>%n wpisanych ręcznie</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statystyka i pomiary</translation></message>
     <message id="table"><translation>Pomiary</translation></message>
@@ -1089,9 +1089,9 @@ na dysku.
 list      wyświetla kopie jako CSV, od najnowszej, i ich zawartość
 create    tworzy teraz kolejną kopię i wyświetla 'written: FILE'
 restore   wstawia kopię w miejsce pliku danych i wyświetla 'restored: NAME'; poprzednia zawartość zostaje
-          zachowana jako kolejna kopia, której nazwę wyświetla ('kept: NAME'); jej przywrócenie to cofa
+          zachowana jako kolejna kopia, której nazwę wyświetla ('kept: NAME'); jej przywrócenie cofa tę zmianę
 folder    wyświetla drugi folder na kopie, w pamięci USB lub w sieci, jako 'folder: DIR', po ustawieniu go
-          na DIR; jego kopie są na liście podane z pełnymi nazwami
+          na DIR; jego kopie mają na liście pełne nazwy
 
 Opcje:
   --none                       od teraz bez drugiego folderu; kopie w nim pozostają
@@ -1198,10 +1198,10 @@ z datą, a poza nią n.a.; jeśli takich dni jest za dużo, aby podać wszystkie
 błędów.
 
 Z --exclude, --include, --add, --change lub --delete zmienia natomiast plik danych. Pomiar pominięty zostaje
-w pliku i na liście, wraz z powodem, i nigdzie się nie liczy; zdanie na wyjściu błędów mówi, ile z
-wyświetlonych pomiarów pominięto. Pomiar wpisany ręcznie jest oznaczony jako manual; ciśnienia i tętno to
-liczby całkowite od 30 do 300, ciśnienie rozkurczowe jest niższe od skurczowego, a czas nie jest
-w przyszłości. --add wyświetla 'record: RECORD'. Zmieniać i usuwać można tylko pomiary wpisane ręcznie.
+w pliku i na liście, wraz z powodem, i nigdzie się nie liczy; zdanie na wyjściu błędów mówi, ile
+z wyświetlonych pomiarów pominięto. Pomiar wpisany ręcznie jest oznaczony jako manual; ciśnienia i tętno to
+liczby całkowite od 30 do 300, ciśnienie rozkurczowe jest niższe od skurczowego, a data i godzina
+nie są w przyszłości. --add wyświetla 'record: RECORD'. Zmieniać i usuwać można tylko pomiary wpisane ręcznie.
 
 Opcje:
   --patient ID                 czyje pomiary
@@ -1326,14 +1326,14 @@ Opcje:
     <message id="CliReadableByOthers"><translation>Inni użytkownicy tego komputera mogą odczytać %1. Polecenie „zel privacy --mend” odbiera im dostęp.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason wymaga --exclude; --date, --time, --sys, --dia i --pulse wymagają --add lub --change</translation></message>
     <message id="CliReadingNotUnique"><translation>kilka pomiarów ma numer %1; nie wiadomo, o który chodzi</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty przez użytkownika i nigdzie się nie liczy; --numbers pokazuje który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte przez użytkownika i nigdzie się nie liczą; --numbers pokazuje które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych przez użytkownika i nigdzie się nie liczy; --numbers pokazuje które i dlaczego</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte przez użytkownika i nigdzie się nie liczą; --numbers pokazuje, które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, które i dlaczego</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set wymaga postaci KEY=VALUE, podano „%1”.</translation></message>
     <message id="CliSettingNotKept"><translation>W pliku danych nie ma miejsca na ustawienie %1, dlatego niczego nie zmieniono.</translation></message>
     <message id="CliSettingTwice"><translation>Ustawienie %1 podano więcej niż raz.</translation></message>
     <message id="CliSettingUnknown"><translation>Nie ma ustawienia „%1”. Dostępne ustawienia: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 – dozwolone: %2; podano „%3”.</translation></message>
     <message id="CliTryHelp"><translation>Więcej informacji: „%1”.</translation></message>
-    <message id="CliUnexpectedWord"><translation>Nieoczekiwane „%1”.</translation></message>
+    <message id="CliUnexpectedWord"><translation>Nieoczekiwane słowo „%1”.</translation></message>
     <message id="CliUnknownCommand"><translation>Nie ma polecenia „%1”.</translation></message>
     <message id="CliWaiting"><translation>Oczekiwanie na ciśnieniomierz, jeszcze najwyżej %1 s. Ctrl-C anuluje.</translation></message>
     <message id="CliYesAlone"><translation>--yes wymaga --erase.</translation></message>
