@@ -21,7 +21,7 @@
     <message id="Female"><translation>Femmina</translation></message>
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: un paziente con l’ID “%2” è già nell’elenco. I pazienti non vengono mai sovrascritti, perciò dal file non è stato importato nulla.</translation></message>
-    <message id="ImportBadID"><translation>%1: l’ID “%2” nel file contiene un fine riga o un altro carattere di controllo, con cui non sarebbe possibile salvarlo né inviarlo a un misuratore. Dal file non è stato importato nulla.</translation></message>
+    <message id="ImportBadID"><translation>%1: l’ID “%2” nel file contiene un ritorno a capo o un altro carattere di controllo, con cui non sarebbe possibile salvarlo né inviarlo a un misuratore. Dal file non è stato importato nulla.</translation></message>
     <message id="ImportNoFile"><translation>Non è un file normale.</translation></message>
     <message id="ImportNoID"><translation>%1: un paziente nel file è privo di ID. Dal file non è stato importato nulla.</translation></message>
     <message id="ImportNoPatient"><translation>%1: il file non contiene pazienti. Non è stato importato nulla.</translation></message>
@@ -43,18 +43,18 @@
     <message id="ManualDiaNotBelowSys"><translation>La pressione diastolica deve essere inferiore alla sistolica.</translation></message>
     <message id="ManualInFuture"><translation>La data e l’ora sono nel futuro.</translation></message>
     <message id="ManualNoDate"><translation>Questa data con quest’ora non esiste. (Quando entra l’ora legale un’ora viene saltata, e il 1º gennaio 2000 vale come data mancante.)</translation></message>
-    <message id="ManualPulse"><translation>Il polso deve essere un numero da %1 a %2.</translation></message>
+    <message id="ManualPulse"><translation>La frequenza del polso deve essere un numero da %1 a %2.</translation></message>
     <message id="ManualSys"><translation>La pressione sistolica deve essere un numero da %1 a %2.</translation></message>
     <message id="ManualTooEarly"><translation>La data è anteriore al 1900.</translation></message>
     <message id="n.a"><translation>n.a</translation></message>
     <message id="N/A"><translation>N/A</translation></message>
     <message id="NotBackedUp"><translation>Prima di questa modifica non è stato possibile creare una copia del file dei dati in %1. %2</translation></message>
     <message id="remarkExcluded"><translation>esclusa: %1</translation></message>
-    <message id="remarkManual"><translation>inserita</translation></message>
-    <message id="SecondFolderAway"><translation>La seconda cartella per le copie del file dei dati, %1, non è disponibile, perciò la copia di oggi vi manca. Verrà aggiunta con la prima modifica dopo il ritorno della cartella.</translation></message>
+    <message id="remarkManual"><translation>manuale</translation></message>
+    <message id="SecondFolderAway"><translation>La seconda cartella per le copie del file dei dati, %1, non è disponibile, perciò non contiene la copia di oggi. La copia verrà aggiunta con la prima modifica dopo che la cartella sarà di nuovo disponibile.</translation></message>
     <message id="SecondFolderBroken"><translation>Impossibile leggere da %1 qual è la seconda cartella per le copie del file dei dati, perciò le copie non vanno in nessuna seconda cartella. Sceglierla di nuovo.</translation></message>
     <message id="SecondFolderFailed"><translation>Impossibile scrivere la copia di oggi del file dei dati nella seconda cartella, %1.</translation></message>
-    <message id="SecondFolderNoRoom"><translation>La copia di oggi del file dei dati non è nella seconda cartella, %1: tutte le copie insieme possono occupare un decimo dello spazio libero di quel disco, che è meno della dimensione del file.</translation></message>
+    <message id="SecondFolderNoRoom"><translation>La copia di oggi del file dei dati non è nella seconda cartella, %1: tutte le copie insieme possono occupare al massimo un decimo dello spazio libero di quel disco, meno di quanto occupa il file.</translation></message>
     <message id="SecondFolderNotFlushed"><translation>La copia di oggi del file dei dati è stata scritta nella seconda cartella, %1, ma il disco non ne ha confermato la registrazione definitiva: dopo un’interruzione di corrente potrebbe mancare.</translation></message>
     <message id="SecondFolderNotRecorded"><translation>Impossibile annotare in %1 la seconda cartella per le copie. Non è stato modificato nulla.</translation></message>
     <message id="SettingLimit"><translation>0 per nessun limite oppure un numero intero da %1 a %2</translation></message>
@@ -81,8 +81,8 @@
     <message id="StoreInvalidRecord"><translation>Ogni paziente deve avere un proprio ID; “%1” non è un ID valido. Non è stato modificato nulla.</translation></message>
     <message id="StoreLockBlocked"><translation>%1 occupa il posto in cui i programmi annotano che stanno usando il file dei dati, ma non è un’annotazione di questo tipo. Non è stato modificato nulla; spostarlo altrove e riprovare.</translation></message>
     <message id="StoreNoPermissions"><translation>Altri utenti di questo computer possono ancora leggere %1: questo file system non gestisce i permessi. Conservare i dati su un altro disco.</translation></message>
-    <message id="StoreNoReason"><translation>Per escludere una misurazione occorre un motivo: indicarlo. Non è stato modificato nulla.</translation></message>
-    <message id="StoreNoRoomForBackup"><translation>In %1 non viene conservata alcuna copia del file dei dati: tutte le copie insieme possono occupare un decimo dello spazio libero del disco, che è meno della dimensione del file.</translation></message>
+    <message id="StoreNoReason"><translation>Per escludere una misurazione occorre indicare un motivo. Non è stato modificato nulla.</translation></message>
+    <message id="StoreNoRoomForBackup"><translation>In %1 non viene conservata alcuna copia del file dei dati: tutte le copie insieme possono occupare al massimo un decimo dello spazio libero del disco, meno di quanto occupa il file.</translation></message>
     <message id="StoreNoStep"><translation>Non c’è nulla da annullare o ripetere.</translation></message>
     <message id="StoreNoSuchBackup"><translation>Non esiste una copia del file dei dati con il nome “%1”.</translation></message>
     <message id="StoreNoSuchRecord"><translation>Non esiste un paziente con l’ID “%1”.</translation></message>
@@ -102,12 +102,12 @@
     <message id="StoreStepGone"><translation>I dati interessati non sono più nel file dei dati. Non è stato modificato nulla.</translation></message>
     <message id="StoreStepHasRecords"><translation>Nel frattempo il paziente con l’ID “%1” ha ricevuto misurazioni o commenti, che resterebbero senza paziente. Non è stato modificato nulla.</translation></message>
     <message id="StoreStepPatientGone"><translation>Il paziente con l’ID “%1”, a cui appartiene il commento, non è più nel file dei dati. Non è stato modificato nulla.</translation></message>
-    <message id="StoreStepPatientKnown"><translation>Nel frattempo un paziente con l’ID “%1” è entrato nell’elenco. Non è stato modificato nulla.</translation></message>
-    <message id="StoreStepThere"><translation>Ciò che tornerebbe è già di nuovo nel file dei dati. Non è stato modificato nulla.</translation></message>
+    <message id="StoreStepPatientKnown"><translation>Nel frattempo un paziente con l’ID “%1” è stato aggiunto all’elenco. Non è stato modificato nulla.</translation></message>
+    <message id="StoreStepThere"><translation>Ciò che verrebbe ripristinato è già di nuovo nel file dei dati. Non è stato modificato nulla.</translation></message>
     <message id="StoreTooLarge"><translation>Il file dei dati %1 supera i 512 MiB, e questo programma non lo legge. Resta com’è, e non si può salvare nulla: sostituirlo con una copia più piccola o spostarlo altrove per iniziare con uno nuovo.</translation></message>
-    <message id="StoreUnreadable"><translation>Il file dei dati %1 è rimasto com’era: ciò che si doveva salvare risultava poi illeggibile.</translation></message>
+    <message id="StoreUnreadable"><translation>Il file dei dati %1 è rimasto com’era: ciò che si doveva salvare non sarebbe poi stato leggibile.</translation></message>
     <message id="StoreWriteFailed"><translation>La scrittura del file dei dati %1 non è riuscita, e il file è rimasto com’era. Controllare che il disco non sia pieno e riprovare.</translation></message>
-    <message id="ViewLimitsUnread"><translation>Impossibile leggere %1, che indica da quali limiti i valori vengono evidenziati. Finché non si scelgono nuovi limiti, i valori vengono evidenziati da %2/%3 mmHg in su.</translation></message>
+    <message id="ViewLimitsUnread"><translation>Impossibile leggere %1, che indica a partire da quali limiti i valori vengono evidenziati. Finché non si scelgono nuovi limiti, i valori vengono evidenziati da %2/%3 mmHg in su.</translation></message>
     <message id="Warning"><translation>Avviso</translation></message>
     <message id="XmlAttributeTwice"><translation>Un elemento ha due volte lo stesso attributo.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>Contiene byte estranei alla sua codifica, %1.</translation></message>
@@ -132,7 +132,7 @@
     <message id="monitorBadCheckField"><translation>La risposta del misuratore è arrivata danneggiata e non è stata usata. Riprovare.</translation></message>
     <message id="monitorBadFixedContent"><translation>La risposta del misuratore non è comprensibile e non è stata usata. Riprovare.</translation></message>
     <message id="monitorClockNotSet"><translation>L’orologio del misuratore non è impostato.</translation></message>
-    <message id="monitorInterrupted"><translation>Lo scambio con il misuratore è stato interrotto prima della fine.</translation></message>
+    <message id="monitorInterrupted"><translation>La comunicazione con il misuratore è stata interrotta prima della fine.</translation></message>
     <message id="monitorNoAcknowledgement"><translation>Il misuratore non ha accettato il comando. Spegnerlo, riaccenderlo e riprovare.</translation></message>
     <message id="monitorNoDevice"><translation>Nessun misuratore collegato. Collegarlo e riprovare.</translation></message>
     <message id="monitorNotTaken"><translation>Il misuratore ha confermato, ma contiene ancora un valore diverso. Riprovare.</translation></message>
@@ -149,7 +149,7 @@
     <message id="simulatedNotList"><translation>Il valore di “%1” deve essere un elenco.</translation></message>
     <message id="simulatedNotObject"><translation>Il valore di “%1” deve essere un oggetto.</translation></message>
     <message id="simulatedNotText"><translation>Il valore di “%1” deve essere un testo.</translation></message>
-    <message id="simulatedNotTime"><translation>Il valore di “%1” deve essere un momento come 2026-11-01T07:12, negli anni dal 2000 al 2099, oppure la parola undated.</translation></message>
+    <message id="simulatedNotTime"><translation>Il valore di “%1” deve essere una data con ora come 2026-11-01T07:12, negli anni dal 2000 al 2099, oppure la parola undated.</translation></message>
     <message id="simulatedNotWhole"><translation>Il valore di “%1” deve essere un numero intero nell’intervallo %2.</translation></message>
     <message id="simulatedRefused"><translation>Impossibile usare il file %1 del misuratore simulato: %2</translation></message>
     <message id="simulatedTooMany"><translation>L’elenco “%1” può avere al massimo %2 voci.</translation></message>
@@ -210,18 +210,18 @@
     <message id="backupChoose"><translation>Sc&amp;egli…</translation></message>
     <message id="backupChooseTitle"><translation>Seconda cartella per le copie del file dei dati</translation></message>
     <message id="backupClose"><translation>&amp;Chiudi</translation></message>
-    <message id="backupConfirm"><translation>Tornare a questa copia? %1. I dati attuali vengono conservati in un’altra copia, alla quale si potrà tornare.</translation></message>
+    <message id="backupConfirm"><translation>Ripristinare questa copia? %1. I dati attuali vengono conservati in un’altra copia, alla quale si potrà tornare.</translation></message>
     <message id="backupCreate"><translation>Crea copia &amp;ora</translation></message>
     <message id="backupDaily"><translation>Prima della prima modifica del giorno</translation></message>
     <message id="backupDamaged"><translation>File dei dati danneggiato</translation></message>
     <message id="backupDay"><translation>Giorno</translation></message>
-    <message id="backupExplained"><translation>Copie del file dei dati, nella cartella %1. Per il caso in cui questo disco si guasti, indicare una seconda cartella su un altro disco, una chiavetta o una condivisione di rete.</translation></message>
+    <message id="backupExplained"><translation>Copie del file dei dati, nella cartella %1. In previsione di un guasto di questo disco, indicare una seconda cartella su un altro disco, su una chiavetta o in rete.</translation></message>
     <message id="backupFar"><translation>Seconda cartella: %1</translation></message>
     <message id="backupKind"><translation>Copia</translation></message>
-    <message id="backupMade"><translation>Creata a mano</translation></message>
+    <message id="backupMade"><translation>Creata su richiesta</translation></message>
     <message id="backupNone"><translation>Non c’è ancora nessuna copia. Ne viene creata una prima della prima modifica di ogni giorno.</translation></message>
     <message id="backupNoSecondFolder"><translation>nessuna seconda cartella</translation></message>
-    <message id="backupOffered"><translation>La copia leggibile più recente è %1, con %2. Tornare a questa copia? Il file danneggiato viene conservato accanto, come un’altra copia.</translation></message>
+    <message id="backupOffered"><translation>La copia leggibile più recente è %1, con %2. Ripristinarla? Il file danneggiato viene conservato accanto, come un’altra copia.</translation></message>
     <message id="backupReplaced"><translation>Dati sostituiti da un ripristino</translation></message>
     <message id="backupRestore"><translation>&amp;Ripristina…</translation></message>
     <message id="backupRestored"><translation>Ora è in uso la copia %1. I dati precedenti sono conservati in %2.</translation></message>
@@ -254,14 +254,14 @@
     <message id="chartKeys"><translation>%1 nel periodo. I tasti freccia spostano il periodo, più e meno lo ampliano e lo restringono; Ctrl con freccia sinistra o destra passa da una misurazione all’altra.</translation></message>
     <message id="cholestrolRefused"><translation>Indicare un numero da 10 a 5000 mg/dL, per esempio 200. 1 mmol/L equivale a circa 38,7 mg/dL.</translation></message>
     <message id="choosePrinter"><translation>Scegli una stampante</translation></message>
-    <message id="clockAhead"><translation>%1 avanti rispetto a questo computer</translation></message>
-    <message id="clockBehind"><translation>%1 indietro rispetto a questo computer</translation></message>
+    <message id="clockAhead"><translation>avanti di %1 rispetto a questo computer</translation></message>
+    <message id="clockBehind"><translation>indietro di %1 rispetto a questo computer</translation></message>
     <message id="clockDays" numerus="yes"><translation><numerusform>%n giorno</numerusform><numerusform>%n giorni</numerusform></translation></message>
     <message id="clockHours" numerus="yes"><translation><numerusform>%n ora</numerusform><numerusform>%n ore</numerusform></translation></message>
     <message id="clockMinutes" numerus="yes"><translation><numerusform>%n minuto</numerusform><numerusform>%n minuti</numerusform></translation></message>
     <message id="clockNotSet"><translation>non riuscita, l’ora potrebbe essere ancora sbagliata. %1</translation></message>
     <message id="clockNotSetAtGreeting"><translation>Impossibile regolare l’orologio del misuratore. %1</translation></message>
-    <message id="clockRight"><translation>In accordo con questo computer</translation></message>
+    <message id="clockRight"><translation>Stessa ora di questo computer</translation></message>
     <message id="clockSet"><translation>eseguita. Ora segna la stessa ora di questo computer.</translation></message>
     <message id="clockUnset"><translation>Non impostato</translation></message>
     <message id="clockUnsetAsk"><translation>L’orologio del misuratore non è impostato, perciò le sue misurazioni non ricevono data e ora. Regolarlo sull’ora di questo computer?</translation></message>
@@ -307,12 +307,12 @@ mmHg</translation></message>
     <message id="commentPosition"><translation>%1 di %2</translation></message>
     <message id="commentStay"><translation>Impossibile salvare il commento. %1
 
-Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</translation></message>
+Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso.</translation></message>
     <message id="commentText"><translation>Testo del commento</translation></message>
     <message id="commentUnchanged"><translation>Impossibile salvare il commento. %1</translation></message>
     <message id="ConfirmDelPatient"><translation>Eliminare %1 %2 con tutte le misurazioni e i commenti? Con Modifica &gt; Annulla si recuperano, finché ZEL resta aperto.</translation></message>
     <message id="confirmPrintSave"><translation>I dati di %1 sono stati modificati, e si può stampare o esportare solo ciò che è salvato. Salvare prima le modifiche?</translation></message>
-    <message id="confirmSendID"><translation>%2 Scrivere nel misuratore l’ID %1? Da quel momento le sue misurazioni appartengono a questo paziente.</translation></message>
+    <message id="confirmSendID"><translation>%2 Scrivere nel misuratore l’ID %1? Da quel momento le misurazioni del misuratore apparterranno a questo paziente.</translation></message>
     <message id="confirmSendSave"><translation>I dati di %1 sono stati modificati. Salvare le modifiche?</translation></message>
     <message id="copyRows"><translation>Copia</translation></message>
     <message id="correlationView"><translation>Pressione sistolica rispetto alla diastolica</translation></message>
@@ -340,10 +340,10 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="download"><translation>Scarica misurazioni</translation></message>
     <message id="downloadAdvice"><translation>Lasciare collegato il misuratore. Le misurazioni vengono registrate quando sono arrivate tutte.</translation></message>
     <message id="downloadButton"><translation>S&amp;carica</translation></message>
-    <message id="downloadCancel"><translation>Annulla lo scarico</translation></message>
-    <message id="downloadCancelled"><translation>Scarico annullato. Non è stato registrato nulla; le misurazioni sono ancora nel misuratore.</translation></message>
+    <message id="downloadCancel"><translation>Annulla lo scarico dei dati</translation></message>
+    <message id="downloadCancelled"><translation>Scarico dei dati annullato. Non è stato registrato nulla; le misurazioni sono ancora nel misuratore.</translation></message>
     <message id="downloadEmpty"><translation>Il misuratore non contiene misurazioni.</translation></message>
-    <message id="downloadFailed"><translation>Impossibile scaricare le misurazioni; non è stato registrato nulla. Sono ancora nel misuratore. %1</translation></message>
+    <message id="downloadFailed"><translation>Impossibile scaricare le misurazioni, che restano nel misuratore; non è stato registrato nulla. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n misurazione scaricata</numerusform><numerusform>%n misurazioni scaricate</numerusform></translation></message>
     <message id="downloadHint"><translation>Scarica le misurazioni dal misuratore (Ctrl+D). Il misuratore deve essere collegato e contenere l’ID di questo paziente.</translation></message>
     <message id="downloadNew" numerus="yes"><translation><numerusform>%1, %n nuova</numerusform><numerusform>%1, %n nuove</numerusform></translation></message>
@@ -352,10 +352,10 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="downloadNotReadBack"><translation>%1. Non è stato poi possibile rileggere il file dei dati, perciò il misuratore non è stato svuotato. %2</translation></message>
     <message id="downloadNotStored"><translation>Impossibile registrare le misurazioni. Sono ancora nel misuratore. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Le misurazioni nel misuratore appartengono a un ID diverso da quello di questo paziente, perciò non è stato registrato nulla. Collegare il misuratore di questo paziente e riprovare.</translation></message>
-    <message id="downloadProgress"><translation>Avanzamento dello scarico</translation></message>
+    <message id="downloadProgress"><translation>Avanzamento dello scarico dei dati</translation></message>
     <message id="downloadStarting"><translation>Richiesta al misuratore…</translation></message>
     <message id="downloadStopping"><translation>Interruzione…</translation></message>
-    <message id="downloadWaiting" numerus="yes"><translation><numerusform>Dal misuratore non arriva nulla. Lo scarico lo attende al massimo per %n secondo. Si può annullare: non va perso nulla.</numerusform><numerusform>Dal misuratore non arriva nulla. Lo scarico lo attende al massimo per %n secondi. Si può annullare: non va perso nulla.</numerusform></translation></message>
+    <message id="downloadWaiting" numerus="yes"><translation><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondo. Lo scarico si può annullare: non va perso nulla.</numerusform><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondi. Lo scarico si può annullare: non va perso nulla.</numerusform></translation></message>
     <message id="DupNewPatient"><translation>C’è già un nuovo paziente non ancora salvato: il primo dell’elenco. Prima salvarlo o eliminarlo.</translation></message>
     <message id="EndDate"><translation>L’ultimo giorno deve seguire il primo, in modo che il periodo comprenda almeno due giorni. Le date sono rimaste invariate.</translation></message>
     <message id="endEarlier"><translation>Termina un giorno prima</translation></message>
@@ -366,7 +366,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="exportAll"><translation>Esporta tutti i pazienti come file XML</translation></message>
     <message id="exportAlsoFailed"><translation>Lo stesso vale per: %1</translation></message>
     <message id="exportButton"><translation>&amp;Esporta tutti…</translation></message>
-    <message id="exportCancelled"><translation>Poi l’esportazione è stata annullata; gli altri pazienti non sono stati esportati.</translation></message>
+    <message id="exportCancelled"><translation>L’esportazione è stata poi annullata; gli altri pazienti non sono stati esportati.</translation></message>
     <message id="exportCSV"><translation>Esporta le misurazioni del paziente attuale come file CSV</translation></message>
     <message id="exportCSVButton"><translation>Esporta &amp;CSV…</translation></message>
     <message id="exportCSVFolder"><translation>Scegli la cartella per il file CSV</translation></message>
@@ -404,18 +404,18 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="heightRefusedCm"><translation>Indicare un numero da 20 a 300 cm, per esempio 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Indicare piedi e pollici separati da una barra, per esempio 5/9. I pollici arrivano a 11.</translation></message>
     <message id="highFrom"><translation>Limiti da cui i valori vengono evidenziati</translation></message>
-    <message id="highFromHint"><translation>I valori pari o superiori a questi limiti sono in grassetto ed evidenziati, qui e sulla stampa. Grafico, statistiche, istogramma e correlazione mantengono i limiti delle impostazioni.</translation></message>
+    <message id="highFromHint"><translation>I valori pari o superiori a questi limiti sono in grassetto ed evidenziati, qui e nella stampa. Grafico, statistiche, istogramma e correlazione mantengono i limiti delle impostazioni.</translation></message>
     <message id="highFromLabel"><translation>E&amp;videnzia da</translation></message>
     <message id="histogramView"><translation>Distribuzione dei valori</translation></message>
     <message id="IDNotForMonitor"><translation>L’ID “%1” non è adatto al misuratore. Un misuratore memorizza ID da 1 a 11 lettere, cifre e segni semplici, senza accenti e senza spazi all’inizio o alla fine.</translation></message>
-    <message id="IDRefused"><translation>Un ID ha da 1 a 11 lettere, cifre o segni semplici, senza accenti: di più un misuratore non può memorizzare.</translation></message>
+    <message id="IDRefused"><translation>Un ID ha da 1 a 11 lettere, cifre o segni semplici, senza accenti: un misuratore non può memorizzarne di più.</translation></message>
     <message id="IDStays"><translation>L’ID non si può modificare: vi sono legati le misurazioni e i commenti.</translation></message>
     <message id="ihd"><translation>Aritmia</translation></message>
     <message id="importAll"><translation>&amp;Tutti</translation></message>
     <message id="importAllFiles"><translation>Scegli tutti i file</translation></message>
     <message id="importButton"><translation>&amp;Importa</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importa %n file</numerusform><numerusform>&amp;Importa %n file</numerusform></translation></message>
-    <message id="importCancelled" numerus="yes"><translation><numerusform>Poi l’importazione è stata annullata; %n file non è stato letto.</numerusform><numerusform>Poi l’importazione è stata annullata; %n file non sono stati letti.</numerusform></translation></message>
+    <message id="importCancelled" numerus="yes"><translation><numerusform>L’importazione è stata poi annullata; %n file non è stato letto.</numerusform><numerusform>L’importazione è stata poi annullata; %n file non sono stati letti.</numerusform></translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n file è stato importato:</numerusform><numerusform>%n file sono stati importati:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importa…</translation></message>
     <message id="importFolder"><translation>Scegli la cartella da cui importare</translation></message>
@@ -450,7 +450,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="limitsLow"><translation>%1/%2 (più severi)</translation></message>
     <message id="limitsNotKept"><translation>I limiti valgono fino alla chiusura del programma. Non è stato possibile conservarli per il prossimo avvio: %1</translation></message>
     <message id="limitsOffice"><translation>%1/%2 (in ambulatorio)</translation></message>
-    <message id="limitsOwn"><translation>limiti propri</translation></message>
+    <message id="limitsOwn"><translation>limiti personalizzati</translation></message>
     <message id="mainMenu"><translation>Menu principale</translation></message>
     <message id="manualChapters"><translation>Capitoli</translation></message>
     <message id="manualTitle"><translation>Manuale</translation></message>
@@ -475,7 +475,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="monitorClock"><translation>Orologio</translation></message>
     <message id="monitorConnected"><translation>Misuratore collegato</translation></message>
     <message id="monitorConnectedID"><translation>Il misuratore contiene l’ID %1. Scegliere questo paziente e premere Scarica per trasferire le misurazioni.</translation></message>
-    <message id="monitorCounting"><translation>Richiesta del numero di misurazioni al misuratore. Può richiedere fino a 20 secondi…</translation></message>
+    <message id="monitorCounting"><translation>Lettura del numero di misurazioni nel misuratore. Può richiedere fino a 20 secondi…</translation></message>
     <message id="monitorDownloading"><translation>Scarico delle misurazioni…</translation></message>
     <message id="monitorErasing"><translation>Svuotamento del misuratore…</translation></message>
     <message id="monitorGreeting"><translation>Lettura dell’orologio e dell’ID del misuratore…</translation></message>
@@ -494,7 +494,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="monitorSendingID"><translation>Scrittura dell’ID nel misuratore…</translation></message>
     <message id="monitorSettingClock"><translation>Regolazione dell’orologio del misuratore…</translation></message>
     <message id="monitorState"><translation>Stato</translation></message>
-    <message id="monitorTrouble"><translation>Collegato, ma l’ultimo scambio non è riuscito e viene ritentato. %1</translation></message>
+    <message id="monitorTrouble"><translation>Collegato, ma l’ultima comunicazione non è riuscita e viene ritentata. %1</translation></message>
     <message id="monitorWithoutID"><translation>Il misuratore collegato non contiene alcun ID. Scegliere un paziente e premere “Invia ID” per farne il misuratore di questo paziente.</translation></message>
     <message id="newIDFromDevice"><translation>Il misuratore contiene l’ID %1, che non appartiene a nessun paziente di questo elenco. Aggiungere un paziente con questo ID, oppure scegliere un paziente e premere “Invia ID”.</translation></message>
     <message id="NewPatient"><translation>Nuovo paziente</translation></message>
@@ -515,12 +515,12 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="noDisplay"><translation>nessuno schermo disponibile su cui aprire una finestra. Avviare zel in una sessione grafica, oppure usare i comandi che non richiedono una finestra: vedere zel --help</translation></message>
     <message id="noFiles"><translation>Nessun file XML in questa cartella</translation></message>
     <message id="noFilesAdvice"><translation>Scegliere la cartella in cui sono stati esportati i pazienti.</translation></message>
-    <message id="noHome"><translation>la variabile d’ambiente HOME non indica una cartella (un percorso assoluto), perciò manca un posto per i dati.</translation></message>
+    <message id="noHome"><translation>la variabile d’ambiente HOME non indica una cartella (un percorso assoluto), perciò non si sa dove conservare i dati.</translation></message>
     <message id="noID"><translation>nessuno</translation></message>
     <message id="none"><translation>nessuno</translation></message>
     <message id="noneInPeriod"><translation>Nessuna misurazione nel periodo</translation></message>
     <message id="noneInPeriodAdvice"><translation>Scegliere altre date qui sopra, oppure Tutte e Giorno intero. Le misurazioni prive di data compaiono se è attivata anche la casella Misurazioni senza data.</translation></message>
-    <message id="nonePrintedAdvice"><translation>Chiudere questa finestra e scegliere altre date nella pagina Misurazioni o Grafico, oppure lì Tutte e Giorno intero. Le misurazioni prive di data si stampano se è attivata la casella Misurazioni senza data.</translation></message>
+    <message id="nonePrintedAdvice"><translation>Chiudere questa finestra e scegliere altre date nella pagina Misurazioni o Grafico, oppure, nella stessa pagina, Tutte e Giorno intero. Le misurazioni prive di data si stampano se è attivata la casella Misurazioni senza data.</translation></message>
     <message id="noPage"><translation>Nessuna pagina</translation></message>
     <message id="noPatientFound"><translation>Nessun paziente trovato</translation></message>
     <message id="noPatientFoundAdvice"><translation>Nessun nome e nessun ID contiene il testo cercato.</translation></message>
@@ -534,8 +534,8 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
-    <message id="ownDia"><translation>Limite diastolico proprio in mmHg, 0 per nessuno</translation></message>
-    <message id="ownSys"><translation>Limite sistolico proprio in mmHg, 0 per nessuno</translation></message>
+    <message id="ownDia"><translation>Limite diastolico personalizzato in mmHg, 0 per nessuno</translation></message>
+    <message id="ownSys"><translation>Limite sistolico personalizzato in mmHg, 0 per nessuno</translation></message>
     <message id="pad"><translation>Aritmia</translation></message>
     <message id="pageChart"><translation>Grafico</translation></message>
     <message id="pagePatients"><translation>Pazienti</translation></message>
@@ -550,7 +550,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="patientIDTwice"><translation>Il file dei dati contiene più di un paziente con l’ID %1. Non si possono distinguere, perciò nessuno di loro viene modificato o eliminato.</translation></message>
     <message id="patientList"><translation>Elenco dei pazienti</translation></message>
     <message id="patientName"><translation>Nome</translation></message>
-    <message id="patientPartlySaved"><translation>Non è stato possibile registrare tutti i dati di %1: per alcuni il file dei dati non ha posto. I dati non registrati sono ancora nei campi.</translation></message>
+    <message id="patientPartlySaved"><translation>Non è stato possibile registrare tutti i dati di %1: alcuni non trovano posto nel file dei dati. I dati non registrati sono ancora nei campi.</translation></message>
     <message id="patientRefused"><translation>Non è stato ancora salvato nulla. Correggere ciò che è evidenziato:
 %1</translation></message>
     <message id="patientReplaced"><translation>%1 non è più nel file dei dati: un altro programma ha rimosso questo paziente. Ora è mostrato un altro paziente.</translation></message>
@@ -581,7 +581,7 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="printerGone"><translation>La stampante “%1” non è più disponibile, perciò non è stato stampato nulla. Controllare che sia accesa e collegata, oppure sceglierne un’altra.</translation></message>
     <message id="printerLabel"><translation>Stampan&amp;te</translation></message>
     <message id="printerShown"><translation>Stampante: %1</translation></message>
-    <message id="printFailed"><translation>Non è stato possibile inviare per intero le pagine alla stampante “%1”. Il lavoro è stato ritirato e non viene stampato nulla. Controllare la coda di stampa e che il disco non sia pieno, poi riprovare.</translation></message>
+    <message id="printFailed"><translation>Non è stato possibile inviare per intero le pagine alla stampante “%1”. Il lavoro di stampa è stato annullato e non viene stampato nulla. Controllare la coda di stampa e che il disco non sia pieno, poi riprovare.</translation></message>
     <message id="printNoData"><translation>Non c’è nulla da stampare: questa sezione non contiene dati per questo paziente e periodo.</translation></message>
     <message id="printNoPatient"><translation>Non c’è alcun paziente di cui stampare il rapporto. Sceglierne uno, oppure prima inserirne e salvarne uno nuovo.</translation></message>
     <message id="printOption"><translation>Sezione da stampare</translation></message>
@@ -589,8 +589,8 @@ Restare qui e conservare il testo, per riprovare? Con No il testo va perso.</tra
     <message id="privacyAsked"><translation>Altri utenti di questo computer possono leggere %1.
 
 Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, della sua cartella e delle sue copie.</translation></message>
-    <message id="privacyAskedMore"><translation>%1 e %2 in più</translation></message>
-    <message id="privacyMended"><translation>Ora solo l’account attuale può leggere il file dei dati e le sue copie.</translation></message>
+    <message id="privacyAskedMore"><translation>%1 (e altri file: %2)</translation></message>
+    <message id="privacyMended"><translation>Ora solo l’utente attuale può leggere il file dei dati e le sue copie.</translation></message>
     <message id="privacyTitle"><translation>Altri possono leggere i dati dei pazienti</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
     <message id="programPurpose"><translation>Le misurazioni della pressione, dal misuratore al proprio archivio</translation></message>
@@ -609,12 +609,12 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="readingsOn"><translation>%1, il %2</translation></message>
     <message id="readingTime"><translation>Ora</translation></message>
     <message id="readingTotal"><translation>Misurazioni del paziente</translation></message>
-    <message id="redoFailed"><translation>“%1”: non è stato possibile ripetere. %2</translation></message>
+    <message id="redoFailed"><translation>Non è stato possibile ripetere “%1”. %2</translation></message>
     <message id="redone"><translation>Ripetuto: %1</translation></message>
     <message id="riskFactors"><translation>Fattori di rischio</translation></message>
     <message id="sameID"><translation>L’ID %1 appartiene a un altro paziente dell’elenco. Non è stato ancora salvato nulla; scegliere un altro ID.</translation></message>
     <message id="sameIDTitle"><translation>ID già in uso</translation></message>
-    <message id="savedPdf"><translation>Salvato in %1</translation></message>
+    <message id="savedPdf"><translation>Salvato come %1</translation></message>
     <message id="saveIt"><translation>&amp;Salva</translation></message>
     <message id="saveNot"><translation>&amp;Non salvare</translation></message>
     <message id="SavePatient"><translation>Salva paziente</translation></message>
@@ -643,13 +643,13 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="settingDia"><translation>Limite diastolico in mmHg</translation></message>
     <message id="settingDiaLabel"><translation>Di&amp;astolico</translation></message>
     <message id="settingDisplay"><translation>Visualizzazione</translation></message>
-    <message id="settingErase"><translation>Svuota il misuratore dopo ogni scarico</translation></message>
+    <message id="settingErase"><translation>Svuota il misuratore dopo ogni scarico dei dati</translation></message>
     <message id="settingEraseButton"><translation>S&amp;vuota il misuratore dopo lo scarico</translation></message>
     <message id="settingEraseHint"><translation>Le misurazioni vengono eliminate dal misuratore quando sono tutte registrate qui in modo sicuro.</translation></message>
     <message id="settingLanguage"><translation>Lingua</translation></message>
     <message id="settingLanguageLabel"><translation>Lin&amp;gua</translation></message>
     <message id="settingLanguageSystem"><translation>Come il sistema</translation></message>
-    <message id="settingLanguageWhen"><translation>Un’altra lingua vale dal prossimo avvio.</translation></message>
+    <message id="settingLanguageWhen"><translation>Il cambio di lingua vale dal prossimo avvio.</translation></message>
     <message id="settingLimits"><translation>Limiti della pressione</translation></message>
     <message id="settingMAP"><translation>Mostra la pressione arteriosa media</translation></message>
     <message id="settingMAPButton"><translation>&amp;Pressione arteriosa media (PAM)</translation></message>
@@ -664,7 +664,7 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="settingsButton"><translation>Impostazioni</translation></message>
     <message id="settingsHint"><translation>Impostazioni, esportazione e importazione (Ctrl+,)</translation></message>
     <message id="settingsNotSaved"><translation>Le impostazioni non sono state salvate. %1</translation></message>
-    <message id="settingsPartlySaved"><translation>Non è stato possibile registrare tutte le impostazioni: per alcune il file dei dati non ha posto.</translation></message>
+    <message id="settingsPartlySaved"><translation>Non è stato possibile registrare tutte le impostazioni: alcune non trovano posto nel file dei dati.</translation></message>
     <message id="settingSys"><translation>Limite sistolico in mmHg</translation></message>
     <message id="settingSysLabel"><translation>&amp;Sistolico</translation></message>
     <message id="settingTime"><translation>Formato dell’ora</translation></message>
@@ -693,10 +693,10 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="spokenPulse"><translation>Polso, battiti al minuto</translation></message>
     <message id="spokenSys"><translation>Pressione sistolica, mmHg</translation></message>
     <message id="statisticAll"><translation>Tutti i giorni con misurazioni</translation></message>
-    <message id="statisticAllHint"><translation>Comprende tutto il tempo dalla prima all’ultima misurazione. Per considerarne una parte, scegliere altre date qui sopra.</translation></message>
+    <message id="statisticAllHint"><translation>Comprende tutto il periodo dalla prima all’ultima misurazione. Per considerarne una parte, scegliere altre date qui sopra.</translation></message>
     <message id="statisticPanel"><translation>Statistiche</translation></message>
     <message id="statisticWholeDay"><translation>Giorno intero: %1</translation></message>
-    <message id="statusBroken"><translation>Misuratore collegato, connessione difettosa</translation></message>
+    <message id="statusBroken"><translation>Misuratore collegato, comunicazione difettosa</translation></message>
     <message id="statusConnected"><translation>Misuratore collegato</translation></message>
     <message id="statusDamaged"><translation>Misuratore collegato, risposte danneggiate</translation></message>
     <message id="statusLocked"><translation>Misuratore collegato, senza permesso</translation></message>
@@ -729,8 +729,8 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="trendView"><translation>Andamento di pressione sistolica, diastolica e polso</translation></message>
     <message id="undoDropped"><translation>
 
-D’ora in poi questa operazione viene quindi tralasciata; le altre non sono interessate.</translation></message>
-    <message id="undoFailed"><translation>“%1”: non è stato possibile annullare. %2</translation></message>
+Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risentono.</translation></message>
+    <message id="undoFailed"><translation>Non è stato possibile annullare “%1”. %2</translation></message>
     <message id="undone"><translation>Annullato: %1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
     <message id="unitPulse"><translation>battiti al minuto</translation></message>
@@ -817,11 +817,11 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="sys"><translation>SYS</translation></message>
     <message id="sys and dia too high"><translation>Entrambe alte</translation></message>
     <message id="sys too high"><translation>Sistolica alta</translation></message>
-    <message id="trendBand"><translation>%1; banda: dal 10º al 90º percentile, o tutte se sono meno di 5 misurazioni</translation></message>
+    <message id="trendBand"><translation>%1; banda: dal 10º al 90º percentile, o tutte le misurazioni se meno di 5</translation></message>
     <message id="trendBandShort"><translation>%1; banda: dal 10º al 90º percentile</translation></message>
     <message id="trendDay"><translation>Mediana di ogni giorno</translation></message>
     <message id="trendEvening"><translation>%1 sera</translation></message>
-    <message id="trendLinked"><translation>%1; a punti: nessuna misurazione</translation></message>
+    <message id="trendLinked"><translation>%1; a puntini: nessuna misurazione</translation></message>
     <message id="trendMonth"><translation>Mediana di ogni mese</translation></message>
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n altro commento non trova posto qui</numerusform><numerusform>%n altri commenti non trovano posto qui</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 mattina</translation></message>
@@ -840,7 +840,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="formCholesterol"><translation>Colesterolo (mg/dL)</translation></message>
     <message id="formDay"><translation>Giorno</translation></message>
     <message id="formDiabetic"><translation>Diabete</translation></message>
-    <message id="formFamilyHistory"><translation>Anamnesi</translation></message>
+    <message id="formFamilyHistory"><translation>Familiarità</translation></message>
     <message id="formFamilyName"><translation>Cognome</translation></message>
     <message id="formGivenNames"><translation>Nome</translation></message>
     <message id="formHeightCm"><translation>Altezza (cm)</translation></message>
@@ -868,7 +868,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportAllComments"><translation>Commenti di ogni data, non solo di questo periodo</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1, giorno intero</translation></message>
     <message id="reportAverage"><translation>media di più misurazioni</translation></message>
-    <message id="reportBothAbove"><translation>Sopra entrambe: %1</translation></message>
+    <message id="reportBothAbove"><translation>Entrambe sopra: %1</translation></message>
     <message id="reportCommentBars"><translation>Barre: commenti, per numero</translation></message>
     <message id="reportCommentsLeftOut"><translation>Un rapporto ha posto per %1 commenti, con %2 caratteri in tutto. Seguono i più recenti; un’esportazione li contiene tutti.</translation></message>
     <message id="reportContinued"><translation>%1, continuazione</translation></message>
@@ -878,11 +878,11 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportCutPractitioner"><translation>…: qui abbreviato; il testo intero è nelle impostazioni.</translation></message>
     <message id="reportCutTexts"><translation>…: qui abbreviato; il testo intero è nella pagina seguente.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n giorno</numerusform><numerusform>%n giorni</numerusform></translation></message>
-    <message id="reportDiaAbove"><translation>Sopra solo la diastolica: %1</translation></message>
+    <message id="reportDiaAbove"><translation>Solo la diastolica sopra: %1</translation></message>
     <message id="reportDocument"><translation>Rapporto sulla pressione arteriosa: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ giallo: scarico dati</translation></message>
     <message id="reportEarlierComments" numerus="yes"><translation><numerusform>%n commento precedente non è stampato</numerusform><numerusform>%n commenti precedenti non sono stampati</numerusform></translation></message>
-    <message id="reportEmptySections"><translation>Vuote, perciò non in questo rapporto: %1</translation></message>
+    <message id="reportEmptySections"><translation>Sezioni vuote, omesse dal rapporto: %1</translation></message>
     <message id="reportEveningOnly"><translation>Solo le misurazioni dalle 12 in poi</translation></message>
     <message id="reportFindingUnknown"><translation>N.A.: non nota</translation></message>
     <message id="reportFound"><translation>rilevata</translation></message>
@@ -893,7 +893,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>Il limite di %1 è fuori dalla scala.</numerusform><numerusform>I limiti di %1 sono fuori dalla scala.</numerusform></translation></message>
     <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Linea tratteggiata: il limite di %1.</numerusform><numerusform>Linee tratteggiate: i limiti di %1.</numerusform></translation></message>
     <message id="reportGraphNote"><translation>Linea superiore: pressione sistolica; linea inferiore: pressione diastolica.</translation></message>
-    <message id="reportHistogramNote"><translation>La lunghezza di una barra è la percentuale di tutte le misurazioni che rientrano nei suoi 10 mmHg o 10 battiti al minuto.</translation></message>
+    <message id="reportHistogramNote"><translation>La lunghezza di una barra è la percentuale di tutte le misurazioni che rientrano nel suo intervallo di 10 mmHg o di 10 battiti al minuto.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Pari o inferiori a %1: %2</numerusform><numerusform>Pari o inferiori ai limiti di %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, polso %5</translation></message>
     <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n misurazione esclusa dall’utente, con il motivo</numerusform><numerusform>%n misurazioni escluse dall’utente, con il motivo</numerusform></translation></message>
@@ -912,14 +912,14 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportNotPainted"><translation>Impossibile creare il PDF dalle pagine. Nessun file è stato scritto.</translation></message>
     <message id="reportNotWritable"><translation>Impossibile scrivere il file %1. Controllare che la sua cartella esista e che sia consentito scrivervi.</translation></message>
     <message id="reportPage"><translation>Pagina %1 di %2</translation></message>
-    <message id="reportPatient"><translation>Paziente=%1 %2  ID=%3</translation></message>
-    <message id="reportPeriod"><translation>Dal: %1 Al: %2</translation></message>
+    <message id="reportPatient"><translation>Paziente: %1 %2  ID: %3</translation></message>
+    <message id="reportPeriod"><translation>Dal %1 al %2</translation></message>
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n misurazione</numerusform><numerusform>%n misurazioni</numerusform></translation></message>
     <message id="reportStruckThrough"><translation>barrata: esclusa da tutti i calcoli; i motivi sono dopo la tabella</translation></message>
-    <message id="reportSysAbove"><translation>Sopra solo la sistolica: %1</translation></message>
+    <message id="reportSysAbove"><translation>Solo la sistolica sopra: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Il resto di questo testo non è stampato: altri %1 caratteri.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Linea retta sottile: il limite di %1.</numerusform><numerusform>Linee rette sottili: i limiti di %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Linee spesse: mediane. Bande: dal 10º al 90º percentile, o dal minimo al massimo se le misurazioni sono meno di 5. Una linea si interrompe dove mancano misurazioni; dei punti ne uniscono le estremità, al massimo per 30 giorni.</translation></message>
+    <message id="reportTrendNote"><translation>Linee spesse: mediane. Bande: dal 10º al 90º percentile, o dal minimo al massimo se le misurazioni sono meno di 5. Una linea si interrompe dove mancano misurazioni; una linea a puntini ne unisce gli estremi, al massimo per 30 giorni.</translation></message>
     <message id="reportWriteFailed"><translation>La scrittura del file %1 non è riuscita, perciò non c’è un nuovo file. Controllare che il disco non sia pieno e riprovare.</translation></message>
     <message id="summary"><translation>Riepilogo</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -937,7 +937,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryEvenings"><translation>Sera %1</translation></message>
     <message id="summaryExcluded"><translation>%1 %2  %3/%4: %5</translation></message>
     <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n del primo giorno non conteggiata</numerusform><numerusform>%n del primo giorno non conteggiate</numerusform></translation></message>
-    <message id="summaryFlagged" numerus="yes"><translation><numerusform>Aritmia segnalata (%1): %2 su %n misurazione</numerusform><numerusform>Aritmia segnalata (%1): %2 su %n misurazioni</numerusform></translation></message>
+    <message id="summaryFlagged" numerus="yes"><translation><numerusform>%1 segnalata: %2 su %n misurazione</numerusform><numerusform>%1 segnalata: %2 su %n misurazioni</numerusform></translation></message>
     <message id="summaryHigh"><translation>Pari o superiori a %1</translation></message>
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 su %n misurazione</numerusform><numerusform>%1 su %n misurazioni</numerusform></translation></message>
     <message id="summaryID"><translation>ID %1</translation></message>
@@ -956,11 +956,11 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryNoBirth"><translation>Data di nascita non indicata</translation></message>
     <message id="summaryNoComments"><translation>Nessun commento nel periodo</translation></message>
     <message id="summaryNone"><translation>Nessuna misurazione nel periodo</translation></message>
-    <message id="summaryNoneCountsYet"><translation>Nessuna misurazione conta ancora</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Ancora nessuna misurazione utile</translation></message>
     <message id="summaryNoReason"><translation>nessun motivo indicato</translation></message>
     <message id="summaryNote"><translation>Settimana di misura: %1 se la soglia è raggiunta. %2 Mattina: prima delle 12. %3</translation></message>
     <message id="summaryNotExamined"><translation>Aritmia: nessuna misurazione esaminata</translation></message>
-    <message id="summaryNothingLeftOut"><translation>Tutte conteggiate</translation></message>
+    <message id="summaryNothingLeftOut"><translation>Nessuna: tutte conteggiate</translation></message>
     <message id="summaryNoWeek"><translation>Nessuna misurazione nella settimana</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 in %n giorno</numerusform><numerusform>%1 in %n giorni</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n commento di altri giorni</numerusform><numerusform>%n commenti di altri giorni</numerusform></translation></message>
@@ -978,10 +978,10 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryTrendComments"><translation>Andamento e, sotto, i commenti per numero</translation></message>
     <message id="summaryTrendHidden"><translation>Fuori dalla scala dell’andamento: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Linee rette sottili nell’andamento: %1.</translation></message>
-    <message id="summaryTyped" numerus="yes"><translation><numerusform>Inserite: %1 di %n misurazione</numerusform><numerusform>Inserite: %1 di %n misurazioni</numerusform></translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Inserite a mano: %1 su %n misurazione</numerusform><numerusform>Inserite a mano: %1 su %n misurazioni</numerusform></translation></message>
     <message id="summaryWeek"><translation>Settimana di misura (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n della settimana esclusa dall’utente</numerusform><numerusform>%n della settimana escluse dall’utente</numerusform></translation></message>
-    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n della settimana inserita</numerusform><numerusform>%n della settimana inserite</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n della settimana inserita a mano</numerusform><numerusform>%n della settimana inserite a mano</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistiche e misurazioni</translation></message>
     <message id="table"><translation>Misurazioni</translation></message>
@@ -992,27 +992,27 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
 <context>
     <name>cli</name>
     <message id="CliAddMissing"><translation>--id, --family-name e --given-names vanno insieme a --add.</translation></message>
-    <message id="CliAmAndPm"><translation>Indicare --am oppure --pm, non entrambi.</translation></message>
+    <message id="CliAmAndPm"><translation>Indicare --am oppure --pm, non entrambe.</translation></message>
     <message id="CliBackupUsage"><translation>Indicare list, create, oppure restore con il nome di una copia; o ancora folder e, per cambiarla, il nome della cartella oppure --none.</translation></message>
     <message id="CliBadDate"><translation>--%1 richiede un giorno del calendario nella forma aaaa-MM-gg, non '%2'.</translation></message>
     <message id="CliBadDays"><translation>--last richiede un numero intero di giorni da 1 a %2, non '%1'.</translation></message>
     <message id="CliBadField"><translation>Il valore di --%1 non può essere '-', non può iniziare o finire con uno spazio e non può contenere caratteri di controllo.</translation></message>
-    <message id="CliBadID"><translation>Il valore di --id deve avere da 1 a 11 lettere, cifre o segni semplici, senza accenti: di più un misuratore non può memorizzare.</translation></message>
+    <message id="CliBadID"><translation>Il valore di --id deve avere da 1 a 11 lettere, cifre o segni semplici, senza accenti: un misuratore non può memorizzarne di più.</translation></message>
     <message id="CliBadPaper"><translation>--paper richiede A4 o Letter, non '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait richiede un numero intero di secondi da 0 a %1.</translation></message>
     <message id="CliChangeOfNothing"><translation>--change richiede almeno una delle opzioni --date, --time, --sys, --dia e --pulse.</translation></message>
     <message id="CliClockUnread"><translation>Impossibile leggere l'orologio del misuratore. %1</translation></message>
     <message id="CliClockUnset"><translation>Impossibile regolare l'orologio del misuratore. %1</translation></message>
     <message id="CliCountUnread"><translation>Impossibile leggere il numero di misurazioni nel misuratore. %1</translation></message>
-    <message id="CliDownloadFailed"><translation>Impossibile scaricare le misurazioni; non è stato registrato nulla. %1 Sono ancora nel misuratore: riprovare.</translation></message>
+    <message id="CliDownloadFailed"><translation>Impossibile scaricare le misurazioni; non è stato registrato nulla. %1 Le misurazioni sono ancora nel misuratore: riprovare.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Le misurazioni sono registrate, ma non è stato poi possibile rileggere il file dei dati, perciò la memoria del misuratore non è stata cancellata. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Impossibile registrare le misurazioni scaricate. %1 Sono ancora nel misuratore.</translation></message>
-    <message id="CliEmptySections"><translation>Vuote, perciò non nel rapporto: %1</translation></message>
+    <message id="CliEmptySections"><translation>Sezioni vuote, omesse dal rapporto: %1</translation></message>
     <message id="CliEraseAfterFailed"><translation>Le misurazioni sono registrate e al sicuro, ma non è stato poi possibile cancellare la memoria del misuratore. %1 La si può cancellare con 'zel monitor --erase --yes'.</translation></message>
     <message id="CliEraseAfterUnseen"><translation>Le misurazioni sono registrate e al sicuro, ma non è stato possibile accertare se il misuratore sia ora vuoto. %1 'zel monitor' ne mostra il contenuto.</translation></message>
     <message id="CliEraseFailed"><translation>Impossibile cancellare la memoria del misuratore. %1</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase elimina definitivamente tutte le misurazioni dal misuratore. Per confermare, aggiungere --yes.</translation></message>
-    <message id="CliEraseNoID"><translation>La memoria del misuratore si cancella riscrivendovi il suo stesso ID, ma non ne contiene uno che possa memorizzare. Prima assegnargliene uno con 'zel monitor --send-id ID'.</translation></message>
+    <message id="CliEraseNoID"><translation>La memoria del misuratore si cancella riscrivendovi il suo stesso ID, ma il misuratore non contiene un ID utilizzabile. Prima assegnargliene uno con 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Non è stato possibile accertare se la memoria del misuratore sia ora vuota. %1</translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n misurazione della settimana è esclusa dall'utente.</numerusform><numerusform>%n misurazioni della settimana sono escluse dall'utente.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Manca un file da importare.</translation></message>
@@ -1026,7 +1026,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
 Gestisce le misurazioni dei misuratori automatici di pressione, paziente per paziente.
 Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestra, sullo stesso file dei dati:
 
-  monitor    mostra il misuratore collegato, oppure ne regola l'orologio o l'ID, o ne cancella la memoria
+  monitor    mostra il misuratore collegato, oppure ne imposta l'orologio o l'ID, o ne cancella la memoria
   patients   elenca i pazienti o ne aggiunge uno
   download   registra per un paziente le misurazioni del misuratore
   readings   mostra le misurazioni di un paziente
@@ -1042,7 +1042,7 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
 
 Opzioni:
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato, invece di uno USB
-  --language TAG               la lingua dei messaggi e dei referti, per esempio it
+  --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
   -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
   --version                    mostra la versione
 
@@ -1052,7 +1052,7 @@ Stato di uscita: 0 eseguito, 1 non riuscito (il motivo è sullo standard error),
 Mostra la media delle misurazioni di un paziente in una settimana di misura, cioè i sette giorni che
 terminano con un dato giorno, secondo la regola di una linea guida: quali giorni e misurazioni contano,
 quanti ne occorrono e qual è la soglia della media.
-Solo numeri: che cosa significhino per il paziente spetta dirlo a un medico.
+Solo numeri: spetta a un medico dire che cosa significhino per il paziente.
 
   rule        esh: almeno 3 giorni, il primo non conteggiato, poi almeno 12 misurazioni; soglia 135/85
               nice: almeno 4 giorni, il primo non conteggiato, poi 2 misurazioni al mattino e 2 alla sera
@@ -1066,44 +1066,44 @@ Solo numeri: che cosa significhino per il paziente spetta dirlo a un medico.
   pulse       in battiti al minuto
   morning     sys/dia di quelle prima delle 12
   evening     sys/dia di quelle dalle 12 in poi
-  threshold   raggiunta se sys o dia è pari o superiore alla propria parte della soglia, prima di arrotondare
+  threshold   raggiunta se sys o dia è pari o superiore al rispettivo valore, prima dell'arrotondamento
 
-Giorni e orari sono quelli del fuso orario di questo computer. Una riga che non ha nulla da dire viene
-omessa. Il numero di misurazioni della settimana non conteggiate, e di quelle salvate in un altro fuso
-orario, va sullo standard error.
+Giorni e orari sono quelli del fuso orario di questo computer. Le righe che resterebbero vuote sono
+omesse. Quante misurazioni della settimana non sono conteggiate, e quante sono state salvate in un altro
+fuso orario, è scritto sullo standard error.
 
 Opzioni:
   --patient ID                 di quale paziente
   --rule REGOLA                esh (se non indicato altrimenti), nice o aha
   --to GIORNO                  l'ultimo giorno della settimana (aaaa-MM-gg); altrimenti l'ultimo giorno con
                                misurazioni
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpBackup"><translation>Uso: zel backup list
      zel backup create
      zel backup restore NOME
      zel backup folder [CARTELLA | --none]
 
-Prima della prima modifica di un giorno il file dei dati viene copiato nella cartella Backups accanto. Si
-conservano le copie degli ultimi 14 giorni e una al mese per due anni, finché non occupano più di un decimo
+Prima della prima modifica di un giorno il file dei dati viene copiato nella cartella Backups accanto a esso.
+Si conservano le copie degli ultimi 14 giorni e una al mese per due anni, purché non occupino più di un decimo
 dello spazio libero del disco.
 
 list      mostra le copie in formato CSV, prima la più recente, e che cosa contengono
 create    crea ora un'altra copia e stampa 'written: FILE'
 restore   mette una copia al posto del file dei dati e stampa 'restored: NOME'; i dati precedenti restano in
-          un'altra copia, di cui stampa il nome ('kept: NOME'), così che ripristinandola si torna indietro
+          un'altra copia, di cui stampa il nome ('kept: NOME'), così che ripristinandola si torni indietro
 folder    stampa la seconda cartella in cui vanno le copie, una chiavetta o una condivisione di rete, come
           'folder: CARTELLA', dopo averla impostata su CARTELLA; le sue copie sono elencate con il percorso
           completo
 
 Opzioni:
   --none                       d'ora in poi nessuna seconda cartella; le copie che contiene restano
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpDownload"><translation>Uso: zel download --patient ID [--any-monitor] [OPZIONE]...
 
 Scarica le misurazioni del misuratore, registra quelle non ancora registrate e mostra quante ne sono state
-scaricate e quante sono nuove. L'avanzamento va sullo standard error. La memoria del misuratore viene
+scaricate e quante sono nuove. L'avanzamento è scritto sullo standard error. La memoria del misuratore viene
 cancellata solo se lo prevedono le impostazioni, e solo quando le misurazioni sono registrate e al sicuro.
 
 Opzioni:
@@ -1122,7 +1122,7 @@ mano, e 'excluded: MOTIVO' se è esclusa da tutti i calcoli.
 Opzioni:
   --patient ID                 di quale paziente
   --force                      sostituisce il file se esiste già
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpExportXml"><translation>Uso: zel export-xml CARTELLA [--patient ID] [--force]
 
@@ -1133,17 +1133,17 @@ nuovo. Un file che non si può scrivere è indicato sullo standard error, e gli 
 Opzioni:
   --patient ID                 solo questo paziente
   --force                      sostituisce i file già presenti, invece di lasciarli come sono
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpImport"><translation>Uso: zel import FILE...
 
 Importa i pazienti da file XML esportati, con le loro misurazioni e i commenti. Un file viene importato per
 intero o per niente: per niente se uno dei suoi pazienti è già nell'elenco. I file non importati sono indicati
 sullo standard error, con il motivo. Stampa quanti file sono stati importati e rifiutati, e quanti pazienti,
-misurazioni e commenti hanno portato, una riga 'chiave: valore' per ciascuno.
+misurazioni e commenti contenevano, una riga 'chiave: valore' per ciascuno.
 
 Opzioni:
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpMonitor"><translation>Uso: zel monitor [OPZIONE]...
      zel monitor --set-clock [OPZIONE]...
@@ -1174,17 +1174,17 @@ Opzioni:
   --id ID                      l'ID del paziente, come è nel misuratore
   --family-name COGNOME        il cognome
   --given-names NOMI           il nome o i nomi
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpPrivacy"><translation>Uso: zel privacy [--mend]
 
-Mostra quali file altri utenti di questo computer possono leggere tra il file dei dati, ciò che è conservato
-accanto e le sue copie, una riga per file ('readable by others: FILE'), oppure 'private'.
+Mostra quali file, tra il file dei dati, ciò che è conservato accanto a esso e le sue copie, possono essere
+letti da altri utenti di questo computer, una riga per file ('readable by others: FILE'), oppure 'private'.
 
 Opzioni:
   --mend                       impedisce l'accesso agli altri: cambia i permessi di questi file, della loro
                                cartella e della cartella delle copie, e nient'altro
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpReadings"><translation>Uso: zel readings --patient ID [--from GIORNO | --last N] [--to GIORNO] [--am | --pm]
                   [--undated] [--numbers]
@@ -1206,8 +1206,8 @@ Con --exclude, --include, --add, --change o --delete modifica invece il file dei
 esclusa resta nel file e nell'elenco, con il suo motivo, e non conta in nessun calcolo; una frase sullo
 standard error dice quante delle misurazioni mostrate sono escluse. Una misurazione inserita a mano è
 contrassegnata come tale; le pressioni e il polso sono numeri interi da 30 a 300, la pressione diastolica è
-inferiore alla sistolica e il momento non è nel futuro. --add stampa 'record: NUMERO'. Solo le misurazioni
-inserite a mano si possono modificare o eliminare.
+inferiore alla sistolica, la data e l'ora non sono nel futuro. --add stampa 'record: NUMERO'. Solo le
+misurazioni inserite a mano si possono modificare o eliminare.
 
 Opzioni:
   --patient ID                 di quale paziente
@@ -1218,7 +1218,7 @@ Opzioni:
   --pm                         solo le misurazioni dalle 12 in poi
   --undated                    anche le misurazioni senza data
   --numbers                    con altre due colonne: record, il numero della misurazione nel file dei dati,
-                               ed excluded, perché è esclusa (vuota: conta)
+                               ed excluded, il motivo per cui è esclusa (vuota: conta)
   --exclude NUMERO             esclude da tutti i calcoli la misurazione con questo numero
   --reason TESTO               il motivo
   --include NUMERO             la fa contare di nuovo
@@ -1230,7 +1230,7 @@ Opzioni:
   --sys N                      pressione sistolica, mmHg
   --dia N                      pressione diastolica, mmHg
   --pulse N                    battiti al minuto
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpReport"><translation>Uso: zel report --patient ID --section CHIAVE[,CHIAVE...] --output FILE.pdf [OPZIONE]...
 
@@ -1257,9 +1257,9 @@ Opzioni:
   --from aaaa-MM-gg            il primo giorno del periodo (se non indicato, quello della prima misurazione)
   --to aaaa-MM-gg              l'ultimo giorno del periodo (se non indicato, quello dell'ultima misurazione)
   --last N                     invece di --from: N giorni, fino a quello di --to o all'ultimo con misurazioni
-  --am                         solo le misurazioni prima delle 12 (statistiche e riepilogo le prendono tutte)
+  --am                         solo le misurazioni prima delle 12 (statistiche e riepilogo le usano tutte)
   --pm                         solo le misurazioni dalle 12 in poi (idem)
-  --apart                      l’andamento ha linee distinte per mattina e sera
+  --apart                      l'andamento ha linee distinte per mattina e sera
   --rule esh|nice|aha          come il riepilogo calcola la media della sua settimana di misura, che termina
                                con l'ultimo giorno del periodo con misurazioni; esh se non indicato
                                altrimenti. 'zel average --help' spiega le regole
@@ -1267,14 +1267,14 @@ Opzioni:
                                testa
   --paper A4|Letter            la carta; di norma quella di LC_PAPER o LANG
   --output FILE.pdf            il file da scrivere
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpSettings"><translation>Uso: zel settings
      zel settings --set CHIAVE=VALORE [--set CHIAVE=VALORE]...
 
 Mostra le impostazioni, una riga 'chiave: valore' per ciascuna, oppure ne modifica alcune e mostra quelle. Se
-uno dei valori viene rifiutato, non ne viene modificata nessuna. Nei testi, \n indica un fine riga e \\ una
-barra rovesciata.
+uno dei valori viene rifiutato, non ne viene modificata nessuna. Nei testi, \n indica un ritorno a capo e
+\\ una barra rovesciata.
 
   DateFormat                   dd mm yyyy, mm dd yyyy o yyyy mm dd
   TimeFormat                   12-hours o 24-hours
@@ -1290,14 +1290,14 @@ barra rovesciata.
 
 Opzioni:
   --set CHIAVE=VALORE          modifica un'impostazione; si può indicare più volte
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpStatistics"><translation>Uso: zel statistics --patient ID [--from GIORNO | --last N] [--to GIORNO] [--undated]
 
 Mostra la media, il minimo e il massimo delle misurazioni di un paziente, una grandezza per riga:
 'sys: MEDIA MIN MAX', poi dia, pulse e map o pp secondo le impostazioni. Le pressioni sono in mmHg, il
 polso in battiti al minuto. Se non ci sono misurazioni, ogni valore è n/a. Se alcune misurazioni non sono
-conteggiate, quante lo sono e quante no, e per quale motivo, va sullo standard error.
+conteggiate, sullo standard error è scritto quante lo sono, quante no e per quale motivo.
 
 Opzioni:
   --patient ID                 di quale paziente
@@ -1305,12 +1305,12 @@ Opzioni:
   --to GIORNO                  solo fino alla fine di questo giorno (aaaa-MM-gg)
   --last N                     invece di --from: N giorni, fino a quello di --to o all'ultimo con misurazioni
   --undated                    anche le misurazioni senza data
-  --simulated-monitor[=FILE]   accettata come ovunque; questo comando non richiede un misuratore
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliIDDoesNotFit"><translation>Il misuratore non può memorizzare l'ID '%1': servono da 1 a 11 caratteri semplici (ASCII), senza spazi all'inizio o alla fine.</translation></message>
     <message id="CliIDUnread"><translation>Impossibile leggere l'ID del misuratore. %1</translation></message>
     <message id="CliIDUnsent"><translation>Impossibile scrivere l'ID nel misuratore. %1</translation></message>
-    <message id="CliLastAndFrom"><translation>Indicare --from oppure --last, non entrambi.</translation></message>
+    <message id="CliLastAndFrom"><translation>Indicare --from oppure --last, non entrambe.</translation></message>
     <message id="CliMonitorChanged"><translation>Il collegamento si è interrotto, e le misurazioni arrivate dopo potrebbero provenire da un misuratore diverso da quello interpellato. Non è stato registrato nulla; riprovare.</translation></message>
     <message id="CliMonitorDenied"><translation>%1 Per leggerlo occorre un permesso: installare packaging/70-zel.rules in /etc/udev/rules.d, eseguire 'udevadm control --reload' e ricollegare il misuratore.</translation></message>
     <message id="CliMonitorSilent"><translation>Un misuratore è collegato, ma non ha risposto entro %1 s. %2</translation></message>
@@ -1332,14 +1332,14 @@ Opzioni:
     <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n misurazione della settimana è stata salvata in un altro fuso orario; giorno e ora sono quelli di questo computer.</numerusform><numerusform>%n misurazioni della settimana sono state salvate in un altro fuso orario; giorni e orari sono quelli di questo computer.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>Impossibile scrivere l'output.</translation></message>
     <message id="CliPatientKnown"><translation>Esiste già un paziente con l'ID '%1'.</translation></message>
-    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= richiede dopo di sé il nome di un file; da sola, senza '=', è il misuratore simulato integrato.</translation></message>
+    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= richiede dopo di sé il nome di un file; da sola, senza '=', indica il misuratore simulato integrato.</translation></message>
     <message id="CliProgress"><translation>Ricevute %1 misurazioni su %2</translation></message>
     <message id="CliReadableByOthers"><translation>Altri utenti di questo computer possono leggere %1. 'zel privacy --mend' ne impedisce l'accesso.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason va insieme a --exclude; --date, --time, --sys, --dia e --pulse vanno insieme a --add o --change</translation></message>
     <message id="CliReadingNotUnique"><translation>più misurazioni hanno il numero %1; non si può stabilire quale si intende</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n di queste misurazioni è esclusa dall'utente e non conta in nessun calcolo; --numbers dice quale, e perché</numerusform><numerusform>%n di queste misurazioni sono escluse dall'utente e non contano in nessun calcolo; --numbers dice quali, e perché</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n di queste misurazioni è esclusa dall'utente e non conta in nessun calcolo; --numbers mostra quale, e perché</numerusform><numerusform>%n di queste misurazioni sono escluse dall'utente e non contano in nessun calcolo; --numbers mostra quali, e perché</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set richiede CHIAVE=VALORE, non '%1'.</translation></message>
-    <message id="CliSettingNotKept"><translation>Il file dei dati non ha posto per l'impostazione %1, perciò non è stato modificato nulla.</translation></message>
+    <message id="CliSettingNotKept"><translation>L'impostazione %1 non trova posto nel file dei dati, perciò non è stato modificato nulla.</translation></message>
     <message id="CliSettingTwice"><translation>L'impostazione %1 è indicata più di una volta.</translation></message>
     <message id="CliSettingUnknown"><translation>L'impostazione '%1' non esiste. Le impostazioni sono: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accetta %2, non '%3'.</translation></message>
