@@ -34,7 +34,7 @@
     <message id="languageTag"><translation>zh_TW</translation></message>
     <message id="LanguageTwice"><translation>--language 只能指定一次</translation></message>
     <message id="LanguageUnknown"><translation>沒有語言「%1」；可用的語言：%2</translation></message>
-    <message id="LanguageUnread"><translation>無法讀取檔案 %1 中的語言選擇。在設定中另選語言之前，以系統語言顯示。</translation></message>
+    <message id="LanguageUnread"><translation>無法讀取檔案 %1 中的語言選擇。在設定中另選語言之前，將以系統語言顯示。</translation></message>
     <message id="LimitDiastolic"><translation>舒張壓上限須為 %1。</translation></message>
     <message id="LimitOrder"><translation>舒張壓上限必須低於收縮壓上限。</translation></message>
     <message id="LimitSystolic"><translation>收縮壓上限須為 %1。</translation></message>
@@ -58,7 +58,7 @@
     <message id="SecondFolderNotFlushed"><translation>今天的資料檔備份已寫入第二備份資料夾 %1，但磁碟未確認已永久保存，斷電後可能遺失。</translation></message>
     <message id="SecondFolderNotRecorded"><translation>無法將第二備份資料夾記錄在 %1。未做任何變更。</translation></message>
     <message id="SettingLimit"><translation>0（無上限）或 %1 到 %2 的整數</translation></message>
-    <message id="SettingOneOf"><translation>%1 其中之一</translation></message>
+    <message id="SettingOneOf"><translation>%1（擇一）</translation></message>
     <message id="SettingQuoted"><translation>「%1」</translation></message>
     <message id="SettingText"><translation>不含控制字元的任何文字</translation></message>
     <message id="stepAddComment"><translation>新增 %1 的註記</translation></message>
@@ -107,7 +107,7 @@
     <message id="StoreTooLarge"><translation>資料檔 %1 大於 512 MiB，本程式無法讀取。檔案維持原狀，也無法儲存任何資料：請以較小的備份取代，或將它移走以建立新的資料檔。</translation></message>
     <message id="StoreUnreadable"><translation>資料檔 %1 維持原狀：要儲存的內容寫入後無法正確讀回。</translation></message>
     <message id="StoreWriteFailed"><translation>寫入資料檔 %1 失敗，檔案維持原狀。請確認磁碟空間足夠，然後再試一次。</translation></message>
-    <message id="ViewLimitsUnread"><translation>無法讀取 %1，其中記錄標示數值的上限。在您重新選擇上限之前，達到 %2/%3 mmHg 的數值會加上標示。</translation></message>
+    <message id="ViewLimitsUnread"><translation>無法讀取 %1，其中記錄了標示數值的上限。在您重新選擇上限之前，達到 %2/%3 mmHg 的數值會加上標示。</translation></message>
     <message id="Warning"><translation>警告</translation></message>
     <message id="XmlAttributeTwice"><translation>有一個元素的同一屬性出現兩次。</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>檔案含有不屬於其編碼 %1 的位元組。</translation></message>
@@ -121,7 +121,7 @@
     <message id="XmlSeveralRoots"><translation>檔案含有多個根元素。</translation></message>
     <message id="XmlTextOutsideRoot"><translation>根元素之外有文字。</translation></message>
     <message id="XmlTooDeep"><translation>元素的巢狀層數超過 %1 層。</translation></message>
-    <message id="XmlTooLarge"><translation>檔案會大於 512 MiB。</translation></message>
+    <message id="XmlTooLarge"><translation>檔案將大於 512 MiB。</translation></message>
     <message id="XmlTooManyParts"><translation>檔案含有超過 %1 個元素、屬性與文字，以其大小而言過多。</translation></message>
     <message id="XmlTooManyRecords"><translation>檔案含有超過 %1 筆紀錄，以其大小而言過多。</translation></message>
     <message id="XmlWrongRoot"><translation>根元素是「%1」，而不是「ZEL」。</translation></message>
@@ -154,7 +154,7 @@
     <message id="simulatedRefused"><translation>無法使用模擬血壓計的檔案 %1：%2</translation></message>
     <message id="simulatedTooMany"><translation>清單「%1」最多只能有 %2 個項目。</translation></message>
     <message id="simulatedUnencodable"><translation>「%1」的值含有血壓計無法辨識的字元。</translation></message>
-    <message id="simulatedUnknownKey"><translation>無法辨識鍵「%1」。</translation></message>
+    <message id="simulatedUnknownKey"><translation>無法辨識鍵名「%1」。</translation></message>
     <message id="simulatedUnreadable"><translation>無法讀取模擬血壓計的檔案 %1：%2</translation></message>
     <message id="simulatedWrongLength"><translation>「%1」的值必須有這個字元數：%2</translation></message>
 </context>
@@ -178,8 +178,8 @@
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
     <message id="listedExcluded" numerus="yes"><translation><numerusform>，其中 %n 筆由使用者排除</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n 天</numerusform></translation></message>
-    <message id="missingEvenings" numerus="yes"><translation><numerusform>%n 個晚上</numerusform></translation></message>
-    <message id="missingMornings" numerus="yes"><translation><numerusform>%n 個早上</numerusform></translation></message>
+    <message id="missingEvenings" numerus="yes"><translation><numerusform>%n 筆晚上量測</numerusform></translation></message>
+    <message id="missingMornings" numerus="yes"><translation><numerusform>%n 筆早上量測</numerusform></translation></message>
     <message id="missingReadings" numerus="yes"><translation><numerusform>%n 筆量測</numerusform></translation></message>
     <message id="noHighMark"><translation>未標示偏高的數值</translation></message>
     <message id="noneBefore"><translation>之前 14 天沒有量測，之後 %1</translation></message>
@@ -251,7 +251,7 @@
     <message id="cellWithRemark"><translation>%1，%2</translation></message>
     <message id="changeReadingAction"><translation>變更量測…</translation></message>
     <message id="changeReadingTitle"><translation>變更量測</translation></message>
-    <message id="chartKeys"><translation>期間內有 %1。方向鍵可移動期間，加號與減號可放寬與縮短期間，Ctrl 加左右方向鍵可逐筆查看量測。</translation></message>
+    <message id="chartKeys"><translation>期間內有 %1。方向鍵可移動期間，加號與減號可加長與縮短期間，Ctrl 加左右方向鍵可逐筆查看量測。</translation></message>
     <message id="cholestrolRefused"><translation>請填寫 10 到 5000 mg/dL 的數字，例如 200。1 mmol/L 約為 38.7 mg/dL。</translation></message>
     <message id="choosePrinter"><translation>選擇印表機</translation></message>
     <message id="clockAhead"><translation>比本電腦快 %1</translation></message>
@@ -311,7 +311,7 @@ mmHg</translation></message>
     <message id="commentText"><translation>註記內容</translation></message>
     <message id="commentUnchanged"><translation>無法儲存註記。%1</translation></message>
     <message id="ConfirmDelPatient"><translation>要刪除 %2 %1 及其所有量測與註記嗎？在 ZEL 關閉之前，可用「編輯 &gt; 復原」恢復。</translation></message>
-    <message id="confirmPrintSave"><translation>%1 的資料已變更，而只有已儲存的內容才會列印或匯出。要先儲存變更嗎？</translation></message>
+    <message id="confirmPrintSave"><translation>%1 的資料已變更，但只有已儲存的內容才會列印或匯出。要先儲存變更嗎？</translation></message>
     <message id="confirmSendID"><translation>%2要將 ID %1 寫入這台血壓計嗎？此後它的量測都屬於這位病患。</translation></message>
     <message id="confirmSendSave"><translation>%1 的資料已變更。要儲存變更嗎？</translation></message>
     <message id="copyRows"><translation>複製</translation></message>
@@ -348,12 +348,12 @@ mmHg</translation></message>
     <message id="downloadHint"><translation>從血壓計取得量測（Ctrl+D）。血壓計必須已連接，且其 ID 與這位病患相同。</translation></message>
     <message id="downloadNew" numerus="yes"><translation><numerusform>%1，新增 %n 筆</numerusform></translation></message>
     <message id="downloadNotFlushed"><translation>量測已儲存，但不確定是否已永久保存。%1</translation></message>
-    <message id="downloadNothingNew"><translation>%1，沒有新增：全部先前都已儲存</translation></message>
+    <message id="downloadNothingNew"><translation>%1，沒有新增：先前皆已儲存</translation></message>
     <message id="downloadNotReadBack"><translation>%1。之後無法讀取資料檔，因此未清空血壓計。%2</translation></message>
     <message id="downloadNotStored"><translation>無法儲存量測。量測仍在血壓計中。%1</translation></message>
     <message id="downloadOtherMonitor"><translation>血壓計中的量測屬於另一個 ID，不是這位病患的，因此未儲存任何資料。請連接這位病患的血壓計後再試一次。</translation></message>
     <message id="downloadProgress"><translation>下載進度</translation></message>
-    <message id="downloadStarting"><translation>正在詢問血壓計…</translation></message>
+    <message id="downloadStarting"><translation>正在查詢血壓計…</translation></message>
     <message id="downloadStopping"><translation>正在停止…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>血壓計沒有傳來資料。下載最多再等候 %n 秒。您可以取消，不會遺失任何資料。</numerusform></translation></message>
     <message id="DupNewPatient"><translation>已有一位尚未儲存的新病患，位於清單最上方。請先儲存或刪除。</translation></message>
@@ -370,10 +370,10 @@ mmHg</translation></message>
     <message id="exportCSV"><translation>將目前病患的量測匯出為 CSV 檔案</translation></message>
     <message id="exportCSVButton"><translation>匯出 CSV(&amp;V)…</translation></message>
     <message id="exportCSVFolder"><translation>選擇 CSV 檔案的資料夾</translation></message>
-    <message id="exportCSVHint"><translation>將目前病患的資料與量測寫成表格，供試算表使用。</translation></message>
+    <message id="exportCSVHint"><translation>將目前病患的資料與量測寫成表格，供試算表軟體使用。</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>有 %n 個檔案無法寫入：</numerusform></translation></message>
     <message id="exportFolder"><translation>選擇病患檔案的資料夾</translation></message>
-    <message id="exportHint"><translation>為每位病患寫一個檔案，本程式可再次匯入。</translation></message>
+    <message id="exportHint"><translation>為每位病患寫入一個檔案，可由本程式再次匯入。</translation></message>
     <message id="exporting"><translation>正在匯出病患</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>有 %n 個既有檔案維持原狀。</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>已將 %n 個檔案寫入資料夾 %1。</numerusform></translation></message>
@@ -407,9 +407,9 @@ mmHg</translation></message>
     <message id="highFromHint"><translation>達到或高於這些上限的數值，在此處與紙本上會以粗體加標記顯示。圖表、統計、直方圖與相關圖仍使用設定中的上限。</translation></message>
     <message id="highFromLabel"><translation>標示上限(&amp;V)</translation></message>
     <message id="histogramView"><translation>數值分布</translation></message>
-    <message id="IDNotForMonitor"><translation>ID「%1」不適用於血壓計。血壓計的 ID 為 1 到 11 個半形英文字母、數字與符號，前後不含空白。</translation></message>
-    <message id="IDRefused"><translation>ID 為 1 到 11 個半形英文字母、數字或符號；血壓計無法儲存其他的 ID。</translation></message>
-    <message id="IDStays"><translation>ID 無法變更：量測與註記都歸屬於它。</translation></message>
+    <message id="IDNotForMonitor"><translation>ID「%1」不適用於血壓計。血壓計的 ID 須為 1 到 11 個半形英文字母、數字與符號，前後不含空白。</translation></message>
+    <message id="IDRefused"><translation>ID 須為 1 到 11 個半形英文字母、數字或符號；血壓計無法儲存其他的 ID。</translation></message>
+    <message id="IDStays"><translation>ID 無法變更：量測與註記都屬於這個 ID。</translation></message>
     <message id="ihd"><translation>心律不整</translation></message>
     <message id="importAll"><translation>全選(&amp;A)</translation></message>
     <message id="importAllFiles"><translation>選擇所有檔案</translation></message>
@@ -547,7 +547,7 @@ mmHg</translation></message>
     <message id="patientGone"><translation>%1 已不在資料檔中：另一個程式移除了這位病患，或在此復原了某個步驟。您輸入的內容仍在這裡，按「儲存」可重新加入這位病患。</translation></message>
     <message id="patientHeading"><translation>%2 %1（ID %3）</translation></message>
     <message id="patientID"><translation>ID</translation></message>
-    <message id="patientIDTwice"><translation>資料檔中有多位病患的 ID 同為 %1，無法區分，因此都不會變更或刪除。</translation></message>
+    <message id="patientIDTwice"><translation>資料檔中有多位病患的 ID 同為 %1，無法區分，因此不會變更或刪除其中任何一位。</translation></message>
     <message id="patientList"><translation>病患清單</translation></message>
     <message id="patientName"><translation>姓名</translation></message>
     <message id="patientPartlySaved"><translation>%1 的部分資料無法儲存：資料檔中沒有可存放的位置。無法儲存的內容仍保留在欄位中。</translation></message>
@@ -578,7 +578,7 @@ mmHg</translation></message>
     <message id="printDone"><translation>已送交印表機 %1</translation></message>
     <message id="printer"><translation>印表機</translation></message>
     <message id="printerButton"><translation>印表機(&amp;R)…</translation></message>
-    <message id="printerGone"><translation>印表機「%1」已不在，因此未列印任何內容。請確認它已開機並連接，或選擇其他印表機。</translation></message>
+    <message id="printerGone"><translation>已找不到印表機「%1」，因此未列印任何內容。請確認它已開機並連接，或選擇其他印表機。</translation></message>
     <message id="printerLabel"><translation>印表機(&amp;R)</translation></message>
     <message id="printerShown"><translation>印表機：%1</translation></message>
     <message id="printFailed"><translation>無法將頁面完整送交印表機「%1」。列印工作已撤回，未列印任何內容。請檢查列印佇列與磁碟空間，然後再試一次。</translation></message>
@@ -656,7 +656,7 @@ mmHg</translation></message>
     <message id="settingOK"><translation>儲存設定</translation></message>
     <message id="settingPhysician"><translation>醫師資料，用於列印報告的頁尾</translation></message>
     <message id="settingPhysicianTitle"><translation>醫師</translation></message>
-    <message id="settingPhysicianUse"><translation>在列印視窗勾選後，會印在報告的頁尾。</translation></message>
+    <message id="settingPhysicianUse"><translation>在列印視窗勾選後，印在報告頁尾。</translation></message>
     <message id="settingPP"><translation>顯示脈壓</translation></message>
     <message id="settingPPButton"><translation>脈壓 PP(&amp;P)</translation></message>
     <message id="settingPPorMAP"><translation>每筆量測顯示</translation></message>
@@ -690,7 +690,7 @@ mmHg</translation></message>
     <message id="spokenMap"><translation>平均動脈壓（mmHg）</translation></message>
     <message id="spokenMeasure"><translation>%1：平均 %2，最低 %3，最高 %4。</translation></message>
     <message id="spokenPP"><translation>脈壓（mmHg）</translation></message>
-    <message id="spokenPulse"><translation>每分鐘脈搏</translation></message>
+    <message id="spokenPulse"><translation>脈搏（次/分）</translation></message>
     <message id="spokenSys"><translation>收縮壓（mmHg）</translation></message>
     <message id="statisticAll"><translation>所有量測日</translation></message>
     <message id="statisticAllHint"><translation>採用從第一筆到最後一筆量測的整段時間。若只要其中一段，請在上方選擇其他日期。</translation></message>
@@ -698,7 +698,7 @@ mmHg</translation></message>
     <message id="statisticWholeDay"><translation>全天：%1</translation></message>
     <message id="statusBroken"><translation>血壓計已接上，連線失敗</translation></message>
     <message id="statusConnected"><translation>血壓計已連接</translation></message>
-    <message id="statusDamaged"><translation>血壓計已接上，回應損壞</translation></message>
+    <message id="statusDamaged"><translation>血壓計已接上，回應有誤</translation></message>
     <message id="statusLocked"><translation>血壓計已接上，沒有權限</translation></message>
     <message id="statusNotConnected"><translation>沒有血壓計</translation></message>
     <message id="statusRefusing"><translation>血壓計已接上，拒絕指令</translation></message>
@@ -718,9 +718,9 @@ mmHg</translation></message>
     <message id="TimeSync"><translation>血壓計時鐘</translation></message>
     <message id="TimeSyncMsg"><translation>設定血壓計的時鐘：%1</translation></message>
     <message id="trendApart"><translation>早晚分開</translation></message>
-    <message id="trendApartHint"><translation>將中午前與中午以後的量測分別畫線。</translation></message>
+    <message id="trendApartHint"><translation>將中午前與中午以後的量測畫成不同的線。</translation></message>
     <message id="trendDays"><translation>%1 至 %2</translation></message>
-    <message id="trendFigures"><translation>%1（%2 至 %3）</translation></message>
+    <message id="trendFigures"><translation>%1 (%2 至 %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1，中午以後</translation></message>
     <message id="trendInfoMorning"><translation>%1，中午前</translation></message>
     <message id="trendKeys"><translation>%1，%2。左右方向鍵可逐點顯示數值，Home 與 End 顯示第一點與最後一點的數值。</translation></message>
@@ -733,20 +733,20 @@ mmHg</translation></message>
     <message id="undoFailed"><translation>「%1」未能復原。%2</translation></message>
     <message id="undone"><translation>已復原：%1</translation></message>
     <message id="unitMmHg"><translation>mmHg</translation></message>
-    <message id="unitPulse"><translation>每分鐘次數</translation></message>
+    <message id="unitPulse"><translation>次/分</translation></message>
     <message id="unsavedDelete"><translation>要刪除為 %1 輸入的內容嗎？若不刪除，下次啟動時會再次詢問。</translation></message>
-    <message id="unsavedFound"><translation>程式結束時，正在為 %1 輸入的內容無法儲存。要現在繼續嗎？</translation></message>
+    <message id="unsavedFound"><translation>上次程式結束時，正在為 %1 輸入的內容未能儲存。要現在繼續輸入嗎？</translation></message>
     <message id="unsavedTitle"><translation>尚未儲存</translation></message>
     <message id="valueHigh"><translation>%1，達到或高於上限</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
-    <message id="valuePulse"><translation>每分鐘 %1 次</translation></message>
+    <message id="valuePulse"><translation>%1 次/分</translation></message>
     <message id="valueWithUnit"><translation>%1，%2</translation></message>
     <message id="viewAll"><translation>全部(&amp;A)</translation></message>
     <message id="viewAllHint"><translation>從第一天到最後一天的所有量測。</translation></message>
     <message id="viewAM"><translation>上午(&amp;M)</translation></message>
-    <message id="viewAMHint"><translation>所顯示日期中，中午前的量測。</translation></message>
+    <message id="viewAMHint"><translation>所顯示各日中午前的量測。</translation></message>
     <message id="viewBoth"><translation>全天(&amp;L)</translation></message>
-    <message id="viewBothHint"><translation>所顯示日期中，全天各時段的量測。</translation></message>
+    <message id="viewBothHint"><translation>所顯示各日全天各時段的量測。</translation></message>
     <message id="viewChoiceNeeded"><translation>無日期的量測不屬於任何一天，只能與「全部」一起顯示。請先按「全部」，才能選擇此項。</translation></message>
     <message id="viewDays"><translation>顯示的日期</translation></message>
     <message id="viewHalf"><translation>顯示的時段</translation></message>
@@ -754,7 +754,7 @@ mmHg</translation></message>
     <message id="viewLastHint"><translation>截至最後一個有量測的日子，共 %1 天。</translation></message>
     <message id="viewLastName"><translation>最近 %1 天</translation></message>
     <message id="viewPM"><translation>下午</translation></message>
-    <message id="viewPMHint"><translation>所顯示日期中，中午以後的量測。</translation></message>
+    <message id="viewPMHint"><translation>所顯示各日中午以後的量測。</translation></message>
     <message id="viewWeek"><translation>量測週(&amp;K)</translation></message>
     <message id="viewWeekHint"><translation>用於計算量測週平均的七天。</translation></message>
     <message id="weekBelow"><translation>低於 %1</translation></message>
@@ -767,8 +767,8 @@ mmHg</translation></message>
     <message id="weekMeanHint"><translation>平均 %1/%2 mmHg，脈搏 %3</translation></message>
     <message id="weekMissing"><translation>不完整，尚缺 %1</translation></message>
     <message id="weekMornings"><translation>早上 %1</translation></message>
-    <message id="weekNoMean"><translation>沒有平均</translation></message>
-    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n 筆量測儲存於其他時區；時間以這部電腦為準</numerusform></translation></message>
+    <message id="weekNoMean"><translation>無平均值</translation></message>
+    <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n 筆量測儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="weekPanel"><translation>量測週</translation></message>
     <message id="weekPulse"><translation>脈搏 %1</translation></message>
     <message id="weekReached"><translation>達到或高於 %1</translation></message>
@@ -794,11 +794,11 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <name>chart</name>
     <message id="abovePoints" numerus="yes"><translation><numerusform>%n 個點超出刻度上緣</numerusform></translation></message>
     <message id="aboveScale" numerus="yes"><translation><numerusform>%n 筆量測高於刻度</numerusform></translation></message>
-    <message id="aboveScaleShort"><translation>高於 %1 筆</translation></message>
+    <message id="aboveScaleShort"><translation>上緣外 %1</translation></message>
     <message id="average"><translation>平均</translation></message>
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n 個點超出刻度下緣</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n 筆量測低於刻度</numerusform></translation></message>
-    <message id="belowScaleShort"><translation>低於 %1 筆</translation></message>
+    <message id="belowScaleShort"><translation>下緣外 %1</translation></message>
     <message id="chartExcluded" numerus="yes"><translation><numerusform>○ 由使用者排除 %n 筆</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>舒張壓過高</translation></message>
@@ -817,7 +817,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="sys"><translation>SYS</translation></message>
     <message id="sys and dia too high"><translation>兩者皆過高</translation></message>
     <message id="sys too high"><translation>收縮壓過高</translation></message>
-    <message id="trendBand"><translation>%1；色帶：第 10 至第 90 百分位數，量測少於 5 筆時為全部</translation></message>
+    <message id="trendBand"><translation>%1；色帶：第 10 至第 90 百分位數，少於 5 筆時為全部量測</translation></message>
     <message id="trendBandShort"><translation>%1；色帶：第 10 至第 90 百分位數</translation></message>
     <message id="trendDay"><translation>每日中位數</translation></message>
     <message id="trendEvening"><translation>%1 晚上</translation></message>
@@ -858,7 +858,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="formYear"><translation>年</translation></message>
     <message id="formYears" numerus="yes"><translation><numerusform>歲</numerusform></translation></message>
     <message id="graph"><translation>血壓與脈搏圖</translation></message>
-    <message id="histogram"><translation>量測分布</translation></message>
+    <message id="histogram"><translation>數值分布</translation></message>
     <message id="legendTitle"><translation>%1：</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
@@ -867,8 +867,8 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="PatientProfile"><translation>病患基本資料</translation></message>
     <message id="reportAllComments"><translation>所有時間的註記，不限於此期間</translation></message>
     <message id="reportAllTimesOfDay"><translation>%1，全天各時段</translation></message>
-    <message id="reportAverage"><translation>多次測量的平均</translation></message>
-    <message id="reportBothAbove"><translation>兩者皆高於：%1</translation></message>
+    <message id="reportAverage"><translation>多次量測的平均</translation></message>
+    <message id="reportBothAbove"><translation>兩者皆超過：%1</translation></message>
     <message id="reportCommentBars"><translation>色條：註記，依編號</translation></message>
     <message id="reportCommentsLeftOut"><translation>報告最多可容納 %1 則註記、%2 個字元。以下為最近的註記；匯出檔包含全部註記。</translation></message>
     <message id="reportContinued"><translation>%1（續）</translation></message>
@@ -878,7 +878,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportCutPractitioner"><translation>…：在此截斷；設定中有全文。</translation></message>
     <message id="reportCutTexts"><translation>…：在此截斷；全文見下一頁。</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n 天</numerusform></translation></message>
-    <message id="reportDiaAbove"><translation>僅舒張壓高於：%1</translation></message>
+    <message id="reportDiaAbove"><translation>僅舒張壓超過：%1</translation></message>
     <message id="reportDocument"><translation>血壓報告：%1（%2）</translation></message>
     <message id="reportDownloadDay"><translation>↓ 黃色：下載</translation></message>
     <message id="reportEarlierComments" numerus="yes"><translation><numerusform>較早的 %n 則註記未列印</numerusform></translation></message>
@@ -893,7 +893,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>上限（%1）在刻度範圍之外。</numerusform></translation></message>
     <message id="reportGraphLimits" numerus="yes"><translation><numerusform>虛線：上限（%1）。</numerusform></translation></message>
     <message id="reportGraphNote"><translation>上方線條：收縮壓；下方線條：舒張壓。</translation></message>
-    <message id="reportHistogramNote"><translation>長條的長度為落在該 10 mmHg 或每分鐘 10 次範圍內的量測占全部的百分比。</translation></message>
+    <message id="reportHistogramNote"><translation>長條長度表示該區間（10 mmHg 或每分鐘 10 次）內的量測占全部的百分比。</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>未超過上限（%1）：%2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg，脈搏 %5</translation></message>
     <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>由使用者排除的 %n 筆量測及其原因</numerusform></translation></message>
@@ -912,11 +912,11 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportNotPainted"><translation>無法將頁面轉為 PDF。未寫入任何檔案。</translation></message>
     <message id="reportNotWritable"><translation>無法寫入檔案 %1。請確認其資料夾存在，而且您有寫入權限。</translation></message>
     <message id="reportPage"><translation>第 %1/%2 頁</translation></message>
-    <message id="reportPatient"><translation>病患姓名=%2 %1  ID=%3</translation></message>
+    <message id="reportPatient"><translation>病患姓名：%2 %1  ID：%3</translation></message>
     <message id="reportPeriod"><translation>期間：%1 至 %2</translation></message>
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n 筆量測</numerusform></translation></message>
     <message id="reportStruckThrough"><translation>刪除線：已排除，不計入任何結果；原因列於表格之後</translation></message>
-    <message id="reportSysAbove"><translation>僅收縮壓高於：%1</translation></message>
+    <message id="reportSysAbove"><translation>僅收縮壓超過：%1</translation></message>
     <message id="reportTextTooLong"><translation>… 其餘文字未列印：還有 %1 個字元。</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>細直線：上限（%1）。</numerusform></translation></message>
     <message id="reportTrendNote"><translation>粗線：中位數。色帶：第 10 至第 90 百分位數；量測少於 5 筆時為最低值至最高值。沒有量測處線條中斷；間隔最多 30 天時以點線連接兩端。</translation></message>
@@ -927,7 +927,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryBelow"><translation>低於閾值 %1（至小數一位：%2/%3）</translation></message>
     <message id="summaryBorn" numerus="yes"><translation><numerusform>%1 出生，%n 歲</numerusform></translation></message>
     <message id="summaryBornOn"><translation>%1 出生</translation></message>
-    <message id="summaryComments"><translation>有何變化：註記，最新的在前</translation></message>
+    <message id="summaryComments"><translation>有何變化：註記（由新到舊）</translation></message>
     <message id="summaryComplete"><translation>完整</translation></message>
     <message id="summaryCut"><translation>…：已縮短。</translation></message>
     <message id="summaryDia"><translation>DIA (mmHg)</translation></message>
@@ -959,7 +959,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryNoneCountsYet"><translation>尚無計入的量測</translation></message>
     <message id="summaryNoReason"><translation>未填寫原因</translation></message>
     <message id="summaryNote"><translation>量測週：%1 達到或高於其閾值。%2 早上：中午前。%3</translation></message>
-    <message id="summaryNotExamined"><translation>心律不整：沒有經過偵測的量測</translation></message>
+    <message id="summaryNotExamined"><translation>心律不整：所有量測皆未經偵測</translation></message>
     <message id="summaryNothingLeftOut"><translation>所有量測皆計入</translation></message>
     <message id="summaryNoWeek"><translation>這一週沒有量測</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%n 天共 %1</numerusform></translation></message>
@@ -980,9 +980,9 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryTrendLimits"><translation>趨勢中的細直線：%1。</translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>手動輸入：%n 筆量測中的 %1 筆</numerusform></translation></message>
     <message id="summaryWeek"><translation>量測週（%1）  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>本週由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>該週由使用者排除 %n 筆</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>該週手動輸入 %n 筆</numerusform></translation></message>
-    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這部電腦為準</numerusform></translation></message>
+    <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="SWStatistics"><translation>統計與量測</translation></message>
     <message id="table"><translation>量測紀錄</translation></message>
     <message id="time"><translation>時間</translation></message>
@@ -1014,7 +1014,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase 會永久移除血壓計中的所有量測。如果確定，請加上 --yes。</translation></message>
     <message id="CliEraseNoID"><translation>清空血壓計記憶體的方法是重新寫入它自己的 ID，但它沒有可儲存的 ID。請先以 'zel monitor --send-id ID' 寫入 ID。</translation></message>
     <message id="CliEraseUnseen"><translation>無法確認血壓計的記憶體是否已清空。%1</translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>本週有 %n 筆量測由使用者排除。</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>該週有 %n 筆量測由使用者排除。</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>未指定要匯入的檔案。</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>第一個量測日的 %n 筆量測不計入。</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>未指定匯出的目的資料夾。</translation></message>
@@ -1028,7 +1028,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
 
   monitor    顯示連接的血壓計，或設定其時鐘或 ID，或清空其記憶體
   patients   列出病患，或新增一位病患
-  download   儲存血壓計中某位病患的量測
+  download   將血壓計的量測存入某位病患的紀錄
   readings   輸出病患的量測
   statistics 輸出病患量測的平均值、最小值與最大值
   average    依居家量測指引的準則，輸出量測週的平均
@@ -1065,14 +1065,14 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
   evening     中午以後量測的 sys/dia
   threshold   以四捨五入前的 sys 或 dia 判斷，任一達到或高於其閾值即為 reached
 
-日期與時間以這部電腦的時區為準。沒有內容的行會省略。該週不計的量測筆數，以及儲存於其他時區的筆數，
+日期與時間以這台電腦的時區為準。沒有內容的行會省略。該週不計的量測筆數，以及儲存於其他時區的筆數，
 輸出至標準錯誤。
 
 選項：
-  --patient ID                 要處理的病患
+  --patient ID                 病患的 ID
   --rule RULE                  esh（預設）、nice 或 aha
   --to DAY                     量測週的最後一天（yyyy-MM-dd）；未指定時為最後一個有量測的日子
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpBackup"><translation>用法：zel backup list
       zel backup create
@@ -1082,7 +1082,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
 每天首次變更前，資料檔會複製到旁邊的資料夾 Backups。在不超過剩餘磁碟空間十分之一的前提下，
 最近 14 天的備份會保留，並每月保留一份，為期兩年。
 
-list      以 CSV 輸出各備份及其內容，最新的在前
+list      以 CSV 輸出各備份及其內容，由新到舊
 create    立即建立另一份備份，並輸出 'written: FILE'
 restore   以備份取代資料檔，並輸出 'restored: NAME'；原有內容保存為另一份備份，並輸出其名稱
           （'kept: NAME'），還原該份備份即可回到先前的狀態
@@ -1091,7 +1091,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 
 選項：
   --none                       從現在起不使用第二資料夾；其中的備份會保留
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpDownload"><translation>用法：zel download --patient ID [--any-monitor] [OPTION]...
 
@@ -1113,7 +1113,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 選項：
   --patient ID                 要匯出的病患
   --force                      檔案已存在時予以取代
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpExportXml"><translation>用法：zel export-xml DIR [--patient ID] [--force]
 
@@ -1124,7 +1124,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 選項：
   --patient ID                 只匯出這位病患
   --force                      取代已存在的檔案；未指定時保留原檔
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpImport"><translation>用法：zel import FILE...
 
@@ -1133,7 +1133,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 病患、量測與註記數，每行一個 'key: value'。
 
 選項：
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpMonitor"><translation>用法：zel monitor [OPTION]...
       zel monitor --set-clock [OPTION]...
@@ -1162,7 +1162,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
   --id ID                      病患的 ID，與血壓計中的相同
   --family-name NAME           姓氏
   --given-names NAMES          名字
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpPrivacy"><translation>用法：zel privacy [--mend]
 
@@ -1171,7 +1171,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 
 選項：
   --mend                       禁止其他使用者讀取：只變更這些檔案、其資料夾與備份資料夾的權限
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpReadings"><translation>用法：zel readings --patient ID [--from DAY | --last N] [--to DAY] [--am | --pm] [--undated]
                    [--numbers]
@@ -1181,7 +1181,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
       zel readings --patient ID --change RECORD [--date DAY] [--time HH:MM] [--sys N] [--dia N] [--pulse N]
       zel readings --patient ID --delete RECORD
 
-以 CSV 輸出病患的量測，最早的在前，標題列為
+以 CSV 輸出病患的量測，由舊到新，標題列為
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia。壓力單位為 mmHg，脈搏單位為每分鐘次數。
 血壓計未記錄日期的量測以 n.a 與 --:-- 表示；指定期間、--am 或 --pm 時會略過，除非同時指定 --undated。
 註記涵蓋但沒有量測的日子會有一行，列出日期，其餘為 n.a.；若這類日子太多而無法全部列出，
@@ -1193,7 +1193,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
 'record: RECORD'。只有手動輸入的量測可以變更或刪除。
 
 選項：
-  --patient ID                 要處理的病患
+  --patient ID                 病患的 ID
   --from DAY                   只輸出此日起的量測（yyyy-MM-dd）
   --to DAY                     只輸出至此日結束為止的量測（yyyy-MM-dd）
   --last N                     取代 --from：到 --to 的日期，共 N 天；未指定 --to 時，到最後一個有量測的日子
@@ -1206,14 +1206,14 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
   --reason TEXT                原因
   --include RECORD             重新計入此量測
   --add                        儲存一筆手動輸入的量測
-  --change RECORD              變更一筆手動輸入的量測；未指定的項目維持不變
+  --change RECORD              變更一筆手動輸入的量測；至少指定一個值，其餘維持不變
   --delete RECORD              刪除一筆手動輸入的量測
   --date DAY                   量測日期（yyyy-MM-dd）
   --time HH:MM                 時間，00:00 到 23:59
   --sys N                      收縮壓，mmHg
   --dia N                      舒張壓，mmHg
   --pulse N                    每分鐘次數
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpReport"><translation>用法：zel report --patient ID --section KEY[,KEY...] --output FILE.pdf [OPTION]...
 
@@ -1233,7 +1233,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
   all                          以上全部，依此順序
 
 選項：
-  --patient ID                 要處理的病患
+  --patient ID                 病患的 ID
   --section KEY[,KEY...]       要列印的項目，依指定的順序
   --from yyyy-MM-dd            報告期間的第一天（預設為第一筆量測的日期）
   --to yyyy-MM-dd              報告期間的最後一天（預設為最後一筆量測的日期）
@@ -1246,7 +1246,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
   --practitioner               將設定中的醫師資料印在頁尾；摘要則印在頁首
   --paper A4|Letter            紙張；預設依 LC_PAPER 或 LANG 的慣例
   --output FILE.pdf            要寫入的檔案
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpSettings"><translation>用法：zel settings
       zel settings --set KEY=VALUE [--set KEY=VALUE]...
@@ -1266,7 +1266,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
 
 選項：
   --set KEY=VALUE              變更一項設定；可指定多次
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpStatistics"><translation>用法：zel statistics --patient ID [--from DAY | --last N] [--to DAY] [--undated]
 
@@ -1275,12 +1275,12 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
 若有量測未計入，計入的筆數，以及各原因未計入的筆數，會輸出至標準錯誤。
 
 選項：
-  --patient ID                 要處理的病患
+  --patient ID                 病患的 ID
   --from DAY                   只採用此日起的量測（yyyy-MM-dd）
   --to DAY                     只採用至此日結束為止的量測（yyyy-MM-dd）
   --last N                     取代 --from：到 --to 的日期，共 N 天；未指定 --to 時，到最後一個有量測的日子
   --undated                    也採用沒有日期的量測
-  --simulated-monitor[=FILE]   與其他指令一致，可指定；此指令不需要血壓計
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliIDDoesNotFit"><translation>血壓計無法儲存 ID「%1」：須為 1 到 11 個半形（ASCII）字元，前後不含空白。</translation></message>
     <message id="CliIDUnread"><translation>無法讀取血壓計的 ID。%1</translation></message>
@@ -1289,7 +1289,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliMonitorChanged"><translation>連線中斷，之後收到的量測可能來自另一台血壓計。未儲存任何資料，請再試一次。</translation></message>
     <message id="CliMonitorDenied"><translation>%1讀取血壓計需要權限：請將 packaging/70-zel.rules 安裝到 /etc/udev/rules.d，執行 'udevadm control --reload'，然後重新連接血壓計。</translation></message>
     <message id="CliMonitorSilent"><translation>血壓計已接上，但在 %1 秒內沒有回應。%2</translation></message>
-    <message id="CliMonitorWithoutID"><translation>血壓計沒有 ID，其中的量測可能不屬於病患「%1」。請用 'zel monitor --send-id' 寫入 ID，或使用 --any-monitor 仍然下載。</translation></message>
+    <message id="CliMonitorWithoutID"><translation>血壓計沒有 ID，其中的量測可能不屬於病患「%1」。請用 'zel monitor --send-id' 寫入 ID；使用 --any-monitor 則仍可下載。</translation></message>
     <message id="CliNoCommand"><translation>未指定指令。</translation></message>
     <message id="CliNoFolder"><translation>沒有資料夾「%1」。</translation></message>
     <message id="CliNoHome"><translation>未設定環境變數 HOME，因此無法尋找資料檔。</translation></message>
@@ -1304,10 +1304,10 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliOptionMissing"><translation>未指定 --%1，或其值為空。</translation></message>
     <message id="CliOptionTwice"><translation>--%1 指定了不只一次。</translation></message>
     <message id="CliOtherMonitor"><translation>血壓計的 ID 是「%1」，不是「%2」，其中的量測可能屬於另一位病患。使用 --any-monitor 仍可下載。</translation></message>
-    <message id="CliOtherZone" numerus="yes"><translation><numerusform>該週有 %n 筆量測儲存於其他時區；日期與時間以這部電腦為準。</numerusform></translation></message>
+    <message id="CliOtherZone" numerus="yes"><translation><numerusform>該週有 %n 筆量測儲存於其他時區；日期與時間以這台電腦為準。</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>無法寫入輸出。</translation></message>
     <message id="CliPatientKnown"><translation>已有 ID 為「%1」的病患。</translation></message>
-    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= 後面需要檔名；不加 '=' 單獨使用時，即為內建的血壓計。</translation></message>
+    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= 後面需要檔名；不加 '=' 單獨使用時，即為內建的模擬血壓計。</translation></message>
     <message id="CliProgress"><translation>已收到 %1 / %2 筆量測</translation></message>
     <message id="CliReadableByOthers"><translation>這台電腦的其他使用者可讀取 %1。'zel privacy --mend' 可禁止他們讀取。</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason 須與 --exclude 一起使用；--date、--time、--sys、--dia 與 --pulse 須與 --add 或 --change 一起使用</translation></message>
@@ -1317,7 +1317,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliSettingNotKept"><translation>資料檔中沒有可存放設定 %1 的位置，因此未做任何變更。</translation></message>
     <message id="CliSettingTwice"><translation>設定 %1 指定了不只一次。</translation></message>
     <message id="CliSettingUnknown"><translation>沒有設定「%1」。可用的設定為：%2。</translation></message>
-    <message id="CliSettingValue"><translation>%1 的值須為 %2；不接受「%3」。</translation></message>
+    <message id="CliSettingValue"><translation>%1 可用的值：%2；不接受「%3」。</translation></message>
     <message id="CliTryHelp"><translation>請試試 '%1'。</translation></message>
     <message id="CliUnexpectedWord"><translation>此處不應出現「%1」。</translation></message>
     <message id="CliUnknownCommand"><translation>沒有指令「%1」。</translation></message>
