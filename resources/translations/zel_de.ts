@@ -30,10 +30,10 @@
     <message id="ImportNotStored"><translation>%1: Der Inhalt der Datei konnte nicht gespeichert werden. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: Zwei Patienten in der Datei haben dieselbe ID, „%2“. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportTooLarge"><translation>%1: Die Datei ist größer als 512 MiB. Aus ihr wurde nichts übernommen.</translation></message>
-    <message id="LanguageMissing"><translation>zu --language gehört eine Sprache, eine von %1</translation></message>
+    <message id="LanguageMissing"><translation>--language braucht eine der Sprachen %1</translation></message>
     <message id="languageTag"><translation>de</translation></message>
     <message id="LanguageTwice"><translation>--language kann nur einmal angegeben werden</translation></message>
-    <message id="LanguageUnknown"><translation>es gibt keine Sprache „%1“; die Sprachen sind %2</translation></message>
+    <message id="LanguageUnknown"><translation>es gibt keine Sprache „%1“; verfügbar sind %2</translation></message>
     <message id="LanguageUnread"><translation>Die Wahl der Sprache in der Datei %1 ist nicht lesbar. Bis in den Einstellungen eine andere gewählt wird, gilt die Sprache des Systems.</translation></message>
     <message id="LimitDiastolic"><translation>Diastolischer Grenzwert: %1.</translation></message>
     <message id="LimitOrder"><translation>Der diastolische Grenzwert muss unter dem systolischen liegen.</translation></message>
@@ -47,7 +47,7 @@
     <message id="ManualSys"><translation>Bitte geben Sie für den systolischen Blutdruck eine Zahl von %1 bis %2 ein.</translation></message>
     <message id="ManualTooEarly"><translation>Das Datum liegt vor dem Jahr 1900.</translation></message>
     <message id="n.a"><translation>n.a</translation></message>
-    <message id="N/A"><translation>N/A</translation></message>
+    <message id="N/A"><translation>k. A.</translation></message>
     <message id="NotBackedUp"><translation>Vor dieser Änderung konnte in %1 keine Sicherung der Datendatei angelegt werden. %2</translation></message>
     <message id="remarkExcluded"><translation>ausgeschlossen: %1</translation></message>
     <message id="remarkManual"><translation>eingegeben</translation></message>
@@ -72,7 +72,7 @@
     <message id="stepEditReading"><translation>Änderung einer Messung von %1</translation></message>
     <message id="stepExcludeReadings" numerus="yes"><translation><numerusform>Ausschluss von %n Messung von %1</numerusform><numerusform>Ausschluss von %n Messungen von %1</numerusform></translation></message>
     <message id="stepImport"><translation>Import von %1</translation></message>
-    <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>Wiederaufnahme von %n Messung von %1</numerusform><numerusform>Wiederaufnahme von %n Messungen von %1</numerusform></translation></message>
+    <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>Aufheben des Ausschlusses von %n Messung von %1</numerusform><numerusform>Aufheben des Ausschlusses von %n Messungen von %1</numerusform></translation></message>
     <message id="stepSettings"><translation>Änderung der Einstellungen</translation></message>
     <message id="StoreAlreadyKnown"><translation>Ein Patient mit der ID „%1“ ist schon in der Liste. Es wurde nichts geändert.</translation></message>
     <message id="StoreBusy"><translation>Ein anderes Programm arbeitet gerade mit der Datendatei %1, auf diesem Computer oder auf einem anderen, der sie mitbenutzt. Es wurde nichts geändert. Bitte versuchen Sie es gleich noch einmal, oder in einigen Minuten, falls der andere Computer die Netzwerkverbindung verloren hat.</translation></message>
@@ -103,11 +103,11 @@
     <message id="StoreStepHasRecords"><translation>Für den Patienten mit der ID „%1“ sind seither Messungen oder Kommentare hinzugekommen, die dann zu niemandem mehr gehören würden. Es wurde nichts geändert.</translation></message>
     <message id="StoreStepPatientGone"><translation>Der Patient mit der ID „%1“, zu dem der Kommentar gehört, ist nicht mehr in der Datendatei. Es wurde nichts geändert.</translation></message>
     <message id="StoreStepPatientKnown"><translation>Ein Patient mit der ID „%1“ ist inzwischen in der Liste. Es wurde nichts geändert.</translation></message>
-    <message id="StoreStepThere"><translation>Was zurückkommen würde, ist schon wieder in der Datendatei. Es wurde nichts geändert.</translation></message>
+    <message id="StoreStepThere"><translation>Was wiederhergestellt werden soll, ist schon wieder in der Datendatei. Es wurde nichts geändert.</translation></message>
     <message id="StoreTooLarge"><translation>Die Datendatei %1 ist größer als 512 MiB; solche Dateien liest dieses Programm nicht. Sie bleibt unverändert, und es kann nichts gespeichert werden: Legen Sie eine kleinere Sicherung an ihre Stelle, oder verschieben Sie sie, um mit einer neuen zu beginnen.</translation></message>
     <message id="StoreUnreadable"><translation>Die Datendatei %1 wurde nicht verändert: Was gespeichert werden sollte, ließ sich anschließend nicht wieder lesen.</translation></message>
     <message id="StoreWriteFailed"><translation>Das Schreiben der Datendatei %1 ist fehlgeschlagen; die Datei wurde nicht verändert. Bitte prüfen Sie, ob der Datenträger voll ist, und versuchen Sie es dann noch einmal.</translation></message>
-    <message id="ViewLimitsUnread"><translation>%1 ist nicht lesbar; darin steht, ab wann Werte markiert werden. Bis neue Grenzwerte gewählt sind, werden Werte ab %2/%3 mmHg markiert.</translation></message>
+    <message id="ViewLimitsUnread"><translation>%1 ist nicht lesbar; darin steht, ab welchen Grenzwerten Werte markiert werden. Bis neue Grenzwerte gewählt sind, werden Werte ab %2/%3 mmHg markiert.</translation></message>
     <message id="Warning"><translation>Warnung</translation></message>
     <message id="XmlAttributeTwice"><translation>Ein Element hat dasselbe Attribut zweimal.</translation></message>
     <message id="XmlBytesNotInEncoding"><translation>Die Datei enthält Bytes, die in ihrer Zeichenkodierung, %1, nicht vorkommen.</translation></message>
@@ -135,11 +135,11 @@
     <message id="monitorInterrupted"><translation>Der Datenaustausch mit dem Messgerät wurde abgebrochen, bevor er vollständig war.</translation></message>
     <message id="monitorNoAcknowledgement"><translation>Das Messgerät hat den Befehl nicht angenommen. Bitte schalten Sie es aus und wieder ein und versuchen Sie es dann noch einmal.</translation></message>
     <message id="monitorNoDevice"><translation>Es ist kein Messgerät angeschlossen. Bitte schließen Sie es an und versuchen Sie es noch einmal.</translation></message>
-    <message id="monitorNotTaken"><translation>Das Messgerät hat den Befehl bestätigt, hat aber weiterhin etwas anderes gespeichert. Bitte versuchen Sie es noch einmal.</translation></message>
+    <message id="monitorNotTaken"><translation>Das Messgerät hat den Befehl bestätigt, enthält aber weiterhin etwas anderes. Bitte versuchen Sie es noch einmal.</translation></message>
     <message id="monitorReadFailed"><translation>Die Verbindung zum Messgerät ist abgebrochen. Bitte prüfen Sie das Kabel und versuchen Sie es noch einmal.</translation></message>
     <message id="monitorSuccess"><translation>Das Messgerät hat den Auftrag ausgeführt.</translation></message>
     <message id="monitorTimeOut"><translation>Das Messgerät hat nicht rechtzeitig geantwortet. Bitte prüfen Sie, ob es eingeschaltet ist, und versuchen Sie es noch einmal.</translation></message>
-    <message id="monitorUnconfirmed"><translation>Die Daten wurden an das Messgerät gesendet, aber was es jetzt enthält, war nicht zu lesen. Bitte sehen Sie nach, bevor Sie es noch einmal versuchen.</translation></message>
+    <message id="monitorUnconfirmed"><translation>Die Daten wurden an das Messgerät gesendet, aber was es jetzt enthält, konnte nicht gelesen werden. Bitte sehen Sie nach, bevor Sie es noch einmal versuchen.</translation></message>
     <message id="monitorUnfitID"><translation>Das Messgerät kann diese ID nicht speichern; deshalb wurde nichts gesendet. Eine ID für das Messgerät besteht aus 1 bis 11 Buchstaben, Ziffern oder Zeichen, ohne Umlaute und Akzente.</translation></message>
     <message id="monitorWriteFailed"><translation>Das Messgerät nimmt keine Daten an. Bitte trennen Sie es vom Computer, schließen Sie es wieder an und versuchen Sie es noch einmal.</translation></message>
     <message id="simulatedMissing"><translation>Der Wert von „%1“ fehlt.</translation></message>
@@ -181,7 +181,7 @@
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n Abend</numerusform><numerusform>%n Abende</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n Morgen</numerusform><numerusform>%n Morgen</numerusform></translation></message>
     <message id="missingReadings" numerus="yes"><translation><numerusform>%n Messung</numerusform><numerusform>%n Messungen</numerusform></translation></message>
-    <message id="noHighMark"><translation>Keine Werte sind als hoch markiert</translation></message>
+    <message id="noHighMark"><translation>Keine Werte als hoch markiert</translation></message>
     <message id="noneBefore"><translation>keine Messung in den 14 Tagen vorher, %1 seither</translation></message>
     <message id="noneBeforeOrSince"><translation>keine Messung vorher oder seither</translation></message>
     <message id="noneSince"><translation>%1 vorher, keine Messung seither</translation></message>
@@ -200,7 +200,7 @@
     <message id="addDay"><translation>Mehr Tage: an jedem Ende des Zeitraums einer mehr</translation></message>
     <message id="addDayHint"><translation>Mehr Tage: an jedem Ende des Zeitraums einer mehr (+)</translation></message>
     <message id="afib"><translation>VHF</translation></message>
-    <message id="age"><translation>Alter %1</translation></message>
+    <message id="age"><translation>Alter: %1</translation></message>
     <message id="answerNo"><translation>Nein</translation></message>
     <message id="answerYes"><translation>Ja</translation></message>
     <message id="AP_Title"><translation>ZEL – Blutdruckmessungen</translation></message>
@@ -219,7 +219,7 @@
     <message id="backupFar"><translation>Zweiter Ordner: %1</translation></message>
     <message id="backupKind"><translation>Sicherung</translation></message>
     <message id="backupMade"><translation>Von Ihnen angelegt</translation></message>
-    <message id="backupNone"><translation>Es gibt noch keine Sicherung. Eine wird vor der ersten Änderung jedes Tages angelegt.</translation></message>
+    <message id="backupNone"><translation>Es gibt noch keine Sicherung. Vor der ersten Änderung jedes Tages wird eine angelegt.</translation></message>
     <message id="backupNoSecondFolder"><translation>kein zweiter Ordner</translation></message>
     <message id="backupOffered"><translation>Die neueste lesbare Sicherung ist %1 (%2). Zu ihr zurückkehren? Die beschädigte Datei bleibt daneben als weitere Sicherung erhalten.</translation></message>
     <message id="backupReplaced"><translation>Stand vor einer Wiederherstellung</translation></message>
@@ -238,10 +238,10 @@
     <message id="birthDateTooOld"><translation>Das ist mehr als %1 Jahre her.</translation></message>
     <message id="birthDay"><translation>Tag der Geburt</translation></message>
     <message id="birthDayNone"><translation>Tag</translation></message>
-    <message id="birthDayRefused"><translation>Dieser Monat hat keinen %1. Tag.</translation></message>
-    <message id="birthMonth"><translation>Monat der Geburt</translation></message>
+    <message id="birthDayRefused"><translation>Den %1. gibt es in diesem Monat nicht.</translation></message>
+    <message id="birthMonth"><translation>Geburtsmonat</translation></message>
     <message id="birthMonthNone"><translation>Monat</translation></message>
-    <message id="birthYear"><translation>Jahr der Geburt</translation></message>
+    <message id="birthYear"><translation>Geburtsjahr</translation></message>
     <message id="birthYearNone"><translation>Jahr</translation></message>
     <message id="birthYearRefused"><translation>Bitte geben Sie das Jahr mit vier Ziffern an, z. B. 1956.</translation></message>
     <message id="bloodChart"><translation>Blutdruck im Verlauf</translation></message>
@@ -295,7 +295,7 @@ mmHg</translation></message>
     <message id="commentDayFar"><translation>„%1“ liegt mehr als zwei Jahre in der Zukunft: Bitte prüfen Sie das Jahr. Die Datumsangaben wurden nicht geändert.</translation></message>
     <message id="commentDayHint"><translation>Geben Sie ein Datum ein und drücken Sie die Eingabetaste.</translation></message>
     <message id="commentDayOrder"><translation>Der letzte Tag eines Kommentars kann nicht vor dem ersten liegen. Die Datumsangaben wurden nicht geändert.</translation></message>
-    <message id="commentDayUnread"><translation>„%1“ ist kein Datum, das ein Kommentar haben kann: Bitte geben Sie es in der Form %2 ein, mit einem Jahr ab 1900. Die Datumsangaben wurden nicht geändert.</translation></message>
+    <message id="commentDayUnread"><translation>„%1“ ist kein gültiges Datum für einen Kommentar: Bitte geben Sie es in der Form %2 ein, mit einem Jahr ab 1900. Die Datumsangaben wurden nicht geändert.</translation></message>
     <message id="commentEmpty"><translation>Der Kommentar zum %1 hat keinen Text. Soll er entfernt werden?</translation></message>
     <message id="commentEmptyTitle"><translation>Kommentar ohne Text</translation></message>
     <message id="commentEnd"><translation>Bis</translation></message>
@@ -310,7 +310,7 @@ mmHg</translation></message>
 Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein“ wird der Text verworfen.</translation></message>
     <message id="commentText"><translation>Text des Kommentars</translation></message>
     <message id="commentUnchanged"><translation>Der Kommentar konnte nicht gespeichert werden. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>%1 %2 mit allen Messungen und Kommentaren löschen? „Bearbeiten“ &gt; „Rückgängig“ stellt alles wieder her, bis ZEL beendet wird.</translation></message>
+    <message id="ConfirmDelPatient"><translation>%1 %2 mit allen Messungen und Kommentaren löschen? Solange ZEL geöffnet ist, stellt „Bearbeiten“ &gt; „Rückgängig“ alles wieder her.</translation></message>
     <message id="confirmPrintSave"><translation>Die Daten von %1 wurden geändert, und nur Gespeichertes wird gedruckt oder exportiert. Die Änderungen zuerst speichern?</translation></message>
     <message id="confirmSendID"><translation>%2 Die ID %1 in das Messgerät schreiben? Von da an gehören seine Messungen zu diesem Patienten.</translation></message>
     <message id="confirmSendSave"><translation>Die Daten von %1 wurden geändert. Die Änderungen speichern?</translation></message>
@@ -336,7 +336,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="deleteReadingsAction"><translation>Messung löschen …</translation></message>
     <message id="deleteReadingsQuestion"><translation>Die von Hand eingegebenen Werte löschen (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Messung löschen</translation></message>
-    <message id="DeleteTheComment"><translation>Diesen Kommentar löschen? „Bearbeiten“ &gt; „Rückgängig“ stellt ihn wieder her, bis ZEL beendet wird.</translation></message>
+    <message id="DeleteTheComment"><translation>Diesen Kommentar löschen? Solange ZEL geöffnet ist, stellt „Bearbeiten“ &gt; „Rückgängig“ ihn wieder her.</translation></message>
     <message id="download"><translation>Messungen auslesen</translation></message>
     <message id="downloadAdvice"><translation>Bitte lassen Sie das Messgerät angeschlossen. Seine Messungen werden gespeichert, sobald alle angekommen sind.</translation></message>
     <message id="downloadButton"><translation>A&amp;uslesen</translation></message>
@@ -370,7 +370,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="exportCSV"><translation>Messungen des aktuellen Patienten als CSV-Datei exportieren</translation></message>
     <message id="exportCSVButton"><translation>CS&amp;V exportieren …</translation></message>
     <message id="exportCSVFolder"><translation>Ordner für die CSV-Datei wählen</translation></message>
-    <message id="exportCSVHint"><translation>Schreibt die Daten und Messungen des aktuellen Patienten als Tabelle, für eine Tabellenkalkulation.</translation></message>
+    <message id="exportCSVHint"><translation>Schreibt die Daten und Messungen des aktuellen Patienten als Tabelle für eine Tabellenkalkulation.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>%n Datei konnte nicht geschrieben werden:</numerusform><numerusform>%n Dateien konnten nicht geschrieben werden:</numerusform></translation></message>
     <message id="exportFolder"><translation>Ordner für die Dateien der Patienten wählen</translation></message>
     <message id="exportHint"><translation>Schreibt für jeden Patienten eine Datei, die dieses Programm wieder importieren kann.</translation></message>
@@ -395,7 +395,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fieldPatientNotes"><translation>Notizen zu diesem Patienten</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefon / E-Mail</translation></message>
     <message id="fieldSex"><translation>Geschlecht</translation></message>
-    <message id="fieldSmoker"><translation>Raucher/in</translation></message>
+    <message id="fieldSmoker"><translation>Rauchen</translation></message>
     <message id="fieldWeightKg"><translation>Gewicht (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Gewicht (lb)</translation></message>
     <message id="fileBeingRead"><translation>wird gelesen …</translation></message>
@@ -475,28 +475,28 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="monitorClock"><translation>Uhr</translation></message>
     <message id="monitorConnected"><translation>Messgerät verbunden</translation></message>
     <message id="monitorConnectedID"><translation>Im Messgerät ist die ID %1 gespeichert. Wählen Sie diesen Patienten und drücken Sie „Auslesen“, um die Messungen zu holen.</translation></message>
-    <message id="monitorCounting"><translation>Das Messgerät wird nach seinen Messungen gefragt. Das kann bis zu 20 Sekunden dauern …</translation></message>
+    <message id="monitorCounting"><translation>Die Messungen im Messgerät werden abgefragt. Das kann bis zu 20 Sekunden dauern …</translation></message>
     <message id="monitorDownloading"><translation>Messungen werden ausgelesen …</translation></message>
     <message id="monitorErasing"><translation>Messgerät wird geleert …</translation></message>
     <message id="monitorGreeting"><translation>Uhr und ID des Messgeräts werden gelesen …</translation></message>
     <message id="monitorHoldsNone"><translation>Im Messgerät ist jetzt keine ID gespeichert.</translation></message>
-    <message id="monitorHoldsOther"><translation>Im Messgerät ist jetzt die ID %1 gespeichert, die zu keinem Patienten hier gehört.</translation></message>
-    <message id="monitorHoldsPatient"><translation>Im Messgerät ist jetzt die ID %1 gespeichert, die von %2.</translation></message>
+    <message id="monitorHoldsOther"><translation>Im Messgerät ist jetzt die ID %1 gespeichert, die hier zu keinem Patienten gehört.</translation></message>
+    <message id="monitorHoldsPatient"><translation>Im Messgerät ist jetzt die ID %1 von %2 gespeichert.</translation></message>
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Darin ist %n Messung.</numerusform><numerusform>Darin sind %n Messungen.</numerusform></translation></message>
-    <message id="monitorHoldsUnknown"><translation>Welche ID jetzt im Messgerät gespeichert ist, war nicht zu lesen.</translation></message>
+    <message id="monitorHoldsUnknown"><translation>Welche ID jetzt im Messgerät gespeichert ist, konnte nicht gelesen werden.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
     <message id="monitorLooking"><translation>Messgerät wird gesucht …</translation></message>
     <message id="monitorNotAnswering"><translation>Angeschlossen, antwortet aber nicht wie erwartet. %1</translation></message>
     <message id="monitorNotConnected"><translation>Nicht verbunden. Schließen Sie das Messgerät an einen USB-Anschluss an.</translation></message>
     <message id="monitorPanel"><translation>Messgerät</translation></message>
-    <message id="monitorReadingsUnknown"><translation>Wie viele Messungen darin sind, war nicht zu lesen.</translation></message>
+    <message id="monitorReadingsUnknown"><translation>Wie viele Messungen darin sind, konnte nicht gelesen werden.</translation></message>
     <message id="monitorReady"><translation>Verbunden</translation></message>
     <message id="monitorSendingID"><translation>ID wird in das Messgerät geschrieben …</translation></message>
     <message id="monitorSettingClock"><translation>Uhr des Messgeräts wird gestellt …</translation></message>
     <message id="monitorState"><translation>Status</translation></message>
     <message id="monitorTrouble"><translation>Verbunden, aber der letzte Datenaustausch ist fehlgeschlagen und wird noch einmal versucht. %1</translation></message>
     <message id="monitorWithoutID"><translation>Im angeschlossenen Messgerät ist keine ID gespeichert. Wählen Sie einen Patienten und drücken Sie „ID senden“, um es zum Messgerät dieses Patienten zu machen.</translation></message>
-    <message id="newIDFromDevice"><translation>Im Messgerät ist die ID %1 gespeichert, die zu keinem Patienten hier gehört. Legen Sie einen Patienten mit dieser ID an, oder wählen Sie einen Patienten und drücken Sie „ID senden“.</translation></message>
+    <message id="newIDFromDevice"><translation>Im Messgerät ist die ID %1 gespeichert, die hier zu keinem Patienten gehört. Legen Sie einen Patienten mit dieser ID an, oder wählen Sie einen Patienten und drücken Sie „ID senden“.</translation></message>
     <message id="NewPatient"><translation>Neuer Patient</translation></message>
     <message id="newPatientButton"><translation>&amp;Neu</translation></message>
     <message id="newPatientHint"><translation>Neuen Patienten anlegen (Strg+N).</translation></message>
@@ -508,8 +508,8 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="nextPage"><translation>Nächste Seite</translation></message>
     <message id="no"><translation>&amp;Nein</translation></message>
     <message id="noCommentPage"><translation>Keine Kommentare</translation></message>
-    <message id="noCommentPageAdvice"><translation>Für diesen Patienten gibt es noch keine Kommentare. Sie werden im Diagramm gesetzt.</translation></message>
-    <message id="noComments"><translation>Noch kein Kommentar. Kommentare werden im Diagramm gesetzt.</translation></message>
+    <message id="noCommentPageAdvice"><translation>Für diesen Patienten gibt es noch keine Kommentare. Sie werden im Diagramm hinzugefügt.</translation></message>
+    <message id="noComments"><translation>Noch kein Kommentar. Kommentare werden im Diagramm hinzugefügt.</translation></message>
     <message id="NoData"><translation>Noch keine Messungen</translation></message>
     <message id="NoDataAdvice"><translation>Schließen Sie das Messgerät an, wählen Sie auf der Seite „Patienten“ den Patienten und drücken Sie „Auslesen“, oder geben Sie mit Strg+N eine Messung von Hand ein.</translation></message>
     <message id="noDisplay"><translation>es gibt keine grafische Anzeige, auf der sich ein Fenster öffnen lässt. Starten Sie zel in einer grafischen Sitzung, oder verwenden Sie die Befehle, die kein Fenster brauchen: siehe zel --help</translation></message>
@@ -648,9 +648,9 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="settingEraseHint"><translation>Die Messungen werden aus dem Messgerät gelöscht, sobald alle hier sicher gespeichert sind.</translation></message>
     <message id="settingLanguage"><translation>Sprache</translation></message>
     <message id="settingLanguageLabel"><translation>Sp&amp;rache</translation></message>
-    <message id="settingLanguageSystem"><translation>Wie das System</translation></message>
+    <message id="settingLanguageSystem"><translation>Systemsprache</translation></message>
     <message id="settingLanguageWhen"><translation>Eine andere Sprache gilt ab dem nächsten Start.</translation></message>
-    <message id="settingLimits"><translation>Grenzwerte des Blutdrucks</translation></message>
+    <message id="settingLimits"><translation>Blutdruck-Grenzwerte</translation></message>
     <message id="settingMAP"><translation>Mittleren arteriellen Druck anzeigen</translation></message>
     <message id="settingMAPButton"><translation>&amp;Mittlerer arterieller Druck (MAP)</translation></message>
     <message id="settingOK"><translation>Einstellungen speichern</translation></message>
@@ -723,7 +723,7 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="trendFigures"><translation>%1 (%2 bis %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, ab 12 Uhr</translation></message>
     <message id="trendInfoMorning"><translation>%1, vor 12 Uhr</translation></message>
-    <message id="trendKeys"><translation>%1, %2. Pfeil links und rechts zeigt die Werte Punkt für Punkt, Pos1 und Ende die des ersten und des letzten.</translation></message>
+    <message id="trendKeys"><translation>%1, %2. Pfeil links und Pfeil rechts zeigen die Werte Punkt für Punkt, Pos1 und Ende die des ersten und des letzten.</translation></message>
     <message id="trendPeriod"><translation>Tage</translation></message>
     <message id="trendReadings"><translation>Messungen</translation></message>
     <message id="trendView"><translation>Trend von systolischem und diastolischem Blutdruck und Puls</translation></message>
@@ -829,7 +829,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
 </context>
 <context>
     <name>report</name>
-    <message id="appDescrption"><translation>Blutdruckbericht von ZEL</translation></message>
+    <message id="appDescrption"><translation>ZEL-Blutdruckbericht</translation></message>
     <message id="comment"><translation>Kommentare</translation></message>
     <message id="comments"><translation>Kommentare</translation></message>
     <message id="correlation"><translation>Systolischer gegen diastolischen Blutdruck</translation></message>
@@ -852,7 +852,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="formPhoneEmail"><translation>Telefon / E-Mail</translation></message>
     <message id="formRisks"><translation>Risikofaktoren</translation></message>
     <message id="formSex"><translation>Geschlecht</translation></message>
-    <message id="formSmoker"><translation>Raucher/in</translation></message>
+    <message id="formSmoker"><translation>Rauchen</translation></message>
     <message id="formWeightKg"><translation>Gewicht (kg)</translation></message>
     <message id="formWeightLb"><translation>Gewicht (lb)</translation></message>
     <message id="formYear"><translation>Jahr</translation></message>
@@ -862,7 +862,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="legendTitle"><translation>%1:</translation></message>
     <message id="mam"><translation>MAM</translation></message>
     <message id="n.a."><translation>n.a.</translation></message>
-    <message id="N.A."><translation>N.A.</translation></message>
+    <message id="N.A."><translation>k. A.</translation></message>
     <message id="No"><translation>Nein</translation></message>
     <message id="PatientProfile"><translation>Patientendaten</translation></message>
     <message id="reportAllComments"><translation>Kommentare aller Zeiten, nicht nur dieses Zeitraums</translation></message>
@@ -870,7 +870,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportAverage"><translation>Mittelwert mehrerer Messungen</translation></message>
     <message id="reportBothAbove"><translation>Beide darüber: %1</translation></message>
     <message id="reportCommentBars"><translation>Balken: Kommentare, nach Nummer</translation></message>
-    <message id="reportCommentsLeftOut"><translation>Ein Bericht hat Platz für %1 Kommentare mit %2 Zeichen. Die neuesten folgen; ein Export enthält alle.</translation></message>
+    <message id="reportCommentsLeftOut"><translation>Ein Bericht hat Platz für %1 Kommentare mit zusammen %2 Zeichen. Die neuesten folgen; ein Export enthält alle.</translation></message>
     <message id="reportContinued"><translation>%1, Fortsetzung</translation></message>
     <message id="reportCorrelationLimits" numerus="yes"><translation><numerusform>Die Linie ist der Grenzwert.</numerusform><numerusform>Die Linien sind die Grenzwerte.</numerusform></translation></message>
     <message id="reportCorrelationNote"><translation>Jedes Quadrat ist eine Messung oder mehrere mit denselben Werten, in mmHg.</translation></message>
@@ -884,7 +884,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportEarlierComments" numerus="yes"><translation><numerusform>%n früherer Kommentar ist nicht gedruckt</numerusform><numerusform>%n frühere Kommentare sind nicht gedruckt</numerusform></translation></message>
     <message id="reportEmptySections"><translation>Leer und deshalb nicht in diesem Bericht: %1</translation></message>
     <message id="reportEveningOnly"><translation>Nur Messungen ab 12 Uhr sind dargestellt</translation></message>
-    <message id="reportFindingUnknown"><translation>N.A.: nicht bekannt</translation></message>
+    <message id="reportFindingUnknown"><translation>k. A.: nicht bekannt</translation></message>
     <message id="reportFound"><translation>erkannt</translation></message>
     <message id="reportGoesOn"><translation>weiter auf der nächsten Seite</translation></message>
     <message id="reportGraphComments"><translation>Nummerierte Kästchen: Kommentare.</translation></message>
@@ -893,7 +893,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>Der Grenzwert %1 liegt außerhalb der Skala.</numerusform><numerusform>Die Grenzwerte %1 liegen außerhalb der Skala.</numerusform></translation></message>
     <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Gestrichelte Linie: Grenzwert %1.</numerusform><numerusform>Gestrichelte Linien: Grenzwerte %1.</numerusform></translation></message>
     <message id="reportGraphNote"><translation>Obere Linie: systolischer, untere Linie: diastolischer Blutdruck.</translation></message>
-    <message id="reportHistogramNote"><translation>Balkenlänge: Anteil aller Messungen, in Prozent, die in diesen 10 mmHg oder 10 Schlägen pro Minute liegen.</translation></message>
+    <message id="reportHistogramNote"><translation>Balkenlänge: Anteil der Messungen in Prozent, die in diesem Bereich von 10 mmHg oder 10 Schlägen pro Minute liegen.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Bis einschließlich %1: %2</numerusform><numerusform>Bis einschließlich %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, Puls %5</translation></message>
     <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossene Messung, mit Grund</numerusform><numerusform>%n von Hand ausgeschlossene Messungen, mit Gründen</numerusform></translation></message>
@@ -924,7 +924,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summary"><translation>Übersicht</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
     <message id="summaryAll"><translation>Alle</translation></message>
-    <message id="summaryBelow"><translation>Unter dem Schwellenwert %1 (auf ein Zehntel: %2/%3)</translation></message>
+    <message id="summaryBelow"><translation>Unter dem Schwellenwert %1 (genauer: %2/%3)</translation></message>
     <message id="summaryBorn" numerus="yes"><translation><numerusform>Geb. %1, %n Jahr</numerusform><numerusform>Geb. %1, %n Jahre</numerusform></translation></message>
     <message id="summaryBornOn"><translation>Geb. %1</translation></message>
     <message id="summaryComments"><translation>Was sich geändert hat: Kommentare, neueste zuerst</translation></message>
@@ -968,7 +968,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryPeriod"><translation>Von %1 bis %2</translation></message>
     <message id="summaryPulse"><translation>Puls %1</translation></message>
     <message id="summaryRate"><translation>Puls, 1/min</translation></message>
-    <message id="summaryReached"><translation>Schwellenwert %1 erreicht (auf ein Zehntel: %2/%3)</translation></message>
+    <message id="summaryReached"><translation>Schwellenwert %1 erreicht (genauer: %2/%3)</translation></message>
     <message id="summaryReadings"><translation>Messungen</translation></message>
     <message id="summaryReasonsInFull"><translation>…: gekürzt; ausgeschlossene Messungen: vollständig in „%1“.</translation></message>
     <message id="summarySD"><translation>SD</translation></message>
@@ -1067,11 +1067,11 @@ Schwellenwert des Mittelwerts. Nur Zahlen: Was sie für den Patienten bedeuten, 
   pulse       in Schlägen pro Minute
   morning     sys/dia der Messungen vor 12 Uhr
   evening     sys/dia der Messungen ab 12 Uhr
-  threshold   reached, wenn sys oder dia vor dem Runden an seinem Teil des Schwellenwerts oder darüber liegt
+  threshold   reached, wenn sys oder dia vor dem Runden seinen Teil des Schwellenwerts erreicht oder übersteigt
 
-Tage und Zeiten sind die der Zeitzone dieses Computers. Eine Zeile, die nichts zu sagen hat, entfällt.
-Wie viele Messungen der Woche nicht zählen und wie viele in einer anderen Zeitzone gespeichert wurden,
-steht auf der Standardfehlerausgabe.
+Tage und Zeiten sind die der Zeitzone dieses Computers. Zeilen ohne Angabe entfallen. Wie viele
+Messungen der Woche nicht zählen und wie viele in einer anderen Zeitzone gespeichert wurden, steht auf der
+Standardfehlerausgabe.
 
 Optionen:
   --patient ID                 wessen Messungen
@@ -1094,7 +1094,7 @@ restore   setzt eine Sicherung an die Stelle der Datendatei und gibt 'restored: 
           bleibt als weitere Sicherung erhalten, deren Name ausgegeben wird ('kept: NAME'); deren
           Wiederherstellung macht alles rückgängig
 folder    gibt den zweiten Ordner für Sicherungen, auf einem USB-Stick oder einer Netzwerkfreigabe, als
-          'folder: DIR' aus, nachdem er auf DIR gesetzt wurde; Sicherungen darin werden mit ganzem Namen
+          'folder: DIR' aus, nachdem er auf DIR gesetzt wurde; Sicherungen darin werden mit vollem Pfad
           aufgelistet
 
 Optionen:
@@ -1122,7 +1122,7 @@ gewählt ist. Alle Messungen sind enthalten; hinter dem letzten Komma einer Zeil
 Hand eingegebenen und 'excluded: REASON' bei einer ausgeschlossenen, die nirgends mitzählt.
 
 Optionen:
-  --patient ID                 wessen Datei
+  --patient ID                 wessen Daten
   --force                      die Datei ersetzen, falls sie schon vorhanden ist
   --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
   -h, --help                   diesen Text anzeigen</translation></message>
@@ -1181,8 +1181,8 @@ Optionen:
   -h, --help                   diesen Text anzeigen</translation></message>
     <message id="CliHelpPrivacy"><translation>Aufruf: zel privacy [--mend]
 
-Gibt aus, was andere Benutzer dieses Computers von der Datendatei, dem daneben Abgelegten und den Sicherungen
-lesen können, eine Datei pro Zeile ('readable by others: FILE'), oder 'private'.
+Gibt aus, welche dieser Dateien andere Benutzer dieses Computers lesen können: die Datendatei, was neben ihr
+gespeichert ist, und ihre Sicherungen; je Zeile eine Datei ('readable by others: FILE'), oder 'private'.
 
 Optionen:
   --mend                       anderen den Zugriff verwehren: ändert die Zugriffsrechte dieser Dateien, ihres
@@ -1198,8 +1198,8 @@ Optionen:
         zel readings --patient ID --delete RECORD
 
 Gibt die Messungen eines Patienten als CSV aus, die älteste zuerst, mit der Kopfzeile
-date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Drücke sind in mmHg, der Puls in Schlägen pro Minute.
-Eine Messung, die das Messgerät ohne Datum gespeichert hat, hat stattdessen n.a und --:--; sie entfällt, wenn
+date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Der Blutdruck ist in mmHg, der Puls in Schlägen pro Minute.
+Eine Messung, die das Messgerät ohne Datum gespeichert hat, steht mit n.a und --:-- darin; sie entfällt, wenn
 ein Zeitraum, --am oder --pm angegeben ist, außer mit --undated. Ein Tag ohne Messungen, zu dem ein Kommentar
 gehört, hat eine Zeile mit seinem Datum und n.a. für den Rest; sind es zu viele, um alle aufzulisten, sagt das
 ein Satz auf der Standardfehlerausgabe.
@@ -1207,7 +1207,7 @@ ein Satz auf der Standardfehlerausgabe.
 Mit --exclude, --include, --add, --change oder --delete wird stattdessen die Datendatei geändert. Eine
 ausgeschlossene Messung bleibt mit ihrem Grund in der Datei und in der Liste und zählt nirgends mit; ein Satz
 auf der Standardfehlerausgabe sagt, wie viele der ausgegebenen Messungen das sind. Eine von Hand eingegebene
-Messung ist als manual gekennzeichnet; die Drücke und der Puls sind ganze Zahlen von 30 bis 300, der
+Messung ist als manual gekennzeichnet; Blutdruck und Puls sind ganze Zahlen von 30 bis 300, der
 diastolische Blutdruck liegt unter dem systolischen und die Zeit nicht in der Zukunft. --add gibt
 'record: RECORD' aus. Nur von Hand eingegebene Messungen lassen sich ändern oder löschen.
 
@@ -1223,7 +1223,7 @@ Optionen:
                                und excluded, warum sie ausgeschlossen ist (leer: sie zählt)
   --exclude RECORD             die Messung mit dieser Nummer ausschließen; sie zählt dann nirgends mit
   --reason TEXT                warum
-  --include RECORD             sie wieder mitzählen
+  --include RECORD             ihren Ausschluss aufheben; sie zählt dann wieder mit
   --add                        eine von Hand eingegebene Messung speichern
   --change RECORD              eine von Hand eingegebene ändern; was nicht angegeben ist, bleibt
   --delete RECORD              eine von Hand eingegebene löschen
@@ -1261,7 +1261,7 @@ Optionen:
   --last N                     statt --from: N Tage, bis zu dem von --to oder dem letzten mit einer Messung
   --am                         nur die Messungen vor 12 Uhr (Statistik und Übersicht nehmen alle)
   --pm                         nur die Messungen ab 12 Uhr (ebenso)
-  --apart                      der Trend hat Morgens und Abends als eigene Linien
+  --apart                      der Trend hat eigene Linien für morgens und abends
   --rule esh|nice|aha          wie die Übersicht ihre Messwoche mittelt, die mit dem letzten Tag des Zeitraums
                                mit Messungen endet; esh, falls nicht anders angegeben. 'zel average --help'
                                erklärt die Regeln
@@ -1296,8 +1296,8 @@ Optionen:
     <message id="CliHelpStatistics"><translation>Aufruf: zel statistics --patient ID [--from DAY | --last N] [--to DAY] [--undated]
 
 Gibt Mittelwert, Minimum und Maximum der Messungen eines Patienten aus, je Zeile eine Messgröße:
-'sys: AVERAGE MIN MAX', dann dia, pulse und map oder pp, wie in den Einstellungen gewählt. Drücke sind in
-mmHg, der Puls in Schlägen pro Minute. Wo es keine Messung gibt, steht jeweils n/a. Sind Messungen nicht
+'sys: AVERAGE MIN MAX', dann dia, pulse und map oder pp, wie in den Einstellungen gewählt. Der Blutdruck ist
+in mmHg, der Puls in Schlägen pro Minute. Wo es keine Messung gibt, steht jeweils n/a. Sind Messungen nicht
 gezählt, steht auf der Standardfehlerausgabe, wie viele gezählt sind und wie viele aus welchem Grund nicht.
 
 Optionen:
@@ -1347,7 +1347,7 @@ Optionen:
     <message id="CliTryHelp"><translation>Versuchen Sie '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' wird hier nicht erwartet.</translation></message>
     <message id="CliUnknownCommand"><translation>Es gibt keinen Befehl '%1'.</translation></message>
-    <message id="CliWaiting"><translation>Warten auf das Messgerät, noch höchstens %1 s. Strg-C bricht ab.</translation></message>
+    <message id="CliWaiting"><translation>Warten auf das Messgerät, noch höchstens %1 s. Strg+C bricht ab.</translation></message>
     <message id="CliYesAlone"><translation>--yes gehört zu --erase.</translation></message>
 </context>
 </TS>
