@@ -30,21 +30,21 @@
     <message id="ImportNotStored"><translation>%1 : le contenu du fichier n’a pas pu être enregistré. Rien n’a été importé.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1 : deux patients du fichier ont le même ID, « %2 ». Rien n’a été importé.</translation></message>
     <message id="ImportTooLarge"><translation>%1 : le fichier dépasse 512 Mio. Rien n’a été importé.</translation></message>
-    <message id="LanguageMissing"><translation>--language demande une langue, parmi %1</translation></message>
+    <message id="LanguageMissing"><translation>--language attend une langue, parmi %1</translation></message>
     <message id="languageTag"><translation>fr</translation></message>
-    <message id="LanguageTwice"><translation>--language ne peut être indiqué qu’une fois</translation></message>
-    <message id="LanguageUnknown"><translation>la langue « %1 » n’existe pas ; les langues sont %2</translation></message>
+    <message id="LanguageTwice"><translation>--language ne peut être indiquée qu’une fois</translation></message>
+    <message id="LanguageUnknown"><translation>la langue « %1 » n’existe pas ; les langues sont %2</translation></message>
     <message id="LanguageUnread"><translation>Le choix de la langue dans le fichier %1 est illisible. La langue du système est utilisée jusqu’à ce qu’une autre soit choisie dans les réglages.</translation></message>
     <message id="LimitDiastolic"><translation>Limite diastolique : %1.</translation></message>
     <message id="LimitOrder"><translation>La limite diastolique doit être inférieure à la limite systolique.</translation></message>
     <message id="LimitSystolic"><translation>Limite systolique : %1.</translation></message>
     <message id="Male"><translation>Homme</translation></message>
-    <message id="ManualDia"><translation>La pression diastolique doit être un nombre de %1 à %2.</translation></message>
+    <message id="ManualDia"><translation>La pression diastolique doit être un nombre compris entre %1 et %2.</translation></message>
     <message id="ManualDiaNotBelowSys"><translation>La pression diastolique doit être inférieure à la pression systolique.</translation></message>
-    <message id="ManualInFuture"><translation>La date et l’heure sont dans le futur.</translation></message>
+    <message id="ManualInFuture"><translation>Cette date et cette heure sont encore à venir.</translation></message>
     <message id="ManualNoDate"><translation>Cette date et cette heure n’existent pas. (Une heure manque lors du passage à l’heure d’été, et le 1er janvier 2000 signifie « sans date ».)</translation></message>
-    <message id="ManualPulse"><translation>Le pouls doit être un nombre de %1 à %2.</translation></message>
-    <message id="ManualSys"><translation>La pression systolique doit être un nombre de %1 à %2.</translation></message>
+    <message id="ManualPulse"><translation>Le pouls doit être un nombre compris entre %1 et %2.</translation></message>
+    <message id="ManualSys"><translation>La pression systolique doit être un nombre compris entre %1 et %2.</translation></message>
     <message id="ManualTooEarly"><translation>La date est antérieure à 1900.</translation></message>
     <message id="n.a"><translation>n.a</translation></message>
     <message id="N/A"><translation>N/A</translation></message>
@@ -59,7 +59,7 @@
     <message id="SecondFolderNotRecorded"><translation>Le second dossier pour les copies n’a pas pu être noté dans %1. Rien n’a été modifié.</translation></message>
     <message id="SettingLimit"><translation>0 (aucune) ou un nombre entier de %1 à %2</translation></message>
     <message id="SettingOneOf"><translation>l’une des valeurs %1</translation></message>
-    <message id="SettingQuoted"><translation>« %1 »</translation></message>
+    <message id="SettingQuoted"><translation>« %1 »</translation></message>
     <message id="SettingText"><translation>tout texte sans caractère de contrôle</translation></message>
     <message id="stepAddComment"><translation>ajout d’un commentaire (%1)</translation></message>
     <message id="stepAddPatient"><translation>ajout du patient %1</translation></message>
@@ -71,7 +71,7 @@
     <message id="stepEditPatient"><translation>modification du patient %1</translation></message>
     <message id="stepEditReading"><translation>modification d’une mesure (%1)</translation></message>
     <message id="stepExcludeReadings" numerus="yes"><translation><numerusform>exclusion de %n mesure (%1)</numerusform><numerusform>exclusion de %n mesures (%1)</numerusform></translation></message>
-    <message id="stepImport"><translation>importation de %1</translation></message>
+    <message id="stepImport"><translation>importation (%1)</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>réintégration de %n mesure (%1)</numerusform><numerusform>réintégration de %n mesures (%1)</numerusform></translation></message>
     <message id="stepSettings"><translation>modification des réglages</translation></message>
     <message id="StoreAlreadyKnown"><translation>Un patient ayant l’ID « %1 » figure déjà dans la liste. Rien n’a été modifié.</translation></message>
@@ -79,7 +79,7 @@
     <message id="StoreChangedElsewhere"><translation>Un autre programme a modifié ces données entre-temps. Rien n’a été modifié ici ; veuillez les consulter dans leur état actuel.</translation></message>
     <message id="StoreDiskFull"><translation>Le disque est plein : %1 n’a pas pu être écrit. L’ancien contenu est intact. Veuillez libérer de la place sur le disque, puis réessayer.</translation></message>
     <message id="StoreInvalidRecord"><translation>Chaque patient doit avoir son propre ID ; « %1 » ne convient pas. Rien n’a été modifié.</translation></message>
-    <message id="StoreLockBlocked"><translation>%1 occupe l’emplacement où les programmes signalent qu’ils utilisent le fichier de données, mais n’est pas un tel signalement. Rien n’a été modifié ; veuillez le déplacer, puis réessayer.</translation></message>
+    <message id="StoreLockBlocked"><translation>%1 se trouve à l’endroit où les programmes signalent qu’ils utilisent le fichier de données, mais ne vient pas de l’un d’eux. Rien n’a été modifié ; veuillez le déplacer, puis réessayer.</translation></message>
     <message id="StoreNoPermissions"><translation>D’autres utilisateurs de cet ordinateur peuvent encore lire %1 : ce système de fichiers ne gère pas les droits d’accès. Veuillez conserver les données sur un autre disque.</translation></message>
     <message id="StoreNoReason"><translation>Une mesure ne peut être exclue qu’avec un motif ; veuillez en indiquer un. Rien n’a été modifié.</translation></message>
     <message id="StoreNoRoomForBackup"><translation>Aucune copie du fichier de données n’est conservée dans %1 : l’ensemble des copies ne peut occuper qu’un dixième de l’espace libre du disque, soit moins que la taille du fichier.</translation></message>
@@ -95,7 +95,7 @@
     <message id="StoreNotWritable"><translation>Le fichier de données %1 ne peut pas être écrit. Rien n’a été modifié ; veuillez vérifier les droits d’accès du fichier et de son dossier.</translation></message>
     <message id="StoreQuotaReached"><translation>L’espace qui vous est attribué sur ce disque est épuisé (quota atteint) : %1 n’a pas pu être écrit. L’ancien contenu est intact. Veuillez supprimer ce dont vous n’avez plus besoin ou demander plus d’espace, puis réessayer.</translation></message>
     <message id="StoreReadingGone"><translation>Cette mesure n’existe plus. Rien n’a été modifié.</translation></message>
-    <message id="StoreReadingKnown"><translation>Une mesure de cette minute avec ces valeurs existe déjà. Rien n’a été modifié.</translation></message>
+    <message id="StoreReadingKnown"><translation>Il existe déjà une mesure de la même minute avec les mêmes valeurs. Rien n’a été modifié.</translation></message>
     <message id="StoreReadingRefused"><translation>La mesure n’a pas été enregistrée.</translation></message>
     <message id="StoreSizeLimit"><translation>La taille des fichiers est limitée sur cet ordinateur : %1 n’a pas pu être écrit. L’ancien contenu est intact. Veuillez vous adresser à la personne qui administre cet ordinateur au sujet de la taille maximale des fichiers.</translation></message>
     <message id="StoreStepChanged"><translation>Les données concernées ont été modifiées depuis, par un autre programme ou à la main. Rien n’a été modifié.</translation></message>
@@ -135,11 +135,11 @@
     <message id="monitorInterrupted"><translation>L’échange avec le tensiomètre a été interrompu avant la fin.</translation></message>
     <message id="monitorNoAcknowledgement"><translation>Le tensiomètre n’a pas accepté la commande. Veuillez l’éteindre, le rallumer et réessayer.</translation></message>
     <message id="monitorNoDevice"><translation>Aucun tensiomètre n’est branché. Veuillez le brancher et réessayer.</translation></message>
-    <message id="monitorNotTaken"><translation>Le tensiomètre a confirmé, mais contient toujours autre chose. Veuillez réessayer.</translation></message>
+    <message id="monitorNotTaken"><translation>Le tensiomètre a confirmé la réception, mais contient toujours autre chose. Veuillez réessayer.</translation></message>
     <message id="monitorReadFailed"><translation>La liaison avec le tensiomètre a été interrompue. Veuillez vérifier le câble et réessayer.</translation></message>
     <message id="monitorSuccess"><translation>Le tensiomètre a exécuté la demande.</translation></message>
     <message id="monitorTimeOut"><translation>Le tensiomètre n’a pas répondu à temps. Veuillez vérifier qu’il est allumé et réessayer.</translation></message>
-    <message id="monitorUnconfirmed"><translation>L’envoi au tensiomètre a eu lieu, mais son contenu actuel n’a pas pu être lu. Veuillez le vérifier avant de réessayer.</translation></message>
+    <message id="monitorUnconfirmed"><translation>L’envoi a eu lieu, mais le contenu actuel du tensiomètre n’a pas pu être lu. Veuillez le vérifier avant de réessayer.</translation></message>
     <message id="monitorUnfitID"><translation>Le tensiomètre ne peut pas mémoriser cet ID ; rien n’a donc été envoyé. Un ID destiné au tensiomètre comporte de 1 à 11 lettres, chiffres ou signes, sans accents.</translation></message>
     <message id="monitorWriteFailed"><translation>Le tensiomètre n’accepte pas ce qui lui est envoyé. Veuillez le débrancher, le rebrancher et réessayer.</translation></message>
     <message id="simulatedMissing"><translation>La valeur de « %1 » manque.</translation></message>
@@ -149,7 +149,7 @@
     <message id="simulatedNotList"><translation>La valeur de « %1 » doit être une liste.</translation></message>
     <message id="simulatedNotObject"><translation>La valeur de « %1 » doit être un objet.</translation></message>
     <message id="simulatedNotText"><translation>La valeur de « %1 » doit être un texte.</translation></message>
-    <message id="simulatedNotTime"><translation>La valeur de « %1 » doit être une date et heure comme 2026-11-01T07:12, dans les années 2000 à 2099, ou le mot undated.</translation></message>
+    <message id="simulatedNotTime"><translation>La valeur de « %1 » doit être une date avec l’heure, comme 2026-11-01T07:12, dans les années 2000 à 2099, ou le mot undated.</translation></message>
     <message id="simulatedNotWhole"><translation>La valeur de « %1 » doit être un nombre entier dans l’intervalle %2.</translation></message>
     <message id="simulatedRefused"><translation>Le fichier du tensiomètre simulé, %1, ne peut pas être utilisé : %2</translation></message>
     <message id="simulatedTooMany"><translation>La liste « %1 » doit compter au plus %2 éléments.</translation></message>
@@ -163,7 +163,7 @@
     <message id="beforeAndSince"><translation>%1 avant, %2 depuis : %3</translation></message>
     <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n mesure exclue par l’utilisateur</numerusform><numerusform>%n mesures exclues par l’utilisateur</numerusform></translation></message>
     <message id="fewBefore"><translation>moins de %1 mesures avant</translation></message>
-    <message id="fewOnBothSides"><translation>moins de %1 mesures avant et depuis</translation></message>
+    <message id="fewOnBothSides"><translation>moins de %1 mesures de part et d’autre</translation></message>
     <message id="fewSince"><translation>moins de %1 mesures depuis</translation></message>
     <message id="highMark"><translation>%1 et gras : à partir de %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n avant midi</numerusform><numerusform>%n avant midi</numerusform></translation></message>
@@ -193,19 +193,19 @@
     <message id="12-hours"><translation>12 heures</translation></message>
     <message id="24-hours"><translation>24 heures</translation></message>
     <message id="aboutData"><translation>Fichier de données : %1</translation></message>
-    <message id="aboutLicence"><translation>Licence : MIT. ZEL est fourni sans aucune garantie. ZEL utilise Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licence Unicode) et expected (CC0), chacun selon sa propre licence.</translation></message>
+    <message id="aboutLicence"><translation>Licence : MIT. ZEL est fourni sans aucune garantie. ZEL utilise Qt (LGPL 3), hidapi (BSD), pugixml (MIT), ICU (licence Unicode) et expected (CC0), chacun selon sa propre licence.</translation></message>
     <message id="addComment"><translation>Ajouter un commentaire</translation></message>
     <message id="addCommentHint"><translation>Faites glisser cette icône vers un jour de la bande située sous le graphique du pouls pour y ajouter un commentaire. Au clavier : actionnez-la ou appuyez sur Inser.</translation></message>
     <message id="addCommentTooLong"><translation>Il est possible d’ajouter des commentaires tant que la période compte 47 jours ou moins.</translation></message>
-    <message id="addDay"><translation>Plus de jours : un de plus à chaque bout de la période</translation></message>
-    <message id="addDayHint"><translation>Plus de jours : un de plus à chaque bout de la période (+)</translation></message>
+    <message id="addDay"><translation>Plus de jours : un de plus au début et à la fin de la période</translation></message>
+    <message id="addDayHint"><translation>Plus de jours : un de plus au début et à la fin de la période (+)</translation></message>
     <message id="afib"><translation>FA</translation></message>
     <message id="age"><translation>Âge : %1</translation></message>
     <message id="answerNo"><translation>Non</translation></message>
     <message id="answerYes"><translation>Oui</translation></message>
     <message id="AP_Title"><translation>ZEL – mesures de pression artérielle</translation></message>
     <message id="argumentUnknown"><translation>argument inattendu « %1 » ; voir zel --help</translation></message>
-    <message id="argumentWithoutFile"><translation>%1= doit être suivi du nom d’un fichier ; voir zel --help</translation></message>
+    <message id="argumentWithoutFile"><translation>%1= doit être suivie du nom d’un fichier ; voir zel --help</translation></message>
     <message id="backupAlsoTo"><translation>Copies aussi vers :</translation></message>
     <message id="backupChoose"><translation>C&amp;hoisir…</translation></message>
     <message id="backupChooseTitle"><translation>Second dossier pour les copies du fichier de données</translation></message>
@@ -221,7 +221,7 @@
     <message id="backupMade"><translation>Créée par vous</translation></message>
     <message id="backupNone"><translation>Il n’y a pas encore de copie. Chaque jour, une copie est créée avant la première modification.</translation></message>
     <message id="backupNoSecondFolder"><translation>aucun second dossier</translation></message>
-    <message id="backupOffered"><translation>La copie lisible la plus récente est %1, avec %2. Y revenir ? Le fichier endommagé est conservé à côté, comme une copie de plus.</translation></message>
+    <message id="backupOffered"><translation>La copie lisible la plus récente est %1, avec %2. Y revenir ? Le fichier endommagé est conservé à côté, dans une autre copie.</translation></message>
     <message id="backupReplaced"><translation>Données remplacées par une copie restaurée</translation></message>
     <message id="backupRestore"><translation>&amp;Restaurer…</translation></message>
     <message id="backupRestored"><translation>La copie %1 est maintenant utilisée. Les données précédentes sont conservées sous le nom %2.</translation></message>
@@ -229,16 +229,16 @@
     <message id="backupStop"><translation>Arrê&amp;ter</translation></message>
     <message id="backupTitle"><translation>Sauvegardes</translation></message>
     <message id="backupUnreadable"><translation>cette copie est illisible</translation></message>
-    <message id="beforeAndSinceHint"><translation>Pression moyenne en mmHg, et nombre de mesures : les 14 jours avant le commentaire, puis à partir de son premier jour jusqu’au début d’un autre commentaire, 28 jours au plus</translation></message>
+    <message id="beforeAndSinceHint"><translation>Pression moyenne en mmHg, et nombre de mesures : les 14 jours avant le commentaire, puis de son premier jour jusqu’au début d’un autre commentaire, 28 jours au plus</translation></message>
     <message id="BeginDate"><translation>Le premier jour doit précéder le dernier, afin que la période couvre au moins deux jours. Les dates sont restées inchangées.</translation></message>
     <message id="beginEarlier"><translation>Débuter un jour plus tôt</translation></message>
     <message id="beginLater"><translation>Débuter un jour plus tard</translation></message>
     <message id="birthDateIncomplete"><translation>Veuillez indiquer l’année, le mois et le jour, ou aucun des trois.</translation></message>
-    <message id="birthDateInFuture"><translation>Ce jour est dans le futur.</translation></message>
+    <message id="birthDateInFuture"><translation>Cette date est encore à venir.</translation></message>
     <message id="birthDateTooOld"><translation>Cette date remonte à plus de %1 ans.</translation></message>
     <message id="birthDay"><translation>Jour de naissance</translation></message>
     <message id="birthDayNone"><translation>Jour</translation></message>
-    <message id="birthDayRefused"><translation>Ce mois n’a pas de jour %1.</translation></message>
+    <message id="birthDayRefused"><translation>Ce mois ne va pas jusqu’au %1.</translation></message>
     <message id="birthMonth"><translation>Mois de naissance</translation></message>
     <message id="birthMonthNone"><translation>Mois</translation></message>
     <message id="birthYear"><translation>Année de naissance</translation></message>
@@ -251,8 +251,8 @@
     <message id="cellWithRemark"><translation>%1, %2</translation></message>
     <message id="changeReadingAction"><translation>Modifier la mesure…</translation></message>
     <message id="changeReadingTitle"><translation>Modifier la mesure</translation></message>
-    <message id="chartKeys"><translation>%1 dans la période. Les flèches déplacent la période, plus et moins l’élargissent et la réduisent, Ctrl avec les flèches gauche et droite passe d’une mesure à l’autre.</translation></message>
-    <message id="cholestrolRefused"><translation>Veuillez indiquer un nombre de 10 à 5000 mg/dL, par exemple 200. 1 g/L correspond à 100 mg/dL, et 1 mmol/L à environ 38,7 mg/dL.</translation></message>
+    <message id="chartKeys"><translation>%1 sur la période. Les flèches déplacent la période, les touches plus et moins l’élargissent ou la réduisent, Ctrl avec la flèche gauche ou droite passe d’une mesure à l’autre.</translation></message>
+    <message id="cholestrolRefused"><translation>Veuillez indiquer un nombre compris entre 10 et 5000 mg/dL, par exemple 200. 1 g/L correspond à 100 mg/dL, et 1 mmol/L à environ 38,7 mg/dL.</translation></message>
     <message id="choosePrinter"><translation>Choisir une imprimante</translation></message>
     <message id="clockAhead"><translation>%1 d’avance sur cet ordinateur</translation></message>
     <message id="clockBehind"><translation>%1 de retard sur cet ordinateur</translation></message>
@@ -292,7 +292,7 @@ mmHg</translation></message>
     <message id="commentBegin"><translation>Du</translation></message>
     <message id="commentBeginDay"><translation>Premier jour du commentaire</translation></message>
     <message id="commentCount" numerus="yes"><translation><numerusform>%n commentaire</numerusform><numerusform>%n commentaires</numerusform></translation></message>
-    <message id="commentDayFar"><translation>« %1 » est à plus de deux ans dans le futur : vérifiez l’année. Les dates sont restées inchangées.</translation></message>
+    <message id="commentDayFar"><translation>« %1 » est dans plus de deux ans : vérifiez l’année. Les dates sont restées inchangées.</translation></message>
     <message id="commentDayHint"><translation>Saisissez une date et appuyez sur Entrée.</translation></message>
     <message id="commentDayOrder"><translation>Le dernier jour d’un commentaire ne peut pas précéder son premier jour. Les dates sont restées inchangées.</translation></message>
     <message id="commentDayUnread"><translation>« %1 » n’est pas une date possible pour un commentaire : saisissez-la sous la forme %2, avec une année à partir de 1900. Les dates sont restées inchangées.</translation></message>
@@ -307,12 +307,12 @@ mmHg</translation></message>
     <message id="commentPosition"><translation>%1 sur %2</translation></message>
     <message id="commentStay"><translation>Le commentaire n’a pas pu être enregistré. %1
 
-Rester ici et garder votre texte pour réessayer ? Avec « Non », le texte est abandonné.</translation></message>
+Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non », votre texte sera perdu.</translation></message>
     <message id="commentText"><translation>Texte du commentaire</translation></message>
     <message id="commentUnchanged"><translation>Le commentaire n’a pas pu être enregistré. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>Supprimer %1 %2 avec toutes ses mesures et tous ses commentaires ? Édition &gt; Annuler les rétablit tant que ZEL n’est pas fermé.</translation></message>
+    <message id="ConfirmDelPatient"><translation>Supprimer le patient %1 %2 avec toutes ses mesures et tous ses commentaires ? Édition &gt; Annuler les rétablit tant que ZEL n’est pas fermé.</translation></message>
     <message id="confirmPrintSave"><translation>La fiche a été modifiée (%1), et seules les données enregistrées sont imprimées ou exportées. Enregistrer d’abord les modifications ?</translation></message>
-    <message id="confirmSendID"><translation>%2 Y écrire l’ID %1 ? Dès lors, ses mesures appartiendront à ce patient.</translation></message>
+    <message id="confirmSendID"><translation>%2 Y écrire l’ID %1 ? Les mesures du tensiomètre appartiendront alors à ce patient.</translation></message>
     <message id="confirmSendSave"><translation>La fiche a été modifiée (%1). Enregistrer les modifications ?</translation></message>
     <message id="copyRows"><translation>Copier</translation></message>
     <message id="correlationView"><translation>Pression systolique en fonction de la diastolique</translation></message>
@@ -338,7 +338,7 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="deleteReadingsTitle"><translation>Supprimer la mesure</translation></message>
     <message id="DeleteTheComment"><translation>Supprimer ce commentaire ? Édition &gt; Annuler le rétablit tant que ZEL n’est pas fermé.</translation></message>
     <message id="download"><translation>Transfert des mesures</translation></message>
-    <message id="downloadAdvice"><translation>Veuillez laisser le tensiomètre branché. Ses mesures sont enregistrées une fois toutes reçues.</translation></message>
+    <message id="downloadAdvice"><translation>Veuillez laisser le tensiomètre branché. Ses mesures seront enregistrées quand toutes seront arrivées.</translation></message>
     <message id="downloadButton"><translation>&amp;Transférer</translation></message>
     <message id="downloadCancel"><translation>Annuler le transfert</translation></message>
     <message id="downloadCancelled"><translation>Transfert annulé. Rien n’a été enregistré ; les mesures sont toujours dans le tensiomètre.</translation></message>
@@ -401,7 +401,7 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="fileBeingRead"><translation>lecture…</translation></message>
     <message id="fileNotReadable"><translation>illisible</translation></message>
     <message id="fileTooLargeToCount"><translation>plus de 64 Mio : non compté</translation></message>
-    <message id="heightRefusedCm"><translation>Veuillez indiquer un nombre de 20 à 300 cm, par exemple 175.</translation></message>
+    <message id="heightRefusedCm"><translation>Veuillez indiquer un nombre compris entre 20 et 300 cm, par exemple 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Veuillez indiquer les pieds et les pouces séparés par une barre oblique, par exemple 5/9. Les pouces vont jusqu’à 11.</translation></message>
     <message id="highFrom"><translation>Limites à partir desquelles les valeurs sont marquées</translation></message>
     <message id="highFromHint"><translation>Les valeurs égales ou supérieures à ces limites apparaissent en gras avec une marque, ici et sur papier. Le graphique, les statistiques, l’histogramme et la corrélation gardent les limites des réglages.</translation></message>
@@ -436,7 +436,7 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="infoRemark"><translation>Remarque</translation></message>
     <message id="infoSys"><translation>Systolique</translation></message>
     <message id="keep"><translation>&amp;Conserver</translation></message>
-    <message id="languageNotSaved"><translation>La langue n’a pas été changée ; les autres réglages sont enregistrés. %1</translation></message>
+    <message id="languageNotSaved"><translation>La langue n’a pas été changée ; les autres réglages sont enregistrés. %1</translation></message>
     <message id="lastDownload"><translation>Dernier transfert</translation></message>
     <message id="lastDownloadNone"><translation>aucun</translation></message>
     <message id="leaveOutAction"><translation>Exclure…</translation></message>
@@ -447,7 +447,7 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="leaveOutReason"><translation>&amp;Motif :</translation></message>
     <message id="leaveOutTitle"><translation>Exclure</translation></message>
     <message id="limitsHome"><translation>%1/%2 (à domicile)</translation></message>
-    <message id="limitsLow"><translation>%1/%2 (plus strict)</translation></message>
+    <message id="limitsLow"><translation>%1/%2 (plus strictes)</translation></message>
     <message id="limitsNotKept"><translation>Les limites sont valables jusqu’à la fermeture du programme. Elles n’ont pas pu être conservées pour le prochain démarrage : %1</translation></message>
     <message id="limitsOffice"><translation>%1/%2 (au cabinet)</translation></message>
     <message id="limitsOwn"><translation>limites au choix</translation></message>
@@ -464,20 +464,20 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="menuPrint"><translation>&amp;Imprimer…</translation></message>
     <message id="menuQuit"><translation>&amp;Quitter</translation></message>
     <message id="menuRedo"><translation>&amp;Rétablir</translation></message>
-    <message id="menuRedoStep"><translation>&amp;Rétablir : %1</translation></message>
+    <message id="menuRedoStep"><translation>&amp;Rétablir : %1</translation></message>
     <message id="menuSavePdf"><translation>Enregistrer en P&amp;DF…</translation></message>
     <message id="menuSettings"><translation>&amp;Réglages…</translation></message>
     <message id="menuUndo"><translation>&amp;Annuler</translation></message>
-    <message id="menuUndoStep"><translation>&amp;Annuler : %1</translation></message>
-    <message id="minusDay"><translation>Moins de jours : un de moins à chaque bout de la période</translation></message>
-    <message id="minusDayHint"><translation>Moins de jours : un de moins à chaque bout de la période (−)</translation></message>
+    <message id="menuUndoStep"><translation>&amp;Annuler : %1</translation></message>
+    <message id="minusDay"><translation>Moins de jours : un de moins au début et à la fin de la période</translation></message>
+    <message id="minusDayHint"><translation>Moins de jours : un de moins au début et à la fin de la période (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm jj aaaa</translation></message>
     <message id="monitorClock"><translation>Horloge</translation></message>
     <message id="monitorConnected"><translation>Tensiomètre branché</translation></message>
     <message id="monitorConnectedID"><translation>Le tensiomètre contient l’ID %1. Choisissez ce patient et cliquez sur « Transférer » pour récupérer les mesures.</translation></message>
-    <message id="monitorCounting"><translation>Comptage des mesures du tensiomètre, jusqu’à 20 secondes…</translation></message>
+    <message id="monitorCounting"><translation>Comptage des mesures du tensiomètre (jusqu’à 20 secondes)…</translation></message>
     <message id="monitorDownloading"><translation>Transfert des mesures…</translation></message>
-    <message id="monitorErasing"><translation>Effacement du tensiomètre…</translation></message>
+    <message id="monitorErasing"><translation>Effacement des mesures du tensiomètre…</translation></message>
     <message id="monitorGreeting"><translation>Lecture de l’horloge et de l’ID du tensiomètre…</translation></message>
     <message id="monitorHoldsNone"><translation>Le tensiomètre ne contient aucun ID.</translation></message>
     <message id="monitorHoldsOther"><translation>Le tensiomètre contient l’ID %1, qui n’appartient à aucun patient ici.</translation></message>
@@ -499,7 +499,7 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="newIDFromDevice"><translation>Le tensiomètre contient l’ID %1, qui n’appartient à aucun patient ici. Ajoutez un patient avec cet ID, ou choisissez un patient et cliquez sur « Envoyer l’ID ».</translation></message>
     <message id="NewPatient"><translation>Nouveau patient</translation></message>
     <message id="newPatientButton"><translation>&amp;Nouveau</translation></message>
-    <message id="newPatientHint"><translation>Saisir un nouveau patient (Ctrl+N).</translation></message>
+    <message id="newPatientHint"><translation>Ajouter un nouveau patient (Ctrl+N).</translation></message>
     <message id="newReadingAction"><translation>Nouvelle mesure…</translation></message>
     <message id="newReadingHint"><translation>Saisir une mesure qu’aucun de vos tensiomètres n’a enregistrée (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nouvelle mesure</translation></message>
@@ -509,27 +509,27 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="no"><translation>&amp;Non</translation></message>
     <message id="noCommentPage"><translation>Aucun commentaire</translation></message>
     <message id="noCommentPageAdvice"><translation>Ce patient n’a pas encore de commentaires. Ils se placent sur le graphique.</translation></message>
-    <message id="noComments"><translation>Pas encore de commentaire. Les commentaires se placent sur le graphique.</translation></message>
+    <message id="noComments"><translation>Pas encore de commentaires. Les commentaires se placent sur le graphique.</translation></message>
     <message id="NoData"><translation>Pas encore de mesures</translation></message>
     <message id="NoDataAdvice"><translation>Branchez le tensiomètre, choisissez le patient sur la page Patients et cliquez sur « Transférer », ou saisissez une mesure avec Ctrl+N.</translation></message>
     <message id="noDisplay"><translation>il n’y a pas d’écran sur lequel ouvrir une fenêtre. Lancez zel dans une session graphique, ou utilisez ses commandes qui n’ont pas besoin de fenêtre : voir zel --help</translation></message>
     <message id="noFiles"><translation>Aucun fichier XML dans ce dossier</translation></message>
     <message id="noFilesAdvice"><translation>Choisissez le dossier dans lequel les patients ont été exportés.</translation></message>
-    <message id="noHome"><translation>la variable d’environnement HOME ne désigne pas un dossier (chemin absolu) ; il n’y a donc pas d’emplacement pour les données.</translation></message>
+    <message id="noHome"><translation>la variable d’environnement HOME n’indique aucun dossier (chemin absolu) ; il n’y a donc pas d’emplacement pour les données.</translation></message>
     <message id="noID"><translation>aucun</translation></message>
     <message id="none"><translation>aucun</translation></message>
-    <message id="noneInPeriod"><translation>Aucune mesure dans cette période</translation></message>
+    <message id="noneInPeriod"><translation>Aucune mesure sur cette période</translation></message>
     <message id="noneInPeriodAdvice"><translation>Choisissez d’autres dates ci-dessus, ou « Tout » et « Journée entière ». Les mesures sans date s’affichent si « Mesures sans date » est également coché.</translation></message>
     <message id="nonePrintedAdvice"><translation>Fermez cette fenêtre et choisissez d’autres dates sur la page Mesures ou Graphique, ou choisissez-y « Tout » et « Journée entière ». Les mesures sans date sont imprimées si « Mesures sans date » est coché.</translation></message>
     <message id="noPage"><translation>Aucune page</translation></message>
     <message id="noPatientFound"><translation>Aucun patient trouvé</translation></message>
     <message id="noPatientFoundAdvice"><translation>Aucun nom ni aucun ID ne contient le texte recherché.</translation></message>
     <message id="noPatients"><translation>Pas encore de patients</translation></message>
-    <message id="noPatientsAdvice"><translation>Cliquez sur « Nouveau » pour saisir le premier.</translation></message>
+    <message id="noPatientsAdvice"><translation>Cliquez sur « Nouveau » pour ajouter le premier.</translation></message>
     <message id="noPatientSelected"><translation>Aucun patient choisi</translation></message>
-    <message id="noPrinterNote"><translation>Cet ordinateur ne connaît aucune imprimante. Vous pouvez enregistrer les pages en PDF, ou installer une imprimante dans les réglages du système.</translation></message>
+    <message id="noPrinterNote"><translation>Aucune imprimante n’est installée sur cet ordinateur. Vous pouvez enregistrer les pages en PDF, ou installer une imprimante dans les réglages du système.</translation></message>
     <message id="NoPrnter"><translation>Aucune imprimante</translation></message>
-    <message id="NoPrnterMsg"><translation>Cet ordinateur ne connaît aucune imprimante ; rien ne peut donc être imprimé. Veuillez en installer une dans les réglages du système et réessayer, ou enregistrer les pages en PDF.</translation></message>
+    <message id="NoPrnterMsg"><translation>Aucune imprimante n’est installée sur cet ordinateur ; rien ne peut donc être imprimé. Veuillez en installer une dans les réglages du système et réessayer, ou enregistrer les pages en PDF.</translation></message>
     <message id="notes"><translation>Notes</translation></message>
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
@@ -550,12 +550,12 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="patientIDTwice"><translation>Le fichier de données contient plusieurs patients ayant l’ID %1. Il est impossible de les distinguer ; aucun d’eux n’est donc modifié ni supprimé.</translation></message>
     <message id="patientList"><translation>Liste des patients</translation></message>
     <message id="patientName"><translation>Nom</translation></message>
-    <message id="patientPartlySaved"><translation>Toutes les données de la fiche n’ont pas pu être enregistrées (%1) : le fichier de données n’a pas de place pour certaines d’entre elles. Ce qui n’a pas pu être enregistré figure toujours dans les champs.</translation></message>
+    <message id="patientPartlySaved"><translation>Certaines données de la fiche n’ont pas pu être enregistrées (%1) : le fichier de données ne prévoit pas d’emplacement pour elles. Elles figurent toujours dans les champs.</translation></message>
     <message id="patientRefused"><translation>Rien n’a encore été enregistré. Veuillez corriger ce qui est marqué :
 %1</translation></message>
     <message id="patientReplaced"><translation>%1 n’est plus dans le fichier de données : un autre programme a supprimé ce patient. Un autre patient est maintenant affiché.</translation></message>
     <message id="patientSaved"><translation>%1 : fiche enregistrée.</translation></message>
-    <message id="patientsDetail"><translation>Choisissez un patient, ou saisissez-en un nouveau.</translation></message>
+    <message id="patientsDetail"><translation>Choisissez un patient, ou ajoutez-en un nouveau.</translation></message>
     <message id="patientsInputFields"><translation>Le nom, le prénom et l’ID sont nécessaires. Rien n’a encore été enregistré ; veuillez remplir ce qui est marqué.</translation></message>
     <message id="patientTotal"><translation>Patients</translation></message>
     <message id="pdfFiles"><translation>Fichiers PDF (*.pdf)</translation></message>
@@ -583,20 +583,20 @@ Rester ici et garder votre texte pour réessayer ? Avec « Non », le text
     <message id="printerShown"><translation>Imprimante : %1</translation></message>
     <message id="printFailed"><translation>Les pages n’ont pas pu être transmises en entier à l’imprimante « %1 ». L’impression a été annulée, et rien n’est imprimé. Veuillez vérifier la file d’attente et que le disque n’est pas plein, puis réessayer.</translation></message>
     <message id="printNoData"><translation>Il n’y a rien à imprimer : cette section ne contient aucune donnée pour ce patient et cette période.</translation></message>
-    <message id="printNoPatient"><translation>Il n’y a pas de patient dont le rapport puisse être imprimé. Veuillez en choisir un, ou d’abord en saisir et en enregistrer un nouveau.</translation></message>
+    <message id="printNoPatient"><translation>Il n’y a pas de patient dont le rapport puisse être imprimé. Veuillez en choisir un, ou d’abord en ajouter un nouveau et l’enregistrer.</translation></message>
     <message id="printOption"><translation>Section à imprimer</translation></message>
     <message id="printOptionLabel"><translation>&amp;Section</translation></message>
     <message id="privacyAsked"><translation>D’autres utilisateurs de cet ordinateur peuvent lire %1.
 
 Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de données, de son dossier et de ses copies sont modifiés.</translation></message>
     <message id="privacyAskedMore"><translation>%1 et %2 de plus</translation></message>
-    <message id="privacyMended"><translation>Personne d’autre que vous ne peut maintenant lire le fichier de données et ses copies.</translation></message>
+    <message id="privacyMended"><translation>Désormais, personne d’autre que vous ne peut lire le fichier de données ni ses copies.</translation></message>
     <message id="privacyTitle"><translation>D’autres peuvent lire les données des patients</translation></message>
     <message id="programName"><translation>ZEL</translation></message>
     <message id="programPurpose"><translation>Les mesures de pression artérielle, du tensiomètre au dossier</translation></message>
     <message id="programVersion"><translation>Version %1</translation></message>
     <message id="ProgressPatientInfo"><translation>%1 %2 (ID %3)</translation></message>
-    <message id="ProgressProcessInfo"><translation>%1 sur %2 mesures</translation></message>
+    <message id="ProgressProcessInfo"><translation>Mesures : %1 sur %2</translation></message>
     <message id="pulseChart"><translation>Pouls au cours du temps, avec les commentaires</translation></message>
     <message id="pulseScroller"><translation>Déplacer l’échelle du pouls</translation></message>
     <message id="readingDay"><translation>Date</translation></message>
@@ -623,7 +623,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="savePdf"><translation>Enregistrer en PDF</translation></message>
     <message id="savePdfButton"><translation>Enregistrer en PD&amp;F…</translation></message>
     <message id="saveReading"><translation>&amp;Enregistrer</translation></message>
-    <message id="searchPatients"><translation>Rechercher nom ou ID</translation></message>
+    <message id="searchPatients"><translation>Rechercher (nom ou ID)</translation></message>
     <message id="searchPatientsHint"><translation>N’afficher que les patients dont le nom ou l’ID contient ce texte (Ctrl+F).</translation></message>
     <message id="selectAllRows"><translation>Tout sélectionner</translation></message>
     <message id="sendClock"><translation>Mettre l’horloge du tensiomètre à l’heure de cet ordinateur</translation></message>
@@ -645,11 +645,11 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="settingDisplay"><translation>Affichage</translation></message>
     <message id="settingErase"><translation>Vider le tensiomètre après chaque transfert</translation></message>
     <message id="settingEraseButton"><translation>&amp;Vider le tensiomètre après transfert</translation></message>
-    <message id="settingEraseHint"><translation>Les mesures sont supprimées du tensiomètre une fois toutes bien enregistrées ici.</translation></message>
+    <message id="settingEraseHint"><translation>Les mesures sont supprimées du tensiomètre une fois qu’elles sont toutes bien enregistrées ici.</translation></message>
     <message id="settingLanguage"><translation>Langue</translation></message>
     <message id="settingLanguageLabel"><translation>L&amp;angue</translation></message>
     <message id="settingLanguageSystem"><translation>Comme le système</translation></message>
-    <message id="settingLanguageWhen"><translation>Une autre langue s’applique au prochain démarrage.</translation></message>
+    <message id="settingLanguageWhen"><translation>La langue choisie s’applique au prochain démarrage.</translation></message>
     <message id="settingLimits"><translation>Limites de pression artérielle</translation></message>
     <message id="settingMAP"><translation>Afficher la pression artérielle moyenne</translation></message>
     <message id="settingMAPButton"><translation>Pression artérielle &amp;moyenne (PAM)</translation></message>
@@ -664,7 +664,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="settingsButton"><translation>Réglages</translation></message>
     <message id="settingsHint"><translation>Réglages, exportation et importation (Ctrl+,)</translation></message>
     <message id="settingsNotSaved"><translation>Les réglages n’ont pas été enregistrés. %1</translation></message>
-    <message id="settingsPartlySaved"><translation>Tous les réglages n’ont pas pu être enregistrés : le fichier de données n’a pas de place pour certains d’entre eux.</translation></message>
+    <message id="settingsPartlySaved"><translation>Certains réglages n’ont pas pu être enregistrés : le fichier de données ne prévoit pas d’emplacement pour eux.</translation></message>
     <message id="settingSys"><translation>Limite systolique en mmHg</translation></message>
     <message id="settingSysLabel"><translation>&amp;Systolique</translation></message>
     <message id="settingTime"><translation>Format d’heure</translation></message>
@@ -690,12 +690,12 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="spokenMap"><translation>Pression artérielle moyenne, mmHg</translation></message>
     <message id="spokenMeasure"><translation>%1 : moyenne %2, minimum %3, maximum %4.</translation></message>
     <message id="spokenPP"><translation>Pression pulsée, mmHg</translation></message>
-    <message id="spokenPulse"><translation>Pouls par minute</translation></message>
+    <message id="spokenPulse"><translation>Pouls, battements par minute</translation></message>
     <message id="spokenSys"><translation>Pression systolique, mmHg</translation></message>
     <message id="statisticAll"><translation>Tous les jours avec mesures</translation></message>
     <message id="statisticAllHint"><translation>Prendre toute la durée, de la première à la dernière mesure. Pour n’en prendre qu’une partie, choisissez d’autres dates ci-dessus.</translation></message>
     <message id="statisticPanel"><translation>Statistiques</translation></message>
-    <message id="statisticWholeDay"><translation>Toutes heures du jour : %1</translation></message>
+    <message id="statisticWholeDay"><translation>Toutes heures confondues : %1</translation></message>
     <message id="statusBroken"><translation>Tensiomètre branché, liaison défaillante</translation></message>
     <message id="statusConnected"><translation>Tensiomètre branché</translation></message>
     <message id="statusDamaged"><translation>Tensiomètre branché, réponses endommagées</translation></message>
@@ -703,7 +703,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="statusNotConnected"><translation>Aucun tensiomètre</translation></message>
     <message id="statusRefusing"><translation>Tensiomètre branché, commandes refusées</translation></message>
     <message id="statusSilent"><translation>Tensiomètre branché, sans réponse</translation></message>
-    <message id="stepProgress"><translation>%1 sur %2 fichiers</translation></message>
+    <message id="stepProgress"><translation>Fichiers : %1 sur %2</translation></message>
     <message id="storedNotReadBack"><translation>La modification est enregistrée, mais le fichier de données n’a pas pu être relu ensuite. %1</translation></message>
     <message id="Synchronization"><translation>Régler l’horloge du tensiomètre ?</translation></message>
     <message id="synctimeAsk"><translation>L’horloge du tensiomètre a %1. La mettre à l’heure de cet ordinateur, pour que les nouvelles mesures reçoivent la bonne date et la bonne heure ?</translation></message>
@@ -711,7 +711,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>&amp;Patients</translation></message>
     <message id="tabReadings"><translation>&amp;Mesures</translation></message>
-    <message id="tabShown"><translation>affiché</translation></message>
+    <message id="tabShown"><translation>page affichée</translation></message>
     <message id="takeInAction"><translation>Réintégrer</translation></message>
     <message id="timeScroller"><translation>Déplacer la période parmi les mesures</translation></message>
     <message id="timeScrollerHint"><translation>Déplacer la période parmi les mesures. La molette de la souris au-dessus du graphique fait de même ; avec Ctrl, tournée vers l’avant, elle montre moins de jours, de plus près ; tournée vers vous, davantage de jours.</translation></message>
@@ -723,7 +723,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="trendFigures"><translation>%1 (de %2 à %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, à partir de midi</translation></message>
     <message id="trendInfoMorning"><translation>%1, avant midi</translation></message>
-    <message id="trendKeys"><translation>%1, %2. Les flèches gauche et droite montrent les chiffres d’un point après l’autre, Origine et Fin ceux du premier et du dernier.</translation></message>
+    <message id="trendKeys"><translation>%1, %2. Les flèches gauche et droite montrent les valeurs point par point, Origine et Fin celles du premier et du dernier.</translation></message>
     <message id="trendPeriod"><translation>Jours</translation></message>
     <message id="trendReadings"><translation>Mesures</translation></message>
     <message id="trendView"><translation>Tendance des pressions systolique et diastolique et du pouls</translation></message>
@@ -739,14 +739,14 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="unsavedTitle"><translation>Pas encore enregistré</translation></message>
     <message id="valueHigh"><translation>%1, atteint ou dépasse la limite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
-    <message id="valuePulse"><translation>%1 par minute</translation></message>
+    <message id="valuePulse"><translation>%1 bpm</translation></message>
     <message id="valueWithUnit"><translation>%1, %2</translation></message>
     <message id="viewAll"><translation>&amp;Tout</translation></message>
     <message id="viewAllHint"><translation>Toutes les mesures, du premier au dernier jour.</translation></message>
     <message id="viewAM"><translation>Mati&amp;n</translation></message>
     <message id="viewAMHint"><translation>Les mesures avant midi, pour les jours affichés.</translation></message>
     <message id="viewBoth"><translation>&amp;Journée entière</translation></message>
-    <message id="viewBothHint"><translation>Les mesures de toutes les heures, pour les jours affichés.</translation></message>
+    <message id="viewBothHint"><translation>Les mesures de la journée entière, pour les jours affichés.</translation></message>
     <message id="viewChoiceNeeded"><translation>Les mesures sans date n’appartiennent à aucun jour et ne s’affichent qu’avec « Tout ». Choisissez d’abord « Tout » ; cette case pourra alors être cochée.</translation></message>
     <message id="viewDays"><translation>Jours affichés</translation></message>
     <message id="viewHalf"><translation>Heures affichées</translation></message>
@@ -770,7 +770,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="weekNoMean"><translation>Aucune moyenne</translation></message>
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n mesure a été enregistrée dans un autre fuseau horaire ; son heure est celle de cet ordinateur</numerusform><numerusform>%n mesures ont été enregistrées dans un autre fuseau horaire ; les heures sont celles de cet ordinateur</numerusform></translation></message>
     <message id="weekPanel"><translation>Semaine de mesure</translation></message>
-    <message id="weekPulse"><translation>pouls %1</translation></message>
+    <message id="weekPulse"><translation>pouls %1</translation></message>
     <message id="weekReached"><translation>Seuil de %1 atteint</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n mesure</numerusform><numerusform>%n mesures</numerusform></translation></message>
     <message id="weekRule"><translation>Règle de la moyenne</translation></message>
@@ -781,10 +781,10 @@ NICE : premier jour non compté, 2 mesures chaque matin et chaque soir d’au 
 AHA : 12 mesures sur au moins 3 jours</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>au</translation></message>
-    <message id="weightRefusedKg"><translation>Veuillez indiquer un nombre de 0,2 à 1000 kg, par exemple 72,5.</translation></message>
-    <message id="weightRefusedLb"><translation>Veuillez indiquer un nombre de 0,5 à 2200 lb, par exemple 160,5.</translation></message>
+    <message id="weightRefusedKg"><translation>Veuillez indiquer un nombre compris entre 0,2 et 1000 kg, par exemple 72,5.</translation></message>
+    <message id="weightRefusedLb"><translation>Veuillez indiquer un nombre compris entre 0,5 et 2200 lb, par exemple 160,5.</translation></message>
     <message id="windowShown"><translation>ZEL est déjà ouvert pour ce fichier de données ; sa fenêtre a été mise au premier plan.</translation></message>
-    <message id="windowSilent"><translation>ZEL est déjà ouvert pour ce fichier de données, mais sa fenêtre ne répond pas. Elle attend peut-être un disque lent ou une imprimante lente, ou elle est bloquée : si rien ne se passe d’ici une minute, mettez-y fin dans le moniteur système de votre ordinateur.
+    <message id="windowSilent"><translation>ZEL est déjà ouvert pour ce fichier de données, mais sa fenêtre ne répond pas. Elle attend peut-être un disque lent ou une imprimante lente, ou elle est bloquée : si rien ne se passe d’ici une minute, forcez l’arrêt de ZEL dans le moniteur système de votre ordinateur.
 
 Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux enregistrent est conservé.</translation></message>
     <message id="yes"><translation>&amp;Oui</translation></message>
@@ -808,9 +808,9 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="mmHg"><translation>mmHg</translation></message>
     <message id="monthOfYear"><translation>%1 %2</translation></message>
     <message id="morning"><translation>Matin</translation></message>
-    <message id="noEveningReadings"><translation>Aucune mesure à partir de midi dans cette période</translation></message>
-    <message id="noMorningReadings"><translation>Aucune mesure avant midi dans cette période</translation></message>
-    <message id="noReadingsInPeriod"><translation>Aucune mesure dans cette période</translation></message>
+    <message id="noEveningReadings"><translation>Aucune mesure à partir de midi sur cette période</translation></message>
+    <message id="noMorningReadings"><translation>Aucune mesure avant midi sur cette période</translation></message>
+    <message id="noReadingsInPeriod"><translation>Aucune mesure sur cette période</translation></message>
     <message id="normal"><translation>Normale</translation></message>
     <message id="P/min"><translation>bpm</translation></message>
     <message id="pulse"><translation>Pouls</translation></message>
@@ -823,7 +823,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="trendEvening"><translation>%1 soir</translation></message>
     <message id="trendLinked"><translation>%1 ; pointillés : aucune mesure entre les deux</translation></message>
     <message id="trendMonth"><translation>Médiane de chaque mois</translation></message>
-    <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n autre commentaire n’a pas de place ici</numerusform><numerusform>%n autres commentaires n’ont pas de place ici</numerusform></translation></message>
+    <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n autre commentaire ne tient pas ici</numerusform><numerusform>%n autres commentaires ne tiennent pas ici</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 matin</translation></message>
     <message id="trendWeek"><translation>Médiane de chaque semaine</translation></message>
 </context>
@@ -864,13 +864,13 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="n.a."><translation>n.a.</translation></message>
     <message id="N.A."><translation>N.A.</translation></message>
     <message id="No"><translation>Non</translation></message>
-    <message id="PatientProfile"><translation>Profil du patient</translation></message>
-    <message id="reportAllComments"><translation>Commentaires de toutes dates, hors période aussi</translation></message>
-    <message id="reportAllTimesOfDay"><translation>%1, toutes heures du jour</translation></message>
+    <message id="PatientProfile"><translation>Fiche du patient</translation></message>
+    <message id="reportAllComments"><translation>Tous les commentaires, même hors période</translation></message>
+    <message id="reportAllTimesOfDay"><translation>%1, toutes heures confondues</translation></message>
     <message id="reportAverage"><translation>moyenne de plusieurs mesures</translation></message>
     <message id="reportBothAbove"><translation>Les deux au-dessus : %1</translation></message>
     <message id="reportCommentBars"><translation>Barres : commentaires, par numéro</translation></message>
-    <message id="reportCommentsLeftOut"><translation>Un rapport peut contenir %1 commentaires et %2 caractères. Les plus récents suivent ; une exportation les contient tous.</translation></message>
+    <message id="reportCommentsLeftOut"><translation>Un rapport contient au plus %1 commentaires et %2 caractères. Les plus récents suivent ; une exportation les contient tous.</translation></message>
     <message id="reportContinued"><translation>%1, suite</translation></message>
     <message id="reportCorrelationLimits" numerus="yes"><translation><numerusform>La ligne est la limite.</numerusform><numerusform>Les lignes sont les limites.</numerusform></translation></message>
     <message id="reportCorrelationNote"><translation>Chaque carré est une mesure, ou plusieurs de mêmes valeurs, en mmHg.</translation></message>
@@ -882,21 +882,21 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="reportDocument"><translation>Rapport de pression artérielle : %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ jaune : transfert</translation></message>
     <message id="reportEarlierComments" numerus="yes"><translation><numerusform>%n commentaire antérieur n’est pas imprimé</numerusform><numerusform>%n commentaires antérieurs ne sont pas imprimés</numerusform></translation></message>
-    <message id="reportEmptySections"><translation>Sans contenu, donc absent de ce rapport : %1</translation></message>
+    <message id="reportEmptySections"><translation>Non imprimé, faute de contenu : %1</translation></message>
     <message id="reportEveningOnly"><translation>Seules les mesures à partir de midi sont affichées</translation></message>
-    <message id="reportFindingUnknown"><translation>N.A. : inconnu</translation></message>
+    <message id="reportFindingUnknown"><translation>N.A. : inconnue</translation></message>
     <message id="reportFound"><translation>détectée</translation></message>
     <message id="reportGoesOn"><translation>suite à la page suivante</translation></message>
     <message id="reportGraphComments"><translation>Cases numérotées : commentaires.</translation></message>
     <message id="reportGraphDownloads"><translation>↓ : jour d’un transfert.</translation></message>
     <message id="reportGraphExcluded"><translation>○ : mesure exclue.</translation></message>
     <message id="reportGraphHiddenLimits" numerus="yes"><translation><numerusform>La limite de %1 est hors de l’échelle.</numerusform><numerusform>Les limites de %1 sont hors de l’échelle.</numerusform></translation></message>
-    <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Ligne tiretée : limite de %1.</numerusform><numerusform>Lignes tiretées : limites de %1.</numerusform></translation></message>
+    <message id="reportGraphLimits" numerus="yes"><translation><numerusform>Ligne en tirets : limite de %1.</numerusform><numerusform>Lignes en tirets : limites de %1.</numerusform></translation></message>
     <message id="reportGraphNote"><translation>Ligne du haut : pression systolique ; ligne du bas : pression diastolique.</translation></message>
-    <message id="reportHistogramNote"><translation>La longueur d’une barre est la part, en pour cent, des mesures comprises dans sa tranche de 10 mmHg ou de 10 battements par minute.</translation></message>
+    <message id="reportHistogramNote"><translation>La longueur d’une barre est la part, en pourcentage, des mesures comprises dans sa tranche de 10 mmHg ou de 10 battements par minute.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Ne dépassant pas %1 : %2</numerusform><numerusform>Ne dépassant pas les limites de %1 : %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pouls %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n mesure exclue par l’utilisateur, et pourquoi</numerusform><numerusform>%n mesures exclues par l’utilisateur, et pourquoi</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n mesure exclue par l’utilisateur, avec motif</numerusform><numerusform>%n mesures exclues par l’utilisateur, avec motif</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg (diastolique)</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg (systolique)</translation></message>
@@ -917,9 +917,9 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="reportReadings" numerus="yes"><translation><numerusform>%n mesure</numerusform><numerusform>%n mesures</numerusform></translation></message>
     <message id="reportStruckThrough"><translation>barrée : exclue, ne compte nulle part ; les motifs figurent après le tableau</translation></message>
     <message id="reportSysAbove"><translation>Systolique seule au-dessus : %1</translation></message>
-    <message id="reportTextTooLong"><translation>… La suite de ce texte n’est pas imprimée : encore %1 caractères.</translation></message>
+    <message id="reportTextTooLong"><translation>… La suite de ce texte n’est pas imprimée (caractères restants : %1).</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Ligne droite fine : limite de %1.</numerusform><numerusform>Lignes droites fines : limites de %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Lignes épaisses : médianes. Bandes : du 10e au 90e percentile, ou de la plus basse à la plus haute s’il y a moins de 5 mesures. Une ligne s’interrompt là où il n’y a pas de mesure ; des points en relient les bouts sur 30 jours au plus.</translation></message>
+    <message id="reportTrendNote"><translation>Lignes épaisses : médianes. Bandes : du 10e au 90e percentile, ou de la plus basse à la plus haute s’il y a moins de 5 mesures. Une ligne s’interrompt là où il n’y a pas de mesure ; des points en relient les extrémités sur 30 jours au plus.</translation></message>
     <message id="reportWriteFailed"><translation>L’écriture du fichier %1 a échoué ; il n’y a donc pas de nouveau fichier. Veuillez vérifier que le disque n’est pas plein, puis réessayer.</translation></message>
     <message id="summary"><translation>Synthèse</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -927,7 +927,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryBelow"><translation>Sous le seuil de %1 (au dixième : %2/%3)</translation></message>
     <message id="summaryBorn" numerus="yes"><translation><numerusform>Né(e) le %1, %n an</numerusform><numerusform>Né(e) le %1, %n ans</numerusform></translation></message>
     <message id="summaryBornOn"><translation>Né(e) le %1</translation></message>
-    <message id="summaryComments"><translation>Ce qui a changé : commentaires, récents d’abord</translation></message>
+    <message id="summaryComments"><translation>Changements : commentaires, les plus récents d’abord</translation></message>
     <message id="summaryComplete"><translation>Complète</translation></message>
     <message id="summaryCut"><translation>… : abrégé.</translation></message>
     <message id="summaryDia"><translation>DIA, mmHg</translation></message>
@@ -954,17 +954,17 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryMornings"><translation>Matin %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Date de naissance non indiquée</translation></message>
-    <message id="summaryNoComments"><translation>Aucun commentaire dans cette période</translation></message>
-    <message id="summaryNone"><translation>Aucune mesure dans cette période</translation></message>
-    <message id="summaryNoneCountsYet"><translation>Aucune mesure ne compte encore</translation></message>
+    <message id="summaryNoComments"><translation>Aucun commentaire sur cette période</translation></message>
+    <message id="summaryNone"><translation>Aucune mesure sur cette période</translation></message>
+    <message id="summaryNoneCountsYet"><translation>Aucune mesure n’est encore comptée</translation></message>
     <message id="summaryNoReason"><translation>sans motif indiqué</translation></message>
     <message id="summaryNote"><translation>Semaine de mesure : %1 à partir de son seuil. %2 Matin : avant midi. %3</translation></message>
-    <message id="summaryNotExamined"><translation>Arythmie : aucune mesure n’a été examinée</translation></message>
+    <message id="summaryNotExamined"><translation>Arythmie : non recherchée</translation></message>
     <message id="summaryNothingLeftOut"><translation>Toutes les mesures sont comptées</translation></message>
-    <message id="summaryNoWeek"><translation>Aucune mesure dans cette semaine</translation></message>
+    <message id="summaryNoWeek"><translation>Aucune mesure pendant cette semaine</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 sur %n jour</numerusform><numerusform>%1 sur %n jours</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n commentaire d’autres jours</numerusform><numerusform>%n commentaires d’autres jours</numerusform></translation></message>
-    <message id="summaryOthers" numerus="yes"><translation><numerusform>%n mesure n’a pas été examinée à ce sujet</numerusform><numerusform>%n mesures n’ont pas été examinées à ce sujet</numerusform></translation></message>
+    <message id="summaryOthers" numerus="yes"><translation><numerusform>%n mesure sans recherche d’arythmie</numerusform><numerusform>%n mesures sans recherche d’arythmie</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Du %1 au %2</translation></message>
     <message id="summaryPulse"><translation>Pouls %1</translation></message>
     <message id="summaryRate"><translation>Pouls, bpm</translation></message>
@@ -978,10 +978,10 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryTrendComments"><translation>Tendance et, dessous, les commentaires par numéro</translation></message>
     <message id="summaryTrendHidden"><translation>Hors de l’échelle de la tendance : %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Lignes droites fines de la tendance : %1.</translation></message>
-    <message id="summaryTyped" numerus="yes"><translation><numerusform>Saisies : %1 mesure sur %n</numerusform><numerusform>Saisies : %1 mesures sur %n</numerusform></translation></message>
+    <message id="summaryTyped" numerus="yes"><translation><numerusform>Saisies à la main : %1 sur %n mesure</numerusform><numerusform>Saisies à la main : %1 sur %n mesures</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semaine de mesure (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semaine exclue par l’utilisateur</numerusform><numerusform>%n de la semaine exclues par l’utilisateur</numerusform></translation></message>
-    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semaine saisie</numerusform><numerusform>%n de la semaine saisies</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n saisie à la main</numerusform><numerusform>%n saisies à la main</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistiques et mesures</translation></message>
     <message id="table"><translation>Mesures</translation></message>
@@ -996,7 +996,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliBackupUsage"><translation>Indiquez list, create, ou restore et le nom d’une copie ; ou folder et, pour le changer, le nom du dossier ou --none.</translation></message>
     <message id="CliBadDate"><translation>--%1 attend un jour du calendrier sous la forme yyyy-MM-dd, et non '%2'.</translation></message>
     <message id="CliBadDays"><translation>--last attend un nombre entier de jours de 1 à %2, et non '%1'.</translation></message>
-    <message id="CliBadField"><translation>La valeur de --%1 ne doit pas être '-', ni commencer ou finir par une espace, ni contenir de caractères de contrôle.</translation></message>
+    <message id="CliBadField"><translation>La valeur de --%1 ne doit pas être '-', ni commencer ou finir par un espace, ni contenir de caractères de contrôle.</translation></message>
     <message id="CliBadID"><translation>La valeur de --id doit comporter de 1 à 11 lettres simples, chiffres ou signes, sans accents : un tensiomètre ne peut pas en mémoriser davantage.</translation></message>
     <message id="CliBadPaper"><translation>--paper attend A4 ou Letter, et non '%1'.</translation></message>
     <message id="CliBadWait"><translation>--wait attend un nombre entier de secondes de 0 à %1.</translation></message>
@@ -1007,7 +1007,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliDownloadFailed"><translation>Les mesures n’ont pas pu être transférées, et rien n’a été enregistré. %1 Elles sont toujours dans le tensiomètre : veuillez réessayer.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Les mesures sont enregistrées, mais le fichier de données n’a pas pu être relu ensuite ; le tensiomètre n’a donc pas été vidé. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Les mesures transférées n’ont pas pu être enregistrées. %1 Elles sont toujours dans le tensiomètre.</translation></message>
-    <message id="CliEmptySections"><translation>Sans contenu, donc absent du rapport : %1</translation></message>
+    <message id="CliEmptySections"><translation>Non imprimé, faute de contenu : %1</translation></message>
     <message id="CliEraseAfterFailed"><translation>Les mesures sont bien enregistrées, mais la mémoire du tensiomètre n’a pas pu être effacée ensuite. %1 Vous pouvez l’effacer avec 'zel monitor --erase --yes'.</translation></message>
     <message id="CliEraseAfterUnseen"><translation>Les mesures sont bien enregistrées, mais il n’a pas été possible de vérifier que le tensiomètre est vide. %1 'zel monitor' montre ce qu’il contient.</translation></message>
     <message id="CliEraseFailed"><translation>La mémoire du tensiomètre n’a pas pu être effacée. %1</translation></message>
@@ -1197,7 +1197,7 @@ Options :
 Affiche les mesures d’un patient au format CSV, de la plus ancienne à la plus récente, avec l’en-tête
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Les pressions sont en mmHg, le pouls en battements par minute.
 Une mesure que le tensiomètre a enregistrée sans date porte n.a et --:-- à la place ; elle est omise si une
-période, --am ou --pm est indiqué, sauf avec --undated. Un jour sans mesure couvert par un commentaire a une
+période, --am ou --pm est indiquée, sauf avec --undated. Un jour sans mesure couvert par un commentaire a une
 ligne avec sa date, et n.a. pour le reste ; s’il y en a trop pour toutes les lister, une phrase sur l’erreur
 standard le signale.
 
@@ -1205,7 +1205,7 @@ Avec --exclude, --include, --add, --change ou --delete, modifie au contraire le 
 exclue reste dans le fichier et dans la liste, avec son motif, et ne compte nulle part ; une phrase sur
 l’erreur standard dit combien des mesures affichées sont exclues. Une mesure saisie à la main est signalée par
 manual ; les pressions et le pouls sont des nombres entiers de 30 à 300, la pression diastolique est
-inférieure à la systolique, et l’heure n’est pas dans le futur. --add affiche 'record: RECORD'. Seules les
+inférieure à la systolique, et l’heure n’est pas à venir. --add affiche 'record: RECORD'. Seules les
 mesures saisies à la main peuvent être modifiées ou supprimées.
 
 Options :
@@ -1277,7 +1277,7 @@ barre oblique inverse.
   DateFormat                   dd mm yyyy, mm dd yyyy ou yyyy mm dd
   TimeFormat                   12-hours ou 24-hours
   MetricFormat                 kg / cm ou lb / in
-  EraseRecAfterReading         1 : effacer le tensiomètre après un transfert bien enregistré ; sinon 0
+  EraseRecAfterReading         1 : vider le tensiomètre après un transfert bien enregistré ; sinon 0
   ShowPPorMap                  0 : afficher la pression pulsée ; 1 : la pression artérielle moyenne
   UserWhoStandard              1 : les réglages présentent les limites comme celles de l’OMS ; sinon 0
   SysStandard                  limite systolique, 0 (aucune) ou de 60 à 260 mmHg
@@ -1328,14 +1328,14 @@ Options :
     <message id="CliOtherZone" numerus="yes"><translation><numerusform>%n mesure de la semaine a été enregistrée dans un autre fuseau horaire ; le jour et l’heure sont ceux de cet ordinateur.</numerusform><numerusform>%n mesures de la semaine ont été enregistrées dans un autre fuseau horaire ; les jours et les heures sont ceux de cet ordinateur.</numerusform></translation></message>
     <message id="CliOutputFailed"><translation>La sortie n’a pas pu être écrite.</translation></message>
     <message id="CliPatientKnown"><translation>Il existe déjà un patient ayant l’ID '%1'.</translation></message>
-    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= doit être suivi du nom d’un fichier ; seul, sans '=', il désigne le tensiomètre simulé intégré.</translation></message>
-    <message id="CliProgress"><translation>%1 mesures sur %2 reçues</translation></message>
+    <message id="CliPlanWithoutFile"><translation>--simulated-monitor= doit être suivie du nom d’un fichier ; seule, sans '=', elle désigne le tensiomètre simulé intégré.</translation></message>
+    <message id="CliProgress"><translation>Mesures reçues : %1 sur %2</translation></message>
     <message id="CliReadableByOthers"><translation>D’autres utilisateurs de cet ordinateur peuvent lire %1. 'zel privacy --mend' leur en retire l’accès.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason s’emploie avec --exclude ; --date, --time, --sys, --dia et --pulse s’emploient avec --add ou --change</translation></message>
     <message id="CliReadingNotUnique"><translation>plusieurs mesures portent le numéro %1 ; impossible de savoir laquelle est visée</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de ces mesures est exclue par l’utilisateur et ne compte nulle part ; --numbers indique laquelle, et pourquoi</numerusform><numerusform>%n de ces mesures sont exclues par l’utilisateur et ne comptent nulle part ; --numbers indique lesquelles, et pourquoi</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set attend KEY=VALUE, et non '%1'.</translation></message>
-    <message id="CliSettingNotKept"><translation>Le fichier de données n’a pas de place pour le réglage %1 ; rien n’a donc été modifié.</translation></message>
+    <message id="CliSettingNotKept"><translation>Le fichier de données ne prévoit pas d’emplacement pour le réglage %1 ; rien n’a donc été modifié.</translation></message>
     <message id="CliSettingTwice"><translation>Le réglage %1 est indiqué plusieurs fois.</translation></message>
     <message id="CliSettingUnknown"><translation>Le réglage '%1' n’existe pas. Les réglages sont : %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accepte %2, et non '%3'.</translation></message>
