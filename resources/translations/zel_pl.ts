@@ -945,7 +945,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryInFull"><translation>…: pełny tekst w sekcji: %1.</translation></message>
     <message id="summaryLastDays" numerus="yes"><translation><numerusform>Ostatni dzień: średnia (pomiary)</numerusform><numerusform>Ostatnie %n dni: średnia (pomiary)</numerusform><numerusform>Ostatnie %n dni: średnia (pomiary)</numerusform></translation></message>
     <message id="summaryLeftOut"><translation>Pominięte</translation></message>
-    <message id="summaryMax"><translation>Maks.</translation></message>
+    <message id="summaryMax"><translation>Maks</translation></message>
     <message id="summaryMean"><translation>Średnia</translation></message>
     <message id="summaryMin"><translation>Min.</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>i jeszcze %n komentarz</numerusform><numerusform>i jeszcze %n komentarze</numerusform><numerusform>i jeszcze %n komentarzy</numerusform></translation></message>
