@@ -32,8 +32,8 @@ void readDate(R& reading, std::string_view text) {
 bool isElsewhere(const R& reading) {
     if (reading.utcOffset == R::noOffset || reading.isUndated()) return false;
     const auto sinceEpoch = std::chrono::floor<std::chrono::minutes>(reading.ReadingDate->time_since_epoch());
-    const std::int64_t here =
-        std::int64_t{reading.day} * std::int64_t{24 * 60} + reading.minuteOfDay - sinceEpoch.count();
+    constexpr std::int64_t minutesADay = 1440;
+    const std::int64_t here = reading.day * minutesADay + reading.minuteOfDay - sinceEpoch.count();
     // Offsets of the times before time zones have seconds.
     return std::abs(here - reading.utcOffset) > 1;
 }

@@ -5,6 +5,7 @@
 #include "store/IcuTime.h"
 #include "store/XmlDate.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace zel;
@@ -29,10 +30,18 @@ Date readSlowly(const QString& text, bool hasMilliseconds) {
     return parseAsUtc(QString{text}.remove(text.lastIndexOf(u':'), 1), pattern);
 }
 
+/// In which d stands for a digit, and + for either sign.
+bool hasForm(std::string_view text, std::string_view form) {
+    return std::ranges::equal(text, form, [](char c, char wanted) {
+        if (wanted == 'd') return c >= '0' && c <= '9';
+        return c == wanted || (wanted == '+' && c == '-');
+    });
+}
+
 void requireFormsAgree(std::string_view text, Instant date) {
     constexpr std::size_t usual = 25;
-    if (text.size() != usual && text.size() != usual + 4) return;
-    if (text[text.size() - 3] != ':') return; // that of the offset is the last one in either form
+    if (!hasForm(text, "dddd-dd-ddTdd:dd:dd+dd:dd") && !hasForm(text, "dddd-dd-ddTdd:dd:dd.ddd+dd:dd"))
+        return;
     const Date slow =
         readSlowly(QString::fromUtf8(text.data(), qsizetype(text.size())), text.size() != usual);
     if (slow) require(*slow == date, "the quick reader takes a date as the slow one does");
