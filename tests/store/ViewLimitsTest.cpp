@@ -68,7 +68,8 @@ TEST_F(ViewLimitsTest, AChoiceThatCannotBeReadLeavesTheUsualLimitsAndIsTold) {
 
 TEST_F(ViewLimitsTest, WhatAnotherProgramChoosesIsShownAndKept) {
     ASSERT_TRUE(writeViewLimits(path, {LimitChoice::office, {150, 95}}));
-    ASSERT_TRUE(store.chooseViewLimits({.choice = LimitChoice::low})) << "the own limits are as they were here";
+    ASSERT_TRUE(store.chooseViewLimits({.choice = LimitChoice::low}))
+        << "the own limits are as they were here";
     EXPECT_EQ(readViewLimits(path), (ViewLimits{LimitChoice::low, {150, 95}}));
     EXPECT_EQ(store.viewLimits(), (ViewLimits{LimitChoice::low, {150, 95}}));
     ASSERT_TRUE(writeViewLimits(path, {LimitChoice::home, {150, 95}}));

@@ -59,7 +59,8 @@ TEST_F(CommentPanelTest, saysWhatWasMeasuredBeforeAndSince) {
     openPanel();
     EXPECT_EQ(text("lblBeforeAndSince"), u"no reading before or since"_s);
     measure("20260309", 142, 5);
-    EXPECT_EQ(text("lblBeforeAndSince"), u"142/80 (5) before, no reading since; fewer than 6 readings before"_s);
+    EXPECT_EQ(text("lblBeforeAndSince"),
+              u"142/80 (5) before, no reading since; fewer than 6 readings before"_s);
     measure("20260310", 133, 2);
     EXPECT_EQ(text("lblBeforeAndSince"),
               u"142/80 (5) before, 133/80 (2) since: -9/0; fewer than 6 readings on both sides"_s);
