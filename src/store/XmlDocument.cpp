@@ -179,8 +179,10 @@ bool isSafeReference(std::string_view text) {
 }
 
 /// Where what begins here and is no markup or text to be read ends: a comment, a CDATA section or a
-/// processing instruction; 0 for anything else.
+/// processing instruction; 0 for anything else, also for a declaration, whose attributes are read.
 std::size_t unreadLength(std::string_view text) {
+    constexpr std::string_view declaration = "<?xml";
+    if (text.starts_with(declaration) && text.find_first_of(" \t\r\n") == declaration.size()) return 0;
     constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kinds{
         {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
     for (const auto& [begin, end] : kinds) {

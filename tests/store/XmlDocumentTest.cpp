@@ -69,6 +69,7 @@ TEST(XmlDocument, RefusesWhatIsNotWellFormed) {
              spoiled("A&amp;B", "A&#xyz;B"),
              spoiled("<!-- first -->", "<?xml version=\"1.0\"?>"),
              spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"no-such\""),
+             spoiled("version=\"1.0\"", "version=\"1.0&#x58daAdaAA;\""),
              "\n" + spoiled("version=\"1.0\"", "version=\"1.0\" encoding=\"ISO-8859-1\""),
          }) {
         const auto result = XmlDocument::parse(QByteArray::fromStdString(bad));
