@@ -38,13 +38,13 @@ _zel_option() { # NAME VALUE CHOICES DESCRIPTION
     local text="[${4//(#m)[][:\\]/\\$MATCH}]" reply several
     [[ $2 == KEY=* ]] && several='*'
     if [[ $2 == - ]]; then
-        specs+="$1$text"
+        offers+="$1$text"
         return
     fi
     _zel_action "$1" "$2" "$3"
     case $2 in
-    \[=*) specs+="$1=-$text::${2//[^A-Za-z]/}:$reply" ;;
-    *) specs+="$several$1$text:${2//:/ }:$reply" ;;
+    \[=*) offers+="$1=-$text::${2//[^A-Za-z]/}:$reply" ;;
+    *) offers+="$several$1$text:${2//:/ }:$reply" ;;
     esac
 }
 
@@ -56,19 +56,19 @@ _zel_word() { # OWNER
         [[ $cells[1] == word && $cells[2] == $1 ]] || continue
         _zel_action "$cells[3]" "$cells[4]" "$cells[5]"
         if [[ $cells[3] == - ]]; then
-            specs+="*:${cells[4]//[^A-Za-z]/}:$reply"
+            offers+="*:${cells[4]//[^A-Za-z]/}:$reply"
         else
             first+=$cells[3]
-            [[ $cells[3] == $words[2] && $cells[4] != - ]] && specs+="2:$cells[4]:$reply"
+            [[ $cells[3] == $words[2] && $cells[4] != - ]] && offers+="2:$cells[4]:$reply"
         fi
     done
-    (( $#first )) && specs+="1:job:($first)"
+    (( $#first )) && offers+="1:job:($first)"
 }
 
 _zel() {
     setopt localoptions extendedglob
     local curcontext=$curcontext state line zel=$words[1] table row
-    local -a specs cells commands
+    local -a offers cells commands
     local -A zel_choices
     table=$(_zel_table)
     for row in ${(f)table}; do
@@ -78,17 +78,17 @@ _zel() {
         command\ *) commands+="$cells[2]:$cells[6]" ;;
         esac
     done
-    _arguments -C $specs '1:command:->command' '*::argument:->argument' && return
+    _arguments -C $offers '1:command:->command' '*::argument:->argument' && return
     case $state in
     command) _describe command commands ;;
     argument)
-        specs=()
+        offers=()
         for row in ${(f)table}; do
             cells=("${(@ps:\t:)row}")
             [[ "$cells[1] $cells[2]" == "option $words[1]" ]] && _zel_option "${(@)cells[3,6]}"
         done
         _zel_word $words[1]
-        _arguments $specs
+        _arguments $offers
         ;;
     esac
 }

@@ -11,7 +11,6 @@
 #include "store/SystemLog.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLoggingCategory>
 
 #include <iostream>
@@ -53,12 +52,6 @@ void quietLog() {
         QLoggingCategory::setFilterRules(u"*.info=false\n*.debug=false"_s);
 }
 
-tl::expected<QString, StoreError> chosenLanguage() {
-    const QString home = qEnvironmentVariable("HOME");
-    if (QDir::isRelativePath(home)) return QString(); // which each command tells
-    return readLanguageChoice(languageFile(home));
-}
-
 } // namespace
 
 bool isCommand(int argc, char** argv) {
@@ -75,7 +68,7 @@ int run(int argc, char** argv) {
     qputenv("LC_ALL", "C.UTF-8");
     const auto application = makeApplication(argc, argv);
     quietLog();
-    const auto chosen = chosenLanguage();
+    const auto chosen = chosenLanguage(qEnvironmentVariable("HOME"));
     const QStringList arguments = argumentsOf(argc, argv);
     const ProgramTexts texts(
         languageOfRun(takeLanguageOption(arguments), chosen.value_or(QString()), environment));

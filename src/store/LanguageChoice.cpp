@@ -1,21 +1,17 @@
 #include "store/LanguageChoice.h"
 
-#include "store/AtomicFile.h"
+#include "store/ChoiceFile.h"
 #include "store/FileMode.h"
 #include "store/Languages.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 largestLanguageFile = qint64{64} * 1024;
 
 bool isChoice(const QJsonValue& tag) {
     return tag.isString() && (tag.toString().isEmpty() || languageFor(tag.toString()));
@@ -30,15 +26,16 @@ QString languageFile(const QString& home) {
 }
 
 tl::expected<QString, StoreError> readLanguageChoice(const QString& file) {
-    const QFileInfo found{file};
-    if (!found.exists() && !found.isSymLink()) return QString{};
-    const StoreError unread{StoreErrorCode::notReadable, file, {}};
-    if (found.size() > largestLanguageFile) return tl::unexpected{unread};
-    const auto text = readFile(file);
-    if (!text) return tl::unexpected{unread};
-    const QJsonValue tag = QJsonDocument::fromJson(*text).object()[u"language"_s];
-    if (!isChoice(tag)) return tl::unexpected{unread};
+    const auto choice = readChoiceFile(file);
+    if (!choice) return tl::unexpected{choice.error()};
+    if (!*choice) return QString{};
+    const QJsonValue tag = (**choice)[u"language"_s];
+    if (!isChoice(tag)) return tl::unexpected{StoreError{StoreErrorCode::notReadable, file, {}}};
     return tag.toString();
+}
+
+tl::expected<QString, StoreError> chosenLanguage(const QString& home) {
+    return QDir::isAbsolutePath(home) ? readLanguageChoice(languageFile(home)) : QString{};
 }
 
 StoreResult writeLanguageChoice(const QString& file, const QString& tag) {
@@ -46,7 +43,7 @@ StoreResult writeLanguageChoice(const QString& file, const QString& tag) {
     if (!isChoice(tag)) return tl::unexpected{StoreError{StoreErrorCode::invalidRecord, file, {}}};
     if (!makePrivateFolder(QFileInfo{file}.path()))
         return tl::unexpected{StoreError{StoreErrorCode::writeFailed, file, {}}};
-    return replaceFile(file, QJsonDocument{choice}.toJson());
+    return writeChoiceFile(file, choice);
 }
 
 QString describeUnreadLanguage(const StoreError& error) { return qtTrId("LanguageUnread").arg(error.path); }

@@ -14,6 +14,8 @@ namespace zel {
 /// The tag of the language chosen; empty: the system's. A file that is there, but cannot be read or names no
 /// language that the program has, is notReadable.
 [[nodiscard]] tl::expected<QString, StoreError> readLanguageChoice(const QString& file);
+/// The same of the user whose home that is; empty, too, where it is no whole path and so nobody's.
+[[nodiscard]] tl::expected<QString, StoreError> chosenLanguage(const QString& home);
 /// Replaces it whole, and makes its folder. A tag that languageFor() does not know is invalidRecord.
 [[nodiscard]] StoreResult writeLanguageChoice(const QString& file, const QString& tag);
 /// That the choice could not be read, and what holds instead.

@@ -1,11 +1,9 @@
 #include "store/ViewLimits.h"
 
-#include "store/AtomicFile.h"
+#include "store/ChoiceFile.h"
 #include "store/PressureLimits.h"
 
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 #include <optional>
@@ -16,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestChoice = qint64{64} * 1024;
 constexpr std::array choiceKeys{"home"_L1, "office"_L1, "low"_L1, "own"_L1};
 
 QString choicePath(const QString& dataFile) { return QFileInfo{dataFile}.path() + u"/View.json"_s; }
@@ -44,14 +41,13 @@ std::optional<ViewLimits> limitsIn(const QJsonObject& choice) {
 } // namespace
 
 tl::expected<ViewLimits, StoreError> readViewLimits(const QString& dataFile) {
-    const QFileInfo file{choicePath(dataFile)};
-    if (!file.exists() && !file.isSymLink()) return ViewLimits{};
-    const StoreError unread{StoreErrorCode::notReadable, file.filePath(), {}};
-    if (file.size() > largestChoice) return tl::unexpected{unread};
-    return readFile(file.filePath()).and_then([&](const QByteArray& text) {
-        const auto read = limitsIn(QJsonDocument::fromJson(text).object());
-        return read ? tl::expected<ViewLimits, StoreError>{*read} : tl::unexpected{unread};
-    });
+    const QString path = choicePath(dataFile);
+    const auto choice = readChoiceFile(path);
+    if (!choice) return tl::unexpected{choice.error()};
+    if (!*choice) return ViewLimits{};
+    const auto read = limitsIn(**choice);
+    if (!read) return tl::unexpected{StoreError{StoreErrorCode::notReadable, path, {}}};
+    return *read;
 }
 
 StoreResult writeViewLimits(const QString& dataFile, const ViewLimits& limits) {
@@ -63,7 +59,7 @@ StoreResult writeViewLimits(const QString& dataFile, const ViewLimits& limits) {
         {u"ownSystolic"_s, static_cast<int>(limits.own.sys)},
         {u"ownDiastolic"_s, static_cast<int>(limits.own.dia)},
     };
-    return replaceFile(path, QJsonDocument{choice}.toJson());
+    return writeChoiceFile(path, choice);
 }
 
 QString describeUnreadLimits(const StoreError& error) {

@@ -62,13 +62,6 @@ bool hasDisplay() {
     return std::ranges::any_of(names, [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
 }
 
-/// One that cannot be read is told once the window is there.
-QString chosenLanguage() {
-    const QString home = qEnvironmentVariable("HOME");
-    return QDir::isRelativePath(home) ? QString()
-                                      : readLanguageChoice(languageFile(home)).value_or(QString());
-}
-
 void name() {
     QCoreApplication::setApplicationName(u"zel"_s);
     QCoreApplication::setApplicationVersion(QLatin1String(ZEL_VERSION));
@@ -79,8 +72,9 @@ void name() {
 tl::expected<Options, int> prepare(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const LanguageOption given = takeLanguageOption(QCoreApplication::arguments());
-    const Language& language =
-        languageOfRun(given, chosenLanguage(), QProcessEnvironment::systemEnvironment());
+    // One that cannot be read is told once the window is there.
+    const QString chosen = chosenLanguage(qEnvironmentVariable("HOME")).value_or(QString());
+    const Language& language = languageOfRun(given, chosen, QProcessEnvironment::systemEnvironment());
     const ProgramTexts texts(language);
     if (const QString problem = languageProblem(given); !problem.isEmpty())
         return tl::unexpected(complain(wrongUsage, problem));

@@ -7,7 +7,9 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+#include <atomic>
 #include <future>
+#include <memory>
 
 namespace zel {
 
@@ -42,6 +44,9 @@ protected:
     }
     [[nodiscard]] QString address() { return find<QPlainTextEdit>("Address").toPlainText(); }
 };
+
+/// The last look may outlive the watch, and the test.
+std::shared_ptr<std::atomic<int>> lookCounter() { return std::make_shared<std::atomic<int>>(0); }
 
 } // namespace
 
@@ -142,18 +147,18 @@ TEST_F(DataWatchTest, WhatCannotBeReadNowIsSaidAndNothingIsTakenAway) {
 
 TEST_F(DataWatchTest, TurningToTheWindowLooksAtOnceButNotUnderADialog) {
     watch(1h);
-    std::atomic<int> looks = 0;
-    const DataWatch watched(store, app->mainWndow(), {.interval = 1h}, [&](const QString& path) {
-        ++looks;
+    const auto looks = lookCounter();
+    const DataWatch watched(store, app->mainWndow(), {.interval = 1h}, [looks](const QString& path) {
+        ++*looks;
         return stampOf(path);
     });
     // None starts before what the one before it saw has been heard of.
     const auto turnTo = [&] {
         for (int times = 0; times < 3; ++times) {
-            waitFor([&, before = looks.load()] {
+            waitFor([&, before = looks->load()] {
                 QEvent activation(QEvent::WindowActivate);
                 QCoreApplication::sendEvent(&app->mainWndow(), &activation);
-                return looks > before;
+                return *looks > before;
             });
         }
     };
@@ -173,20 +178,20 @@ TEST_F(DataWatchTest, TurningToTheWindowLooksAtOnceButNotUnderADialog) {
 TEST_F(DataWatchTest, AShareThatDoesNotAnswerHoldsUpNothingAndIsToldOnce) {
     watch(1h);
     std::promise<void> answer;
-    std::atomic<int> looks = 0;
+    const auto looks = lookCounter();
     DataWatch watched(store, app->mainWndow(), {.interval = 1ms, .patience = 1ms},
-                      [&, answered = answer.get_future().share()](const QString& path) {
-                          if (++looks == 1) answered.wait();
+                      [looks, answered = answer.get_future().share()](const QString& path) {
+                          if (++*looks == 1) answered.wait();
                           return stampOf(path);
                       });
     QSignalSpy unreadable(&watched, &DataWatch::unreadable);
     QSignalSpy readable(&watched, &DataWatch::readable);
     waitFor([&] { return !unreadable.empty(); });
     QTest::qWait(20);
-    EXPECT_EQ(looks, 1) << "not before it has answered";
+    EXPECT_EQ(*looks, 1) << "not before it has answered";
     EXPECT_EQ(unreadable.size(), 1);
     answer.set_value();
-    waitFor([&] { return !readable.empty() && looks > 1; });
+    waitFor([&] { return !readable.empty() && *looks > 1; });
 }
 
 } // namespace zel

@@ -92,20 +92,20 @@ TEST_F(SecondFolderWindowTest, thatDoesNotAnswerIsToldAndHoldsUpNoOther) {
     change();
     waitFor([this] { return named().list().size() == 1; });
     std::promise<void> answer;
-    std::atomic<int> asked = 0;
+    const auto asked = std::make_shared<std::atomic<int>>(0); // the last copy may outlive the courier
     BackupCourier courier(store, clock, nullptr, std::chrono::milliseconds(1),
-                          [&asked, hangs = named(), answered = answer.get_future().share()](
+                          [asked, hangs = named(), answered = answer.get_future().share()](
                               const QString& from, const SecondFolder& to, DayNumber day) {
-                              if (to.folder == hangs.folder && ++asked == 1) answered.wait();
+                              if (to.folder == hangs.folder && ++*asked == 1) answered.wait();
                               return bringCopy(from, to, day);
                           });
     QStringList failures;
     QObject::connect(&courier, &BackupCourier::failed, [&](const QString& why) { failures += why; });
     courier.bring();
-    waitFor([&] { return !failures.empty() && asked > 0; });
+    waitFor([&] { return !failures.empty() && *asked > 0; });
     EXPECT_TRUE(failures.first().contains(stick.path()));
     courier.bring();
-    EXPECT_EQ(asked, 1) << "not before it has answered";
+    EXPECT_EQ(*asked, 1) << "not before it has answered";
     const QTemporaryDir other;
     ASSERT_TRUE(nameSecondFolder(store.getZELXMLPath(), other.path()));
     courier.bring();
