@@ -17,7 +17,7 @@ bool isUpright(const QTransform& transform) {
            && qFuzzyCompare(transform.m11(), transform.m22());
 }
 
-Rect meet(const Rect& a, const Rect& b) {
+Rect overlap(const Rect& a, const Rect& b) {
     const double x = std::max(a.x, b.x);
     const double y = std::max(a.y, b.y);
     return {x, y, std::max(0.0, std::min(a.right(), b.right()) - x),
@@ -74,7 +74,7 @@ void PictureSurface::moveTo(Point origin, bool moved) {
 
 void PictureSurface::beginClip(const Rect& rect, int radius) {
     painter.save();
-    sights.push_back(meet(sight(), rect));
+    sights.push_back(overlap(sight(), rect));
     if (radius == 0) {
         const QRectF area = this->rect(sight());
         if (pixels)

@@ -61,12 +61,12 @@ bool isSameFile(const QFileInfo& one, const QFileInfo& other) {
     return one.exists() && one.canonicalFilePath() == other.canonicalFilePath();
 }
 
-tl::unexpected<StoreError> refused(StoreErrorCode code, const QString& path, const QString& detail = {}) {
+tl::unexpected<StoreError> notPlaced(StoreErrorCode code, const QString& path, const QString& detail = {}) {
     return tl::unexpected{StoreError{code, path, detail}};
 }
 
 tl::unexpected<StoreError> systemRefused(StoreErrorCode code, const QString& path) {
-    return refused(code, path, QString::fromLocal8Bit(std::strerror(errno)));
+    return notPlaced(code, path, QString::fromLocal8Bit(std::strerror(errno)));
 }
 
 /// Short, since the file's own name may be as long as a name can be.
@@ -100,9 +100,9 @@ QString exportPath(const QString& folder, const QString& ID, const QString& exte
 StoreResult writeExport(const QString& path, const QByteArray& content, Replace replace,
                         const QString& dataFile) {
     const QFileInfo file{path};
-    if (isSameFile(file, QFileInfo{dataFile})) return refused(StoreErrorCode::isDataFile, path);
+    if (isSameFile(file, QFileInfo{dataFile})) return notPlaced(StoreErrorCode::isDataFile, path);
     const bool isThere = file.exists() || file.isSymLink();
-    if (isThere && replace == Replace::no) return refused(StoreErrorCode::alreadyExists, path);
+    if (isThere && replace == Replace::no) return notPlaced(StoreErrorCode::alreadyExists, path);
     return place(path, content);
 }
 
