@@ -229,7 +229,7 @@ MonitorExpected<Instant> BPMModel::readBPMDate() {
     if (!reply) return tl::unexpected(reply.error());
     const QString r = fromMonitor(*reply);
     if (r.startsWith("0000"_L1)) return tl::unexpected(MonitorResult::clockNotSet); // no month and no day
-    const Date date = StrToDate(u"20"_s + r.mid(4, 2) + r.left(4) + r.mid(8, 6), timePattern);
+    const Date date = digitsToDate(u"20"_s + r.mid(4, 2) + r.left(4) + r.mid(8, 6), timePattern);
     if (!date) return tl::unexpected(MonitorResult::badFixedContent);
     return *date;
 }

@@ -37,12 +37,6 @@ std::uint32_t hex(std::string_view digits, std::size_t position) {
     return HexStrToInt(part(digits, position, 1));
 }
 
-/// Of fewer digits than the pattern's the year would be taken for a short one.
-Date parsed(const QString& digits) {
-    const bool isWhole = std::ranges::all_of(digits, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return isWhole ? StrToDate(digits, logPattern) : Date{};
-}
-
 /// A monitor without a valid clock stores zeros from the month on.
 Date dateOf(const std::string& text, const QString& ID) {
     if (text.size() < flagOffset) return {};
@@ -50,7 +44,7 @@ Date dateOf(const std::string& text, const QString& ID) {
         u"20"_s + QString::fromLatin1(text.data(), qsizetype(std::min<std::size_t>(text.size(), 10)));
     qCDebug(lcMonitor, "readBPMDate DateTime:%ls ID:[%ls]", qUtf16Printable(d), qUtf16Printable(ID));
     qCDebug(lcMonitor, "check fo no date data:%ls", qUtf16Printable(d));
-    const Date date = parsed(d);
+    const Date date = digitsToDate(d, logPattern);
     if (d.mid(4, 8) != "00000000"_L1) return date;
     qCDebug(lcMonitor, "check fo no date data.. nildate 1:%ls", qUtf16Printable(DateToStr(date, logPattern)));
     const Instant nilDate = getNilReadingDate();

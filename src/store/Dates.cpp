@@ -5,6 +5,8 @@
 #include <unicode/basictz.h>
 #include <unicode/gregocal.h>
 
+#include <algorithm>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -68,6 +70,12 @@ Date StrToDate(const QString& text, const QString& pattern) {
     // A local time that a daylight-saving change skips is read as the hour after it, so that no reading loses
     // its date.
     return localToInstant(*wall, *systemZone());
+}
+
+Date digitsToDate(const QString& digits, const QString& pattern) {
+    const bool isWhole = digits.size() == pattern.size()
+                         && std::ranges::all_of(digits, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return isWhole ? StrToDate(digits, pattern) : Date{};
 }
 
 QString DateToStr(const Date& date, const QString& pattern) {

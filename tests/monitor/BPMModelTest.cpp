@@ -151,8 +151,11 @@ TEST_F(BPMModelTest, ClockThatSaysNoDate) {
     BPMModel other(scripted, clock);
     std::ignore = other.checkIsConnected();
     const std::string settings(70, '0');
-    scripted.answers = {
-        reply(checked("13321920140509" + settings)), {}, {}, reply(checked("03221920140509" + settings))};
+    // Each is asked for three times. The year before too few digits at a time would be taken for 201.
+    scripted.answers = {reply(checked("13321920140509" + settings)), {}, {},
+                        reply(checked("032219201 0509" + settings)), {}, {},
+                        reply(checked("03221920140509" + settings))};
+    EXPECT_EQ(outcome(other.readBPMDate()), MonitorResult::badFixedContent);
     EXPECT_EQ(outcome(other.readBPMDate()), MonitorResult::badFixedContent);
     const auto third = other.readBPMDate();
     EXPECT_EQ(DateToStr(third.value(), u"yyyy-MM-dd HH:mm:ss"_s), u"2019-03-22 14:05:09"_s);
