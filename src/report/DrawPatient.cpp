@@ -99,7 +99,7 @@ private:
 
 /// Label and value side by side.
 struct Row {
-    double x = 0, y = 0, labelWidth = 0, fieldWidth = 0;
+    double x, y, labelWidth, fieldWidth;
 };
 void row(Sheet& sheet, const Row& at, const QString& label, const QString& value, const QString& unit = {}) {
     sheet.label(at.x, at.y, label, at.labelWidth);
