@@ -6,6 +6,7 @@
 #include "store/Text.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 namespace zel::fhir {
 
@@ -33,22 +34,25 @@ QJsonObject patientResource(const PatientModel& patient, const QUuid& id, const 
     return made;
 }
 
-QJsonObject entry(const QUuid& id, const QJsonObject& resource) {
-    return {{u"fullUrl"_s, fullUrl(id)}, {u"resource"_s, resource}};
+/// As text at once: as one document, a hundred thousand readings would take a gigabyte and a half.
+void addEntry(QByteArray& text, const QUuid& id, const QJsonObject& resource) {
+    const QJsonObject entry{{u"fullUrl"_s, fullUrl(id)}, {u"resource"_s, resource}};
+    if (!text.endsWith('[')) text += ',';
+    text += '\n' + QJsonDocument{entry}.toJson(QJsonDocument::Compact);
 }
 
 } // namespace
 
-QJsonDocument fhirBundle(const BundleSource& source) {
+QByteArray fhirBundle(const BundleSource& source) {
     const QUuid patient = patientId(source.patient, source.zone);
     const std::vector<QUuid> ids = readingIds(patient, source.readings);
-    QJsonArray entries{entry(patient, patientResource(source.patient, patient, source.zone))};
+    QByteArray text = R"({"resourceType":"Bundle","type":"collection","entry":[)";
+    addEntry(text, patient, patientResource(source.patient, patient, source.zone));
     for (std::size_t i = 0; i < ids.size(); ++i)
-        entries += entry(ids[i], readingObservation(source.readings[i], ids[i], patient, source.zone));
+        addEntry(text, ids[i], readingObservation(source.readings[i], ids[i], patient, source.zone));
     if (const auto average = averageObservation({source.readings, ids}, source.rule, patient, source.zone))
-        entries += entry(QUuid::fromString((*average)[u"id"_s].toString()), *average);
-    return QJsonDocument{
-        QJsonObject{{u"resourceType"_s, u"Bundle"_s}, {u"type"_s, u"collection"_s}, {u"entry"_s, entries}}};
+        addEntry(text, QUuid::fromString((*average)[u"id"_s].toString()), *average);
+    return text + "\n]}\n";
 }
 
 } // namespace zel::fhir

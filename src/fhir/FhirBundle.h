@@ -5,7 +5,7 @@
 #include "analysis/MeasuringWeek.h"
 #include "store/PatientModel.h"
 
-#include <QJsonDocument>
+#include <QByteArray>
 
 namespace zel::fhir {
 
@@ -16,8 +16,8 @@ struct BundleSource {
     const LocalZone& zone; ///< whose clocks the times show
 };
 
-/// A bundle with the patient, each reading, and the average of the last measuring week if there is one. The
-/// same data make the same bundle.
-[[nodiscard]] QJsonDocument fhirBundle(const BundleSource& source);
+/// A bundle with the patient, each reading, and the average of the last measuring week if there is one, as
+/// JSON in UTF-8, each of them on a line of its own. The same data make the same bundle.
+[[nodiscard]] QByteArray fhirBundle(const BundleSource& source);
 
 } // namespace zel::fhir

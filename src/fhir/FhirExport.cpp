@@ -15,11 +15,10 @@ StoreResult FhirExport::write(const QString& ID, Replace replace) {
     const QString path = exportPath(folder, ID, fileExtension.toString());
     if (StoreResult unique = names.check(ID, path); !unique) return unique;
     const LocalZone zone;
-    const QByteArray content =
-        fhirBundle({.patient = *patient, .readings = store.getReadingForID(ID), .rule = rule, .zone = zone})
-            .toJson(QJsonDocument::Compact)
-        + '\n';
-    StoreResult result = writeExport(path, content, replace, store.getZELXMLPath());
+    StoreResult result = writeExport(
+        path,
+        fhirBundle({.patient = *patient, .readings = store.getReadingForID(ID), .rule = rule, .zone = zone}),
+        replace, store.getZELXMLPath());
     if (result) names.add(ID, path);
     isWritten = isWritten || result.has_value();
     return result;

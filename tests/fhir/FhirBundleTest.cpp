@@ -5,6 +5,7 @@
 #include "support/InZone.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include <gmock/gmock.h>
 
@@ -39,8 +40,8 @@ PatientModel patient(const QString& ID) {
 std::vector<QJsonObject> resources(const PatientModel& of, const ReadingList& readings,
                                    AverageRule rule = AverageRule::esh) {
     const LocalZone zone;
-    const QJsonDocument bundle =
-        fhirBundle({.patient = of, .readings = readings, .rule = rule, .zone = zone});
+    const QJsonDocument bundle = QJsonDocument::fromJson(
+        fhirBundle({.patient = of, .readings = readings, .rule = rule, .zone = zone}));
     std::vector<QJsonObject> all;
     for (const QJsonValue entry : bundle[u"entry"_s].toArray())
         all.push_back(entry[u"resource"_s].toObject());
