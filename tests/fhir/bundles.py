@@ -95,7 +95,9 @@ def a_patient_has_what_the_record_has():
 
 
 def a_reading_is_one_observation():
-    (one,) = pressures(bundle([patient(), reading("2026-11-21T07:12:00+01:00", 1)]))
+    made = bundle([patient(), reading("2026-11-21T07:12:00+01:00", 1)])
+    (one,) = pressures(made)
+    same(one["identifier"], [{"system": "urn:ietf:rfc:3986", "value": made["entry"][1]["fullUrl"]}])
     same(values(one), {"8480-6": 131, "8462-4": 84, "8478-0": 99, "8867-4": 66})
     same((one["status"], one["effectiveDateTime"]), ("final", "2026-11-21T07:12:00+01:00"))
     assert "note" not in one and "method" not in one
@@ -154,6 +156,8 @@ def the_average_is_the_one_of_the_manual():
     same(average["effectivePeriod"], {"start": "2026-11-16T07:00:00+01:00", "end": "2026-11-21T19:00:00+01:00"})
     assert "68.8" in average["note"][0]["text"]
     same(averages(bundle(records[:2])), [])
+    (elsewhere,) = averages(bundle(records, zone="Europe/London"))
+    assert elsewhere["note"][-1]["text"].endswith(": 14"), elsewhere["note"]
 
 
 def nothing_is_of_another_patient():
