@@ -372,12 +372,14 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="exportCSVFolder"><translation>Ordner für die CSV-Datei wählen</translation></message>
     <message id="exportCSVHint"><translation>Schreibt die Daten und Messungen des aktuellen Patienten als Tabelle für eine Tabellenkalkulation.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>%n Datei konnte nicht geschrieben werden:</numerusform><numerusform>%n Dateien konnten nicht geschrieben werden:</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>Ordner für die FHIR-Datei wählen</translation></message>
     <message id="exportFolder"><translation>Ordner für die Dateien der Patienten wählen</translation></message>
     <message id="exportHint"><translation>Schreibt für jeden Patienten eine Datei, die dieses Programm wieder importieren kann.</translation></message>
     <message id="exporting"><translation>Patienten werden exportiert</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n Datei war schon vorhanden und wurde nicht verändert.</numerusform><numerusform>%n Dateien waren schon vorhanden und wurden nicht verändert.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>%n Datei wurde in den Ordner %1 geschrieben.</numerusform><numerusform>%n Dateien wurden in den Ordner %1 geschrieben.</numerusform></translation></message>
     <message id="exportNobody"><translation>Es gibt noch keinen Patienten zum Exportieren. Legen Sie zuerst einen Patienten an, oder importieren Sie einen.</translation></message>
+    <message id="exportNoPatient"><translation>Es ist kein Patient ausgewählt. Bitte wählen Sie zuerst den Patienten, der exportiert werden soll.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>Der Ordner %1 enthält die Datei %2 schon. Soll sie ersetzt werden? Bei „Nein“ bleibt sie unverändert.</numerusform><numerusform>Der Ordner %1 enthält %n der Dateien schon (%2). Sollen sie ersetzt werden? Bei „Nein“ bleiben sie unverändert, und nur die übrigen werden geschrieben.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Dateien ersetzen?</translation></message>
     <message id="ExportTitle"><translation>Export</translation></message>
@@ -458,6 +460,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="menuAbout"><translation>Ü&amp;ber ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Sicherungen …</translation></message>
     <message id="menuEdit"><translation>&amp;Bearbeiten</translation></message>
+    <message id="menuExportFhir"><translation>Patienten als F&amp;HIR exportieren …</translation></message>
     <message id="menuFile"><translation>&amp;Datei</translation></message>
     <message id="menuHelp"><translation>&amp;Hilfe</translation></message>
     <message id="menuManual"><translation>&amp;Handbuch</translation></message>
@@ -1035,6 +1038,7 @@ Ohne Befehl öffnet sich ein Fenster. Die Befehle leisten dasselbe ohne Fenster,
   report     den Bericht eines Patienten als PDF schreiben
   export-xml alle Patienten oder einen als XML-Dateien exportieren
   export-csv einen Patienten mit seinen Messungen als CSV-Datei exportieren
+  export-fhir alle Patienten oder einen als FHIR-Dateien für andere Patientenakten exportieren
   import     Patienten aus exportierten XML-Dateien übernehmen
   settings   die Einstellungen anzeigen oder einige ändern
   backup     die Sicherungen der Datendatei auflisten, eine anlegen oder zu einer zurückkehren
@@ -1124,6 +1128,21 @@ Hand eingegebenen und 'excluded: REASON' bei einer ausgeschlossenen, die nirgend
 Optionen:
   --patient ID                 wessen Daten
   --force                      die Datei ersetzen, falls sie schon vorhanden ist
+  --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
+  -h, --help                   diesen Text anzeigen</translation></message>
+    <message id="CliHelpExportFhir"><translation>Aufruf: zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
+
+Schreibt jeden Patienten mit seinen Messungen und dem Mittelwert der letzten Messwoche als eigenes Bundle nach
+HL7 FHIR R4 in den Ordner DIR, für Programme, die Patientenakten führen, und gibt für jeden eine Zeile
+'written: FILE' aus. Die Dateien sind nach den IDs der Patienten benannt. Alle Messungen sind enthalten; eine
+ausgeschlossene hat den Status 'entered-in-error' und ihren Grund. Kommentare und Adressen sind nicht
+enthalten. Eine Datei, die nicht geschrieben werden kann, wird auf der Standardfehlerausgabe genannt; die
+übrigen werden trotzdem geschrieben.
+
+Optionen:
+  --patient ID                 nur dieser Patient
+  --rule esh|nice|aha          die Regel des Mittelwerts; esh, falls nicht anders angegeben
+  --force                      schon vorhandene Dateien ersetzen, statt sie unverändert zu lassen
   --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
   -h, --help                   diesen Text anzeigen</translation></message>
     <message id="CliHelpExportXml"><translation>Aufruf: zel export-xml DIR [--patient ID] [--force]

@@ -372,12 +372,14 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="exportCSVFolder"><translation>Choose the folder for the CSV file</translation></message>
     <message id="exportCSVHint"><translation>Writes the current patient and the readings as a table, for a spreadsheet.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>%n file could not be written:</numerusform><numerusform>%n files could not be written:</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>Choose the folder for the FHIR file</translation></message>
     <message id="exportFolder"><translation>Choose the folder for the patients’ files</translation></message>
     <message id="exportHint"><translation>Writes a file for each patient, which this program can import again.</translation></message>
     <message id="exporting"><translation>Exporting patients</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n file that was there already was left as it was.</numerusform><numerusform>%n files that were there already were left as they were.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>%n file was written to the folder %1.</numerusform><numerusform>%n files were written to the folder %1.</numerusform></translation></message>
     <message id="exportNobody"><translation>There is no patient to export yet. Add a patient or import one first.</translation></message>
+    <message id="exportNoPatient"><translation>No patient is chosen. Please choose the patient to be exported first.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>The folder %1 already holds the file %2. Replace it? With “No” it stays as it is.</numerusform><numerusform>The folder %1 already holds %n of the files (%2). Replace them? With “No” they stay as they are, and only the others are written.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Replace files?</translation></message>
     <message id="ExportTitle"><translation>Export</translation></message>
@@ -458,6 +460,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuAbout"><translation>&amp;About ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backups …</translation></message>
     <message id="menuEdit"><translation>&amp;Edit</translation></message>
+    <message id="menuExportFhir"><translation>&amp;Export patient as FHIR …</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuHelp"><translation>&amp;Help</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
@@ -1035,6 +1038,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
   report     write a patient's report as a PDF
   export-xml export all patients, or one, as XML files
   export-csv export a patient and the readings as a CSV file
+  export-fhir export all patients, or one, for other health records, as FHIR files
   import     take in patients from exported XML files
   settings   show the settings, or change some
   backup     list the copies of the data file, make one, or go back to one
@@ -1118,6 +1122,20 @@ is left out of all that counts.
 Options:
   --patient ID                 whose file
   --force                      replace the file if it is there already
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
+    <message id="CliHelpExportFhir"><translation>Usage: zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
+
+Writes each patient, with readings and the average of the last measuring week, as an HL7 FHIR R4 bundle of its
+own into the folder DIR, for programs that keep health records, and prints a line 'written: FILE' for each.
+The files are named after the patients' IDs. All readings are in it; one that is left out has the status
+'entered-in-error' and its reason. Comments and addresses are not. A file that cannot be written is named on
+standard error, and the others are still written.
+
+Options:
+  --patient ID                 only this patient
+  --rule esh|nice|aha          the rule of the average; esh unless told otherwise
+  --force                      replace files that are there already, instead of leaving them as they are
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpExportXml"><translation>Usage: zel export-xml DIR [--patient ID] [--force]

@@ -372,12 +372,14 @@ mmHg</translation></message>
     <message id="exportCSVFolder"><translation>Elija la carpeta para el archivo CSV</translation></message>
     <message id="exportCSVHint"><translation>Escribe los datos y las mediciones del paciente actual en una tabla, para una hoja de cálculo.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>No se ha podido escribir %n archivo:</numerusform><numerusform>No se han podido escribir %n archivos:</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>Elija la carpeta para el archivo FHIR</translation></message>
     <message id="exportFolder"><translation>Elija la carpeta para los archivos de los pacientes</translation></message>
     <message id="exportHint"><translation>Escribe un archivo por paciente, que este programa puede volver a importar.</translation></message>
     <message id="exporting"><translation>Exportando pacientes</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n archivo que ya existía se ha dejado como estaba.</numerusform><numerusform>%n archivos que ya existían se han dejado como estaban.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>Se ha escrito %n archivo en la carpeta %1.</numerusform><numerusform>Se han escrito %n archivos en la carpeta %1.</numerusform></translation></message>
     <message id="exportNobody"><translation>Todavía no hay pacientes que exportar. Añada o importe antes un paciente.</translation></message>
+    <message id="exportNoPatient"><translation>No se ha elegido ningún paciente. Elija antes el paciente que desea exportar.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>La carpeta %1 ya contiene el archivo %2. ¿Reemplazarlo? Si responde «No», se queda como está.</numerusform><numerusform>La carpeta %1 ya contiene %n de los archivos (%2). ¿Reemplazarlos? Si responde «No», se quedan como están y solo se escriben los demás.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>¿Reemplazar archivos?</translation></message>
     <message id="ExportTitle"><translation>Exportación</translation></message>
@@ -458,6 +460,7 @@ mmHg</translation></message>
     <message id="menuAbout"><translation>&amp;Acerca de ZEL</translation></message>
     <message id="menuBackups"><translation>Copias de se&amp;guridad…</translation></message>
     <message id="menuEdit"><translation>&amp;Edición</translation></message>
+    <message id="menuExportFhir"><translation>&amp;Exportar el paciente como FHIR…</translation></message>
     <message id="menuFile"><translation>&amp;Archivo</translation></message>
     <message id="menuHelp"><translation>A&amp;yuda</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
@@ -1035,6 +1038,7 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
   report     escribir el informe de un paciente como PDF
   export-xml exportar todos los pacientes, o uno, como archivos XML
   export-csv exportar un paciente y sus mediciones como archivo CSV
+  export-fhir exportar todos los pacientes, o uno, como archivos FHIR para otras historias clínicas
   import     incorporar pacientes de archivos XML exportados
   settings   mostrar la configuración, o cambiarla en parte
   backup     listar las copias del archivo de datos, hacer una o volver a una
@@ -1119,6 +1123,21 @@ mano, y 'excluded: REASON' si está excluida de todos los cálculos.
 Opciones:
   --patient ID                 de quién es el archivo
   --force                      reemplazar el archivo si ya existe
+  --simulated-monitor[=FILE]   se admite como en todas las órdenes; esta no necesita tensiómetro
+  -h, --help                   mostrar este texto</translation></message>
+    <message id="CliHelpExportFhir"><translation>Uso: zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
+
+Escribe cada paciente, con sus mediciones y la media de la última semana de medición, como un «bundle» HL7
+FHIR R4 propio en la carpeta DIR, para los programas que llevan historias clínicas, y muestra una línea
+'written: FILE' por cada uno. Los archivos llevan por nombre el ID del paciente. Contienen todas las
+mediciones; una medición excluida tiene el estado 'entered-in-error' y su motivo. Los comentarios y las
+direcciones no figuran. Un archivo que no se puede escribir se indica en la salida de error, y los demás se
+escriben igualmente.
+
+Opciones:
+  --patient ID                 solo este paciente
+  --rule esh|nice|aha          la regla de la media; esh si no se indica otra
+  --force                      reemplazar los archivos que ya existan, en vez de dejarlos como están
   --simulated-monitor[=FILE]   se admite como en todas las órdenes; esta no necesita tensiómetro
   -h, --help                   mostrar este texto</translation></message>
     <message id="CliHelpExportXml"><translation>Uso: zel export-xml DIR [--patient ID] [--force]

@@ -372,12 +372,14 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="exportCSVFolder"><translation>Choisir le dossier du fichier CSV</translation></message>
     <message id="exportCSVHint"><translation>Écrit les données et les mesures du patient affiché sous forme de tableau, pour un tableur.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>%n fichier n’a pas pu être écrit :</numerusform><numerusform>%n fichiers n’ont pas pu être écrits :</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>Choisir le dossier du fichier FHIR</translation></message>
     <message id="exportFolder"><translation>Choisir le dossier des fichiers des patients</translation></message>
     <message id="exportHint"><translation>Écrit un fichier par patient, que ce programme peut réimporter.</translation></message>
     <message id="exporting"><translation>Exportation des patients</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n fichier déjà présent a été laissé tel quel.</numerusform><numerusform>%n fichiers déjà présents ont été laissés tels quels.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>%n fichier a été écrit dans le dossier %1.</numerusform><numerusform>%n fichiers ont été écrits dans le dossier %1.</numerusform></translation></message>
     <message id="exportNobody"><translation>Il n’y a encore aucun patient à exporter. Ajoutez d’abord un patient ou importez-en un.</translation></message>
+    <message id="exportNoPatient"><translation>Aucun patient n’est choisi. Choisissez d’abord le patient à exporter.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>Le dossier %1 contient déjà le fichier %2. Le remplacer ? Avec « Non », il reste tel quel.</numerusform><numerusform>Le dossier %1 contient déjà %n de ces fichiers (%2). Les remplacer ? Avec « Non », ils restent tels quels, et seuls les autres sont écrits.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Remplacer des fichiers ?</translation></message>
     <message id="ExportTitle"><translation>Exportation</translation></message>
@@ -458,6 +460,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="menuAbout"><translation>À &amp;propos de ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Sauvegardes…</translation></message>
     <message id="menuEdit"><translation>Éd&amp;ition</translation></message>
+    <message id="menuExportFhir"><translation>&amp;Exporter le patient en FHIR…</translation></message>
     <message id="menuFile"><translation>&amp;Fichier</translation></message>
     <message id="menuHelp"><translation>&amp;Aide</translation></message>
     <message id="menuManual"><translation>&amp;Manuel</translation></message>
@@ -1035,6 +1038,7 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
   report     écrire le rapport d’un patient en PDF
   export-xml exporter tous les patients, ou un seul, en fichiers XML
   export-csv exporter un patient et ses mesures en fichier CSV
+  export-fhir exporter tous les patients, ou un seul, en fichiers FHIR pour d’autres dossiers médicaux
   import     ajouter des patients à partir de fichiers XML exportés
   settings   afficher les réglages, ou en modifier
   backup     lister les copies du fichier de données, en créer une, ou revenir à l’une d’elles
@@ -1122,6 +1126,21 @@ Options :
   --patient ID                 le fichier de quel patient
   --force                      remplacer le fichier s’il existe déjà
   --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
+  -h, --help                   afficher ce texte</translation></message>
+    <message id="CliHelpExportFhir"><translation>Usage : zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
+
+Écrit chaque patient, avec ses mesures et la moyenne de la dernière semaine de mesure, dans son propre
+« bundle » HL7 FHIR R4 du dossier DIR, pour les logiciels de dossier médical, et affiche pour chacun une
+ligne 'written: FILE'. Les fichiers sont nommés d’après les ID des patients. Toutes les mesures y figurent ;
+une mesure exclue a le statut 'entered-in-error' et son motif. Les commentaires et les adresses n’y sont
+pas. Un fichier qui ne peut pas être écrit est signalé sur l’erreur standard, et les autres sont écrits
+malgré tout.
+
+Options :
+  --patient ID                 seulement ce patient
+  --rule esh|nice|aha          la règle de la moyenne ; esh par défaut
+  --force                      remplacer les fichiers déjà présents, au lieu de les laisser tels quels
+  --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
   -h, --help                   afficher ce texte</translation></message>
     <message id="CliHelpExportXml"><translation>Usage : zel export-xml DIR [--patient ID] [--force]
 

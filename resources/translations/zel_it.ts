@@ -372,12 +372,14 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="exportCSVFolder"><translation>Scegli la cartella per il file CSV</translation></message>
     <message id="exportCSVHint"><translation>Scrive il paziente attuale e le misurazioni come tabella, per un foglio di calcolo.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>Impossibile scrivere %n file:</numerusform><numerusform>Impossibile scrivere %n file:</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>Scegli la cartella per il file FHIR</translation></message>
     <message id="exportFolder"><translation>Scegli la cartella per i file dei pazienti</translation></message>
     <message id="exportHint"><translation>Scrive per ogni paziente un file che questo programma può importare di nuovo.</translation></message>
     <message id="exporting"><translation>Esportazione dei pazienti</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n file già presente è stato lasciato com’era.</numerusform><numerusform>%n file già presenti sono stati lasciati com’erano.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>%n file è stato scritto nella cartella %1.</numerusform><numerusform>%n file sono stati scritti nella cartella %1.</numerusform></translation></message>
     <message id="exportNobody"><translation>Non c’è ancora nessun paziente da esportare. Prima aggiungerne o importarne uno.</translation></message>
+    <message id="exportNoPatient"><translation>Non è stato scelto nessun paziente. Prima scegliere il paziente da esportare.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>La cartella %1 contiene già il file %2. Sostituirlo? Con “No” resta com’è.</numerusform><numerusform>La cartella %1 contiene già %n dei file (%2). Sostituirli? Con “No” restano come sono, e vengono scritti solo gli altri.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Sostituire i file?</translation></message>
     <message id="ExportTitle"><translation>Esportazione</translation></message>
@@ -458,6 +460,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="menuAbout"><translation>&amp;Informazioni su ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backup…</translation></message>
     <message id="menuEdit"><translation>&amp;Modifica</translation></message>
+    <message id="menuExportFhir"><translation>Esporta il paziente in F&amp;HIR…</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuHelp"><translation>&amp;Aiuto</translation></message>
     <message id="menuManual"><translation>&amp;Manuale</translation></message>
@@ -1035,6 +1038,7 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
   report     scrive il rapporto di un paziente in PDF
   export-xml esporta tutti i pazienti, o uno solo, in file XML
   export-csv esporta un paziente e le sue misurazioni in un file CSV
+  export-fhir esporta tutti i pazienti, o uno solo, in file FHIR per altre cartelle cliniche
   import     importa pazienti da file XML esportati
   settings   mostra le impostazioni o ne modifica alcune
   backup     elenca le copie del file dei dati, ne crea una o ne ripristina una
@@ -1122,6 +1126,20 @@ mano, e 'excluded: MOTIVO' se è esclusa da tutti i calcoli.
 Opzioni:
   --patient ID                 di quale paziente
   --force                      sostituisce il file se esiste già
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
+  -h, --help                   mostra questo testo</translation></message>
+    <message id="CliHelpExportFhir"><translation>Uso: zel export-fhir CARTELLA [--patient ID] [--rule esh|nice|aha] [--force]
+
+Scrive ogni paziente, con le misurazioni e la media dell'ultima settimana di misura, in un proprio bundle HL7
+FHIR R4 nella cartella CARTELLA, per i programmi che gestiscono cartelle cliniche, e stampa per ciascuno una
+riga 'written: FILE'. I file prendono il nome dall'ID del paziente. Il file contiene tutte le misurazioni; una
+misurazione esclusa ha lo stato 'entered-in-error' e il suo motivo. Commenti e indirizzi non ci sono. Un file
+che non si può scrivere è indicato sullo standard error, e gli altri vengono scritti comunque.
+
+Opzioni:
+  --patient ID                 solo questo paziente
+  --rule esh|nice|aha          la regola della media; esh, se non indicato altrimenti
+  --force                      sostituisce i file già presenti, invece di lasciarli come sono
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpExportXml"><translation>Uso: zel export-xml CARTELLA [--patient ID] [--force]

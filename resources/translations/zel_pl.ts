@@ -372,12 +372,14 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="exportCSVFolder"><translation>Wybór folderu na plik CSV</translation></message>
     <message id="exportCSVHint"><translation>Zapisuje dane i pomiary bieżącego pacjenta jako tabelę do arkusza kalkulacyjnego.</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>Nie udało się zapisać %n pliku:</numerusform><numerusform>Nie udało się zapisać %n plików:</numerusform><numerusform>Nie udało się zapisać %n plików:</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>Wybór folderu na plik FHIR</translation></message>
     <message id="exportFolder"><translation>Wybór folderu na pliki pacjentów</translation></message>
     <message id="exportHint"><translation>Zapisuje dla każdego pacjenta plik, który ten program może ponownie zaimportować.</translation></message>
     <message id="exporting"><translation>Eksportowanie pacjentów</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>%n istniejący już plik pozostawiono bez zmian.</numerusform><numerusform>%n istniejące już pliki pozostawiono bez zmian.</numerusform><numerusform>%n istniejących już plików pozostawiono bez zmian.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>Zapisano %n plik w folderze %1.</numerusform><numerusform>Zapisano %n pliki w folderze %1.</numerusform><numerusform>Zapisano %n plików w folderze %1.</numerusform></translation></message>
     <message id="exportNobody"><translation>Nie ma jeszcze pacjenta do wyeksportowania. Proszę najpierw dodać lub zaimportować pacjenta.</translation></message>
+    <message id="exportNoPatient"><translation>Nie wybrano pacjenta. Proszę najpierw wybrać pacjenta do wyeksportowania.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>W folderze %1 jest już plik %2. Zastąpić go? Po wybraniu „Nie” pozostanie bez zmian.</numerusform><numerusform>W folderze %1 są już %n z tych plików (%2). Zastąpić je? Po wybraniu „Nie” pozostaną bez zmian i zapisane zostaną tylko pozostałe.</numerusform><numerusform>W folderze %1 jest już %n z tych plików (%2). Zastąpić je? Po wybraniu „Nie” pozostaną bez zmian i zapisane zostaną tylko pozostałe.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Zastąpić pliki?</translation></message>
     <message id="ExportTitle"><translation>Eksport</translation></message>
@@ -458,6 +460,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="menuAbout"><translation>&amp;O programie ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Kopie zapasowe…</translation></message>
     <message id="menuEdit"><translation>&amp;Edycja</translation></message>
+    <message id="menuExportFhir"><translation>&amp;Eksportuj pacjenta jako FHIR…</translation></message>
     <message id="menuFile"><translation>&amp;Plik</translation></message>
     <message id="menuHelp"><translation>Pomo&amp;c</translation></message>
     <message id="menuManual"><translation>&amp;Podręcznik</translation></message>
@@ -1035,6 +1038,7 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
   report     zapisuje raport pacjenta jako PDF
   export-xml eksportuje wszystkich pacjentów albo jednego jako pliki XML
   export-csv eksportuje dane i pomiary pacjenta jako plik CSV
+  export-fhir eksportuje wszystkich pacjentów albo jednego jako pliki FHIR dla innych systemów dokumentacji
   import     wczytuje pacjentów z wyeksportowanych plików XML
   settings   pokazuje ustawienia albo zmienia niektóre z nich
   backup     wyświetla kopie pliku danych, tworzy kopię albo wraca do wybranej
@@ -1119,6 +1123,20 @@ pomiarze pominiętym we wszystkich obliczeniach.
 Opcje:
   --patient ID                 czyj plik
   --force                      zastąp plik, jeśli już istnieje
+  --simulated-monitor[=FILE]   przyjmowane jak wszędzie; to polecenie nie wymaga ciśnieniomierza
+  -h, --help                   pokaż ten tekst</translation></message>
+    <message id="CliHelpExportFhir"><translation>Użycie: zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
+
+Zapisuje każdego pacjenta, z pomiarami i średnią z ostatniego tygodnia pomiarowego, jako osobny zbiór (bundle)
+HL7 FHIR R4 w folderze DIR, dla programów prowadzących dokumentację medyczną, i dla każdego wyświetla wiersz
+'written: FILE'. Nazwy plików pochodzą od ID pacjentów. Plik zawiera wszystkie pomiary; pominięty ma stan
+'entered-in-error' i podany powód. Komentarzy i adresów w nim nie ma. Plik, którego nie udało się zapisać,
+jest podany na wyjściu błędów, a pozostałe są zapisywane.
+
+Opcje:
+  --patient ID                 tylko ten pacjent
+  --rule esh|nice|aha          reguła średniej; domyślnie esh
+  --force                      zastąp istniejące pliki, zamiast pozostawiać je bez zmian
   --simulated-monitor[=FILE]   przyjmowane jak wszędzie; to polecenie nie wymaga ciśnieniomierza
   -h, --help                   pokaż ten tekst</translation></message>
     <message id="CliHelpExportXml"><translation>Użycie: zel export-xml DIR [--patient ID] [--force]

@@ -372,12 +372,14 @@ mmHg</translation></message>
     <message id="exportCSVFolder"><translation>選擇 CSV 檔案的資料夾</translation></message>
     <message id="exportCSVHint"><translation>將目前病患的資料與量測寫成表格，供試算表軟體使用。</translation></message>
     <message id="exportFailed" numerus="yes"><translation><numerusform>有 %n 個檔案無法寫入：</numerusform></translation></message>
+    <message id="exportFhirFolder"><translation>選擇 FHIR 檔案的資料夾</translation></message>
     <message id="exportFolder"><translation>選擇病患檔案的資料夾</translation></message>
     <message id="exportHint"><translation>為每位病患寫入一個檔案，可由本程式再次匯入。</translation></message>
     <message id="exporting"><translation>正在匯出病患</translation></message>
     <message id="exportKept" numerus="yes"><translation><numerusform>有 %n 個既有檔案維持原狀。</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>已將 %n 個檔案寫入資料夾 %1。</numerusform></translation></message>
     <message id="exportNobody"><translation>目前沒有可匯出的病患。請先新增或匯入病患。</translation></message>
+    <message id="exportNoPatient"><translation>尚未選擇病患。請先選擇要匯出的病患。</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>資料夾 %1 中已有 %n 個同名檔案（%2）。要取代嗎？選「否」則維持原狀，其餘檔案仍會寫入。</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>要取代檔案嗎？</translation></message>
     <message id="ExportTitle"><translation>匯出</translation></message>
@@ -458,6 +460,7 @@ mmHg</translation></message>
     <message id="menuAbout"><translation>關於 ZEL(&amp;A)</translation></message>
     <message id="menuBackups"><translation>備份(&amp;B)…</translation></message>
     <message id="menuEdit"><translation>編輯(&amp;E)</translation></message>
+    <message id="menuExportFhir"><translation>將病患匯出為 FHIR(&amp;E)…</translation></message>
     <message id="menuFile"><translation>檔案(&amp;F)</translation></message>
     <message id="menuHelp"><translation>說明(&amp;H)</translation></message>
     <message id="menuManual"><translation>使用手冊(&amp;M)</translation></message>
@@ -1035,6 +1038,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
   report     將病患的報告寫成 PDF
   export-xml 將所有病患或一位病患匯出為 XML 檔案
   export-csv 將一位病患及其量測匯出為 CSV 檔案
+  export-fhir 將所有病患或一位病患匯出為 FHIR 檔案，供其他病歷系統使用
   import     從匯出的 XML 檔案匯入病患
   settings   顯示設定，或變更部分設定
   backup     列出資料檔的備份、建立備份，或還原到某份備份
@@ -1113,6 +1117,18 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 選項：
   --patient ID                 要匯出的病患
   --force                      檔案已存在時予以取代
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
+  -h, --help                   顯示此說明</translation></message>
+    <message id="CliHelpExportFhir"><translation>用法：zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
+
+將每位病患連同量測與最近一個量測週的平均各寫成一個 HL7 FHIR R4 bundle 檔案，存入資料夾 DIR，供病歷系統
+使用，並為每個檔案輸出一行 'written: FILE'。檔案以病患的 ID 命名，包含所有量測；已排除的量測狀態為
+'entered-in-error' 並附原因。不含註記與地址。無法寫入的檔案會列在標準錯誤，其他檔案仍會寫入。
+
+選項：
+  --patient ID                 只匯出這位病患
+  --rule esh|nice|aha          平均的準則；預設為 esh
+  --force                      取代已存在的檔案；未指定時保留原檔
   --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpExportXml"><translation>用法：zel export-xml DIR [--patient ID] [--force]

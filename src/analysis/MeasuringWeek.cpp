@@ -57,9 +57,9 @@ WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {
     return days;
 }
 
-void addMeans(MeasuringWeek& week, const ReadingList& readings, DayNumber firstUsed) {
+void addMeans(MeasuringWeek& week, const ReadingList& readings) {
     for (const ReadingModel& reading : readings)
-        if (isOfWeek(reading, week) && reading.day >= firstUsed) {
+        if (isUsed(reading, week)) {
             week.all.add(reading);
             (reading.isPMData ? week.evening : week.morning).add(reading);
         }
@@ -89,6 +89,10 @@ std::size_t countDays(MeasuringWeek& week, const WeekDays& days, const AverageRu
 
 } // namespace
 
+bool isUsed(const ReadingModel& reading, const MeasuringWeek& week) {
+    return isOfWeek(reading, week) && reading.day >= week.firstUsed;
+}
+
 DayNumber lastMeasuringDay(const ReadingList& readings) {
     DayNumber last = noDay;
     for (const ReadingModel& reading : readings)
@@ -116,8 +120,8 @@ MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule, s
     MeasuringWeek week{.rule = rule, .end = end.value_or(lastMeasuringDay(readings))};
     if (week.end != noDay) {
         week.begin = week.end - (daysOfWeek - 1);
-        const std::size_t firstUsed = countDays(week, daysOf(readings, week), facts);
-        addMeans(week, readings, week.begin + static_cast<DayNumber>(firstUsed));
+        week.firstUsed = week.begin + static_cast<DayNumber>(countDays(week, daysOf(readings, week), facts));
+        addMeans(week, readings);
         week.ofOtherZone = static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
             return reading.isOfOtherZone && isOfWeek(reading, week);
         }));

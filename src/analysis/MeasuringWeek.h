@@ -44,7 +44,8 @@ struct MeasuringWeek {
     AverageRule rule = AverageRule::esh;
     DayNumber begin = noDay; ///< noDay: there is no dated reading, and no end was told
     DayNumber end = noDay;
-    PressureMeans all{}; ///< of the readings that count
+    DayNumber firstUsed = noDay; ///< readings of the week's days before it do not count
+    PressureMeans all{};         ///< of the readings that count
     PressureMeans morning{};
     PressureMeans evening{};
     int daysUsed = 0; ///< measuring days that count
@@ -63,6 +64,9 @@ struct MeasuringWeek {
     /// Whether one of the means, not rounded, is at its threshold or above.
     [[nodiscard]] bool reachesThreshold() const;
 };
+
+/// Whether the reading is one of those that \p week is the mean of.
+[[nodiscard]] bool isUsed(const ReadingModel& reading, const MeasuringWeek& week);
 
 /// The last day with a reading that averages count; noDay for none.
 [[nodiscard]] DayNumber lastMeasuringDay(const ReadingList& readings);

@@ -170,6 +170,9 @@ void DataStore::setCurrentID(const QString& ID) {
 const QString& DataStore::getCurrentID() const { return currentID; }
 
 const ReadingList& DataStore::getReadingForCurID() const { return records.readingsOf(currentID); }
+
+const ReadingList& DataStore::getReadingForID(const QString& ID) const { return records.readingsOf(ID); }
+
 const CommentList& DataStore::getCommentForCurID() const { return listOf(records.mdComment, currentID); }
 const DataLogList& DataStore::getTrasferLogForCurID() const { return listOf(records.mdDataLog, currentID); }
 

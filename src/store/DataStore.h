@@ -143,6 +143,7 @@ public:
     void setCurrentID(const QString& ID); ///< emits currentIDChanged() on a change
     [[nodiscard]] const QString& getCurrentID() const;
     [[nodiscard]] const ReadingList& getReadingForCurID() const;
+    [[nodiscard]] const ReadingList& getReadingForID(const QString& ID) const;
     [[nodiscard]] const CommentList& getCommentForCurID() const;
     [[nodiscard]] const DataLogList& getTrasferLogForCurID() const; // spelled so in the interface
     /// Sorted by DisplayName. Valid until the next load.

@@ -3,10 +3,7 @@
 #include "store/DocumentElements.h"
 #include "store/Log.h"
 
-#include <QFile>
-
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
 #include <utility>
 
@@ -19,12 +16,6 @@ namespace {
 bool isPersonal(pugi::xml_node node) {
     return isElement(node, "Patient") || isElement(node, "Comment") || isElement(node, "MeasureRec");
 }
-
-QString likeName(const QString& path) {
-    return path.normalized(QString::NormalizationForm_KC).toCaseFolded();
-}
-
-std::filesystem::path systemPath(const QString& path) { return QFile::encodeName(path).toStdString(); }
 
 } // namespace
 
@@ -53,20 +44,12 @@ std::vector<pugi::xml_node> PatientExport::childrenFor(const std::vector<Child>&
     return nodes;
 }
 
-StoreResult PatientExport::checkName(const QString& ID, const QString& path) const {
-    const auto like = written->find(likeName(path));
-    if (like == written->end() || like->second.ID == ID) return {};
-    std::error_code isNone;
-    if (!std::filesystem::equivalent(systemPath(like->second.path), systemPath(path), isNone)) return {};
-    return tl::unexpected{StoreError{StoreErrorCode::sameFileName, path, like->second.ID}};
-}
-
 StoreResult PatientExport::writeXml(const QString& ID, const QString& folder, Replace replace) const {
     const auto own = personal.find(ID);
     if (own == personal.end() || !IDs.contains(ID))
         return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
     const QString path = exportPath(folder, ID, u".xml"_s);
-    if (StoreResult unique = checkName(ID, path); !unique) return unique;
+    if (StoreResult unique = written->check(ID, path); !unique) return unique;
     const auto content = document->withChildren(childrenFor(own->second)).serialise();
     if (!content) return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, content.error()}};
     if (unflushed->folder != folder) std::ignore = unflushed->flush();
@@ -76,7 +59,7 @@ StoreResult PatientExport::writeXml(const QString& ID, const QString& folder, Re
         qCInfo(lcStore, "write document out...");
     else
         qCWarning(lcStore, "Could not write document out...");
-    if (result) written->try_emplace(likeName(path), WrittenFile{ID, path});
+    if (result) written->add(ID, path);
     return result;
 }
 

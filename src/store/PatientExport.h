@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/ExportFile.h"
+#include "store/WrittenNames.h"
 #include "store/XmlDocument.h"
 
 #include <QString>
@@ -49,20 +50,12 @@ private:
         Unflushed& operator=(const Unflushed&) = delete;
         StoreResult flush();
     };
-    /// The files of this export and whose they are, by a name that is alike on every disk that takes them for
-    /// one.
-    struct WrittenFile {
-        QString ID;
-        QString path;
-    };
-    using Written = std::unordered_map<QString, WrittenFile>;
     void sort(const Child& child);
     [[nodiscard]] std::vector<pugi::xml_node> childrenFor(const std::vector<Child>& own) const;
-    [[nodiscard]] StoreResult checkName(const QString& ID, const QString& path) const;
 
     std::unique_ptr<const XmlDocument> document;
     std::unique_ptr<Unflushed> unflushed = std::make_unique<Unflushed>();
-    std::unique_ptr<Written> written = std::make_unique<Written>();
+    std::unique_ptr<WrittenNames> written = std::make_unique<WrittenNames>();
     QString dataFile;
     QStringList IDs;
     std::vector<Child> common;                                ///< in every patient's file

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace zel {
 
@@ -71,6 +72,24 @@ TEST_F(CliExchangeTest, FilesThatAreThereAreKeptUnlessForced) {
     EXPECT_EQ(zel(csv + QStringList(u"--force"_s)).status, 0);
 }
 
+TEST_F(CliExchangeTest, BundlesAreWrittenForAllOrOneAndNeverOverAFileUnlessForced) {
+    const QByteArray before = data();
+    EXPECT_EQ(zel({u"export-fhir"_s, out, u"--patient"_s, u"A1"_s}).out, line(u"A1.fhir.json"_s));
+    const QString one = out + u"/A1.fhir.json"_s;
+    EXPECT_EQ(QFile::permissions(one) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    const qint64 size = QFileInfo(one).size();
+    const Outcome kept = zel({u"export-fhir"_s, out});
+    EXPECT_EQ(kept.status, 1);
+    EXPECT_EQ(kept.out, line(u"B%2F2.fhir.json"_s));
+    EXPECT_THAT(kept.err, StartsWith("zel export-fhir: There is a file " + one.toStdString()));
+    EXPECT_THAT(kept.err, HasSubstr("--force"));
+    ASSERT_TRUE(QFile::resize(one, 1));
+    EXPECT_EQ(zel({u"export-fhir"_s, out, u"--force"_s, u"--rule"_s, u"esh"_s}).status, 0);
+    EXPECT_EQ(QFileInfo(one).size(), size);
+    EXPECT_EQ(zel({u"export-fhir"_s, out, u"--rule"_s, u"who"_s}).status, 2);
+    EXPECT_EQ(data(), before);
+}
+
 TEST_F(CliExchangeTest, UnknownPatientOrFolderIsTold) {
     const QString none = out + u"/none"_s;
     const std::pair<QStringList, const char*> cases[] = {
@@ -79,8 +98,10 @@ TEST_F(CliExchangeTest, UnknownPatientOrFolderIsTold) {
         {{u"download"_s, u"--patient"_s, u"nobody"_s}, "'nobody'"},
         {{u"export-xml"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},
         {{u"export-csv"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},
+        {{u"export-fhir"_s, out, u"--patient"_s, u"nobody"_s}, "'nobody'"},
         {{u"export-xml"_s, none, u"--patient"_s, u"A1"_s}, "no folder"},
         {{u"export-csv"_s, none, u"--patient"_s, u"A1"_s}, "no folder"},
+        {{u"export-fhir"_s, none}, "no folder"},
     };
     for (const auto& [command, reason] : cases) {
         const Outcome outcome = zel(command);

@@ -22,6 +22,7 @@ CASES = {
     "zel report --paper ": {"A4", "Letter"},
     "zel report --rule ": {"esh", "nice", "aha"},
     "zel average --rule ": {"esh", "nice", "aha"},
+    "zel export-fhir folder.d --rule ": {"esh", "nice", "aha"},
     "zel report --section t": {"table", "trend"},
     "zel report --section graph,t": {"graph,table", "graph,trend"},
     "zel settings --set Sys": {"SysStandard="},

@@ -6,7 +6,7 @@ import os
 import re
 import sys
 
-BELOW = ("store", "monitor", "analysis", "chart", "report")
+BELOW = ("store", "monitor", "analysis", "chart", "report", "fhir")
 PAGE = ("store", "analysis", "chart", "app/widgets", "app/frame")
 PAGES = ("app/patients", "app/table", "app/graph", "app/printing", "app/settings")
 
@@ -17,6 +17,7 @@ DOORS = {
     "analysis": ("store",),
     "chart": ("store", "analysis"),
     "report": ("store", "analysis", "chart"),
+    "fhir": ("store", "analysis"),
     "app/widgets": ("store", "chart"),
     "app/device": ("store", "monitor", "app/widgets"),
     "app/frame": ("store", "analysis", "chart", "app/widgets", "app/device"),
@@ -24,7 +25,7 @@ DOORS = {
     "app/table": (*PAGE, "app/device"),
     "app/graph": PAGE,
     "app/printing": ("store", "analysis", "chart", "report", "app/widgets"),
-    "app/settings": ("store", "app/widgets", "app/device"),
+    "app/settings": ("store", "analysis", "fhir", "app/widgets", "app/device"),
     "app/shell": (*BELOW, "app/widgets", "app/device", "app/frame", *PAGES),
     "cli": BELOW,
 }

@@ -1,5 +1,7 @@
 #include "app/settings/ExportController.h"
 
+#include "fhir/FhirExport.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMap>
@@ -77,6 +79,20 @@ void ExportController::exportCSV() {
             return parts.store.exportCSV(folder, ID, replace);
         },
         [] { return StoreResult(); });
+}
+
+void ExportController::exportFhir(AverageRule rule) {
+    if (!parts.store.getPatientByID(parts.store.getCurrentID()))
+        return parts.panel.ShowMessage(qtTrId("exportNoPatient"), qtTrId("ExportTitle"));
+    if (!parts.isReady()) return;
+    const QString folder = parts.chooser.chooseFolder(window, qtTrId("exportFhirFolder"));
+    if (folder.isEmpty()) return;
+    outcome = {.folder = folder};
+    const auto bundles = std::make_shared<fhir::FhirExport>(parts.store, folder, rule);
+    write(
+        {parts.store.getCurrentID()}, fhir::fileExtension.toString(),
+        [bundles](const QString& ID, Replace replace) { return bundles->write(ID, replace); },
+        [bundles] { return bundles->finish(); });
 }
 
 void ExportController::write(const QStringList& IDs, const QString& extension, const Writer& writer,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/MeasuringWeek.h"
 #include "app/widgets/FileChooser.h"
 #include "app/widgets/StepProgress.h"
 #include "store/DataStore.h"
@@ -43,6 +44,8 @@ public:
     void exportFiles();
     /// The current patient, as a CSV file.
     void exportCSV();
+    /// The current patient, as a bundle for other programs' health records; \p rule: of the average.
+    void exportFhir(AverageRule rule);
 
 private:
     /// A file to be written.

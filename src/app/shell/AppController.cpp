@@ -7,6 +7,7 @@
 #include "app/printing/PrintController.h"
 #include "app/settings/BackupCourier.h"
 #include "app/settings/BackupDialog.h"
+#include "app/settings/ExportController.h"
 #include "app/settings/SettingController.h"
 #include "app/shell/HelpWindow.h"
 #include "app/shell/SplashWindow.h"
@@ -50,6 +51,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::backupsWanted, this, &AppController::showBackups);
     connect(&window, &MainWindow::printWanted, this, &AppController::showPrint);
     connect(&window, &MainWindow::pdfWanted, this, &AppController::showSavePdf);
+    connect(&window, &MainWindow::fhirWanted, this, &AppController::exportFhir);
     connect(&window, &MainWindow::helpWanted, this, &AppController::showHelp);
     connect(&window, &MainWindow::aboutWanted, this, &AppController::showAbout);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
@@ -305,6 +307,14 @@ void AppController::showPrintPreview(PrintPurpose purpose) {
                       .trendApart = graphPage->isTrendApart()};
     graphPage->setupDrawChart(views.lowerChart, views.bloodChart);
     printController->showPrintPreview(window.pageInView(), views, purpose);
+}
+
+void AppController::exportFhir() {
+    if (!exporter)
+        exporter = new ExportController(
+            {parts.store, parts.panel, parts.chooser, [this] { return pageInView().readyToPrint(); }},
+            &window);
+    exporter->exportFhir(parts.period.getWeekRule());
 }
 
 void AppController::showHelp() {

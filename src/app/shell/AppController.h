@@ -18,6 +18,7 @@ namespace zel {
 
 class BackupCourier;
 class BackupDialog;
+class ExportController;
 class GraphViewController;
 class HelpWindow;
 class PatientViewController;
@@ -74,6 +75,7 @@ public:
     void showBackups();
     void showPrint();
     void showSavePdf();
+    void exportFhir();
     void showHelp();
     void showAbout();
     void savePatient();
@@ -129,6 +131,7 @@ private:
     PrintController* printController = nullptr;         ///< likewise
     HelpWindow* helpWindow = nullptr;                   ///< likewise
     BackupDialog* backupDialog = nullptr;               ///< likewise
+    ExportController* exporter = nullptr;               ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     DayNumber toldNotBackedUp = noDay; ///< the last day on which it was

@@ -34,6 +34,7 @@ QMenuBar* makeMainMenu(MainWindow& window, const DataStore& store, const Monitor
     add(window, file, {u"showPrint"_s, qtTrId("menuPrint"), QKeySequence::Print, &MainWindow::printWanted});
     add(window, file,
         {u"showSavePdf"_s, qtTrId("menuSavePdf"), Qt::CTRL | Qt::SHIFT | Qt::Key_P, &MainWindow::pdfWanted});
+    add(window, file, {u"exportFhir"_s, qtTrId("menuExportFhir"), {}, &MainWindow::fhirWanted});
     file.addSeparator();
     add(window, file,
         {u"showSetting"_s, qtTrId("menuSettings"), Qt::CTRL | Qt::Key_Comma, &MainWindow::settingWanted});

@@ -45,6 +45,7 @@ signals:
     void redoWanted();
     void printWanted();
     void pdfWanted();
+    void fhirWanted();
     void helpWanted();
     void aboutWanted();
     void closeWanted();

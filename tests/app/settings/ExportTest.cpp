@@ -1,4 +1,5 @@
 #include "SettingDialogTest.h"
+#include "app/settings/ExportController.h"
 #include "app/settings/ImportController.h"
 
 #include <QDir>
@@ -146,6 +147,31 @@ TEST_F(ExportTest, ofACSVFileNeedsAPatient) {
     EXPECT_EQ(files(), QStringList(u"P002.csv"_s));
     EXPECT_TRUE(content(u"P002.csv"_s).contains("date,time,sys(mmHg)"));
     EXPECT_EQ(message(), qtTrId("ExportTitle") + u": "_s + qtTrId("ExportMsg", 1).arg(outside.path()));
+}
+
+TEST_F(ExportTest, ofABundleIsOfTheChosenPatientAndAsksBeforeItReplaces) {
+    attach();
+    show(new QWidget);
+    bool isReady = true;
+    ExportController exporter({store, panel, chooser, [&isReady] { return isReady; }}, host.get());
+    addPatients(2);
+    exporter.exportFhir(AverageRule::esh);
+    EXPECT_EQ(message(), qtTrId("ExportTitle") + u": "_s + qtTrId("exportNoPatient"));
+    store.setCurrentID(u"P002"_s);
+    isReady = false;
+    exporter.exportFhir(AverageRule::esh);
+    EXPECT_TRUE(chooser.asked.isEmpty() && panel.messages.empty()) << "what is typed is settled first";
+    isReady = true;
+    exporter.exportFhir(AverageRule::esh);
+    EXPECT_EQ(files(), QStringList(u"P002.fhir.json"_s));
+    EXPECT_TRUE(content(u"P002.fhir.json"_s).contains("P002"));
+    EXPECT_FALSE(content(u"P002.fhir.json"_s).contains("P001"));
+    EXPECT_EQ(message(), qtTrId("ExportTitle") + u": "_s + qtTrId("ExportMsg", 1).arg(outside.path()));
+    put(u"P002.fhir.json"_s, "old");
+    panel.answers[qtTrId("exportReplaceTitle")] = false;
+    exporter.exportFhir(AverageRule::esh);
+    EXPECT_EQ(content(u"P002.fhir.json"_s), "old");
+    EXPECT_EQ(panel.questions, QStringList(qtTrId("exportReplaceTitle")));
 }
 
 TEST_F(ExportTest, importTellsOfEachFileAndReloadsOnce) {

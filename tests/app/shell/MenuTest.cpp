@@ -148,6 +148,24 @@ TEST_F(MenuTest, aPatientTypedInExportedAndDeletedComesBackEqual) {
     EXPECT_EQ(find<QAbstractItemView>("tblPatients").model()->rowCount(), 1) << "the roster has read it";
 }
 
+TEST_F(MenuTest, aPatientGoesOutAsABundleWithWhatIsTypedAndByTheRuleChosen) {
+    addPatient(u"P1"_s, u"Adams"_s);
+    start();
+    ReadingList taken(1);
+    taken[0].sys = 121;
+    taken[0].ReadingDate = StrToDate(u"202603011234"_s, u"yyyyMMddHHmm"_s);
+    ASSERT_TRUE(store.newDataTransfer(taken));
+    period.setWeekRule(AverageRule::aha);
+    type("FamilyName", u"Brown"_s);
+    const QTemporaryDir outside;
+    chooser.folder = outside.path();
+    window().findChild<QAction*>(u"exportFhir"_s)->trigger();
+    QFile file(outside.filePath(u"P1.fhir.json"_s));
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    const QByteArray written = file.readAll();
+    EXPECT_TRUE(written.contains("\"Brown\"") && written.contains("rule AHA")) << written.toStdString();
+}
+
 TEST_F(MenuTest, backupsAreMadeAndGoneBackTo) {
     addPatient(u"P1"_s, u"Adams"_s);
     start();
