@@ -3,6 +3,7 @@
 #include "analysis/ReadingCount.h"
 #include "app/frame/PeriodMoves.h"
 #include "app/graph/BloodView.h"
+#include "app/graph/ChartWords.h"
 #include "app/graph/PointedReading.h"
 #include "app/graph/PulseView.h"
 
@@ -252,9 +253,10 @@ void DrawGraphicVC::describe() {
     for (const ChartReading& reading : source.data.maReading)
         if (source.period.contains(reading.date) && MatchedDataType(source.view, reading.isPMData))
             ++(reading.isExcluded ? counts.excluded : counts.counted);
-    const QString count = zel::describe(counts);
-    for (ChartView* view : {static_cast<ChartView*>(bloodView), static_cast<ChartView*>(pulseView)})
-        view->setAccessibleDescription(qtTrId("chartKeys").arg(count));
+    const QString keys = qtTrId("chartKeys").arg(zel::describe(counts));
+    const ChartWords figures = spokenFigures(source);
+    bloodView->setAccessibleDescription(figures.blood.isEmpty() ? keys : keys + u'\n' + figures.blood);
+    pulseView->setAccessibleDescription(figures.pulse.isEmpty() ? keys : keys + u'\n' + figures.pulse);
 }
 
 } // namespace zel
