@@ -1,5 +1,6 @@
 """The program as a screen reader meets it: started for itself, its windows read and worked over the desktop's
 accessibility bus. Nothing here knows a coordinate, a key or a widget."""
+import functools
 import os
 import signal
 import subprocess
@@ -99,6 +100,15 @@ class Node:
         for child in self.shown_children:
             yield from child.shown()
 
+    def nearest(self, role, name, where):
+        """The first one, those of the same depth before what is in them."""
+        waiting = [self]
+        for node in waiting:
+            if role in (None, node.role) and name in (None, node.name) and where(node):
+                return node
+            waiting += node.shown_children
+        return None
+
     def all(self, role=None, name=None):
         return [node for node in self.shown() if role in (None, node.role) and name in (None, node.name)]
 
@@ -126,6 +136,24 @@ class Node:
 
     def __str__(self):
         return f"{self.role} '{self.name}'"
+
+
+class Still(Node):
+    """As it was when it was first asked: for whoever asks the same several times."""
+    role = functools.cached_property(Node.role.fget)
+    name = functools.cached_property(Node.name.fget)
+    description = functools.cached_property(Node.description.fget)
+    text = functools.cached_property(Node.text.fget)
+    size = functools.cached_property(Node.size.fget)
+    labels = functools.cached_property(Node.labels.fget)
+    states = functools.cached_property(lambda self: self.given.get_state_set())
+
+    def has(self, state):
+        return self.states.contains(state)
+
+    @functools.cached_property
+    def shown_children(self):
+        return [child for child in (Still(each.given) for each in self.children) if child.is_showing]
 
 
 class Program:
@@ -161,9 +189,9 @@ class Program:
     def find(self, role, name, inside=None, where=lambda node: True):
         def look():
             for window in [inside] if inside else self.windows:
-                for node in window.all(role, name):
-                    if where(node):
-                        return node
+                node = window.nearest(role, name, where)
+                if node:
+                    return node
             return None
         return wait(look, f"the {role} '{name}'")
 

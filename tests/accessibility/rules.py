@@ -1,5 +1,5 @@
 """What holds for every control that shows."""
-from desk import State
+from desk import State, Still
 
 ENTRIES = {"text", "password text", "spin button", "date editor", "combo box", "entry"}
 CONTROLS = ENTRIES | {"push button", "toggle button", "check box", "radio button", "page tab", "menu item", "menu",
@@ -9,7 +9,7 @@ DRAWN = {"image", "chart", "icon"}
 ICON = 100  # pixels; a picture without a name that is no larger only adorns
 SPECK = 8  # pixels; what is smaller holds nothing to be read
 INSIDE = {"scroll bar"}  # parts of a control, named by what they are a part of
-WHOLE = {"table", "tree", "tree table", "list", "combo box", "spin button", "date editor", "text", "scroll bar"}
+WHOLE = {"label", "table", "tree", "tree table", "list", "combo box", "spin button", "date editor", "text", "scroll bar"}
 
 
 def name_of_control(node, _):
@@ -37,7 +37,7 @@ def drawn(node, _):
 def entry(node, _):
     if node.role not in ENTRIES:
         return
-    labels = [label.name.strip(" :") for label in node.labels]
+    labels = [label.name.strip(" :") for label in node.labels if label.role == "label"]
     for label in labels:
         if not node.name.casefold().startswith(label.casefold()):
             yield f"is written '{label}', and called something else"
@@ -48,7 +48,7 @@ def entry(node, _):
 def label(node, _):
     if node.role != "label":
         return
-    if node.labels and node.text is None:
+    if any(each.role == "label" for each in node.labels) and node.text is None:
         yield "has a caption, and no value"
     if node.text is not None and node.text == node.name:
         yield "says its caption twice"
@@ -65,9 +65,9 @@ def siblings(_, children):
 
 
 def captions(_, children):
-    said = [child.name for child in children if child.role == "label" and child.text is None and child.name]
-    for again in sorted({name for name in said if said.count(name) > 1}):
-        yield f"says '{again}' twice"
+    for one, next_one in zip(children, children[1:]):
+        if one.role == next_one.role == "label" and one.text is next_one.text is None and one.name == next_one.name != "":
+            yield f"says '{one.name}' twice"
 
 
 def tabs(node, children):
@@ -86,6 +86,7 @@ RULES = (name_of_control, drawn, entry, label, siblings, captions, tabs)
 
 def findings(node, path=()):
     """What is wrong with the node and all that shows in it, in words."""
+    node = Still(node.given) if not isinstance(node, Still) else node
     where = path + (str(node),)
     children = node.shown_children
     for rule in RULES:

@@ -17,8 +17,8 @@ WINDOWS = {  # what a menu opens: its title, and the button that closes it again
     ("File", "Save as PDF …"): ("Save as PDF", "Cancel"),
     ("File", "Settings …"): ("Settings", "Cancel"),
     ("File", "Backups …"): ("Backups", "Close"),
-    ("Help", "Manual"): ("Manual", "Close"),
     ("Help", "About ZEL"): ("ZEL", "OK"),
+    ("Help", "Manual"): ("Manual", None),  # beside which one works on
 }
 
 
@@ -61,10 +61,18 @@ class Walk:
     def quiet_zoom(self, program):
         """To widen the period moves nobody's focus but to what shows."""
         moved = []
-        listener = desk.Atspi.EventListener.new(lambda event: moved.append(desk.Node(event.source)))
+
+        def note(event):
+            try:
+                node = desk.Node(event.source)
+                moved.append((str(node), str(desk.Node(event.source.get_parent())), node.is_showing))
+            except desk.GLib.Error:
+                moved.append(("something that is gone", "", False))
+
+        listener = desk.Atspi.EventListener.new(note)
         listener.register("object:state-changed:focused")
         listener.register("focus:")
-        begin = program.find(None, "From")
+        begin = program.find(None, "From", where=lambda node: node.text is not None)
         before = begin.text
         program.press("push button", "More days: one more at each end of the period")
         wait(lambda: begin.text != before, "another period")
@@ -73,9 +81,9 @@ class Walk:
         desk.hear()
         listener.deregister("object:state-changed:focused")
         listener.deregister("focus:")
-        for node in moved:
-            if not node.is_showing:
-                self.found[f"{node} does not show, and takes the focus"] = "zoom"
+        for node, parent, is_showing in moved:
+            if not is_showing:
+                self.found[f"{node} in {parent} does not show, and takes the focus"] = "zoom"
 
     def menus(self, program):
         for menu in {menu: None for menu, _ in WINDOWS}:
@@ -87,8 +95,19 @@ class Walk:
             program.choose(menu, item)
             window = program.window(title)
             self.look(f"{menu}, {item}", window)
+            if title == "Settings":
+                self.importing(program, window)
+            if not close:
+                continue
             program.press("push button", close, window)
             program.gone(title)
+
+    def importing(self, program, settings):
+        program.press("push button", "Import …", settings)
+        window = program.window("Import patients")
+        self.look("Settings, Import …", window)
+        program.press("push button", "Cancel", window)
+        program.gone("Import patients")
 
     def dialogs(self, program):
         """What the pages' buttons open."""

@@ -47,7 +47,10 @@ DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayP
     connect(&store, &DataStore::reloaded, this, &DrawGraphicVC::reload);
     connect(&store, &DataStore::currentIDChanged, this, &DrawGraphicVC::reload);
     connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::showPeriod);
-    connect(pointed, &PointedReading::changed, this, &DrawGraphicVC::chosenReadingChanged);
+    connect(pointed, &PointedReading::changed, this, [this] {
+        if (!pointed->reading()) describe(); // the charts have said that reading's values until now
+        emit chosenReadingChanged();
+    });
     reload();
 }
 

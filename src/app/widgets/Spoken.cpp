@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QSplitter>
 
 namespace zel {
 
@@ -135,6 +136,7 @@ QAccessibleInterface* makeSpoken(const QString&, QObject* object) {
     auto* choice = qobject_cast<QComboBox*>(widget);
     if (choice && !choice->isEditable()) return new SpokenChoice(*choice);
     if (const auto* table = dynamic_cast<const SpokenTable*>(widget)) return new SpokenGrid(*widget, *table);
+    if (qobject_cast<QSplitterHandle*>(widget)) return new QAccessibleWidget(widget, QAccessible::Separator);
     const QVariant role = widget->property(roleProperty);
     if (!role.isValid()) return nullptr;
     if (auto* label = qobject_cast<QLabel*>(widget)) return new SpokenValue(*label);
