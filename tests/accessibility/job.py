@@ -7,6 +7,7 @@ import tempfile
 import desk
 from desk import State, wait
 
+READINGS = 62  # in the demonstration's monitor
 MAIN = "ZEL – blood pressure readings"
 
 
@@ -35,7 +36,7 @@ def value(program, caption):
 def download(program):
     wait(lambda: value(program, "ID") == "DEMO1", "the monitor's ID")
     program.press("push button", "Download")
-    wait(lambda: value(program, "Readings of this patient") == "62", "the readings")
+    wait(lambda: value(program, "Readings of this patient") == str(READINGS), "the readings")
     wait(lambda: not any(window.name == "Download readings" for window in program.windows), "the download to end")
 
 
@@ -56,10 +57,11 @@ def figures(program):
 def read_table(program):
     program.press("page tab", "Readings")
     program.press("radio button", "All")
+    program.press("check box", "Undated readings")
     table = program.find("table", "List of readings")
     shape = table.given.get_table_iface()
+    wait(lambda: desk.Atspi.Table.get_n_rows(shape) == READINGS, f"{READINGS} rows in the table")
     rows = range(desk.Atspi.Table.get_n_rows(shape))
-    wait(lambda: desk.Atspi.Table.get_n_rows(shape) >= 31, "the table's rows")
     systolic = [cell(table, row, 2).split()[0].rstrip(",") for row in rows if cell(table, row, 2)[:1].isdigit()]
     said = figures(program)["Systolic pressure, mmHg"]
     numbers = sorted(map(int, systolic))

@@ -6,9 +6,11 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QRadioButton>
 #include <QSplitter>
 
 namespace zel {
@@ -92,27 +94,44 @@ private:
     QLabel& value;
 };
 
-class SpokenTab final : public QAccessibleWidget {
+/// A page tab, or a box or radio button. Qt's own turn those without a click, to which the program would not
+/// answer.
+class SpokenSwitch final : public QAccessibleWidget {
 public:
-    explicit SpokenTab(QAbstractButton& button)
-        : QAccessibleWidget(&button, QAccessible::PageTab), tab(button) {}
+    SpokenSwitch(QAbstractButton& button, QAccessible::Role role)
+        : QAccessibleWidget(&button, role), shown(button) {}
 
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Accelerator ? shown.shortcut().toString(QKeySequence::NativeText)
+                                                : QAccessibleWidget::text(kind);
+    }
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State now = QAccessibleWidget::state();
-        now.selectable = true;
-        now.selected = tab.isChecked();
+        const bool isTab = role() == QAccessible::PageTab;
+        now.selectable = isTab;
+        now.selected = isTab && shown.isChecked();
+        now.checkable = !isTab;
+        now.checked = !isTab && shown.isChecked();
         return now;
     }
     [[nodiscard]] QStringList actionNames() const override {
-        return tab.isEnabled() ? QStringList{pressAction(), setFocusAction()} : QStringList();
+        return shown.isEnabled() ? QStringList{click(), setFocusAction()} : QStringList();
     }
     void doAction(const QString& name) override {
-        if (name != pressAction()) return QAccessibleWidget::doAction(name);
-        if (tab.isEnabled()) tab.click();
+        if (name != click()) return QAccessibleWidget::doAction(name);
+        if (shown.isEnabled()) shown.click();
+    }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString& name) const override {
+        if (name != click() || shown.shortcut().isEmpty()) return {};
+        return {shown.shortcut().toString()};
     }
 
 private:
-    QAbstractButton& tab;
+    [[nodiscard]] QString click() const {
+        return role() == QAccessible::PageTab ? pressAction() : toggleAction();
+    }
+
+    QAbstractButton& shown;
 };
 
 } // namespace
@@ -136,11 +155,15 @@ QAccessibleInterface* makeSpoken(const QString&, QObject* object) {
     auto* choice = qobject_cast<QComboBox*>(widget);
     if (choice && !choice->isEditable()) return new SpokenChoice(*choice);
     if (const auto* table = dynamic_cast<const SpokenTable*>(widget)) return new SpokenGrid(*widget, *table);
+    if (auto* box = qobject_cast<QCheckBox*>(widget)) return new SpokenSwitch(*box, QAccessible::CheckBox);
+    if (auto* one = qobject_cast<QRadioButton*>(widget))
+        return new SpokenSwitch(*one, QAccessible::RadioButton);
     if (qobject_cast<QSplitterHandle*>(widget)) return new QAccessibleWidget(widget, QAccessible::Separator);
     const QVariant role = widget->property(roleProperty);
     if (!role.isValid()) return nullptr;
     if (auto* label = qobject_cast<QLabel*>(widget)) return new SpokenValue(*label);
-    if (auto* tab = qobject_cast<QAbstractButton*>(widget)) return new SpokenTab(*tab);
+    if (auto* tab = qobject_cast<QAbstractButton*>(widget))
+        return new SpokenSwitch(*tab, static_cast<QAccessible::Role>(role.toInt()));
     return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()));
 }
 

@@ -4,8 +4,10 @@
 #include "app/widgets/SeenName.h"
 #include "support/WidgetTest.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTableView>
 
 namespace zel {
@@ -85,6 +87,24 @@ TEST_F(SpokenTest, ATabIsPressedAndSaysWhetherItIsTheChosenOne) {
     EXPECT_TRUE(node.state().selected);
     tab.setEnabled(false);
     EXPECT_TRUE(node.actionInterface()->actionNames().isEmpty());
+}
+
+TEST_F(SpokenTest, ABoxAndARadioButtonAreClickedAndNotOnlyTurned) {
+    QCheckBox box;
+    QRadioButton radio;
+    for (QAbstractButton* button :
+         {static_cast<QAbstractButton*>(&box), static_cast<QAbstractButton*>(&radio)}) {
+        int clicks = 0;
+        QObject::connect(button, &QAbstractButton::clicked, button, [&clicks] { ++clicks; });
+        button->setShortcut(Qt::ALT | Qt::Key_U);
+        QAccessibleInterface& node = of(*button);
+        const QString action = node.actionInterface()->actionNames().value(0);
+        EXPECT_FALSE(node.state().checked);
+        node.actionInterface()->doAction(action);
+        EXPECT_TRUE(node.state().checked);
+        EXPECT_EQ(clicks, 1);
+        EXPECT_EQ(node.actionInterface()->keyBindingsForAction(action), QStringList{u"Alt+U"_s});
+    }
 }
 
 TEST_F(SpokenTest, ADrawnTableHasHeadingsAndCellsThatFollowIt) {
