@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>Bitte geben Sie Jahr, Monat und Tag an oder keines davon.</translation></message>
     <message id="birthDateInFuture"><translation>Dieser Tag liegt in der Zukunft.</translation></message>
     <message id="birthDateTooOld"><translation>Das ist mehr als %1 Jahre her.</translation></message>
-    <message id="birthDay"><translation>Tag der Geburt</translation></message>
     <message id="birthDayNone"><translation>Tag</translation></message>
     <message id="birthDayRefused"><translation>Den %1. gibt es in diesem Monat nicht.</translation></message>
-    <message id="birthMonth"><translation>Geburtsmonat</translation></message>
     <message id="birthMonthNone"><translation>Monat</translation></message>
-    <message id="birthYear"><translation>Geburtsjahr</translation></message>
     <message id="birthYearNone"><translation>Jahr</translation></message>
     <message id="birthYearRefused"><translation>Bitte geben Sie das Jahr mit vier Ziffern an, z. B. 1956.</translation></message>
     <message id="bloodChart"><translation>Blutdruck im Verlauf</translation></message>
@@ -396,6 +393,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fieldMissing"><translation>Bitte füllen Sie dieses Feld aus.</translation></message>
     <message id="fieldPatientNotes"><translation>Notizen zu diesem Patienten</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefon / E-Mail</translation></message>
+    <message id="fieldRequiredSpoken"><translation>erforderlich</translation></message>
     <message id="fieldSex"><translation>Geschlecht</translation></message>
     <message id="fieldSmoker"><translation>Rauchen</translation></message>
     <message id="fieldWeightKg"><translation>Gewicht (kg)</translation></message>
@@ -543,6 +541,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="pageChart"><translation>Diagramm</translation></message>
     <message id="pagePatients"><translation>Patienten</translation></message>
     <message id="pageReadings"><translation>Messungen</translation></message>
+    <message id="pageTabs"><translation>Seiten</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n Patient</numerusform><numerusform>%n Patienten</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1 wurde gelöscht.</translation></message>
@@ -714,7 +713,6 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="tabHint"><translation>%1 (Strg+%2)</translation></message>
     <message id="tabPatients"><translation>&amp;Patienten</translation></message>
     <message id="tabReadings"><translation>&amp;Messungen</translation></message>
-    <message id="tabShown"><translation>angezeigt</translation></message>
     <message id="takeInAction"><translation>Ausschluss aufheben</translation></message>
     <message id="timeScroller"><translation>Zeitraum entlang der Messungen verschieben</translation></message>
     <message id="timeScrollerHint"><translation>Zeitraum entlang der Messungen verschieben. Das Mausrad über dem Diagramm bewirkt dasselbe. Mit Strg zeigt es weniger Tage und diese größer, wenn Sie es von sich weg drehen, und mehr Tage, wenn Sie es zu sich hin drehen.</translation></message>
@@ -758,6 +756,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="viewLastName"><translation>Letzte %1 Tage</translation></message>
     <message id="viewPM"><translation>Abends</translation></message>
     <message id="viewPMHint"><translation>Die Messungen ab 12 Uhr an den angezeigten Tagen.</translation></message>
+    <message id="viewTabs"><translation>Ansichten</translation></message>
     <message id="viewWeek"><translation>Mess&amp;woche</translation></message>
     <message id="viewWeekHint"><translation>Die sieben Tage der Messwoche, für die der Mittelwert berechnet wird.</translation></message>
     <message id="weekBelow"><translation>Unter %1</translation></message>

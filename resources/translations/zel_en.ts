@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>Please give year, month and day, or none of the three.</translation></message>
     <message id="birthDateInFuture"><translation>This day is still to come.</translation></message>
     <message id="birthDateTooOld"><translation>This is more than %1 years ago.</translation></message>
-    <message id="birthDay"><translation>Day of birth</translation></message>
     <message id="birthDayNone"><translation>Day</translation></message>
     <message id="birthDayRefused"><translation>This month has no day %1.</translation></message>
-    <message id="birthMonth"><translation>Month of birth</translation></message>
     <message id="birthMonthNone"><translation>Month</translation></message>
-    <message id="birthYear"><translation>Year of birth</translation></message>
     <message id="birthYearNone"><translation>Year</translation></message>
     <message id="birthYearRefused"><translation>Please give the year in four digits, such as 1956.</translation></message>
     <message id="bloodChart"><translation>Blood pressure over time</translation></message>
@@ -396,6 +393,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fieldMissing"><translation>Please fill in this field.</translation></message>
     <message id="fieldPatientNotes"><translation>Notes on this patient</translation></message>
     <message id="fieldPhoneEmail"><translation>Phone / e-mail</translation></message>
+    <message id="fieldRequiredSpoken"><translation>required</translation></message>
     <message id="fieldSex"><translation>Sex</translation></message>
     <message id="fieldSmoker"><translation>Smoker</translation></message>
     <message id="fieldWeightKg"><translation>Weight (kg)</translation></message>
@@ -543,6 +541,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="pageChart"><translation>Chart</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
     <message id="pageReadings"><translation>Readings</translation></message>
+    <message id="pageTabs"><translation>Pages</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1 has been deleted.</translation></message>
@@ -714,7 +713,6 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>&amp;Patients</translation></message>
     <message id="tabReadings"><translation>&amp;Readings</translation></message>
-    <message id="tabShown"><translation>shown now</translation></message>
     <message id="takeInAction"><translation>Take In Again</translation></message>
     <message id="timeScroller"><translation>Move the period through the readings</translation></message>
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
@@ -758,6 +756,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewLastName"><translation>Last %1 days</translation></message>
     <message id="viewPM"><translation>PM</translation></message>
     <message id="viewPMHint"><translation>The readings from noon on, of the days shown.</translation></message>
+    <message id="viewTabs"><translation>Views</translation></message>
     <message id="viewWeek"><translation>Measuring wee&amp;k</translation></message>
     <message id="viewWeekHint"><translation>The seven days that are averaged as the measuring week.</translation></message>
     <message id="weekBelow"><translation>Below %1</translation></message>

@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>Indique año, mes y día, o ninguno de los tres.</translation></message>
     <message id="birthDateInFuture"><translation>Ese día aún no ha llegado.</translation></message>
     <message id="birthDateTooOld"><translation>De esa fecha hace más de %1 años.</translation></message>
-    <message id="birthDay"><translation>Día de nacimiento</translation></message>
     <message id="birthDayNone"><translation>Día</translation></message>
     <message id="birthDayRefused"><translation>Ese mes no tiene día %1.</translation></message>
-    <message id="birthMonth"><translation>Mes de nacimiento</translation></message>
     <message id="birthMonthNone"><translation>Mes</translation></message>
-    <message id="birthYear"><translation>Año de nacimiento</translation></message>
     <message id="birthYearNone"><translation>Año</translation></message>
     <message id="birthYearRefused"><translation>Indique el año con cuatro cifras, por ejemplo 1956.</translation></message>
     <message id="bloodChart"><translation>Presión arterial a lo largo del tiempo</translation></message>
@@ -396,6 +393,7 @@ mmHg</translation></message>
     <message id="fieldMissing"><translation>Rellene este campo.</translation></message>
     <message id="fieldPatientNotes"><translation>Notas sobre este paciente</translation></message>
     <message id="fieldPhoneEmail"><translation>Teléfono / correo</translation></message>
+    <message id="fieldRequiredSpoken"><translation>obligatorio</translation></message>
     <message id="fieldSex"><translation>Sexo</translation></message>
     <message id="fieldSmoker"><translation>Fumador/a</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
@@ -543,6 +541,7 @@ mmHg</translation></message>
     <message id="pageChart"><translation>Gráfico</translation></message>
     <message id="pagePatients"><translation>Pacientes</translation></message>
     <message id="pageReadings"><translation>Mediciones</translation></message>
+    <message id="pageTabs"><translation>Páginas</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n paciente</numerusform><numerusform>%n pacientes</numerusform></translation></message>
     <message id="patientDeleted"><translation>Se han eliminado los datos de %1.</translation></message>
@@ -714,7 +713,6 @@ mmHg</translation></message>
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>&amp;Pacientes</translation></message>
     <message id="tabReadings"><translation>&amp;Mediciones</translation></message>
-    <message id="tabShown"><translation>visible ahora</translation></message>
     <message id="takeInAction"><translation>Volver a incluir</translation></message>
     <message id="timeScroller"><translation>Desplazar el periodo por las mediciones</translation></message>
     <message id="timeScrollerHint"><translation>Desplazar el periodo por las mediciones. La rueda del ratón sobre el gráfico hace lo mismo; con Ctrl, girarla hacia delante muestra menos días, más de cerca, y hacia atrás, más días.</translation></message>
@@ -758,6 +756,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="viewLastName"><translation>Últimos %1 días</translation></message>
     <message id="viewPM"><translation>Tarde</translation></message>
     <message id="viewPMHint"><translation>Las mediciones a partir del mediodía de los días mostrados.</translation></message>
+    <message id="viewTabs"><translation>Vistas</translation></message>
     <message id="viewWeek"><translation>Semana de medi&amp;ción</translation></message>
     <message id="viewWeekHint"><translation>Los siete días con los que se calcula la media de la semana de medición.</translation></message>
     <message id="weekBelow"><translation>Inferior a %1</translation></message>

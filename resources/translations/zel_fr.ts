@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>Veuillez indiquer l’année, le mois et le jour, ou aucun des trois.</translation></message>
     <message id="birthDateInFuture"><translation>Cette date est encore à venir.</translation></message>
     <message id="birthDateTooOld"><translation>Cette date remonte à plus de %1 ans.</translation></message>
-    <message id="birthDay"><translation>Jour de naissance</translation></message>
     <message id="birthDayNone"><translation>Jour</translation></message>
     <message id="birthDayRefused"><translation>Ce mois ne va pas jusqu’au %1.</translation></message>
-    <message id="birthMonth"><translation>Mois de naissance</translation></message>
     <message id="birthMonthNone"><translation>Mois</translation></message>
-    <message id="birthYear"><translation>Année de naissance</translation></message>
     <message id="birthYearNone"><translation>Année</translation></message>
     <message id="birthYearRefused"><translation>Veuillez indiquer l’année en quatre chiffres, par exemple 1956.</translation></message>
     <message id="bloodChart"><translation>Pression artérielle au cours du temps</translation></message>
@@ -396,6 +393,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fieldMissing"><translation>Veuillez remplir ce champ.</translation></message>
     <message id="fieldPatientNotes"><translation>Notes sur ce patient</translation></message>
     <message id="fieldPhoneEmail"><translation>Téléphone / e-mail</translation></message>
+    <message id="fieldRequiredSpoken"><translation>obligatoire</translation></message>
     <message id="fieldSex"><translation>Sexe</translation></message>
     <message id="fieldSmoker"><translation>Tabagisme</translation></message>
     <message id="fieldWeightKg"><translation>Poids (kg)</translation></message>
@@ -543,6 +541,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="pageChart"><translation>Graphique</translation></message>
     <message id="pagePatients"><translation>Patients</translation></message>
     <message id="pageReadings"><translation>Mesures</translation></message>
+    <message id="pageTabs"><translation>Pages</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n patient</numerusform><numerusform>%n patients</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1 : fiche supprimée.</translation></message>
@@ -714,7 +713,6 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>&amp;Patients</translation></message>
     <message id="tabReadings"><translation>&amp;Mesures</translation></message>
-    <message id="tabShown"><translation>page affichée</translation></message>
     <message id="takeInAction"><translation>Réintégrer</translation></message>
     <message id="timeScroller"><translation>Déplacer la période parmi les mesures</translation></message>
     <message id="timeScrollerHint"><translation>Déplacer la période parmi les mesures. La molette de la souris au-dessus du graphique fait de même ; avec Ctrl, tournée vers l’avant, elle montre moins de jours, de plus près ; tournée vers vous, davantage de jours.</translation></message>
@@ -758,6 +756,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="viewLastName"><translation>%1 derniers jours</translation></message>
     <message id="viewPM"><translation>Soir</translation></message>
     <message id="viewPMHint"><translation>Les mesures à partir de midi, pour les jours affichés.</translation></message>
+    <message id="viewTabs"><translation>Vues</translation></message>
     <message id="viewWeek"><translation>&amp;Semaine de mesure</translation></message>
     <message id="viewWeekHint"><translation>Les sept jours dont la moyenne est celle de la semaine de mesure.</translation></message>
     <message id="weekBelow"><translation>Sous le seuil de %1</translation></message>

@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>Indicare anno, mese e giorno, oppure nessuno dei tre.</translation></message>
     <message id="birthDateInFuture"><translation>Questo giorno deve ancora venire.</translation></message>
     <message id="birthDateTooOld"><translation>Sono passati più di %1 anni da questa data.</translation></message>
-    <message id="birthDay"><translation>Giorno di nascita</translation></message>
     <message id="birthDayNone"><translation>Giorno</translation></message>
     <message id="birthDayRefused"><translation>Questo mese non ha il giorno %1.</translation></message>
-    <message id="birthMonth"><translation>Mese di nascita</translation></message>
     <message id="birthMonthNone"><translation>Mese</translation></message>
-    <message id="birthYear"><translation>Anno di nascita</translation></message>
     <message id="birthYearNone"><translation>Anno</translation></message>
     <message id="birthYearRefused"><translation>Indicare l’anno con quattro cifre, per esempio 1956.</translation></message>
     <message id="bloodChart"><translation>Pressione arteriosa nel tempo</translation></message>
@@ -396,6 +393,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fieldMissing"><translation>Compilare questo campo.</translation></message>
     <message id="fieldPatientNotes"><translation>Note su questo paziente</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefono / e-mail</translation></message>
+    <message id="fieldRequiredSpoken"><translation>obbligatorio</translation></message>
     <message id="fieldSex"><translation>Sesso</translation></message>
     <message id="fieldSmoker"><translation>Fumo</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
@@ -543,6 +541,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="pageChart"><translation>Grafico</translation></message>
     <message id="pagePatients"><translation>Pazienti</translation></message>
     <message id="pageReadings"><translation>Misurazioni</translation></message>
+    <message id="pageTabs"><translation>Pagine</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n paziente</numerusform><numerusform>%n pazienti</numerusform></translation></message>
     <message id="patientDeleted"><translation>%1: paziente eliminato.</translation></message>
@@ -714,7 +713,6 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>&amp;Pazienti</translation></message>
     <message id="tabReadings"><translation>Mis&amp;urazioni</translation></message>
-    <message id="tabShown"><translation>mostrata ora</translation></message>
     <message id="takeInAction"><translation>Includi di nuovo</translation></message>
     <message id="timeScroller"><translation>Sposta il periodo lungo le misurazioni</translation></message>
     <message id="timeScrollerHint"><translation>Sposta il periodo lungo le misurazioni. Lo fa anche la rotellina del mouse sul grafico; con Ctrl, girandola in avanti si vedono meno giorni, più da vicino, e girandola all’indietro più giorni.</translation></message>
@@ -758,6 +756,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="viewLastName"><translation>Ultimi %1 giorni</translation></message>
     <message id="viewPM"><translation>Sera</translation></message>
     <message id="viewPMHint"><translation>Le misurazioni dalle 12 in poi, dei giorni mostrati.</translation></message>
+    <message id="viewTabs"><translation>Viste</translation></message>
     <message id="viewWeek"><translation>&amp;Settimana di misura</translation></message>
     <message id="viewWeekHint"><translation>I sette giorni di cui si calcola la media come settimana di misura.</translation></message>
     <message id="weekBelow"><translation>Sotto la soglia %1</translation></message>

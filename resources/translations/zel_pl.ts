@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>Proszę podać rok, miesiąc i dzień albo pozostawić wszystkie trzy pola puste.</translation></message>
     <message id="birthDateInFuture"><translation>Ten dzień dopiero nadejdzie.</translation></message>
     <message id="birthDateTooOld"><translation>Od tego dnia minęło ponad %1 lat.</translation></message>
-    <message id="birthDay"><translation>Dzień urodzenia</translation></message>
     <message id="birthDayNone"><translation>Dzień</translation></message>
     <message id="birthDayRefused"><translation>Ten miesiąc nie ma dnia %1.</translation></message>
-    <message id="birthMonth"><translation>Miesiąc urodzenia</translation></message>
     <message id="birthMonthNone"><translation>Miesiąc</translation></message>
-    <message id="birthYear"><translation>Rok urodzenia</translation></message>
     <message id="birthYearNone"><translation>Rok</translation></message>
     <message id="birthYearRefused"><translation>Proszę podać rok czterema cyframi, na przykład 1956.</translation></message>
     <message id="bloodChart"><translation>Ciśnienie krwi w czasie</translation></message>
@@ -396,6 +393,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fieldMissing"><translation>Proszę wypełnić to pole.</translation></message>
     <message id="fieldPatientNotes"><translation>Notatki o pacjencie</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefon / e-mail</translation></message>
+    <message id="fieldRequiredSpoken"><translation>wymagane</translation></message>
     <message id="fieldSex"><translation>Płeć</translation></message>
     <message id="fieldSmoker"><translation>Palenie tytoniu</translation></message>
     <message id="fieldWeightKg"><translation>Masa ciała (kg)</translation></message>
@@ -543,6 +541,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="pageChart"><translation>Wykres</translation></message>
     <message id="pagePatients"><translation>Pacjenci</translation></message>
     <message id="pageReadings"><translation>Pomiary</translation></message>
+    <message id="pageTabs"><translation>Strony</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n pacjent</numerusform><numerusform>%n pacjentów</numerusform><numerusform>%n pacjentów</numerusform></translation></message>
     <message id="patientDeleted"><translation>Usunięto: %1.</translation></message>
@@ -714,7 +713,6 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="tabHint"><translation>%1 (Ctrl+%2)</translation></message>
     <message id="tabPatients"><translation>P&amp;acjenci</translation></message>
     <message id="tabReadings"><translation>Po&amp;miary</translation></message>
-    <message id="tabShown"><translation>widoczna teraz</translation></message>
     <message id="takeInAction"><translation>Uwzględnij ponownie</translation></message>
     <message id="timeScroller"><translation>Przesuń okres wzdłuż pomiarów</translation></message>
     <message id="timeScrollerHint"><translation>Przesuwa okres wzdłuż pomiarów. To samo robi kółko myszy nad wykresem; z klawiszem Ctrl obrót kółka od siebie przybliża (mniej dni), a do siebie oddala (więcej dni).</translation></message>
@@ -758,6 +756,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="viewLastName"><translation>Ostatnie %1 dni</translation></message>
     <message id="viewPM"><translation>Wieczór</translation></message>
     <message id="viewPMHint"><translation>Pomiary od południa z pokazanych dni.</translation></message>
+    <message id="viewTabs"><translation>Widoki</translation></message>
     <message id="viewWeek"><translation>&amp;Tydzień pomiarowy</translation></message>
     <message id="viewWeekHint"><translation>Siedem dni, z których liczy się średnią tygodnia pomiarowego.</translation></message>
     <message id="weekBelow"><translation>Poniżej %1</translation></message>

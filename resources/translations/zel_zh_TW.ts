@@ -236,12 +236,9 @@
     <message id="birthDateIncomplete"><translation>請完整填寫年、月、日，或三者皆留空。</translation></message>
     <message id="birthDateInFuture"><translation>這一天尚未到來。</translation></message>
     <message id="birthDateTooOld"><translation>這是超過 %1 年前的日期。</translation></message>
-    <message id="birthDay"><translation>出生日</translation></message>
     <message id="birthDayNone"><translation>日</translation></message>
     <message id="birthDayRefused"><translation>這個月沒有 %1 日。</translation></message>
-    <message id="birthMonth"><translation>出生月份</translation></message>
     <message id="birthMonthNone"><translation>月</translation></message>
-    <message id="birthYear"><translation>出生年份</translation></message>
     <message id="birthYearNone"><translation>年</translation></message>
     <message id="birthYearRefused"><translation>請以四位數的西元年填寫，例如 1956。</translation></message>
     <message id="bloodChart"><translation>血壓隨時間的變化</translation></message>
@@ -396,6 +393,7 @@ mmHg</translation></message>
     <message id="fieldMissing"><translation>請填寫此欄位。</translation></message>
     <message id="fieldPatientNotes"><translation>病患備註</translation></message>
     <message id="fieldPhoneEmail"><translation>電話／電子郵件</translation></message>
+    <message id="fieldRequiredSpoken"><translation>必填</translation></message>
     <message id="fieldSex"><translation>性別</translation></message>
     <message id="fieldSmoker"><translation>吸菸</translation></message>
     <message id="fieldWeightKg"><translation>體重 (kg)</translation></message>
@@ -543,6 +541,7 @@ mmHg</translation></message>
     <message id="pageChart"><translation>圖表</translation></message>
     <message id="pagePatients"><translation>病患</translation></message>
     <message id="pageReadings"><translation>量測紀錄</translation></message>
+    <message id="pageTabs"><translation>頁面</translation></message>
     <message id="pageText"><translation>%1/%2</translation></message>
     <message id="patientCount" numerus="yes"><translation><numerusform>%n 位病患</numerusform></translation></message>
     <message id="patientDeleted"><translation>已刪除 %1。</translation></message>
@@ -714,7 +713,6 @@ mmHg</translation></message>
     <message id="tabHint"><translation>%1（Ctrl+%2）</translation></message>
     <message id="tabPatients"><translation>病患(&amp;P)</translation></message>
     <message id="tabReadings"><translation>量測紀錄(&amp;R)</translation></message>
-    <message id="tabShown"><translation>目前顯示</translation></message>
     <message id="takeInAction"><translation>重新計入</translation></message>
     <message id="timeScroller"><translation>在量測中移動期間</translation></message>
     <message id="timeScrollerHint"><translation>在量測中移動期間。在圖表上轉動滑鼠滾輪也可以；按住 Ctrl 時，往前轉顯示較少天數（放大），往後轉顯示較多天數。</translation></message>
@@ -758,6 +756,7 @@ mmHg</translation></message>
     <message id="viewLastName"><translation>最近 %1 天</translation></message>
     <message id="viewPM"><translation>下午</translation></message>
     <message id="viewPMHint"><translation>所顯示各日中午以後的量測。</translation></message>
+    <message id="viewTabs"><translation>檢視</translation></message>
     <message id="viewWeek"><translation>量測週(&amp;K)</translation></message>
     <message id="viewWeekHint"><translation>用於計算量測週平均的七天。</translation></message>
     <message id="weekBelow"><translation>低於 %1</translation></message>

@@ -1,10 +1,15 @@
 #include "support/WidgetTest.h"
 
+#include "app/widgets/Mnemonic.h"
+
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
 #include <QTest>
 #include <QThread>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -69,8 +74,19 @@ void WidgetTest::expectNamed(const QWidget& parent) {
         ++controls;
         EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
         EXPECT_FALSE(control->accessibleName().isEmpty()) << qPrintable(control->objectName());
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        if (button && std::ranges::any_of(button->text(), [](QChar c) { return c.isLetter(); })) {
+            EXPECT_EQ(button->accessibleName(), withoutMnemonic(button->text()))
+                << qPrintable(button->objectName());
+        }
     }
     EXPECT_GT(controls, 0);
+    for (const auto* label : parent.findChildren<QLabel*>()) {
+        const QString seen = withoutMnemonic(label->text()).remove(u':').trimmed();
+        if (label->buddy()) {
+            EXPECT_TRUE(label->buddy()->accessibleName().startsWith(seen)) << qPrintable(seen);
+        }
+    }
 }
 
 QByteArray WidgetTest::dataFile() const {

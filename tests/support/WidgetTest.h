@@ -54,7 +54,7 @@ protected:
     void type(const char* field, const QString& text);
     /// To whatever has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// Each widget inside that takes the focus has a name and says what it is.
+    /// Each widget inside that takes the focus has a name, which is what is written on it or before it.
     static void expectNamed(const QWidget& parent);
     QByteArray dataFile() const;
     void replaceDataFile(const QByteArray& content) const;

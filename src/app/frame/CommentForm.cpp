@@ -2,6 +2,7 @@
 
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/SeenName.h"
 #include "chart/StyleTable.h"
 
 #include <QApplication>
@@ -53,7 +54,10 @@ void CommentForm::build() {
     int row = 0;
     for (const auto& [title, day] :
          {std::pair(qtTrId("commentBegin"), beginDay), {qtTrId("commentEnd"), endDay}}) {
-        dates->addWidget(new QuietLabel(title, this), row, 0);
+        auto* label = new QuietLabel(title, this);
+        label->setBuddy(day);
+        nameAsSeen(*day, title, day->accessibleName());
+        dates->addWidget(label, row, 0);
         dates->addWidget(day, row++, 1);
     }
     auto* column = new QVBoxLayout(this);
@@ -127,8 +131,8 @@ QWidget* CommentForm::makeButtons() {
     row->addStretch(1);
     btnDelete->setObjectName(u"btnDeleteComment"_s);
     btnDelete->setText(qtTrId("deleteCommentButton"));
-    btnDelete->setAccessibleName(qtTrId("DeleteComment"));
     btnDelete->setToolTip(qtTrId("deleteCommentHint"));
+    nameAsSeen(*btnDelete, btnDelete->text(), qtTrId("DeleteComment"));
     btnDelete->setIconSize({18, 18});
     row->addWidget(btnDelete);
     return buttons;

@@ -70,6 +70,7 @@ QLineEdit* ManualReadingDialog::addNumber(QFormLayout& form, const QString& name
     auto* field = new QLineEdit(this);
     field->setObjectName(name);
     field->setAccessibleName(qtTrId("valueWithUnit").arg(title, unit));
+    field->setAccessibleDescription(qtTrId("fieldRequiredSpoken"));
     field->setMaxLength(8);
     field->setFixedWidth(field->fontMetrics().averageCharWidth() * 12);
     auto* row = new QHBoxLayout;

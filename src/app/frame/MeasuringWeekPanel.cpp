@@ -2,6 +2,7 @@
 
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/SeenName.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -81,6 +82,7 @@ QLayout* MeasuringWeekPanel::makeChoices() {
     row->setSpacing(6);
     auto* label = new QLabel(qtTrId("weekTo"), this);
     label->setBuddy(weekEnd);
+    nameAsSeen(*weekEnd, label->text(), weekEnd->accessibleName());
     row->addWidget(cboWeekRule);
     row->addWidget(label);
     row->addWidget(weekEnd);

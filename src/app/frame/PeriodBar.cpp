@@ -2,7 +2,7 @@
 
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/FlowLayout.h"
-#include "app/widgets/Mnemonic.h"
+#include "app/widgets/SeenName.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -40,7 +40,7 @@ PeriodBar::PeriodBar(const DataStore& dataStore, DisplayPeriod& displayPeriod, M
     parts->setGaps(gap, gapBetweenLines);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     btnAverage->setObjectName(u"btnAverage"_s);
-    btnAverage->setAccessibleName(btnAverage->text());
+    nameAsSeen(*btnAverage, btnAverage->text());
     // Undated readings beside All, on which they depend; in this order two lines are enough on a small
     // screen.
     for (QWidget* part : {makeDays(), makeHalves(), makePeriods(), static_cast<QWidget*>(btnAverage)})
@@ -60,6 +60,7 @@ QWidget* PeriodBar::makeDays() {
          {std::pair(qtTrId("periodFrom"), beginDay), {qtTrId("periodTo"), endDay}}) {
         auto* label = new QLabel(title, days);
         label->setBuddy(edit);
+        nameAsSeen(*edit, title, edit->accessibleName());
         row->addWidget(label);
         row->addWidget(edit);
     }
@@ -110,8 +111,8 @@ QWidget* PeriodBar::makeGroup(QButtonGroup& group, const QString& title, std::sp
     for (const Choice& choice : table) {
         auto* button = new QRadioButton(choice.text, box);
         button->setObjectName(choice.name);
-        button->setAccessibleName(choice.spoken.isEmpty() ? withoutMnemonic(choice.text) : choice.spoken);
         button->setToolTip(choice.hint);
+        nameAsSeen(*button, choice.text, choice.spoken);
         group.addButton(button, choice.tag);
         row->addWidget(button);
     }
@@ -150,6 +151,7 @@ void PeriodBar::offerUndated() {
     const bool isAll = period.getChoice() == PeriodChoice::all;
     btnAverage->setEnabled(isAll);
     btnAverage->setToolTip(isAll ? qtTrId("includeUndatedHint") : qtTrId("viewChoiceNeeded"));
+    nameAsSeen(*btnAverage, btnAverage->text());
 }
 
 void PeriodBar::pick(const QString& refusal) {

@@ -70,6 +70,19 @@ void StatisticView::paintEvent(QPaintEvent*) {
     paintPicture(painter, inColour(picture, palette().color(QPalette::WindowText)), natural.height);
 }
 
+std::vector<QStringList> StatisticView::spokenRows() const {
+    const StatisticFigures statistic = figures();
+    const auto row = [](const QString& name, const MeasureStatistic& measure) {
+        return QStringList{name, maxString(static_cast<std::uint32_t>(measure.average)),
+                           minString(measure.minimum), maxString(measure.maximum)};
+    };
+    return {{accessibleName(), qtTrId("average"), qtTrId("min"), qtTrId("max")},
+            row(qtTrId("spokenSys"), statistic.sys),
+            row(qtTrId("spokenDia"), statistic.dia),
+            row(qtTrId("spokenPulse"), statistic.pulse),
+            row(showsMap() ? qtTrId("spokenMap") : qtTrId("spokenPP"), statistic.mapOrPP)};
+}
+
 QString StatisticView::words(const StatisticFigures& statistic) const {
     QStringList lines;
     const auto add = [&lines](const QString& name, const MeasureStatistic& measure) {

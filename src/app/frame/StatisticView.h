@@ -2,6 +2,7 @@
 
 #include "analysis/DisplayPeriod.h"
 #include "analysis/Statistic.h"
+#include "app/widgets/Spoken.h"
 #include "store/DataStore.h"
 
 #include <QWidget>
@@ -9,7 +10,7 @@
 namespace zel {
 
 /// The table of averages, minima and maxima, computed anew each time it is drawn.
-class StatisticView final : public QWidget {
+class StatisticView final : public QWidget, public SpokenTable {
     Q_OBJECT
 public:
     StatisticView(const DataStore& dataStore, const DisplayPeriod& displayPeriod, QWidget* parent);
@@ -17,6 +18,7 @@ public:
     /// The figures may be others now.
     void calc();
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] std::vector<QStringList> spokenRows() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -4,6 +4,7 @@
 #include "app/graph/CommentImageBtn.h"
 #include "app/graph/DrawGraphicVC.h"
 #include "app/graph/PulseView.h"
+#include "app/widgets/SeenName.h"
 #include "chart/StyleTable.h"
 
 #include <QAction>
@@ -170,7 +171,7 @@ void ChartTools::setColorSelButtonImg(int chosenIndex) {
     commentIcon->setImage(colorIndex);
     colorSelButton->setIcon(swatch(colorIndex));
     colorSelButton->setText(colourName(colorIndex));
-    colorSelButton->setAccessibleDescription(colourName(colorIndex));
+    nameAsSeen(*colorSelButton, colourName(colorIndex), qtTrId("colourButton"));
 }
 
 void ChartTools::showState() {

@@ -2,6 +2,7 @@
 
 #include "app/graph/ChartComments.h"
 #include "app/widgets/Log.h"
+#include "app/widgets/Spoken.h"
 #include "chart/StyleTable.h"
 
 #include <QGuiApplication>
@@ -29,6 +30,7 @@ constexpr QSize pickerSize{36, commentColourTotal* cellHeight};
 CommentColorView::CommentColorView(QWidget* parent) : QWidget(parent, Qt::Popup) {
     setObjectName(u"CommentColorView"_s);
     setAccessibleName(qtTrId("colourPicker"));
+    speakAs(*this, QAccessible::List);
     setFixedSize(pickerSize);
     setMouseTracking(true);
     setAttribute(Qt::WA_TranslucentBackground);

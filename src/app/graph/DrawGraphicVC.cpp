@@ -3,6 +3,7 @@
 #include "analysis/ReadingCount.h"
 #include "app/frame/PeriodMoves.h"
 #include "app/graph/BloodView.h"
+#include "app/graph/ChartWords.h"
 #include "app/graph/PointedReading.h"
 #include "app/graph/PulseView.h"
 
@@ -46,7 +47,10 @@ DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayP
     connect(&store, &DataStore::reloaded, this, &DrawGraphicVC::reload);
     connect(&store, &DataStore::currentIDChanged, this, &DrawGraphicVC::reload);
     connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::showPeriod);
-    connect(pointed, &PointedReading::changed, this, &DrawGraphicVC::chosenReadingChanged);
+    connect(pointed, &PointedReading::changed, this, [this] {
+        if (!pointed->reading()) describe(); // the charts have said that reading's values until now
+        emit chosenReadingChanged();
+    });
     reload();
 }
 
@@ -252,9 +256,10 @@ void DrawGraphicVC::describe() {
     for (const ChartReading& reading : source.data.maReading)
         if (source.period.contains(reading.date) && MatchedDataType(source.view, reading.isPMData))
             ++(reading.isExcluded ? counts.excluded : counts.counted);
-    const QString count = zel::describe(counts);
-    for (ChartView* view : {static_cast<ChartView*>(bloodView), static_cast<ChartView*>(pulseView)})
-        view->setAccessibleDescription(qtTrId("chartKeys").arg(count));
+    const QString keys = qtTrId("chartKeys").arg(zel::describe(counts));
+    const ChartWords figures = spokenFigures(source);
+    bloodView->setAccessibleDescription(figures.blood.isEmpty() ? keys : keys + u'\n' + figures.blood);
+    pulseView->setAccessibleDescription(figures.pulse.isEmpty() ? keys : keys + u'\n' + figures.pulse);
 }
 
 } // namespace zel

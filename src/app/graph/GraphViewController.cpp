@@ -10,6 +10,8 @@
 #include "app/graph/HistogramView.h"
 #include "app/graph/TrendView.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/SeenName.h"
+#include "app/widgets/Spoken.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -90,6 +92,8 @@ void GraphViewController::build() {
 QWidget* GraphViewController::makeSwitch() {
     auto* box = new QWidget(content);
     box->setStyleSheet(switchLook());
+    box->setAccessibleName(qtTrId("viewTabs"));
+    speakAs(*box, QAccessible::PageTabList);
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -101,7 +105,8 @@ QWidget* GraphViewController::makeSwitch() {
         auto* choice = new QToolButton(box);
         choice->setObjectName(names.at(state));
         choice->setText(texts.at(state));
-        choice->setAccessibleName(choice->text());
+        nameAsSeen(*choice, choice->text());
+        speakAs(*choice, QAccessible::PageTab);
         choice->setCheckable(true);
         choice->setFocusPolicy(Qt::StrongFocus);
         group->addButton(choice, static_cast<int>(state));
@@ -115,8 +120,8 @@ QWidget* GraphViewController::makeSwitch() {
 QCheckBox* GraphViewController::makeTrendChoice() {
     auto* choice = new QCheckBox(qtTrId("trendApart"), content);
     choice->setObjectName(u"trendApart"_s);
-    choice->setAccessibleName(choice->text());
     choice->setToolTip(qtTrId("trendApartHint"));
+    nameAsSeen(*choice, choice->text());
     connect(choice, &QCheckBox::toggled, trend, &TrendView::setApart);
     return choice;
 }

@@ -117,12 +117,12 @@ PatientFieldBox* PatientEditor::makeBirthDate() {
     setPlaceholder(*year, qtTrId("birthYearNone"));
     year->setMinimumWidth(year->fontMetrics().averageCharWidth() * 7);
     const auto add = [&](PatientField field, QWidget* input, const QString& name, int stretch) {
-        birth->addInput(input, name, stretch);
+        birth->addInput(input, qtTrId("infoLine").arg(qtTrId("fieldDateOfBirth"), name), stretch);
         place(field, birth, input);
     };
-    add(BirthYear, year, qtTrId("birthYear"), 2);
-    add(BirthMonth, makeChoiceInput(nameOf(BirthMonth), months()), qtTrId("birthMonth"), 3);
-    add(BirthDay, makeChoiceInput(nameOf(BirthDay), days()), qtTrId("birthDay"), 2);
+    add(BirthYear, year, qtTrId("birthYearNone"), 2);
+    add(BirthMonth, makeChoiceInput(nameOf(BirthMonth), months()), qtTrId("birthMonthNone"), 3);
+    add(BirthDay, makeChoiceInput(nameOf(BirthDay), days()), qtTrId("birthDayNone"), 2);
     birth->addRemark(lblAge);
     return birth;
 }
@@ -138,6 +138,7 @@ QWidget* PatientEditor::makeLine(PatientField field) {
 PatientFieldBox* PatientEditor::makeBox(PatientField field, const QString& title, QWidget* input) {
     auto* box = new PatientFieldBox(title, this);
     box->addInput(input, title);
+    if (PatientForm::mustBeFilled(field)) box->require();
     place(field, box, input);
     return box;
 }

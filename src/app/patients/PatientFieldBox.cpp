@@ -19,8 +19,8 @@ constexpr QStringView warningSign = u"\u26A0 "; // not by colour alone
 } // namespace
 
 PatientFieldBox::PatientFieldBox(const QString& title, QWidget* parent)
-    : QWidget(parent), lblTitle(new QuietLabel(title, this)), row(new QWidget(this)),
-      rowLayout(new QHBoxLayout(row)), lblProblem(new QLabel(this)) {
+    : QWidget(parent), lblTitle(new QuietLabel(title, this)), rowLayout(new QHBoxLayout),
+      lblProblem(new QLabel(this)) {
     lblProblem->setTextFormat(Qt::PlainText);
     lblProblem->setWordWrap(true);
     lblProblem->hide();
@@ -32,7 +32,7 @@ PatientFieldBox::PatientFieldBox(const QString& title, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(1);
     column->addWidget(lblTitle);
-    column->addWidget(row);
+    column->addLayout(rowLayout); // beside the title, which names them to screen readers
     column->addWidget(lblProblem);
     column->addStretch(1);
     colourNote();
@@ -56,19 +56,29 @@ void PatientFieldBox::setTitle(const QString& title) {
 void PatientFieldBox::setProblem(const QString& text) {
     lblProblem->setText(text.isEmpty() ? QString() : warningSign % text);
     lblProblem->setVisible(!text.isEmpty());
-    for (QWidget* input : inputs)
-        input->setAccessibleDescription(text);
+    told = text;
+    describe();
     update();
 }
 
-QString PatientFieldBox::problem() const { return inputs.front()->accessibleDescription(); }
+void PatientFieldBox::require() {
+    isRequired = true;
+    describe();
+}
+
+void PatientFieldBox::describe() {
+    QStringList lines{isRequired ? qtTrId("fieldRequiredSpoken") : QString(), told};
+    lines.removeAll(QString());
+    for (QWidget* input : inputs)
+        input->setAccessibleDescription(lines.join(u'\n'));
+}
 
 void PatientFieldBox::paintEvent(QPaintEvent*) {
     if (lblProblem->isHidden()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(alarm(), frameWidth));
-    painter.drawRoundedRect(QRectF(row->geometry()).adjusted(1, 1, -1, -1), 4, 4);
+    painter.drawRoundedRect(QRectF(rowLayout->geometry()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
 void PatientFieldBox::changeEvent(QEvent* event) {

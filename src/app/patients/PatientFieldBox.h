@@ -22,8 +22,10 @@ public:
     void addRemark(QWidget* remark);
     void setTitle(const QString& title);
 
+    /// It cannot be left empty.
+    void require();
     void setProblem(const QString& text); ///< empty: none
-    [[nodiscard]] QString problem() const;
+    [[nodiscard]] QString problem() const { return told; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -31,13 +33,15 @@ protected:
 
 private:
     void colourNote();
+    void describe();
     [[nodiscard]] QColor alarm() const;
 
     QuietLabel* lblTitle;
-    QWidget* row;
     QHBoxLayout* rowLayout;
     QLabel* lblProblem;
     std::vector<QWidget*> inputs;
+    QString told; ///< the problem
+    bool isRequired = false;
 };
 
 } // namespace zel

@@ -101,6 +101,10 @@ QString birthRefusal(const PatientEntry& entry, Instant today) {
 PatientForm::PatientForm(PatientModel record, SettingModel unitSettings, bool isNew)
     : stored(std::move(record)), settings(std::move(unitSettings)), isUnsaved(isNew), shown(entryOf()) {}
 
+bool PatientForm::mustBeFilled(PatientField field) {
+    return std::ranges::find(required, field) != required.end();
+}
+
 PatientModel PatientForm::newPatient() {
     PatientModel patient;
     patient.DisplayName = qtTrId("NewPatient");

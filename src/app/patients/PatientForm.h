@@ -24,6 +24,7 @@ public:
     /// \p isNew: the record is no patient of the roster yet.
     PatientForm(PatientModel record, SettingModel unitSettings, bool isNew);
     /// A new record, as the editor begins with it.
+    [[nodiscard]] static bool mustBeFilled(PatientField field);
     static PatientModel newPatient();
 
     [[nodiscard]] PatientEntry entryOf() const; ///< the record as the fields show it

@@ -3,6 +3,7 @@
 #include "app/patients/PatientFilter.h"
 #include "app/patients/PatientInputs.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/QuietTable.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
@@ -24,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 PatientRoster::PatientRoster(const DataStore& patients, QWidget* parent)
     : QWidget(parent), roster(new PatientTableModel(patients, this)), found(new PatientFilter(*roster, this)),
-      searchPatients(new QLineEdit(this)), tblPatients(new QTableView(this)),
+      searchPatients(new QLineEdit(this)), tblPatients(new QuietTable(this)),
       noneFound(new EmptyState(u"noPatientFound"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
       listOrAdvice(new QStackedWidget(this)) {
     build();

@@ -2,6 +2,8 @@
 
 #include "app/printing/PrintPreview.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/SeenName.h"
+#include "app/widgets/Spoken.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -65,7 +67,7 @@ QToolButton* PrintForm::addPager(const QString& name, const QString& text, const
 QPushButton* PrintForm::addButton(const QString& name, const QString& text, const QString& title) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(name);
-    button->setAccessibleName(title);
+    nameAsSeen(*button, text, title);
     button->setAutoDefault(false);
     return button;
 }
@@ -73,6 +75,7 @@ QPushButton* PrintForm::addButton(const QString& name, const QString& text, cons
 void PrintForm::build() {
     previewView->setObjectName(u"previewView"_s);
     previewView->setAccessibleName(qtTrId("previewView"));
+    speakAs(*previewView, QAccessible::Graphic);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -99,11 +102,11 @@ QWidget* PrintForm::makeOptionRow() {
     auto* label = new QLabel(qtTrId("printOptionLabel"), this);
     label->setBuddy(printOption);
     printOption->setObjectName(u"printOption"_s);
-    printOption->setAccessibleName(qtTrId("printOption"));
+    nameAsSeen(*printOption, label->text(), qtTrId("printOption"));
     printOption->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     printAddAddress->setObjectName(u"printAddAddress"_s);
-    printAddAddress->setAccessibleName(qtTrId("printAddAddress"));
     printAddAddress->setToolTip(qtTrId("printDetailsHint"));
+    nameAsSeen(*printAddAddress, printAddAddress->text(), qtTrId("printAddAddress"));
     pageText->setAlignment(Qt::AlignCenter);
     pageText->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
     auto* bar = new QWidget(this);
@@ -148,7 +151,7 @@ void PrintForm::fitPage(const QSize& room) {
 void PrintForm::begin(bool printing) {
     (printing ? printButton : savePdfButton)->setDefault(true);
     cancelButton->setText(qtTrId("cancel"));
-    cancelButton->setAccessibleName(qtTrId("cancelPrint"));
+    nameAsSeen(*cancelButton, cancelButton->text(), qtTrId("cancelPrint"));
     printOption->setFocus();
 }
 
@@ -205,7 +208,7 @@ void PrintForm::showNote(const QString& text) { say(*lblNote, text); }
 void PrintForm::showSaved(const QString& text) {
     showNote(text);
     cancelButton->setText(qtTrId("closeWindow"));
-    cancelButton->setAccessibleName(qtTrId("closeWindow"));
+    nameAsSeen(*cancelButton, cancelButton->text());
 }
 
 void PrintForm::showPrinter(const QString& name) {

@@ -3,6 +3,7 @@
 #include "app/settings/XmlFileList.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/SeenName.h"
 #include "app/widgets/TableLook.h"
 
 #include <QCheckBox>
@@ -82,7 +83,7 @@ QHBoxLayout* ImportFileDialog::makeFolderRow() {
     lblFolder->setTextFormat(Qt::PlainText);
     lblFolder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     btnFolder->setObjectName(u"btnFolder"_s);
-    btnFolder->setAccessibleName(qtTrId("importFolder"));
+    nameAsSeen(*btnFolder, btnFolder->text(), qtTrId("importFolder"));
     auto* row = new QHBoxLayout;
     row->addWidget(lblFolder, 1);
     row->addWidget(btnFolder);
@@ -91,7 +92,7 @@ QHBoxLayout* ImportFileDialog::makeFolderRow() {
 
 QWidget* ImportFileDialog::makeButtons() {
     boxAll->setObjectName(u"boxAll"_s);
-    boxAll->setAccessibleName(qtTrId("importAllFiles"));
+    nameAsSeen(*boxAll, boxAll->text(), qtTrId("importAllFiles"));
     btnImport->setObjectName(u"btnImport"_s);
     btnImport->setDefault(true);
     btnCancel->setObjectName(u"btnCancelImport"_s);

@@ -4,6 +4,7 @@
 #include "app/settings/ImportController.h"
 #include "app/settings/SettingForm.h"
 #include "app/widgets/Log.h"
+#include "app/widgets/SeenName.h"
 #include "store/LanguageChoice.h"
 
 #include <QGroupBox>
@@ -62,7 +63,7 @@ void SettingController::awakeFromNib() {
 QPushButton* SettingController::addButton(const QString& name, const QString& text, const QString& title) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(name);
-    button->setAccessibleName(title);
+    nameAsSeen(*button, text, title);
     button->setAutoDefault(false); // Enter in a field means OK
     return button;
 }
@@ -101,8 +102,10 @@ QWidget* SettingController::makeDataGroup() {
     csvButton->setToolTip(qtTrId("exportCSVHint"));
     importButton->setToolTip(qtTrId("importHint"));
     auto* row = new QHBoxLayout(group);
-    for (QPushButton* button : {exportButton, csvButton, importButton})
+    for (QPushButton* button : {exportButton, csvButton, importButton}) {
+        nameAsSeen(*button, button->text(), button->accessibleDescription());
         row->addWidget(button, 1);
+    }
     return group;
 }
 
@@ -172,16 +175,21 @@ void SettingController::closeSetting() {
         parts.panel.ShowMessage(qtTrId("settingsPartlySaved"), qtTrId("Warning"));
 }
 
+void SettingController::writeOnSendButton(const QString& text) {
+    sendButton->setText(text);
+    nameAsSeen(*sendButton, text, qtTrId("sendClock"));
+}
+
 void SettingController::send() {
     parts.status.setActivity(MonitorActivity::settingClock);
-    sendButton->setText(qtTrId("sendClockBusy"));
+    writeOnSendButton(qtTrId("sendClockBusy"));
     const auto set = [](BPMModel& monitor) { return monitor.setBPMDate(); };
     parts.monitor.submit(this, set, [this](MonitorResult result) { clockSent(result); });
 }
 
 void SettingController::clockSent(MonitorResult result) {
     const bool isSet = result == MonitorResult::success;
-    sendButton->setText(qtTrId("sendClockButton"));
+    writeOnSendButton(qtTrId("sendClockButton"));
     parts.status.update([=](MonitorState& next) {
         next.activity = MonitorActivity::none;
         if (!isSet) return;

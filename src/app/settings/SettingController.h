@@ -55,6 +55,7 @@ private:
     void scrollToFocus();
     void enableButtons();
     void send();
+    void writeOnSendButton(const QString& text);
     void clockSent(MonitorResult result);
     void fillLanguage();
     void saveLanguage();

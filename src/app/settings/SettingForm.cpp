@@ -2,6 +2,7 @@
 
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/SeenName.h"
 #include "store/Languages.h"
 #include "store/SettingKeys.h"
 
@@ -65,16 +66,15 @@ Control* named(Control* control, const QString& name, const QString& title) {
     return control;
 }
 
-QWidget* withUnit(QLineEdit* field, const QValidator* whole) {
+/// A layout, so that field and label lie side by side, where screen readers look for one with the other.
+QLayout* withUnit(QLineEdit* field, const QValidator* whole) {
     field->setValidator(whole);
     field->setFixedWidth(field->fontMetrics().averageCharWidth() * 10);
-    auto* both = new QWidget;
-    auto* row = new QHBoxLayout(both);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
     row->addWidget(field);
-    row->addWidget(new QLabel(qtTrId("unitMmHg"), both));
+    row->addWidget(new QLabel(qtTrId("unitMmHg")));
     row->addStretch(1);
-    return both;
+    return row;
 }
 
 QFormLayout* makeForm(QGroupBox* group) {
@@ -155,6 +155,7 @@ QWidget* SettingForm::makeDisplayPPorMAP() {
     auto* PP = named(new QRadioButton(qtTrId("settingPPButton")), u"displayPP"_s, qtTrId("settingPP"));
     auto* MAP = named(new QRadioButton(qtTrId("settingMAPButton")), u"displayMAP"_s, qtTrId("settingMAP"));
     for (auto* button : {PP, MAP}) {
+        nameAsSeen(*button, button->text(), button->accessibleName());
         displayPPorMAP->addButton(button, button == PP ? 0 : 1);
         column->addWidget(button);
     }
@@ -165,9 +166,10 @@ QGroupBox* SettingForm::makeLimitGroup() {
     auto* group = new QGroupBox(qtTrId("settingLimits"), this);
     QFormLayout* form = makeForm(group);
     useWHOStandard->setToolTip(qtTrId("settingWHOHint"));
+    nameAsSeen(*useWHOStandard, useWHOStandard->text(), useWHOStandard->accessibleName());
     form->addRow(useWHOStandard);
-    QWidget* sysRow = withUnit(sys, numberFormater);
-    QWidget* diaRow = withUnit(dia, numberFormater);
+    QLayout* sysRow = withUnit(sys, numberFormater);
+    QLayout* diaRow = withUnit(dia, numberFormater);
     form->addRow(qtTrId("settingSysLabel"), sysRow);
     form->addRow(qtTrId("settingDiaLabel"), diaRow);
     lblLimitProblem->setObjectName(u"lblLimitProblem"_s);
@@ -177,6 +179,8 @@ QGroupBox* SettingForm::makeLimitGroup() {
     form->addRow(lblLimitProblem);
     for (const auto& [row, field] : {std::pair(sysRow, sys), std::pair(diaRow, dia)})
         qobject_cast<QLabel*>(form->labelForField(row))->setBuddy(field);
+    nameAsSeen(*sys, qtTrId("settingSysLabel"), sys->accessibleName());
+    nameAsSeen(*dia, qtTrId("settingDiaLabel"), dia->accessibleName());
     return group;
 }
 
@@ -184,6 +188,7 @@ QGroupBox* SettingForm::makeMonitorGroup() {
     auto* group = new QGroupBox(qtTrId("monitorPanel"), this);
     monitorBox = new QVBoxLayout(group);
     eraseMeasures->setToolTip(qtTrId("settingEraseHint"));
+    nameAsSeen(*eraseMeasures, eraseMeasures->text(), eraseMeasures->accessibleName());
     monitorBox->addWidget(eraseMeasures);
     return group;
 }

@@ -3,6 +3,7 @@
 #include "app/shell/FirstWindow.h"
 #include "app/shell/GlobalVar.h"
 #include "app/shell/TerminationSignals.h"
+#include "app/widgets/Spoken.h"
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
 #include "store/LanguageChoice.h"
@@ -115,6 +116,7 @@ int runApplication(int argc, char** argv) {
     const QVariantMap token = desktopToken();
     TerminationSignals termination;
     QApplication application(argc, argv);
+    QAccessible::installFactory(makeSpoken);
     termination.watch();
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(u":/icons/zel.svg"_s));

@@ -4,6 +4,8 @@
 #include "app/patients/DataPanel.h"
 #include "app/shell/MainMenu.h"
 #include "app/widgets/PageController.h"
+#include "app/widgets/SeenName.h"
+#include "app/widgets/Spoken.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -84,12 +86,19 @@ QWidget* MainWindow::makeTabBar() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(8, 0, 8, 0);
     row->setSpacing(4);
+    auto* list = new QWidget(bar);
+    list->setAccessibleName(qtTrId("pageTabs"));
+    speakAs(*list, QAccessible::PageTabList);
+    auto* inside = new QHBoxLayout(list);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setSpacing(4);
     for (int tag = 0; tag < tabTotal; ++tag) {
         TabButton* tab = tabs.at(static_cast<std::size_t>(tag));
         tab->setToolTip(qtTrId("tabHint").arg(tab->accessibleName()).arg(tag + 1));
         connect(tab, &TabButton::clicked, this, [this, tag] { emit tabWanted(tag); });
-        row->addWidget(tab);
+        inside->addWidget(tab);
     }
+    row->addWidget(list);
     row->addStretch(1);
     row->addWidget(makeSettingButton());
     auto* line = new QFrame(bar);
@@ -108,8 +117,8 @@ QWidget* MainWindow::makeSettingButton() {
     auto* button = new QToolButton(this);
     button->setObjectName(u"settingBtn"_s);
     button->setText(qtTrId("settingsButton"));
-    button->setAccessibleName(qtTrId("settings"));
     button->setToolTip(qtTrId("settingsHint"));
+    nameAsSeen(*button, button->text());
     button->setIcon(QIcon(u":/icons/settingBtn.svg"_s));
     button->setIconSize({20, 20});
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

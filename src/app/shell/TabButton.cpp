@@ -1,7 +1,8 @@
 #include "app/shell/TabButton.h"
 
-#include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/SeenName.h"
+#include "app/widgets/Spoken.h"
 
 #include <QIcon>
 #include <QPainter>
@@ -18,16 +19,12 @@ constexpr int imageSize = 28, margin = 14, gap = 10, accent = 4;
 TabButton::TabButton(const QString& name, const QString& text, QWidget* parent) : QAbstractButton(parent) {
     setObjectName(name);
     setText(text);
-    setAccessibleName(withoutMnemonic(text));
+    nameAsSeen(*this, text);
+    speakAs(*this, QAccessible::PageTab);
+    setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
-}
-
-void TabButton::setShown(bool isShown) {
-    shown = isShown;
-    setAccessibleDescription(shown ? qtTrId("tabShown") : QString());
-    update();
 }
 
 void TabButton::setSlim(bool isSlim) {
@@ -38,7 +35,7 @@ void TabButton::setSlim(bool isSlim) {
 
 QString TabButton::imageName() const {
     if (!isEnabled()) return objectName() + ".InactiveImg"_L1;
-    return objectName() + (shown || isDown() ? ".PressedImg"_L1 : ".ActiveImg"_L1);
+    return objectName() + (isShown() || isDown() ? ".PressedImg"_L1 : ".ActiveImg"_L1);
 }
 
 QSize TabButton::sizeHint() const {
@@ -51,15 +48,15 @@ QSize TabButton::sizeHint() const {
 void TabButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QColor wash = palette().color(QPalette::Highlight);
-    wash.setAlpha(shown ? 40 : 20);
-    if (shown || (isEnabled() && underMouse())) painter.fillRect(rect(), wash);
-    if (shown) painter.fillRect(0, height() - accent, width(), accent, palette().highlight());
+    wash.setAlpha(isShown() ? 40 : 20);
+    if (isShown() || (isEnabled() && underMouse())) painter.fillRect(rect(), wash);
+    if (isShown()) painter.fillRect(0, height() - accent, width(), accent, palette().highlight());
 
     const QRect image(margin, (height() - imageSize) / 2, imageSize, imageSize);
     QIcon(":/icons/"_L1 + imageName() + ".svg"_L1).paint(&painter, image);
     const QRect words = rect().adjusted(image.right() + 1 + gap, 0, 0, 0);
     const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    painter.setFont(scaledFont(font(), 1.1, shown));
+    painter.setFont(scaledFont(font(), 1.1, isShown()));
     painter.setPen(palette().color(group, QPalette::WindowText));
     painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
     if (!hasFocus()) return;

@@ -11,18 +11,19 @@ class TabButton final : public QAbstractButton {
 public:
     TabButton(const QString& name, const QString& text, QWidget* parent);
     /// Its page is the one in view.
-    void setShown(bool isShown);
-    [[nodiscard]] bool isShown() const { return shown; }
+    void setShown(bool isShown) { setChecked(isShown); }
+    [[nodiscard]] bool isShown() const { return isChecked(); }
     [[nodiscard]] QString imageName() const;
     /// With less room above and below the text.
     void setSlim(bool isSlim);
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    void nextCheckState() override {} ///< whoever shows the pages checks it
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool shown = false, slim = false;
+    bool slim = false;
 };
 
 } // namespace zel

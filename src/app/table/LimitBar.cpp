@@ -2,6 +2,7 @@
 
 #include "analysis/HighValues.h"
 #include "app/widgets/FlowLayout.h"
+#include "app/widgets/SeenName.h"
 #include "store/PressureLimits.h"
 
 #include <QComboBox>
@@ -72,6 +73,7 @@ QWidget* LimitBar::makeChoice() {
     row->setContentsMargins({});
     auto* label = new QLabel(qtTrId("highFromLabel"), both);
     label->setBuddy(cboHighFrom);
+    nameAsSeen(*cboHighFrom, label->text(), cboHighFrom->accessibleName());
     row->addWidget(label);
     row->addWidget(cboHighFrom);
     return both;

@@ -9,6 +9,7 @@
 #include "app/table/ReadingTableItemView.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/QuietTable.h"
 #include "app/widgets/TableLook.h"
 
 #include <QAction>
@@ -44,7 +45,7 @@ public:
 
 TableViewController::TableViewController(const Parts& needed)
     : parts(needed), readingModelArray(new ReadingTableModel(needed.store, this)),
-      tblReadings(new QTableView(this)),
+      tblReadings(new QuietTable(this)),
       noReadings(new EmptyState(u"noReadings"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       noneInPeriod(new EmptyState(u"noneInPeriod"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       list(new ListPage(this)), listOrAdvice(new QStackedWidget(this)),

@@ -4,7 +4,9 @@
 
 #include <QCalendarWidget>
 #include <QEvent>
+#include <QItemSelectionModel>
 #include <QSignalBlocker>
+#include <QTableView>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -40,6 +42,7 @@ DayEdit::DayEdit(const QString& name, const QString& title, QWidget* parent) : Q
     calendarWidget()->setObjectName(name + "Calendar"_L1);
     calendarWidget()->setAccessibleName(title);
     calendarWidget()->installEventFilter(this);
+    hushCalendar(true);
     connect(this, &QDateEdit::dateChanged, this, [this] {
         if (!calendarWidget()->isVisible()) confirm(false);
     });
@@ -86,8 +89,19 @@ void DayEdit::wheelEvent(QWheelEvent* event) {
         event->ignore();
 }
 
+/// A calendar that nobody sees follows the day all the same, and would tell screen readers that it has the
+/// focus.
+void DayEdit::hushCalendar(bool isHidden) {
+    if (auto* days = calendarWidget()->findChild<QTableView*>())
+        days->selectionModel()->blockSignals(isHidden);
+}
+
 bool DayEdit::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Hide) emit calendarClosed();
+    if (event->type() == QEvent::Show) hushCalendar(false);
+    if (event->type() == QEvent::Hide) {
+        hushCalendar(true);
+        emit calendarClosed();
+    }
     return QDateEdit::eventFilter(watched, event);
 }
 

@@ -29,6 +29,7 @@ protected:
 private:
     QDate shown;
     void confirm(bool inCalendar);
+    void hushCalendar(bool isHidden);
 };
 
 } // namespace zel

@@ -1,5 +1,6 @@
 #include "app/widgets/PictureView.h"
 
+#include "app/widgets/Spoken.h"
 #include "chart/PicturePainter.h"
 
 #include <QPainter>
@@ -11,6 +12,7 @@ namespace zel {
 PictureView::PictureView(const QString& name, const QString& title, QWidget* parent) : QWidget(parent) {
     setObjectName(name);
     setAccessibleName(title);
+    speakAs(*this, QAccessible::Graphic);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

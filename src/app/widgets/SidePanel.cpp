@@ -1,6 +1,7 @@
 #include "app/widgets/SidePanel.h"
 
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Spoken.h"
 
 #include <QVBoxLayout>
 
@@ -21,15 +22,15 @@ SidePanel::SidePanel(const QString& name, const QString& title, QWidget* parent)
 }
 
 QLabel* SidePanel::addValue(const QString& name, const QString& title) {
+    auto* caption = new QuietLabel(title, this); // before the value, also for who has them read out
     auto* value = new QLabel(this);
     value->setObjectName(name);
-    value->setAccessibleName(title);
     value->setTextFormat(Qt::PlainText);
     value->setWordWrap(true);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     column->addSpacing(6);
-    auto* caption = new QuietLabel(title, this);
     caption->setWordWrap(true);
+    speakAsValue(*value, *caption);
     column->addWidget(caption);
     column->addWidget(value);
     return value;

@@ -118,6 +118,10 @@ TEST_F(ChartPageTest, aReadingsMarkShowsItsValuesInPlainWords) {
         << qPrintable(values.join(u'|'));
     QTest::mouseMove(&blood(), mark + QPoint(0, 20));
     EXPECT_FALSE(info.isVisible());
+    EXPECT_TRUE(blood().accessibleDescription().endsWith(
+        u"\nSystolic pressure, mmHg: average 116, lowest 111, highest 120.\n"
+        "Diastolic pressure, mmHg: average 80, lowest 80, highest 80."_s))
+        << qPrintable(blood().accessibleDescription());
     showDays(u"20260301"_s, u"20260306"_s);
     QTest::mouseMove(&blood(), blood().place(third));
     EXPECT_TRUE(info.isVisible()) << "its mark has moved with the period";

@@ -64,9 +64,11 @@ protected:
     }
     QString value(const char* field) { return find<QLineEdit>(field).text(); }
     QString problemAt(const char* field) {
-        EXPECT_EQ(find<QLabel>((QByteArray(field) + "Problem").constData()).isVisible(),
-                  !find<QWidget>(field).accessibleDescription().isEmpty());
-        return find<QWidget>(field).accessibleDescription();
+        QString words = find<QWidget>(field).accessibleDescription();
+        if (words.startsWith(qtTrId("fieldRequiredSpoken")))
+            words = words.mid(qtTrId("fieldRequiredSpoken").size()).trimmed();
+        EXPECT_EQ(find<QLabel>((QByteArray(field) + "Problem").constData()).isVisible(), !words.isEmpty());
+        return words;
     }
     void beginNew(const QString& ID, const QString& familyName) {
         press(Qt::Key_N, Qt::ControlModifier);

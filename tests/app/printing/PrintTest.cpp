@@ -215,7 +215,7 @@ TEST_F(PrintTest, cancelBecomesCloseOnceAFileIsSaved) {
     EXPECT_FALSE(printing->isVisible());
     openPrint(0);
     EXPECT_EQ(cancel.text(), qtTrId("cancel")) << "of this time's nothing is saved";
-    EXPECT_EQ(cancel.accessibleName(), qtTrId("cancelPrint"));
+    EXPECT_EQ(cancel.accessibleName(), qtTrId("cancel"));
 }
 
 TEST_F(PrintTest, printsOnTheChosenPrinterAndSaysWhenItHasGone) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QTableView>
+
+namespace zel {
+
+/// Its current cell has the focus only while the table has it: one that is filled behind another page says
+/// nothing to screen readers, as Qt's own would.
+class QuietTable final : public QTableView {
+public:
+    using QTableView::QTableView;
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        if (hasFocus())
+            QTableView::currentChanged(current, previous);
+        else
+            QAbstractItemView::currentChanged(current, previous);
+    }
+};
+
+} // namespace zel
