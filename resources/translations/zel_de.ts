@@ -472,9 +472,10 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="minusDay"><translation>Weniger Tage: an jedem Ende des Zeitraums einer weniger</translation></message>
     <message id="minusDayHint"><translation>Weniger Tage: an jedem Ende des Zeitraums einer weniger (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM TT JJJJ</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Das Messgerät wurde inzwischen abgezogen oder gewechselt; es wurde nichts ausgelesen.</translation></message>
     <message id="monitorClock"><translation>Uhr</translation></message>
     <message id="monitorConnected"><translation>Messgerät verbunden</translation></message>
-    <message id="monitorConnectedID"><translation>Im Messgerät ist die ID %1 gespeichert. Wählen Sie diesen Patienten und drücken Sie „Auslesen“, um die Messungen zu holen.</translation></message>
+    <message id="monitorConnectedID"><translation>Im Messgerät ist die ID %1 gespeichert. Drücken Sie „Auslesen“, um die Messungen für diesen Patienten zu holen.</translation></message>
     <message id="monitorCounting"><translation>Die Messungen im Messgerät werden abgefragt. Das kann bis zu 20 Sekunden dauern …</translation></message>
     <message id="monitorDownloading"><translation>Messungen werden ausgelesen …</translation></message>
     <message id="monitorErasing"><translation>Messgerät wird geleert …</translation></message>
@@ -485,6 +486,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Darin ist %n Messung.</numerusform><numerusform>Darin sind %n Messungen.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Welche ID jetzt im Messgerät gespeichert ist, konnte nicht gelesen werden.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>Die ID %1 von %2 sieht ihr sehr ähnlich, ist aber eine andere.</translation></message>
     <message id="monitorLooking"><translation>Messgerät wird gesucht …</translation></message>
     <message id="monitorNotAnswering"><translation>Angeschlossen, antwortet aber nicht wie erwartet. %1</translation></message>
     <message id="monitorNotConnected"><translation>Nicht verbunden. Schließen Sie das Messgerät an einen USB-Anschluss an.</translation></message>
@@ -500,6 +502,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="NewPatient"><translation>Neuer Patient</translation></message>
     <message id="newPatientButton"><translation>&amp;Neu</translation></message>
     <message id="newPatientHint"><translation>Neuen Patienten anlegen (Strg+N).</translation></message>
+    <message id="newPatientWithID"><translation>Neuer Patient mit dieser ID</translation></message>
     <message id="newReadingAction"><translation>Neue Messung …</translation></message>
     <message id="newReadingHint"><translation>Eine Messung von Hand eingeben, die keines Ihrer Messgeräte gespeichert hat (Strg+N).</translation></message>
     <message id="newReadingTitle"><translation>Neue Messung</translation></message>

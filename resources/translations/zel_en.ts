@@ -472,9 +472,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd yyyy</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>The monitor has been pulled out or changed meanwhile; nothing was downloaded.</translation></message>
     <message id="monitorClock"><translation>Clock</translation></message>
     <message id="monitorConnected"><translation>Monitor connected</translation></message>
-    <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Choose this patient and press Download to fetch the readings.</translation></message>
+    <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Press Download to fetch the readings for this patient.</translation></message>
     <message id="monitorCounting"><translation>Asking the monitor for its readings. This can take up to 20 seconds …</translation></message>
     <message id="monitorDownloading"><translation>Downloading readings …</translation></message>
     <message id="monitorErasing"><translation>Emptying the monitor …</translation></message>
@@ -485,6 +486,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>It holds %n reading.</numerusform><numerusform>It holds %n readings.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Which ID the monitor holds now could not be read.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>The ID %1 of %2 looks much like it, but is another one.</translation></message>
     <message id="monitorLooking"><translation>Looking for a monitor …</translation></message>
     <message id="monitorNotAnswering"><translation>Attached, but not answering as it should. %1</translation></message>
     <message id="monitorNotConnected"><translation>Not connected. Attach the monitor to a USB port.</translation></message>
@@ -500,6 +502,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="NewPatient"><translation>New patient</translation></message>
     <message id="newPatientButton"><translation>&amp;New</translation></message>
     <message id="newPatientHint"><translation>Enter a new patient (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>New patient with this ID</translation></message>
     <message id="newReadingAction"><translation>New Reading…</translation></message>
     <message id="newReadingHint"><translation>Type in a reading that no monitor of yours has stored (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>New Reading</translation></message>

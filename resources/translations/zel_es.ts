@@ -472,9 +472,10 @@ mmHg</translation></message>
     <message id="minusDay"><translation>Menos días: uno menos en cada extremo del periodo</translation></message>
     <message id="minusDayHint"><translation>Menos días: uno menos en cada extremo del periodo (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd aaaa</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Entretanto se ha desconectado o cambiado el tensiómetro; no se ha descargado nada.</translation></message>
     <message id="monitorClock"><translation>Reloj</translation></message>
     <message id="monitorConnected"><translation>Tensiómetro conectado</translation></message>
-    <message id="monitorConnectedID"><translation>El tensiómetro tiene el ID %1. Elija a ese paciente y pulse «Descargar» para recoger las mediciones.</translation></message>
+    <message id="monitorConnectedID"><translation>El tensiómetro tiene el ID %1. Pulse «Descargar» para recoger las mediciones de este paciente.</translation></message>
     <message id="monitorCounting"><translation>Consultando cuántas mediciones contiene el tensiómetro. Puede tardar hasta 20 segundos…</translation></message>
     <message id="monitorDownloading"><translation>Descargando mediciones…</translation></message>
     <message id="monitorErasing"><translation>Vaciando la memoria del tensiómetro…</translation></message>
@@ -485,6 +486,7 @@ mmHg</translation></message>
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Contiene %n medición.</numerusform><numerusform>Contiene %n mediciones.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>No se ha podido leer qué ID tiene ahora el tensiómetro.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>El ID %1 de %2 se le parece mucho, pero es otro.</translation></message>
     <message id="monitorLooking"><translation>Buscando un tensiómetro…</translation></message>
     <message id="monitorNotAnswering"><translation>Conectado, pero no responde como debería. %1</translation></message>
     <message id="monitorNotConnected"><translation>No conectado. Conecte el tensiómetro a un puerto USB.</translation></message>
@@ -500,6 +502,7 @@ mmHg</translation></message>
     <message id="NewPatient"><translation>Paciente nuevo</translation></message>
     <message id="newPatientButton"><translation>&amp;Nuevo</translation></message>
     <message id="newPatientHint"><translation>Introducir un paciente nuevo (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Paciente nuevo con este ID</translation></message>
     <message id="newReadingAction"><translation>Medición nueva…</translation></message>
     <message id="newReadingHint"><translation>Introducir una medición que no haya guardado ninguno de sus tensiómetros (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Medición nueva</translation></message>

@@ -472,9 +472,10 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="minusDay"><translation>Moins de jours : un de moins au début et à la fin de la période</translation></message>
     <message id="minusDayHint"><translation>Moins de jours : un de moins au début et à la fin de la période (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm jj aaaa</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Le tensiomètre a été débranché ou changé entre-temps ; rien n’a été transféré.</translation></message>
     <message id="monitorClock"><translation>Horloge</translation></message>
     <message id="monitorConnected"><translation>Tensiomètre branché</translation></message>
-    <message id="monitorConnectedID"><translation>Le tensiomètre contient l’ID %1. Choisissez ce patient et cliquez sur « Transférer » pour récupérer les mesures.</translation></message>
+    <message id="monitorConnectedID"><translation>Le tensiomètre contient l’ID %1. Cliquez sur « Transférer » pour récupérer les mesures de ce patient.</translation></message>
     <message id="monitorCounting"><translation>Comptage des mesures du tensiomètre (jusqu’à 20 secondes)…</translation></message>
     <message id="monitorDownloading"><translation>Transfert des mesures…</translation></message>
     <message id="monitorErasing"><translation>Effacement des mesures du tensiomètre…</translation></message>
@@ -485,6 +486,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Il contient %n mesure.</numerusform><numerusform>Il contient %n mesures.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>L’ID actuellement contenu dans le tensiomètre n’a pas pu être lu.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>L’ID %1 de %2 lui ressemble beaucoup, mais c’en est un autre.</translation></message>
     <message id="monitorLooking"><translation>Recherche d’un tensiomètre…</translation></message>
     <message id="monitorNotAnswering"><translation>Branché, mais ne répond pas correctement. %1</translation></message>
     <message id="monitorNotConnected"><translation>Non branché. Reliez le tensiomètre à un port USB.</translation></message>
@@ -500,6 +502,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="NewPatient"><translation>Nouveau patient</translation></message>
     <message id="newPatientButton"><translation>&amp;Nouveau</translation></message>
     <message id="newPatientHint"><translation>Ajouter un nouveau patient (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Nouveau patient avec cet ID</translation></message>
     <message id="newReadingAction"><translation>Nouvelle mesure…</translation></message>
     <message id="newReadingHint"><translation>Saisir une mesure qu’aucun de vos tensiomètres n’a enregistrée (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nouvelle mesure</translation></message>

@@ -472,9 +472,10 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="minusDay"><translation>Meno giorni: uno in meno a ogni estremo del periodo</translation></message>
     <message id="minusDayHint"><translation>Meno giorni: uno in meno a ogni estremo del periodo (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm gg aaaa</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Nel frattempo il misuratore è stato scollegato o sostituito; non è stato scaricato nulla.</translation></message>
     <message id="monitorClock"><translation>Orologio</translation></message>
     <message id="monitorConnected"><translation>Misuratore collegato</translation></message>
-    <message id="monitorConnectedID"><translation>Il misuratore contiene l’ID %1. Scegliere questo paziente e premere Scarica per trasferire le misurazioni.</translation></message>
+    <message id="monitorConnectedID"><translation>Il misuratore contiene l’ID %1. Premere Scarica per trasferire le misurazioni di questo paziente.</translation></message>
     <message id="monitorCounting"><translation>Lettura del numero di misurazioni nel misuratore. Può richiedere fino a 20 secondi…</translation></message>
     <message id="monitorDownloading"><translation>Scarico delle misurazioni…</translation></message>
     <message id="monitorErasing"><translation>Svuotamento del misuratore…</translation></message>
@@ -485,6 +486,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Contiene %n misurazione.</numerusform><numerusform>Contiene %n misurazioni.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Impossibile leggere quale ID contiene ora il misuratore.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>L’ID %1 di %2 è molto simile, ma è un altro.</translation></message>
     <message id="monitorLooking"><translation>Ricerca di un misuratore…</translation></message>
     <message id="monitorNotAnswering"><translation>Collegato, ma non risponde come dovrebbe. %1</translation></message>
     <message id="monitorNotConnected"><translation>Non collegato. Collegare il misuratore a una porta USB.</translation></message>
@@ -500,6 +502,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="NewPatient"><translation>Nuovo paziente</translation></message>
     <message id="newPatientButton"><translation>&amp;Nuovo</translation></message>
     <message id="newPatientHint"><translation>Inserisce un nuovo paziente (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Nuovo paziente con questo ID</translation></message>
     <message id="newReadingAction"><translation>Nuova misurazione…</translation></message>
     <message id="newReadingHint"><translation>Inserisce a mano una misurazione non presente in alcun misuratore (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nuova misurazione</translation></message>

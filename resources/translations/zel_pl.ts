@@ -472,9 +472,10 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="minusDay"><translation>Mniej dni: o jeden mniej na każdym końcu okresu</translation></message>
     <message id="minusDayHint"><translation>Mniej dni: o jeden mniej na każdym końcu okresu (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM DD RRRR</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Ciśnieniomierz został w międzyczasie odłączony lub zmieniony; niczego nie pobrano.</translation></message>
     <message id="monitorClock"><translation>Zegar</translation></message>
     <message id="monitorConnected"><translation>Ciśnieniomierz podłączony</translation></message>
-    <message id="monitorConnectedID"><translation>Ciśnieniomierz ma ID %1. Aby pobrać pomiary, proszę wybrać tego pacjenta i nacisnąć „Pobierz”.</translation></message>
+    <message id="monitorConnectedID"><translation>Ciśnieniomierz ma ID %1. Aby pobrać pomiary tego pacjenta, proszę nacisnąć „Pobierz”.</translation></message>
     <message id="monitorCounting"><translation>Sprawdzanie liczby pomiarów w ciśnieniomierzu. Może to potrwać do 20 sekund…</translation></message>
     <message id="monitorDownloading"><translation>Pobieranie pomiarów…</translation></message>
     <message id="monitorErasing"><translation>Opróżnianie ciśnieniomierza…</translation></message>
@@ -485,6 +486,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Jest w nim %n pomiar.</numerusform><numerusform>Są w nim %n pomiary.</numerusform><numerusform>Jest w nim %n pomiarów.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Nie udało się odczytać, jakie ID ma teraz ciśnieniomierz.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>Bardzo podobne jest ID %1 (%2), ale to inne ID.</translation></message>
     <message id="monitorLooking"><translation>Szukanie ciśnieniomierza…</translation></message>
     <message id="monitorNotAnswering"><translation>Podłączony, ale odpowiada nieprawidłowo. %1</translation></message>
     <message id="monitorNotConnected"><translation>Niepodłączony. Proszę podłączyć ciśnieniomierz do portu USB.</translation></message>
@@ -500,6 +502,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="NewPatient"><translation>Nowy pacjent</translation></message>
     <message id="newPatientButton"><translation>&amp;Nowy</translation></message>
     <message id="newPatientHint"><translation>Dodaje nowego pacjenta (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Nowy pacjent z tym ID</translation></message>
     <message id="newReadingAction"><translation>Nowy pomiar…</translation></message>
     <message id="newReadingHint"><translation>Pozwala wpisać pomiar, którego nie zapisał ciśnieniomierz (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nowy pomiar</translation></message>

@@ -472,9 +472,10 @@ mmHg</translation></message>
     <message id="minusDay"><translation>減少天數：期間前後各少一天</translation></message>
     <message id="minusDayHint"><translation>減少天數：期間前後各少一天（−）</translation></message>
     <message id="mm dd yyyy"><translation>月 日 年</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>血壓計在此期間已拔除或更換；未下載任何資料。</translation></message>
     <message id="monitorClock"><translation>時鐘</translation></message>
     <message id="monitorConnected"><translation>血壓計已連接</translation></message>
-    <message id="monitorConnectedID"><translation>血壓計的 ID 是 %1。請選擇這位病患並按「下載」以取得量測。</translation></message>
+    <message id="monitorConnectedID"><translation>血壓計的 ID 是 %1。請按「下載」以取得這位病患的量測。</translation></message>
     <message id="monitorCounting"><translation>正在向血壓計查詢量測，最多可能需要 20 秒…</translation></message>
     <message id="monitorDownloading"><translation>正在下載量測…</translation></message>
     <message id="monitorErasing"><translation>正在清空血壓計…</translation></message>
@@ -485,6 +486,7 @@ mmHg</translation></message>
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>其中有 %n 筆量測。</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>無法讀取血壓計目前的 ID。</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>%2 的 ID %1 與它很相似，但並不相同。</translation></message>
     <message id="monitorLooking"><translation>正在尋找血壓計…</translation></message>
     <message id="monitorNotAnswering"><translation>已接上，但未正常回應。%1</translation></message>
     <message id="monitorNotConnected"><translation>未連接。請將血壓計接到 USB 連接埠。</translation></message>
@@ -500,6 +502,7 @@ mmHg</translation></message>
     <message id="NewPatient"><translation>新病患</translation></message>
     <message id="newPatientButton"><translation>新增(&amp;N)</translation></message>
     <message id="newPatientHint"><translation>新增一位病患（Ctrl+N）。</translation></message>
+    <message id="newPatientWithID"><translation>以此 ID 新增病患</translation></message>
     <message id="newReadingAction"><translation>新增量測…</translation></message>
     <message id="newReadingHint"><translation>手動輸入一筆血壓計未儲存的量測（Ctrl+N）。</translation></message>
     <message id="newReadingTitle"><translation>新增量測</translation></message>

@@ -278,12 +278,30 @@ bool PatientViewController::canBeStored() {
 
 void PatientViewController::btnNewPatient() {
     if (newPatient) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    openNewPatient({});
+}
+
+/// Something is typed for the new patient who is there already.
+bool PatientViewController::isNewOneBegun() const {
+    if (isNewOne(store.getCurrentID())) return editor->isChanged();
+    return newPatient && newPatient->form.isChanged(newPatient->entry, today());
+}
+
+void PatientViewController::addPatient(const QString& ID) {
+    if (isNewOneBegun()) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    openNewPatient(ID);
+}
+
+void PatientViewController::openNewPatient(const QString& ID) {
     if (!canBeStored() || !leave()) return;
     const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
-    newPatient = {blank, blank.entryOf()};
+    PatientEntry entry = blank.entryOf();
+    if (!ID.isEmpty()) entry[PatientField::ID] = ID;
+    newPatient = {blank, entry};
     roster->showAll();
     roster->reload(true);
     open(u"-"_s);
+    editor->showPatient(newPatient->form, newPatient->entry); // not the blank one of an empty roster
     editor->beginTyping();
 }
 

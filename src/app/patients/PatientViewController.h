@@ -50,6 +50,8 @@ public:
     [[nodiscard]] bool CanDataTransfer() const;
 
     void btnNewPatient();
+    /// Opens a new patient with this ID filled in, unless another new one has been begun.
+    void addPatient(const QString& ID);
     /// Checks the entry and writes it. \return false if not all of it was saved; the user knows why, and
     /// nothing typed is lost
     bool btnSavePatient();
@@ -74,6 +76,8 @@ private:
     void goTo(const QString& ID);
     void enableButtons();
     [[nodiscard]] bool isThere(const QString& ID) const;
+    [[nodiscard]] bool isNewOneBegun() const;
+    void openNewPatient(const QString& ID);
     [[nodiscard]] bool isNewOne(const QString& ID) const;
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();

@@ -20,6 +20,7 @@ class BackupCourier;
 class BackupDialog;
 class GraphViewController;
 class HelpWindow;
+class MonitorOffers;
 class PatientViewController;
 class PeriodFollower;
 class PrintController;
@@ -89,6 +90,7 @@ signals:
 
 private:
     void showPageInView();
+    [[nodiscard]] bool showPatients();
     [[nodiscard]] PageController& pageInView() const;
     void connectDataWatch();
     void end();
@@ -124,6 +126,7 @@ private:
     PeriodFollower* follower = nullptr;
     UndoController* undoer = nullptr;
     BackupCourier* courier = nullptr;
+    MonitorOffers* offers = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise
     PrintController* printController = nullptr;         ///< likewise

@@ -1,5 +1,6 @@
 #include "app/shell/MainWindow.h"
 
+#include "app/device/MonitorBar.h"
 #include "app/device/MonitorPanel.h"
 #include "app/patients/DataPanel.h"
 #include "app/shell/MainMenu.h"
@@ -61,7 +62,8 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     : status(monitorStatus), tabs{new TabButton(u"patientBtn"_s, qtTrId("tabPatients"), this),
                                   new TabButton(u"graphBtn"_s, qtTrId("tabChart"), this),
                                   new TabButton(u"tableBtn"_s, qtTrId("tabReadings"), this)},
-      contentBox(new PageBox(this)), lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
+      contentBox(new PageBox(this)), offer(new MonitorBar(monitorStatus, store, this)),
+      lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
     setObjectName(u"mainWndow"_s); // spelled so in the interface
     setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     contentBox->setObjectName(u"contentBox"_s);
@@ -70,6 +72,7 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeTabBar());
+    column->addWidget(offer);
     column->addWidget(makeBody(store), 1);
     setCentralWidget(central);
     setMenuBar(makeMainMenu(*this, store, status));
@@ -182,6 +185,10 @@ void MainWindow::showOutcome(const QString& text) {
     lblOutcome->setText(text);
     lblOutcome->setToolTip(text);
     lblOutcome->setAccessibleName(text);
+}
+
+void MainWindow::showAtHead(QWidget& strip) {
+    qobject_cast<QVBoxLayout*>(centralWidget()->layout())->insertWidget(0, &strip);
 }
 
 void MainWindow::addPage(PageController& page) { contentBox->addWidget(&page); }

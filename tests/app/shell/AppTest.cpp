@@ -37,7 +37,7 @@ void AppTest::start() {
 
 void AppTest::startConnected() {
     start();
-    waitFor([this] { return !panel.messages.empty() && !status.isBusy(); });
+    waitFor([this] { return status.state().IDOnDevice && !status.isBusy(); });
 }
 
 void AppTest::download() {

@@ -21,7 +21,7 @@ protected:
     void launch();
     /// Starts the program and waits until the splash screen has gone.
     void start();
-    /// Starts it and waits until the monitor's ID has been announced.
+    /// Starts it and waits until the monitor's ID is known.
     void startConnected();
     void download();
 
