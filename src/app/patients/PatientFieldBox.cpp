@@ -1,6 +1,7 @@
 #include "app/patients/PatientFieldBox.h"
 
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/RequiredMark.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -49,19 +50,28 @@ void PatientFieldBox::addInput(QWidget* input, const QString& name, int stretch)
 void PatientFieldBox::addRemark(QWidget* remark) { rowLayout->addWidget(remark); }
 
 void PatientFieldBox::setTitle(const QString& title) {
-    lblTitle->setText(title);
+    lblTitle->setText(isRequired ? requiredTitle(title) : title);
     if (inputs.size() == 1) inputs.front()->setAccessibleName(title);
 }
 
+void PatientFieldBox::setRequired() {
+    isRequired = true;
+    lblTitle->setText(requiredTitle(lblTitle->text()));
+    describe();
+}
+
 void PatientFieldBox::setProblem(const QString& text) {
+    found = text;
     lblProblem->setText(text.isEmpty() ? QString() : warningSign % text);
     lblProblem->setVisible(!text.isEmpty());
-    for (QWidget* input : inputs)
-        input->setAccessibleDescription(text);
+    describe();
     update();
 }
 
-QString PatientFieldBox::problem() const { return inputs.front()->accessibleDescription(); }
+void PatientFieldBox::describe() {
+    for (QWidget* input : inputs)
+        input->setAccessibleDescription(isRequired ? requiredDescription(found) : found);
+}
 
 void PatientFieldBox::paintEvent(QPaintEvent*) {
     if (lblProblem->isHidden()) return;

@@ -21,9 +21,10 @@ public:
     /// Something that stands beside the inputs and is no input.
     void addRemark(QWidget* remark);
     void setTitle(const QString& title);
+    void setRequired(); ///< marks it as one that has to be filled in
 
     void setProblem(const QString& text); ///< empty: none
-    [[nodiscard]] QString problem() const;
+    [[nodiscard]] QString problem() const { return found; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -31,6 +32,7 @@ protected:
 
 private:
     void colourNote();
+    void describe();
     [[nodiscard]] QColor alarm() const;
 
     QuietLabel* lblTitle;
@@ -38,6 +40,8 @@ private:
     QHBoxLayout* rowLayout;
     QLabel* lblProblem;
     std::vector<QWidget*> inputs;
+    QString found; ///< the problem
+    bool isRequired = false;
 };
 
 } // namespace zel

@@ -41,7 +41,6 @@ constexpr std::array choiceFields{
     ChoiceField{Diabetic, &PatientModel::Diabetic},
 };
 
-constexpr std::array required{FamilyName, GivenNames, ID};
 constexpr std::array judged{ID, BirthYear, Weight, Height, Cholestrol};
 constexpr std::array birthFields{BirthYear, BirthMonth, BirthDay};
 constexpr int oldest = 130; ///< years that a human can reach
