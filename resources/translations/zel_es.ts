@@ -337,6 +337,14 @@ mmHg</translation></message>
     <message id="deleteReadingsQuestion"><translation>¿Eliminar lo introducido a mano (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Eliminar medición</translation></message>
     <message id="DeleteTheComment"><translation>¿Eliminar este comentario? Edición &gt; Deshacer permite recuperarlo mientras no se cierre ZEL.</translation></message>
+    <message id="demonstrationButton"><translation>Probar con un tensiómetro de demostración</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La demostración guarda sus datos en la carpeta %1, pero esta lleva a sus propios datos. No se ha iniciado nada, para que ninguna medición inventada acabe entre las suyas.</translation></message>
+    <message id="demonstrationNoFolder"><translation>La demostración guarda sus datos en la carpeta %1, que no se puede crear.</translation></message>
+    <message id="demonstrationNote"><translation>Abre una segunda ventana con un tensiómetro simulado y mediciones inventadas, que se guardan aparte de sus propios datos.</translation></message>
+    <message id="demonstrationNotStarted"><translation>No se ha podido iniciar la demostración.</translation></message>
+    <message id="demonstrationStarted"><translation>La demostración se abre en su propia ventana.</translation></message>
+    <message id="demonstrationStrip"><translation>Demostración: el tensiómetro es simulado; sus mediciones son inventadas y se guardan aparte de sus propios datos.</translation></message>
+    <message id="demonstrationTitle"><translation>Demostración – %1</translation></message>
     <message id="download"><translation>Descargar mediciones</translation></message>
     <message id="downloadAdvice"><translation>Deje conectado el tensiómetro. Sus mediciones se guardan cuando han llegado todas.</translation></message>
     <message id="downloadButton"><translation>&amp;Descargar</translation></message>
@@ -394,6 +402,7 @@ mmHg</translation></message>
     <message id="fieldMissing"><translation>Rellene este campo.</translation></message>
     <message id="fieldPatientNotes"><translation>Notas sobre este paciente</translation></message>
     <message id="fieldPhoneEmail"><translation>Teléfono / correo</translation></message>
+    <message id="fieldRequired"><translation>Obligatorio</translation></message>
     <message id="fieldSex"><translation>Sexo</translation></message>
     <message id="fieldSmoker"><translation>Fumador/a</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
@@ -401,6 +410,10 @@ mmHg</translation></message>
     <message id="fileBeingRead"><translation>leyendo…</translation></message>
     <message id="fileNotReadable"><translation>no legible</translation></message>
     <message id="fileTooLargeToCount"><translation>más de 64 MiB: sin contar</translation></message>
+    <message id="firstStepDownload"><translation>Pulse «Descargar». Las mediciones aparecen en el gráfico y en la tabla.</translation></message>
+    <message id="firstStepMonitor"><translation>Conecte el tensiómetro con su cable USB. Si aún no tiene el ID de este paciente, pulse «Enviar ID».</translation></message>
+    <message id="firstStepPatient"><translation>Introduzca, con un ID, al paciente cuya presión arterial mide el tensiómetro y pulse «Guardar».</translation></message>
+    <message id="firstSteps"><translation>Aún no hay pacientes: tres pasos hasta las primeras mediciones</translation></message>
     <message id="heightRefusedCm"><translation>Indique un número de 20 a 300 cm, por ejemplo 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Indique pies y pulgadas separados por una barra, por ejemplo 5/9. Las pulgadas llegan hasta 11.</translation></message>
     <message id="highFrom"><translation>Límites a partir de los cuales se marcan los valores</translation></message>
@@ -527,8 +540,6 @@ mmHg</translation></message>
     <message id="noPage"><translation>Ninguna página</translation></message>
     <message id="noPatientFound"><translation>Ningún paciente encontrado</translation></message>
     <message id="noPatientFoundAdvice"><translation>Ningún nombre ni ID contiene lo que se busca.</translation></message>
-    <message id="noPatients"><translation>Aún no hay pacientes</translation></message>
-    <message id="noPatientsAdvice"><translation>Pulse «Nuevo» para introducir el primero.</translation></message>
     <message id="noPatientSelected"><translation>Ningún paciente seleccionado</translation></message>
     <message id="noPrinterNote"><translation>Este equipo no tiene ninguna impresora. Puede guardar las páginas como PDF o instalar una impresora en la configuración del sistema.</translation></message>
     <message id="NoPrnter"><translation>Sin impresora</translation></message>
@@ -614,6 +625,7 @@ mmHg</translation></message>
     <message id="readingTotal"><translation>Mediciones de este paciente</translation></message>
     <message id="redoFailed"><translation>No se ha rehecho «%1». %2</translation></message>
     <message id="redone"><translation>Rehecho: %1</translation></message>
+    <message id="requiredNote"><translation>* se debe rellenar</translation></message>
     <message id="riskFactors"><translation>Factores de riesgo</translation></message>
     <message id="sameID"><translation>El ID %1 pertenece a otro paciente de la lista. Todavía no se ha guardado nada; elija otro ID.</translation></message>
     <message id="sameIDTitle"><translation>ID ya en uso</translation></message>
@@ -1023,7 +1035,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo reemplaza.</translation></message>
     <message id="CliFromAfterTo"><translation>El día de --from es posterior al de --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
      zel COMMAND [OPTION]...
 
 Conserva las mediciones de tensiómetros automáticos, paciente por paciente.
@@ -1045,6 +1057,7 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
 
 Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
+  --demonstration              una ventana con un tensiómetro simulado y datos propios
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión

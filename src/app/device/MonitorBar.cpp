@@ -4,6 +4,7 @@
 #include "app/widgets/PageHeading.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
@@ -24,6 +25,9 @@ MonitorBar::MonitorBar(const MonitorStatus& monitorStatus, const DataStore& data
     setBackgroundRole(QPalette::AlternateBase);
     build();
     makeKeys();
+    afterRelease.setSingleShot(true);
+    afterRelease.setInterval(50);
+    connect(&afterRelease, &QTimer::timeout, this, &MonitorBar::follow);
     connect(&status, &MonitorStatus::changed, this, &MonitorBar::follow);
     connect(&store, &DataStore::reloaded, this, &MonitorBar::follow);
     hide();
@@ -80,8 +84,10 @@ void MonitorBar::dismiss() {
     follow();
 }
 
-/// An ID is news once, however often it is read.
+/// An ID is news once, however often it is read. The page below moves for the bar: never under a pointer that
+/// holds something.
 void MonitorBar::follow() {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) return afterRelease.start();
     const MonitorState& state = status.state();
     const auto ID = state.isConnected ? state.IDOnDevice : std::nullopt;
     if (ID != dismissed) dismissed.reset();

@@ -4,6 +4,7 @@
 #include "app/device/MonitorStatus.h"
 
 #include <QFrame>
+#include <QTimer>
 
 #include <optional>
 
@@ -35,6 +36,7 @@ private:
 
     const MonitorStatus& status;
     const DataStore& store;
+    QTimer afterRelease;
     MonitorNotice said;
     std::optional<QString> dismissed; ///< the ID that the bar was closed for
     QLabel* lblTitle;

@@ -14,6 +14,7 @@ class QStackedWidget;
 namespace zel {
 
 class EmptyState;
+class FirstSteps;
 class PatientButtons;
 class PatientEditor;
 class PatientIDSender;
@@ -30,6 +31,7 @@ public:
         MonitorWorker& monitor;
         MessagePanel& panel;
         const Clock& clock;
+        bool offersDemonstration = false; ///< while there are no patients
     };
     explicit PatientViewController(const Parts& needed);
 
@@ -61,6 +63,7 @@ public:
 
 signals:
     void dataTransferWanted();
+    void demonstrationWanted();
     void updateUIWanted(); ///< the monitor's ID has been changed
     void rosterChanged(bool hasPatients);
     void said(const QString& text); ///< what has been done
@@ -72,6 +75,7 @@ private:
     PatientButtons* makeButtons();
     void reload();
     void open(const QString& ID);
+    [[nodiscard]] QWidget* insteadOfRoster() const;
     void showRecord(const QString& ID);
     void goTo(const QString& ID);
     void enableButtons();
@@ -101,7 +105,8 @@ private:
     PatientIDSender* sender;
     PatientRoster* roster;
     PatientEditor* editor;
-    EmptyState* noPatients;
+    EmptyState* noPatients; ///< that could be read
+    FirstSteps* firstSteps;
     QStackedWidget* rosterOrAdvice;
     PatientButtons* buttons = nullptr;
     struct Unsaved {

@@ -9,6 +9,7 @@
 #include "app/settings/BackupCourier.h"
 #include "app/settings/BackupDialog.h"
 #include "app/settings/SettingController.h"
+#include "app/shell/Demonstration.h"
 #include "app/shell/HelpWindow.h"
 #include "app/shell/MonitorOffers.h"
 #include "app/shell/SplashWindow.h"
@@ -39,8 +40,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.status),
       watch({needed.monitor, needed.status, needed.panel, needed.clock}, times.polling),
       dataWatch(needed.store, window, {.interval = times.watching}),
-      patientPage(new PatientViewController(
-          {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
+      patientPage(new PatientViewController({needed.store, needed.status, needed.monitor, needed.panel,
+                                             needed.clock, static_cast<bool>(needed.demonstration.start)})),
       graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),
       tablePage(
           new TableViewController({needed.store, needed.status, needed.period, needed.panel, needed.clock})),
@@ -72,6 +73,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
+    connect(patientPage, &PatientViewController::demonstrationWanted, this,
+            &AppController::startDemonstration);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
     connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);
@@ -107,6 +110,7 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
     patientPage->UpdateUIBySetting();
     setHWButtons(false);
     window.setWindowTitle(qtTrId("AP_Title"));
+    if (parts.demonstration.isOn) markAsDemonstration(window, parts.store);
     window.setMinimumSize(leastSize(window.screen()->availableSize()));
 }
 
@@ -225,6 +229,12 @@ void AppController::showPageInView() {
 bool AppController::showPatients() {
     if (window.pageInView() != 0) changeTab(0);
     return window.pageInView() == 0;
+}
+
+void AppController::startDemonstration() {
+    const QString why = parts.demonstration.start();
+    if (why.isEmpty()) return window.showOutcome(qtTrId("demonstrationStarted"));
+    parts.panel.ShowMessage(why, qtTrId("Warning"));
 }
 
 void AppController::savePatient() {

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <chrono>
+#include <functional>
 
 namespace zel {
 
@@ -37,6 +38,10 @@ struct DownloadOutcome;
 class AppController final : public QObject {
     Q_OBJECT
 public:
+    struct Demonstration {
+        bool isOn = false;                ///< this is one
+        std::function<QString()> start{}; ///< \return why it could not be started, in words
+    };
     struct Parts {
         DataStore& store;
         MonitorStatus& status;
@@ -48,6 +53,7 @@ public:
         Printers& printers;
         DocumentOpener openDocument;
         QString languageFile; ///< of the user's choice
+        Demonstration demonstration{};
     };
     struct Timing {
         std::chrono::milliseconds polling{2000};
@@ -91,6 +97,7 @@ signals:
 private:
     void showPageInView();
     [[nodiscard]] bool showPatients();
+    void startDemonstration();
     [[nodiscard]] PageController& pageInView() const;
     void connectDataWatch();
     void end();

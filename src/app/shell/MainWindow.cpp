@@ -62,8 +62,7 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     : status(monitorStatus), tabs{new TabButton(u"patientBtn"_s, qtTrId("tabPatients"), this),
                                   new TabButton(u"graphBtn"_s, qtTrId("tabChart"), this),
                                   new TabButton(u"tableBtn"_s, qtTrId("tabReadings"), this)},
-      contentBox(new PageBox(this)), offer(new MonitorBar(monitorStatus, store, this)),
-      lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
+      contentBox(new PageBox(this)), lblOutcome(new QLabel(this)), lblMonitor(new QLabel(this)) {
     setObjectName(u"mainWndow"_s); // spelled so in the interface
     setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     contentBox->setObjectName(u"contentBox"_s);
@@ -72,6 +71,7 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeTabBar());
+    offer = new MonitorBar(status, store, this); // Tab goes to it next
     column->addWidget(offer);
     column->addWidget(makeBody(store), 1);
     setCentralWidget(central);

@@ -69,7 +69,7 @@ private:
     const MonitorStatus& status;
     std::array<TabButton*, tabTotal> tabs;
     QStackedWidget* contentBox;
-    MonitorBar* offer;
+    MonitorBar* offer = nullptr;
     QWidget* sideColumn = nullptr;
     DataPanel* dataPanel = nullptr;
     QLabel* lblOutcome;

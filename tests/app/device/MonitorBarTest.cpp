@@ -4,7 +4,9 @@
 
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace zel {
 
@@ -106,6 +108,14 @@ TEST_F(MonitorBarTest, offersNothingThatCannotBeDoneNow) {
     status.update([](MonitorState& state) { state.trouble = MonitorResult::timeOut; });
     EXPECT_FALSE(download.isEnabled());
     EXPECT_TRUE(bar->isVisible()) << "one answer that is missing moves no page";
+}
+
+TEST_F(MonitorBarTest, movesNoPageUnderAPointerThatHoldsSomething) {
+    QTest::mousePress(host->windowHandle(), Qt::LeftButton, {}, {5, host->height() - 5});
+    connectMonitor(u"P1"_s);
+    EXPECT_FALSE(bar->isVisible());
+    QTest::mouseRelease(host->windowHandle(), Qt::LeftButton, {}, {5, host->height() - 5});
+    waitFor([this] { return bar->isVisible(); });
 }
 
 TEST_F(MonitorBarTest, followsTheRoster) {

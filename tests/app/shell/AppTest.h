@@ -29,6 +29,7 @@ protected:
     ScriptedPrinters printers;
     QStringList opened; ///< documents that were handed to the desktop
     bool hasViewer = true;
+    AppController::Demonstration demonstration; ///< none to be started unless told
     DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
     std::unique_ptr<AppController> app;
 };
