@@ -334,6 +334,14 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="deleteReadingsQuestion"><translation>Die von Hand eingegebenen Werte löschen (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Messung löschen</translation></message>
     <message id="DeleteTheComment"><translation>Diesen Kommentar löschen? Solange ZEL geöffnet ist, stellt „Bearbeiten“ &gt; „Rückgängig“ ihn wieder her.</translation></message>
+    <message id="demonstrationButton"><translation>Mit einem Vorführgerät ausprobieren</translation></message>
+    <message id="demonstrationIsOwnData"><translation>Die Vorführung bewahrt ihre Daten im Ordner %1 auf, der aber zu Ihren eigenen Daten führt. Es wurde nichts gestartet, damit keine erfundenen Messungen unter Ihre geraten.</translation></message>
+    <message id="demonstrationNoFolder"><translation>Die Vorführung bewahrt ihre Daten im Ordner %1 auf, der nicht angelegt werden kann.</translation></message>
+    <message id="demonstrationNote"><translation>Öffnet ein zweites Fenster mit einem simulierten Messgerät und erfundenen Messungen, die von Ihren eigenen Daten getrennt bleiben.</translation></message>
+    <message id="demonstrationNotStarted"><translation>Die Vorführung konnte nicht gestartet werden.</translation></message>
+    <message id="demonstrationStarted"><translation>Die Vorführung öffnet sich in einem eigenen Fenster.</translation></message>
+    <message id="demonstrationStrip"><translation>Vorführung: Das Messgerät ist simuliert; seine Messungen sind erfunden und bleiben von Ihren eigenen Daten getrennt.</translation></message>
+    <message id="demonstrationTitle"><translation>Vorführung – %1</translation></message>
     <message id="download"><translation>Messungen auslesen</translation></message>
     <message id="downloadAdvice"><translation>Bitte lassen Sie das Messgerät angeschlossen. Seine Messungen werden gespeichert, sobald alle angekommen sind.</translation></message>
     <message id="downloadButton"><translation>A&amp;uslesen</translation></message>
@@ -393,7 +401,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fieldMissing"><translation>Bitte füllen Sie dieses Feld aus.</translation></message>
     <message id="fieldPatientNotes"><translation>Notizen zu diesem Patienten</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefon / E-Mail</translation></message>
-    <message id="fieldRequiredSpoken"><translation>erforderlich</translation></message>
+    <message id="fieldRequired"><translation>Pflichtfeld</translation></message>
     <message id="fieldSex"><translation>Geschlecht</translation></message>
     <message id="fieldSmoker"><translation>Rauchen</translation></message>
     <message id="fieldWeightKg"><translation>Gewicht (kg)</translation></message>
@@ -401,6 +409,10 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fileBeingRead"><translation>wird gelesen …</translation></message>
     <message id="fileNotReadable"><translation>nicht lesbar</translation></message>
     <message id="fileTooLargeToCount"><translation>über 64 MiB: nicht gezählt</translation></message>
+    <message id="firstStepDownload"><translation>Drücken Sie „Auslesen“. Die Messungen erscheinen in Diagramm und Tabelle.</translation></message>
+    <message id="firstStepMonitor"><translation>Schließen Sie das Messgerät mit seinem USB-Kabel an. Ist die ID dieses Patienten noch nicht darin gespeichert, drücken Sie „ID senden“.</translation></message>
+    <message id="firstStepPatient"><translation>Geben Sie den Patienten, dessen Blutdruck das Messgerät misst, mit einer ID ein und drücken Sie „Speichern“.</translation></message>
+    <message id="firstSteps"><translation>Noch keine Patienten: drei Schritte zu den ersten Messungen</translation></message>
     <message id="heightRefusedCm"><translation>Bitte geben Sie eine Zahl von 20 bis 300 cm ein, z. B. 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Bitte geben Sie Fuß und Zoll mit einem Schrägstrich dazwischen ein, z. B. 5/9. Zoll: höchstens 11.</translation></message>
     <message id="highFrom"><translation>Grenzwerte, ab denen Werte markiert werden</translation></message>
@@ -473,9 +485,10 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="minusDay"><translation>Weniger Tage: an jedem Ende des Zeitraums einer weniger</translation></message>
     <message id="minusDayHint"><translation>Weniger Tage: an jedem Ende des Zeitraums einer weniger (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM TT JJJJ</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Das Messgerät wurde inzwischen abgezogen oder gewechselt; es wurde nichts ausgelesen.</translation></message>
     <message id="monitorClock"><translation>Uhr</translation></message>
     <message id="monitorConnected"><translation>Messgerät verbunden</translation></message>
-    <message id="monitorConnectedID"><translation>Im Messgerät ist die ID %1 gespeichert. Wählen Sie diesen Patienten und drücken Sie „Auslesen“, um die Messungen zu holen.</translation></message>
+    <message id="monitorConnectedID"><translation>Im Messgerät ist die ID %1 gespeichert. Drücken Sie „Auslesen“, um die Messungen für diesen Patienten zu holen.</translation></message>
     <message id="monitorCounting"><translation>Die Messungen im Messgerät werden abgefragt. Das kann bis zu 20 Sekunden dauern …</translation></message>
     <message id="monitorDownloading"><translation>Messungen werden ausgelesen …</translation></message>
     <message id="monitorErasing"><translation>Messgerät wird geleert …</translation></message>
@@ -486,6 +499,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Darin ist %n Messung.</numerusform><numerusform>Darin sind %n Messungen.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Welche ID jetzt im Messgerät gespeichert ist, konnte nicht gelesen werden.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>Die ID %1 von %2 sieht ihr sehr ähnlich, ist aber eine andere.</translation></message>
     <message id="monitorLooking"><translation>Messgerät wird gesucht …</translation></message>
     <message id="monitorNotAnswering"><translation>Angeschlossen, antwortet aber nicht wie erwartet. %1</translation></message>
     <message id="monitorNotConnected"><translation>Nicht verbunden. Schließen Sie das Messgerät an einen USB-Anschluss an.</translation></message>
@@ -501,6 +515,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="NewPatient"><translation>Neuer Patient</translation></message>
     <message id="newPatientButton"><translation>&amp;Neu</translation></message>
     <message id="newPatientHint"><translation>Neuen Patienten anlegen (Strg+N).</translation></message>
+    <message id="newPatientWithID"><translation>Neuer Patient mit dieser ID</translation></message>
     <message id="newReadingAction"><translation>Neue Messung …</translation></message>
     <message id="newReadingHint"><translation>Eine Messung von Hand eingeben, die keines Ihrer Messgeräte gespeichert hat (Strg+N).</translation></message>
     <message id="newReadingTitle"><translation>Neue Messung</translation></message>
@@ -525,8 +540,6 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="noPage"><translation>Keine Seite</translation></message>
     <message id="noPatientFound"><translation>Kein Patient gefunden</translation></message>
     <message id="noPatientFoundAdvice"><translation>Kein Name und keine ID enthält den Suchtext.</translation></message>
-    <message id="noPatients"><translation>Noch keine Patienten</translation></message>
-    <message id="noPatientsAdvice"><translation>Drücken Sie „Neu“, um den ersten anzulegen.</translation></message>
     <message id="noPatientSelected"><translation>Kein Patient ausgewählt</translation></message>
     <message id="noPrinterNote"><translation>Auf diesem Computer ist kein Drucker eingerichtet. Sie können die Seiten als PDF speichern oder in den Systemeinstellungen einen Drucker einrichten.</translation></message>
     <message id="NoPrnter"><translation>Kein Drucker</translation></message>
@@ -613,6 +626,7 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="readingTotal"><translation>Messungen dieses Patienten</translation></message>
     <message id="redoFailed"><translation>„%1“ wurde nicht wiederholt. %2</translation></message>
     <message id="redone"><translation>Wiederholt: %1</translation></message>
+    <message id="requiredNote"><translation>* muss ausgefüllt werden</translation></message>
     <message id="riskFactors"><translation>Risikofaktoren</translation></message>
     <message id="sameID"><translation>Die ID %1 gehört zu einem anderen Patienten der Liste. Es wurde noch nichts gespeichert; bitte wählen Sie eine andere ID.</translation></message>
     <message id="sameIDTitle"><translation>ID schon vergeben</translation></message>
@@ -1022,7 +1036,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliFolderMissing"><translation>Es fehlt der Ordner für den Export.</translation></message>
     <message id="CliForceReplaces"><translation>--force ersetzt sie.</translation></message>
     <message id="CliFromAfterTo"><translation>Der Tag von --from liegt nach dem Tag von --to.</translation></message>
-    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
         zel COMMAND [OPTION]...
 
 Verwaltet die Messungen automatischer Blutdruckmessgeräte, Patient für Patient.
@@ -1037,7 +1051,6 @@ Ohne Befehl öffnet sich ein Fenster. Die Befehle leisten dasselbe ohne Fenster,
   report     den Bericht eines Patienten als PDF schreiben
   export-xml alle Patienten oder einen als XML-Dateien exportieren
   export-csv einen Patienten mit seinen Messungen als CSV-Datei exportieren
-  export-fhir alle Patienten oder einen als FHIR-Dateien für andere Patientenakten exportieren
   import     Patienten aus exportierten XML-Dateien übernehmen
   settings   die Einstellungen anzeigen oder einige ändern
   backup     die Sicherungen der Datendatei auflisten, eine anlegen oder zu einer zurückkehren
@@ -1046,6 +1059,7 @@ Ohne Befehl öffnet sich ein Fenster. Die Befehle leisten dasselbe ohne Fenster,
 Optionen:
   --simulated-monitor[=FILE]   statt eines USB-Geräts ein simuliertes Messgerät verwenden, das eingebaute
                                oder das in FILE beschriebene
+  --demonstration              ein Fenster mit simuliertem Messgerät und eigenen, erfundenen Daten
   --language TAG               die Sprache der Meldungen und Berichte, etwa de
   -h, --help                   diesen Text anzeigen; 'zel COMMAND --help' erklärt einen Befehl
   --version                    die Version anzeigen

@@ -334,6 +334,14 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="deleteReadingsQuestion"><translation>Delete what was typed in (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Delete Reading</translation></message>
     <message id="DeleteTheComment"><translation>Delete this comment? Edit &gt; Undo brings it back until ZEL is closed.</translation></message>
+    <message id="demonstrationButton"><translation>Try it with a demonstration monitor</translation></message>
+    <message id="demonstrationIsOwnData"><translation>The demonstration keeps its data in the folder %1, but that leads to your own data. Nothing was started, so that no invented readings get among yours.</translation></message>
+    <message id="demonstrationNoFolder"><translation>The demonstration keeps its data in the folder %1, which cannot be made.</translation></message>
+    <message id="demonstrationNote"><translation>Opens a second window with a simulated monitor and invented readings, which are kept apart from your own data.</translation></message>
+    <message id="demonstrationNotStarted"><translation>The demonstration could not be started.</translation></message>
+    <message id="demonstrationStarted"><translation>The demonstration opens in a window of its own.</translation></message>
+    <message id="demonstrationStrip"><translation>Demonstration: the monitor is simulated; its readings are invented and kept apart from your own data.</translation></message>
+    <message id="demonstrationTitle"><translation>Demonstration – %1</translation></message>
     <message id="download"><translation>Download readings</translation></message>
     <message id="downloadAdvice"><translation>Please leave the monitor connected. Its readings are stored when all of them have arrived.</translation></message>
     <message id="downloadButton"><translation>&amp;Download</translation></message>
@@ -393,7 +401,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fieldMissing"><translation>Please fill in this field.</translation></message>
     <message id="fieldPatientNotes"><translation>Notes on this patient</translation></message>
     <message id="fieldPhoneEmail"><translation>Phone / e-mail</translation></message>
-    <message id="fieldRequiredSpoken"><translation>required</translation></message>
+    <message id="fieldRequired"><translation>Required</translation></message>
     <message id="fieldSex"><translation>Sex</translation></message>
     <message id="fieldSmoker"><translation>Smoker</translation></message>
     <message id="fieldWeightKg"><translation>Weight (kg)</translation></message>
@@ -401,6 +409,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fileBeingRead"><translation>reading …</translation></message>
     <message id="fileNotReadable"><translation>not readable</translation></message>
     <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
+    <message id="firstStepDownload"><translation>Press Download. The readings appear in chart and table.</translation></message>
+    <message id="firstStepMonitor"><translation>Connect the monitor with its USB cable. If it does not hold this patient’s ID yet, press “Send ID”.</translation></message>
+    <message id="firstStepPatient"><translation>Enter the patient whose blood pressure the monitor measures, with an ID, and press Save.</translation></message>
+    <message id="firstSteps"><translation>No patients yet: three steps to the first readings</translation></message>
     <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Please give feet and inches with a stroke between them, such as 5/9. Inches go up to 11.</translation></message>
     <message id="highFrom"><translation>Limits from which on values are marked</translation></message>
@@ -473,9 +485,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd yyyy</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>The monitor has been pulled out or changed meanwhile; nothing was downloaded.</translation></message>
     <message id="monitorClock"><translation>Clock</translation></message>
     <message id="monitorConnected"><translation>Monitor connected</translation></message>
-    <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Choose this patient and press Download to fetch the readings.</translation></message>
+    <message id="monitorConnectedID"><translation>The monitor holds the ID %1. Press Download to fetch the readings for this patient.</translation></message>
     <message id="monitorCounting"><translation>Asking the monitor for its readings. This can take up to 20 seconds …</translation></message>
     <message id="monitorDownloading"><translation>Downloading readings …</translation></message>
     <message id="monitorErasing"><translation>Emptying the monitor …</translation></message>
@@ -486,6 +499,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>It holds %n reading.</numerusform><numerusform>It holds %n readings.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Which ID the monitor holds now could not be read.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>The ID %1 of %2 looks much like it, but is another one.</translation></message>
     <message id="monitorLooking"><translation>Looking for a monitor …</translation></message>
     <message id="monitorNotAnswering"><translation>Attached, but not answering as it should. %1</translation></message>
     <message id="monitorNotConnected"><translation>Not connected. Attach the monitor to a USB port.</translation></message>
@@ -501,6 +515,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="NewPatient"><translation>New patient</translation></message>
     <message id="newPatientButton"><translation>&amp;New</translation></message>
     <message id="newPatientHint"><translation>Enter a new patient (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>New patient with this ID</translation></message>
     <message id="newReadingAction"><translation>New Reading…</translation></message>
     <message id="newReadingHint"><translation>Type in a reading that no monitor of yours has stored (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>New Reading</translation></message>
@@ -525,8 +540,6 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="noPage"><translation>No page</translation></message>
     <message id="noPatientFound"><translation>No patient found</translation></message>
     <message id="noPatientFoundAdvice"><translation>No name and no ID holds what is searched for.</translation></message>
-    <message id="noPatients"><translation>No patients yet</translation></message>
-    <message id="noPatientsAdvice"><translation>Press New to enter the first one.</translation></message>
     <message id="noPatientSelected"><translation>No patient selected</translation></message>
     <message id="noPrinterNote"><translation>This computer knows no printer. You can save the pages as a PDF, or set up a printer in the system’s settings.</translation></message>
     <message id="NoPrnter"><translation>No printer</translation></message>
@@ -613,6 +626,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
     <message id="redoFailed"><translation>“%1” was not done again. %2</translation></message>
     <message id="redone"><translation>Done again: %1</translation></message>
+    <message id="requiredNote"><translation>* has to be filled in</translation></message>
     <message id="riskFactors"><translation>Risk factors</translation></message>
     <message id="sameID"><translation>The ID %1 belongs to another patient of the list. Nothing was saved yet; please choose another ID.</translation></message>
     <message id="sameIDTitle"><translation>ID taken</translation></message>
@@ -1022,7 +1036,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
-    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
        zel COMMAND [OPTION]...
 
 Keeps the readings of automatic blood-pressure monitors, patient by patient.
@@ -1037,7 +1051,6 @@ Without a command a window opens. The commands do the same jobs without one, on 
   report     write a patient's report as a PDF
   export-xml export all patients, or one, as XML files
   export-csv export a patient and the readings as a CSV file
-  export-fhir export all patients, or one, for other health records, as FHIR files
   import     take in patients from exported XML files
   settings   show the settings, or change some
   backup     list the copies of the data file, make one, or go back to one
@@ -1045,6 +1058,7 @@ Without a command a window opens. The commands do the same jobs without one, on 
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
+  --demonstration              a window with a simulated monitor, over data of its own
   --language TAG               the language of messages and reports, such as de or zh_TW
   -h, --help                   show this text; 'zel COMMAND --help' tells about a command
   --version                    show the version

@@ -334,6 +334,14 @@ mmHg</translation></message>
     <message id="deleteReadingsQuestion"><translation>¿Eliminar lo introducido a mano (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Eliminar medición</translation></message>
     <message id="DeleteTheComment"><translation>¿Eliminar este comentario? Edición &gt; Deshacer permite recuperarlo mientras no se cierre ZEL.</translation></message>
+    <message id="demonstrationButton"><translation>Probar con un tensiómetro de demostración</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La demostración guarda sus datos en la carpeta %1, pero esta lleva a sus propios datos. No se ha iniciado nada, para que ninguna medición inventada acabe entre las suyas.</translation></message>
+    <message id="demonstrationNoFolder"><translation>La demostración guarda sus datos en la carpeta %1, que no se puede crear.</translation></message>
+    <message id="demonstrationNote"><translation>Abre una segunda ventana con un tensiómetro simulado y mediciones inventadas, que se guardan aparte de sus propios datos.</translation></message>
+    <message id="demonstrationNotStarted"><translation>No se ha podido iniciar la demostración.</translation></message>
+    <message id="demonstrationStarted"><translation>La demostración se abre en su propia ventana.</translation></message>
+    <message id="demonstrationStrip"><translation>Demostración: el tensiómetro es simulado; sus mediciones son inventadas y se guardan aparte de sus propios datos.</translation></message>
+    <message id="demonstrationTitle"><translation>Demostración – %1</translation></message>
     <message id="download"><translation>Descargar mediciones</translation></message>
     <message id="downloadAdvice"><translation>Deje conectado el tensiómetro. Sus mediciones se guardan cuando han llegado todas.</translation></message>
     <message id="downloadButton"><translation>&amp;Descargar</translation></message>
@@ -393,7 +401,7 @@ mmHg</translation></message>
     <message id="fieldMissing"><translation>Rellene este campo.</translation></message>
     <message id="fieldPatientNotes"><translation>Notas sobre este paciente</translation></message>
     <message id="fieldPhoneEmail"><translation>Teléfono / correo</translation></message>
-    <message id="fieldRequiredSpoken"><translation>obligatorio</translation></message>
+    <message id="fieldRequired"><translation>Obligatorio</translation></message>
     <message id="fieldSex"><translation>Sexo</translation></message>
     <message id="fieldSmoker"><translation>Fumador/a</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
@@ -401,6 +409,10 @@ mmHg</translation></message>
     <message id="fileBeingRead"><translation>leyendo…</translation></message>
     <message id="fileNotReadable"><translation>no legible</translation></message>
     <message id="fileTooLargeToCount"><translation>más de 64 MiB: sin contar</translation></message>
+    <message id="firstStepDownload"><translation>Pulse «Descargar». Las mediciones aparecen en el gráfico y en la tabla.</translation></message>
+    <message id="firstStepMonitor"><translation>Conecte el tensiómetro con su cable USB. Si aún no tiene el ID de este paciente, pulse «Enviar ID».</translation></message>
+    <message id="firstStepPatient"><translation>Introduzca, con un ID, al paciente cuya presión arterial mide el tensiómetro y pulse «Guardar».</translation></message>
+    <message id="firstSteps"><translation>Aún no hay pacientes: tres pasos hasta las primeras mediciones</translation></message>
     <message id="heightRefusedCm"><translation>Indique un número de 20 a 300 cm, por ejemplo 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Indique pies y pulgadas separados por una barra, por ejemplo 5/9. Las pulgadas llegan hasta 11.</translation></message>
     <message id="highFrom"><translation>Límites a partir de los cuales se marcan los valores</translation></message>
@@ -473,9 +485,10 @@ mmHg</translation></message>
     <message id="minusDay"><translation>Menos días: uno menos en cada extremo del periodo</translation></message>
     <message id="minusDayHint"><translation>Menos días: uno menos en cada extremo del periodo (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd aaaa</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Entretanto se ha desconectado o cambiado el tensiómetro; no se ha descargado nada.</translation></message>
     <message id="monitorClock"><translation>Reloj</translation></message>
     <message id="monitorConnected"><translation>Tensiómetro conectado</translation></message>
-    <message id="monitorConnectedID"><translation>El tensiómetro tiene el ID %1. Elija a ese paciente y pulse «Descargar» para recoger las mediciones.</translation></message>
+    <message id="monitorConnectedID"><translation>El tensiómetro tiene el ID %1. Pulse «Descargar» para recoger las mediciones de este paciente.</translation></message>
     <message id="monitorCounting"><translation>Consultando cuántas mediciones contiene el tensiómetro. Puede tardar hasta 20 segundos…</translation></message>
     <message id="monitorDownloading"><translation>Descargando mediciones…</translation></message>
     <message id="monitorErasing"><translation>Vaciando la memoria del tensiómetro…</translation></message>
@@ -486,6 +499,7 @@ mmHg</translation></message>
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Contiene %n medición.</numerusform><numerusform>Contiene %n mediciones.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>No se ha podido leer qué ID tiene ahora el tensiómetro.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>El ID %1 de %2 se le parece mucho, pero es otro.</translation></message>
     <message id="monitorLooking"><translation>Buscando un tensiómetro…</translation></message>
     <message id="monitorNotAnswering"><translation>Conectado, pero no responde como debería. %1</translation></message>
     <message id="monitorNotConnected"><translation>No conectado. Conecte el tensiómetro a un puerto USB.</translation></message>
@@ -501,6 +515,7 @@ mmHg</translation></message>
     <message id="NewPatient"><translation>Paciente nuevo</translation></message>
     <message id="newPatientButton"><translation>&amp;Nuevo</translation></message>
     <message id="newPatientHint"><translation>Introducir un paciente nuevo (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Paciente nuevo con este ID</translation></message>
     <message id="newReadingAction"><translation>Medición nueva…</translation></message>
     <message id="newReadingHint"><translation>Introducir una medición que no haya guardado ninguno de sus tensiómetros (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Medición nueva</translation></message>
@@ -525,8 +540,6 @@ mmHg</translation></message>
     <message id="noPage"><translation>Ninguna página</translation></message>
     <message id="noPatientFound"><translation>Ningún paciente encontrado</translation></message>
     <message id="noPatientFoundAdvice"><translation>Ningún nombre ni ID contiene lo que se busca.</translation></message>
-    <message id="noPatients"><translation>Aún no hay pacientes</translation></message>
-    <message id="noPatientsAdvice"><translation>Pulse «Nuevo» para introducir el primero.</translation></message>
     <message id="noPatientSelected"><translation>Ningún paciente seleccionado</translation></message>
     <message id="noPrinterNote"><translation>Este equipo no tiene ninguna impresora. Puede guardar las páginas como PDF o instalar una impresora en la configuración del sistema.</translation></message>
     <message id="NoPrnter"><translation>Sin impresora</translation></message>
@@ -613,6 +626,7 @@ mmHg</translation></message>
     <message id="readingTotal"><translation>Mediciones de este paciente</translation></message>
     <message id="redoFailed"><translation>No se ha rehecho «%1». %2</translation></message>
     <message id="redone"><translation>Rehecho: %1</translation></message>
+    <message id="requiredNote"><translation>* se debe rellenar</translation></message>
     <message id="riskFactors"><translation>Factores de riesgo</translation></message>
     <message id="sameID"><translation>El ID %1 pertenece a otro paciente de la lista. Todavía no se ha guardado nada; elija otro ID.</translation></message>
     <message id="sameIDTitle"><translation>ID ya en uso</translation></message>
@@ -1022,7 +1036,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo reemplaza.</translation></message>
     <message id="CliFromAfterTo"><translation>El día de --from es posterior al de --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
      zel COMMAND [OPTION]...
 
 Conserva las mediciones de tensiómetros automáticos, paciente por paciente.
@@ -1037,7 +1051,6 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
   report     escribir el informe de un paciente como PDF
   export-xml exportar todos los pacientes, o uno, como archivos XML
   export-csv exportar un paciente y sus mediciones como archivo CSV
-  export-fhir exportar todos los pacientes, o uno, como archivos FHIR para otras historias clínicas
   import     incorporar pacientes de archivos XML exportados
   settings   mostrar la configuración, o cambiarla en parte
   backup     listar las copias del archivo de datos, hacer una o volver a una
@@ -1045,6 +1058,7 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
 
 Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
+  --demonstration              una ventana con un tensiómetro simulado y datos propios
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión

@@ -334,6 +334,14 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="deleteReadingsQuestion"><translation>Supprimer la saisie manuelle (%1) ?</translation></message>
     <message id="deleteReadingsTitle"><translation>Supprimer la mesure</translation></message>
     <message id="DeleteTheComment"><translation>Supprimer ce commentaire ? Édition &gt; Annuler le rétablit tant que ZEL n’est pas fermé.</translation></message>
+    <message id="demonstrationButton"><translation>Essayer avec un tensiomètre de démonstration</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La démonstration conserve ses données dans le dossier %1, mais celui-ci mène à vos propres données. Rien n’a été lancé, afin qu’aucune mesure inventée ne se mêle aux vôtres.</translation></message>
+    <message id="demonstrationNoFolder"><translation>La démonstration conserve ses données dans le dossier %1, qui ne peut pas être créé.</translation></message>
+    <message id="demonstrationNote"><translation>Ouvre une deuxième fenêtre avec un tensiomètre simulé et des mesures inventées, conservées à part de vos propres données.</translation></message>
+    <message id="demonstrationNotStarted"><translation>La démonstration n’a pas pu être lancée.</translation></message>
+    <message id="demonstrationStarted"><translation>La démonstration s’ouvre dans sa propre fenêtre.</translation></message>
+    <message id="demonstrationStrip"><translation>Démonstration : le tensiomètre est simulé ; ses mesures sont inventées et conservées à part de vos propres données.</translation></message>
+    <message id="demonstrationTitle"><translation>Démonstration – %1</translation></message>
     <message id="download"><translation>Transfert des mesures</translation></message>
     <message id="downloadAdvice"><translation>Veuillez laisser le tensiomètre branché. Ses mesures seront enregistrées quand toutes seront arrivées.</translation></message>
     <message id="downloadButton"><translation>&amp;Transférer</translation></message>
@@ -393,7 +401,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fieldMissing"><translation>Veuillez remplir ce champ.</translation></message>
     <message id="fieldPatientNotes"><translation>Notes sur ce patient</translation></message>
     <message id="fieldPhoneEmail"><translation>Téléphone / e-mail</translation></message>
-    <message id="fieldRequiredSpoken"><translation>obligatoire</translation></message>
+    <message id="fieldRequired"><translation>Obligatoire</translation></message>
     <message id="fieldSex"><translation>Sexe</translation></message>
     <message id="fieldSmoker"><translation>Tabagisme</translation></message>
     <message id="fieldWeightKg"><translation>Poids (kg)</translation></message>
@@ -401,6 +409,10 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fileBeingRead"><translation>lecture…</translation></message>
     <message id="fileNotReadable"><translation>illisible</translation></message>
     <message id="fileTooLargeToCount"><translation>plus de 64 Mio : non compté</translation></message>
+    <message id="firstStepDownload"><translation>Cliquez sur « Transférer ». Les mesures apparaissent dans le graphique et le tableau.</translation></message>
+    <message id="firstStepMonitor"><translation>Branchez le tensiomètre avec son câble USB. S’il ne contient pas encore l’ID de ce patient, cliquez sur « Envoyer l’ID ».</translation></message>
+    <message id="firstStepPatient"><translation>Saisissez le patient dont le tensiomètre mesure la pression artérielle, avec un ID, et cliquez sur « Enregistrer ».</translation></message>
+    <message id="firstSteps"><translation>Pas encore de patients : trois étapes jusqu’aux premières mesures</translation></message>
     <message id="heightRefusedCm"><translation>Veuillez indiquer un nombre compris entre 20 et 300 cm, par exemple 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Veuillez indiquer les pieds et les pouces séparés par une barre oblique, par exemple 5/9. Les pouces vont jusqu’à 11.</translation></message>
     <message id="highFrom"><translation>Limites à partir desquelles les valeurs sont marquées</translation></message>
@@ -473,9 +485,10 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="minusDay"><translation>Moins de jours : un de moins au début et à la fin de la période</translation></message>
     <message id="minusDayHint"><translation>Moins de jours : un de moins au début et à la fin de la période (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm jj aaaa</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Le tensiomètre a été débranché ou changé entre-temps ; rien n’a été transféré.</translation></message>
     <message id="monitorClock"><translation>Horloge</translation></message>
     <message id="monitorConnected"><translation>Tensiomètre branché</translation></message>
-    <message id="monitorConnectedID"><translation>Le tensiomètre contient l’ID %1. Choisissez ce patient et cliquez sur « Transférer » pour récupérer les mesures.</translation></message>
+    <message id="monitorConnectedID"><translation>Le tensiomètre contient l’ID %1. Cliquez sur « Transférer » pour récupérer les mesures de ce patient.</translation></message>
     <message id="monitorCounting"><translation>Comptage des mesures du tensiomètre (jusqu’à 20 secondes)…</translation></message>
     <message id="monitorDownloading"><translation>Transfert des mesures…</translation></message>
     <message id="monitorErasing"><translation>Effacement des mesures du tensiomètre…</translation></message>
@@ -486,6 +499,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Il contient %n mesure.</numerusform><numerusform>Il contient %n mesures.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>L’ID actuellement contenu dans le tensiomètre n’a pas pu être lu.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>L’ID %1 de %2 lui ressemble beaucoup, mais c’en est un autre.</translation></message>
     <message id="monitorLooking"><translation>Recherche d’un tensiomètre…</translation></message>
     <message id="monitorNotAnswering"><translation>Branché, mais ne répond pas correctement. %1</translation></message>
     <message id="monitorNotConnected"><translation>Non branché. Reliez le tensiomètre à un port USB.</translation></message>
@@ -501,6 +515,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="NewPatient"><translation>Nouveau patient</translation></message>
     <message id="newPatientButton"><translation>&amp;Nouveau</translation></message>
     <message id="newPatientHint"><translation>Ajouter un nouveau patient (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Nouveau patient avec cet ID</translation></message>
     <message id="newReadingAction"><translation>Nouvelle mesure…</translation></message>
     <message id="newReadingHint"><translation>Saisir une mesure qu’aucun de vos tensiomètres n’a enregistrée (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nouvelle mesure</translation></message>
@@ -525,8 +540,6 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="noPage"><translation>Aucune page</translation></message>
     <message id="noPatientFound"><translation>Aucun patient trouvé</translation></message>
     <message id="noPatientFoundAdvice"><translation>Aucun nom ni aucun ID ne contient le texte recherché.</translation></message>
-    <message id="noPatients"><translation>Pas encore de patients</translation></message>
-    <message id="noPatientsAdvice"><translation>Cliquez sur « Nouveau » pour ajouter le premier.</translation></message>
     <message id="noPatientSelected"><translation>Aucun patient choisi</translation></message>
     <message id="noPrinterNote"><translation>Aucune imprimante n’est installée sur cet ordinateur. Vous pouvez enregistrer les pages en PDF, ou installer une imprimante dans les réglages du système.</translation></message>
     <message id="NoPrnter"><translation>Aucune imprimante</translation></message>
@@ -613,6 +626,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="readingTotal"><translation>Mesures de ce patient</translation></message>
     <message id="redoFailed"><translation>L’action « %1 » n’a pas été rétablie. %2</translation></message>
     <message id="redone"><translation>Rétabli : %1</translation></message>
+    <message id="requiredNote"><translation>* à remplir obligatoirement</translation></message>
     <message id="riskFactors"><translation>Facteurs de risque</translation></message>
     <message id="sameID"><translation>L’ID %1 appartient à un autre patient de la liste. Rien n’a encore été enregistré ; veuillez choisir un autre ID.</translation></message>
     <message id="sameIDTitle"><translation>ID déjà attribué</translation></message>
@@ -1022,7 +1036,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliFolderMissing"><translation>Il manque le dossier vers lequel exporter.</translation></message>
     <message id="CliForceReplaces"><translation>--force le remplace.</translation></message>
     <message id="CliFromAfterTo"><translation>Le jour de --from est postérieur à celui de --to.</translation></message>
-    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
         zel COMMAND [OPTION]...
 
 Conserve les mesures de tensiomètres automatiques, patient par patient.
@@ -1037,7 +1051,6 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
   report     écrire le rapport d’un patient en PDF
   export-xml exporter tous les patients, ou un seul, en fichiers XML
   export-csv exporter un patient et ses mesures en fichier CSV
-  export-fhir exporter tous les patients, ou un seul, en fichiers FHIR pour d’autres dossiers médicaux
   import     ajouter des patients à partir de fichiers XML exportés
   settings   afficher les réglages, ou en modifier
   backup     lister les copies du fichier de données, en créer une, ou revenir à l’une d’elles
@@ -1045,6 +1058,7 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
 
 Options :
   --simulated-monitor[=FILE]   au lieu d’un tensiomètre USB, en simuler un, décrit par FILE ou intégré
+  --demonstration              une fenêtre avec un tensiomètre simulé et ses propres données
   --language TAG               la langue des messages et des rapports, par exemple fr
   -h, --help                   afficher ce texte ; 'zel COMMAND --help' décrit une commande
   --version                    afficher la version

@@ -334,6 +334,14 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="deleteReadingsQuestion"><translation>Eliminare i dati inseriti a mano (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Elimina misurazione</translation></message>
     <message id="DeleteTheComment"><translation>Eliminare questo commento? Con Modifica &gt; Annulla si recupera, finché ZEL resta aperto.</translation></message>
+    <message id="demonstrationButton"><translation>Provare con un misuratore dimostrativo</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La dimostrazione conserva i propri dati nella cartella %1, che però porta ai dati reali. Non è stato avviato nulla, perché nessuna misurazione inventata finisca tra quelle reali.</translation></message>
+    <message id="demonstrationNoFolder"><translation>La dimostrazione conserva i propri dati nella cartella %1, che non può essere creata.</translation></message>
+    <message id="demonstrationNote"><translation>Apre una seconda finestra con un misuratore simulato e misurazioni inventate, conservate separatamente dai propri dati.</translation></message>
+    <message id="demonstrationNotStarted"><translation>Impossibile avviare la dimostrazione.</translation></message>
+    <message id="demonstrationStarted"><translation>La dimostrazione si apre in una finestra propria.</translation></message>
+    <message id="demonstrationStrip"><translation>Dimostrazione: il misuratore è simulato; le sue misurazioni sono inventate e conservate separatamente dai propri dati.</translation></message>
+    <message id="demonstrationTitle"><translation>Dimostrazione – %1</translation></message>
     <message id="download"><translation>Scarica misurazioni</translation></message>
     <message id="downloadAdvice"><translation>Lasciare collegato il misuratore. Le misurazioni vengono registrate quando sono arrivate tutte.</translation></message>
     <message id="downloadButton"><translation>S&amp;carica</translation></message>
@@ -393,7 +401,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fieldMissing"><translation>Compilare questo campo.</translation></message>
     <message id="fieldPatientNotes"><translation>Note su questo paziente</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefono / e-mail</translation></message>
-    <message id="fieldRequiredSpoken"><translation>obbligatorio</translation></message>
+    <message id="fieldRequired"><translation>Obbligatorio</translation></message>
     <message id="fieldSex"><translation>Sesso</translation></message>
     <message id="fieldSmoker"><translation>Fumo</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
@@ -401,6 +409,10 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fileBeingRead"><translation>lettura…</translation></message>
     <message id="fileNotReadable"><translation>non leggibile</translation></message>
     <message id="fileTooLargeToCount"><translation>oltre 64 MiB: non contato</translation></message>
+    <message id="firstStepDownload"><translation>Premere Scarica. Le misurazioni compaiono nel grafico e nella tabella.</translation></message>
+    <message id="firstStepMonitor"><translation>Collegare il misuratore con il suo cavo USB. Se non contiene ancora l’ID di questo paziente, premere “Invia ID”.</translation></message>
+    <message id="firstStepPatient"><translation>Inserire con un ID il paziente di cui il misuratore rileva la pressione e premere Salva.</translation></message>
+    <message id="firstSteps"><translation>Ancora nessun paziente: tre passi per le prime misurazioni</translation></message>
     <message id="heightRefusedCm"><translation>Indicare un numero da 20 a 300 cm, per esempio 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Indicare piedi e pollici separati da una barra, per esempio 5/9. I pollici arrivano a 11.</translation></message>
     <message id="highFrom"><translation>Limiti da cui i valori vengono evidenziati</translation></message>
@@ -473,9 +485,10 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="minusDay"><translation>Meno giorni: uno in meno a ogni estremo del periodo</translation></message>
     <message id="minusDayHint"><translation>Meno giorni: uno in meno a ogni estremo del periodo (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm gg aaaa</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Nel frattempo il misuratore è stato scollegato o sostituito; non è stato scaricato nulla.</translation></message>
     <message id="monitorClock"><translation>Orologio</translation></message>
     <message id="monitorConnected"><translation>Misuratore collegato</translation></message>
-    <message id="monitorConnectedID"><translation>Il misuratore contiene l’ID %1. Scegliere questo paziente e premere Scarica per trasferire le misurazioni.</translation></message>
+    <message id="monitorConnectedID"><translation>Il misuratore contiene l’ID %1. Premere Scarica per trasferire le misurazioni di questo paziente.</translation></message>
     <message id="monitorCounting"><translation>Lettura del numero di misurazioni nel misuratore. Può richiedere fino a 20 secondi…</translation></message>
     <message id="monitorDownloading"><translation>Scarico delle misurazioni…</translation></message>
     <message id="monitorErasing"><translation>Svuotamento del misuratore…</translation></message>
@@ -486,6 +499,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Contiene %n misurazione.</numerusform><numerusform>Contiene %n misurazioni.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Impossibile leggere quale ID contiene ora il misuratore.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>L’ID %1 di %2 è molto simile, ma è un altro.</translation></message>
     <message id="monitorLooking"><translation>Ricerca di un misuratore…</translation></message>
     <message id="monitorNotAnswering"><translation>Collegato, ma non risponde come dovrebbe. %1</translation></message>
     <message id="monitorNotConnected"><translation>Non collegato. Collegare il misuratore a una porta USB.</translation></message>
@@ -501,6 +515,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="NewPatient"><translation>Nuovo paziente</translation></message>
     <message id="newPatientButton"><translation>&amp;Nuovo</translation></message>
     <message id="newPatientHint"><translation>Inserisce un nuovo paziente (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Nuovo paziente con questo ID</translation></message>
     <message id="newReadingAction"><translation>Nuova misurazione…</translation></message>
     <message id="newReadingHint"><translation>Inserisce a mano una misurazione non presente in alcun misuratore (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nuova misurazione</translation></message>
@@ -525,8 +540,6 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="noPage"><translation>Nessuna pagina</translation></message>
     <message id="noPatientFound"><translation>Nessun paziente trovato</translation></message>
     <message id="noPatientFoundAdvice"><translation>Nessun nome e nessun ID contiene il testo cercato.</translation></message>
-    <message id="noPatients"><translation>Ancora nessun paziente</translation></message>
-    <message id="noPatientsAdvice"><translation>Premere Nuovo per inserire il primo.</translation></message>
     <message id="noPatientSelected"><translation>Nessun paziente selezionato</translation></message>
     <message id="noPrinterNote"><translation>Su questo computer non è configurata alcuna stampante. Si possono salvare le pagine come PDF, oppure configurare una stampante nelle impostazioni del sistema.</translation></message>
     <message id="NoPrnter"><translation>Nessuna stampante</translation></message>
@@ -613,6 +626,7 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="readingTotal"><translation>Misurazioni del paziente</translation></message>
     <message id="redoFailed"><translation>Non è stato possibile ripetere “%1”. %2</translation></message>
     <message id="redone"><translation>Ripetuto: %1</translation></message>
+    <message id="requiredNote"><translation>* da compilare obbligatoriamente</translation></message>
     <message id="riskFactors"><translation>Fattori di rischio</translation></message>
     <message id="sameID"><translation>L’ID %1 appartiene a un altro paziente dell’elenco. Non è stato ancora salvato nulla; scegliere un altro ID.</translation></message>
     <message id="sameIDTitle"><translation>ID già in uso</translation></message>
@@ -1022,7 +1036,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliFolderMissing"><translation>Manca la cartella in cui esportare.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo sostituisce.</translation></message>
     <message id="CliFromAfterTo"><translation>Il giorno di --from è successivo a quello di --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
      zel COMANDO [OPZIONE]...
 
 Gestisce le misurazioni dei misuratori automatici di pressione, paziente per paziente.
@@ -1037,7 +1051,6 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
   report     scrive il rapporto di un paziente in PDF
   export-xml esporta tutti i pazienti, o uno solo, in file XML
   export-csv esporta un paziente e le sue misurazioni in un file CSV
-  export-fhir esporta tutti i pazienti, o uno solo, in file FHIR per altre cartelle cliniche
   import     importa pazienti da file XML esportati
   settings   mostra le impostazioni o ne modifica alcune
   backup     elenca le copie del file dei dati, ne crea una o ne ripristina una
@@ -1045,6 +1058,7 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
 
 Opzioni:
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato, invece di uno USB
+  --demonstration              una finestra con un misuratore simulato e dati propri
   --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
   -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
   --version                    mostra la versione

@@ -334,6 +334,14 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="deleteReadingsQuestion"><translation>Usunąć to, co wpisano ręcznie (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Usuwanie pomiaru</translation></message>
     <message id="DeleteTheComment"><translation>Usunąć ten komentarz? Do zamknięcia ZEL można go przywrócić poleceniem Edycja &gt; Cofnij.</translation></message>
+    <message id="demonstrationButton"><translation>Wypróbuj z ciśnieniomierzem demonstracyjnym</translation></message>
+    <message id="demonstrationIsOwnData"><translation>Demonstracja przechowuje swoje dane w folderze %1, który jednak prowadzi do własnych danych. Niczego nie uruchomiono, aby zmyślone pomiary nie trafiły między prawdziwe.</translation></message>
+    <message id="demonstrationNoFolder"><translation>Demonstracja przechowuje swoje dane w folderze %1, którego nie można utworzyć.</translation></message>
+    <message id="demonstrationNote"><translation>Otwiera drugie okno z symulowanym ciśnieniomierzem i zmyślonymi pomiarami, przechowywanymi osobno od własnych danych.</translation></message>
+    <message id="demonstrationNotStarted"><translation>Nie udało się uruchomić demonstracji.</translation></message>
+    <message id="demonstrationStarted"><translation>Demonstracja otwiera się w osobnym oknie.</translation></message>
+    <message id="demonstrationStrip"><translation>Demonstracja: ciśnieniomierz jest symulowany, a jego pomiary są zmyślone i przechowywane osobno od własnych danych.</translation></message>
+    <message id="demonstrationTitle"><translation>Demonstracja – %1</translation></message>
     <message id="download"><translation>Pobieranie pomiarów</translation></message>
     <message id="downloadAdvice"><translation>Proszę nie odłączać ciśnieniomierza. Pomiary zostaną zapisane, gdy dotrą wszystkie.</translation></message>
     <message id="downloadButton"><translation>Po&amp;bierz</translation></message>
@@ -393,7 +401,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fieldMissing"><translation>Proszę wypełnić to pole.</translation></message>
     <message id="fieldPatientNotes"><translation>Notatki o pacjencie</translation></message>
     <message id="fieldPhoneEmail"><translation>Telefon / e-mail</translation></message>
-    <message id="fieldRequiredSpoken"><translation>wymagane</translation></message>
+    <message id="fieldRequired"><translation>Pole wymagane</translation></message>
     <message id="fieldSex"><translation>Płeć</translation></message>
     <message id="fieldSmoker"><translation>Palenie tytoniu</translation></message>
     <message id="fieldWeightKg"><translation>Masa ciała (kg)</translation></message>
@@ -401,6 +409,10 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fileBeingRead"><translation>odczyt…</translation></message>
     <message id="fileNotReadable"><translation>nieczytelny</translation></message>
     <message id="fileTooLargeToCount"><translation>&gt; 64 MiB: nie policzono</translation></message>
+    <message id="firstStepDownload"><translation>Proszę nacisnąć „Pobierz”. Pomiary pojawią się na wykresie i w tabeli.</translation></message>
+    <message id="firstStepMonitor"><translation>Proszę podłączyć ciśnieniomierz kablem USB. Jeśli nie ma on jeszcze ID tego pacjenta, proszę nacisnąć „Wyślij ID”.</translation></message>
+    <message id="firstStepPatient"><translation>Proszę wpisać pacjenta, którego ciśnienie mierzy ciśnieniomierz, nadać mu ID i nacisnąć „Zapisz”.</translation></message>
+    <message id="firstSteps"><translation>Nie ma jeszcze pacjentów: trzy kroki do pierwszych pomiarów</translation></message>
     <message id="heightRefusedCm"><translation>Proszę podać liczbę od 20 do 300 cm, na przykład 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Proszę podać stopy i cale rozdzielone ukośnikiem, na przykład 5/9. Cale: najwyżej 11.</translation></message>
     <message id="highFrom"><translation>Granice, od których wartości są oznaczane</translation></message>
@@ -473,9 +485,10 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="minusDay"><translation>Mniej dni: o jeden mniej na każdym końcu okresu</translation></message>
     <message id="minusDayHint"><translation>Mniej dni: o jeden mniej na każdym końcu okresu (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM DD RRRR</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Ciśnieniomierz został w międzyczasie odłączony lub zmieniony; niczego nie pobrano.</translation></message>
     <message id="monitorClock"><translation>Zegar</translation></message>
     <message id="monitorConnected"><translation>Ciśnieniomierz podłączony</translation></message>
-    <message id="monitorConnectedID"><translation>Ciśnieniomierz ma ID %1. Aby pobrać pomiary, proszę wybrać tego pacjenta i nacisnąć „Pobierz”.</translation></message>
+    <message id="monitorConnectedID"><translation>Ciśnieniomierz ma ID %1. Aby pobrać pomiary tego pacjenta, proszę nacisnąć „Pobierz”.</translation></message>
     <message id="monitorCounting"><translation>Sprawdzanie liczby pomiarów w ciśnieniomierzu. Może to potrwać do 20 sekund…</translation></message>
     <message id="monitorDownloading"><translation>Pobieranie pomiarów…</translation></message>
     <message id="monitorErasing"><translation>Opróżnianie ciśnieniomierza…</translation></message>
@@ -486,6 +499,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Jest w nim %n pomiar.</numerusform><numerusform>Są w nim %n pomiary.</numerusform><numerusform>Jest w nim %n pomiarów.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Nie udało się odczytać, jakie ID ma teraz ciśnieniomierz.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>Bardzo podobne jest ID %1 (%2), ale to inne ID.</translation></message>
     <message id="monitorLooking"><translation>Szukanie ciśnieniomierza…</translation></message>
     <message id="monitorNotAnswering"><translation>Podłączony, ale odpowiada nieprawidłowo. %1</translation></message>
     <message id="monitorNotConnected"><translation>Niepodłączony. Proszę podłączyć ciśnieniomierz do portu USB.</translation></message>
@@ -501,6 +515,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="NewPatient"><translation>Nowy pacjent</translation></message>
     <message id="newPatientButton"><translation>&amp;Nowy</translation></message>
     <message id="newPatientHint"><translation>Dodaje nowego pacjenta (Ctrl+N).</translation></message>
+    <message id="newPatientWithID"><translation>Nowy pacjent z tym ID</translation></message>
     <message id="newReadingAction"><translation>Nowy pomiar…</translation></message>
     <message id="newReadingHint"><translation>Pozwala wpisać pomiar, którego nie zapisał ciśnieniomierz (Ctrl+N).</translation></message>
     <message id="newReadingTitle"><translation>Nowy pomiar</translation></message>
@@ -525,8 +540,6 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="noPage"><translation>Brak strony</translation></message>
     <message id="noPatientFound"><translation>Nie znaleziono pacjenta</translation></message>
     <message id="noPatientFoundAdvice"><translation>Żadne nazwisko, imię ani ID nie zawiera szukanego tekstu.</translation></message>
-    <message id="noPatients"><translation>Nie ma jeszcze pacjentów</translation></message>
-    <message id="noPatientsAdvice"><translation>Aby wpisać pierwszego, proszę nacisnąć „Nowy”.</translation></message>
     <message id="noPatientSelected"><translation>Nie wybrano pacjenta</translation></message>
     <message id="noPrinterNote"><translation>Na tym komputerze nie ma drukarki. Strony można zapisać jako PDF albo skonfigurować drukarkę w ustawieniach systemu.</translation></message>
     <message id="NoPrnter"><translation>Brak drukarki</translation></message>
@@ -613,6 +626,7 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="readingTotal"><translation>Pomiary tego pacjenta</translation></message>
     <message id="redoFailed"><translation>Nie ponowiono: „%1”. %2</translation></message>
     <message id="redone"><translation>Ponowiono: %1</translation></message>
+    <message id="requiredNote"><translation>* pole wymagane</translation></message>
     <message id="riskFactors"><translation>Czynniki ryzyka</translation></message>
     <message id="sameID"><translation>ID %1 należy do innego pacjenta z listy. Niczego jeszcze nie zapisano; proszę wybrać inne ID.</translation></message>
     <message id="sameIDTitle"><translation>ID jest zajęte</translation></message>
@@ -1022,7 +1036,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliFolderMissing"><translation>Brakuje folderu, do którego mają trafić pliki.</translation></message>
     <message id="CliForceReplaces"><translation>Opcja --force go zastępuje.</translation></message>
     <message id="CliFromAfterTo"><translation>Dzień --from jest późniejszy niż dzień --to.</translation></message>
-    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
         zel COMMAND [OPTION]...
 
 Przechowuje pomiary z automatycznych ciśnieniomierzy, osobno dla każdego pacjenta.
@@ -1037,7 +1051,6 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
   report     zapisuje raport pacjenta jako PDF
   export-xml eksportuje wszystkich pacjentów albo jednego jako pliki XML
   export-csv eksportuje dane i pomiary pacjenta jako plik CSV
-  export-fhir eksportuje wszystkich pacjentów albo jednego jako pliki FHIR dla innych systemów dokumentacji
   import     wczytuje pacjentów z wyeksportowanych plików XML
   settings   pokazuje ustawienia albo zmienia niektóre z nich
   backup     wyświetla kopie pliku danych, tworzy kopię albo wraca do wybranej
@@ -1045,6 +1058,7 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
 
 Opcje:
   --simulated-monitor[=FILE]   użyj ciśnieniomierza programowego (opis w FILE lub wbudowany) zamiast USB
+  --demonstration              okno z symulowanym ciśnieniomierzem i osobnymi danymi
   --language TAG               język komunikatów i raportów, na przykład pl
   -h, --help                   pokaż ten tekst; 'zel COMMAND --help' opisuje polecenie
   --version                    pokaż wersję

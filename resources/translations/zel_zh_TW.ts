@@ -334,6 +334,14 @@ mmHg</translation></message>
     <message id="deleteReadingsQuestion"><translation>要刪除手動輸入的量測（%1）嗎？</translation></message>
     <message id="deleteReadingsTitle"><translation>刪除量測</translation></message>
     <message id="DeleteTheComment"><translation>要刪除這則註記嗎？在 ZEL 關閉之前，可用「編輯 &gt; 復原」恢復。</translation></message>
+    <message id="demonstrationButton"><translation>使用示範血壓計試用</translation></message>
+    <message id="demonstrationIsOwnData"><translation>示範的資料存放於資料夾 %1，但該資料夾會連到您自己的資料。為避免虛構的量測混入您的資料，並未啟動示範。</translation></message>
+    <message id="demonstrationNoFolder"><translation>示範的資料存放於資料夾 %1，但無法建立該資料夾。</translation></message>
+    <message id="demonstrationNote"><translation>開啟第二個視窗，使用模擬血壓計與虛構的量測，並與您自己的資料分開存放。</translation></message>
+    <message id="demonstrationNotStarted"><translation>無法啟動示範。</translation></message>
+    <message id="demonstrationStarted"><translation>示範會在另一個視窗中開啟。</translation></message>
+    <message id="demonstrationStrip"><translation>示範：血壓計是模擬的，其量測為虛構，並與您自己的資料分開存放。</translation></message>
+    <message id="demonstrationTitle"><translation>示範 – %1</translation></message>
     <message id="download"><translation>下載量測</translation></message>
     <message id="downloadAdvice"><translation>請保持血壓計連接。全部量測傳完後才會儲存。</translation></message>
     <message id="downloadButton"><translation>下載(&amp;D)</translation></message>
@@ -393,7 +401,7 @@ mmHg</translation></message>
     <message id="fieldMissing"><translation>請填寫此欄位。</translation></message>
     <message id="fieldPatientNotes"><translation>病患備註</translation></message>
     <message id="fieldPhoneEmail"><translation>電話／電子郵件</translation></message>
-    <message id="fieldRequiredSpoken"><translation>必填</translation></message>
+    <message id="fieldRequired"><translation>必填</translation></message>
     <message id="fieldSex"><translation>性別</translation></message>
     <message id="fieldSmoker"><translation>吸菸</translation></message>
     <message id="fieldWeightKg"><translation>體重 (kg)</translation></message>
@@ -401,6 +409,10 @@ mmHg</translation></message>
     <message id="fileBeingRead"><translation>讀取中…</translation></message>
     <message id="fileNotReadable"><translation>無法讀取</translation></message>
     <message id="fileTooLargeToCount"><translation>超過 64 MiB，未計算</translation></message>
+    <message id="firstStepDownload"><translation>按「下載」。量測會顯示在圖表與表格中。</translation></message>
+    <message id="firstStepMonitor"><translation>以 USB 線連接血壓計。如果血壓計尚未存有這位病患的 ID，請按「傳送 ID」。</translation></message>
+    <message id="firstStepPatient"><translation>輸入使用血壓計量測的病患並給予 ID，然後按「儲存」。</translation></message>
+    <message id="firstSteps"><translation>目前沒有病患：三個步驟取得第一批量測</translation></message>
     <message id="heightRefusedCm"><translation>請填寫 20 到 300 cm 的數字，例如 175。</translation></message>
     <message id="heightRefusedFtIn"><translation>請填寫呎與吋，中間以斜線分隔，例如 5/9。吋最大為 11。</translation></message>
     <message id="highFrom"><translation>標示數值的上限</translation></message>
@@ -473,9 +485,10 @@ mmHg</translation></message>
     <message id="minusDay"><translation>減少天數：期間前後各少一天</translation></message>
     <message id="minusDayHint"><translation>減少天數：期間前後各少一天（−）</translation></message>
     <message id="mm dd yyyy"><translation>月 日 年</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>血壓計在此期間已拔除或更換；未下載任何資料。</translation></message>
     <message id="monitorClock"><translation>時鐘</translation></message>
     <message id="monitorConnected"><translation>血壓計已連接</translation></message>
-    <message id="monitorConnectedID"><translation>血壓計的 ID 是 %1。請選擇這位病患並按「下載」以取得量測。</translation></message>
+    <message id="monitorConnectedID"><translation>血壓計的 ID 是 %1。請按「下載」以取得這位病患的量測。</translation></message>
     <message id="monitorCounting"><translation>正在向血壓計查詢量測，最多可能需要 20 秒…</translation></message>
     <message id="monitorDownloading"><translation>正在下載量測…</translation></message>
     <message id="monitorErasing"><translation>正在清空血壓計…</translation></message>
@@ -486,6 +499,7 @@ mmHg</translation></message>
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>其中有 %n 筆量測。</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>無法讀取血壓計目前的 ID。</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
+    <message id="monitorIDSimilar"><translation>%2 的 ID %1 與它很相似，但並不相同。</translation></message>
     <message id="monitorLooking"><translation>正在尋找血壓計…</translation></message>
     <message id="monitorNotAnswering"><translation>已接上，但未正常回應。%1</translation></message>
     <message id="monitorNotConnected"><translation>未連接。請將血壓計接到 USB 連接埠。</translation></message>
@@ -501,6 +515,7 @@ mmHg</translation></message>
     <message id="NewPatient"><translation>新病患</translation></message>
     <message id="newPatientButton"><translation>新增(&amp;N)</translation></message>
     <message id="newPatientHint"><translation>新增一位病患（Ctrl+N）。</translation></message>
+    <message id="newPatientWithID"><translation>以此 ID 新增病患</translation></message>
     <message id="newReadingAction"><translation>新增量測…</translation></message>
     <message id="newReadingHint"><translation>手動輸入一筆血壓計未儲存的量測（Ctrl+N）。</translation></message>
     <message id="newReadingTitle"><translation>新增量測</translation></message>
@@ -525,8 +540,6 @@ mmHg</translation></message>
     <message id="noPage"><translation>沒有頁面</translation></message>
     <message id="noPatientFound"><translation>找不到病患</translation></message>
     <message id="noPatientFoundAdvice"><translation>沒有姓名或 ID 包含搜尋的文字。</translation></message>
-    <message id="noPatients"><translation>目前沒有病患</translation></message>
-    <message id="noPatientsAdvice"><translation>請按「新增」輸入第一位病患。</translation></message>
     <message id="noPatientSelected"><translation>未選擇病患</translation></message>
     <message id="noPrinterNote"><translation>這台電腦沒有設定印表機。您可以將頁面儲存為 PDF，或在系統設定中新增印表機。</translation></message>
     <message id="NoPrnter"><translation>沒有印表機</translation></message>
@@ -613,6 +626,7 @@ mmHg</translation></message>
     <message id="readingTotal"><translation>這位病患的量測</translation></message>
     <message id="redoFailed"><translation>「%1」未能重做。%2</translation></message>
     <message id="redone"><translation>已重做：%1</translation></message>
+    <message id="requiredNote"><translation>* 為必填欄位</translation></message>
     <message id="riskFactors"><translation>風險因子</translation></message>
     <message id="sameID"><translation>ID %1 屬於清單中的另一位病患。尚未儲存任何資料，請改用其他 ID。</translation></message>
     <message id="sameIDTitle"><translation>ID 已被使用</translation></message>
@@ -1022,7 +1036,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliFolderMissing"><translation>未指定匯出的目的資料夾。</translation></message>
     <message id="CliForceReplaces"><translation>使用 --force 可取代它。</translation></message>
     <message id="CliFromAfterTo"><translation>--from 的日期晚於 --to 的日期。</translation></message>
-    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
       zel COMMAND [OPTION]...
 
 依病患分別保存自動血壓計的量測。
@@ -1037,7 +1051,6 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
   report     將病患的報告寫成 PDF
   export-xml 將所有病患或一位病患匯出為 XML 檔案
   export-csv 將一位病患及其量測匯出為 CSV 檔案
-  export-fhir 將所有病患或一位病患匯出為 FHIR 檔案，供其他病歷系統使用
   import     從匯出的 XML 檔案匯入病患
   settings   顯示設定，或變更部分設定
   backup     列出資料檔的備份、建立備份，或還原到某份備份
@@ -1045,6 +1058,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
 
 選項：
   --simulated-monitor[=FILE]   使用軟體模擬的血壓計（由 FILE 描述或內建），不使用 USB 血壓計
+  --demonstration              開啟使用模擬血壓計與獨立資料的視窗
   --language TAG               訊息與報告的語言，例如 zh_TW
   -h, --help                   顯示此說明；'zel COMMAND --help' 顯示指令的說明
   --version                    顯示版本

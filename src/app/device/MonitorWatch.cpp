@@ -75,7 +75,6 @@ void MonitorWatch::forgetMonitor() {
     isGreeted = false;
     clockChecked = false;
     clockFailures = 0;
-    IDAnnounced = false;
     parts.status.update([](MonitorState& next) {
         next.IDOnDevice.reset();
         next.secondsAhead.reset();
@@ -87,7 +86,6 @@ void MonitorWatch::updateUI() {
     isGreeted = false;
     clockChecked = false;
     clockFailures = 0;
-    IDAnnounced = false;
     if (parts.status.state().isConnected) return greet([] {});
     emit setHWButtons(false);
 }
@@ -160,24 +158,26 @@ void MonitorWatch::putClockRight(const Step& next) {
     });
 }
 
+/// Whoever shows the status says whose it is.
 void MonitorWatch::announceID(const Step& next) {
     const auto read = [](BPMModel& monitor) { return monitor.getBPMID(); };
     parts.monitor.submit(this, read, [this, next](const MonitorExpected<QString>& ID) {
         parts.status.setActivity(MonitorActivity::none);
-        if (ID) return showIDInfo(*ID, next);
-        setTrouble(ID.error());
+        if (ID)
+            takeOver(*ID);
+        else
+            setTrouble(ID.error());
         next();
     });
 }
 
-/// Another monitor, or a new ID in this one, is taken over silently.
+/// Another monitor, or a new ID in this one, is taken over.
 void MonitorWatch::checkHWSwitchUser() {
     const auto read = [](BPMModel& monitor) { return monitor.getBPMID(); };
     parts.monitor.submit(this, read, [this](const MonitorExpected<QString>& ID) {
         const Step next = [this] { checkClockAgain([this] { scheduleNext(); }); };
         if (parts.status.isBusy()) return next();
         setTrouble(ID ? MonitorResult::success : ID.error());
-        if (ID && !IDAnnounced) return showIDInfo(*ID, next);
         if (ID && *ID != parts.status.state().IDOnDevice) takeOver(*ID);
         next();
     });
@@ -186,25 +186,6 @@ void MonitorWatch::checkHWSwitchUser() {
 void MonitorWatch::takeOver(const QString& ID) {
     parts.status.update([&](MonitorState& next) { next.IDOnDevice = ID; });
     emit setHWButtons(true);
-}
-
-void MonitorWatch::showIDInfo(const QString& ID, const Step& next) {
-    IDAnnounced = true;
-    takeOver(ID);
-    parts.panel.interject(this, [this, ID, next] {
-        // While it waited, the user may have begun what it would have told him to do.
-        if (!parts.status.isBusy() && parts.status.state().IDOnDevice == ID) tellID(ID);
-        next();
-    });
-}
-
-void MonitorWatch::tellID(const QString& ID) {
-    if (parts.store.validIDinXML(ID))
-        parts.panel.ShowMessage(qtTrId("monitorConnectedID").arg(ID), qtTrId("monitorConnected"));
-    else if (ID.isEmpty())
-        parts.panel.ShowMessage(qtTrId("monitorWithoutID"), qtTrId("Warning"));
-    else
-        parts.panel.ShowMessage(qtTrId("newIDFromDevice").arg(ID), qtTrId("Warning"));
 }
 
 void MonitorWatch::setTrouble(MonitorResult result) {

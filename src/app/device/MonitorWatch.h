@@ -2,7 +2,8 @@
 
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
-#include "store/DataStore.h"
+#include "store/Clock.h"
+#include "store/MessagePanel.h"
 
 #include <QTimer>
 
@@ -11,7 +12,7 @@
 
 namespace zel {
 
-/// Notices when a monitor is plugged in or pulled out, offers to set its clock and announces its ID.
+/// Notices when a monitor is plugged in or pulled out, offers to set its clock and reads its ID.
 /// A cycle starts an interval after the one before and all that it caused are done.
 class MonitorWatch final : public QObject {
     Q_OBJECT
@@ -19,7 +20,6 @@ public:
     struct Parts {
         MonitorWorker& monitor;
         MonitorStatus& status;
-        const DataStore& store;
         MessagePanel& panel;
         const Clock& clock;
     };
@@ -28,7 +28,7 @@ public:
     /// Starts the polling, which asks the monitor nothing before setSplashClosed().
     void monitorBPM();
     void setSplashClosed() { isSplashClosed = true; }
-    /// Reads clock and ID anew and announces them, as after a change of connection.
+    /// Reads clock and ID anew, as after a change of connection.
     void updateUI();
 
 signals:
@@ -50,8 +50,6 @@ private:
     void announceID(const Step& next);
     void checkHWSwitchUser();
     void takeOver(const QString& ID);
-    void showIDInfo(const QString& ID, const Step& next);
-    void tellID(const QString& ID);
     void setTrouble(MonitorResult result);
     void scheduleNext() { timer.start(); }
 
@@ -62,7 +60,6 @@ private:
     bool isGreeted = false;
     bool clockChecked = false;
     int clockFailures = 0;
-    bool IDAnnounced = false;
 };
 
 } // namespace zel

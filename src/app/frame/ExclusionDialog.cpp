@@ -2,6 +2,8 @@
 
 #include "app/frame/DialogParts.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/PageHeading.h"
+#include "app/widgets/RequiredMark.h"
 #include "store/ManualReading.h"
 
 #include <QLabel>
@@ -26,11 +28,14 @@ ExclusionDialog::ExclusionDialog(const QString& subject, std::function<bool(cons
     title->setBuddy(reason);
     reason->setObjectName(u"exclusionReason"_s);
     reason->setAccessibleName(withoutMnemonic(title->text()).remove(u':').trimmed());
+    reason->setAccessibleDescription(requiredDescription());
+    title->setText(requiredTitle(title->text()));
     reason->setPlaceholderText(qtTrId("leaveOutExample"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 14, 16, 14);
     column->setSpacing(10);
     column->addWidget(explained);
+    column->addWidget(requiredNote(this));
     column->addWidget(title);
     column->addWidget(reason);
     column->addWidget(problem);

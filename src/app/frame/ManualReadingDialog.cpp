@@ -2,6 +2,8 @@
 
 #include "app/frame/DialogParts.h"
 #include "app/widgets/DayEdit.h"
+#include "app/widgets/PageHeading.h"
+#include "app/widgets/RequiredMark.h"
 #include "store/Languages.h"
 
 #include <QFormLayout>
@@ -26,9 +28,11 @@ std::uint32_t numberIn(const QLineEdit& field) {
     return isNumber ? number : 0;
 }
 
+/// All of them are required.
 QLabel* titleOf(const QString& text, QWidget* field) {
-    auto* title = new QLabel(text);
+    auto* title = new QLabel(requiredTitle(text));
     title->setBuddy(field);
+    field->setAccessibleDescription(requiredDescription());
     return title;
 }
 
@@ -56,6 +60,7 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 14, 16, 14);
     column->setSpacing(10);
+    column->addWidget(requiredNote(this));
     column->addLayout(form);
     column->addWidget(problemLine);
     column->addStretch(1);
@@ -70,7 +75,6 @@ QLineEdit* ManualReadingDialog::addNumber(QFormLayout& form, const QString& name
     auto* field = new QLineEdit(this);
     field->setObjectName(name);
     field->setAccessibleName(qtTrId("valueWithUnit").arg(title, unit));
-    field->setAccessibleDescription(qtTrId("fieldRequiredSpoken"));
     field->setMaxLength(8);
     field->setFixedWidth(field->fontMetrics().averageCharWidth() * 12);
     auto* row = new QHBoxLayout;

@@ -4,6 +4,7 @@
 #include "app/patients/PatientFieldGroup.h"
 #include "app/patients/PatientInputs.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/RequiredMark.h"
 #include "store/Languages.h"
 
 #include <QApplication>
@@ -89,6 +90,9 @@ void PatientEditor::addPersonalData(QVBoxLayout& column) {
     group->add(makeBox(Height, qtTrId("fieldHeightCm"), makeLine(Height)));
     group->add(makeBox(Address, qtTrId("fieldAddress"), makeTextInput(nameOf(Address), 3)));
     group->add(makeBox(PhoneEmail, qtTrId("fieldPhoneEmail"), makeTextInput(nameOf(PhoneEmail), 3)));
+    group->addNote(requiredNote(group));
+    for (const PatientField field : PatientForm::required)
+        box(field).setRequired();
     column.addWidget(group);
 }
 
@@ -138,7 +142,6 @@ QWidget* PatientEditor::makeLine(PatientField field) {
 PatientFieldBox* PatientEditor::makeBox(PatientField field, const QString& title, QWidget* input) {
     auto* box = new PatientFieldBox(title, this);
     box->addInput(input, title);
-    if (PatientForm::mustBeFilled(field)) box->require();
     place(field, box, input);
     return box;
 }

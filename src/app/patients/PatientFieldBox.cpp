@@ -1,6 +1,7 @@
 #include "app/patients/PatientFieldBox.h"
 
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/RequiredMark.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -49,7 +50,7 @@ void PatientFieldBox::addInput(QWidget* input, const QString& name, int stretch)
 void PatientFieldBox::addRemark(QWidget* remark) { rowLayout->addWidget(remark); }
 
 void PatientFieldBox::setTitle(const QString& title) {
-    lblTitle->setText(title);
+    lblTitle->setText(isRequired ? requiredTitle(title) : title);
     if (inputs.size() == 1) inputs.front()->setAccessibleName(title);
 }
 
@@ -61,16 +62,15 @@ void PatientFieldBox::setProblem(const QString& text) {
     update();
 }
 
-void PatientFieldBox::require() {
+void PatientFieldBox::setRequired() {
     isRequired = true;
+    lblTitle->setText(requiredTitle(lblTitle->text()));
     describe();
 }
 
 void PatientFieldBox::describe() {
-    QStringList lines{isRequired ? qtTrId("fieldRequiredSpoken") : QString(), told};
-    lines.removeAll(QString());
     for (QWidget* input : inputs)
-        input->setAccessibleDescription(lines.join(u'\n'));
+        input->setAccessibleDescription(isRequired ? requiredDescription(told) : told);
 }
 
 void PatientFieldBox::paintEvent(QPaintEvent*) {

@@ -21,9 +21,7 @@ public:
     /// Something that stands beside the inputs and is no input.
     void addRemark(QWidget* remark);
     void setTitle(const QString& title);
-
-    /// It cannot be left empty.
-    void require();
+    void setRequired(); ///< marks it as one that has to be filled in
     void setProblem(const QString& text); ///< empty: none
     [[nodiscard]] QString problem() const { return told; }
 

@@ -28,6 +28,10 @@ void PatientFieldGroup::add(PatientFieldBox* box, bool isWide) {
     arrange(1);
 }
 
+void PatientFieldGroup::addNote(QWidget* note) {
+    qobject_cast<QVBoxLayout*>(layout())->insertWidget(1, note);
+}
+
 void PatientFieldGroup::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
     const int columns = width() >= fontMetrics().averageCharWidth() * 70 ? 2 : 1;

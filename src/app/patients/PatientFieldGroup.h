@@ -17,6 +17,7 @@ public:
     explicit PatientFieldGroup(const QString& title, QWidget* parent = nullptr);
     /// \p isWide: takes both columns.
     void add(PatientFieldBox* box, bool isWide = false);
+    void addNote(QWidget* note); ///< words under the title
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

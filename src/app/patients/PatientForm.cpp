@@ -41,7 +41,6 @@ constexpr std::array choiceFields{
     ChoiceField{Diabetic, &PatientModel::Diabetic},
 };
 
-constexpr std::array required{FamilyName, GivenNames, ID};
 constexpr std::array judged{ID, BirthYear, Weight, Height, Cholestrol};
 constexpr std::array birthFields{BirthYear, BirthMonth, BirthDay};
 constexpr int oldest = 130; ///< years that a human can reach
@@ -100,10 +99,6 @@ QString birthRefusal(const PatientEntry& entry, Instant today) {
 
 PatientForm::PatientForm(PatientModel record, SettingModel unitSettings, bool isNew)
     : stored(std::move(record)), settings(std::move(unitSettings)), isUnsaved(isNew), shown(entryOf()) {}
-
-bool PatientForm::mustBeFilled(PatientField field) {
-    return std::ranges::find(required, field) != required.end();
-}
 
 PatientModel PatientForm::newPatient() {
     PatientModel patient;

@@ -4,6 +4,7 @@
 #include "store/PatientModel.h"
 #include "store/SettingModel.h"
 
+#include <array>
 #include <vector>
 
 namespace zel {
@@ -21,10 +22,13 @@ struct PatientProblem {
 /// record's value to the last digit, whatever the field shows of it, and is not judged.
 class PatientForm {
 public:
+    /// What nobody is saved without.
+    static constexpr std::array required{PatientField::FamilyName, PatientField::GivenNames,
+                                         PatientField::ID};
+
     /// \p isNew: the record is no patient of the roster yet.
     PatientForm(PatientModel record, SettingModel unitSettings, bool isNew);
     /// A new record, as the editor begins with it.
-    [[nodiscard]] static bool mustBeFilled(PatientField field);
     static PatientModel newPatient();
 
     [[nodiscard]] PatientEntry entryOf() const; ///< the record as the fields show it

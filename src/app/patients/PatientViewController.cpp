@@ -1,6 +1,7 @@
 #include "app/patients/PatientViewController.h"
 
 #include "app/device/PatientIDSender.h"
+#include "app/patients/FirstSteps.h"
 #include "app/patients/PatientButtons.h"
 #include "app/patients/PatientDraft.h"
 #include "app/patients/PatientEditor.h"
@@ -26,12 +27,15 @@ PatientViewController::PatientViewController(const Parts& needed)
       sender(new PatientIDSender({needed.status, needed.monitor, needed.store, needed.panel}, this)),
       roster(new PatientRoster(needed.store, this)), editor(new PatientEditor(needed.clock, this)),
       noPatients(new EmptyState(u"noPatients"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
+      firstSteps(new FirstSteps(needed.status, needed.offersDemonstration, this)),
       rosterOrAdvice(new QStackedWidget(this)) {
     setObjectName(u"PatientViewController"_s);
     setAccessibleName(qtTrId("pagePatients"));
     build();
     connect(&store, &DataStore::reloaded, this, &PatientViewController::reload);
     connect(&parts.status, &MonitorStatus::changed, this, &PatientViewController::enableButtons);
+    connect(firstSteps, &FirstSteps::newWanted, this, &PatientViewController::btnNewPatient);
+    connect(firstSteps, &FirstSteps::demonstrationWanted, this, &PatientViewController::demonstrationWanted);
     connect(sender, &PatientIDSender::sent, this, &PatientViewController::updateUIWanted);
     // A question is asked when the click or key that chose the patient is over, not in its midst.
     connect(roster, &PatientRoster::wanted, this, [this] {
@@ -54,6 +58,7 @@ void PatientViewController::build() {
     sides->setStretchFactor(1, 3);
     rosterOrAdvice->addWidget(sides);
     rosterOrAdvice->addWidget(noPatients);
+    rosterOrAdvice->addWidget(firstSteps);
     setFocusProxy(roster);
 
     auto* heading = new PageHeading(this);
@@ -107,10 +112,8 @@ PatientForm PatientViewController::formOf(const QString& ID) const {
 
 /// Keeps the selection by the patient's ID; a patient that is gone gives way to the first.
 void PatientViewController::reload() {
-    if (const StoreResult& loaded = store.lastLoad(); loaded)
-        noPatients->setTexts(qtTrId("noPatients"), qtTrId("noPatientsAdvice"));
-    else
-        noPatients->setTexts(qtTrId("dataFileUnreadable"), describe(loaded.error()));
+    const QString why = qtTrId("dataFileUnreadable");
+    noPatients->setTexts(why, store.lastLoad() ? why : describe(store.lastLoad().error()));
     roster->reload(newPatient.has_value());
     const auto& patients = store.getPatientArray();
     const QString first = patients.empty() ? QString() : patients.front().ID;
@@ -148,10 +151,14 @@ void PatientViewController::tellIfGone() {
 void PatientViewController::open(const QString& ID) {
     store.setCurrentID(ID);
     const bool isAnyone = isThere(ID);
-    rosterOrAdvice->setCurrentIndex(isAnyone ? 0 : 1);
+    rosterOrAdvice->setCurrentWidget(isAnyone ? rosterOrAdvice->widget(0) : insteadOfRoster());
     roster->select(ID);
     showRecord(ID);
     enableButtons();
+}
+
+QWidget* PatientViewController::insteadOfRoster() const {
+    return store.lastLoad() ? static_cast<QWidget*>(firstSteps) : noPatients;
 }
 
 /// What was typed over the same record stays over what the record is now.
@@ -278,12 +285,30 @@ bool PatientViewController::canBeStored() {
 
 void PatientViewController::btnNewPatient() {
     if (newPatient) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    openNewPatient({});
+}
+
+/// Something is typed for the new patient who is there already.
+bool PatientViewController::isNewOneBegun() const {
+    if (isNewOne(store.getCurrentID())) return editor->isChanged();
+    return newPatient && newPatient->form.isChanged(newPatient->entry, today());
+}
+
+void PatientViewController::addPatient(const QString& ID) {
+    if (isNewOneBegun()) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    openNewPatient(ID);
+}
+
+void PatientViewController::openNewPatient(const QString& ID) {
     if (!canBeStored() || !leave()) return;
     const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
-    newPatient = {blank, blank.entryOf()};
+    PatientEntry entry = blank.entryOf();
+    if (!ID.isEmpty()) entry[PatientField::ID] = ID;
+    newPatient = {blank, entry};
     roster->showAll();
     roster->reload(true);
     open(u"-"_s);
+    editor->showPatient(newPatient->form, newPatient->entry); // not the blank one of an empty roster
     editor->beginTyping();
 }
 

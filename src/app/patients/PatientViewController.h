@@ -14,6 +14,7 @@ class QStackedWidget;
 namespace zel {
 
 class EmptyState;
+class FirstSteps;
 class PatientButtons;
 class PatientEditor;
 class PatientIDSender;
@@ -30,6 +31,7 @@ public:
         MonitorWorker& monitor;
         MessagePanel& panel;
         const Clock& clock;
+        bool offersDemonstration = false; ///< while there are no patients
     };
     explicit PatientViewController(const Parts& needed);
 
@@ -50,6 +52,8 @@ public:
     [[nodiscard]] bool CanDataTransfer() const;
 
     void btnNewPatient();
+    /// Opens a new patient with this ID filled in, unless another new one has been begun.
+    void addPatient(const QString& ID);
     /// Checks the entry and writes it. \return false if not all of it was saved; the user knows why, and
     /// nothing typed is lost
     bool btnSavePatient();
@@ -59,6 +63,7 @@ public:
 
 signals:
     void dataTransferWanted();
+    void demonstrationWanted();
     void updateUIWanted(); ///< the monitor's ID has been changed
     void rosterChanged(bool hasPatients);
     void said(const QString& text); ///< what has been done
@@ -70,10 +75,13 @@ private:
     PatientButtons* makeButtons();
     void reload();
     void open(const QString& ID);
+    [[nodiscard]] QWidget* insteadOfRoster() const;
     void showRecord(const QString& ID);
     void goTo(const QString& ID);
     void enableButtons();
     [[nodiscard]] bool isThere(const QString& ID) const;
+    [[nodiscard]] bool isNewOneBegun() const;
+    void openNewPatient(const QString& ID);
     [[nodiscard]] bool isNewOne(const QString& ID) const;
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();
@@ -97,7 +105,8 @@ private:
     PatientIDSender* sender;
     PatientRoster* roster;
     PatientEditor* editor;
-    EmptyState* noPatients;
+    EmptyState* noPatients; ///< that could be read
+    FirstSteps* firstSteps;
     QStackedWidget* rosterOrAdvice;
     PatientButtons* buttons = nullptr;
     struct Unsaved {

@@ -1,5 +1,6 @@
 #include "app/shell/AppController.h"
 
+#include "app/device/MonitorBar.h"
 #include "app/device/ProgressWindowController.h"
 #include "app/frame/PeriodFollower.h"
 #include "app/graph/GraphViewController.h"
@@ -9,7 +10,9 @@
 #include "app/settings/BackupDialog.h"
 #include "app/settings/ExportController.h"
 #include "app/settings/SettingController.h"
+#include "app/shell/Demonstration.h"
 #include "app/shell/HelpWindow.h"
+#include "app/shell/MonitorOffers.h"
 #include "app/shell/SplashWindow.h"
 #include "app/shell/UndoController.h"
 #include "app/shell/UnsavedFile.h"
@@ -36,10 +39,10 @@ using namespace Qt::StringLiterals;
 
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.status),
-      watch({needed.monitor, needed.status, needed.store, needed.panel, needed.clock}, times.polling),
+      watch({needed.monitor, needed.status, needed.panel, needed.clock}, times.polling),
       dataWatch(needed.store, window, {.interval = times.watching}),
-      patientPage(new PatientViewController(
-          {needed.store, needed.status, needed.monitor, needed.panel, needed.clock})),
+      patientPage(new PatientViewController({needed.store, needed.status, needed.monitor, needed.panel,
+                                             needed.clock, static_cast<bool>(needed.demonstration.start)})),
       graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),
       tablePage(
           new TableViewController({needed.store, needed.status, needed.period, needed.panel, needed.clock})),
@@ -72,10 +75,17 @@ AppController::AppController(const Parts& needed, const Timing& times)
     follower = new PeriodFollower(parts.store, parts.period, this);
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
+    connect(patientPage, &PatientViewController::demonstrationWanted, this,
+            &AppController::startDemonstration);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
     connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);
     connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
+    offers = new MonitorOffers(window.monitorBar(),
+                               {needed.store, needed.status, *patientPage, [this] { return showPatients(); }},
+                               this);
+    connect(offers, &MonitorOffers::downloadWanted, this, &AppController::dataTransfer);
+    connect(offers, &MonitorOffers::said, &window, &MainWindow::showOutcome);
     connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
             &AppController::savePatient);
 }
@@ -102,6 +112,7 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
     patientPage->UpdateUIBySetting();
     setHWButtons(false);
     window.setWindowTitle(qtTrId("AP_Title"));
+    if (parts.demonstration.isOn) markAsDemonstration(window, parts.store);
     window.setMinimumSize(leastSize(window.screen()->availableSize()));
 }
 
@@ -116,10 +127,7 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     tellUnreadLanguage();
     if (isClosing) return;
     splash = new SplashWindow(&window);
-    connect(splash, &SplashWindow::splashClosed, this, [this] {
-        watch.setSplashClosed();
-        window.activateWindow();
-    });
+    connect(splash, &SplashWindow::splashClosed, this, [this] { watch.setSplashClosed(); });
     splash->showSplash(timing.splash);
 }
 
@@ -219,6 +227,18 @@ void AppController::showPageInView() {
     window.setPatientPanelsVisible(window.pageInView() == 0);
 }
 
+/// \return false if the page in view is not to be left
+bool AppController::showPatients() {
+    if (window.pageInView() != 0) changeTab(0);
+    return window.pageInView() == 0;
+}
+
+void AppController::startDemonstration() {
+    const QString why = parts.demonstration.start();
+    if (why.isEmpty()) return window.showOutcome(qtTrId("demonstrationStarted"));
+    parts.panel.ShowMessage(why, qtTrId("Warning"));
+}
+
 void AppController::savePatient() {
     if (patientPage->isVisible()) patientPage->btnSavePatient();
 }
@@ -246,6 +266,7 @@ void AppController::transferFinished(const DownloadOutcome& outcome) {
     window.activateWindow();
     // Without anything new the page stays: what was pressed there may be tried again.
     const bool hasEnded = outcome.failure.isEmpty() && !outcome.cancelled;
+    if (hasEnded) window.monitorBar().dismiss();
     if (hasEnded || (outcome.downloaded > 0 && parts.store.lastLoad())) displayAfterDataTransfer();
     window.showOutcome(describe(outcome));
     if (outcome.failure.isEmpty()) return;

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <chrono>
+#include <functional>
 
 namespace zel {
 
@@ -21,6 +22,7 @@ class BackupDialog;
 class ExportController;
 class GraphViewController;
 class HelpWindow;
+class MonitorOffers;
 class PatientViewController;
 class PeriodFollower;
 class PrintController;
@@ -37,6 +39,10 @@ struct DownloadOutcome;
 class AppController final : public QObject {
     Q_OBJECT
 public:
+    struct Demonstration {
+        bool isOn = false;                ///< this is one
+        std::function<QString()> start{}; ///< \return why it could not be started, in words
+    };
     struct Parts {
         DataStore& store;
         MonitorStatus& status;
@@ -48,6 +54,7 @@ public:
         Printers& printers;
         DocumentOpener openDocument;
         QString languageFile; ///< of the user's choice
+        Demonstration demonstration{};
     };
     struct Timing {
         std::chrono::milliseconds polling{2000};
@@ -91,6 +98,8 @@ signals:
 
 private:
     void showPageInView();
+    [[nodiscard]] bool showPatients();
+    void startDemonstration();
     [[nodiscard]] PageController& pageInView() const;
     void connectDataWatch();
     void end();
@@ -126,6 +135,7 @@ private:
     PeriodFollower* follower = nullptr;
     UndoController* undoer = nullptr;
     BackupCourier* courier = nullptr;
+    MonitorOffers* offers = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise
     PrintController* printController = nullptr;         ///< likewise

@@ -1,5 +1,6 @@
 #include "app/shell/Application.h"
 
+#include "app/shell/Demonstration.h"
 #include "app/shell/FirstWindow.h"
 #include "app/shell/GlobalVar.h"
 #include "app/shell/TerminationSignals.h"
@@ -30,6 +31,7 @@ constexpr int failed = 1, wrongUsage = 2;
 
 struct Options {
     bool simulatedMonitor = false;
+    bool demonstration = false;
     QString planFile{}; ///< empty: the built-in monitor
     const Language* language = nullptr;
 };
@@ -47,6 +49,7 @@ tl::expected<Options, QString> parse(const QStringList& arguments) {
     withValue.removeAll(option);
     QCommandLineParser parser;
     parser.addOption({option.mid(2).toString(), QString(), u"FILE"_s});
+    parser.addOption({u"demonstration"_s, QString()});
     if (!parser.parse(withValue)) return tl::unexpected(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
         return tl::unexpected(qtTrId("argumentUnknown").arg(parser.positionalArguments().first()));
@@ -55,6 +58,8 @@ tl::expected<Options, QString> parse(const QStringList& arguments) {
         if (options.planFile.isEmpty()) return tl::unexpected(qtTrId("argumentWithoutFile").arg(option));
         options.simulatedMonitor = true;
     }
+    options.demonstration = parser.isSet(u"demonstration"_s);
+    options.simulatedMonitor |= options.demonstration;
     return options;
 }
 
@@ -125,8 +130,13 @@ int runApplication(int argc, char** argv) {
     auto port = makePort(*options, clock);
     if (!port) return complain(failed, port.error());
 
-    const StorePaths paths{.home = qEnvironmentVariable("HOME"),
-                           .applicationFolder = QCoreApplication::applicationDirPath(),
+    const QString person = qEnvironmentVariable("HOME");
+    const tl::expected<QString, QString> home = options->demonstration ? demonstrationHome(person) : person;
+    if (!home) return complain(failed, home.error());
+    const StorePaths paths{.home = *home,
+                           // The file of an older version beside the program is the person's.
+                           .applicationFolder =
+                               options->demonstration ? *home : QCoreApplication::applicationDirPath(),
                            .templateFolder = u":/templates"_s};
     FirstWindow firstWindow(runningSessionBus(), DataFile(paths, clock).getZELXMLPath());
     const auto leave = QObject::connect(&termination, &TerminationSignals::terminated, &application,
@@ -134,7 +144,9 @@ int runApplication(int argc, char** argv) {
     if (const auto status = giveWayToFirst(firstWindow, token)) return *status;
     QObject::disconnect(leave);
 
-    GlobalVar global(paths, std::move(*port), clock);
+    const AppController::Demonstration another{.start = [person] { return startDemonstration(person); }};
+    GlobalVar global(paths, std::move(*port), clock, {},
+                     options->demonstration ? AppController::Demonstration{.isOn = true} : another, person);
     AppController& controller = global.appController;
     QObject::connect(&controller, &AppController::closed, &application, [] { QCoreApplication::exit(0); });
     QObject::connect(&termination, &TerminationSignals::terminated, &controller, &AppController::terminate);

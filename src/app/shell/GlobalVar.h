@@ -16,13 +16,16 @@ namespace zel {
 /// The composition root: made once, owns one object for each duty and hands them to those who need them.
 class GlobalVar {
 public:
+    /// \p personHome: whose choices hold, if the data lie elsewhere.
     GlobalVar(StorePaths paths, std::unique_ptr<MonitorPort> monitorPort, Clock& clock,
-              const AppController::Timing& timing = {})
-        : port(std::move(monitorPort)), languagePath(languageFile(paths.home)),
+              const AppController::Timing& timing = {},
+              const AppController::Demonstration& demonstration = {}, const QString& personHome = {})
+        : port(std::move(monitorPort)),
+          languagePath(languageFile(personHome.isEmpty() ? paths.home : personHome)),
           store(std::move(paths), clock), loaded(store.load()), monitor(*port, clock),
           period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
           appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop,
-                         languagePath},
+                         languagePath, demonstration},
                         timing) {
         panel.setWindow(&appController.mainWndow());
     }

@@ -1,5 +1,6 @@
 #include "app/shell/MainWindow.h"
 
+#include "app/device/MonitorBar.h"
 #include "app/device/MonitorPanel.h"
 #include "app/patients/DataPanel.h"
 #include "app/shell/MainMenu.h"
@@ -72,6 +73,8 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeTabBar());
+    offer = new MonitorBar(status, store, this); // Tab goes to it next
+    column->addWidget(offer);
     column->addWidget(makeBody(store), 1);
     setCentralWidget(central);
     setMenuBar(makeMainMenu(*this, store, status));
@@ -191,6 +194,10 @@ void MainWindow::showOutcome(const QString& text) {
     lblOutcome->setText(text);
     lblOutcome->setToolTip(text);
     lblOutcome->setAccessibleName(text);
+}
+
+void MainWindow::showAtHead(QWidget& strip) {
+    qobject_cast<QVBoxLayout*>(centralWidget()->layout())->insertWidget(0, &strip);
 }
 
 void MainWindow::addPage(PageController& page) { contentBox->addWidget(&page); }

@@ -13,6 +13,7 @@
 namespace zel {
 
 class DataPanel;
+class MonitorBar;
 class PageController;
 
 /// The one window: tabs at the top, the content box with the page in view, the panels that stand beside the
@@ -32,6 +33,9 @@ public:
     /// The settings may have changed.
     void UpdateUIBySetting();
     void showOutcome(const QString& text);
+    [[nodiscard]] MonitorBar& monitorBar() { return *offer; }
+    /// Something that is said for as long as the window is open, above all else.
+    void showAtHead(QWidget& strip);
     [[nodiscard]] int pageInView() const;
     /// Ends the editing of any field. \return false if one holds an entry that does not validate; it then has
     /// the focus
@@ -66,6 +70,7 @@ private:
     const MonitorStatus& status;
     std::array<TabButton*, tabTotal> tabs;
     QStackedWidget* contentBox;
+    MonitorBar* offer = nullptr;
     QWidget* sideColumn = nullptr;
     DataPanel* dataPanel = nullptr;
     QLabel* lblOutcome;

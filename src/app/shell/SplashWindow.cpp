@@ -1,10 +1,12 @@
 #include "app/shell/SplashWindow.h"
 
-#include "app/shell/WindowPlacement.h"
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QIcon>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QTimer>
@@ -14,11 +16,37 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
-SplashWindow::SplashWindow(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint) {
+namespace {
+
+/// A key that is a shortcut arrives as an override first, and perhaps as nothing else.
+bool isBeginning(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+    case QEvent::TabletPress:
+    case QEvent::Wheel: return true;
+    case QEvent::InputMethod: { // one without a text only tidies up
+        const auto& composed = static_cast<const QInputMethodEvent&>(event);
+        return !composed.preeditString().isEmpty() || !composed.commitString().isEmpty();
+    }
+    default: return false;
+    }
+}
+
+} // namespace
+
+SplashWindow::SplashWindow(QWidget* window) : QFrame(window) {
     setObjectName(u"splash"_s);
-    setWindowTitle(qtTrId("AP_Title"));
     setAccessibleName(qtTrId("AP_Title"));
-    setModal(true);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    build();
+    hide();
+}
+
+void SplashWindow::build() {
     auto* picture = new QLabel(this);
     picture->setPixmap(QIcon(u":/icons/zel.svg"_s).pixmap(88, 88));
     auto* name = new QLabel(qtTrId("programName"), this);
@@ -31,17 +59,32 @@ SplashWindow::SplashWindow(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::F
     for (QLabel* label : {picture, name, purpose, static_cast<QLabel*>(version)})
         column->addWidget(label, 0, Qt::AlignHCenter);
     column->insertStretch(3, 1);
-    setFixedSize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * 60, 280}));
 }
 
 void SplashWindow::showSplash(std::chrono::milliseconds duration) {
     qCInfo(lcApp, "show slash");
-    AdjustWindowFitToScreen(*this, true);
-    open();
+    show();
+    place();
+    QCoreApplication::instance()->installEventFilter(this);
     QTimer::singleShot(duration, this, &SplashWindow::closeSplash);
 }
 
+void SplashWindow::place() {
+    const QSize card = sizeHint().expandedTo({fontMetrics().averageCharWidth() * 60, 280});
+    resize(card.boundedTo(parentWidget()->size()));
+    move((parentWidget()->width() - width()) / 2, (parentWidget()->height() - height()) / 2);
+    raise();
+}
+
+bool SplashWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize) place();
+    if (isBeginning(*event)) closeSplash();
+    return false;
+}
+
 void SplashWindow::closeSplash() {
+    if (isHidden()) return;
+    QCoreApplication::instance()->removeEventFilter(this);
     qCInfo(lcApp, "close slash");
     hide();
     emit splashClosed();

@@ -1,27 +1,30 @@
 #pragma once
 
-#include <QDialog>
+#include <QFrame>
 
 #include <chrono>
 
 namespace zel {
 
-/// The program's name card, shown over everything while the program starts.
-class SplashWindow final : public QDialog {
+/// The program's name card over the middle of the window while the program starts. It blocks nothing: keys
+/// and clicks go to what lies under it, and the first one takes it away.
+class SplashWindow final : public QFrame {
     Q_OBJECT
 public:
-    explicit SplashWindow(QWidget* parent);
-    /// Shows the card for \p duration; nothing can be done meanwhile.
+    explicit SplashWindow(QWidget* window);
+    /// Shows the card for \p duration at most.
     void showSplash(std::chrono::milliseconds duration);
-    void reject() override {} ///< it closes by itself only
 
 signals:
-    void splashClosed();
+    void splashClosed(); ///< once
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void build();
+    void place();
     void closeSplash();
 };
 

@@ -18,16 +18,16 @@ protected:
         prepare();
         panel.messages.clear();
         show(new MonitorPanel(status, nullptr));
-        watch = std::make_unique<MonitorWatch>(MonitorWatch::Parts{*worker, status, store, panel, clock},
+        watch = std::make_unique<MonitorWatch>(MonitorWatch::Parts{*worker, status, panel, clock},
                                                std::chrono::milliseconds(1));
         QObject::connect(watch.get(), &MonitorWatch::setHWButtons, [this](bool on) { buttons += on; });
         watch->monitorBPM();
         watch->setSplashClosed();
     }
-    /// Starts it and waits until the monitor's ID has been announced.
+    /// Starts it and waits until the monitor's ID is known.
     void startConnected() {
         start();
-        waitFor([this] { return !panel.messages.empty() && !status.isBusy(); });
+        waitFor([this] { return status.state().IDOnDevice && !status.isBusy(); });
     }
 
     std::function<void()> prepare = [] {}; ///< the monitor, just attached

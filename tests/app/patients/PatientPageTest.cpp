@@ -63,12 +63,21 @@ protected:
             QTest::keyClick(&choices, Qt::Key_Down);
     }
     QString value(const char* field) { return find<QLineEdit>(field).text(); }
+    /// As it is spoken: behind what is said of every required field.
     QString problemAt(const char* field) {
-        QString words = find<QWidget>(field).accessibleDescription();
-        if (words.startsWith(qtTrId("fieldRequiredSpoken")))
-            words = words.mid(qtTrId("fieldRequiredSpoken").size()).trimmed();
-        EXPECT_EQ(find<QLabel>((QByteArray(field) + "Problem").constData()).isVisible(), !words.isEmpty());
-        return words;
+        QString told = find<QWidget>(field).accessibleDescription();
+        if (isRequired(field)) told.remove(0, qtTrId("fieldRequired").size());
+        if (told.startsWith(u". "_s)) told.remove(0, 2);
+        EXPECT_EQ(find<QLabel>((QByteArray(field) + "Problem").constData()).isVisible(), !told.isEmpty());
+        return told;
+    }
+    bool isRequired(const char* field) {
+        return find<QWidget>(field).accessibleDescription().startsWith(qtTrId("fieldRequired"));
+    }
+    QString titleOf(const char* field) {
+        for (const auto* label : page("patientEditor").findChildren<QLabel*>())
+            if (label->buddy() == &page(field)) return label->text();
+        return {};
     }
     void beginNew(const QString& ID, const QString& familyName) {
         press(Qt::Key_N, Qt::ControlModifier);
@@ -84,6 +93,19 @@ protected:
 };
 
 } // namespace
+
+TEST_F(PatientPageTest, marksWhatHasToBeFilledInAndExplainsTheMarkOnce) {
+    start();
+    click("btnNewPatient");
+    for (const char* field : {"FamilyName", "GivenNames", "ID", "Weight", "PatientNotes", "Cholestrol"}) {
+        const bool isNeeded =
+            QStringList{u"FamilyName"_s, u"GivenNames"_s, u"ID"_s}.contains(QLatin1String(field));
+        EXPECT_EQ(titleOf(field).endsWith(u'*'), isNeeded) << field;
+        EXPECT_EQ(isRequired(field), isNeeded) << field;
+        EXPECT_FALSE(find<QWidget>(field).accessibleName().contains(u'*')) << "a name is spoken";
+    }
+    EXPECT_TRUE(page("requiredNote").isVisible());
+}
 
 TEST_F(PatientPageTest, theNumberOfReadingsSaysHowManyAreLeftOut) {
     for (const char* time : {"08:00", "20:00"})
@@ -322,7 +344,7 @@ TEST_F(PatientPageTest, deletingAsksAndGoesToTheNeighbour) {
     EXPECT_EQ(store.getCurrentID(), u"P1"_s) << "the last one's neighbour is above";
     click("btnDeletePatient");
     click("btnDeletePatient");
-    EXPECT_TRUE(page("noPatients").isVisible());
+    EXPECT_TRUE(page("firstSteps").isVisible());
     EXPECT_FALSE(find<QPushButton>("btnDeletePatient").isEnabled());
     EXPECT_FALSE(hasPatients);
     beginNew(u"P4"_s, u"Dunn"_s);

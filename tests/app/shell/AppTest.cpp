@@ -21,7 +21,7 @@ void AppTest::launch(AppController::Timing timing) {
     };
     app = std::make_unique<AppController>(AppController::Parts{store, status, *worker, panel, clock, chooser,
                                                                period, printers, open,
-                                                               languageFile(home.path())},
+                                                               languageFile(home.path()), demonstration},
                                           timing);
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
@@ -37,7 +37,7 @@ void AppTest::start() {
 
 void AppTest::startConnected() {
     start();
-    waitFor([this] { return !panel.messages.empty() && !status.isBusy(); });
+    waitFor([this] { return status.state().IDOnDevice && !status.isBusy(); });
 }
 
 void AppTest::download() {

@@ -21,7 +21,7 @@ protected:
     void launch();
     /// Starts the program and waits until the splash screen has gone.
     void start();
-    /// Starts it and waits until the monitor's ID has been announced.
+    /// Starts it and waits until the monitor's ID is known.
     void startConnected();
     void download();
 
@@ -29,6 +29,7 @@ protected:
     ScriptedPrinters printers;
     QStringList opened; ///< documents that were handed to the desktop
     bool hasViewer = true;
+    AppController::Demonstration demonstration; ///< none to be started unless told
     DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
     std::unique_ptr<AppController> app;
 };

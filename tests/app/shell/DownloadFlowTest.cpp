@@ -147,8 +147,8 @@ TEST_F(DownloadFlowTest, theButtonsFollowTheMonitorAndItsID) {
     EXPECT_EQ(text("lblMonitor"), qtTrId("monitorCounting"));
     app->dataTransfer();
     EXPECT_EQ(window().findChild<QWidget*>(u"ProgressWindowController"_s), nullptr);
-    waitFor([this] { return !panel.messages.empty(); });
-    EXPECT_TRUE(panel.messages.value(0).contains(qtTrId("monitorConnectedID").arg(u"P2"_s)));
+    waitFor([this] { return status.state().IDOnDevice == u"P2" && !status.isBusy(); });
+    EXPECT_EQ(text("lblMonitorBar"), qtTrId("monitorConnectedID").arg(u"P2"_s));
     EXPECT_EQ(enabledButtons(), download);
     EXPECT_EQ(text("lblMonitor"), qtTrId("statusConnected"));
 }

@@ -1,0 +1,94 @@
+#include "app/patients/FirstSteps.h"
+
+#include "app/widgets/PageHeading.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+FirstSteps::FirstSteps(const MonitorStatus& monitorStatus, bool offersDemonstration, QWidget* parent)
+    : QWidget(parent), status(monitorStatus), lblMonitor(new QuietLabel({}, this)) {
+    setObjectName(u"firstSteps"_s);
+    setAccessibleName(qtTrId("firstSteps"));
+    lblMonitor->setObjectName(u"lblFirstMonitor"_s);
+    auto* heading = new QLabel(qtTrId("firstSteps"), this);
+    heading->setFont(scaledFont(font(), 1.2, true));
+    heading->setWordWrap(true);
+    auto* newPatient = makeButton(u"btnFirstPatient"_s, qtTrId("NewPatient"));
+    connect(newPatient, &QPushButton::clicked, this, &FirstSteps::newWanted);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(4);
+    grid->setColumnStretch(1, 1);
+    addStep(*grid, 1, qtTrId("firstStepPatient"), newPatient);
+    lblMonitorStep = addStep(*grid, 2, qtTrId("firstStepMonitor"), lblMonitor);
+    addStep(*grid, 3, qtTrId("firstStepDownload"), nullptr);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 8, 0, 8);
+    column->setSpacing(16);
+    column->addStretch(1);
+    column->addWidget(heading);
+    column->addLayout(grid);
+    if (offersDemonstration) column->addWidget(makeDemonstration());
+    column->addStretch(3);
+    connect(&status, &MonitorStatus::changed, this, &FirstSteps::showMonitor);
+    showMonitor();
+}
+
+QLabel* FirstSteps::addStep(QGridLayout& grid, int number, const QString& text, QWidget* below) {
+    const int row = 3 * number;
+    auto* mark = new QLabel(QString::number(number), this);
+    mark->setFont(scaledFont(font(), 1.8, true));
+    mark->setMinimumWidth(mark->fontMetrics().horizontalAdvance(u'W'));
+    mark->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* words = new QLabel(text, this);
+    words->setWordWrap(true);
+    words->setTextFormat(Qt::PlainText);
+    grid.addWidget(mark, row, 0, 2, 1);
+    grid.addWidget(words, row, 1);
+    if (below) grid.addWidget(below, row + 1, 1, Qt::AlignLeft | Qt::AlignTop);
+    grid.setRowMinimumHeight(row + 2, 12); // before the next
+    return mark;
+}
+
+QPushButton* FirstSteps::makeButton(const QString& name, const QString& text) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAccessibleName(text);
+    return button;
+}
+
+QWidget* FirstSteps::makeDemonstration() {
+    auto* part = new QWidget(this);
+    auto* button = makeButton(u"btnDemonstration"_s, qtTrId("demonstrationButton"));
+    connect(button, &QPushButton::clicked, this, &FirstSteps::demonstrationWanted);
+    auto* note = new QuietLabel(qtTrId("demonstrationNote"), part);
+    note->setWordWrap(true);
+    button->setAccessibleDescription(note->text());
+    auto* column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 8, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(button, 0, Qt::AlignLeft);
+    column->addWidget(note);
+    return part;
+}
+
+void FirstSteps::showMonitor() {
+    const QString state = describeShortly(status.state());
+    lblMonitor->setText(state);
+    lblMonitor->setAccessibleName(state);
+    lblMonitorStep->setText(status.state().isConnected ? u"\u2713"_s : u"2"_s);
+}
+
+bool FirstSteps::hasHeightForWidth() const { return !isHidden() && QWidget::hasHeightForWidth(); }
+
+QSize FirstSteps::minimumSizeHint() const {
+    const QSize least = QWidget::minimumSizeHint();
+    return isHidden() ? QSize(least.width(), 0) : least;
+}
+
+} // namespace zel

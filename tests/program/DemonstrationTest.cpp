@@ -1,0 +1,55 @@
+// The demonstration as a program of its own: its data are where no other start of the program looks.
+#include "support/EndsWithTest.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int longestTurn = 60'000; // milliseconds; only a fault takes so long
+const QString demonstrationFolder = u"/.local/state/zel/demonstration"_s;
+const QString dataFileBelow = u"/Library/Application Support/ZELMac/ZEL.xml"_s;
+
+class DemonstrationTest : public testing::Test {
+protected:
+    DemonstrationTest() {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"HOME"_s, home.path());
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.remove(u"XDG_STATE_HOME"_s);
+        environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+        program.setProcessEnvironment(environment);
+        endWithTest(program);
+        program.start(QCoreApplication::applicationDirPath() + u"/blocked_zel"_s, {u"--demonstration"_s});
+    }
+    ~DemonstrationTest() override {
+        program.terminate();
+        program.waitForFinished(longestTurn);
+    }
+
+    QTemporaryDir home;
+    QProcess program;
+};
+
+} // namespace
+
+TEST_F(DemonstrationTest, KeepsItsDataInAFolderOfItsOwn) {
+    const QString data = home.path() + demonstrationFolder + dataFileBelow;
+    for (int left = longestTurn; left > 0 && !QFile::exists(data); left -= 20)
+        ASSERT_FALSE(program.waitForFinished(20)) << program.readAllStandardError().constData();
+    EXPECT_TRUE(QFile::exists(data));
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished(longestTurn));
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
+    EXPECT_FALSE(QFile::exists(home.path() + u"/Library"_s)) << "the person's own place is not touched";
+}
+
+} // namespace zel
