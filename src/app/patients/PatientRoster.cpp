@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QShortcut>
@@ -51,7 +52,9 @@ void PatientRoster::build() {
     dressTable(*tblPatients);
     tblPatients->setSelectionMode(QAbstractItemView::SingleSelection);
     tblPatients->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    tblPatients->horizontalHeader()->setSectionResizeMode(PatientTableModel::ID, QHeaderView::Fixed);
+    for (const int column : {PatientTableModel::ID, PatientTableModel::birth})
+        tblPatients->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
+    tblPatients->viewport()->installEventFilter(this);
     noneFound->setTexts(qtTrId("noPatientFound"), qtTrId("noPatientFoundAdvice"));
     listOrAdvice->addWidget(tblPatients);
     listOrAdvice->addWidget(noneFound);
@@ -75,7 +78,7 @@ void PatientRoster::select(const QString& ID) {
     auto kept = std::exchange(scrolled, std::nullopt);
     if (selected != ID) kept.reset();
     selected = ID;
-    const QModelIndex row = found->mapFromSource(roster->index(roster->rowOf(ID), 0));
+    const QModelIndex row = placeOf(ID);
     if (row.isValid())
         tblPatients->selectRow(row.row());
     else
@@ -85,6 +88,26 @@ void PatientRoster::select(const QString& ID) {
 }
 
 void PatientRoster::showAll() { searchPatients->clear(); }
+
+QModelIndex PatientRoster::placeOf(const QString& ID) const {
+    return found->mapFromSource(roster->index(roster->rowOf(ID), 0));
+}
+
+bool PatientRoster::isListed(const QString& ID) const { return placeOf(ID).isValid(); }
+
+void PatientRoster::showSelected() {
+    if (!isListed(selected)) showAll();
+    tblPatients->scrollTo(placeOf(selected));
+}
+
+/// \p seen: the room that the list had. Who has scrolled the mark out of it is left there.
+void PatientRoster::keepInSight(const QSize& seen) {
+    const QModelIndex mark = tblPatients->currentIndex();
+    if (!mark.isValid() || !QRect({}, seen).intersects(tblPatients->visualRect(mark))) return;
+    // When the list has its new size.
+    QMetaObject::invokeMethod(
+        tblPatients, [this] { tblPatients->scrollTo(tblPatients->currentIndex()); }, Qt::QueuedConnection);
+}
 
 QString PatientRoster::selectedID() const {
     const QModelIndex row = tblPatients->currentIndex();
@@ -97,11 +120,26 @@ QString PatientRoster::neighbourOf(const QString& ID) const {
     return row < 0 || next < 0 ? QString() : roster->IDAt(next);
 }
 
-/// An ID as a monitor keeps it is seen whole, unless that left no room for names.
 void PatientRoster::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    const int whole = fontMetrics().averageCharWidth() * 14;
-    tblPatients->horizontalHeader()->resizeSection(PatientTableModel::ID, std::min(whole, width() * 2 / 5));
+    layOutColumns();
+}
+
+/// An ID as a monitor keeps it is seen whole, unless that left no room for names; dates of birth give way
+/// first.
+void PatientRoster::layOutColumns() {
+    constexpr int padding = 18, leastName = 18;
+    const QFontMetrics metrics = tblPatients->fontMetrics();
+    QHeaderView& columns = *tblPatients->horizontalHeader();
+    const int whole = metrics.averageCharWidth() * 14;
+    const QString title =
+        roster->headerData(PatientTableModel::birth, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int birth =
+        std::max(metrics.horizontalAdvance(u"00/00/0000"_s), metrics.horizontalAdvance(title)) + padding;
+    columns.resizeSection(PatientTableModel::ID, std::min(whole, width() * 2 / 5));
+    columns.resizeSection(PatientTableModel::birth, birth);
+    columns.setSectionHidden(PatientTableModel::birth,
+                             width() < whole + birth + metrics.averageCharWidth() * leastName);
 }
 
 /// Narrowing the list chooses nobody: the patient in the editor stays, in the list or not.
@@ -122,6 +160,10 @@ void PatientRoster::chooseFirst() {
 }
 
 bool PatientRoster::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == tblPatients->viewport()) {
+        if (event->type() == QEvent::Resize) keepInSight(static_cast<QResizeEvent*>(event)->oldSize());
+        return QWidget::eventFilter(watched, event);
+    }
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Down) chooseFirst();
