@@ -23,9 +23,27 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Keeps the chosen row in sight, unless it has been scrolled out of it.
+class RosterTable final : public QTableView {
+public:
+    using QTableView::QTableView;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        const QRect seen({}, event->oldSize());
+        const bool wasInSight = seen.intersects(visualRect(currentIndex()));
+        QTableView::resizeEvent(event);
+        if (wasInSight) scrollTo(currentIndex());
+    }
+};
+
+} // namespace
+
 PatientRoster::PatientRoster(const DataStore& patients, QWidget* parent)
     : QWidget(parent), roster(new PatientTableModel(patients, this)), found(new PatientFilter(*roster, this)),
-      searchPatients(new QLineEdit(this)), tblPatients(new QTableView(this)),
+      searchPatients(new QLineEdit(this)), tblPatients(new RosterTable(this)),
       noneFound(new EmptyState(u"noPatientFound"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
       listOrAdvice(new QStackedWidget(this)) {
     build();
@@ -54,7 +72,6 @@ void PatientRoster::build() {
     tblPatients->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const int column : {PatientTableModel::ID, PatientTableModel::birth})
         tblPatients->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
-    tblPatients->viewport()->installEventFilter(this);
     noneFound->setTexts(qtTrId("noPatientFound"), qtTrId("noPatientFoundAdvice"));
     listOrAdvice->addWidget(tblPatients);
     listOrAdvice->addWidget(noneFound);
@@ -100,15 +117,6 @@ void PatientRoster::showSelected() {
     tblPatients->scrollTo(placeOf(selected));
 }
 
-/// \p seen: the room that the list had. Who has scrolled the mark out of it is left there.
-void PatientRoster::keepInSight(const QSize& seen) {
-    const QModelIndex mark = tblPatients->currentIndex();
-    if (!mark.isValid() || !QRect({}, seen).intersects(tblPatients->visualRect(mark))) return;
-    // When the list has its new size.
-    QMetaObject::invokeMethod(
-        tblPatients, [this] { tblPatients->scrollTo(tblPatients->currentIndex()); }, Qt::QueuedConnection);
-}
-
 QString PatientRoster::selectedID() const {
     const QModelIndex row = tblPatients->currentIndex();
     return row.isValid() ? roster->IDAt(found->mapToSource(row).row()) : QString();
@@ -148,6 +156,7 @@ void PatientRoster::search(const QString& text) {
         const QScopedValueRollback moving(isMoving, true);
         found->search(text);
     }
+    tblPatients->doItemsLayout(); // or there would be no way yet to scroll
     select(selected);
     const bool isNone = found->rowCount() == 0 && roster->rowCount() > 0;
     listOrAdvice->setCurrentWidget(isNone ? static_cast<QWidget*>(noneFound) : tblPatients);
@@ -160,10 +169,6 @@ void PatientRoster::chooseFirst() {
 }
 
 bool PatientRoster::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == tblPatients->viewport()) {
-        if (event->type() == QEvent::Resize) keepInSight(static_cast<QResizeEvent*>(event)->oldSize());
-        return QWidget::eventFilter(watched, event);
-    }
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Down) chooseFirst();

@@ -47,7 +47,6 @@ private:
     void search(const QString& text);
     void chooseFirst();
     void layOutColumns();
-    void keepInSight(const QSize& seen);
     [[nodiscard]] QModelIndex placeOf(const QString& ID) const;
 
     PatientTableModel* roster;
