@@ -737,6 +737,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="unsavedDelete"><translation>Die Eingaben für %1 löschen? Wenn nicht, werden Sie beim nächsten Start wieder gefragt.</translation></message>
     <message id="unsavedFound"><translation>Als das Programm beendet wurde, konnten die Eingaben für %1 nicht gespeichert werden. Jetzt damit weitermachen?</translation></message>
     <message id="unsavedTitle"><translation>Noch nicht gespeichert</translation></message>
+    <message id="usualColumns"><translation>Übliche Spalten und Reihenfolge</translation></message>
     <message id="valueHigh"><translation>%1, am Grenzwert oder darüber</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 pro Minute</translation></message>

@@ -737,6 +737,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
     <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>
     <message id="unsavedTitle"><translation>Not saved yet</translation></message>
+    <message id="usualColumns"><translation>Usual columns and order</translation></message>
     <message id="valueHigh"><translation>%1, at or above the limit</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 per minute</translation></message>

@@ -737,6 +737,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="unsavedDelete"><translation>¿Eliminar lo escrito para %1? Si no, se le volverá a preguntar la próxima vez que abra ZEL.</translation></message>
     <message id="unsavedFound"><translation>Al cerrarse el programa, no se pudo guardar lo que se estaba escribiendo para %1. ¿Continuar ahora con ello?</translation></message>
     <message id="unsavedTitle"><translation>Sin guardar todavía</translation></message>
+    <message id="usualColumns"><translation>Columnas y orden habituales</translation></message>
     <message id="valueHigh"><translation>%1, igual o superior al límite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 por minuto</translation></message>

@@ -737,6 +737,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="unsavedDelete"><translation>Supprimer cette saisie (%1) ? Sinon, la question vous sera reposée au prochain démarrage.</translation></message>
     <message id="unsavedFound"><translation>Une saisie en cours à la fermeture du programme n’a pas pu être enregistrée (%1). La reprendre maintenant ?</translation></message>
     <message id="unsavedTitle"><translation>Pas encore enregistré</translation></message>
+    <message id="usualColumns"><translation>Colonnes et ordre habituels</translation></message>
     <message id="valueHigh"><translation>%1, atteint ou dépasse la limite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 bpm</translation></message>

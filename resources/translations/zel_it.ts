@@ -737,6 +737,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="unsavedDelete"><translation>Eliminare quanto digitato per %1? In caso contrario la domanda verrà riproposta al prossimo avvio.</translation></message>
     <message id="unsavedFound"><translation>Alla chiusura del programma non è stato possibile salvare quanto si stava digitando per %1. Continuare ora?</translation></message>
     <message id="unsavedTitle"><translation>Non ancora salvato</translation></message>
+    <message id="usualColumns"><translation>Colonne e ordine abituali</translation></message>
     <message id="valueHigh"><translation>%1, pari o superiore al limite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 al minuto</translation></message>

@@ -737,6 +737,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="unsavedDelete"><translation>Usunąć to, co wpisano dla pacjenta (%1)? Jeśli nie, pytanie pojawi się ponownie przy następnym uruchomieniu.</translation></message>
     <message id="unsavedFound"><translation>Przy zamykaniu programu nie udało się zapisać tego, co wpisywano dla pacjenta (%1). Kontynuować teraz wpisywanie?</translation></message>
     <message id="unsavedTitle"><translation>Jeszcze niezapisane</translation></message>
+    <message id="usualColumns"><translation>Zwykłe kolumny i kolejność</translation></message>
     <message id="valueHigh"><translation>%1, na granicy lub powyżej</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 na minutę</translation></message>

@@ -737,6 +737,7 @@ mmHg</translation></message>
     <message id="unsavedDelete"><translation>要刪除為 %1 輸入的內容嗎？若不刪除，下次啟動時會再次詢問。</translation></message>
     <message id="unsavedFound"><translation>上次程式結束時，正在為 %1 輸入的內容未能儲存。要現在繼續輸入嗎？</translation></message>
     <message id="unsavedTitle"><translation>尚未儲存</translation></message>
+    <message id="usualColumns"><translation>恢復預設欄位與順序</translation></message>
     <message id="valueHigh"><translation>%1，達到或高於上限</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 次/分</translation></message>
