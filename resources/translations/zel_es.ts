@@ -784,6 +784,8 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="weekTo"><translation>hasta</translation></message>
     <message id="weightRefusedKg"><translation>Indique un número de 0,2 a 1000 kg, por ejemplo 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indique un número de 0,5 a 2200 lb, por ejemplo 160,5.</translation></message>
+    <message id="windowNotForgotten"><translation>El archivo %1 guarda cómo quedó la ventana. No se ha podido eliminar.</translation></message>
+    <message id="windowNotReset"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente. Ciérrela y vuelva a iniciar con --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente.</translation></message>
     <message id="windowSilent"><translation>ZEL ya está abierto para este archivo de datos, pero su ventana no responde. Puede estar ocupado con un disco o una impresora lentos, o estar bloqueado: si no continúa en un minuto, ciérrelo desde el monitor del sistema de su equipo.
 
@@ -1021,7 +1023,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo reemplaza.</translation></message>
     <message id="CliFromAfterTo"><translation>El día de --from es posterior al de --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
      zel COMMAND [OPTION]...
 
 Conserva las mediciones de tensiómetros automáticos, paciente por paciente.
@@ -1044,6 +1046,7 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
 Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
+  --reset-view                 olvidar cómo quedó la ventana: lugar, página, paciente, columnas
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión
 

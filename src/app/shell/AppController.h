@@ -13,6 +13,7 @@
 
 #include <array>
 #include <chrono>
+#include <memory>
 
 namespace zel {
 
@@ -28,6 +29,8 @@ class SettingController;
 class SplashWindow;
 class TableViewController;
 class UndoController;
+class ViewKeeper;
+class ViewMemory;
 struct StepName;
 enum class PrintPurpose;
 struct DownloadOutcome;
@@ -46,7 +49,8 @@ public:
         DisplayPeriod& period;
         Printers& printers;
         DocumentOpener openDocument;
-        QString languageFile; ///< of the user's choice
+        QString languageFile;         ///< of the user's choice
+        ViewMemory* memory = nullptr; ///< how the window was left; none: nothing is remembered
     };
     struct Timing {
         std::chrono::milliseconds polling{2000};
@@ -102,6 +106,7 @@ private:
     void tellNotBackedUp(const QString& why);
     void keepUnsaved();
     void offerUnsaved();
+    void takeUpView();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
     [[nodiscard]] bool isEdited() const;
     void tellReplaced(const QString& name);
@@ -123,6 +128,7 @@ private:
     std::array<PageController*, MainWindow::tabTotal> pages;
     PeriodFollower* follower = nullptr;
     UndoController* undoer = nullptr;
+    std::unique_ptr<ViewKeeper> viewKeeper; ///< if anything is remembered
     BackupCourier* courier = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
     SettingController* settings = nullptr;              ///< likewise

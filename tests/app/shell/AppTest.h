@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shell/AppController.h"
+#include "store/ViewMemory.h"
 #include "support/MonitorTest.h"
 #include "support/ScriptedChooser.h"
 #include "support/ScriptedPrinters.h"
@@ -30,6 +31,7 @@ protected:
     QStringList opened; ///< documents that were handed to the desktop
     bool hasViewer = true;
     DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
+    std::unique_ptr<ViewMemory> memory; ///< none unless a test makes one
     std::unique_ptr<AppController> app;
 };
 
