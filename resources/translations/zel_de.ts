@@ -752,6 +752,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="unsavedDelete"><translation>Die Eingaben für %1 löschen? Wenn nicht, werden Sie beim nächsten Start wieder gefragt.</translation></message>
     <message id="unsavedFound"><translation>Als das Programm beendet wurde, konnten die Eingaben für %1 nicht gespeichert werden. Jetzt damit weitermachen?</translation></message>
     <message id="unsavedTitle"><translation>Noch nicht gespeichert</translation></message>
+    <message id="usualColumns"><translation>Übliche Spalten und Reihenfolge</translation></message>
     <message id="valueHigh"><translation>%1, am Grenzwert oder darüber</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 pro Minute</translation></message>
@@ -799,6 +800,8 @@ AHA: 12 Messungen an mindestens 3 Tagen</translation></message>
     <message id="weekTo"><translation>bis</translation></message>
     <message id="weightRefusedKg"><translation>Bitte geben Sie eine Zahl von 0,2 bis 1000 kg ein, z. B. 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Bitte geben Sie eine Zahl von 0,5 bis 2200 lb ein, z. B. 160,5.</translation></message>
+    <message id="windowNotForgotten"><translation>In der Datei %1 steht, wie das Fenster zuletzt war. Sie konnte nicht entfernt werden.</translation></message>
+    <message id="windowNotReset"><translation>ZEL ist für diese Datendatei schon geöffnet; das Fenster wurde in den Vordergrund geholt. Bitte schließen Sie es und starten Sie noch einmal mit --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL ist für diese Datendatei schon geöffnet; das Fenster wurde in den Vordergrund geholt.</translation></message>
     <message id="windowSilent"><translation>ZEL ist für diese Datendatei schon geöffnet, aber das Fenster antwortet nicht. Vielleicht wartet es auf einen langsamen Datenträger oder Drucker, oder es hängt: Wenn es nicht innerhalb einer Minute weiterarbeitet, beenden Sie es in der Systemüberwachung Ihres Computers.
 
@@ -1036,7 +1039,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliFolderMissing"><translation>Es fehlt der Ordner für den Export.</translation></message>
     <message id="CliForceReplaces"><translation>--force ersetzt sie.</translation></message>
     <message id="CliFromAfterTo"><translation>Der Tag von --from liegt nach dem Tag von --to.</translation></message>
-    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
         zel COMMAND [OPTION]...
 
 Verwaltet die Messungen automatischer Blutdruckmessgeräte, Patient für Patient.
@@ -1059,8 +1062,8 @@ Ohne Befehl öffnet sich ein Fenster. Die Befehle leisten dasselbe ohne Fenster,
 Optionen:
   --simulated-monitor[=FILE]   statt eines USB-Geräts ein simuliertes Messgerät verwenden, das eingebaute
                                oder das in FILE beschriebene
-  --demonstration              ein Fenster mit simuliertem Messgerät und eigenen, erfundenen Daten
   --language TAG               die Sprache der Meldungen und Berichte, etwa de
+  --reset-view                 vergessen, wie das Fenster zuletzt war: Platz, Seite, Patient, Spalten
   -h, --help                   diesen Text anzeigen; 'zel COMMAND --help' erklärt einen Befehl
   --version                    die Version anzeigen
 

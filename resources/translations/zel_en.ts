@@ -752,6 +752,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="unsavedDelete"><translation>Delete what was typed for %1? If not, you are asked again at the next start.</translation></message>
     <message id="unsavedFound"><translation>When the program was ended, what was being typed for %1 could not be saved. Go on with it now?</translation></message>
     <message id="unsavedTitle"><translation>Not saved yet</translation></message>
+    <message id="usualColumns"><translation>Usual columns and order</translation></message>
     <message id="valueHigh"><translation>%1, at or above the limit</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 per minute</translation></message>
@@ -799,6 +800,8 @@ AHA: 12 readings on 3 days or more</translation></message>
     <message id="weekTo"><translation>to</translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
+    <message id="windowNotForgotten"><translation>The file %1 keeps how the window was left. It could not be removed.</translation></message>
+    <message id="windowNotReset"><translation>ZEL is open already for this data file; its window has been brought to the front. Please close it, and start again with --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL is open already for this data file; its window has been brought to the front.</translation></message>
     <message id="windowSilent"><translation>ZEL is open already for this data file, but its window does not answer. It may be busy with a slow disk or printer, or it hangs: if it does not go on in a minute, end it in your computer’s system monitor.
 
@@ -1036,7 +1039,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
-    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
        zel COMMAND [OPTION]...
 
 Keeps the readings of automatic blood-pressure monitors, patient by patient.
@@ -1058,8 +1061,8 @@ Without a command a window opens. The commands do the same jobs without one, on 
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
-  --demonstration              a window with a simulated monitor, over data of its own
   --language TAG               the language of messages and reports, such as de or zh_TW
+  --reset-view                 forget how the window was left: place, page, patient, columns, folder
   -h, --help                   show this text; 'zel COMMAND --help' tells about a command
   --version                    show the version
 

@@ -752,6 +752,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="unsavedDelete"><translation>¿Eliminar lo escrito para %1? Si no, se le volverá a preguntar la próxima vez que abra ZEL.</translation></message>
     <message id="unsavedFound"><translation>Al cerrarse el programa, no se pudo guardar lo que se estaba escribiendo para %1. ¿Continuar ahora con ello?</translation></message>
     <message id="unsavedTitle"><translation>Sin guardar todavía</translation></message>
+    <message id="usualColumns"><translation>Columnas y orden habituales</translation></message>
     <message id="valueHigh"><translation>%1, igual o superior al límite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 por minuto</translation></message>
@@ -799,6 +800,8 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="weekTo"><translation>hasta</translation></message>
     <message id="weightRefusedKg"><translation>Indique un número de 0,2 a 1000 kg, por ejemplo 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indique un número de 0,5 a 2200 lb, por ejemplo 160,5.</translation></message>
+    <message id="windowNotForgotten"><translation>El archivo %1 guarda cómo quedó la ventana. No se ha podido eliminar.</translation></message>
+    <message id="windowNotReset"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente. Ciérrela y vuelva a iniciar con --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente.</translation></message>
     <message id="windowSilent"><translation>ZEL ya está abierto para este archivo de datos, pero su ventana no responde. Puede estar ocupado con un disco o una impresora lentos, o estar bloqueado: si no continúa en un minuto, ciérrelo desde el monitor del sistema de su equipo.
 
@@ -1036,7 +1039,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo reemplaza.</translation></message>
     <message id="CliFromAfterTo"><translation>El día de --from es posterior al de --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
      zel COMMAND [OPTION]...
 
 Conserva las mediciones de tensiómetros automáticos, paciente por paciente.
@@ -1058,8 +1061,8 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
 
 Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
-  --demonstration              una ventana con un tensiómetro simulado y datos propios
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
+  --reset-view                 olvidar cómo quedó la ventana: lugar, página, paciente, columnas
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión
 

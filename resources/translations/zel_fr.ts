@@ -752,6 +752,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="unsavedDelete"><translation>Supprimer cette saisie (%1) ? Sinon, la question vous sera reposée au prochain démarrage.</translation></message>
     <message id="unsavedFound"><translation>Une saisie en cours à la fermeture du programme n’a pas pu être enregistrée (%1). La reprendre maintenant ?</translation></message>
     <message id="unsavedTitle"><translation>Pas encore enregistré</translation></message>
+    <message id="usualColumns"><translation>Colonnes et ordre habituels</translation></message>
     <message id="valueHigh"><translation>%1, atteint ou dépasse la limite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 bpm</translation></message>
@@ -799,6 +800,8 @@ AHA : 12 mesures sur au moins 3 jours</translation></message>
     <message id="weekTo"><translation>au</translation></message>
     <message id="weightRefusedKg"><translation>Veuillez indiquer un nombre compris entre 0,2 et 1000 kg, par exemple 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Veuillez indiquer un nombre compris entre 0,5 et 2200 lb, par exemple 160,5.</translation></message>
+    <message id="windowNotForgotten"><translation>Le fichier %1 garde l’état de la fenêtre. Il n’a pas pu être supprimé.</translation></message>
+    <message id="windowNotReset"><translation>ZEL est déjà ouvert pour ce fichier de données ; sa fenêtre a été mise au premier plan. Fermez-la, puis relancez avec --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL est déjà ouvert pour ce fichier de données ; sa fenêtre a été mise au premier plan.</translation></message>
     <message id="windowSilent"><translation>ZEL est déjà ouvert pour ce fichier de données, mais sa fenêtre ne répond pas. Elle attend peut-être un disque lent ou une imprimante lente, ou elle est bloquée : si rien ne se passe d’ici une minute, forcez l’arrêt de ZEL dans le moniteur système de votre ordinateur.
 
@@ -1036,7 +1039,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliFolderMissing"><translation>Il manque le dossier vers lequel exporter.</translation></message>
     <message id="CliForceReplaces"><translation>--force le remplace.</translation></message>
     <message id="CliFromAfterTo"><translation>Le jour de --from est postérieur à celui de --to.</translation></message>
-    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
         zel COMMAND [OPTION]...
 
 Conserve les mesures de tensiomètres automatiques, patient par patient.
@@ -1058,8 +1061,8 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
 
 Options :
   --simulated-monitor[=FILE]   au lieu d’un tensiomètre USB, en simuler un, décrit par FILE ou intégré
-  --demonstration              une fenêtre avec un tensiomètre simulé et ses propres données
   --language TAG               la langue des messages et des rapports, par exemple fr
+  --reset-view                 oublier l’état de la fenêtre : place, page, patient, colonnes, dossier
   -h, --help                   afficher ce texte ; 'zel COMMAND --help' décrit une commande
   --version                    afficher la version
 

@@ -752,6 +752,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="unsavedDelete"><translation>Eliminare quanto digitato per %1? In caso contrario la domanda verrà riproposta al prossimo avvio.</translation></message>
     <message id="unsavedFound"><translation>Alla chiusura del programma non è stato possibile salvare quanto si stava digitando per %1. Continuare ora?</translation></message>
     <message id="unsavedTitle"><translation>Non ancora salvato</translation></message>
+    <message id="usualColumns"><translation>Colonne e ordine abituali</translation></message>
     <message id="valueHigh"><translation>%1, pari o superiore al limite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 al minuto</translation></message>
@@ -799,6 +800,8 @@ AHA: 12 misurazioni in almeno 3 giorni</translation></message>
     <message id="weekTo"><translation>al</translation></message>
     <message id="weightRefusedKg"><translation>Indicare un numero da 0,2 a 1000 kg, per esempio 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indicare un numero da 0,5 a 2200 lb, per esempio 160,5.</translation></message>
+    <message id="windowNotForgotten"><translation>Il file %1 conserva lo stato della finestra. Non è stato possibile rimuoverlo.</translation></message>
+    <message id="windowNotReset"><translation>ZEL è già aperto per questo file dei dati; la sua finestra è stata portata in primo piano. Chiuderla e riavviare con --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL è già aperto per questo file dei dati; la sua finestra è stata portata in primo piano.</translation></message>
     <message id="windowSilent"><translation>ZEL è già aperto per questo file dei dati, ma la sua finestra non risponde. Può essere occupato con un disco o una stampante lenti, oppure bloccato: se entro un minuto non riprende, terminarlo dal monitor di sistema del computer.
 
@@ -1036,7 +1039,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliFolderMissing"><translation>Manca la cartella in cui esportare.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo sostituisce.</translation></message>
     <message id="CliFromAfterTo"><translation>Il giorno di --from è successivo a quello di --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
      zel COMANDO [OPZIONE]...
 
 Gestisce le misurazioni dei misuratori automatici di pressione, paziente per paziente.
@@ -1058,8 +1061,8 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
 
 Opzioni:
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato, invece di uno USB
-  --demonstration              una finestra con un misuratore simulato e dati propri
   --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
+  --reset-view                 dimentica lo stato della finestra: posizione, pagina, paziente, colonne
   -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
   --version                    mostra la versione
 

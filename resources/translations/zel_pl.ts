@@ -752,6 +752,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="unsavedDelete"><translation>Usunąć to, co wpisano dla pacjenta (%1)? Jeśli nie, pytanie pojawi się ponownie przy następnym uruchomieniu.</translation></message>
     <message id="unsavedFound"><translation>Przy zamykaniu programu nie udało się zapisać tego, co wpisywano dla pacjenta (%1). Kontynuować teraz wpisywanie?</translation></message>
     <message id="unsavedTitle"><translation>Jeszcze niezapisane</translation></message>
+    <message id="usualColumns"><translation>Zwykłe kolumny i kolejność</translation></message>
     <message id="valueHigh"><translation>%1, na granicy lub powyżej</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 na minutę</translation></message>
@@ -799,6 +800,8 @@ AHA: 12 pomiarów z co najmniej 3 dni</translation></message>
     <message id="weekTo"><translation>do</translation></message>
     <message id="weightRefusedKg"><translation>Proszę podać liczbę od 0,2 do 1000 kg, na przykład 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Proszę podać liczbę od 0,5 do 2200 lb, na przykład 160,5.</translation></message>
+    <message id="windowNotForgotten"><translation>Plik %1 przechowuje stan okna. Nie udało się go usunąć.</translation></message>
+    <message id="windowNotReset"><translation>ZEL jest już otwarty dla tego pliku danych; jego okno przeniesiono na wierzch. Zamknij je i uruchom program ponownie z --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL jest już otwarty dla tego pliku danych; jego okno przeniesiono na wierzch.</translation></message>
     <message id="windowSilent"><translation>ZEL jest już otwarty dla tego pliku danych, ale jego okno nie odpowiada. Być może program czeka na powolny dysk lub drukarkę albo się zawiesił: jeśli w ciągu minuty nie wznowi pracy, proszę go zakończyć w monitorze systemu.
 
@@ -1036,7 +1039,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliFolderMissing"><translation>Brakuje folderu, do którego mają trafić pliki.</translation></message>
     <message id="CliForceReplaces"><translation>Opcja --force go zastępuje.</translation></message>
     <message id="CliFromAfterTo"><translation>Dzień --from jest późniejszy niż dzień --to.</translation></message>
-    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
         zel COMMAND [OPTION]...
 
 Przechowuje pomiary z automatycznych ciśnieniomierzy, osobno dla każdego pacjenta.
@@ -1058,8 +1061,8 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
 
 Opcje:
   --simulated-monitor[=FILE]   użyj ciśnieniomierza programowego (opis w FILE lub wbudowany) zamiast USB
-  --demonstration              okno z symulowanym ciśnieniomierzem i osobnymi danymi
   --language TAG               język komunikatów i raportów, na przykład pl
+  --reset-view                 zapomnij stan okna: położenie, stronę, pacjenta, kolumny, folder
   -h, --help                   pokaż ten tekst; 'zel COMMAND --help' opisuje polecenie
   --version                    pokaż wersję
 

@@ -752,6 +752,7 @@ mmHg</translation></message>
     <message id="unsavedDelete"><translation>要刪除為 %1 輸入的內容嗎？若不刪除，下次啟動時會再次詢問。</translation></message>
     <message id="unsavedFound"><translation>上次程式結束時，正在為 %1 輸入的內容未能儲存。要現在繼續輸入嗎？</translation></message>
     <message id="unsavedTitle"><translation>尚未儲存</translation></message>
+    <message id="usualColumns"><translation>恢復預設欄位與順序</translation></message>
     <message id="valueHigh"><translation>%1，達到或高於上限</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 次/分</translation></message>
@@ -799,6 +800,8 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="weekTo"><translation>至</translation></message>
     <message id="weightRefusedKg"><translation>請填寫 0.2 到 1000 kg 的數字，例如 72.5。</translation></message>
     <message id="weightRefusedLb"><translation>請填寫 0.5 到 2200 lb 的數字，例如 160.5。</translation></message>
+    <message id="windowNotForgotten"><translation>檔案 %1 保存視窗上次的狀態，無法移除。</translation></message>
+    <message id="windowNotReset"><translation>ZEL 已開啟此資料檔，其視窗已移到最前面。請關閉視窗，再以 --reset-view 重新啟動。</translation></message>
     <message id="windowShown"><translation>ZEL 已開啟此資料檔，其視窗已移到最前面。</translation></message>
     <message id="windowSilent"><translation>ZEL 已開啟此資料檔，但視窗沒有回應。它可能正在等候緩慢的磁碟或印表機，也可能已當掉：如果一分鐘後仍無反應，請在電腦的系統監視器中結束它。
 
@@ -1036,7 +1039,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliFolderMissing"><translation>未指定匯出的目的資料夾。</translation></message>
     <message id="CliForceReplaces"><translation>使用 --force 可取代它。</translation></message>
     <message id="CliFromAfterTo"><translation>--from 的日期晚於 --to 的日期。</translation></message>
-    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG]
+    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
       zel COMMAND [OPTION]...
 
 依病患分別保存自動血壓計的量測。
@@ -1058,8 +1061,8 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
 
 選項：
   --simulated-monitor[=FILE]   使用軟體模擬的血壓計（由 FILE 描述或內建），不使用 USB 血壓計
-  --demonstration              開啟使用模擬血壓計與獨立資料的視窗
   --language TAG               訊息與報告的語言，例如 zh_TW
+  --reset-view                 忘記視窗上次的狀態：位置、頁面、病患、欄位、資料夾
   -h, --help                   顯示此說明；'zel COMMAND --help' 顯示指令的說明
   --version                    顯示版本
 

@@ -147,6 +147,7 @@ TEST(CommandLine, OpensTheWindowUnlessThereIsACommandOrAnUnknownWord) {
         {"--simulated-monitor=plan.json monitor", true},
         {"--simulated-monitor download --patient A", true},
         {"--language de", false},
+        {"--reset-view", false},
         {"--language=de --simulated-monitor", false},
         {"--language de patients", true},
         {"--help", true},

@@ -49,6 +49,7 @@ public:
     /// Brings the chart to the front of the page.
     void switchToGraph();
     /// 0 chart, 1 histogram, 2 correlation, 3 trend.
+    void showView(int state) { setView(state); }
     [[nodiscard]] int drawViewState() const { return viewState; }
     /// The trend has mornings and evenings as lines of their own.
     [[nodiscard]] bool isTrendApart() const;

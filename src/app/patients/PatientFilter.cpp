@@ -4,6 +4,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Without case and accents.
@@ -28,7 +30,9 @@ void PatientFilter::search(const QString& text) {
 bool PatientFilter::filterAcceptsRow(int row, const QModelIndex&) const {
     if (words.isEmpty() || roster.isNewPatient(row)) return true;
     const auto name = roster.index(row, PatientTableModel::name).data().toString();
-    const QString text = folded(name + u'\n' + roster.IDAt(row));
+    // Who types the comma puts a blank behind it, or none.
+    const QString joined = QString(name).replace(", "_L1, ","_L1);
+    const QString text = folded(QStringList{name, joined, roster.IDAt(row)}.join(u'\n'));
     return std::ranges::all_of(words, [&text](const QString& word) { return text.contains(word); });
 }
 

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QShortcut>
@@ -23,9 +24,27 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Keeps the chosen row in sight, unless it has been scrolled out of it.
+class RosterTable final : public QuietTable {
+public:
+    using QuietTable::QuietTable;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        const QRect seen({}, event->oldSize());
+        const bool wasInSight = seen.intersects(visualRect(currentIndex()));
+        QuietTable::resizeEvent(event);
+        if (wasInSight) scrollTo(currentIndex());
+    }
+};
+
+} // namespace
+
 PatientRoster::PatientRoster(const DataStore& patients, QWidget* parent)
     : QWidget(parent), roster(new PatientTableModel(patients, this)), found(new PatientFilter(*roster, this)),
-      searchPatients(new QLineEdit(this)), tblPatients(new QuietTable(this)),
+      searchPatients(new QLineEdit(this)), tblPatients(new RosterTable(this)),
       noneFound(new EmptyState(u"noPatientFound"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
       listOrAdvice(new QStackedWidget(this)) {
     build();
@@ -52,7 +71,8 @@ void PatientRoster::build() {
     dressTable(*tblPatients);
     tblPatients->setSelectionMode(QAbstractItemView::SingleSelection);
     tblPatients->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    tblPatients->horizontalHeader()->setSectionResizeMode(PatientTableModel::ID, QHeaderView::Fixed);
+    for (const int column : {PatientTableModel::ID, PatientTableModel::birth})
+        tblPatients->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
     noneFound->setTexts(qtTrId("noPatientFound"), qtTrId("noPatientFoundAdvice"));
     listOrAdvice->addWidget(tblPatients);
     listOrAdvice->addWidget(noneFound);
@@ -76,7 +96,7 @@ void PatientRoster::select(const QString& ID) {
     auto kept = std::exchange(scrolled, std::nullopt);
     if (selected != ID) kept.reset();
     selected = ID;
-    const QModelIndex row = found->mapFromSource(roster->index(roster->rowOf(ID), 0));
+    const QModelIndex row = placeOf(ID);
     if (row.isValid())
         tblPatients->selectRow(row.row());
     else
@@ -86,6 +106,17 @@ void PatientRoster::select(const QString& ID) {
 }
 
 void PatientRoster::showAll() { searchPatients->clear(); }
+
+QModelIndex PatientRoster::placeOf(const QString& ID) const {
+    return found->mapFromSource(roster->index(roster->rowOf(ID), 0));
+}
+
+bool PatientRoster::isListed(const QString& ID) const { return placeOf(ID).isValid(); }
+
+void PatientRoster::showSelected() {
+    if (!isListed(selected)) showAll();
+    tblPatients->scrollTo(placeOf(selected));
+}
 
 QString PatientRoster::selectedID() const {
     const QModelIndex row = tblPatients->currentIndex();
@@ -98,11 +129,26 @@ QString PatientRoster::neighbourOf(const QString& ID) const {
     return row < 0 || next < 0 ? QString() : roster->IDAt(next);
 }
 
-/// An ID as a monitor keeps it is seen whole, unless that left no room for names.
 void PatientRoster::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    const int whole = fontMetrics().averageCharWidth() * 14;
-    tblPatients->horizontalHeader()->resizeSection(PatientTableModel::ID, std::min(whole, width() * 2 / 5));
+    layOutColumns();
+}
+
+/// An ID as a monitor keeps it is seen whole, unless that left no room for names; dates of birth give way
+/// first.
+void PatientRoster::layOutColumns() {
+    constexpr int padding = 18, leastName = 18;
+    const QFontMetrics metrics = tblPatients->fontMetrics();
+    QHeaderView& columns = *tblPatients->horizontalHeader();
+    const int whole = metrics.averageCharWidth() * 14;
+    const QString title =
+        roster->headerData(PatientTableModel::birth, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int birth =
+        std::max(metrics.horizontalAdvance(u"00/00/0000"_s), metrics.horizontalAdvance(title)) + padding;
+    columns.resizeSection(PatientTableModel::ID, std::min(whole, width() * 2 / 5));
+    columns.resizeSection(PatientTableModel::birth, birth);
+    columns.setSectionHidden(PatientTableModel::birth,
+                             width() < whole + birth + metrics.averageCharWidth() * leastName);
 }
 
 /// Narrowing the list chooses nobody: the patient in the editor stays, in the list or not.
@@ -111,6 +157,7 @@ void PatientRoster::search(const QString& text) {
         const QScopedValueRollback moving(isMoving, true);
         found->search(text);
     }
+    tblPatients->doItemsLayout(); // or there would be no way yet to scroll
     select(selected);
     const bool isNone = found->rowCount() == 0 && roster->rowCount() > 0;
     listOrAdvice->setCurrentWidget(isNone ? static_cast<QWidget*>(noneFound) : tblPatients);

@@ -26,7 +26,11 @@ public:
     void reload(bool withNewPatient);
     /// Puts the mark on a patient, without a word to anyone.
     void select(const QString& ID);
-    void showAll();                           ///< ends a search
+    void showAll(); ///< ends a search
+    /// The patient is in the list, which a search may narrow.
+    [[nodiscard]] bool isListed(const QString& ID) const;
+    /// Scrolls to the selected patient, and ends a search that leaves it out.
+    void showSelected();
     [[nodiscard]] QString selectedID() const; ///< null if none is
     /// The next patient's ID, or the one before the last's; null if there is none.
     [[nodiscard]] QString neighbourOf(const QString& ID) const;
@@ -42,6 +46,8 @@ private:
     void build();
     void search(const QString& text);
     void chooseFirst();
+    void layOutColumns();
+    [[nodiscard]] QModelIndex placeOf(const QString& ID) const;
 
     PatientTableModel* roster;
     PatientFilter* found;

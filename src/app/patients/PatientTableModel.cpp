@@ -26,18 +26,24 @@ const PatientModel& PatientTableModel::patientAt(int row) const {
 
 QVariant PatientTableModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) return {};
-    const PatientModel& patient = patientAt(index.row());
-    const QString& text = index.column() == name ? patient.DisplayName : patient.ID;
-    if (role == Qt::DisplayRole) return text;
+    const QString shown = text(index.row(), index.column());
+    if (role == Qt::DisplayRole || shown.isEmpty()) return shown;
     constexpr int longest = 300;
-    return QString("<span>"_L1 + shortText(text, longest).toHtmlEscaped()
+    return QString("<span>"_L1 + shortText(shown, longest).toHtmlEscaped()
                    + "</span>"_L1); // no name is markup
+}
+
+QString PatientTableModel::text(int row, int column) const {
+    const PatientModel& patient = patientAt(row);
+    if (column == name) return isNewPatient(row) ? patient.DisplayName : listedName(patient);
+    return column == ID ? patient.ID : birthText(patient, store.getSetting());
 }
 
 QVariant PatientTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
+    if (section == birth) return qtTrId("fieldDateOfBirth");
     return section == name ? qtTrId("patientName") : qtTrId("patientID");
 }
 

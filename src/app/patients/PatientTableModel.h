@@ -6,13 +6,13 @@
 
 namespace zel {
 
-/// The roster by name and ID, in the store's order, below a new patient that is not saved yet.
+/// The roster by name, ID and date of birth, in the store's order, below a new patient that is not saved yet.
 class PatientTableModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
     explicit PatientTableModel(const DataStore& patients, QObject* parent = nullptr);
 
-    enum Column { name, ID, columnTotal };
+    enum Column { name, ID, birth, columnTotal };
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -26,6 +26,7 @@ public:
 
 private:
     [[nodiscard]] const PatientModel& patientAt(int row) const;
+    [[nodiscard]] QString text(int row, int column) const;
 
     const DataStore& store;
     PatientModel newPatient;

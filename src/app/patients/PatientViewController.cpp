@@ -341,7 +341,9 @@ bool PatientViewController::saved(const PatientModel& record) {
     const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
     if (editor->shownForm().isNew()) newPatient.reset();
     editor->settle();
+    const bool wasListed = roster->isListed(store.getCurrentID());
     writer.loadAnew(record.ID);
+    if (wasListed) roster->showSelected(); // by another name it may stand elsewhere
     // What was not changed here, another program may have changed.
     const PatientEntry kept = formOf(record.ID).entryOf();
     const PatientEntry meant = keepTyped(wanted, before.entryOf(), kept);

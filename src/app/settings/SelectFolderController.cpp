@@ -1,9 +1,11 @@
 #include "app/settings/SelectFolderController.h"
 
 #include "app/settings/ImportFileDialog.h"
+#include "store/ViewMemory.h"
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -11,28 +13,40 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
-SelectFolderController::SelectFolderController()
-    : folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+SelectFolderController::SelectFolderController(ViewMemory* memory)
+    : lastFolder(memory), folder(memory ? memory->value(u"folder"_s).toString() : QString()) {
+    if (!QDir::isAbsolutePath(folder))
+        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     // Qt's dialogs write down which folders were chosen; some are named after patients.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
 }
 
-QString SelectFolderController::chooseFolder(QWidget* owner, const QString& title) {
+/// Looked for when it is needed: a share that does not answer is no reason for the program not to start.
+void SelectFolderController::find() {
     if (!QDir(folder).exists()) folder = QDir::homePath();
+}
+
+void SelectFolderController::moveTo(const QString& chosen) {
+    folder = chosen;
+    if (lastFolder) lastFolder->set(u"folder"_s, folder);
+}
+
+QString SelectFolderController::chooseFolder(QWidget* owner, const QString& title) {
+    find();
     // Files are shown too: the user sees what is there already.
     QString chosen = QFileDialog::getExistingDirectory(owner, title, folder, {});
-    if (!chosen.isEmpty()) folder = chosen;
+    if (!chosen.isEmpty()) moveTo(chosen);
     return chosen;
 }
 
 QStringList SelectFolderController::chooseFiles(QWidget* owner) {
-    if (!QDir(folder).exists()) folder = QDir::homePath();
+    find();
     ImportFileDialog dialog(*this, folder, owner);
     return dialog.exec() == QDialog::Accepted ? dialog.chosenFiles() : QStringList();
 }
 
 QString SelectFolderController::choosePdf(QWidget* owner, const QString& title, const QString& name) {
-    if (!QDir(folder).exists()) folder = QDir::homePath();
+    find();
     QFileDialog dialog(owner, title, folder, qtTrId("pdfFiles"));
     dialog.setOption(
         QFileDialog::DontUseNativeDialog); // a desktop's own would list the file, named after the patient
@@ -40,8 +54,9 @@ QString SelectFolderController::choosePdf(QWidget* owner, const QString& title, 
     dialog.setDefaultSuffix(u"pdf"_s); // before it asks about a file that is there
     dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted) return {};
-    folder = dialog.directory().absolutePath();
-    return dialog.selectedFiles().value(0);
+    const QString chosen = dialog.selectedFiles().value(0);
+    if (!chosen.isEmpty()) moveTo(QFileInfo(chosen).absolutePath()); // also of a path that was typed
+    return chosen;
 }
 
 } // namespace zel

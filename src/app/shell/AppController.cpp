@@ -16,6 +16,7 @@
 #include "app/shell/SplashWindow.h"
 #include "app/shell/UndoController.h"
 #include "app/shell/UnsavedFile.h"
+#include "app/shell/ViewKeeper.h"
 #include "app/shell/WindowPlacement.h"
 #include "app/table/TableViewController.h"
 #include "app/widgets/Log.h"
@@ -73,6 +74,9 @@ AppController::AppController(const Parts& needed, const Timing& times)
     });
     connectDataWatch();
     follower = new PeriodFollower(parts.store, parts.period, this);
+    if (parts.memory)
+        viewKeeper.reset(new ViewKeeper({*parts.memory, window, parts.store, parts.period, *follower,
+                                         *patientPage, *graphPage, *tablePage}));
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::demonstrationWanted, this,
@@ -114,6 +118,17 @@ void AppController::awakeFromNib(const StoreResult& loaded) {
     window.setWindowTitle(qtTrId("AP_Title"));
     if (parts.demonstration.isOn) markAsDemonstration(window, parts.store);
     window.setMinimumSize(leastSize(window.screen()->availableSize()));
+    takeUpView();
+}
+
+/// What was typed when the program was ended the last time is offered on the page that comes first.
+void AppController::takeUpView() {
+    if (!viewKeeper) return;
+    viewKeeper->restoreWindow();
+    if (!UnsavedFile(parts.store.getZELXMLPath()).read().isEmpty()) return;
+    const auto page = std::ranges::find(pages, viewKeeper->restorePatient(), &PageController::objectName);
+    if (page == pages.end() || parts.store.getPatientArray().empty()) return;
+    changeTab(static_cast<int>(page - pages.begin()));
 }
 
 void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
@@ -457,6 +472,7 @@ bool AppController::isSettled(const QJsonObject& draft) {
 
 void AppController::end() {
     isClosing = true;
+    if (viewKeeper) viewKeeper->keep(pageInView().objectName());
     parts.monitor.stop();
     emit closed();
 }

@@ -14,6 +14,7 @@
 #include <array>
 #include <chrono>
 #include <functional>
+#include <memory>
 
 namespace zel {
 
@@ -31,6 +32,8 @@ class SettingController;
 class SplashWindow;
 class TableViewController;
 class UndoController;
+class ViewKeeper;
+class ViewMemory;
 struct StepName;
 enum class PrintPurpose;
 struct DownloadOutcome;
@@ -53,7 +56,8 @@ public:
         DisplayPeriod& period;
         Printers& printers;
         DocumentOpener openDocument;
-        QString languageFile; ///< of the user's choice
+        QString languageFile;         ///< of the user's choice
+        ViewMemory* memory = nullptr; ///< how the window was left; none: nothing is remembered
         Demonstration demonstration{};
     };
     struct Timing {
@@ -113,6 +117,7 @@ private:
     void tellNotBackedUp(const QString& why);
     void keepUnsaved();
     void offerUnsaved();
+    void takeUpView();
     [[nodiscard]] bool isSettled(const QJsonObject& draft);
     [[nodiscard]] bool isEdited() const;
     void tellReplaced(const QString& name);
@@ -134,6 +139,7 @@ private:
     std::array<PageController*, MainWindow::tabTotal> pages;
     PeriodFollower* follower = nullptr;
     UndoController* undoer = nullptr;
+    std::unique_ptr<ViewKeeper> viewKeeper; ///< if anything is remembered
     BackupCourier* courier = nullptr;
     MonitorOffers* offers = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept

@@ -10,6 +10,7 @@
 #include "store/LanguageChoice.h"
 #include "store/Languages.h"
 #include "store/SystemLog.h"
+#include "store/ViewMemory.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -32,7 +33,8 @@ constexpr int failed = 1, wrongUsage = 2;
 struct Options {
     bool simulatedMonitor = false;
     bool demonstration = false;
-    QString planFile{}; ///< empty: the built-in monitor
+    QString planFile{};      ///< empty: the built-in monitor
+    bool resetsView = false; ///< begins as at the first start
     const Language* language = nullptr;
 };
 
@@ -48,11 +50,14 @@ tl::expected<Options, QString> parse(const QStringList& arguments) {
     QStringList withValue = arguments;
     withValue.removeAll(option);
     QCommandLineParser parser;
+    const QString resetView = u"reset-view"_s;
     parser.addOption({option.mid(2).toString(), QString(), u"FILE"_s});
     parser.addOption({u"demonstration"_s, QString()});
+    parser.addOption(QCommandLineOption(resetView));
     if (!parser.parse(withValue)) return tl::unexpected(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
         return tl::unexpected(qtTrId("argumentUnknown").arg(parser.positionalArguments().first()));
+    options.resetsView = parser.isSet(resetView);
     if (parser.isSet(option.mid(2).toString())) {
         options.planFile = parser.value(option.mid(2).toString());
         if (options.planFile.isEmpty()) return tl::unexpected(qtTrId("argumentWithoutFile").arg(option));
@@ -101,13 +106,19 @@ tl::expected<std::unique_ptr<MonitorPort>, QString> makePort(const Options& opti
 constexpr std::chrono::milliseconds longestCall{2500};
 
 /// \return how the program ends, if it is not to go on
-std::optional<int> giveWayToFirst(FirstWindow& window, const QVariantMap& token) {
+std::optional<int> giveWayToFirst(FirstWindow& window, const QVariantMap& token, bool resetsView) {
     const FirstWindow::Outcome outcome = window.claim(token, longestCall);
-    if (outcome == FirstWindow::Outcome::shown) return complain(0, qtTrId("windowShown"));
+    if (outcome == FirstWindow::Outcome::shown)
+        return resetsView ? complain(failed, qtTrId("windowNotReset")) : complain(0, qtTrId("windowShown"));
     if (outcome != FirstWindow::Outcome::silent) return std::nullopt;
     // Both can be used side by side: each change is merged into the file.
     if (MessageBoxPanel{}.AskMessage(qtTrId("windowSilent"), qtTrId("AP_Title"))) return std::nullopt;
     return failed;
+}
+
+void forgetView(const StorePaths& paths, const QString& dataFile) {
+    const QString file = viewMemoryFile(paths.home, dataFile);
+    if (!ViewMemory(file).forget()) complain(failed, qtTrId("windowNotForgotten").arg(file));
 }
 
 } // namespace
@@ -138,11 +149,13 @@ int runApplication(int argc, char** argv) {
                            .applicationFolder =
                                options->demonstration ? *home : QCoreApplication::applicationDirPath(),
                            .templateFolder = u":/templates"_s};
-    FirstWindow firstWindow(runningSessionBus(), DataFile(paths, clock).getZELXMLPath());
+    const QString dataFile = DataFile(paths, clock).getZELXMLPath();
+    FirstWindow firstWindow(runningSessionBus(), dataFile);
     const auto leave = QObject::connect(&termination, &TerminationSignals::terminated, &application,
                                         [] { QCoreApplication::exit(0); });
-    if (const auto status = giveWayToFirst(firstWindow, token)) return *status;
+    if (const auto status = giveWayToFirst(firstWindow, token, options->resetsView)) return *status;
     QObject::disconnect(leave);
+    if (options->resetsView) forgetView(paths, dataFile);
 
     const AppController::Demonstration another{.start = [person] { return startDemonstration(person); }};
     GlobalVar global(paths, std::move(*port), clock, {},

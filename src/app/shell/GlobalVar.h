@@ -8,6 +8,7 @@
 #include "app/widgets/MessageBoxPanel.h"
 #include "store/DataStore.h"
 #include "store/LanguageChoice.h"
+#include "store/ViewMemory.h"
 
 #include <memory>
 
@@ -22,16 +23,18 @@ public:
               const AppController::Demonstration& demonstration = {}, const QString& personHome = {})
         : port(std::move(monitorPort)),
           languagePath(languageFile(personHome.isEmpty() ? paths.home : personHome)),
-          store(std::move(paths), clock), loaded(store.load()), monitor(*port, clock),
+          memory(viewMemoryFile(paths.home, DataFile(paths, clock).getZELXMLPath())),
+          store(std::move(paths), clock), loaded(store.load()), monitor(*port, clock), chooser(&memory),
           period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
           appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop,
-                         languagePath, demonstration},
+                         languagePath, &memory, demonstration},
                         timing) {
         panel.setWindow(&appController.mainWndow());
     }
 
     std::unique_ptr<MonitorPort> port;
     QString languagePath;
+    ViewMemory memory; ///< read once, and written at the end
     DataStore store;
     StoreResult loaded; ///< how the data file was loaded at start
     MonitorStatus status;

@@ -105,7 +105,7 @@ void ReadingTableItemView::drawBackground(QPainter& painter, const QStyleOptionV
         if (view.columnViewportPosition(index.column()) == -view.horizontalHeader()->offset())
             painter.fillRect(QRect(option.rect.topLeft(), QSize(accent, option.rect.height())), highlight);
     }
-    if (row.bDrawTopLine)
+    if (model.beginsDay(index.row()))
         painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), Qt::black);
     if (view.hasFocus() && index.row() == view.currentIndex().row())
         painter.fillRect(QRect(option.rect.left(), option.rect.bottom() - 1, option.rect.width(), 2),
@@ -116,7 +116,7 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
     const ReadingModel& row = model.row(index.row());
     const int column = index.column();
     if (column == ReadingTableModel::comment) drawComment(painter, cell, index);
-    if (row.isNA && column != ReadingTableModel::date) return drawPlaceholder(painter, cell);
+    if (row.isNA && column != ReadingTableModel::date) return drawPlaceholder(painter, cell, column);
     if (column == ReadingTableModel::comment) return;
     if (row.isExcluded()) strikeThrough(painter, cell);
     if (column == ReadingTableModel::mam || column == ReadingTableModel::mark)
@@ -140,8 +140,7 @@ void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, con
         return painter.drawPath(band(cell, true, true, width));
     }
     const bool isFirst = model.beginsComment(index.row());
-    const bool isLast =
-        index.row() + 1 == model.rowCount() || model.row(index.row() + 1).comment != row.comment;
+    const bool isLast = model.endsComment(index.row());
     const bool isChosen = isSelected(*row.comment);
     painter.setPen(QPen(isChosen ? Qt::black : Qt::darkGray, isChosen ? 2 : 0.5));
     painter.setBrush(getCommentColor(static_cast<int>(row.comment->degree), true));
@@ -153,10 +152,13 @@ void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, con
     drawWords(painter, beside, index.data().toString(), false);
 }
 
-/// The words end at half the row's width, whichever columns lie there.
-void ReadingTableItemView::drawPlaceholder(QPainter& painter, const QRect& cell) const {
+/// The words end at half the row's width, whichever columns lie there. Where columns have been moved, the
+/// date might lie there: then they stand in the first value's.
+void ReadingTableItemView::drawPlaceholder(QPainter& painter, const QRect& cell, int column) const {
     const auto attribute = getTextAttribute(6);
     if (attribute) painter.setFont(attribute->font());
+    if (view.horizontalHeader()->sectionsMoved())
+        return column == ReadingTableModel::sys ? drawWords(painter, cell, qtTrId("noValue"), true) : void();
     const int half = view.horizontalHeader()->length() / 2 - view.horizontalHeader()->offset();
     painter.setPen(Qt::black);
     painter.drawText(QRect(half - view.width(), cell.top(), view.width(), cell.height()),

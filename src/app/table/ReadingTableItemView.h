@@ -22,7 +22,7 @@ private:
                         const QModelIndex& index) const;
     void drawCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
     void drawComment(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
-    void drawPlaceholder(QPainter& painter, const QRect& cell) const;
+    void drawPlaceholder(QPainter& painter, const QRect& cell, int column) const;
     [[nodiscard]] bool isSelected(const CommentModel& comment) const;
 
     const ReadingTableModel& model;

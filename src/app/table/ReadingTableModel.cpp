@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <numeric>
 #include <unordered_map>
 
 namespace zel {
@@ -26,6 +28,17 @@ ReadingModel copyOf(const ReadingRow& row, const Comments& copies) {
     copy.bDrawTopLine = row.bDrawTopLine;
     copy.bYellowBackground = row.bYellowBackground;
     return copy;
+}
+
+/// None where the monitor's model cannot tell, 0 for no finding.
+std::optional<std::int64_t> findingOf(const ReadingModel& reading) {
+    switch (reading.Arrhythmia) {
+    case 1:
+    case 4: return 0;
+    case 2:
+    case 5: return 1;
+    default: return std::nullopt;
+    }
 }
 
 QString oneLine(const QString& text) { return text.simplified(); }
@@ -52,7 +65,63 @@ void ReadingTableModel::reload(const ReadingSelection& selection) {
     anyAFib = list.isAFib;
     anyPad = list.isPad;
     cut = describeCut(list);
+    putInOrder();
     endResetModel();
+}
+
+SortKeys ReadingTableModel::keys() const {
+    using Key = std::optional<std::int64_t>;
+    switch (static_cast<Column>(sortedBy)) {
+    case time:
+        return keysOf(
+            rows, [](const ReadingModel& each) { return each.isUndated() ? Key() : Key(each.minuteOfDay); });
+    case sys: return keysOf(rows, [](const ReadingModel& each) { return Key(each.sys); });
+    case dia: return keysOf(rows, [](const ReadingModel& each) { return Key(each.dia); });
+    case pulse: return keysOf(rows, [](const ReadingModel& each) { return Key(each.pulse); });
+    case mapOrPP:
+        if (store.getSetting().showPPorMap == 0)
+            return keysOf(rows, [](const ReadingModel& each) { return Key(each.pp); });
+        return keysOf(rows, [](const ReadingModel& each) { return Key(each.map); });
+    case mam: return keysOf(rows, [](const ReadingModel& each) { return Key(each.mam == 1 ? 1 : 0); });
+    case mark: return keysOf(rows, findingOf);
+    default: break;
+    }
+    std::vector<QString> texts;
+    texts.reserve(rows.size());
+    for (const ReadingModel& each : rows)
+        texts.push_back(text(each, comment));
+    return keysOf(texts);
+}
+
+void ReadingTableModel::putInOrder() {
+    if (sortedBy != date) {
+        places = placesInOrder(keys(), order == Qt::DescendingOrder);
+        return;
+    }
+    places.resize(rows.size());
+    std::iota(places.begin(), places.end(), 0);
+    if (order == Qt::DescendingOrder) std::ranges::reverse(places);
+}
+
+void ReadingTableModel::sort(int column, Qt::SortOrder wanted) {
+    if (column < 0 || column >= columnTotal || (column == sortedBy && wanted == order)) return;
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const std::vector<int> before = places;
+    sortedBy = column;
+    order = wanted;
+    putInOrder();
+    std::vector<int> shown(places.size()); // where each of the rows is shown now
+    for (std::size_t number = 0; number < places.size(); ++number)
+        shown[static_cast<std::size_t>(places[number])] = static_cast<int>(number);
+    const QModelIndexList kept = persistentIndexList();
+    QModelIndexList moved;
+    moved.reserve(kept.size());
+    for (const QModelIndex& each : kept) {
+        const int place = before[static_cast<std::size_t>(each.row())];
+        moved += index(shown[static_cast<std::size_t>(place)], each.column());
+    }
+    changePersistentIndexList(kept, moved);
+    emit layoutChanged({}, VerticalSortHint);
 }
 
 int ReadingTableModel::rowCount(const QModelIndex& parent) const {
@@ -64,11 +133,20 @@ int ReadingTableModel::columnCount(const QModelIndex& parent) const {
 }
 
 const ReadingModel& ReadingTableModel::row(int number) const {
-    return rows.at(static_cast<std::size_t>(number));
+    return rows.at(static_cast<std::size_t>(places.at(static_cast<std::size_t>(number))));
 }
 
 bool ReadingTableModel::beginsComment(int number) const {
     return row(number).comment && (number == 0 || row(number - 1).comment != row(number).comment);
+}
+
+bool ReadingTableModel::endsComment(int number) const {
+    return row(number).comment
+           && (number + 1 == rowCount() || row(number + 1).comment != row(number).comment);
+}
+
+bool ReadingTableModel::beginsDay(int number) const {
+    return sortedBy == date && number > 0 && row(number).day != row(number - 1).day;
 }
 
 QVariant ReadingTableModel::data(const QModelIndex& index, int role) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/ReadingSelection.h"
+#include "app/table/ReadingOrder.h"
 #include "store/DataStore.h"
 
 #include <QAbstractTableModel>
@@ -22,6 +23,12 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    /// By date ascending, as the list comes, by its days and times, or by what stands in another column: rows
+    /// with nothing there come last. Persistent indexes stay with their readings. Kept with every load.
+    void sort(int column, Qt::SortOrder wanted = Qt::AscendingOrder) override;
+    /// The latest reading is the last row.
+    [[nodiscard]] bool isByDate() const { return sortedBy == date && order == Qt::AscendingOrder; }
+
     /// Assembles the list anew. Nothing of the store is kept.
     void reload(const ReadingSelection& selection);
     [[nodiscard]] bool isAFib() const { return anyAFib; } ///< some reading of the list is from such a model
@@ -31,9 +38,13 @@ public:
     void setMarkTitle(const QString& title);
     /// The settings or the limits may have changed, on which texts and titles depend.
     void refreshTexts();
+    /// Rows are numbered as they are shown.
     [[nodiscard]] const ReadingModel& row(int number) const;
-    /// The row is the first of its comment's.
+    /// The row is the first of its comment's, or the last, among those that follow each other.
     [[nodiscard]] bool beginsComment(int number) const;
+    [[nodiscard]] bool endsComment(int number) const;
+    /// Another day begins with the row; where days do not follow each other there is no such thing.
+    [[nodiscard]] bool beginsDay(int number) const;
     /// The cell is a pressure at or above the limit that values are marked from.
     [[nodiscard]] bool isHigh(const QModelIndex& index) const;
     /// The comment of a reading on one line, without what else stands in its column.
@@ -45,9 +56,14 @@ private:
     [[nodiscard]] static QString toolTip(const ReadingModel& reading, Column column);
     [[nodiscard]] QString text(const ReadingModel& reading, Column column) const;
     [[nodiscard]] QString spoken(const QModelIndex& index) const;
+    [[nodiscard]] SortKeys keys() const;
+    void putInOrder();
 
     const DataStore& store;
-    std::vector<ReadingModel> rows;
+    std::vector<ReadingModel> rows; ///< by date
+    std::vector<int> places;        ///< in rows, of those that are shown one below the other
+    int sortedBy = date;
+    Qt::SortOrder order = Qt::AscendingOrder;
     std::vector<CommentModel> comments; ///< that the rows point at
     QString markTitle;
     QString cut;

@@ -6,6 +6,7 @@
 #include "app/frame/ReadingFrame.h"
 #include "app/table/KeptSelection.h"
 #include "app/table/LimitBar.h"
+#include "app/table/ReadingColumns.h"
 #include "app/table/ReadingTableItemView.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/widgets/EmptyState.h"
@@ -25,7 +26,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace zel {
@@ -33,8 +33,6 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int padding = 18; ///< of a cell, both sides
-
 /// The table gives way to the lines below it, however many they are.
 class ListPage final : public QWidget {
 public:
@@ -97,37 +95,12 @@ void TableViewController::dressReadings() {
     QPalette paper = tblReadings->palette();
     paper.setColor(QPalette::Base, Qt::white);
     tblReadings->setPalette(paper);
-    QHeaderView* columns = tblReadings->horizontalHeader();
-    columns->setSectionResizeMode(QHeaderView::Fixed);
-    columns->setSectionResizeMode(ReadingTableModel::comment, QHeaderView::Stretch);
-    columns->setMinimumSectionSize(tblReadings->fontMetrics().averageCharWidth() * 8);
+    arrangement = new ReadingColumns(*tblReadings);
+    connect(arrangement, &ReadingColumns::sorted, this, &TableViewController::followSorting);
     tblReadings->installEventFilter(this);
     connect(tblReadings, &QTableView::clicked, this, &TableViewController::chooseComment);
     connect(tblReadings->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &TableViewController::refreshTable); // the line under the row that the keys move
-}
-
-/// No narrower than their texts. In a wide table the comments begin beyond the middle, where a day without a
-/// reading has its "n.a.".
-void TableViewController::layOutColumns() {
-    const QFontMetrics metrics = tblReadings->fontMetrics();
-    std::array<int, ReadingTableModel::comment> widths{};
-    widths.fill(metrics.horizontalAdvance(u"00000"_s) + padding);
-    widths[ReadingTableModel::date] = metrics.horizontalAdvance(u"00/00/0000"_s) + padding;
-    for (const QString& time : {qtTrId("%1 A"), qtTrId("%1 P")})
-        widths[ReadingTableModel::time] = std::max(widths[ReadingTableModel::time],
-                                                   metrics.horizontalAdvance(time.arg(u"00:00"_s)) + padding);
-    for (int column = 0; column < ReadingTableModel::comment; ++column) {
-        const QString title = tblReadings->model()->headerData(column, Qt::Horizontal).toString();
-        int& width = widths.at(static_cast<std::size_t>(column));
-        width = std::max(width, metrics.size(0, title).width() + padding);
-    }
-    int total = 0;
-    for (int column = 0; column < ReadingTableModel::comment; ++column)
-        if (!tblReadings->isColumnHidden(column)) total += widths.at(static_cast<std::size_t>(column));
-    const int wanted = std::max(total, tblReadings->width() / 2);
-    for (int column = 0; column < ReadingTableModel::comment; ++column)
-        tblReadings->setColumnWidth(column, widths.at(static_cast<std::size_t>(column)) * wanted / total);
 }
 
 void TableViewController::addBoxes() {
@@ -136,7 +109,7 @@ void TableViewController::addBoxes() {
         box->setChecked(true);
         connect(box, &QCheckBox::toggled, tblReadings, [this, column](bool shown) {
             tblReadings->setColumnHidden(column, !shown);
-            layOutColumns();
+            arrangement->layOut();
         });
         frame->periodBar().addOption(*box);
     };
@@ -192,7 +165,7 @@ void TableViewController::reload() {
     listOrAdvice->setCurrentWidget(shown);
     if (isSamePatient) kept.restore(*tblReadings, *readingModelArray);
     tblReadings->scrollToBottom(); // lays the rows out, too
-    if (!wasAtEnd) scrolled.setValue(value);
+    if (!wasAtEnd || !readingModelArray->isByDate()) scrolled.setValue(value);
     readingActions->update();
     setPadTitle();
 }
@@ -202,7 +175,23 @@ void TableViewController::LoadData() {
     frame->LoadData();
     reload();
     // The latest reading is what people come for; the table gets its size after this.
-    QMetaObject::invokeMethod(tblReadings, "scrollToBottom", Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &TableViewController::showMostWanted, Qt::QueuedConnection);
+}
+
+/// In another order than by date it is what stands first.
+void TableViewController::showMostWanted() {
+    if (readingModelArray->isByDate())
+        tblReadings->scrollToBottom();
+    else
+        tblReadings->scrollToTop();
+}
+
+/// Who has chosen a reading goes on to see it.
+void TableViewController::followSorting() {
+    if (tblReadings->selectionModel()->hasSelection())
+        tblReadings->scrollTo(tblReadings->currentIndex());
+    else
+        showMostWanted();
 }
 
 void TableViewController::UpdateUIBySetting() {
@@ -270,13 +259,15 @@ void TableViewController::copyRows() {
         rows.push_back(row.row());
     if (rows.empty()) return;
     std::ranges::sort(rows);
-    for (int column = 0; column < ReadingTableModel::columnTotal; ++column)
+    for (int place = 0; place < ReadingTableModel::columnTotal; ++place) {
+        const int column = tblReadings->horizontalHeader()->logicalIndex(place);
         if (!tblReadings->isColumnHidden(column)) columns.push_back(column);
+    }
     QGuiApplication::clipboard()->setText(tabSeparated(*readingModelArray, rows, columns));
 }
 
 bool TableViewController::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize) layOutColumns();
+    if (event->type() == QEvent::Resize) arrangement->layOut();
     if (event->type() != QEvent::KeyPress) return PageController::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)

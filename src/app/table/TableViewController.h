@@ -13,6 +13,7 @@ class QTableView;
 namespace zel {
 
 class EmptyState;
+class ReadingColumns;
 class ReadingActions;
 class ReadingFrame;
 class ReadingTableModel;
@@ -45,6 +46,8 @@ public:
     void refreshTable();
     [[nodiscard]] bool getShowMam() const; ///< the columns are shown
     [[nodiscard]] bool getShowPad() const;
+    /// How the user has arranged the list.
+    [[nodiscard]] ReadingColumns& columns() { return *arrangement; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -52,7 +55,8 @@ protected:
 private:
     void build();
     void dressReadings();
-    void layOutColumns();
+    void showMostWanted();
+    void followSorting();
     void addBoxes();
     void addActions();
     void reload();
@@ -63,6 +67,7 @@ private:
     Parts parts;
     ReadingTableModel* readingModelArray;
     QTableView* tblReadings;
+    ReadingColumns* arrangement = nullptr; ///< of its columns
     EmptyState* noReadings;
     EmptyState* noneInPeriod;
     QWidget* list; ///< with what its marks mean

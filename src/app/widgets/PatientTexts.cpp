@@ -6,6 +6,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The earliest and the latest dated reading; null when no reading is dated.
@@ -62,6 +64,17 @@ QString shortName(const PatientModel& patient) {
     const QString name =
         TrimStr(qtTrId("fullName").arg(shortText(patient.GivenNames), shortText(patient.FamilyName)));
     return name.isEmpty() ? qtTrId("NewPatient") : name;
+}
+
+QString listedName(const PatientModel& patient) {
+    QStringList names{TrimStr(patient.FamilyName), TrimStr(patient.GivenNames)};
+    names.removeAll(QString());
+    return names.join(", "_L1);
+}
+
+QString birthText(const PatientModel& patient, const SettingModel& settings) {
+    const Date& birth = patient.DateOfBirth;
+    return isNilDate(birth) ? QString() : DateToStr(birth, settings.getDateFormat());
 }
 
 QString readingSummary(const DataStore& store) {

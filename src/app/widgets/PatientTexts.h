@@ -15,6 +15,10 @@ namespace zel {
 [[nodiscard]] QString shortText(const QString& text, int longest = 40);
 /// Given names and family name, or words for a new patient that has none yet; short.
 [[nodiscard]] QString shortName(const PatientModel& patient);
+/// "Adams, Kim", as a list of names has it; without the comma where one of the two is missing.
+[[nodiscard]] QString listedName(const PatientModel& patient);
+/// The date of birth as the settings have dates; empty when it is not known.
+[[nodiscard]] QString birthText(const PatientModel& patient, const SettingModel& settings);
 /// How many readings the current patient has, and from when to when.
 [[nodiscard]] QString readingSummary(const DataStore& store);
 

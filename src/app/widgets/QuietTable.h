@@ -6,7 +6,7 @@ namespace zel {
 
 /// Its current cell has the focus only while the table has it: one that is filled behind another page says
 /// nothing to screen readers, as Qt's own would.
-class QuietTable final : public QTableView {
+class QuietTable : public QTableView {
 public:
     using QTableView::QTableView;
 

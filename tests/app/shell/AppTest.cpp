@@ -21,7 +21,7 @@ void AppTest::launch(AppController::Timing timing) {
     };
     app = std::make_unique<AppController>(AppController::Parts{store, status, *worker, panel, clock, chooser,
                                                                period, printers, open,
-                                                               languageFile(home.path()), demonstration},
+                                                               languageFile(home.path()), memory.get(), demonstration},
                                           timing);
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shell/AppController.h"
+#include "store/ViewMemory.h"
 #include "support/MonitorTest.h"
 #include "support/ScriptedChooser.h"
 #include "support/ScriptedPrinters.h"
@@ -31,6 +32,7 @@ protected:
     bool hasViewer = true;
     AppController::Demonstration demonstration; ///< none to be started unless told
     DisplayPeriod period{std::chrono::floor<std::chrono::milliseconds>(clock.now())};
+    std::unique_ptr<ViewMemory> memory; ///< none unless a test makes one
     std::unique_ptr<AppController> app;
 };
 
