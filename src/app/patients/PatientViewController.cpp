@@ -32,6 +32,7 @@ PatientViewController::PatientViewController(const Parts& needed)
     build();
     connect(&store, &DataStore::reloaded, this, &PatientViewController::reload);
     connect(&parts.status, &MonitorStatus::changed, this, &PatientViewController::enableButtons);
+    connect(editor, &PatientEditor::changed, this, [this] { buttons->enableSave(isEdited()); });
     connect(sender, &PatientIDSender::sent, this, &PatientViewController::updateUIWanted);
     // A question is asked when the click or key that chose the patient is over, not in its midst.
     connect(roster, &PatientRoster::wanted, this, [this] {
@@ -76,6 +77,7 @@ PatientButtons* PatientViewController::makeButtons() {
     connect(made, &PatientButtons::downloadWanted, this, [this] {
         if (leave()) emit dataTransferWanted();
     });
+    connect(made, &PatientButtons::focusLost, roster, [this] { roster->setFocus(); });
     return made;
 }
 
@@ -366,6 +368,7 @@ bool PatientViewController::canSendID() const {
 void PatientViewController::enableButtons() {
     const bool isAnyone = isThere(store.getCurrentID());
     buttons->enable({.change = isAnyone, .sendID = canSendID(), .download = CanDataTransfer()});
+    buttons->enableSave(isEdited());
 }
 
 void PatientViewController::sendID() { sender->sendID(store.getCurrentID()); }

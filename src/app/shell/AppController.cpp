@@ -218,7 +218,7 @@ void AppController::showPageInView() {
 }
 
 void AppController::savePatient() {
-    if (patientPage->isVisible()) patientPage->btnSavePatient();
+    if (patientPage->isVisible() && patientPage->isEdited()) patientPage->btnSavePatient();
 }
 
 void AppController::enable2Tabs(bool enabled) { window.enable2Tabs(enabled); }
