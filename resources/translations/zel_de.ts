@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Datei</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Patient</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Puls
 1/min</translation></message>
     <message id="columnReadings"><translation>Messungen</translation></message>
+    <message id="columnState"><translation>Zustand</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Uhrzeit</translation></message>
@@ -398,7 +400,10 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fieldSmoker"><translation>Rauchen</translation></message>
     <message id="fieldWeightKg"><translation>Gewicht (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Gewicht (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>schon vorhanden</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Ein Patient mit dieser ID steht schon in der Liste; ein Import würde abgelehnt.</translation></message>
     <message id="fileBeingRead"><translation>wird gelesen …</translation></message>
+    <message id="fileNotImportable"><translation>nicht importierbar</translation></message>
     <message id="fileNotReadable"><translation>nicht lesbar</translation></message>
     <message id="fileTooLargeToCount"><translation>über 64 MiB: nicht gezählt</translation></message>
     <message id="heightRefusedCm"><translation>Bitte geben Sie eine Zahl von 20 bis 300 cm ein, z. B. 175.</translation></message>

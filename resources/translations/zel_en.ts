@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>File</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Patient</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Pulse
 1/min</translation></message>
     <message id="columnReadings"><translation>Readings</translation></message>
+    <message id="columnState"><translation>State</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Time</translation></message>
@@ -398,7 +400,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fieldSmoker"><translation>Smoker</translation></message>
     <message id="fieldWeightKg"><translation>Weight (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Weight (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>already here</translation></message>
+    <message id="fileAlreadyHereHint"><translation>A patient with this ID is in the list already, and an import would be refused.</translation></message>
     <message id="fileBeingRead"><translation>reading …</translation></message>
+    <message id="fileNotImportable"><translation>cannot be imported</translation></message>
     <message id="fileNotReadable"><translation>not readable</translation></message>
     <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
     <message id="heightRefusedCm"><translation>Please give a number of 20 to 300 cm, such as 175.</translation></message>

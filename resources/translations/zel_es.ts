@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Archivo</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Paciente</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Pulso
 lpm</translation></message>
     <message id="columnReadings"><translation>Mediciones</translation></message>
+    <message id="columnState"><translation>Estado</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Hora</translation></message>
@@ -398,7 +400,10 @@ mmHg</translation></message>
     <message id="fieldSmoker"><translation>Fumador/a</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Peso (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>ya está aquí</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Ya hay en la lista un paciente con este ID; la importación se rechazaría.</translation></message>
     <message id="fileBeingRead"><translation>leyendo…</translation></message>
+    <message id="fileNotImportable"><translation>no se puede importar</translation></message>
     <message id="fileNotReadable"><translation>no legible</translation></message>
     <message id="fileTooLargeToCount"><translation>más de 64 MiB: sin contar</translation></message>
     <message id="heightRefusedCm"><translation>Indique un número de 20 a 300 cm, por ejemplo 175.</translation></message>

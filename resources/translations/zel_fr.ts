@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Fichier</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Patient</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Pouls
 bpm</translation></message>
     <message id="columnReadings"><translation>Mesures</translation></message>
+    <message id="columnState"><translation>État</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Heure</translation></message>
@@ -398,7 +400,10 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fieldSmoker"><translation>Tabagisme</translation></message>
     <message id="fieldWeightKg"><translation>Poids (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Poids (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>déjà présent</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Un patient avec cet ID figure déjà dans la liste ; l’import serait refusé.</translation></message>
     <message id="fileBeingRead"><translation>lecture…</translation></message>
+    <message id="fileNotImportable"><translation>impossible à importer</translation></message>
     <message id="fileNotReadable"><translation>illisible</translation></message>
     <message id="fileTooLargeToCount"><translation>plus de 64 Mio : non compté</translation></message>
     <message id="heightRefusedCm"><translation>Veuillez indiquer un nombre compris entre 20 et 300 cm, par exemple 175.</translation></message>

@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>File</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Paziente</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Polso
 bpm</translation></message>
     <message id="columnReadings"><translation>Misurazioni</translation></message>
+    <message id="columnState"><translation>Stato</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Ora</translation></message>
@@ -398,7 +400,10 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fieldSmoker"><translation>Fumo</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Peso (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>già presente</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Un paziente con questo ID è già nell’elenco e l’importazione verrebbe rifiutata.</translation></message>
     <message id="fileBeingRead"><translation>lettura…</translation></message>
+    <message id="fileNotImportable"><translation>non importabile</translation></message>
     <message id="fileNotReadable"><translation>non leggibile</translation></message>
     <message id="fileTooLargeToCount"><translation>oltre 64 MiB: non contato</translation></message>
     <message id="heightRefusedCm"><translation>Indicare un numero da 20 a 300 cm, per esempio 175.</translation></message>

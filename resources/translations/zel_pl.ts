@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Plik</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Pacjent</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Tętno
 1/min</translation></message>
     <message id="columnReadings"><translation>Pomiary</translation></message>
+    <message id="columnState"><translation>Stan</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Godzina</translation></message>
@@ -398,7 +400,10 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fieldSmoker"><translation>Palenie tytoniu</translation></message>
     <message id="fieldWeightKg"><translation>Masa ciała (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Masa ciała (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>już tu jest</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Pacjent o tym ID jest już na liście, więc import zostałby odrzucony.</translation></message>
     <message id="fileBeingRead"><translation>odczyt…</translation></message>
+    <message id="fileNotImportable"><translation>nie do zaimportowania</translation></message>
     <message id="fileNotReadable"><translation>nieczytelny</translation></message>
     <message id="fileTooLargeToCount"><translation>&gt; 64 MiB: nie policzono</translation></message>
     <message id="heightRefusedCm"><translation>Proszę podać liczbę od 20 do 300 cm, na przykład 175.</translation></message>

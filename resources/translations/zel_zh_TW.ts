@@ -281,11 +281,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>檔案</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>病患</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>脈搏
 次/分</translation></message>
     <message id="columnReadings"><translation>量測</translation></message>
+    <message id="columnState"><translation>狀態</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>時間</translation></message>
@@ -398,7 +400,10 @@ mmHg</translation></message>
     <message id="fieldSmoker"><translation>吸菸</translation></message>
     <message id="fieldWeightKg"><translation>體重 (kg)</translation></message>
     <message id="fieldWeightLb"><translation>體重 (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>已存在</translation></message>
+    <message id="fileAlreadyHereHint"><translation>清單中已有此 ID 的病患，匯入將被拒絕。</translation></message>
     <message id="fileBeingRead"><translation>讀取中…</translation></message>
+    <message id="fileNotImportable"><translation>無法匯入</translation></message>
     <message id="fileNotReadable"><translation>無法讀取</translation></message>
     <message id="fileTooLargeToCount"><translation>超過 64 MiB，未計算</translation></message>
     <message id="heightRefusedCm"><translation>請填寫 20 到 300 cm 的數字，例如 175。</translation></message>

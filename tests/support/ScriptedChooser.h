@@ -11,7 +11,7 @@ public:
         asked += title;
         return folder;
     }
-    QStringList chooseFiles(QWidget*) override {
+    QStringList chooseFiles(QWidget*, const ImportContext&) override {
         asked += QStringLiteral("files");
         return files;
     }

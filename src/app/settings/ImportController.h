@@ -39,6 +39,7 @@ signals:
     void imported(); ///< the data file holds new patients; emitted once for all files
 
 private:
+    [[nodiscard]] ImportContext context() const;
     void importOne(const QString& path);
     void finish(int notReached);
 

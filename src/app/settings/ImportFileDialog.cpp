@@ -45,8 +45,9 @@ private:
 
 } // namespace
 
-ImportFileDialog::ImportFileDialog(FileChooser& chooser, const QString& first, QWidget* parent)
-    : QDialog(parent), folders(chooser), files(new XmlFileList(this)), lblFolder(new QLabel(this)),
+ImportFileDialog::ImportFileDialog(FileChooser& chooser, const QString& first, const ImportContext& context,
+                                   QWidget* parent)
+    : QDialog(parent), folders(chooser), files(new XmlFileList(context, this)), lblFolder(new QLabel(this)),
       btnFolder(new QPushButton(qtTrId("importFolderButton"), this)), tblFiles(new QTableView(this)),
       noFiles(new EmptyState(u"noFiles"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       listOrAdvice(new QStackedWidget(this)), boxAll(new QCheckBox(qtTrId("importAll"), this)),
@@ -74,7 +75,7 @@ void ImportFileDialog::build() {
     column->addLayout(makeFolderRow());
     column->addWidget(listOrAdvice, 1);
     column->addWidget(makeButtons());
-    resize(fontMetrics().averageCharWidth() * 88, fontMetrics().height() * 24);
+    resize(fontMetrics().averageCharWidth() * 118, fontMetrics().height() * 24);
 }
 
 QHBoxLayout* ImportFileDialog::makeFolderRow() {
@@ -116,8 +117,8 @@ void ImportFileDialog::dressList() {
     QHeaderView* columns = tblFiles->horizontalHeader();
     const int character = tblFiles->fontMetrics().averageCharWidth();
     for (const auto& [column, width] :
-         {std::pair(XmlFileList::readings, 14), std::pair(XmlFileList::comments, 14),
-          std::pair(XmlFileList::date, 18)}) {
+         {std::pair(XmlFileList::readings, 13), std::pair(XmlFileList::comments, 14),
+          std::pair(XmlFileList::date, 15), std::pair(XmlFileList::state, 24)}) {
         columns->setSectionResizeMode(column, QHeaderView::Fixed);
         columns->resizeSection(column, width * character);
     }
@@ -135,7 +136,6 @@ void ImportFileDialog::setFolder(const QString& path) {
     files->setFolder(folder);
     const bool any = files->rowCount() > 0;
     listOrAdvice->setCurrentWidget(any ? static_cast<QWidget*>(tblFiles) : noFiles);
-    boxAll->setEnabled(any);
     if (any) tblFiles->setCurrentIndex(files->index(0, XmlFileList::name));
     (any ? static_cast<QWidget*>(tblFiles) : btnFolder)->setFocus();
     showFolder();
@@ -154,7 +154,8 @@ void ImportFileDialog::showChosen() {
     btnImport->setEnabled(chosen > 0);
     btnImport->setText(chosen > 0 ? qtTrId("importButtonFiles", chosen) : qtTrId("importButton"));
     btnImport->setAccessibleName(withoutMnemonic(btnImport->text()));
-    boxAll->setChecked(chosen > 0 && chosen == files->rowCount());
+    boxAll->setEnabled(files->isAnyForAll());
+    boxAll->setChecked(chosen > 0 && files->areAllChosen());
 }
 
 void ImportFileDialog::resizeEvent(QResizeEvent* event) {

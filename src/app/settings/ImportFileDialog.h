@@ -21,7 +21,8 @@ class ImportFileDialog final : public QDialog {
     Q_OBJECT
 public:
     /// \p folders is asked when the user wants another folder than \p folder.
-    ImportFileDialog(FileChooser& folders, const QString& folder, QWidget* parent);
+    ImportFileDialog(FileChooser& folders, const QString& folder, const ImportContext& context,
+                     QWidget* parent);
 
     [[nodiscard]] QStringList chosenFiles() const;
 

@@ -10,7 +10,7 @@ class SelectFolderController final : public FileChooser {
 public:
     SelectFolderController();
     [[nodiscard]] QString chooseFolder(QWidget* owner, const QString& title) override;
-    [[nodiscard]] QStringList chooseFiles(QWidget* owner) override;
+    [[nodiscard]] QStringList chooseFiles(QWidget* owner, const ImportContext& context) override;
     [[nodiscard]] QString choosePdf(QWidget* owner, const QString& title, const QString& name) override;
 
 private:
