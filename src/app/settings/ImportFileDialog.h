@@ -36,6 +36,8 @@ private:
     void dressList();
     void chooseFolder();
     void setFolder(const QString& path);
+    void setFiles(const ImportContext& context);
+    void beginList();
     void showFolder();
     void showChosen();
 
@@ -43,6 +45,7 @@ private:
     QString folder;
     XmlFileList* files;
     QLabel* lblFolder;
+    QLabel* lblRemark;
     QPushButton* btnFolder;
     QTableView* tblFiles;
     EmptyState* noFiles;

@@ -25,18 +25,25 @@ XmlFileList::XmlFileList(ImportContext known, QObject* parent)
     : QAbstractTableModel(parent), context(std::move(known)) {}
 
 void XmlFileList::setFolder(const QString& folder) {
-    reader.reset();
-    beginResetModel();
-    rows.clear();
     QStringList paths;
     const QDir files(folder, {}, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware,
                      QDir::Files | QDir::Readable);
     for (const QFileInfo& file : files.entryInfoList()) {
         if (!file.fileName().endsWith(".xml"_L1)) continue; // in this case, as everywhere in the program
         paths += file.filePath();
-        rows.push_back(
-            {.file = {.FullPath = file.filePath(), .sFileName = file.fileName(), .backupTime = {}}});
     }
+    list(paths, false);
+}
+
+void XmlFileList::setFiles(const QStringList& paths) { list(paths, true); }
+
+void XmlFileList::list(const QStringList& paths, bool chosen) {
+    reader.reset();
+    beginResetModel();
+    rows.clear();
+    for (const QString& path : paths)
+        rows.push_back({.file = {.FullPath = path, .sFileName = path.section(u'/', -1), .backupTime = {}},
+                        .isChosen = chosen});
     endResetModel();
     emit chosenChanged();
     read(paths);

@@ -22,6 +22,8 @@ public:
 
     /// Lists the files of another folder, none of them chosen.
     void setFolder(const QString& folder);
+    /// Lists these files, all of them chosen that can be imported.
+    void setFiles(const QStringList& paths);
     /// All but those whose patients are here already: each of these can be chosen by itself.
     void chooseAll(bool chosen);
     [[nodiscard]] bool isAnyForAll() const;
@@ -57,6 +59,7 @@ private:
         CallQueue calls;
         std::jthread thread;
     };
+    void list(const QStringList& paths, bool chosen);
     void read(const QStringList& paths);
     void fileRead(int row, const XmlFile& file);
     [[nodiscard]] QString text(const Row& row, Column column) const;

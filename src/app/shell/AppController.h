@@ -90,6 +90,7 @@ signals:
 private:
     void showPageInView();
     [[nodiscard]] PageController& pageInView() const;
+    void makePageMenus();
     void connectDataWatch();
     void end();
     void offerBackup(const StoreError& damage);

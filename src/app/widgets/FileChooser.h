@@ -11,6 +11,8 @@ namespace zel {
 struct ImportContext {
     std::function<bool(const QString& ID)> isKnown = [](const QString&) { return false; };
     QString dateFormat{}; ///< as SettingModel::getDateFormat()
+    QStringList files{};  ///< listed instead of a folder's, and chosen as far as they can be imported
+    QString remark{};     ///< for the user, about these files
 };
 
 /// How the user picks the folder of an export, the files of an import and the file of a report. The window

@@ -164,6 +164,23 @@ TEST_F(ImportFileDialogTest, anotherFolderBeginsAnew) {
     EXPECT_TRUE(dialog.chosenFiles().isEmpty());
 }
 
+TEST_F(ImportFileDialogTest, filesThatAreGivenAreChosenAsFarAsTheyCanBe) {
+    QStringList given;
+    for (const char* name : {"damaged.xml", "b.xml", "empty/none.xml"})
+        given += folder.filePath(QLatin1StringView(name));
+    ImportFileDialog list(folders, folder.path(), {.files = given, .remark = u"<b>not these"_s}, nullptr);
+    list.show();
+    waitFor([&] { return !list.findChild<XmlFileList*>()->isReading(); });
+    EXPECT_EQ(list.chosenFiles(), QStringList(given.at(1)));
+    const auto& remark = *list.findChild<QLabel*>(u"lblRemark"_s);
+    EXPECT_TRUE(remark.isVisible() && remark.textFormat() == Qt::PlainText);
+    EXPECT_EQ(list.findChild<QLabel*>(u"lblFolder"_s)->accessibleName(), qtTrId("importDropped"));
+    folders.folder = folder.path();
+    QTest::mouseClick(list.findChild<QWidget*>(u"btnFolder"_s), Qt::LeftButton);
+    EXPECT_FALSE(remark.isVisible());
+    EXPECT_TRUE(list.chosenFiles().isEmpty());
+}
+
 TEST_F(ImportFileDialogTest, theChooserRemembersItsFolderAndReportsACancel) {
     SelectFolderController chooser;
     const auto inDialog = [](const std::function<void(QWidget&)>& act) {
