@@ -47,6 +47,22 @@ bool isKnown(const std::vector<KeyRow>& rows, const KeyRow& row) {
         rows, [&](const KeyRow& other) { return other.keys == row.keys && other.what == row.what; });
 }
 
+/// What the chart does with keys itself, without an action.
+void addChart(const QString& page, std::vector<KeyRow>& rows) {
+    const auto add = [&](const QString& words, QKeyCombination first, QKeyCombination second) {
+        const auto text = [](QKeyCombination key) {
+            return QKeySequence(key).toString(QKeySequence::NativeText);
+        };
+        rows.push_back({page, words, text(first) + qtTrId(", ") + text(second)});
+    };
+    add(qtTrId("keysMovePeriod"), Qt::Key_Left, Qt::Key_Right);
+    add(qtTrId("keysWidenPeriod"), Qt::Key_Plus, Qt::Key_Minus);
+    add(qtTrId("keysWholePeriod"), Qt::Key_PageUp, Qt::Key_PageDown);
+    add(qtTrId("keysFirstLast"), Qt::Key_Home, Qt::Key_End);
+    add(qtTrId("keysMoveScale"), Qt::Key_Up, Qt::Key_Down);
+    add(qtTrId("keysFromReading"), Qt::CTRL | Qt::Key_Left, Qt::CTRL | Qt::Key_Right);
+}
+
 } // namespace
 
 const PageController* pageOf(const QObject* object) {
@@ -67,6 +83,8 @@ std::vector<KeyRow> keysOf(const QWidget& window) {
         const bool isInMenu = window.findChild<QAction*>(action->objectName() + u"Entry"_s);
         if (!isInMenu && !isKnown(rows, row)) rows.push_back(row);
     }
+    if (const auto* chart = window.findChild<PageController*>(u"GraphViewController"_s))
+        addChart(chart->accessibleName(), rows);
     return rows;
 }
 

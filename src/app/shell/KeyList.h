@@ -22,7 +22,7 @@ struct KeyRow {
 [[nodiscard]] const PageController* pageOf(const QObject* object);
 
 /// The keys of a window with a menu bar, read from its actions: first those of the menus, in their order,
-/// then those that only stand on a page.
+/// then those that only stand on a page, and last what the chart does with keys itself.
 [[nodiscard]] std::vector<KeyRow> keysOf(const QWidget& window);
 
 } // namespace zel

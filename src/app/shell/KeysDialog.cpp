@@ -37,7 +37,7 @@ KeysDialog::KeysDialog(QWidget* window) : QDialog(window), tblKeys(new QTableWid
     column->addWidget(tblKeys, 1);
     column->addWidget(makeButtons());
     const int letter = fontMetrics().averageCharWidth();
-    resize(QSize(letter * 90, letter * 90).boundedTo(screen()->availableSize() - QSize(40, 80)));
+    resize(QSize(letter * 120, letter * 90).boundedTo(screen()->availableSize() - QSize(40, 80)));
 }
 
 /// The key that opens the list goes on to the manual, as help does elsewhere.

@@ -156,6 +156,10 @@ TEST_F(PageMenusTest, theListOfKeysIsTrue) {
                           table.item(row, 1)->text());
     EXPECT_EQ(whatByKey.size(), static_cast<std::size_t>(table.rowCount()))
         << "a key means one thing in a place";
+    const auto place = [&](const char* page) { return u'@' + find<QWidget>(page).accessibleName(); };
+    EXPECT_EQ(whatByKey[u"Ctrl+N"_s + place("PatientViewController")], qtTrId("menuNewPatient"));
+    EXPECT_EQ(whatByKey[u"Left, Right"_s + place("GraphViewController")], qtTrId("keysMovePeriod"));
+    EXPECT_TRUE(whatByKey.contains(u"Alt+1"_s + place("GraphViewController"))) << "of no menu";
     EXPECT_TRUE(opened.empty());
     waitFor([&] { return list.isActiveWindow(); });
     QTest::keyClick(&table, Qt::Key_F1);
