@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Datei</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Patient</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Puls
 1/min</translation></message>
     <message id="columnReadings"><translation>Messungen</translation></message>
+    <message id="columnState"><translation>Zustand</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Uhrzeit</translation></message>
@@ -347,6 +349,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="downloadButton"><translation>A&amp;uslesen</translation></message>
     <message id="downloadCancel"><translation>Auslesen abbrechen</translation></message>
     <message id="downloadCancelled"><translation>Auslesen abgebrochen. Es wurde nichts gespeichert; die Messungen sind weiterhin im Messgerät.</translation></message>
+    <message id="downloadDayUnknown"><translation>unbekannt</translation></message>
     <message id="downloadEmpty"><translation>Das Messgerät enthält keine Messungen.</translation></message>
     <message id="downloadFailed"><translation>Die Messungen konnten nicht ausgelesen werden, und es wurde nichts gespeichert. Sie sind weiterhin im Messgerät. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n Messung ausgelesen</numerusform><numerusform>%n Messungen ausgelesen</numerusform></translation></message>
@@ -358,9 +361,14 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="downloadNotStored"><translation>Die Messungen konnten nicht gespeichert werden. Sie sind weiterhin im Messgerät. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Die Messungen im Messgerät gehören zu einer anderen ID als der dieses Patienten; deshalb wurde nichts gespeichert. Bitte schließen Sie das Messgerät dieses Patienten an und versuchen Sie es noch einmal.</translation></message>
     <message id="downloadProgress"><translation>Fortschritt des Auslesens</translation></message>
+    <message id="downloadsNew"><translation>Neue Messungen</translation></message>
+    <message id="downloadsNone"><translation>%1: Es wurde noch nichts aus dem Messgerät ausgelesen.</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n-mal ausgelesen. Neue Messungen: %2.</numerusform><numerusform>%1: %n-mal ausgelesen. Neue Messungen: %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Messgerät wird abgefragt …</translation></message>
+    <message id="downloadsTitle"><translation>Auslesevorgänge</translation></message>
     <message id="downloadStopping"><translation>Wird abgebrochen …</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Vom Messgerät kommt nichts an. Das Auslesen wartet noch höchstens %n Sekunde darauf. Sie können es abbrechen: Es geht nichts verloren.</numerusform><numerusform>Vom Messgerät kommt nichts an. Das Auslesen wartet noch höchstens %n Sekunden darauf. Sie können es abbrechen: Es geht nichts verloren.</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>Importieren lassen sich nur XML-Dateien auf diesem Computer. Nicht in der Liste: %1</translation></message>
     <message id="DupNewPatient"><translation>Es gibt schon einen neuen Patienten, der noch nicht gespeichert ist: den ersten der Liste. Bitte speichern oder löschen Sie ihn zuerst.</translation></message>
     <message id="EndDate"><translation>Der letzte Tag muss nach dem ersten liegen, damit der Zeitraum mindestens zwei Tage umfasst. Die Datumsangaben wurden nicht geändert.</translation></message>
     <message id="endEarlier"><translation>Einen Tag früher enden</translation></message>
@@ -406,7 +414,10 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fieldSmoker"><translation>Rauchen</translation></message>
     <message id="fieldWeightKg"><translation>Gewicht (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Gewicht (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>schon vorhanden</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Ein Patient mit dieser ID steht schon in der Liste; ein Import würde abgelehnt.</translation></message>
     <message id="fileBeingRead"><translation>wird gelesen …</translation></message>
+    <message id="fileNotImportable"><translation>nicht importierbar</translation></message>
     <message id="fileNotReadable"><translation>nicht lesbar</translation></message>
     <message id="fileTooLargeToCount"><translation>über 64 MiB: nicht gezählt</translation></message>
     <message id="firstStepDownload"><translation>Drücken Sie „Auslesen“. Die Messungen erscheinen in Diagramm und Tabelle.</translation></message>
@@ -428,6 +439,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="importButton"><translation>&amp;Importieren</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>%n Datei &amp;importieren</numerusform><numerusform>%n Dateien &amp;importieren</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>Danach wurde der Import abgebrochen; %n Datei wurde nicht gelesen.</numerusform><numerusform>Danach wurde der Import abgebrochen; %n Dateien wurden nicht gelesen.</numerusform></translation></message>
+    <message id="importDropped"><translation>Auf das Fenster gezogene Dateien</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n Datei wurde importiert:</numerusform><numerusform>%n Dateien wurden importiert:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importieren …</translation></message>
     <message id="importFolder"><translation>Ordner für den Import wählen</translation></message>
@@ -448,6 +460,17 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="infoRemark"><translation>Bemerkung</translation></message>
     <message id="infoSys"><translation>Systolisch</translation></message>
     <message id="keep"><translation>&amp;Behalten</translation></message>
+    <message id="keysFirstLast"><translation>Erste, letzte Messungen</translation></message>
+    <message id="keysFromReading"><translation>Von Messung zu Messung</translation></message>
+    <message id="keysKey"><translation>Taste</translation></message>
+    <message id="keysManualHint"><translation>Das Handbuch öffnen (F1).</translation></message>
+    <message id="keysMovePeriod"><translation>Zeitraum verschieben</translation></message>
+    <message id="keysMoveScale"><translation>Skala verschieben</translation></message>
+    <message id="keysPlace"><translation>Wo</translation></message>
+    <message id="keysTitle"><translation>Tasten</translation></message>
+    <message id="keysWhat"><translation>Was geschieht</translation></message>
+    <message id="keysWholePeriod"><translation>Einen ganzen Zeitraum zurück, weiter</translation></message>
+    <message id="keysWidenPeriod"><translation>Zeitraum erweitern, verkürzen</translation></message>
     <message id="languageNotSaved"><translation>Die Sprache wurde nicht geändert; die übrigen Einstellungen sind gespeichert. %1</translation></message>
     <message id="lastDownload"><translation>Zuletzt ausgelesen</translation></message>
     <message id="lastDownloadNone"><translation>noch nie</translation></message>
@@ -469,19 +492,31 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="map"><translation>MAP</translation></message>
     <message id="menuAbout"><translation>Ü&amp;ber ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Sicherungen …</translation></message>
+    <message id="menuCopyRows"><translation>Zeilen kopieren</translation></message>
+    <message id="menuDeletePatient"><translation>Patienten löschen</translation></message>
+    <message id="menuDownload"><translation>Messungen auslesen</translation></message>
+    <message id="menuDownloads"><translation>Auslesevorgänge …</translation></message>
     <message id="menuEdit"><translation>&amp;Bearbeiten</translation></message>
     <message id="menuExportFhir"><translation>Patienten als F&amp;HIR exportieren …</translation></message>
     <message id="menuFile"><translation>&amp;Datei</translation></message>
+    <message id="menuFindPatient"><translation>Patienten suchen</translation></message>
     <message id="menuHelp"><translation>&amp;Hilfe</translation></message>
+    <message id="menuKeys"><translation>&amp;Tasten</translation></message>
     <message id="menuManual"><translation>&amp;Handbuch</translation></message>
+    <message id="menuNewPatient"><translation>Neuer Patient</translation></message>
     <message id="menuPrint"><translation>&amp;Drucken …</translation></message>
     <message id="menuQuit"><translation>&amp;Beenden</translation></message>
     <message id="menuRedo"><translation>&amp;Wiederholen</translation></message>
     <message id="menuRedoStep"><translation>&amp;Wiederholen: %1</translation></message>
+    <message id="menuSavePatient"><translation>Patienten speichern</translation></message>
     <message id="menuSavePdf"><translation>Als PD&amp;F speichern …</translation></message>
+    <message id="menuSelectRows"><translation>Alle Zeilen auswählen</translation></message>
+    <message id="menuSendID"><translation>ID an das Messgerät senden</translation></message>
     <message id="menuSettings"><translation>&amp;Einstellungen …</translation></message>
+    <message id="menuTimeChart"><translation>Zeitlicher Verlauf</translation></message>
     <message id="menuUndo"><translation>&amp;Rückgängig</translation></message>
     <message id="menuUndoStep"><translation>&amp;Rückgängig: %1</translation></message>
+    <message id="menuView"><translation>Ansicht</translation></message>
     <message id="minusDay"><translation>Weniger Tage: an jedem Ende des Zeitraums einer weniger</translation></message>
     <message id="minusDayHint"><translation>Weniger Tage: an jedem Ende des Zeitraums einer weniger (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM TT JJJJ</translation></message>
@@ -573,7 +608,16 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="patientsDetail"><translation>Wählen Sie einen Patienten aus, oder legen Sie einen neuen an.</translation></message>
     <message id="patientsInputFields"><translation>Nachname, Vorname und ID sind erforderlich. Es wurde noch nichts gespeichert; bitte füllen Sie die markierten Felder aus.</translation></message>
     <message id="patientTotal"><translation>Patienten</translation></message>
+    <message id="pdfChart"><translation>Diagramm</translation></message>
+    <message id="pdfComments"><translation>Kommentare</translation></message>
+    <message id="pdfCorrelation"><translation>Korrelation</translation></message>
     <message id="pdfFiles"><translation>PDF-Dateien (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>Verteilung</translation></message>
+    <message id="pdfProfile"><translation>Patientendaten</translation></message>
+    <message id="pdfReadings"><translation>Messungen</translation></message>
+    <message id="pdfStatistics"><translation>Statistik und Messungen</translation></message>
+    <message id="pdfSummary"><translation>Übersicht</translation></message>
+    <message id="pdfTrend"><translation>Trend</translation></message>
     <message id="periodBar"><translation>Zeitraum und angezeigte Messungen</translation></message>
     <message id="periodBegin"><translation>Erster Tag des Zeitraums</translation></message>
     <message id="periodEnd"><translation>Letzter Tag des Zeitraums</translation></message>

@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>File</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Patient</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Pulse
 1/min</translation></message>
     <message id="columnReadings"><translation>Readings</translation></message>
+    <message id="columnState"><translation>State</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Time</translation></message>
@@ -347,6 +349,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="downloadButton"><translation>&amp;Download</translation></message>
     <message id="downloadCancel"><translation>Cancel the download</translation></message>
     <message id="downloadCancelled"><translation>Download cancelled. Nothing was stored; the readings are still in the monitor.</translation></message>
+    <message id="downloadDayUnknown"><translation>unknown</translation></message>
     <message id="downloadEmpty"><translation>The monitor holds no readings.</translation></message>
     <message id="downloadFailed"><translation>The readings could not be downloaded, and nothing was stored. They are still in the monitor. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n reading downloaded</numerusform><numerusform>%n readings downloaded</numerusform></translation></message>
@@ -358,9 +361,14 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="downloadNotStored"><translation>The readings could not be stored. They are still in the monitor. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>The readings in the monitor belong to another ID than this patient’s, so nothing was stored. Please connect this patient’s monitor and try again.</translation></message>
     <message id="downloadProgress"><translation>Download progress</translation></message>
+    <message id="downloadsNew"><translation>New readings</translation></message>
+    <message id="downloadsNone"><translation>%1: nothing has been downloaded from the monitor yet.</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n download. New readings: %2.</numerusform><numerusform>%1: %n downloads. New readings: %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
+    <message id="downloadsTitle"><translation>Downloads</translation></message>
     <message id="downloadStopping"><translation>Stopping …</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Nothing comes from the monitor. The download waits for it, for %n second at most. You can cancel it: nothing is lost.</numerusform><numerusform>Nothing comes from the monitor. The download waits for it, for %n seconds at most. You can cancel it: nothing is lost.</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>Only XML files on this computer can be imported. Not in the list: %1</translation></message>
     <message id="DupNewPatient"><translation>There is a new patient already that is not saved yet: the first one of the list. Please save or delete it first.</translation></message>
     <message id="EndDate"><translation>The last day has to be after the first one, so that the period spans two days or more. The dates were left as they were.</translation></message>
     <message id="endEarlier"><translation>End a day earlier</translation></message>
@@ -406,7 +414,10 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fieldSmoker"><translation>Smoker</translation></message>
     <message id="fieldWeightKg"><translation>Weight (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Weight (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>already here</translation></message>
+    <message id="fileAlreadyHereHint"><translation>A patient with this ID is in the list already, and an import would be refused.</translation></message>
     <message id="fileBeingRead"><translation>reading …</translation></message>
+    <message id="fileNotImportable"><translation>cannot be imported</translation></message>
     <message id="fileNotReadable"><translation>not readable</translation></message>
     <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
     <message id="firstStepDownload"><translation>Press Download. The readings appear in chart and table.</translation></message>
@@ -428,6 +439,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="importButton"><translation>&amp;Import</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Import %n file</numerusform><numerusform>&amp;Import %n files</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>Then the import was cancelled; %n file was not read.</numerusform><numerusform>Then the import was cancelled; %n files were not read.</numerusform></translation></message>
+    <message id="importDropped"><translation>Files dropped on the window</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n file was imported:</numerusform><numerusform>%n files were imported:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Import …</translation></message>
     <message id="importFolder"><translation>Choose the folder to import from</translation></message>
@@ -448,6 +460,17 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="infoRemark"><translation>Remark</translation></message>
     <message id="infoSys"><translation>Systolic</translation></message>
     <message id="keep"><translation>&amp;Keep</translation></message>
+    <message id="keysFirstLast"><translation>First, last readings</translation></message>
+    <message id="keysFromReading"><translation>From reading to reading</translation></message>
+    <message id="keysKey"><translation>Key</translation></message>
+    <message id="keysManualHint"><translation>Open the manual (F1).</translation></message>
+    <message id="keysMovePeriod"><translation>Move the period</translation></message>
+    <message id="keysMoveScale"><translation>Move the scale</translation></message>
+    <message id="keysPlace"><translation>Where</translation></message>
+    <message id="keysTitle"><translation>Keys</translation></message>
+    <message id="keysWhat"><translation>What it does</translation></message>
+    <message id="keysWholePeriod"><translation>A whole period back, on</translation></message>
+    <message id="keysWidenPeriod"><translation>Widen, narrow the period</translation></message>
     <message id="languageNotSaved"><translation>The language was not changed; the other settings are stored. %1</translation></message>
     <message id="lastDownload"><translation>Last download</translation></message>
     <message id="lastDownloadNone"><translation>none</translation></message>
@@ -469,19 +492,31 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="map"><translation>MAP</translation></message>
     <message id="menuAbout"><translation>&amp;About ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backups …</translation></message>
+    <message id="menuCopyRows"><translation>Copy rows</translation></message>
+    <message id="menuDeletePatient"><translation>Delete patient</translation></message>
+    <message id="menuDownload"><translation>Download readings</translation></message>
+    <message id="menuDownloads"><translation>Downloads …</translation></message>
     <message id="menuEdit"><translation>&amp;Edit</translation></message>
     <message id="menuExportFhir"><translation>&amp;Export patient as FHIR …</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
+    <message id="menuFindPatient"><translation>Find patient</translation></message>
     <message id="menuHelp"><translation>&amp;Help</translation></message>
+    <message id="menuKeys"><translation>&amp;Keys</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
+    <message id="menuNewPatient"><translation>New patient</translation></message>
     <message id="menuPrint"><translation>&amp;Print …</translation></message>
     <message id="menuQuit"><translation>&amp;Quit</translation></message>
     <message id="menuRedo"><translation>&amp;Redo</translation></message>
     <message id="menuRedoStep"><translation>&amp;Redo %1</translation></message>
+    <message id="menuSavePatient"><translation>Save patient</translation></message>
     <message id="menuSavePdf"><translation>Save as P&amp;DF …</translation></message>
+    <message id="menuSelectRows"><translation>Select all rows</translation></message>
+    <message id="menuSendID"><translation>Send ID to the monitor</translation></message>
     <message id="menuSettings"><translation>&amp;Settings …</translation></message>
+    <message id="menuTimeChart"><translation>Chart over time</translation></message>
     <message id="menuUndo"><translation>&amp;Undo</translation></message>
     <message id="menuUndoStep"><translation>&amp;Undo %1</translation></message>
+    <message id="menuView"><translation>View</translation></message>
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd yyyy</translation></message>
@@ -573,7 +608,16 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="patientsDetail"><translation>Choose a patient, or enter a new one.</translation></message>
     <message id="patientsInputFields"><translation>Family name, given name and ID are needed. Nothing was saved yet; please fill in what is marked.</translation></message>
     <message id="patientTotal"><translation>Patients</translation></message>
+    <message id="pdfChart"><translation>chart</translation></message>
+    <message id="pdfComments"><translation>comments</translation></message>
+    <message id="pdfCorrelation"><translation>correlation</translation></message>
     <message id="pdfFiles"><translation>PDF files (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>distribution</translation></message>
+    <message id="pdfProfile"><translation>patient profile</translation></message>
+    <message id="pdfReadings"><translation>readings</translation></message>
+    <message id="pdfStatistics"><translation>statistics and readings</translation></message>
+    <message id="pdfSummary"><translation>summary</translation></message>
+    <message id="pdfTrend"><translation>trend</translation></message>
     <message id="periodBar"><translation>Period and readings to show</translation></message>
     <message id="periodBegin"><translation>First day of the period</translation></message>
     <message id="periodEnd"><translation>Last day of the period</translation></message>

@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Archivo</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Paciente</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Pulso
 lpm</translation></message>
     <message id="columnReadings"><translation>Mediciones</translation></message>
+    <message id="columnState"><translation>Estado</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Hora</translation></message>
@@ -347,6 +349,7 @@ mmHg</translation></message>
     <message id="downloadButton"><translation>&amp;Descargar</translation></message>
     <message id="downloadCancel"><translation>Cancelar la descarga</translation></message>
     <message id="downloadCancelled"><translation>Descarga cancelada. No se ha guardado nada; las mediciones siguen en el tensiómetro.</translation></message>
+    <message id="downloadDayUnknown"><translation>desconocido</translation></message>
     <message id="downloadEmpty"><translation>El tensiómetro no contiene mediciones.</translation></message>
     <message id="downloadFailed"><translation>No se han podido descargar las mediciones y no se ha guardado nada. Siguen en el tensiómetro. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n medición descargada</numerusform><numerusform>%n mediciones descargadas</numerusform></translation></message>
@@ -358,9 +361,14 @@ mmHg</translation></message>
     <message id="downloadNotStored"><translation>No se han podido guardar las mediciones. Siguen en el tensiómetro. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Las mediciones del tensiómetro pertenecen a un ID distinto del de este paciente, así que no se ha guardado nada. Conecte el tensiómetro de este paciente y vuelva a intentarlo.</translation></message>
     <message id="downloadProgress"><translation>Progreso de la descarga</translation></message>
+    <message id="downloadsNew"><translation>Mediciones nuevas</translation></message>
+    <message id="downloadsNone"><translation>%1: todavía no se ha descargado nada del tensiómetro.</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n descarga. Mediciones nuevas: %2.</numerusform><numerusform>%1: %n descargas. Mediciones nuevas: %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Consultando el tensiómetro…</translation></message>
+    <message id="downloadsTitle"><translation>Descargas</translation></message>
     <message id="downloadStopping"><translation>Deteniendo…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>No llega nada del tensiómetro. Se seguirá esperando %n segundo como máximo. Puede cancelar la descarga: no se pierde nada.</numerusform><numerusform>No llega nada del tensiómetro. Se seguirá esperando %n segundos como máximo. Puede cancelar la descarga: no se pierde nada.</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>Solo se pueden importar archivos XML de este equipo. No están en la lista: %1</translation></message>
     <message id="DupNewPatient"><translation>Ya hay un paciente nuevo sin guardar: el primero de la lista. Guárdelo o elimínelo antes.</translation></message>
     <message id="EndDate"><translation>El último día debe ser posterior al primero, de modo que el periodo abarque dos días o más. Las fechas se han dejado como estaban.</translation></message>
     <message id="endEarlier"><translation>Terminar un día antes</translation></message>
@@ -406,7 +414,10 @@ mmHg</translation></message>
     <message id="fieldSmoker"><translation>Fumador/a</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Peso (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>ya está aquí</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Ya hay en la lista un paciente con este ID; la importación se rechazaría.</translation></message>
     <message id="fileBeingRead"><translation>leyendo…</translation></message>
+    <message id="fileNotImportable"><translation>no se puede importar</translation></message>
     <message id="fileNotReadable"><translation>no legible</translation></message>
     <message id="fileTooLargeToCount"><translation>más de 64 MiB: sin contar</translation></message>
     <message id="firstStepDownload"><translation>Pulse «Descargar». Las mediciones aparecen en el gráfico y en la tabla.</translation></message>
@@ -428,6 +439,7 @@ mmHg</translation></message>
     <message id="importButton"><translation>&amp;Importar</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importar %n archivo</numerusform><numerusform>&amp;Importar %n archivos</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>Después se ha cancelado la importación; %n archivo no se ha leído.</numerusform><numerusform>Después se ha cancelado la importación; %n archivos no se han leído.</numerusform></translation></message>
+    <message id="importDropped"><translation>Archivos soltados en la ventana</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>Se ha importado %n archivo:</numerusform><numerusform>Se han importado %n archivos:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importar…</translation></message>
     <message id="importFolder"><translation>Elija la carpeta desde la que importar</translation></message>
@@ -448,6 +460,17 @@ mmHg</translation></message>
     <message id="infoRemark"><translation>Observación</translation></message>
     <message id="infoSys"><translation>Sistólica</translation></message>
     <message id="keep"><translation>&amp;Conservar</translation></message>
+    <message id="keysFirstLast"><translation>Primeras, últimas mediciones</translation></message>
+    <message id="keysFromReading"><translation>De medición en medición</translation></message>
+    <message id="keysKey"><translation>Tecla</translation></message>
+    <message id="keysManualHint"><translation>Abrir el manual (F1).</translation></message>
+    <message id="keysMovePeriod"><translation>Mover el periodo</translation></message>
+    <message id="keysMoveScale"><translation>Mover la escala</translation></message>
+    <message id="keysPlace"><translation>Dónde</translation></message>
+    <message id="keysTitle"><translation>Teclas</translation></message>
+    <message id="keysWhat"><translation>Qué hace</translation></message>
+    <message id="keysWholePeriod"><translation>Un periodo entero atrás, adelante</translation></message>
+    <message id="keysWidenPeriod"><translation>Ampliar, reducir el periodo</translation></message>
     <message id="languageNotSaved"><translation>No se ha cambiado el idioma; el resto de la configuración está guardado. %1</translation></message>
     <message id="lastDownload"><translation>Última descarga</translation></message>
     <message id="lastDownloadNone"><translation>ninguna</translation></message>
@@ -469,19 +492,31 @@ mmHg</translation></message>
     <message id="map"><translation>PAM</translation></message>
     <message id="menuAbout"><translation>&amp;Acerca de ZEL</translation></message>
     <message id="menuBackups"><translation>Copias de se&amp;guridad…</translation></message>
+    <message id="menuCopyRows"><translation>Copiar filas</translation></message>
+    <message id="menuDeletePatient"><translation>Eliminar paciente</translation></message>
+    <message id="menuDownload"><translation>Descargar las mediciones</translation></message>
+    <message id="menuDownloads"><translation>Descargas…</translation></message>
     <message id="menuEdit"><translation>&amp;Edición</translation></message>
     <message id="menuExportFhir"><translation>&amp;Exportar el paciente como FHIR…</translation></message>
     <message id="menuFile"><translation>&amp;Archivo</translation></message>
+    <message id="menuFindPatient"><translation>Buscar paciente</translation></message>
     <message id="menuHelp"><translation>A&amp;yuda</translation></message>
+    <message id="menuKeys"><translation>&amp;Teclas</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
+    <message id="menuNewPatient"><translation>Paciente nuevo</translation></message>
     <message id="menuPrint"><translation>&amp;Imprimir…</translation></message>
     <message id="menuQuit"><translation>&amp;Salir</translation></message>
     <message id="menuRedo"><translation>&amp;Rehacer</translation></message>
     <message id="menuRedoStep"><translation>&amp;Rehacer: %1</translation></message>
+    <message id="menuSavePatient"><translation>Guardar paciente</translation></message>
     <message id="menuSavePdf"><translation>Guardar como P&amp;DF…</translation></message>
+    <message id="menuSelectRows"><translation>Seleccionar todas las filas</translation></message>
+    <message id="menuSendID"><translation>Enviar el ID al tensiómetro</translation></message>
     <message id="menuSettings"><translation>&amp;Configuración…</translation></message>
+    <message id="menuTimeChart"><translation>Gráfico en el tiempo</translation></message>
     <message id="menuUndo"><translation>&amp;Deshacer</translation></message>
     <message id="menuUndoStep"><translation>&amp;Deshacer: %1</translation></message>
+    <message id="menuView"><translation>Ver</translation></message>
     <message id="minusDay"><translation>Menos días: uno menos en cada extremo del periodo</translation></message>
     <message id="minusDayHint"><translation>Menos días: uno menos en cada extremo del periodo (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd aaaa</translation></message>
@@ -573,7 +608,16 @@ mmHg</translation></message>
     <message id="patientsDetail"><translation>Elija un paciente o introduzca uno nuevo.</translation></message>
     <message id="patientsInputFields"><translation>Los apellidos, el nombre y el ID son necesarios. Todavía no se ha guardado nada; rellene lo que está marcado.</translation></message>
     <message id="patientTotal"><translation>Pacientes</translation></message>
+    <message id="pdfChart"><translation>gráfico</translation></message>
+    <message id="pdfComments"><translation>comentarios</translation></message>
+    <message id="pdfCorrelation"><translation>correlación</translation></message>
     <message id="pdfFiles"><translation>Archivos PDF (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>distribución</translation></message>
+    <message id="pdfProfile"><translation>datos del paciente</translation></message>
+    <message id="pdfReadings"><translation>mediciones</translation></message>
+    <message id="pdfStatistics"><translation>estadística y mediciones</translation></message>
+    <message id="pdfSummary"><translation>resumen</translation></message>
+    <message id="pdfTrend"><translation>tendencia</translation></message>
     <message id="periodBar"><translation>Periodo y mediciones que se muestran</translation></message>
     <message id="periodBegin"><translation>Primer día del periodo</translation></message>
     <message id="periodEnd"><translation>Último día del periodo</translation></message>

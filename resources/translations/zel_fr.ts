@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Fichier</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Patient</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Pouls
 bpm</translation></message>
     <message id="columnReadings"><translation>Mesures</translation></message>
+    <message id="columnState"><translation>État</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Heure</translation></message>
@@ -347,6 +349,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="downloadButton"><translation>&amp;Transférer</translation></message>
     <message id="downloadCancel"><translation>Annuler le transfert</translation></message>
     <message id="downloadCancelled"><translation>Transfert annulé. Rien n’a été enregistré ; les mesures sont toujours dans le tensiomètre.</translation></message>
+    <message id="downloadDayUnknown"><translation>inconnu</translation></message>
     <message id="downloadEmpty"><translation>Le tensiomètre ne contient aucune mesure.</translation></message>
     <message id="downloadFailed"><translation>Les mesures n’ont pas pu être transférées, et rien n’a été enregistré. Elles sont toujours dans le tensiomètre. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n mesure transférée</numerusform><numerusform>%n mesures transférées</numerusform></translation></message>
@@ -358,9 +361,14 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="downloadNotStored"><translation>Les mesures n’ont pas pu être enregistrées. Elles sont toujours dans le tensiomètre. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Les mesures du tensiomètre appartiennent à un autre ID que celui de ce patient ; rien n’a donc été enregistré. Veuillez brancher le tensiomètre de ce patient et réessayer.</translation></message>
     <message id="downloadProgress"><translation>Progression du transfert</translation></message>
+    <message id="downloadsNew"><translation>Nouvelles mesures</translation></message>
+    <message id="downloadsNone"><translation>%1 : rien n’a encore été transféré du tensiomètre.</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1 : %n transfert. Nouvelles mesures : %2.</numerusform><numerusform>%1 : %n transferts. Nouvelles mesures : %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Interrogation du tensiomètre…</translation></message>
+    <message id="downloadsTitle"><translation>Transferts</translation></message>
     <message id="downloadStopping"><translation>Arrêt en cours…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n seconde au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n secondes au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>Seuls des fichiers XML présents sur cet ordinateur peuvent être importés. Absents de la liste : %1</translation></message>
     <message id="DupNewPatient"><translation>Il y a déjà un nouveau patient qui n’est pas encore enregistré : le premier de la liste. Veuillez d’abord l’enregistrer ou le supprimer.</translation></message>
     <message id="EndDate"><translation>Le dernier jour doit suivre le premier, afin que la période couvre au moins deux jours. Les dates sont restées inchangées.</translation></message>
     <message id="endEarlier"><translation>Finir un jour plus tôt</translation></message>
@@ -406,7 +414,10 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fieldSmoker"><translation>Tabagisme</translation></message>
     <message id="fieldWeightKg"><translation>Poids (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Poids (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>déjà présent</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Un patient avec cet ID figure déjà dans la liste ; l’import serait refusé.</translation></message>
     <message id="fileBeingRead"><translation>lecture…</translation></message>
+    <message id="fileNotImportable"><translation>impossible à importer</translation></message>
     <message id="fileNotReadable"><translation>illisible</translation></message>
     <message id="fileTooLargeToCount"><translation>plus de 64 Mio : non compté</translation></message>
     <message id="firstStepDownload"><translation>Cliquez sur « Transférer ». Les mesures apparaissent dans le graphique et le tableau.</translation></message>
@@ -428,6 +439,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="importButton"><translation>&amp;Importer</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importer %n fichier</numerusform><numerusform>&amp;Importer %n fichiers</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>L’importation a ensuite été annulée ; %n fichier n’a pas été lu.</numerusform><numerusform>L’importation a ensuite été annulée ; %n fichiers n’ont pas été lus.</numerusform></translation></message>
+    <message id="importDropped"><translation>Fichiers déposés sur la fenêtre</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n fichier a été importé :</numerusform><numerusform>%n fichiers ont été importés :</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importer…</translation></message>
     <message id="importFolder"><translation>Choisir le dossier d’importation</translation></message>
@@ -448,6 +460,17 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="infoRemark"><translation>Remarque</translation></message>
     <message id="infoSys"><translation>Systolique</translation></message>
     <message id="keep"><translation>&amp;Conserver</translation></message>
+    <message id="keysFirstLast"><translation>Premières, dernières mesures</translation></message>
+    <message id="keysFromReading"><translation>De mesure en mesure</translation></message>
+    <message id="keysKey"><translation>Touche</translation></message>
+    <message id="keysManualHint"><translation>Ouvrir le manuel (F1).</translation></message>
+    <message id="keysMovePeriod"><translation>Déplacer la période</translation></message>
+    <message id="keysMoveScale"><translation>Déplacer l’échelle</translation></message>
+    <message id="keysPlace"><translation>Où</translation></message>
+    <message id="keysTitle"><translation>Touches</translation></message>
+    <message id="keysWhat"><translation>Effet</translation></message>
+    <message id="keysWholePeriod"><translation>Une période entière en arrière, en avant</translation></message>
+    <message id="keysWidenPeriod"><translation>Allonger, raccourcir la période</translation></message>
     <message id="languageNotSaved"><translation>La langue n’a pas été changée ; les autres réglages sont enregistrés. %1</translation></message>
     <message id="lastDownload"><translation>Dernier transfert</translation></message>
     <message id="lastDownloadNone"><translation>aucun</translation></message>
@@ -469,19 +492,31 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="map"><translation>PAM</translation></message>
     <message id="menuAbout"><translation>À &amp;propos de ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Sauvegardes…</translation></message>
+    <message id="menuCopyRows"><translation>Copier les lignes</translation></message>
+    <message id="menuDeletePatient"><translation>Supprimer le patient</translation></message>
+    <message id="menuDownload"><translation>Transférer les mesures</translation></message>
+    <message id="menuDownloads"><translation>Transferts…</translation></message>
     <message id="menuEdit"><translation>Éd&amp;ition</translation></message>
     <message id="menuExportFhir"><translation>&amp;Exporter le patient en FHIR…</translation></message>
     <message id="menuFile"><translation>&amp;Fichier</translation></message>
+    <message id="menuFindPatient"><translation>Rechercher un patient</translation></message>
     <message id="menuHelp"><translation>&amp;Aide</translation></message>
+    <message id="menuKeys"><translation>&amp;Touches</translation></message>
     <message id="menuManual"><translation>&amp;Manuel</translation></message>
+    <message id="menuNewPatient"><translation>Nouveau patient</translation></message>
     <message id="menuPrint"><translation>&amp;Imprimer…</translation></message>
     <message id="menuQuit"><translation>&amp;Quitter</translation></message>
     <message id="menuRedo"><translation>&amp;Rétablir</translation></message>
     <message id="menuRedoStep"><translation>&amp;Rétablir : %1</translation></message>
+    <message id="menuSavePatient"><translation>Enregistrer le patient</translation></message>
     <message id="menuSavePdf"><translation>Enregistrer en P&amp;DF…</translation></message>
+    <message id="menuSelectRows"><translation>Sélectionner toutes les lignes</translation></message>
+    <message id="menuSendID"><translation>Envoyer l’ID au tensiomètre</translation></message>
     <message id="menuSettings"><translation>&amp;Réglages…</translation></message>
+    <message id="menuTimeChart"><translation>Graphique dans le temps</translation></message>
     <message id="menuUndo"><translation>&amp;Annuler</translation></message>
     <message id="menuUndoStep"><translation>&amp;Annuler : %1</translation></message>
+    <message id="menuView"><translation>Affichage</translation></message>
     <message id="minusDay"><translation>Moins de jours : un de moins au début et à la fin de la période</translation></message>
     <message id="minusDayHint"><translation>Moins de jours : un de moins au début et à la fin de la période (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm jj aaaa</translation></message>
@@ -573,7 +608,16 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="patientsDetail"><translation>Choisissez un patient, ou ajoutez-en un nouveau.</translation></message>
     <message id="patientsInputFields"><translation>Le nom, le prénom et l’ID sont nécessaires. Rien n’a encore été enregistré ; veuillez remplir ce qui est marqué.</translation></message>
     <message id="patientTotal"><translation>Patients</translation></message>
+    <message id="pdfChart"><translation>graphique</translation></message>
+    <message id="pdfComments"><translation>commentaires</translation></message>
+    <message id="pdfCorrelation"><translation>corrélation</translation></message>
     <message id="pdfFiles"><translation>Fichiers PDF (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>répartition</translation></message>
+    <message id="pdfProfile"><translation>fiche du patient</translation></message>
+    <message id="pdfReadings"><translation>mesures</translation></message>
+    <message id="pdfStatistics"><translation>statistiques et mesures</translation></message>
+    <message id="pdfSummary"><translation>synthèse</translation></message>
+    <message id="pdfTrend"><translation>tendance</translation></message>
     <message id="periodBar"><translation>Période et mesures à afficher</translation></message>
     <message id="periodBegin"><translation>Premier jour de la période</translation></message>
     <message id="periodEnd"><translation>Dernier jour de la période</translation></message>

@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>File</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Paziente</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Polso
 bpm</translation></message>
     <message id="columnReadings"><translation>Misurazioni</translation></message>
+    <message id="columnState"><translation>Stato</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Ora</translation></message>
@@ -347,6 +349,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="downloadButton"><translation>S&amp;carica</translation></message>
     <message id="downloadCancel"><translation>Annulla lo scarico dei dati</translation></message>
     <message id="downloadCancelled"><translation>Scarico dei dati annullato. Non è stato registrato nulla; le misurazioni sono ancora nel misuratore.</translation></message>
+    <message id="downloadDayUnknown"><translation>sconosciuto</translation></message>
     <message id="downloadEmpty"><translation>Il misuratore non contiene misurazioni.</translation></message>
     <message id="downloadFailed"><translation>Impossibile scaricare le misurazioni, che restano nel misuratore; non è stato registrato nulla. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>%n misurazione scaricata</numerusform><numerusform>%n misurazioni scaricate</numerusform></translation></message>
@@ -358,9 +361,14 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="downloadNotStored"><translation>Impossibile registrare le misurazioni. Sono ancora nel misuratore. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Le misurazioni nel misuratore appartengono a un ID diverso da quello di questo paziente, perciò non è stato registrato nulla. Collegare il misuratore di questo paziente e riprovare.</translation></message>
     <message id="downloadProgress"><translation>Avanzamento dello scarico dei dati</translation></message>
+    <message id="downloadsNew"><translation>Nuove misurazioni</translation></message>
+    <message id="downloadsNone"><translation>%1: non è ancora stato scaricato nulla dal misuratore.</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n scarico. Nuove misurazioni: %2.</numerusform><numerusform>%1: %n scarichi. Nuove misurazioni: %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Richiesta al misuratore…</translation></message>
+    <message id="downloadsTitle"><translation>Scarichi</translation></message>
     <message id="downloadStopping"><translation>Interruzione…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondo. Lo scarico si può annullare: non va perso nulla.</numerusform><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondi. Lo scarico si può annullare: non va perso nulla.</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>Si possono importare solo file XML su questo computer. Non in elenco: %1</translation></message>
     <message id="DupNewPatient"><translation>C’è già un nuovo paziente non ancora salvato: il primo dell’elenco. Prima salvarlo o eliminarlo.</translation></message>
     <message id="EndDate"><translation>L’ultimo giorno deve seguire il primo, in modo che il periodo comprenda almeno due giorni. Le date sono rimaste invariate.</translation></message>
     <message id="endEarlier"><translation>Termina un giorno prima</translation></message>
@@ -406,7 +414,10 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fieldSmoker"><translation>Fumo</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Peso (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>già presente</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Un paziente con questo ID è già nell’elenco e l’importazione verrebbe rifiutata.</translation></message>
     <message id="fileBeingRead"><translation>lettura…</translation></message>
+    <message id="fileNotImportable"><translation>non importabile</translation></message>
     <message id="fileNotReadable"><translation>non leggibile</translation></message>
     <message id="fileTooLargeToCount"><translation>oltre 64 MiB: non contato</translation></message>
     <message id="firstStepDownload"><translation>Premere Scarica. Le misurazioni compaiono nel grafico e nella tabella.</translation></message>
@@ -428,6 +439,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="importButton"><translation>&amp;Importa</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importa %n file</numerusform><numerusform>&amp;Importa %n file</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>L’importazione è stata poi annullata; %n file non è stato letto.</numerusform><numerusform>L’importazione è stata poi annullata; %n file non sono stati letti.</numerusform></translation></message>
+    <message id="importDropped"><translation>File trascinati sulla finestra</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n file è stato importato:</numerusform><numerusform>%n file sono stati importati:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importa…</translation></message>
     <message id="importFolder"><translation>Scegli la cartella da cui importare</translation></message>
@@ -448,6 +460,17 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="infoRemark"><translation>Nota</translation></message>
     <message id="infoSys"><translation>Sistolica</translation></message>
     <message id="keep"><translation>&amp;Conserva</translation></message>
+    <message id="keysFirstLast"><translation>Prime, ultime misurazioni</translation></message>
+    <message id="keysFromReading"><translation>Da misurazione a misurazione</translation></message>
+    <message id="keysKey"><translation>Tasto</translation></message>
+    <message id="keysManualHint"><translation>Apri il manuale (F1).</translation></message>
+    <message id="keysMovePeriod"><translation>Sposta il periodo</translation></message>
+    <message id="keysMoveScale"><translation>Sposta la scala</translation></message>
+    <message id="keysPlace"><translation>Dove</translation></message>
+    <message id="keysTitle"><translation>Tasti</translation></message>
+    <message id="keysWhat"><translation>Che cosa fa</translation></message>
+    <message id="keysWholePeriod"><translation>Un periodo intero indietro, avanti</translation></message>
+    <message id="keysWidenPeriod"><translation>Allarga, restringi il periodo</translation></message>
     <message id="languageNotSaved"><translation>La lingua non è stata cambiata; le altre impostazioni sono salvate. %1</translation></message>
     <message id="lastDownload"><translation>Ultimo scarico</translation></message>
     <message id="lastDownloadNone"><translation>nessuno</translation></message>
@@ -469,19 +492,31 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="map"><translation>PAM</translation></message>
     <message id="menuAbout"><translation>&amp;Informazioni su ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backup…</translation></message>
+    <message id="menuCopyRows"><translation>Copia righe</translation></message>
+    <message id="menuDeletePatient"><translation>Elimina paziente</translation></message>
+    <message id="menuDownload"><translation>Scarica le misurazioni</translation></message>
+    <message id="menuDownloads"><translation>Scarichi…</translation></message>
     <message id="menuEdit"><translation>&amp;Modifica</translation></message>
     <message id="menuExportFhir"><translation>Esporta il paziente in F&amp;HIR…</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
+    <message id="menuFindPatient"><translation>Cerca paziente</translation></message>
     <message id="menuHelp"><translation>&amp;Aiuto</translation></message>
+    <message id="menuKeys"><translation>&amp;Tasti</translation></message>
     <message id="menuManual"><translation>&amp;Manuale</translation></message>
+    <message id="menuNewPatient"><translation>Nuovo paziente</translation></message>
     <message id="menuPrint"><translation>&amp;Stampa…</translation></message>
     <message id="menuQuit"><translation>&amp;Esci</translation></message>
     <message id="menuRedo"><translation>&amp;Ripeti</translation></message>
     <message id="menuRedoStep"><translation>&amp;Ripeti %1</translation></message>
+    <message id="menuSavePatient"><translation>Salva paziente</translation></message>
     <message id="menuSavePdf"><translation>Salva come &amp;PDF…</translation></message>
+    <message id="menuSelectRows"><translation>Seleziona tutte le righe</translation></message>
+    <message id="menuSendID"><translation>Invia l’ID al misuratore</translation></message>
     <message id="menuSettings"><translation>&amp;Impostazioni…</translation></message>
+    <message id="menuTimeChart"><translation>Grafico nel tempo</translation></message>
     <message id="menuUndo"><translation>&amp;Annulla</translation></message>
     <message id="menuUndoStep"><translation>&amp;Annulla %1</translation></message>
+    <message id="menuView"><translation>Visualizza</translation></message>
     <message id="minusDay"><translation>Meno giorni: uno in meno a ogni estremo del periodo</translation></message>
     <message id="minusDayHint"><translation>Meno giorni: uno in meno a ogni estremo del periodo (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm gg aaaa</translation></message>
@@ -573,7 +608,16 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="patientsDetail"><translation>Scegliere un paziente o inserirne uno nuovo.</translation></message>
     <message id="patientsInputFields"><translation>Cognome, nome e ID sono obbligatori. Non è stato ancora salvato nulla; compilare ciò che è evidenziato.</translation></message>
     <message id="patientTotal"><translation>Pazienti</translation></message>
+    <message id="pdfChart"><translation>grafico</translation></message>
+    <message id="pdfComments"><translation>commenti</translation></message>
+    <message id="pdfCorrelation"><translation>correlazione</translation></message>
     <message id="pdfFiles"><translation>File PDF (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>distribuzione</translation></message>
+    <message id="pdfProfile"><translation>scheda del paziente</translation></message>
+    <message id="pdfReadings"><translation>misurazioni</translation></message>
+    <message id="pdfStatistics"><translation>statistiche e misurazioni</translation></message>
+    <message id="pdfSummary"><translation>riepilogo</translation></message>
+    <message id="pdfTrend"><translation>andamento</translation></message>
     <message id="periodBar"><translation>Periodo e misurazioni da mostrare</translation></message>
     <message id="periodBegin"><translation>Primo giorno del periodo</translation></message>
     <message id="periodEnd"><translation>Ultimo giorno del periodo</translation></message>

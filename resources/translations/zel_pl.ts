@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>Plik</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>Pacjent</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>Tętno
 1/min</translation></message>
     <message id="columnReadings"><translation>Pomiary</translation></message>
+    <message id="columnState"><translation>Stan</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Godzina</translation></message>
@@ -347,6 +349,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="downloadButton"><translation>Po&amp;bierz</translation></message>
     <message id="downloadCancel"><translation>Anuluj pobieranie</translation></message>
     <message id="downloadCancelled"><translation>Pobieranie anulowano. Niczego nie zapisano; pomiary są nadal w ciśnieniomierzu.</translation></message>
+    <message id="downloadDayUnknown"><translation>nieznany</translation></message>
     <message id="downloadEmpty"><translation>W ciśnieniomierzu nie ma pomiarów.</translation></message>
     <message id="downloadFailed"><translation>Nie udało się pobrać pomiarów i niczego nie zapisano. Są one nadal w ciśnieniomierzu. %1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>Pobrano %n pomiar</numerusform><numerusform>Pobrano %n pomiary</numerusform><numerusform>Pobrano %n pomiarów</numerusform></translation></message>
@@ -358,9 +361,14 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="downloadNotStored"><translation>Nie udało się zapisać pomiarów. Są one nadal w ciśnieniomierzu. %1</translation></message>
     <message id="downloadOtherMonitor"><translation>Pomiary w ciśnieniomierzu należą do innego ID niż ID tego pacjenta, dlatego niczego nie zapisano. Proszę podłączyć ciśnieniomierz tego pacjenta i spróbować ponownie.</translation></message>
     <message id="downloadProgress"><translation>Postęp pobierania</translation></message>
+    <message id="downloadsNew"><translation>Nowe pomiary</translation></message>
+    <message id="downloadsNone"><translation>%1: z ciśnieniomierza niczego jeszcze nie pobrano.</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n pobranie. Nowe pomiary: %2.</numerusform><numerusform>%1: %n pobrania. Nowe pomiary: %2.</numerusform><numerusform>%1: %n pobrań. Nowe pomiary: %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Łączenie z ciśnieniomierzem…</translation></message>
+    <message id="downloadsTitle"><translation>Pobrania</translation></message>
     <message id="downloadStopping"><translation>Zatrzymywanie…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundę. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundy. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekund. Można je anulować: nic nie przepadnie.</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>Zaimportować można tylko pliki XML na tym komputerze. Poza listą: %1</translation></message>
     <message id="DupNewPatient"><translation>Jest już nowy pacjent, którego jeszcze nie zapisano: pierwszy na liście. Proszę go najpierw zapisać lub usunąć.</translation></message>
     <message id="EndDate"><translation>Ostatni dzień musi następować po pierwszym, tak aby okres obejmował co najmniej dwa dni. Daty pozostały bez zmian.</translation></message>
     <message id="endEarlier"><translation>Koniec o dzień wcześniej</translation></message>
@@ -406,7 +414,10 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fieldSmoker"><translation>Palenie tytoniu</translation></message>
     <message id="fieldWeightKg"><translation>Masa ciała (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Masa ciała (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>już tu jest</translation></message>
+    <message id="fileAlreadyHereHint"><translation>Pacjent o tym ID jest już na liście, więc import zostałby odrzucony.</translation></message>
     <message id="fileBeingRead"><translation>odczyt…</translation></message>
+    <message id="fileNotImportable"><translation>nie do zaimportowania</translation></message>
     <message id="fileNotReadable"><translation>nieczytelny</translation></message>
     <message id="fileTooLargeToCount"><translation>&gt; 64 MiB: nie policzono</translation></message>
     <message id="firstStepDownload"><translation>Proszę nacisnąć „Pobierz”. Pomiary pojawią się na wykresie i w tabeli.</translation></message>
@@ -428,6 +439,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="importButton"><translation>&amp;Importuj</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importuj %n plik</numerusform><numerusform>&amp;Importuj %n pliki</numerusform><numerusform>&amp;Importuj %n plików</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>Potem import anulowano; nie odczytano %n pliku.</numerusform><numerusform>Potem import anulowano; nie odczytano %n plików.</numerusform><numerusform>Potem import anulowano; nie odczytano %n plików.</numerusform></translation></message>
+    <message id="importDropped"><translation>Pliki upuszczone na okno</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>Zaimportowano %n plik:</numerusform><numerusform>Zaimportowano %n pliki:</numerusform><numerusform>Zaimportowano %n plików:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importuj…</translation></message>
     <message id="importFolder"><translation>Wybór folderu do importu</translation></message>
@@ -448,6 +460,17 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="infoRemark"><translation>Adnotacja</translation></message>
     <message id="infoSys"><translation>Skurczowe</translation></message>
     <message id="keep"><translation>&amp;Zachowaj</translation></message>
+    <message id="keysFirstLast"><translation>Pierwsze, ostatnie pomiary</translation></message>
+    <message id="keysFromReading"><translation>Od pomiaru do pomiaru</translation></message>
+    <message id="keysKey"><translation>Klawisz</translation></message>
+    <message id="keysManualHint"><translation>Otwórz podręcznik (F1).</translation></message>
+    <message id="keysMovePeriod"><translation>Przesuń okres</translation></message>
+    <message id="keysMoveScale"><translation>Przesuń skalę</translation></message>
+    <message id="keysPlace"><translation>Gdzie</translation></message>
+    <message id="keysTitle"><translation>Klawisze</translation></message>
+    <message id="keysWhat"><translation>Co robi</translation></message>
+    <message id="keysWholePeriod"><translation>Cały okres wstecz, naprzód</translation></message>
+    <message id="keysWidenPeriod"><translation>Wydłuż, skróć okres</translation></message>
     <message id="languageNotSaved"><translation>Język nie został zmieniony; pozostałe ustawienia są zapisane. %1</translation></message>
     <message id="lastDownload"><translation>Ostatnie pobranie</translation></message>
     <message id="lastDownloadNone"><translation>brak</translation></message>
@@ -469,19 +492,31 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="map"><translation>MAP</translation></message>
     <message id="menuAbout"><translation>&amp;O programie ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Kopie zapasowe…</translation></message>
+    <message id="menuCopyRows"><translation>Kopiuj wiersze</translation></message>
+    <message id="menuDeletePatient"><translation>Usuń pacjenta</translation></message>
+    <message id="menuDownload"><translation>Pobierz pomiary</translation></message>
+    <message id="menuDownloads"><translation>Pobrania…</translation></message>
     <message id="menuEdit"><translation>&amp;Edycja</translation></message>
     <message id="menuExportFhir"><translation>&amp;Eksportuj pacjenta jako FHIR…</translation></message>
     <message id="menuFile"><translation>&amp;Plik</translation></message>
+    <message id="menuFindPatient"><translation>Znajdź pacjenta</translation></message>
     <message id="menuHelp"><translation>Pomo&amp;c</translation></message>
+    <message id="menuKeys"><translation>&amp;Klawisze</translation></message>
     <message id="menuManual"><translation>&amp;Podręcznik</translation></message>
+    <message id="menuNewPatient"><translation>Nowy pacjent</translation></message>
     <message id="menuPrint"><translation>&amp;Drukuj…</translation></message>
     <message id="menuQuit"><translation>&amp;Zakończ</translation></message>
     <message id="menuRedo"><translation>&amp;Ponów</translation></message>
     <message id="menuRedoStep"><translation>&amp;Ponów: %1</translation></message>
+    <message id="menuSavePatient"><translation>Zapisz pacjenta</translation></message>
     <message id="menuSavePdf"><translation>Zapisz jako PD&amp;F…</translation></message>
+    <message id="menuSelectRows"><translation>Zaznacz wszystkie wiersze</translation></message>
+    <message id="menuSendID"><translation>Wyślij ID do ciśnieniomierza</translation></message>
     <message id="menuSettings"><translation>&amp;Ustawienia…</translation></message>
+    <message id="menuTimeChart"><translation>Wykres w czasie</translation></message>
     <message id="menuUndo"><translation>&amp;Cofnij</translation></message>
     <message id="menuUndoStep"><translation>&amp;Cofnij: %1</translation></message>
+    <message id="menuView"><translation>Widok</translation></message>
     <message id="minusDay"><translation>Mniej dni: o jeden mniej na każdym końcu okresu</translation></message>
     <message id="minusDayHint"><translation>Mniej dni: o jeden mniej na każdym końcu okresu (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM DD RRRR</translation></message>
@@ -573,7 +608,16 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="patientsDetail"><translation>Proszę wybrać pacjenta albo wpisać nowego.</translation></message>
     <message id="patientsInputFields"><translation>Potrzebne są nazwisko, imię i ID. Niczego jeszcze nie zapisano; proszę wypełnić oznaczone pola.</translation></message>
     <message id="patientTotal"><translation>Pacjenci</translation></message>
+    <message id="pdfChart"><translation>wykres</translation></message>
+    <message id="pdfComments"><translation>komentarze</translation></message>
+    <message id="pdfCorrelation"><translation>korelacja</translation></message>
     <message id="pdfFiles"><translation>Pliki PDF (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>rozkład</translation></message>
+    <message id="pdfProfile"><translation>karta pacjenta</translation></message>
+    <message id="pdfReadings"><translation>pomiary</translation></message>
+    <message id="pdfStatistics"><translation>statystyka i pomiary</translation></message>
+    <message id="pdfSummary"><translation>podsumowanie</translation></message>
+    <message id="pdfTrend"><translation>trend</translation></message>
     <message id="periodBar"><translation>Okres i pomiary do pokazania</translation></message>
     <message id="periodBegin"><translation>Pierwszy dzień okresu</translation></message>
     <message id="periodEnd"><translation>Ostatni dzień okresu</translation></message>

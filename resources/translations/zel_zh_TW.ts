@@ -278,11 +278,13 @@
 mmHg</translation></message>
     <message id="columnFile"><translation>檔案</translation></message>
     <message id="columnMam"><translation>MAM</translation></message>
+    <message id="columnPatient"><translation>病患</translation></message>
     <message id="columnPressure"><translation>%1
 mmHg</translation></message>
     <message id="columnPulse"><translation>脈搏
 次/分</translation></message>
     <message id="columnReadings"><translation>量測</translation></message>
+    <message id="columnState"><translation>狀態</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>時間</translation></message>
@@ -347,6 +349,7 @@ mmHg</translation></message>
     <message id="downloadButton"><translation>下載(&amp;D)</translation></message>
     <message id="downloadCancel"><translation>取消下載</translation></message>
     <message id="downloadCancelled"><translation>已取消下載。未儲存任何資料，量測仍在血壓計中。</translation></message>
+    <message id="downloadDayUnknown"><translation>不明</translation></message>
     <message id="downloadEmpty"><translation>血壓計中沒有量測。</translation></message>
     <message id="downloadFailed"><translation>無法下載量測，未儲存任何資料。量測仍在血壓計中。%1</translation></message>
     <message id="downloadFetched" numerus="yes"><translation><numerusform>已下載 %n 筆量測</numerusform></translation></message>
@@ -358,9 +361,14 @@ mmHg</translation></message>
     <message id="downloadNotStored"><translation>無法儲存量測。量測仍在血壓計中。%1</translation></message>
     <message id="downloadOtherMonitor"><translation>血壓計中的量測屬於另一個 ID，不是這位病患的，因此未儲存任何資料。請連接這位病患的血壓計後再試一次。</translation></message>
     <message id="downloadProgress"><translation>下載進度</translation></message>
+    <message id="downloadsNew"><translation>新量測</translation></message>
+    <message id="downloadsNone"><translation>%1：尚未從血壓計下載任何資料。</translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1：已下載 %n 次，新量測：%2。</numerusform></translation></message>
     <message id="downloadStarting"><translation>正在查詢血壓計…</translation></message>
+    <message id="downloadsTitle"><translation>下載紀錄</translation></message>
     <message id="downloadStopping"><translation>正在停止…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>血壓計沒有傳來資料。下載最多再等候 %n 秒。您可以取消，不會遺失任何資料。</numerusform></translation></message>
+    <message id="dropLeftOut"><translation>只能匯入這部電腦上的 XML 檔案。未列入清單：%1</translation></message>
     <message id="DupNewPatient"><translation>已有一位尚未儲存的新病患，位於清單最上方。請先儲存或刪除。</translation></message>
     <message id="EndDate"><translation>結束日期必須晚於開始日期，期間至少兩天。日期維持不變。</translation></message>
     <message id="endEarlier"><translation>結束日期提早一天</translation></message>
@@ -406,7 +414,10 @@ mmHg</translation></message>
     <message id="fieldSmoker"><translation>吸菸</translation></message>
     <message id="fieldWeightKg"><translation>體重 (kg)</translation></message>
     <message id="fieldWeightLb"><translation>體重 (lb)</translation></message>
+    <message id="fileAlreadyHere"><translation>已存在</translation></message>
+    <message id="fileAlreadyHereHint"><translation>清單中已有此 ID 的病患，匯入將被拒絕。</translation></message>
     <message id="fileBeingRead"><translation>讀取中…</translation></message>
+    <message id="fileNotImportable"><translation>無法匯入</translation></message>
     <message id="fileNotReadable"><translation>無法讀取</translation></message>
     <message id="fileTooLargeToCount"><translation>超過 64 MiB，未計算</translation></message>
     <message id="firstStepDownload"><translation>按「下載」。量測會顯示在圖表與表格中。</translation></message>
@@ -428,6 +439,7 @@ mmHg</translation></message>
     <message id="importButton"><translation>匯入(&amp;I)</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>匯入 %n 個檔案(&amp;I)</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>匯入隨後取消，有 %n 個檔案未讀取。</numerusform></translation></message>
+    <message id="importDropped"><translation>拖放到視窗上的檔案</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>已匯入 %n 個檔案：</numerusform></translation></message>
     <message id="importFilesButton"><translation>匯入(&amp;I)…</translation></message>
     <message id="importFolder"><translation>選擇要匯入的資料夾</translation></message>
@@ -448,6 +460,17 @@ mmHg</translation></message>
     <message id="infoRemark"><translation>附註</translation></message>
     <message id="infoSys"><translation>收縮壓</translation></message>
     <message id="keep"><translation>保留(&amp;K)</translation></message>
+    <message id="keysFirstLast"><translation>最早、最近的量測</translation></message>
+    <message id="keysFromReading"><translation>逐筆移動量測</translation></message>
+    <message id="keysKey"><translation>按鍵</translation></message>
+    <message id="keysManualHint"><translation>開啟使用手冊 (F1)。</translation></message>
+    <message id="keysMovePeriod"><translation>移動期間</translation></message>
+    <message id="keysMoveScale"><translation>移動刻度</translation></message>
+    <message id="keysPlace"><translation>位置</translation></message>
+    <message id="keysTitle"><translation>快速鍵</translation></message>
+    <message id="keysWhat"><translation>功能</translation></message>
+    <message id="keysWholePeriod"><translation>往前、往後整段期間</translation></message>
+    <message id="keysWidenPeriod"><translation>延長、縮短期間</translation></message>
     <message id="languageNotSaved"><translation>語言未變更；其他設定已儲存。%1</translation></message>
     <message id="lastDownload"><translation>上次下載</translation></message>
     <message id="lastDownloadNone"><translation>尚未下載</translation></message>
@@ -469,19 +492,31 @@ mmHg</translation></message>
     <message id="map"><translation>MAP</translation></message>
     <message id="menuAbout"><translation>關於 ZEL(&amp;A)</translation></message>
     <message id="menuBackups"><translation>備份(&amp;B)…</translation></message>
+    <message id="menuCopyRows"><translation>複製列</translation></message>
+    <message id="menuDeletePatient"><translation>刪除病患</translation></message>
+    <message id="menuDownload"><translation>下載量測</translation></message>
+    <message id="menuDownloads"><translation>下載紀錄…</translation></message>
     <message id="menuEdit"><translation>編輯(&amp;E)</translation></message>
     <message id="menuExportFhir"><translation>將病患匯出為 FHIR(&amp;E)…</translation></message>
     <message id="menuFile"><translation>檔案(&amp;F)</translation></message>
+    <message id="menuFindPatient"><translation>搜尋病患</translation></message>
     <message id="menuHelp"><translation>說明(&amp;H)</translation></message>
+    <message id="menuKeys"><translation>快速鍵(&amp;K)</translation></message>
     <message id="menuManual"><translation>使用手冊(&amp;M)</translation></message>
+    <message id="menuNewPatient"><translation>新增病患</translation></message>
     <message id="menuPrint"><translation>列印(&amp;P)…</translation></message>
     <message id="menuQuit"><translation>結束(&amp;Q)</translation></message>
     <message id="menuRedo"><translation>重做(&amp;R)</translation></message>
     <message id="menuRedoStep"><translation>重做：%1(&amp;R)</translation></message>
+    <message id="menuSavePatient"><translation>儲存病患</translation></message>
     <message id="menuSavePdf"><translation>儲存為 PDF(&amp;D)…</translation></message>
+    <message id="menuSelectRows"><translation>選取所有列</translation></message>
+    <message id="menuSendID"><translation>將 ID 傳送至血壓計</translation></message>
     <message id="menuSettings"><translation>設定(&amp;S)…</translation></message>
+    <message id="menuTimeChart"><translation>時間圖表</translation></message>
     <message id="menuUndo"><translation>復原(&amp;U)</translation></message>
     <message id="menuUndoStep"><translation>復原：%1(&amp;U)</translation></message>
+    <message id="menuView"><translation>檢視</translation></message>
     <message id="minusDay"><translation>減少天數：期間前後各少一天</translation></message>
     <message id="minusDayHint"><translation>減少天數：期間前後各少一天（−）</translation></message>
     <message id="mm dd yyyy"><translation>月 日 年</translation></message>
@@ -573,7 +608,16 @@ mmHg</translation></message>
     <message id="patientsDetail"><translation>請選擇病患，或新增一位病患。</translation></message>
     <message id="patientsInputFields"><translation>必須填寫姓氏、名字與 ID。尚未儲存任何資料，請填寫標示的欄位。</translation></message>
     <message id="patientTotal"><translation>病患</translation></message>
+    <message id="pdfChart"><translation>圖表</translation></message>
+    <message id="pdfComments"><translation>註記</translation></message>
+    <message id="pdfCorrelation"><translation>相關圖</translation></message>
     <message id="pdfFiles"><translation>PDF 檔案 (*.pdf)</translation></message>
+    <message id="pdfHistogram"><translation>數值分布</translation></message>
+    <message id="pdfProfile"><translation>病患基本資料</translation></message>
+    <message id="pdfReadings"><translation>量測紀錄</translation></message>
+    <message id="pdfStatistics"><translation>統計與量測</translation></message>
+    <message id="pdfSummary"><translation>摘要</translation></message>
+    <message id="pdfTrend"><translation>趨勢</translation></message>
     <message id="periodBar"><translation>要顯示的期間與量測</translation></message>
     <message id="periodBegin"><translation>期間的開始日期</translation></message>
     <message id="periodEnd"><translation>期間的結束日期</translation></message>

@@ -138,6 +138,13 @@ std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString&
     return std::nullopt;
 }
 
+QSet<QString> recordIDs(pugi::xml_node imported) {
+    QSet<QString> IDs;
+    for (const char* kind : personalKinds)
+        IDs.unite(textsOf(imported, kind, "ID"));
+    return IDs;
+}
+
 QString knownPatient(pugi::xml_node data, pugi::xml_node imported) {
     const QSet<QString> known = textsOf(data, "Patient", "ID");
     for (const char* kind : personalKinds) {

@@ -6,6 +6,7 @@
 #include "store/StoreError.h"
 #include "store/XmlDocument.h"
 
+#include <QSet>
 #include <QString>
 
 #include <tl/expected.hpp>
@@ -57,6 +58,9 @@ inline constexpr qint64 largestImport = largestFile;
 
 /// What is wrong with the patients of the document read from \p path, if anything.
 [[nodiscard]] std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString& path);
+
+/// Of the \p imported records of all kinds that belong to a patient.
+[[nodiscard]] QSet<QString> recordIDs(pugi::xml_node imported);
 
 /// An ID of the \p imported records, also of readings and comments without their patient, that a patient of
 /// \p data has; null if there is none.

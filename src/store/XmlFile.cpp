@@ -18,6 +18,22 @@ QString dayOf(const QFileInfo& file) {
     return (made.isValid() ? made : file.lastModified()).toString(u"yyyy/MM/dd"_s);
 }
 
+QString nameOf(pugi::xml_node patient) {
+    const QString family = childText(patient, "FamilyName").simplified();
+    const QString given = childText(patient, "GivenNames").simplified();
+    if (family.isEmpty() || given.isEmpty()) return family + given;
+    return family + u", "_s + given;
+}
+
+QStringList namesIn(pugi::xml_node root) {
+    QStringList names;
+    for (const pugi::xml_node node : root.children()) {
+        if (names.size() == XmlFile::namedPatients) break;
+        if (isElement(node, "Patient")) names += nameOf(node);
+    }
+    return names;
+}
+
 } // namespace
 
 XmlFile XmlFile::read(const QString& path) {
@@ -25,16 +41,21 @@ XmlFile XmlFile::read(const QString& path) {
     XmlFile file{.FullPath = path, .sFileName = info.fileName(), .backupTime = {}};
     if (!file.sFileName.endsWith(".xml"_L1)) return file;
     file.isLarge = info.size() > largestCounted;
+    if (info.size() > largestImport) file.fault = {ImportRefusalCode::tooLarge, path, {}, {}};
     if (file.isLarge) return file;
     const auto document = readImport(path);
     if (!document) {
         qCWarning(lcStore, "_export  create xml doc failed");
+        file.fault = document.error();
         return file;
     }
     for (const pugi::xml_node node : document->root().children()) {
         if (isElement(node, "MeasureRec")) ++file.measureRec;
         if (isElement(node, "Comment")) ++file.comment;
     }
+    file.patients = namesIn(document->root());
+    file.IDs = recordIDs(document->root());
+    file.fault = importFault(document->root(), path);
     file.backupTime = dayOf(info);
     return file;
 }

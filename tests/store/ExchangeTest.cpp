@@ -407,6 +407,7 @@ TEST_F(ExchangeTest, RefusedImportChangesNothing) {
     ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(largestImport + 1));
     EXPECT_EQ(store.importXml(large.fileName()).error().code, Refusal::tooLarge);
     EXPECT_TRUE(XmlFile::read(large.fileName()).isLarge);
+    EXPECT_EQ(XmlFile::read(large.fileName()).fault.value().code, Refusal::tooLarge);
 
     const QString good = importFile("<ZEL><Patient><ID>N</ID></Patient></ZEL>");
     {
@@ -432,11 +433,19 @@ TEST_F(ExchangeTest, ListEntryCountsWhatIsInTheFile) {
     EXPECT_EQ(read.FullPath, out.filePath(u"a b.xml"_s));
     EXPECT_EQ(read.sFileName, u"a b.xml"_s);
     EXPECT_EQ(std::pair(read.measureRec, read.comment), std::pair(3U, 2U));
+    EXPECT_FALSE(read.fault);
+    const XmlFile nameless =
+        entry(u"n.xml"_s, "<ZEL><Patient><ID> X </ID><GivenNames>Jo</GivenNames></Patient>"
+                          "<Patient/><Comment><ID>Y</ID></Comment></ZEL>");
+    EXPECT_EQ(nameless.patients, (QStringList{u"Jo"_s, {}}));
+    EXPECT_TRUE(nameless.IDs.contains(u"X"_s) && nameless.IDs.contains(u"Y"_s));
+    EXPECT_EQ(nameless.fault.value().code, Refusal::noID);
     EXPECT_EQ(read.backupTime, QFileInfo{read.FullPath}.birthTime().toString(u"yyyy/MM/dd"_s));
     for (const auto& [name, content] :
          {std::pair{u"a.XML"_s, sample}, std::pair{u"b.xml"_s, sample.left(99)}}) {
         const XmlFile unread = entry(name, content);
         EXPECT_FALSE(unread.isRead());
+        EXPECT_EQ(unread.fault.has_value(), name == "b.xml"_L1);
         EXPECT_EQ(unread.sFileName, name);
         EXPECT_EQ(unread.measureRec + unread.comment, 0U);
     }

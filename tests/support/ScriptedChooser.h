@@ -11,8 +11,10 @@ public:
         asked += title;
         return folder;
     }
-    QStringList chooseFiles(QWidget*) override {
+    QStringList chooseFiles(QWidget*, const ImportContext& context) override {
         asked += QStringLiteral("files");
+        listed = context;
+        whenListed();
         return files;
     }
     QString choosePdf(QWidget*, const QString&, const QString& name) override {
@@ -23,6 +25,8 @@ public:
     QString folder;
     QStringList files;
     QString pdf;
+    ImportContext listed; ///< what was last asked for files
+    std::function<void()> whenListed = [] {};
     QStringList asked; ///< titles; "files" for files, the proposed name for a PDF
 };
 

@@ -46,9 +46,14 @@ void PatientButtons::press(int key, const QPushButton& button) {
 
 void PatientButtons::enable(const Allowed& allowed) {
     deleteButton->setEnabled(allowed.change);
-    saveButton->setEnabled(allowed.change);
     sendIDButton->setEnabled(allowed.sendID);
     downloadButton->setEnabled(allowed.download);
+}
+
+void PatientButtons::enableSave(bool enabled) {
+    const bool hadFocus = saveButton->hasFocus();
+    saveButton->setEnabled(enabled);
+    if (hadFocus && !enabled) emit focusLost();
 }
 
 } // namespace zel

@@ -15,11 +15,13 @@ public:
 
     /// What can be done now; a new patient can be entered always.
     struct Allowed {
-        bool change = false; ///< saving and deleting
+        bool change = false; ///< deleting
         bool sendID = false;
         bool download = false;
     };
     void enable(const Allowed& allowed);
+    /// Only while there is something to save.
+    void enableSave(bool enabled);
 
 signals:
     void newWanted();
@@ -27,6 +29,7 @@ signals:
     void saveWanted();
     void sendIDWanted();
     void downloadWanted();
+    void focusLost(); ///< the save button had it and is greyed; the next button is none to press unawares
 
 private:
     QPushButton* addButton(const QString& name, const QString& text, const QString& hint);

@@ -192,6 +192,7 @@ void PatientEditor::showPatient(const PatientForm& record, const PatientEntry& t
     letTypeID();
     showUnits();
     showAge();
+    emit changed();
 }
 
 /// The data file keeps the ID of a patient, whom readings and comments belong to by it.
@@ -235,6 +236,7 @@ void PatientEditor::beginTyping() {
 void PatientEditor::edited(PatientField field) {
     if (judgedAt(field) == BirthYear) showAge();
     if (!box(field).problem().isEmpty()) judge(field);
+    emit changed();
 }
 
 void PatientEditor::judge(PatientField field) {

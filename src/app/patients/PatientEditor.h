@@ -40,6 +40,9 @@ public:
     void mark(const std::vector<PatientProblem>& found);
     void beginTyping(); ///< goes to the first field
 
+signals:
+    void changed(); ///< isChanged() may answer something else now
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -36,6 +36,7 @@ PatientViewController::PatientViewController(const Parts& needed)
     connect(&parts.status, &MonitorStatus::changed, this, &PatientViewController::enableButtons);
     connect(firstSteps, &FirstSteps::newWanted, this, &PatientViewController::btnNewPatient);
     connect(firstSteps, &FirstSteps::demonstrationWanted, this, &PatientViewController::demonstrationWanted);
+    connect(editor, &PatientEditor::changed, this, [this] { buttons->enableSave(isEdited()); });
     connect(sender, &PatientIDSender::sent, this, &PatientViewController::updateUIWanted);
     // A question is asked when the click or key that chose the patient is over, not in its midst.
     connect(roster, &PatientRoster::wanted, this, [this] {
@@ -81,6 +82,7 @@ PatientButtons* PatientViewController::makeButtons() {
     connect(made, &PatientButtons::downloadWanted, this, [this] {
         if (leave()) emit dataTransferWanted();
     });
+    connect(made, &PatientButtons::focusLost, roster, [this] { roster->setFocus(); });
     return made;
 }
 
@@ -393,6 +395,7 @@ bool PatientViewController::canSendID() const {
 void PatientViewController::enableButtons() {
     const bool isAnyone = isThere(store.getCurrentID());
     buttons->enable({.change = isAnyone, .sendID = canSendID(), .download = CanDataTransfer()});
+    buttons->enableSave(isEdited());
 }
 
 void PatientViewController::sendID() { sender->sendID(store.getCurrentID()); }

@@ -1,10 +1,10 @@
 #include "app/printing/PrintController.h"
 
+#include "app/printing/PdfName.h"
 #include "app/printing/PrintForm.h"
 #include "app/printing/PrinterController.h"
 #include "app/widgets/Log.h"
 #include "report/ReportPdf.h"
-#include "store/ExportFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -218,9 +218,10 @@ void PrintController::printAndClose() {
 
 void PrintController::savePdf() {
     const std::optional<Section> section = getPrintOption();
-    if (!section) return;
-    const QString name =
-        exportFileName(parts.store.getCurrentID(), u'-' + QLatin1StringView(facts(*section).key) + ".pdf"_L1);
+    const PatientModel* patient = parts.store.getPatientByID(parts.store.getCurrentID());
+    if (!section || !patient) return;
+    const auto today = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
+    const QString name = pdfName(parts.store, *patient, *section, today);
     const QString path = parts.chooser.choosePdf(this, qtTrId("savePdf"), name);
     if (path.isEmpty() || !view) return;
     const auto write = [&]() -> tl::expected<void, QString> {

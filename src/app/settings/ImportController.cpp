@@ -43,8 +43,16 @@ QString describe(const ImportOutcome& outcome) {
 ImportController::ImportController(const Parts& needed, QWidget* over)
     : QObject(over), parts(needed), window(over), progress(new StepProgress(u"importProgress"_s, over)) {}
 
-void ImportController::importFiles() {
-    const QStringList paths = parts.chooser.chooseFiles(window);
+void ImportController::importFiles() { importAll(parts.chooser.chooseFiles(window, context())); }
+
+void ImportController::importAmong(const QStringList& files, const QString& remark) {
+    ImportContext among = context();
+    among.files = files;
+    among.remark = remark;
+    importAll(parts.chooser.chooseFiles(window, among));
+}
+
+void ImportController::importAll(const QStringList& paths) {
     if (paths.isEmpty()) return;
     outcome = {};
     const int total = static_cast<int>(paths.size());
@@ -53,6 +61,11 @@ void ImportController::importFiles() {
                    .quickTotal = 5, // each writes the data file
                    .step = [this, paths](int place) { importOne(paths.at(place)); },
                    .finished = [this, total](int done) { finish(total - done); }});
+}
+
+ImportContext ImportController::context() const {
+    return {.isKnown = [this](const QString& ID) { return parts.store.validIDinXML(ID); },
+            .dateFormat = std::as_const(parts.store).getSetting().getDateFormat()};
 }
 
 void ImportController::importOne(const QString& path) {

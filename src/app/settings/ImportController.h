@@ -34,11 +34,15 @@ public:
     ImportController(const Parts& needed, QWidget* window);
 
     void importFiles();
+    /// Those of the files that the user wants. \p remark: for the user, about them
+    void importAmong(const QStringList& files, const QString& remark);
 
 signals:
     void imported(); ///< the data file holds new patients; emitted once for all files
 
 private:
+    [[nodiscard]] ImportContext context() const;
+    void importAll(const QStringList& paths);
     void importOne(const QString& path);
     void finish(int notReached);
 

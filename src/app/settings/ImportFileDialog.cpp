@@ -13,9 +13,12 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
 #include <QTableView>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -46,9 +49,11 @@ private:
 
 } // namespace
 
-ImportFileDialog::ImportFileDialog(FileChooser& chooser, const QString& first, QWidget* parent)
-    : QDialog(parent), folders(chooser), files(new XmlFileList(this)), lblFolder(new QLabel(this)),
-      btnFolder(new QPushButton(qtTrId("importFolderButton"), this)), tblFiles(new QTableView(this)),
+ImportFileDialog::ImportFileDialog(FileChooser& chooser, const QString& first, const ImportContext& context,
+                                   QWidget* parent)
+    : QDialog(parent), folders(chooser), files(new XmlFileList(context, this)), lblFolder(new QLabel(this)),
+      lblRemark(new QLabel(this)), btnFolder(new QPushButton(qtTrId("importFolderButton"), this)),
+      tblFiles(new QTableView(this)),
       noFiles(new EmptyState(u"noFiles"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),
       listOrAdvice(new QStackedWidget(this)), boxAll(new QCheckBox(qtTrId("importAll"), this)),
       btnImport(new QPushButton(this)), btnCancel(new QPushButton(qtTrId("cancel"), this)) {
@@ -61,7 +66,7 @@ ImportFileDialog::ImportFileDialog(FileChooser& chooser, const QString& first, Q
     connect(btnCancel, &QPushButton::clicked, this, &ImportFileDialog::reject);
     connect(boxAll, &QCheckBox::clicked, files, &XmlFileList::chooseAll);
     connect(files, &XmlFileList::chosenChanged, this, &ImportFileDialog::showChosen);
-    setFolder(first);
+    context.files.isEmpty() ? setFolder(first) : setFiles(context);
 }
 
 void ImportFileDialog::build() {
@@ -73,15 +78,21 @@ void ImportFileDialog::build() {
     column->setContentsMargins(16, 14, 16, 14);
     column->setSpacing(10);
     column->addLayout(makeFolderRow());
+    column->addWidget(lblRemark);
     column->addWidget(listOrAdvice, 1);
     column->addWidget(makeButtons());
-    resize(fontMetrics().averageCharWidth() * 88, fontMetrics().height() * 24);
+    const QSize wanted(fontMetrics().averageCharWidth() * 136, fontMetrics().height() * 24);
+    resize(wanted.boundedTo(screen()->availableSize() - QSize(40, 80)));
 }
 
 QHBoxLayout* ImportFileDialog::makeFolderRow() {
     lblFolder->setObjectName(u"lblFolder"_s);
     lblFolder->setTextFormat(Qt::PlainText);
     lblFolder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblRemark->setObjectName(u"lblRemark"_s);
+    lblRemark->setTextFormat(Qt::PlainText);
+    lblRemark->setWordWrap(true);
+    lblRemark->hide();
     btnFolder->setObjectName(u"btnFolder"_s);
     nameAsSeen(*btnFolder, btnFolder->text(), qtTrId("importFolder"));
     auto* row = new QHBoxLayout;
@@ -116,11 +127,15 @@ void ImportFileDialog::dressList() {
     tblFiles->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView* columns = tblFiles->horizontalHeader();
     const int character = tblFiles->fontMetrics().averageCharWidth();
-    for (const auto& [column, width] :
-         {std::pair(XmlFileList::readings, 14), std::pair(XmlFileList::comments, 14),
-          std::pair(XmlFileList::date, 18)}) {
+    constexpr int padding = 24; // of a title, both sides, and the bold type that some desktops give it
+    for (const auto& [column, width] : {std::pair(XmlFileList::readings, 12),
+                                        {XmlFileList::comments, 12},
+                                        {XmlFileList::date, 19},
+                                        {XmlFileList::state, 24}}) {
+        const QString title = files->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int needed = columns->fontMetrics().horizontalAdvance(title) + padding;
         columns->setSectionResizeMode(column, QHeaderView::Fixed);
-        columns->resizeSection(column, width * character);
+        columns->resizeSection(column, std::max(width * character, needed));
     }
 }
 
@@ -133,10 +148,21 @@ void ImportFileDialog::chooseFolder() {
 
 void ImportFileDialog::setFolder(const QString& path) {
     folder = path;
+    lblRemark->hide();
     files->setFolder(folder);
+    beginList();
+}
+
+void ImportFileDialog::setFiles(const ImportContext& context) {
+    lblRemark->setText(context.remark);
+    lblRemark->setVisible(!context.remark.isEmpty());
+    files->setFiles(context.files);
+    beginList();
+}
+
+void ImportFileDialog::beginList() {
     const bool any = files->rowCount() > 0;
     listOrAdvice->setCurrentWidget(any ? static_cast<QWidget*>(tblFiles) : noFiles);
-    boxAll->setEnabled(any);
     if (any) tblFiles->setCurrentIndex(files->index(0, XmlFileList::name));
     (any ? static_cast<QWidget*>(tblFiles) : btnFolder)->setFocus();
     showFolder();
@@ -144,7 +170,8 @@ void ImportFileDialog::setFolder(const QString& path) {
 
 /// The path's middle gives way, so that the folder's name stays to be seen.
 void ImportFileDialog::showFolder() {
-    const QString text = qtTrId("importFrom").arg(QDir::toNativeSeparators(folder));
+    const QString text = folder.isEmpty() ? qtTrId("importDropped")
+                                          : qtTrId("importFrom").arg(QDir::toNativeSeparators(folder));
     lblFolder->setText(lblFolder->fontMetrics().elidedText(text, Qt::ElideMiddle, lblFolder->width()));
     lblFolder->setToolTip(text);
     lblFolder->setAccessibleName(text);
@@ -155,7 +182,8 @@ void ImportFileDialog::showChosen() {
     btnImport->setEnabled(chosen > 0);
     btnImport->setText(chosen > 0 ? qtTrId("importButtonFiles", chosen) : qtTrId("importButton"));
     btnImport->setAccessibleName(withoutMnemonic(btnImport->text()));
-    boxAll->setChecked(chosen > 0 && chosen == files->rowCount());
+    boxAll->setEnabled(files->isAnyForAll());
+    boxAll->setChecked(chosen > 0 && files->areAllChosen());
 }
 
 void ImportFileDialog::resizeEvent(QResizeEvent* event) {

@@ -21,7 +21,8 @@ class ImportFileDialog final : public QDialog {
     Q_OBJECT
 public:
     /// \p folders is asked when the user wants another folder than \p folder.
-    ImportFileDialog(FileChooser& folders, const QString& folder, QWidget* parent);
+    ImportFileDialog(FileChooser& folders, const QString& folder, const ImportContext& context,
+                     QWidget* parent);
 
     [[nodiscard]] QStringList chosenFiles() const;
 
@@ -35,6 +36,8 @@ private:
     void dressList();
     void chooseFolder();
     void setFolder(const QString& path);
+    void setFiles(const ImportContext& context);
+    void beginList();
     void showFolder();
     void showChosen();
 
@@ -42,6 +45,7 @@ private:
     QString folder;
     XmlFileList* files;
     QLabel* lblFolder;
+    QLabel* lblRemark;
     QPushButton* btnFolder;
     QTableView* tblFiles;
     EmptyState* noFiles;

@@ -39,9 +39,9 @@ QString SelectFolderController::chooseFolder(QWidget* owner, const QString& titl
     return chosen;
 }
 
-QStringList SelectFolderController::chooseFiles(QWidget* owner) {
+QStringList SelectFolderController::chooseFiles(QWidget* owner, const ImportContext& context) {
     find();
-    ImportFileDialog dialog(*this, folder, owner);
+    ImportFileDialog dialog(*this, folder, context, owner);
     return dialog.exec() == QDialog::Accepted ? dialog.chosenFiles() : QStringList();
 }
 

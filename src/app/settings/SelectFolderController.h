@@ -13,7 +13,7 @@ public:
     /// \p memory: of the last folder, for the next start; it outlives this.
     explicit SelectFolderController(ViewMemory* memory = nullptr);
     [[nodiscard]] QString chooseFolder(QWidget* owner, const QString& title) override;
-    [[nodiscard]] QStringList chooseFiles(QWidget* owner) override;
+    [[nodiscard]] QStringList chooseFiles(QWidget* owner, const ImportContext& context) override;
     [[nodiscard]] QString choosePdf(QWidget* owner, const QString& title, const QString& name) override;
 
 private:

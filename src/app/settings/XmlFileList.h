@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/widgets/CallQueue.h"
+#include "app/widgets/FileChooser.h"
 #include "store/XmlFile.h"
 
 #include <QAbstractTableModel>
@@ -11,22 +12,28 @@
 
 namespace zel {
 
-/// The XML files of a folder with what is in them, each with a box to choose it. The names are there at once;
-/// the files are read on another thread, and each row gets its counts when its file has been read.
+/// The XML files of a folder with what is in them, each with a box to choose it, unless it is known that it
+/// cannot be imported. The names are there at once; the files are read on another thread, and each row gets
+/// its counts when its file has been read.
 class XmlFileList final : public QAbstractTableModel {
     Q_OBJECT
 public:
-    explicit XmlFileList(QObject* parent = nullptr);
+    explicit XmlFileList(ImportContext context, QObject* parent = nullptr);
 
     /// Lists the files of another folder, none of them chosen.
     void setFolder(const QString& folder);
+    /// Lists these files, all of them chosen that can be imported.
+    void setFiles(const QStringList& paths);
+    /// All but those whose patients are here already: each of these can be chosen by itself.
     void chooseAll(bool chosen);
+    [[nodiscard]] bool isAnyForAll() const;
+    [[nodiscard]] bool areAllChosen() const; ///< of those that chooseAll() chooses
     /// The full paths of the chosen files, in the list's order.
     [[nodiscard]] QStringList chosenFiles() const;
     /// Until every file stands in the list with what was found in it.
     [[nodiscard]] bool isReading() const { return reading; }
 
-    enum Column { name, readings, comments, date, columnTotal };
+    enum Column { name, patients, readings, comments, date, state, columnTotal };
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -43,6 +50,8 @@ private:
         XmlFile file;
         bool isRead = false; ///< its turn has come, whether or not the file could be read
         bool isChosen = false;
+        bool isHere = false; ///< someone in it has the ID of a patient of the data file
+        [[nodiscard]] bool isForAll() const { return !file.fault && !isHere; }
     };
     /// Reads one folder's files. When it goes, it first waits for the file in its hands; what it handed over
     /// and was not taken goes with it.
@@ -50,9 +59,15 @@ private:
         CallQueue calls;
         std::jthread thread;
     };
+    void list(const QStringList& paths, bool chosen);
     void read(const QStringList& paths);
     void fileRead(int row, const XmlFile& file);
     [[nodiscard]] QString text(const Row& row, Column column) const;
+    [[nodiscard]] QString dayOf(const XmlFile& file) const;
+    [[nodiscard]] static QString stateOf(const Row& row);
+    [[nodiscard]] static QString hint(const Row& row, const QString& text, Column column);
+
+    ImportContext context;
 
     std::vector<Row> rows;
     bool reading = false;

@@ -10,9 +10,13 @@
 #include "app/settings/BackupDialog.h"
 #include "app/settings/ExportController.h"
 #include "app/settings/SettingController.h"
+#include "app/shell/ContextMenus.h"
 #include "app/shell/Demonstration.h"
+#include "app/shell/FileDrop.h"
 #include "app/shell/HelpWindow.h"
+#include "app/shell/MenuDialogs.h"
 #include "app/shell/MonitorOffers.h"
+#include "app/shell/PageMenus.h"
 #include "app/shell/SplashWindow.h"
 #include "app/shell/UndoController.h"
 #include "app/shell/UnsavedFile.h"
@@ -50,6 +54,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
       pages{patientPage, graphPage, tablePage} {
     for (PageController* page : pages)
         window.addPage(*page);
+    makePageMenus();
     connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
     connect(&window, &MainWindow::settingWanted, this, &AppController::showSetting);
     connect(&window, &MainWindow::backupsWanted, this, &AppController::showBackups);
@@ -72,6 +77,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(courier, &BackupCourier::failed, this, [this](const QString& why) {
         parts.panel.interject(this, [this, why] { parts.panel.ShowMessage(why, qtTrId("Warning")); });
     });
+    connect(new FileDrop({needed.store, needed.panel, needed.chooser}, &window), &FileDrop::imported, this,
+            &AppController::reload);
     connectDataWatch();
     follower = new PeriodFollower(parts.store, parts.period, this);
     if (parts.memory)
@@ -92,6 +99,14 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(offers, &MonitorOffers::said, &window, &MainWindow::showOutcome);
     connect(new QShortcut(QKeySequence::Save, &window), &QShortcut::activated, this,
             &AppController::savePatient);
+}
+
+void AppController::makePageMenus() {
+    QMenuBar& bar = *window.menuBar();
+    const auto* menus = new PageMenus(window, bar);
+    auto* dialogs = new MenuDialogs(parts.store, *menus, bar, &window);
+    connect(dialogs, &MenuDialogs::manualWanted, this, &AppController::showHelp);
+    new ContextMenus(window, {dialogs->downloads()});
 }
 
 void AppController::connectDataWatch() {
@@ -255,7 +270,7 @@ void AppController::startDemonstration() {
 }
 
 void AppController::savePatient() {
-    if (patientPage->isVisible()) patientPage->btnSavePatient();
+    if (patientPage->isVisible() && patientPage->isEdited()) patientPage->btnSavePatient();
 }
 
 void AppController::enable2Tabs(bool enabled) { window.enable2Tabs(enabled); }

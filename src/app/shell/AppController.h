@@ -105,6 +105,7 @@ private:
     [[nodiscard]] bool showPatients();
     void startDemonstration();
     [[nodiscard]] PageController& pageInView() const;
+    void makePageMenus();
     void connectDataWatch();
     void end();
     void offerBackup(const StoreError& damage);

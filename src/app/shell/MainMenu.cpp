@@ -47,7 +47,7 @@ QMenuBar* makeMainMenu(MainWindow& window, const DataStore& store, const Monitor
     QObject::connect(edit, &EditMenu::redoWanted, &window, &MainWindow::redoWanted);
     bar->addMenu(edit);
     QMenu& help = *bar->addMenu(qtTrId("menuHelp"));
-    add(window, help, {u"showHelp"_s, qtTrId("menuManual"), Qt::Key_F1, &MainWindow::helpWanted});
+    add(window, help, {u"showHelp"_s, qtTrId("menuManual"), Qt::SHIFT | Qt::Key_F1, &MainWindow::helpWanted});
     add(window, help, {u"showAbout"_s, qtTrId("menuAbout"), {}, &MainWindow::aboutWanted});
     return bar;
 }

@@ -245,6 +245,39 @@ TEST_F(PatientPageTest, leavingAChangedPatientAsks) {
     EXPECT_EQ(value("FamilyName"), u"Baker"_s);
 }
 
+TEST_F(PatientPageTest, saveIsGreyWhileThereIsNothingToSave) {
+    start();
+    auto& saving = find<QPushButton>("btnSavePatient");
+    EXPECT_FALSE(saving.isEnabled());
+    type("PatientNotes", u"mine"_s);
+    EXPECT_TRUE(saving.isEnabled());
+    type("PatientNotes", {});
+    EXPECT_FALSE(saving.isEnabled()) << "as it was";
+    choose("Smoker", 1);
+    EXPECT_TRUE(saving.isEnabled());
+    panel.cancelsSaving = true;
+    clickRow(1);
+    EXPECT_EQ(store.getCurrentID(), u"P1"_s);
+    EXPECT_TRUE(saving.isEnabled()) << "cancelled: all is as before";
+    saving.setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(patient(u"P1"_s).Smoker, 1);
+    EXPECT_FALSE(saving.isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), &table()) << "a second press does something else by no means";
+    type("Weight", u"-3"_s);
+    EXPECT_TRUE(saving.isEnabled()) << "what is wrong is told, not hidden";
+    panel.cancelsSaving = false;
+    panel.answers[qtTrId("SavePatient")] = false;
+    click("btnNewPatient");
+    EXPECT_FALSE(saving.isEnabled());
+    type("GivenNames", u"Lou"_s);
+    EXPECT_TRUE(saving.isEnabled());
+    clickRow(1);
+    EXPECT_FALSE(saving.isEnabled());
+    clickRow(0);
+    EXPECT_TRUE(saving.isEnabled()) << "what was typed for the new one";
+}
+
 TEST_F(PatientPageTest, aRefusedSaveKeepsThePatientInView) {
     start();
     type("FamilyName", u"-"_s);

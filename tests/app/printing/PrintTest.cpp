@@ -281,7 +281,7 @@ TEST_F(PrintTest, aPdfIsWrittenWholeOrNotAtAll) {
     EXPECT_TRUE(panel.messages.empty()) << "the user changed their mind";
     chooser.pdf = good;
     click("savePdf");
-    EXPECT_EQ(chooser.asked.last(), u"P1-PatientProfile.pdf"_s);
+    EXPECT_EQ(chooser.asked.last(), u"Adams, Kim - "_s + qtTrId("pdfProfile") + u" 2026-11-21.pdf"_s);
     EXPECT_TRUE(pdf().startsWith("%PDF"));
     EXPECT_EQ(text("lblNote"), qtTrId("savedPdf").arg(good));
     EXPECT_TRUE(printing->isVisible());

@@ -25,8 +25,11 @@ namespace {
 class Folder : public QTemporaryDir {
 public:
     Folder() {
-        put(u"b.xml"_s, "<ZEL><Patient/><MeasureRec/><MeasureRec/><Comment/></ZEL>");
-        put(u"a.xml"_s, "<ZEL><Patient/></ZEL>");
+        put(u"b.xml"_s, "<ZEL><Patient><ID>B1</ID><FamilyName>Smith</FamilyName><GivenNames>Margaret"
+                        "</GivenNames></Patient><Patient><ID>B2</ID><FamilyName>&lt;i&gt;</FamilyName>"
+                        "</Patient><MeasureRec/><MeasureRec/><Comment/></ZEL>");
+        put(u"a.xml"_s, "<ZEL><Patient><ID>A</ID></Patient></ZEL>");
+        put(u"c.xml"_s, "<ZEL><Patient><ID>N1</ID></Patient><MeasureRec><ID>KNOWN</ID></MeasureRec></ZEL>");
         put(u"damaged.xml"_s, "<ZEL>");
         put(u"UPPER.XML"_s, "<ZEL/>");
         put(u"a.txt"_s, "<ZEL/>");
@@ -71,26 +74,59 @@ protected:
 
     Folder folder;
     ScriptedChooser folders;
-    ImportFileDialog dialog{folders, folder.path(), nullptr};
+    ImportFileDialog dialog{
+        folders,
+        folder.path(),
+        {.isKnown = [](const QString& ID) { return ID == "KNOWN"_L1; }, .dateFormat = u"dd/MM/yyyy"_s},
+        nullptr};
 };
 
 } // namespace
 
 TEST_F(ImportFileDialogTest, listsTheXMLFilesWithWhatIsInThem) {
-    ASSERT_EQ(list().rowCount(), 3) << "before any is read";
+    ASSERT_EQ(list().rowCount(), 4) << "before any is read";
     waitUntilRead();
-    const QString today = QDate::currentDate().toString(u"yyyy/MM/dd"_s);
-    EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, u"0"_s, u"0"_s, today}));
-    EXPECT_EQ(row(1), (QStringList{u"b.xml"_s, u"2"_s, u"1"_s, today}));
-    EXPECT_EQ(row(2), (QStringList{u"damaged.xml"_s, {}, {}, qtTrId("fileNotReadable")}));
+    const QString today = QDate::currentDate().toString(u"dd/MM/yyyy"_s);
+    EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, {}, u"0"_s, u"0"_s, today, {}}));
+    const QString names = u"Smith, Margaret"_s + qtTrId("; ") + u"<i>"_s;
+    EXPECT_EQ(row(1), (QStringList{u"b.xml"_s, names, u"2"_s, u"1"_s, today, {}}));
+    EXPECT_EQ(row(2), (QStringList{u"c.xml"_s, {}, u"1"_s, u"0"_s, today, qtTrId("fileAlreadyHere")}));
+    EXPECT_EQ(row(3), (QStringList{u"damaged.xml"_s, {}, {}, {}, {}, qtTrId("fileNotReadable")}));
+    const QVariant hint = list().index(1, XmlFileList::patients).data(Qt::ToolTipRole);
+    EXPECT_TRUE(hint.toString().contains(u"&lt;i&gt;"_s)) << "no name is markup";
     ASSERT_TRUE(QFile::resize(folder.filePath(u"a.xml"_s), XmlFile::largestCounted + 1));
     dialog.findChild<XmlFileList*>()->setFolder(folder.path());
     waitUntilRead();
-    EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, {}, {}, qtTrId("fileTooLargeToCount")}));
+    EXPECT_EQ(row(0), (QStringList{u"a.xml"_s, {}, {}, {}, {}, qtTrId("fileTooLargeToCount")}));
+    EXPECT_TRUE(list().flags(list().index(0, 0)) & Qt::ItemIsUserCheckable);
+}
+
+TEST_F(ImportFileDialogTest, whatCannotBeTakenHasNoBoxAndWhoIsHereIsNotTickedWithAll) {
+    dialog.show();
+    click("boxAll");
+    waitUntilRead();
+    EXPECT_EQ(names(), (QStringList{u"a.xml"_s, u"b.xml"_s})) << "what was ticked before it was known";
+    EXPECT_TRUE(find<QCheckBox>("boxAll").isChecked());
+    EXPECT_FALSE(list().index(3, 0).data(Qt::CheckStateRole).isValid());
+    EXPECT_FALSE(list().flags(list().index(3, 0)) & Qt::ItemIsUserCheckable);
+    clickRow(3, XmlFileList::name);
+    EXPECT_EQ(names().size(), 2);
+    const QString why = list().index(3, XmlFileList::state).data(Qt::ToolTipRole).toString();
+    EXPECT_TRUE(why.contains(u"damaged.xml"_s)) << qPrintable(why);
+    clickRow(2, XmlFileList::state);
+    EXPECT_EQ(names().last(), u"c.xml"_s) << "knowing it";
+    click("boxAll");
+    EXPECT_TRUE(names().isEmpty());
+    QFile::remove(folder.filePath(u"a.xml"_s));
+    QFile::remove(folder.filePath(u"b.xml"_s));
+    dialog.findChild<XmlFileList*>()->setFolder(folder.path());
+    waitUntilRead();
+    EXPECT_FALSE(find<QCheckBox>("boxAll").isEnabled()) << "there is nothing to take with it";
 }
 
 TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {
     dialog.show();
+    waitUntilRead();
     EXPECT_FALSE(find<QWidget>("btnImport").isEnabled());
     QTest::mouseClick(find<QTableView>("tblFiles").viewport(), Qt::RightButton, {}, {8, 8});
     EXPECT_TRUE(names().isEmpty());
@@ -103,8 +139,8 @@ TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {
     clickRow(1, XmlFileList::name);
     EXPECT_EQ(names(), QStringList(u"a.xml"_s));
     click("boxAll");
-    EXPECT_EQ(names().size(), 3);
-    clickRow(2, XmlFileList::date);
+    EXPECT_EQ(names().size(), 2);
+    clickRow(1, XmlFileList::date);
     EXPECT_FALSE(find<QCheckBox>("boxAll").isChecked());
     click("btnImport");
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
@@ -112,9 +148,10 @@ TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {
 
 TEST_F(ImportFileDialogTest, anotherFolderBeginsAnew) {
     dialog.show();
+    waitUntilRead();
     click("boxAll");
     click("btnFolder");
-    EXPECT_EQ(names().size(), 3) << "no folder was chosen";
+    EXPECT_EQ(names().size(), 2) << "no folder was chosen";
     folders.folder = folder.filePath(u"empty"_s);
     click("btnFolder");
     EXPECT_TRUE(find<QWidget>("noFiles").isVisible());
@@ -123,8 +160,25 @@ TEST_F(ImportFileDialogTest, anotherFolderBeginsAnew) {
     folders.folder = folder.path();
     click("btnFolder");
     waitUntilRead();
-    EXPECT_EQ(row(1).at(1), u"2"_s);
+    EXPECT_EQ(row(1).at(XmlFileList::readings), u"2"_s);
     EXPECT_TRUE(dialog.chosenFiles().isEmpty());
+}
+
+TEST_F(ImportFileDialogTest, filesThatAreGivenAreChosenAsFarAsTheyCanBe) {
+    QStringList given;
+    for (const char* name : {"damaged.xml", "b.xml", "empty/none.xml"})
+        given += folder.filePath(QLatin1StringView(name));
+    ImportFileDialog list(folders, folder.path(), {.files = given, .remark = u"<b>not these"_s}, nullptr);
+    list.show();
+    waitFor([&] { return !list.findChild<XmlFileList*>()->isReading(); });
+    EXPECT_EQ(list.chosenFiles(), QStringList(given.at(1)));
+    const auto& remark = *list.findChild<QLabel*>(u"lblRemark"_s);
+    EXPECT_TRUE(remark.isVisible() && remark.textFormat() == Qt::PlainText);
+    EXPECT_EQ(list.findChild<QLabel*>(u"lblFolder"_s)->accessibleName(), qtTrId("importDropped"));
+    folders.folder = folder.path();
+    QTest::mouseClick(list.findChild<QWidget*>(u"btnFolder"_s), Qt::LeftButton);
+    EXPECT_FALSE(remark.isVisible());
+    EXPECT_TRUE(list.chosenFiles().isEmpty());
 }
 
 TEST_F(ImportFileDialogTest, theChooserRemembersItsFolderAndReportsACancel) {
@@ -138,16 +192,17 @@ TEST_F(ImportFileDialogTest, theChooserRemembersItsFolderAndReportsACancel) {
         QMetaObject::invokeMethod(&box, "accept");
     });
     EXPECT_EQ(chooser.chooseFolder(nullptr, u"title"_s), folder.path());
-    inDialog([](QWidget& box) {
+    inDialog([this](QWidget& box) {
+        waitFor([&] { return !box.findChild<XmlFileList*>()->isReading(); });
         QTest::mouseClick(box.findChild<QWidget*>(u"boxAll"_s), Qt::LeftButton);
         QTest::mouseClick(box.findChild<QWidget*>(u"btnImport"_s), Qt::LeftButton);
     });
-    EXPECT_EQ(chooser.chooseFiles(nullptr).size(), 3);
+    EXPECT_EQ(chooser.chooseFiles(nullptr, {}).size(), 3);
     inDialog([](QWidget& box) {
         QTest::mouseClick(box.findChild<QWidget*>(u"boxAll"_s), Qt::LeftButton);
         QTest::keyClick(&box, Qt::Key_Escape);
     });
-    EXPECT_TRUE(chooser.chooseFiles(nullptr).isEmpty());
+    EXPECT_TRUE(chooser.chooseFiles(nullptr, {}).isEmpty());
     inDialog([this](QWidget& box) {
         dynamic_cast<QFileDialog&>(box).setDirectory(folder.filePath(u"empty"_s));
         dynamic_cast<QFileDialog&>(box).selectFile(u"report"_s);
@@ -158,7 +213,7 @@ TEST_F(ImportFileDialogTest, theChooserRemembersItsFolderAndReportsACancel) {
         EXPECT_TRUE(box.findChild<QWidget*>(u"noFiles"_s)->isVisible()) << "the same folder";
         QTest::keyClick(&box, Qt::Key_Escape);
     });
-    EXPECT_TRUE(chooser.chooseFiles(nullptr).isEmpty());
+    EXPECT_TRUE(chooser.chooseFiles(nullptr, {}).isEmpty());
 }
 
 } // namespace zel

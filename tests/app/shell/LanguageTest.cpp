@@ -100,6 +100,11 @@ protected:
         lookAtDialog(find<QDialog>("PrintController"));
         app->showBackups();
         lookAtDialog(find<QDialog>("BackupDialog"));
+        for (const auto& [action, dialog] :
+             {std::pair("showKeys", "KeysDialog"), {"showDownloads", "DownloadsDialog"}}) {
+            find<QAction>(action).trigger();
+            lookAtDialog(find<QDialog>(dialog));
+        }
         click("tableBtn");
         settle();
         lookAtDialogOf("newReading");

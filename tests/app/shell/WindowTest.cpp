@@ -131,7 +131,7 @@ TEST_F(WindowTest, saysInItsLogWhatTheUserDoes) {
              click("cancelButton");
          },
          "awakeFromNib of setting\nsetSelectItem can't find 25-hours"},
-        {[this] { press(Qt::Key_F1); }, "showHelp " + cache.toStdString() + "/help.pdf"},
+        {[this] { press(Qt::Key_F1, Qt::ShiftModifier); }, "showHelp " + cache.toStdString() + "/help.pdf"},
     };
     for (const Step& step : steps) {
         step.action();

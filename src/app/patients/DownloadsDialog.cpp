@@ -1,0 +1,112 @@
+#include "app/patients/DownloadsDialog.h"
+
+#include "app/widgets/Mnemonic.h"
+#include "app/widgets/PatientTexts.h"
+#include "app/widgets/TableLook.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <functional>
+#include <numeric>
+
+namespace zel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum DownloadColumn { downloadDay, downloadTime, downloadCount, downloadColumns };
+
+/// Of a log that other programs wrote, the day may be missing.
+QString timeOf(const Date& when, const SettingModel& settings) {
+    if (isNilDate(when)) return {};
+    if (!settings.is12Hours()) return DateToStr(when, u"HH:mm"_s);
+    const bool isMorning = DateToStr(when, u"HH"_s).toInt() < 12;
+    return (isMorning ? qtTrId("%1 A") : qtTrId("%1 P")).arg(DateToStr(when, u"hh:mm"_s));
+}
+
+QString dayOf(const Date& when, const SettingModel& settings) {
+    const QString format = settings.getDateFormat();
+    return isNilDate(when) ? qtTrId("downloadDayUnknown")
+                           : DateToStr(when, format.isNull() ? u"yyyy/MM/dd"_s : format);
+}
+
+QTableWidgetItem* cell(const QString& text, Qt::Alignment side) {
+    auto* item = new QTableWidgetItem(text);
+    item->setTextAlignment(side | Qt::AlignVCenter);
+    return item;
+}
+
+} // namespace
+
+DownloadsDialog::DownloadsDialog(const DataStore& dataStore, QWidget* parent)
+    : QDialog(parent), store(dataStore), lblDownloads(new QLabel(this)),
+      tblDownloads(new QTableWidget(0, downloadColumns, this)) {
+    setObjectName(u"DownloadsDialog"_s);
+    setWindowTitle(qtTrId("downloadsTitle"));
+    setAccessibleName(qtTrId("downloadsTitle"));
+    setModal(true);
+    build();
+    fill();
+}
+
+void DownloadsDialog::build() {
+    lblDownloads->setObjectName(u"lblDownloads"_s);
+    lblDownloads->setTextFormat(Qt::PlainText);
+    lblDownloads->setWordWrap(true);
+    tblDownloads->setObjectName(u"tblDownloads"_s);
+    tblDownloads->setAccessibleName(qtTrId("downloadsTitle"));
+    tblDownloads->setHorizontalHeaderLabels(
+        {qtTrId("backupDay"), qtTrId("columnTime"), qtTrId("downloadsNew")});
+    tblDownloads->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    dressTable(*tblDownloads);
+    tblDownloads->setSelectionMode(QAbstractItemView::SingleSelection);
+    tblDownloads->horizontalHeaderItem(downloadCount)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    tblDownloads->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    auto* close = new QPushButton(qtTrId("backupClose"), this);
+    close->setObjectName(u"btnCloseDownloads"_s);
+    close->setAccessibleName(withoutMnemonic(close->text()));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 14, 16, 14);
+    column->setSpacing(10);
+    column->addWidget(lblDownloads);
+    column->addWidget(tblDownloads, 1);
+    column->addWidget(close, 0, Qt::AlignRight);
+    resize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 22);
+}
+
+void DownloadsDialog::fill() {
+    DataLogList downloads = store.getTrasferLogForCurID();
+    std::ranges::stable_sort(downloads, std::greater(), &DataTransferLogModel::transferDate);
+    tblDownloads->setRowCount(static_cast<int>(downloads.size()));
+    int row = 0;
+    for (const DataTransferLogModel& download : downloads) {
+        const SettingModel& settings = store.getSetting();
+        tblDownloads->setItem(row, downloadDay, cell(dayOf(download.transferDate, settings), Qt::AlignLeft));
+        tblDownloads->setItem(row, downloadTime,
+                              cell(timeOf(download.transferDate, settings), Qt::AlignLeft));
+        tblDownloads->setItem(row++, downloadCount,
+                              cell(QString::number(download.numofRecord), Qt::AlignRight));
+    }
+    if (row > 0) tblDownloads->setCurrentCell(0, downloadDay);
+    lblDownloads->setText(summary());
+}
+
+QString DownloadsDialog::summary() const {
+    const DataLogList& downloads = store.getTrasferLogForCurID();
+    if (downloads.empty()) return qtTrId("downloadsNone").arg(patientHeading(store));
+    const auto add = [](qint64 sum, const DataTransferLogModel& one) { return sum + one.numofRecord; };
+    const qint64 total = std::accumulate(downloads.begin(), downloads.end(), qint64{0}, add);
+    return qtTrId("downloadsSummary", static_cast<int>(downloads.size()))
+        .arg(patientHeading(store))
+        .arg(total);
+}
+
+} // namespace zel
