@@ -13,6 +13,7 @@ namespace zel::cli {
 [[nodiscard]] Command backupCommand();
 [[nodiscard]] Command downloadCommand();
 [[nodiscard]] Command exportCsvCommand();
+[[nodiscard]] Command exportTableCommand();
 [[nodiscard]] Command exportXmlCommand();
 [[nodiscard]] Command importCommand();
 [[nodiscard]] Command monitorCommand();
@@ -24,7 +25,7 @@ namespace zel::cli {
 [[nodiscard]] Command statisticsCommand();
 
 /// Every command, in the order in which the help lists them.
-[[nodiscard]] std::array<Command, 13> commands();
+[[nodiscard]] std::array<Command, 14> commands();
 [[nodiscard]] std::optional<Command> commandByName(const QString& name);
 
 /// Does what \p arguments (without the program's name) ask for. \return the exit status
