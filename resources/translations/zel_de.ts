@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: Ein Patient mit der ID „%2“ ist schon in der Liste. Patienten werden nie überschrieben; aus der Datei wurde deshalb nichts übernommen.</translation></message>
     <message id="ImportBadID"><translation>%1: Die ID „%2“ in der Datei enthält einen Zeilenumbruch oder ein anderes Steuerzeichen. Damit ließe sie sich weder speichern noch an ein Messgerät senden. Aus der Datei wurde nichts übernommen.</translation></message>
+    <message id="ImportBadLines"><translation>%1: Zeilen der Tabelle lassen sich nicht übernehmen. Aus ihr wurde nichts übernommen.</translation></message>
+    <message id="ImportMissingColumn"><translation>%1: Die Tabelle hat keine Spalte „%2“ oder mehr als eine. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportNoFile"><translation>Das ist keine gewöhnliche Datei.</translation></message>
     <message id="ImportNoID"><translation>%1: Ein Patient in der Datei hat keine ID. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportNoPatient"><translation>%1: Die Datei enthält keinen Patienten. Es wurde nichts übernommen.</translation></message>
+    <message id="ImportNoReading"><translation>%1: Die Tabelle enthält keine Messung. Es wurde nichts übernommen.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1: Ein Patient mit der ID „%2“ ist nicht mehr in der Liste. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportNotFlushed"><translation>%1: Alles ist gespeichert, aber der Datenträger hat das nicht bestätigt: Nach einem Stromausfall könnte es fehlen.</translation></message>
     <message id="ImportNotReadable"><translation>%1: Die Datei ist nicht lesbar oder wurde nicht von diesem Programm exportiert. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportNotStored"><translation>%1: Der Inhalt der Datei konnte nicht gespeichert werden. Aus ihr wurde nichts übernommen.</translation></message>
+    <message id="ImportOtherNames"><translation>%1: Der Patient mit der ID „%2“ heißt in der Liste anders als in der Tabelle; die Messungen könnten von jemand anderem sein. Aus der Datei wurde nichts übernommen. Um sie dennoch zu übernehmen, leeren Sie die Zellen mit den Namen.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: Zwei Patienten in der Datei haben dieselbe ID, „%2“. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportTooLarge"><translation>%1: Die Datei ist größer als 512 MiB. Aus ihr wurde nichts übernommen.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: Die Tabelle hat mehr als 200 000 Zeilen. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="LanguageMissing"><translation>--language braucht eine der Sprachen %1</translation></message>
     <message id="languageTag"><translation>de</translation></message>
     <message id="LanguageTwice"><translation>--language kann nur einmal angegeben werden</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>Die Datendatei %1 ist größer als 512 MiB; solche Dateien liest dieses Programm nicht. Sie bleibt unverändert, und es kann nichts gespeichert werden: Legen Sie eine kleinere Sicherung an ihre Stelle, oder verschieben Sie sie, um mit einer neuen zu beginnen.</translation></message>
     <message id="StoreUnreadable"><translation>Die Datendatei %1 wurde nicht verändert: Was gespeichert werden sollte, ließ sich anschließend nicht wieder lesen.</translation></message>
     <message id="StoreWriteFailed"><translation>Das Schreiben der Datendatei %1 ist fehlgeschlagen; die Datei wurde nicht verändert. Bitte prüfen Sie, ob der Datenträger voll ist, und versuchen Sie es dann noch einmal.</translation></message>
+    <message id="TableCell"><translation>„%1“ kann nicht in der Spalte „%2“ stehen.</translation></message>
+    <message id="TableCells"><translation>Sie hat %1 Zellen, die Titelzeile %2.</translation></message>
+    <message id="TableDateAmbiguous"><translation>„%1“ kann mehr als ein Tag sein. Geben Sie mit --dates an, welcher es ist: dmy, mdy oder ymd.</translation></message>
+    <message id="TableLine"><translation>Zeile %1: %2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>… und %n weitere Zeile</numerusform><numerusform>… und %n weitere Zeilen</numerusform></translation></message>
+    <message id="TableNoTime"><translation>„%1“ ist kein Datum mit vierstelligem Jahr und einer Uhrzeit.</translation></message>
+    <message id="TableNotUtf8"><translation>Ihr Text ist nicht UTF-8. Bitte speichern Sie sie in dem Programm, aus dem sie stammt, als „CSV UTF-8“.</translation></message>
+    <message id="TableOtherNames"><translation>Der Patient „%1“ heißt in einer früheren Zeile anders.</translation></message>
+    <message id="TableOtherPatient"><translation>Die Messung gehört dem Patienten „%1“, nicht „%2“.</translation></message>
+    <message id="TableQuotation"><translation>Ein Anführungszeichen ist am Ende seiner Zelle nicht geschlossen.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1 ist nicht lesbar; darin steht, ab welchen Grenzwerten Werte markiert werden. Bis neue Grenzwerte gewählt sind, werden Werte ab %2/%3 mmHg markiert.</translation></message>
     <message id="Warning"><translation>Warnung</translation></message>
     <message id="XmlAttributeTwice"><translation>Ein Element hat dasselbe Attribut zweimal.</translation></message>
@@ -1066,7 +1082,10 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliChangeOfNothing"><translation>--change braucht mindestens eines von --date, --time, --sys, --dia und --pulse.</translation></message>
     <message id="CliClockUnread"><translation>Die Uhr des Messgeräts konnte nicht gelesen werden. %1</translation></message>
     <message id="CliClockUnset"><translation>Die Uhr des Messgeräts konnte nicht gestellt werden. %1</translation></message>
+    <message id="CliColumnsForm"><translation>--columns nennt die Titel der Spalten, etwa date=Datum,time=Zeit,sys=Systole,dia=Diastole,pulse=Puls; nur time darf fehlen.</translation></message>
+    <message id="CliColumnsHelp"><translation>Bei der Tabelle eines anderen Programms gibt --columns an, was ihre Spalten sind.</translation></message>
     <message id="CliCountUnread"><translation>Die Anzahl der Messungen im Messgerät konnte nicht gelesen werden. %1</translation></message>
+    <message id="CliDatesForm"><translation>--dates nimmt dmy, mdy oder ymd, nicht '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>Die Messungen konnten nicht ausgelesen werden, und es wurde nichts gespeichert. %1 Sie sind weiterhin im Messgerät: Bitte versuchen Sie es noch einmal.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Die Messungen sind gespeichert, aber die Datendatei konnte anschließend nicht gelesen werden; das Messgerät wurde deshalb nicht geleert. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Die ausgelesenen Messungen konnten nicht gespeichert werden. %1 Sie sind weiterhin im Messgerät.</translation></message>
@@ -1083,7 +1102,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliFolderMissing"><translation>Es fehlt der Ordner für den Export.</translation></message>
     <message id="CliForceReplaces"><translation>--force ersetzt sie.</translation></message>
     <message id="CliFromAfterTo"><translation>Der Tag von --from liegt nach dem Tag von --to.</translation></message>
-    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE]] [--language TAG]
         zel COMMAND [OPTION]...
 
 Verwaltet die Messungen automatischer Blutdruckmessgeräte, Patient für Patient.
@@ -1098,7 +1117,8 @@ Ohne Befehl öffnet sich ein Fenster. Die Befehle leisten dasselbe ohne Fenster,
   report     den Bericht eines Patienten als PDF schreiben
   export-xml alle Patienten oder einen als XML-Dateien exportieren
   export-csv einen Patienten mit seinen Messungen als CSV-Datei exportieren
-  import     Patienten aus exportierten XML-Dateien übernehmen
+  export-table Messungen als Tabelle für Tabellenkalkulationen exportieren
+  import     Patienten aus exportierten XML-Dateien oder Messungen aus Tabellen übernehmen
   settings   die Einstellungen anzeigen oder einige ändern
   backup     die Sicherungen der Datendatei auflisten, eine anlegen oder zu einer zurückkehren
   privacy    angeben, ob andere die Datendatei lesen können, oder ihnen den Zugriff verwehren
@@ -1107,7 +1127,6 @@ Optionen:
   --simulated-monitor[=FILE]   statt eines USB-Geräts ein simuliertes Messgerät verwenden, das eingebaute
                                oder das in FILE beschriebene
   --language TAG               die Sprache der Meldungen und Berichte, etwa de
-  --reset-view                 vergessen, wie das Fenster zuletzt war: Platz, Seite, Patient, Spalten
   -h, --help                   diesen Text anzeigen; 'zel COMMAND --help' erklärt einen Befehl
   --version                    die Version anzeigen
 
@@ -1205,6 +1224,20 @@ Optionen:
   --force                      schon vorhandene Dateien ersetzen, statt sie unverändert zu lassen
   --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
   -h, --help                   diesen Text anzeigen</translation></message>
+    <message id="CliHelpExportTable"><translation>Aufruf: zel export-table DIR [--patient ID] [--force]
+        zel export-table FILE.csv [--patient ID] [--force]
+
+Schreibt Messungen als Tabelle für Tabellenkalkulationen: in den Ordner DIR eine Datei 'ID.table.csv' für jeden
+Patienten oder als FILE.csv eine Tabelle aller Patienten. Gibt für jede 'written: FILE' aus. Die Tabelle ist
+UTF-8, mit einer Titelzeile und einer Zeile je Messung, zeitlich geordnet, mit Patient, Werten, Befunden, der
+Herkunft der Messung, ob und warum sie ausgeschlossen ist, und dem Kommentar zu ihrem Tag. Texte, mit denen
+eine Tabellenkalkulation rechnen würde, beginnen mit einem Apostroph. 'zel import' übernimmt die Tabelle wieder.
+
+Optionen:
+  --patient ID                 nur dieser Patient
+  --force                      schon vorhandene Dateien ersetzen, statt sie unverändert zu lassen
+  --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
+  -h, --help                   diesen Text anzeigen</translation></message>
     <message id="CliHelpExportXml"><translation>Aufruf: zel export-xml DIR [--patient ID] [--force]
 
 Schreibt jeden Patienten mit Messungen und Kommentaren als eigene XML-Datei in den Ordner DIR und gibt für
@@ -1218,13 +1251,25 @@ Optionen:
   --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
   -h, --help                   diesen Text anzeigen</translation></message>
     <message id="CliHelpImport"><translation>Aufruf: zel import FILE...
+        zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-Übernimmt die Patienten exportierter XML-Dateien mit ihren Messungen und Kommentaren. Eine Datei wird ganz
-oder gar nicht übernommen: nicht, wenn einer ihrer Patienten schon in der Liste ist. Nicht übernommene Dateien
-werden mit dem Grund auf der Standardfehlerausgabe genannt. Gibt aus, wie viele Dateien übernommen und
-abgelehnt wurden und wie viele Patienten, Messungen und Kommentare sie brachten, je Zeile ein 'key: value'.
+Übernimmt die Patienten exportierter XML-Dateien mit ihren Messungen und Kommentaren oder die von Tabellen, die
+'zel export-table' geschrieben hat. Eine Datei wird ganz oder gar nicht übernommen: nicht, wenn einer ihrer
+Patienten schon in der Liste ist. Nicht übernommene Dateien werden mit dem Grund auf der Standardfehlerausgabe
+genannt, bei einer Tabelle jede fehlerhafte Zeile mit ihrer Nummer. Gibt aus, wie viele Dateien übernommen und
+abgelehnt wurden und wie viele Patienten, Messungen und Kommentare sie brachten, je Zeile ein 'key: value'; bei
+einer Tabelle auch, wie viele Messungen schon bekannt waren: Sie werden nicht verdoppelt.
+
+Mit --patient werden die Messungen einer Tabelle zu einem Patienten der Liste hinzugefügt. Mit --columns ist es
+die Tabelle eines anderen Programms, etwa --columns "date=Datum,time=Zeit,sys=Systole,dia=Diastole,pulse=Puls"
+mit den Titeln ihrer ersten Zeile; time entfällt, wenn die Zeit hinter dem Datum steht. Solche Messungen gelten
+als von Hand eingegeben. Ihre Spalten trennt ein Komma, Semikolon oder Tabulator. Das Datum ist wie 2026-11-21,
+wenn nicht --dates sagt, in welcher Reihenfolge Tag, Monat und Jahr stehen.
 
 Optionen:
+  --patient ID                 wem die Messungen einer Tabelle gehören sollen
+  --columns LIST               die Titel der Spalten eines anderen Programms
+  --dates dmy|mdy|ymd          wie dort das Datum geschrieben ist
   --simulated-monitor[=FILE]   angenommen wie überall; dieser Befehl braucht kein Messgerät
   -h, --help                   diesen Text anzeigen</translation></message>
     <message id="CliHelpMonitor"><translation>Aufruf: zel monitor [OPTION]...
@@ -1403,6 +1448,7 @@ Optionen:
     <message id="CliNoSuchReading"><translation>der Patient hat keine Messung mit der Nummer %1 (zel readings --numbers gibt die Nummern aus)</translation></message>
     <message id="CliNoSuchRule"><translation>Es gibt keine Regel '%1'. Die Regeln sind %2.</translation></message>
     <message id="CliNoSuchSection"><translation>Es gibt keinen Abschnitt '%1'. Die Abschnitte sind all oder beliebige von %2, mit Kommas dazwischen.</translation></message>
+    <message id="CliNoTable"><translation>%1: --patient ist für Tabellen mit Messungen; diese Datei ist keine oder nicht lesbar. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="CliNotExcluded"><translation>die Messung %1 ist nicht ausgeschlossen</translation></message>
     <message id="CliNotTogether"><translation>--%1 und --%2 passen nicht zusammen</translation></message>
     <message id="CliOneJob"><translation>Nur eines von --set-clock, --send-id und --erase ist auf einmal möglich.</translation></message>
@@ -1423,6 +1469,7 @@ Optionen:
     <message id="CliSettingTwice"><translation>Die Einstellung %1 ist mehr als einmal angegeben.</translation></message>
     <message id="CliSettingUnknown"><translation>Es gibt keine Einstellung '%1'. Es gibt diese: %2.</translation></message>
     <message id="CliSettingValue"><translation>Zulässig für %1: %2; nicht '%3'.</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID fügt die Messungen einer Tabelle zu einem Patienten der Liste hinzu.</translation></message>
     <message id="CliTryHelp"><translation>Versuchen Sie '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' wird hier nicht erwartet.</translation></message>
     <message id="CliUnknownCommand"><translation>Es gibt keinen Befehl '%1'.</translation></message>

@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: a patient with the ID “%2” is already in the list. Patients are never overwritten, so nothing was taken from the file.</translation></message>
     <message id="ImportBadID"><translation>%1: the ID “%2” in the file has a line end or another control character in it, with which it could never be saved or sent to a monitor. Nothing was taken from the file.</translation></message>
+    <message id="ImportBadLines"><translation>%1: lines of the table cannot be taken. Nothing was taken from it.</translation></message>
+    <message id="ImportMissingColumn"><translation>%1: the table has no column “%2”, or more than one. Nothing was taken from it.</translation></message>
     <message id="ImportNoFile"><translation>It is no regular file.</translation></message>
     <message id="ImportNoID"><translation>%1: a patient in the file has no ID. Nothing was taken from it.</translation></message>
     <message id="ImportNoPatient"><translation>%1: there is no patient in the file. Nothing was taken from it.</translation></message>
+    <message id="ImportNoReading"><translation>%1: there is no reading in the table. Nothing was taken from it.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1: no patient with the ID “%2” is in the list any more. Nothing was taken from the file.</translation></message>
     <message id="ImportNotFlushed"><translation>%1: all of it is stored, but the disk did not confirm that: after a power cut it may be missing.</translation></message>
     <message id="ImportNotReadable"><translation>%1: the file cannot be read, or is none that this program has exported. Nothing was taken from it.</translation></message>
     <message id="ImportNotStored"><translation>%1: what the file holds could not be stored. Nothing was taken from it.</translation></message>
+    <message id="ImportOtherNames"><translation>%1: the patient with the ID “%2” has another name in the list than in the table, so the readings may be another person’s. Nothing was taken from the file. To take them all the same, empty the cells with the names.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: two patients in the file have the same ID, “%2”. Nothing was taken from it.</translation></message>
     <message id="ImportTooLarge"><translation>%1: the file is larger than 512 MiB. Nothing was taken from it.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: the table has more than 200,000 lines. Nothing was taken from it.</translation></message>
     <message id="LanguageMissing"><translation>--language needs a language, one of %1</translation></message>
     <message id="languageTag"><translation>en</translation></message>
     <message id="LanguageTwice"><translation>--language can be given only once</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>The data file %1 is larger than 512 MiB, which this program does not read. It is left as it is, and nothing can be saved: put a smaller copy in its place, or move it away to start with a new one.</translation></message>
     <message id="StoreUnreadable"><translation>The data file %1 was left as it was: what was to be saved could not be read again afterwards.</translation></message>
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
+    <message id="TableCell"><translation>“%1” cannot stand in the column “%2”.</translation></message>
+    <message id="TableCells"><translation>It has %1 cells, and the line of titles %2.</translation></message>
+    <message id="TableDateAmbiguous"><translation>“%1” may be more than one day. Say with --dates which it is: dmy, mdy or ymd.</translation></message>
+    <message id="TableLine"><translation>Line %1: %2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>… and %n more line</numerusform><numerusform>… and %n more lines</numerusform></translation></message>
+    <message id="TableNoTime"><translation>“%1” is no date with a year of four digits and a time.</translation></message>
+    <message id="TableNotUtf8"><translation>Its text is not UTF-8. Please save it as “CSV UTF-8” in the program that it comes from.</translation></message>
+    <message id="TableOtherNames"><translation>The patient “%1” has another name in an earlier line.</translation></message>
+    <message id="TableOtherPatient"><translation>The reading is of the patient “%1”, not of “%2”.</translation></message>
+    <message id="TableQuotation"><translation>A quotation mark is not closed at the end of its cell.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1, which says from where on values are marked, cannot be read. Until limits are chosen anew, values are marked from %2/%3 mmHg on.</translation></message>
     <message id="Warning"><translation>Warning</translation></message>
     <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
@@ -1066,7 +1082,10 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliChangeOfNothing"><translation>--change needs at least one of --date, --time, --sys, --dia and --pulse.</translation></message>
     <message id="CliClockUnread"><translation>The monitor's clock could not be read. %1</translation></message>
     <message id="CliClockUnset"><translation>The monitor's clock could not be set. %1</translation></message>
+    <message id="CliColumnsForm"><translation>--columns takes the titles of the columns, as in date=Date,time=Time,sys=Systolic,dia=Diastolic,pulse=Pulse; only time may be missing.</translation></message>
+    <message id="CliColumnsHelp"><translation>For another program’s table, --columns says what its columns are.</translation></message>
     <message id="CliCountUnread"><translation>The number of readings in the monitor could not be read. %1</translation></message>
+    <message id="CliDatesForm"><translation>--dates takes dmy, mdy or ymd, not '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>The readings could not be downloaded, and nothing was stored. %1 They are still in the monitor: please try again.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>The readings are stored, but the data file could not be read afterwards, so that the monitor was not erased. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>The downloaded readings could not be stored. %1 They are still in the monitor.</translation></message>
@@ -1083,7 +1102,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
-    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG]
        zel COMMAND [OPTION]...
 
 Keeps the readings of automatic blood-pressure monitors, patient by patient.
@@ -1098,7 +1117,8 @@ Without a command a window opens. The commands do the same jobs without one, on 
   report     write a patient's report as a PDF
   export-xml export all patients, or one, as XML files
   export-csv export a patient and the readings as a CSV file
-  import     take in patients from exported XML files
+  export-table export readings as a table for spreadsheets
+  import     take in patients from exported XML files, or readings from tables
   settings   show the settings, or change some
   backup     list the copies of the data file, make one, or go back to one
   privacy    tell whether others can read the data file, or keep them out
@@ -1106,7 +1126,6 @@ Without a command a window opens. The commands do the same jobs without one, on 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
   --language TAG               the language of messages and reports, such as de or zh_TW
-  --reset-view                 forget how the window was left: place, page, patient, columns, folder
   -h, --help                   show this text; 'zel COMMAND --help' tells about a command
   --version                    show the version
 
@@ -1198,6 +1217,20 @@ Options:
   --force                      replace files that are there already, instead of leaving them as they are
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
+    <message id="CliHelpExportTable"><translation>Usage: zel export-table DIR [--patient ID] [--force]
+       zel export-table FILE.csv [--patient ID] [--force]
+
+Writes readings as a table for spreadsheets: into the folder DIR a file 'ID.table.csv' for each patient, or as
+FILE.csv one table of all patients. Prints 'written: FILE' for each. The table is UTF-8 with one line of titles
+and one line a reading, in the order of time, with patient, values, findings, where the reading comes from,
+whether and why it is left out, and the comment on its day. Texts that a spreadsheet would calculate begin with
+an apostrophe. 'zel import' takes the table in again.
+
+Options:
+  --patient ID                 only this patient
+  --force                      replace files that are there already, instead of leaving them as they are
+  --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
+  -h, --help                   show this text</translation></message>
     <message id="CliHelpExportXml"><translation>Usage: zel export-xml DIR [--patient ID] [--force]
 
 Writes each patient, with readings and comments, as an XML file of its own into the folder DIR, and prints
@@ -1210,13 +1243,24 @@ Options:
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpImport"><translation>Usage: zel import FILE...
+       zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-Takes in the patients of XML files that were exported, with their readings and comments. A file is taken
-as a whole or not at all: not if one of its patients is in the list already. Files that are not taken are
-named on standard error, with the reason. Prints how many files were taken and refused, and how many
-patients, readings and comments they brought, one 'key: value' a line.
+Takes in the patients of XML files that were exported, with their readings and comments, or those of tables that
+'zel export-table' wrote. A file is taken as a whole or not at all: not if one of its patients is in the list
+already. Files that are not taken are named on standard error, with the reason; of a table every line that is at
+fault, by its number. Prints how many files were taken and refused, and how many patients, readings and comments
+they brought, one 'key: value' a line; with a table also how many readings were known: they are not doubled.
+
+With --patient the readings of a table are added to a patient who is in the list. With --columns it is another
+program's table, as in --columns "date=Date,time=Time,sys=Systolic,dia=Diastolic,pulse=Pulse", where the titles
+are those of its first line; time is left out where it stands behind the date. Such readings count as typed in.
+Commas, semicolons and tabs part its columns. Dates are as 2026-11-21 unless --dates says in which order day,
+month and year stand.
 
 Options:
+  --patient ID                 whose readings a table's are to be
+  --columns LIST               the titles of another program's columns
+  --dates dmy|mdy|ymd          how its dates are written
   --simulated-monitor[=FILE]   accepted as everywhere; this command needs no monitor
   -h, --help                   show this text</translation></message>
     <message id="CliHelpMonitor"><translation>Usage: zel monitor [OPTION]...
@@ -1388,6 +1432,7 @@ Options:
     <message id="CliNoSuchReading"><translation>the patient has no reading with the number %1 (zel readings --numbers prints the numbers)</translation></message>
     <message id="CliNoSuchRule"><translation>There is no rule '%1'. The rules are %2.</translation></message>
     <message id="CliNoSuchSection"><translation>There is no section '%1'. The sections are all, or any of %2, with commas between them.</translation></message>
+    <message id="CliNoTable"><translation>%1: --patient is for tables of readings, and this file is none, or cannot be read. Nothing was taken from it.</translation></message>
     <message id="CliNotExcluded"><translation>the reading %1 is not left out</translation></message>
     <message id="CliNotTogether"><translation>--%1 and --%2 do not go together</translation></message>
     <message id="CliOneJob"><translation>Only one of --set-clock, --send-id and --erase can be done at a time.</translation></message>
@@ -1408,6 +1453,7 @@ Options:
     <message id="CliSettingTwice"><translation>The setting %1 is given more than once.</translation></message>
     <message id="CliSettingUnknown"><translation>There is no setting '%1'. These are: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 takes %2, not '%3'.</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID adds the readings of a table to a patient who is in the list.</translation></message>
     <message id="CliTryHelp"><translation>Try '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>
     <message id="CliUnknownCommand"><translation>There is no command '%1'.</translation></message>

@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: ya hay en la lista un paciente con el ID «%2». Los datos de un paciente nunca se sobrescriben, así que no se ha importado nada de este archivo.</translation></message>
     <message id="ImportBadID"><translation>%1: el ID «%2» del archivo contiene un salto de línea u otro carácter de control; con él no se podría guardar ni enviar a un tensiómetro. No se ha importado nada de este archivo.</translation></message>
+    <message id="ImportBadLines"><translation>%1: hay líneas de la tabla que no se pueden importar. No se ha importado nada de ella.</translation></message>
+    <message id="ImportMissingColumn"><translation>%1: la tabla no tiene ninguna columna «%2», o tiene más de una. No se ha importado nada de ella.</translation></message>
     <message id="ImportNoFile"><translation>No es un archivo normal.</translation></message>
     <message id="ImportNoID"><translation>%1: un paciente del archivo no tiene ID. No se ha importado nada de él.</translation></message>
     <message id="ImportNoPatient"><translation>%1: no hay ningún paciente en el archivo. No se ha importado nada de él.</translation></message>
+    <message id="ImportNoReading"><translation>%1: no hay ninguna medición en la tabla. No se ha importado nada de ella.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1: en la lista ya no hay ningún paciente con el ID «%2». No se ha importado nada de este archivo.</translation></message>
     <message id="ImportNotFlushed"><translation>%1: todo está guardado, pero el disco no lo ha confirmado: tras un corte de corriente podría faltar.</translation></message>
     <message id="ImportNotReadable"><translation>%1: el archivo no se puede leer o no lo ha exportado este programa. No se ha importado nada de él.</translation></message>
     <message id="ImportNotStored"><translation>%1: no se ha podido guardar el contenido del archivo. No se ha importado nada de él.</translation></message>
+    <message id="ImportOtherNames"><translation>%1: el paciente con el ID «%2» tiene en la lista otro nombre que en la tabla; las mediciones podrían ser de otra persona. No se ha importado nada de este archivo. Para importarlas de todos modos, vacíe las celdas de los nombres.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: dos pacientes del archivo tienen el mismo ID, «%2». No se ha importado nada de él.</translation></message>
     <message id="ImportTooLarge"><translation>%1: el archivo ocupa más de 512 MiB. No se ha importado nada de él.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: la tabla tiene más de 200 000 líneas. No se ha importado nada de ella.</translation></message>
     <message id="LanguageMissing"><translation>--language necesita un idioma, uno de estos: %1</translation></message>
     <message id="languageTag"><translation>es</translation></message>
     <message id="LanguageTwice"><translation>--language solo se puede indicar una vez</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>El archivo de datos %1 ocupa más de 512 MiB, y este programa no lee archivos tan grandes. Se deja como está y no se puede guardar nada: ponga una copia más pequeña en su lugar o muévalo a otro sitio para empezar con uno nuevo.</translation></message>
     <message id="StoreUnreadable"><translation>El archivo de datos %1 se ha dejado como estaba: lo que se iba a guardar no se podía volver a leer después.</translation></message>
     <message id="StoreWriteFailed"><translation>Ha fallado la escritura del archivo de datos %1, y el archivo se ha dejado como estaba. Compruebe que el disco no está lleno y vuelva a intentarlo.</translation></message>
+    <message id="TableCell"><translation>«%1» no puede figurar en la columna «%2».</translation></message>
+    <message id="TableCells"><translation>Tiene %1 celdas, y la línea de los títulos %2.</translation></message>
+    <message id="TableDateAmbiguous"><translation>«%1» puede ser más de un día. Indique cuál con --dates: dmy, mdy o ymd.</translation></message>
+    <message id="TableLine"><translation>Línea %1: %2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>… y %n línea más</numerusform><numerusform>… y %n líneas más</numerusform></translation></message>
+    <message id="TableNoTime"><translation>«%1» no es una fecha con un año de cuatro cifras y una hora.</translation></message>
+    <message id="TableNotUtf8"><translation>Su texto no es UTF-8. Guárdelo como «CSV UTF-8» en el programa del que procede.</translation></message>
+    <message id="TableOtherNames"><translation>El paciente «%1» tiene otro nombre en una línea anterior.</translation></message>
+    <message id="TableOtherPatient"><translation>La medición es del paciente «%1», no de «%2».</translation></message>
+    <message id="TableQuotation"><translation>Unas comillas no se cierran al final de su celda.</translation></message>
     <message id="ViewLimitsUnread"><translation>No se puede leer %1, donde consta a partir de qué límites se marcan los valores. Mientras no se elijan otros, se marcan a partir de %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Aviso</translation></message>
     <message id="XmlAttributeTwice"><translation>Un elemento tiene dos veces el mismo atributo.</translation></message>
@@ -1066,7 +1082,10 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliChangeOfNothing"><translation>--change necesita al menos una de estas opciones: --date, --time, --sys, --dia y --pulse.</translation></message>
     <message id="CliClockUnread"><translation>No se ha podido leer el reloj del tensiómetro. %1</translation></message>
     <message id="CliClockUnset"><translation>No se ha podido ajustar el reloj del tensiómetro. %1</translation></message>
+    <message id="CliColumnsForm"><translation>--columns lleva los títulos de las columnas, por ejemplo date=Fecha,time=Hora,sys=Sistólica,dia=Diastólica,pulse=Pulso; solo puede faltar time.</translation></message>
+    <message id="CliColumnsHelp"><translation>Para la tabla de otro programa, --columns indica qué son sus columnas.</translation></message>
     <message id="CliCountUnread"><translation>No se ha podido leer el número de mediciones del tensiómetro. %1</translation></message>
+    <message id="CliDatesForm"><translation>--dates admite dmy, mdy o ymd, no '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>No se han podido descargar las mediciones y no se ha guardado nada. %1 Siguen en el tensiómetro: vuelva a intentarlo.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Las mediciones se han guardado, pero después no se ha podido leer el archivo de datos, así que no se ha vaciado la memoria del tensiómetro. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>No se han podido guardar las mediciones descargadas. %1 Siguen en el tensiómetro.</translation></message>
@@ -1083,7 +1102,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo reemplaza.</translation></message>
     <message id="CliFromAfterTo"><translation>El día de --from es posterior al de --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
      zel COMMAND [OPTION]...
 
 Conserva las mediciones de tensiómetros automáticos, paciente por paciente.
@@ -1098,7 +1117,8 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
   report     escribir el informe de un paciente como PDF
   export-xml exportar todos los pacientes, o uno, como archivos XML
   export-csv exportar un paciente y sus mediciones como archivo CSV
-  import     incorporar pacientes de archivos XML exportados
+  export-table exportar mediciones como tabla para hojas de cálculo
+  import     incorporar pacientes de archivos XML exportados, o mediciones de tablas
   settings   mostrar la configuración, o cambiarla en parte
   backup     listar las copias del archivo de datos, hacer una o volver a una
   privacy    decir si otros pueden leer el archivo de datos, o impedírselo
@@ -1106,7 +1126,6 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
 Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
-  --reset-view                 olvidar cómo quedó la ventana: lugar, página, paciente, columnas
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión
 
@@ -1200,6 +1219,20 @@ Opciones:
   --force                      reemplazar los archivos que ya existan, en vez de dejarlos como están
   --simulated-monitor[=FILE]   se admite como en todas las órdenes; esta no necesita tensiómetro
   -h, --help                   mostrar este texto</translation></message>
+    <message id="CliHelpExportTable"><translation>Uso: zel export-table DIR [--patient ID] [--force]
+     zel export-table FILE.csv [--patient ID] [--force]
+
+Escribe las mediciones como tabla para hojas de cálculo: en la carpeta DIR, un archivo 'ID.table.csv' por
+paciente o, como FILE.csv, una sola tabla de todos los pacientes. Muestra 'written: FILE' por cada una. La
+tabla es UTF-8, con una línea de títulos y una línea por medición, en orden temporal, con el paciente, los
+valores, los hallazgos, el origen de la medición, si está excluida y por qué, y el comentario de su día. Los
+textos que una hoja de cálculo calcularía empiezan con un apóstrofo. 'zel import' vuelve a incorporar la tabla.
+
+Opciones:
+  --patient ID                 solo este paciente
+  --force                      reemplazar los archivos que ya existan, en vez de dejarlos como están
+  --simulated-monitor[=FILE]   se admite como en todas las órdenes; esta no necesita tensiómetro
+  -h, --help                   mostrar este texto</translation></message>
     <message id="CliHelpExportXml"><translation>Uso: zel export-xml DIR [--patient ID] [--force]
 
 Escribe cada paciente, con sus mediciones y comentarios, como un archivo XML propio en la carpeta DIR, y
@@ -1213,13 +1246,25 @@ Opciones:
   --simulated-monitor[=FILE]   se admite como en todas las órdenes; esta no necesita tensiómetro
   -h, --help                   mostrar este texto</translation></message>
     <message id="CliHelpImport"><translation>Uso: zel import FILE...
+     zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-Incorpora los pacientes de archivos XML exportados, con sus mediciones y comentarios. Cada archivo se
-incorpora entero o no se incorpora: queda fuera si uno de sus pacientes ya está en la lista. Los archivos no
-incorporados se indican en la salida de error, con el motivo. Muestra cuántos archivos se han incorporado y
-cuántos se han rechazado, y cuántos pacientes, mediciones y comentarios han aportado, en líneas 'key: value'.
+Incorpora los pacientes de archivos XML exportados, con sus mediciones y comentarios, o los de tablas escritas
+por 'zel export-table'. Cada archivo se incorpora entero o no se incorpora: queda fuera si uno de sus pacientes
+ya está en la lista. Los archivos no incorporados se indican en la salida de error, con el motivo; de una tabla,
+cada línea con errores, con su número. Muestra cuántos archivos se han incorporado y cuántos se han rechazado, y
+cuántos pacientes, mediciones y comentarios han aportado, en líneas 'key: value'; con una tabla, también cuántas
+mediciones ya se conocían: no se duplican.
+
+Con --patient, las mediciones de una tabla se añaden a un paciente de la lista. Con --columns es la tabla de
+otro programa, por ejemplo --columns "date=Fecha,time=Hora,sys=Sistólica,dia=Diastólica,pulse=Pulso", con los
+títulos de su primera línea; time se omite si la hora sigue a la fecha. Esas mediciones cuentan como introducidas
+a mano. Las columnas se separan con comas, puntos y comas o tabuladores. Las fechas son como 2026-11-21, salvo
+que --dates indique el orden de día, mes y año.
 
 Opciones:
+  --patient ID                 a quién añadir las mediciones de una tabla
+  --columns LIST               los títulos de las columnas de otro programa
+  --dates dmy|mdy|ymd          cómo están escritas sus fechas
   --simulated-monitor[=FILE]   se admite como en todas las órdenes; esta no necesita tensiómetro
   -h, --help                   mostrar este texto</translation></message>
     <message id="CliHelpMonitor"><translation>Uso: zel monitor [OPTION]...
@@ -1394,6 +1439,7 @@ Opciones:
     <message id="CliNoSuchReading"><translation>el paciente no tiene ninguna medición con el número %1 (zel readings --numbers muestra los números)</translation></message>
     <message id="CliNoSuchRule"><translation>No hay ninguna regla '%1'. Las reglas son %2.</translation></message>
     <message id="CliNoSuchSection"><translation>No hay ninguna sección '%1'. Las secciones son all, o cualquiera de %2, separadas por comas.</translation></message>
+    <message id="CliNoTable"><translation>%1: --patient es para tablas de mediciones; este archivo no lo es o no se puede leer. No se ha importado nada de él.</translation></message>
     <message id="CliNotExcluded"><translation>la medición %1 no está excluida</translation></message>
     <message id="CliNotTogether"><translation>--%1 y --%2 no van juntas</translation></message>
     <message id="CliOneJob"><translation>Solo se puede hacer a la vez una de estas cosas: --set-clock, --send-id o --erase.</translation></message>
@@ -1414,6 +1460,7 @@ Opciones:
     <message id="CliSettingTwice"><translation>El valor de configuración %1 se ha indicado más de una vez.</translation></message>
     <message id="CliSettingUnknown"><translation>No hay ningún valor de configuración '%1'. Los que hay son: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 no admite '%3'; admite %2.</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID añade las mediciones de una tabla a un paciente de la lista.</translation></message>
     <message id="CliTryHelp"><translation>Pruebe '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' no se esperaba aquí.</translation></message>
     <message id="CliUnknownCommand"><translation>No hay ninguna orden '%1'.</translation></message>

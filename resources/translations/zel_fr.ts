@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1 : un patient ayant l’ID « %2 » figure déjà dans la liste. Un patient n’est jamais écrasé ; rien n’a donc été importé de ce fichier.</translation></message>
     <message id="ImportBadID"><translation>%1 : l’ID « %2 » du fichier contient une fin de ligne ou un autre caractère de contrôle ; il ne pourrait être ni enregistré ni envoyé à un tensiomètre. Rien n’a été importé de ce fichier.</translation></message>
+    <message id="ImportBadLines"><translation>%1 : des lignes du tableau ne peuvent pas être importées. Rien n’a été importé.</translation></message>
+    <message id="ImportMissingColumn"><translation>%1 : le tableau n’a pas de colonne « %2 », ou en a plusieurs. Rien n’a été importé.</translation></message>
     <message id="ImportNoFile"><translation>Ce n’est pas un fichier ordinaire.</translation></message>
     <message id="ImportNoID"><translation>%1 : un patient du fichier n’a pas d’ID. Rien n’a été importé.</translation></message>
     <message id="ImportNoPatient"><translation>%1 : le fichier ne contient aucun patient. Rien n’a été importé.</translation></message>
+    <message id="ImportNoReading"><translation>%1 : le tableau ne contient aucune mesure. Rien n’a été importé.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1 : aucun patient ayant l’ID « %2 » ne figure plus dans la liste. Rien n’a été importé de ce fichier.</translation></message>
     <message id="ImportNotFlushed"><translation>%1 : tout est enregistré, mais le disque ne l’a pas confirmé : ces données pourraient manquer après une coupure de courant.</translation></message>
     <message id="ImportNotReadable"><translation>%1 : le fichier est illisible ou n’a pas été exporté par ce programme. Rien n’a été importé.</translation></message>
     <message id="ImportNotStored"><translation>%1 : le contenu du fichier n’a pas pu être enregistré. Rien n’a été importé.</translation></message>
+    <message id="ImportOtherNames"><translation>%1 : le patient ayant l’ID « %2 » n’a pas le même nom dans la liste que dans le tableau ; les mesures sont peut-être celles d’une autre personne. Rien n’a été importé de ce fichier. Pour les importer malgré tout, videz les cellules des noms.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1 : deux patients du fichier ont le même ID, « %2 ». Rien n’a été importé.</translation></message>
     <message id="ImportTooLarge"><translation>%1 : le fichier dépasse 512 Mio. Rien n’a été importé.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1 : le tableau a plus de 200 000 lignes. Rien n’a été importé.</translation></message>
     <message id="LanguageMissing"><translation>--language attend une langue, parmi %1</translation></message>
     <message id="languageTag"><translation>fr</translation></message>
     <message id="LanguageTwice"><translation>--language ne peut être indiquée qu’une fois</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>Le fichier de données %1 dépasse 512 Mio et n’est donc pas lu par ce programme. Il est laissé tel quel, et rien ne peut être enregistré : remplacez-le par une copie plus petite, ou déplacez-le pour en commencer un nouveau.</translation></message>
     <message id="StoreUnreadable"><translation>Le fichier de données %1 a été laissé tel quel : ce qui devait être enregistré n’a pas pu être relu.</translation></message>
     <message id="StoreWriteFailed"><translation>L’écriture du fichier de données %1 a échoué ; le fichier a été laissé tel quel. Veuillez vérifier que le disque n’est pas plein, puis réessayer.</translation></message>
+    <message id="TableCell"><translation>« %1 » ne peut pas figurer dans la colonne « %2 ».</translation></message>
+    <message id="TableCells"><translation>Elle a %1 cellules, et la ligne des titres %2.</translation></message>
+    <message id="TableDateAmbiguous"><translation>« %1 » peut désigner plusieurs jours. Indiquez lequel avec --dates : dmy, mdy ou ymd.</translation></message>
+    <message id="TableLine"><translation>Ligne %1 : %2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>… et %n autre ligne</numerusform><numerusform>… et %n autres lignes</numerusform></translation></message>
+    <message id="TableNoTime"><translation>« %1 » n’est pas une date avec une année à quatre chiffres et une heure.</translation></message>
+    <message id="TableNotUtf8"><translation>Son texte n’est pas en UTF-8. Enregistrez-le au format « CSV UTF-8 » dans le programme dont il provient.</translation></message>
+    <message id="TableOtherNames"><translation>Le patient « %1 » a un autre nom dans une ligne précédente.</translation></message>
+    <message id="TableOtherPatient"><translation>La mesure est celle du patient « %1 », et non de « %2 ».</translation></message>
+    <message id="TableQuotation"><translation>Un guillemet n’est pas fermé à la fin de sa cellule.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1, qui indique à partir de quelles valeurs marquer les mesures, est illisible. Tant que d’autres limites ne sont pas choisies, les valeurs sont marquées à partir de %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Attention</translation></message>
     <message id="XmlAttributeTwice"><translation>Un élément comporte deux fois le même attribut.</translation></message>
@@ -1066,7 +1082,10 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliChangeOfNothing"><translation>--change demande au moins l’une des options --date, --time, --sys, --dia et --pulse.</translation></message>
     <message id="CliClockUnread"><translation>L’horloge du tensiomètre n’a pas pu être lue. %1</translation></message>
     <message id="CliClockUnset"><translation>L’horloge du tensiomètre n’a pas pu être réglée. %1</translation></message>
+    <message id="CliColumnsForm"><translation>--columns prend les titres des colonnes, par exemple date=Date,time=Heure,sys=Systole,dia=Diastole,pulse=Pouls ; seul time peut manquer.</translation></message>
+    <message id="CliColumnsHelp"><translation>Pour le tableau d’un autre programme, --columns indique ce que sont ses colonnes.</translation></message>
     <message id="CliCountUnread"><translation>Le nombre de mesures dans le tensiomètre n’a pas pu être lu. %1</translation></message>
+    <message id="CliDatesForm"><translation>--dates prend dmy, mdy ou ymd, et non '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>Les mesures n’ont pas pu être transférées, et rien n’a été enregistré. %1 Elles sont toujours dans le tensiomètre : veuillez réessayer.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Les mesures sont enregistrées, mais le fichier de données n’a pas pu être relu ensuite ; le tensiomètre n’a donc pas été vidé. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Les mesures transférées n’ont pas pu être enregistrées. %1 Elles sont toujours dans le tensiomètre.</translation></message>
@@ -1083,7 +1102,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliFolderMissing"><translation>Il manque le dossier vers lequel exporter.</translation></message>
     <message id="CliForceReplaces"><translation>--force le remplace.</translation></message>
     <message id="CliFromAfterTo"><translation>Le jour de --from est postérieur à celui de --to.</translation></message>
-    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE]] [--language TAG]
         zel COMMAND [OPTION]...
 
 Conserve les mesures de tensiomètres automatiques, patient par patient.
@@ -1098,7 +1117,8 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
   report     écrire le rapport d’un patient en PDF
   export-xml exporter tous les patients, ou un seul, en fichiers XML
   export-csv exporter un patient et ses mesures en fichier CSV
-  import     ajouter des patients à partir de fichiers XML exportés
+  export-table exporter des mesures en tableau pour tableurs
+  import     ajouter des patients à partir de fichiers XML exportés, ou des mesures de tableaux
   settings   afficher les réglages, ou en modifier
   backup     lister les copies du fichier de données, en créer une, ou revenir à l’une d’elles
   privacy    dire si d’autres peuvent lire le fichier de données, ou leur en retirer l’accès
@@ -1106,7 +1126,6 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
 Options :
   --simulated-monitor[=FILE]   au lieu d’un tensiomètre USB, en simuler un, décrit par FILE ou intégré
   --language TAG               la langue des messages et des rapports, par exemple fr
-  --reset-view                 oublier l’état de la fenêtre : place, page, patient, colonnes, dossier
   -h, --help                   afficher ce texte ; 'zel COMMAND --help' décrit une commande
   --version                    afficher la version
 
@@ -1202,6 +1221,20 @@ Options :
   --force                      remplacer les fichiers déjà présents, au lieu de les laisser tels quels
   --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
   -h, --help                   afficher ce texte</translation></message>
+    <message id="CliHelpExportTable"><translation>Usage : zel export-table DIR [--patient ID] [--force]
+        zel export-table FILE.csv [--patient ID] [--force]
+
+Écrit les mesures en tableau pour tableurs : dans le dossier DIR, un fichier 'ID.table.csv' par patient, ou,
+dans FILE.csv, un seul tableau de tous les patients. Affiche 'written: FILE' pour chacun. Le tableau est en
+UTF-8, avec une ligne de titres et une ligne par mesure, dans l’ordre du temps, avec le patient, les valeurs,
+les anomalies détectées, l’origine de la mesure, si elle est exclue et pourquoi, et le commentaire de son jour.
+Les textes qu’un tableur calculerait commencent par une apostrophe. 'zel import' permet de réimporter le tableau.
+
+Options :
+  --patient ID                 seulement ce patient
+  --force                      remplacer les fichiers déjà présents, au lieu de les laisser tels quels
+  --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
+  -h, --help                   afficher ce texte</translation></message>
     <message id="CliHelpExportXml"><translation>Usage : zel export-xml DIR [--patient ID] [--force]
 
 Écrit chaque patient, avec ses mesures et ses commentaires, dans son propre fichier XML du dossier DIR, et
@@ -1214,16 +1247,27 @@ Options :
   --force                      remplacer les fichiers déjà présents, au lieu de les laisser tels quels
   --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
   -h, --help                   afficher ce texte</translation></message>
-    <message id="CliHelpImport"><translation>Usage : zel import FILE...
+    <message id="CliHelpImport"><translation>Usage : zel import FILE...
+        zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-Ajoute les patients de fichiers XML exportés, avec leurs mesures et leurs commentaires. Un fichier est importé
-en entier ou pas du tout : il ne l’est pas si l’un de ses patients figure déjà dans la liste. Les fichiers non
-importés sont signalés sur l’erreur standard, avec le motif. Affiche combien de fichiers ont été importés et
+Ajoute les patients de fichiers XML exportés, avec leurs mesures et leurs commentaires, ou ceux de tableaux
+écrits par 'zel export-table'. Un fichier est importé en entier ou pas du tout : il ne l’est pas si l’un de ses
+patients figure déjà dans la liste. Les fichiers non importés sont signalés sur l’erreur standard, avec le
+motif, et pour un tableau chaque ligne fautive, avec son numéro. Affiche combien de fichiers ont été importés et
 refusés, et combien de patients, de mesures et de commentaires ils ont apportés, une ligne 'key: value' pour
-chacun.
+chacun ; pour un tableau, aussi combien de mesures étaient déjà connues : elles ne sont pas doublées.
 
-Options :
-  --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
+Avec --patient, les mesures d’un tableau sont ajoutées à un patient de la liste. Avec --columns, c’est le
+tableau d’un autre programme, par exemple --columns "date=Date,time=Heure,sys=Systole,dia=Diastole,pulse=Pouls",
+avec les titres de sa première ligne ; time est omis si l’heure suit la date. Ces mesures valent comme saisies à
+la main. Les colonnes sont séparées par des virgules, des points-virgules ou des tabulations. Les dates sont
+comme 2026-11-21, sauf si --dates indique l’ordre du jour, du mois et de l’année.
+
+Options :
+  --patient ID                 à qui ajouter les mesures d’un tableau
+  --columns LIST               les titres des colonnes d’un autre programme
+  --dates dmy|mdy|ymd          comment ses dates sont écrites
+  --simulated-monitor[=FILE]   acceptée comme partout ; cette commande n’utilise pas de tensiomètre
   -h, --help                   afficher ce texte</translation></message>
     <message id="CliHelpMonitor"><translation>Usage : zel monitor [OPTION]...
         zel monitor --set-clock [OPTION]...
@@ -1398,6 +1442,7 @@ Options :
     <message id="CliNoSuchReading"><translation>le patient n’a pas de mesure portant le numéro %1 (zel readings --numbers affiche les numéros)</translation></message>
     <message id="CliNoSuchRule"><translation>La règle '%1' n’existe pas. Les règles sont %2.</translation></message>
     <message id="CliNoSuchSection"><translation>La section '%1' n’existe pas. Les sections sont all, ou celles de votre choix parmi %2, séparées par des virgules.</translation></message>
+    <message id="CliNoTable"><translation>%1 : --patient vaut pour les tableaux de mesures ; ce fichier n’en est pas un, ou il est illisible. Rien n’a été importé.</translation></message>
     <message id="CliNotExcluded"><translation>la mesure %1 n’est pas exclue</translation></message>
     <message id="CliNotTogether"><translation>--%1 et --%2 ne peuvent pas être utilisées ensemble</translation></message>
     <message id="CliOneJob"><translation>Une seule des options --set-clock, --send-id et --erase est possible à la fois.</translation></message>
@@ -1418,6 +1463,7 @@ Options :
     <message id="CliSettingTwice"><translation>Le réglage %1 est indiqué plusieurs fois.</translation></message>
     <message id="CliSettingUnknown"><translation>Le réglage '%1' n’existe pas. Les réglages sont : %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accepte %2, et non '%3'.</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID ajoute les mesures d’un tableau à un patient qui figure dans la liste.</translation></message>
     <message id="CliTryHelp"><translation>Essayez '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' n’est pas attendu ici.</translation></message>
     <message id="CliUnknownCommand"><translation>La commande '%1' n’existe pas.</translation></message>

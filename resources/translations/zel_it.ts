@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: un paziente con l’ID “%2” è già nell’elenco. I pazienti non vengono mai sovrascritti, perciò dal file non è stato importato nulla.</translation></message>
     <message id="ImportBadID"><translation>%1: l’ID “%2” nel file contiene un ritorno a capo o un altro carattere di controllo, con cui non sarebbe possibile salvarlo né inviarlo a un misuratore. Dal file non è stato importato nulla.</translation></message>
+    <message id="ImportBadLines"><translation>%1: alcune righe della tabella non possono essere importate. Non è stato importato nulla.</translation></message>
+    <message id="ImportMissingColumn"><translation>%1: la tabella non ha una colonna “%2”, oppure ne ha più di una. Non è stato importato nulla.</translation></message>
     <message id="ImportNoFile"><translation>Non è un file normale.</translation></message>
     <message id="ImportNoID"><translation>%1: un paziente nel file è privo di ID. Dal file non è stato importato nulla.</translation></message>
     <message id="ImportNoPatient"><translation>%1: il file non contiene pazienti. Non è stato importato nulla.</translation></message>
+    <message id="ImportNoReading"><translation>%1: la tabella non contiene misurazioni. Non è stato importato nulla.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1: nell’elenco non c’è più un paziente con l’ID “%2”. Dal file non è stato importato nulla.</translation></message>
     <message id="ImportNotFlushed"><translation>%1: tutto il contenuto è stato registrato, ma il disco non lo ha confermato: dopo un’interruzione di corrente potrebbe mancare.</translation></message>
     <message id="ImportNotReadable"><translation>%1: il file non è leggibile o non è stato esportato da questo programma. Non è stato importato nulla.</translation></message>
     <message id="ImportNotStored"><translation>%1: impossibile registrare il contenuto del file. Non è stato importato nulla.</translation></message>
+    <message id="ImportOtherNames"><translation>%1: il paziente con l’ID “%2” ha nell’elenco un nome diverso da quello nella tabella; le misurazioni potrebbero essere di un’altra persona. Dal file non è stato importato nulla. Per importarle comunque, svuotare le celle dei nomi.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: due pazienti nel file hanno lo stesso ID, “%2”. Dal file non è stato importato nulla.</translation></message>
     <message id="ImportTooLarge"><translation>%1: il file supera i 512 MiB. Non è stato importato nulla.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: la tabella ha più di 200 000 righe. Non è stato importato nulla.</translation></message>
     <message id="LanguageMissing"><translation>--language richiede una lingua, tra %1</translation></message>
     <message id="languageTag"><translation>it</translation></message>
     <message id="LanguageTwice"><translation>--language si può indicare una sola volta</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>Il file dei dati %1 supera i 512 MiB, e questo programma non lo legge. Resta com’è, e non si può salvare nulla: sostituirlo con una copia più piccola o spostarlo altrove per iniziare con uno nuovo.</translation></message>
     <message id="StoreUnreadable"><translation>Il file dei dati %1 è rimasto com’era: ciò che si doveva salvare non sarebbe poi stato leggibile.</translation></message>
     <message id="StoreWriteFailed"><translation>La scrittura del file dei dati %1 non è riuscita, e il file è rimasto com’era. Controllare che il disco non sia pieno e riprovare.</translation></message>
+    <message id="TableCell"><translation>“%1” non può stare nella colonna “%2”.</translation></message>
+    <message id="TableCells"><translation>Ha %1 celle, e la riga dei titoli %2.</translation></message>
+    <message id="TableDateAmbiguous"><translation>“%1” può indicare più di un giorno. Indicare quale con --dates: dmy, mdy o ymd.</translation></message>
+    <message id="TableLine"><translation>Riga %1: %2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>… e %n altra riga</numerusform><numerusform>… e altre %n righe</numerusform></translation></message>
+    <message id="TableNoTime"><translation>“%1” non è una data con un anno di quattro cifre e un’ora.</translation></message>
+    <message id="TableNotUtf8"><translation>Il suo testo non è UTF-8. Salvarlo come “CSV UTF-8” nel programma da cui proviene.</translation></message>
+    <message id="TableOtherNames"><translation>Il paziente “%1” ha un altro nome in una riga precedente.</translation></message>
+    <message id="TableOtherPatient"><translation>La misurazione è del paziente “%1”, non di “%2”.</translation></message>
+    <message id="TableQuotation"><translation>Le virgolette non sono chiuse alla fine della cella.</translation></message>
     <message id="ViewLimitsUnread"><translation>Impossibile leggere %1, che indica a partire da quali limiti i valori vengono evidenziati. Finché non si scelgono nuovi limiti, i valori vengono evidenziati da %2/%3 mmHg in su.</translation></message>
     <message id="Warning"><translation>Avviso</translation></message>
     <message id="XmlAttributeTwice"><translation>Un elemento ha due volte lo stesso attributo.</translation></message>
@@ -1066,7 +1082,10 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliChangeOfNothing"><translation>--change richiede almeno una delle opzioni --date, --time, --sys, --dia e --pulse.</translation></message>
     <message id="CliClockUnread"><translation>Impossibile leggere l'orologio del misuratore. %1</translation></message>
     <message id="CliClockUnset"><translation>Impossibile regolare l'orologio del misuratore. %1</translation></message>
+    <message id="CliColumnsForm"><translation>--columns vuole i titoli delle colonne, per esempio date=Data,time=Ora,sys=Sistolica,dia=Diastolica,pulse=Polso; solo time può mancare.</translation></message>
+    <message id="CliColumnsHelp"><translation>Per la tabella di un altro programma, --columns indica che cosa sono le sue colonne.</translation></message>
     <message id="CliCountUnread"><translation>Impossibile leggere il numero di misurazioni nel misuratore. %1</translation></message>
+    <message id="CliDatesForm"><translation>--dates accetta dmy, mdy o ymd, non '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>Impossibile scaricare le misurazioni; non è stato registrato nulla. %1 Le misurazioni sono ancora nel misuratore: riprovare.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Le misurazioni sono registrate, ma non è stato poi possibile rileggere il file dei dati, perciò la memoria del misuratore non è stata cancellata. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Impossibile registrare le misurazioni scaricate. %1 Sono ancora nel misuratore.</translation></message>
@@ -1083,7 +1102,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliFolderMissing"><translation>Manca la cartella in cui esportare.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo sostituisce.</translation></message>
     <message id="CliFromAfterTo"><translation>Il giorno di --from è successivo a quello di --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
      zel COMANDO [OPZIONE]...
 
 Gestisce le misurazioni dei misuratori automatici di pressione, paziente per paziente.
@@ -1098,7 +1117,8 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
   report     scrive il rapporto di un paziente in PDF
   export-xml esporta tutti i pazienti, o uno solo, in file XML
   export-csv esporta un paziente e le sue misurazioni in un file CSV
-  import     importa pazienti da file XML esportati
+  export-table esporta le misurazioni come tabella per fogli di calcolo
+  import     importa pazienti da file XML esportati, o misurazioni da tabelle
   settings   mostra le impostazioni o ne modifica alcune
   backup     elenca le copie del file dei dati, ne crea una o ne ripristina una
   privacy    dice se altri possono leggere il file dei dati, o ne impedisce l'accesso
@@ -1106,7 +1126,6 @@ Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestr
 Opzioni:
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato, invece di uno USB
   --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
-  --reset-view                 dimentica lo stato della finestra: posizione, pagina, paziente, colonne
   -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
   --version                    mostra la versione
 
@@ -1202,6 +1221,20 @@ Opzioni:
   --force                      sostituisce i file già presenti, invece di lasciarli come sono
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
+    <message id="CliHelpExportTable"><translation>Uso: zel export-table CARTELLA [--patient ID] [--force]
+     zel export-table FILE.csv [--patient ID] [--force]
+
+Scrive le misurazioni come tabella per fogli di calcolo: nella cartella CARTELLA un file 'ID.table.csv' per
+paziente, oppure in FILE.csv una sola tabella di tutti i pazienti. Stampa 'written: FILE' per ciascuna. La
+tabella è in UTF-8, con una riga di titoli e una riga per misurazione, in ordine di tempo, con il paziente, i
+valori, le anomalie rilevate, l'origine della misurazione, se e perché è esclusa e il commento del suo giorno.
+I testi che un foglio di calcolo calcolerebbe iniziano con un apostrofo. 'zel import' importa di nuovo la tabella.
+
+Opzioni:
+  --patient ID                 solo questo paziente
+  --force                      sostituisce i file già presenti, invece di lasciarli come sono
+  --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
+  -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpExportXml"><translation>Uso: zel export-xml CARTELLA [--patient ID] [--force]
 
 Scrive ogni paziente, con misurazioni e commenti, in un proprio file XML nella cartella CARTELLA e stampa per
@@ -1214,13 +1247,26 @@ Opzioni:
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpImport"><translation>Uso: zel import FILE...
+     zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-Importa i pazienti da file XML esportati, con le loro misurazioni e i commenti. Un file viene importato per
-intero o per niente: per niente se uno dei suoi pazienti è già nell'elenco. I file non importati sono indicati
-sullo standard error, con il motivo. Stampa quanti file sono stati importati e rifiutati, e quanti pazienti,
-misurazioni e commenti contenevano, una riga 'chiave: valore' per ciascuno.
+Importa i pazienti da file XML esportati, con le loro misurazioni e i commenti, o quelli delle tabelle scritte
+da 'zel export-table'. Un file viene importato per intero o per niente: per niente se uno dei suoi pazienti è già
+nell'elenco. I file non importati sono indicati sullo standard error, con il motivo; di una tabella ogni riga
+errata, con il suo numero. Stampa quanti file sono stati importati e rifiutati, e quanti pazienti, misurazioni e
+commenti contenevano, una riga 'chiave: valore' per ciascuno; con una tabella anche quante misurazioni erano già
+note: non vengono duplicate.
+
+Con --patient le misurazioni di una tabella vengono aggiunte a un paziente dell'elenco. Con --columns si tratta
+della tabella di un altro programma, per esempio
+--columns "date=Data,time=Ora,sys=Sistolica,dia=Diastolica,pulse=Polso", con i titoli della sua prima riga; time
+si omette se l'ora segue la data. Queste misurazioni valgono come inserite a mano. Le colonne sono separate da
+virgole, punti e virgola o tabulazioni. Le date sono come 2026-11-21, a meno che --dates indichi l'ordine di
+giorno, mese e anno.
 
 Opzioni:
+  --patient ID                 a chi aggiungere le misurazioni di una tabella
+  --columns LIST               i titoli delle colonne di un altro programma
+  --dates dmy|mdy|ymd          come sono scritte le sue date
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpMonitor"><translation>Uso: zel monitor [OPZIONE]...
@@ -1401,6 +1447,7 @@ Opzioni:
     <message id="CliNoSuchReading"><translation>il paziente non ha alcuna misurazione con il numero %1 (zel readings --numbers mostra i numeri)</translation></message>
     <message id="CliNoSuchRule"><translation>La regola '%1' non esiste. Le regole sono %2.</translation></message>
     <message id="CliNoSuchSection"><translation>La sezione '%1' non esiste. Le sezioni sono all, oppure una o più tra %2, separate da virgole.</translation></message>
+    <message id="CliNoTable"><translation>%1: --patient vale per le tabelle di misurazioni; questo file non lo è o non è leggibile. Non è stato importato nulla.</translation></message>
     <message id="CliNotExcluded"><translation>la misurazione %1 non è esclusa</translation></message>
     <message id="CliNotTogether"><translation>--%1 e --%2 non si possono usare insieme</translation></message>
     <message id="CliOneJob"><translation>Si può usare solo una per volta delle opzioni --set-clock, --send-id e --erase.</translation></message>
@@ -1421,6 +1468,7 @@ Opzioni:
     <message id="CliSettingTwice"><translation>L'impostazione %1 è indicata più di una volta.</translation></message>
     <message id="CliSettingUnknown"><translation>L'impostazione '%1' non esiste. Le impostazioni sono: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accetta %2, non '%3'.</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID aggiunge le misurazioni di una tabella a un paziente dell’elenco.</translation></message>
     <message id="CliTryHelp"><translation>Provare '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' non è previsto qui.</translation></message>
     <message id="CliUnknownCommand"><translation>Il comando '%1' non esiste.</translation></message>

@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: pacjent o ID „%2” jest już na liście. Danych pacjentów nigdy się nie nadpisuje, dlatego niczego z tego pliku nie przyjęto.</translation></message>
     <message id="ImportBadID"><translation>%1: ID „%2” w pliku zawiera koniec wiersza lub inny znak sterujący; nie można by go ani zapisać, ani wysłać do ciśnieniomierza. Niczego z tego pliku nie przyjęto.</translation></message>
+    <message id="ImportBadLines"><translation>%1: niektórych wierszy tabeli nie można przyjąć. Niczego z niej nie przyjęto.</translation></message>
+    <message id="ImportMissingColumn"><translation>%1: tabela nie ma kolumny „%2” albo ma ich kilka. Niczego z niej nie przyjęto.</translation></message>
     <message id="ImportNoFile"><translation>To nie jest zwykły plik.</translation></message>
     <message id="ImportNoID"><translation>%1: jeden z pacjentów w pliku nie ma ID. Niczego z tego pliku nie przyjęto.</translation></message>
     <message id="ImportNoPatient"><translation>%1: w pliku nie ma żadnego pacjenta. Niczego z niego nie przyjęto.</translation></message>
+    <message id="ImportNoReading"><translation>%1: w tabeli nie ma żadnego pomiaru. Niczego z niej nie przyjęto.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1: na liście nie ma już pacjenta o ID „%2”. Niczego z tego pliku nie przyjęto.</translation></message>
     <message id="ImportNotFlushed"><translation>%1: wszystko zapisano, ale dysk tego nie potwierdził: po zaniku zasilania danych może brakować.</translation></message>
     <message id="ImportNotReadable"><translation>%1: pliku nie można odczytać albo nie został wyeksportowany przez ten program. Niczego z niego nie przyjęto.</translation></message>
     <message id="ImportNotStored"><translation>%1: nie udało się zapisać zawartości pliku. Niczego z niego nie przyjęto.</translation></message>
+    <message id="ImportOtherNames"><translation>%1: pacjent o ID „%2” nazywa się na liście inaczej niż w tabeli; pomiary mogą należeć do innej osoby. Niczego z tego pliku nie przyjęto. Aby mimo to je przyjąć, należy opróżnić komórki z nazwiskiem i imionami.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: dwóch pacjentów w pliku ma to samo ID „%2”. Niczego z tego pliku nie przyjęto.</translation></message>
     <message id="ImportTooLarge"><translation>%1: plik jest większy niż 512 MiB. Niczego z niego nie przyjęto.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: tabela ma więcej niż 200 000 wierszy. Niczego z niej nie przyjęto.</translation></message>
     <message id="LanguageMissing"><translation>opcja --language wymaga języka, jednego z: %1</translation></message>
     <message id="languageTag"><translation>pl</translation></message>
     <message id="LanguageTwice"><translation>opcję --language można podać tylko raz</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>Plik danych %1 jest większy niż 512 MiB; tak dużych plików program nie odczytuje. Plik pozostaje bez zmian i niczego nie można zapisać: proszę zastąpić go mniejszą kopią albo przenieść w inne miejsce, aby zacząć od nowego.</translation></message>
     <message id="StoreUnreadable"><translation>Plik danych %1 pozostał bez zmian: tego, co miało zostać zapisane, nie udało się potem z powrotem odczytać.</translation></message>
     <message id="StoreWriteFailed"><translation>Zapis pliku danych %1 się nie powiódł; plik pozostał bez zmian. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
+    <message id="TableCell"><translation>„%1” nie może stać w kolumnie „%2”.</translation></message>
+    <message id="TableCells"><translation>Liczba komórek: %1, a w wierszu tytułów: %2.</translation></message>
+    <message id="TableDateAmbiguous"><translation>„%1” może oznaczać więcej niż jeden dzień. Proszę podać w --dates, który: dmy, mdy lub ymd.</translation></message>
+    <message id="TableLine"><translation>Wiersz %1: %2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>… i jeszcze %n wiersz</numerusform><numerusform>… i jeszcze %n wiersze</numerusform><numerusform>… i jeszcze %n wierszy</numerusform></translation></message>
+    <message id="TableNoTime"><translation>„%1” nie jest datą z czterocyfrowym rokiem i godziną.</translation></message>
+    <message id="TableNotUtf8"><translation>Jego tekst nie jest w UTF-8. Proszę zapisać go jako „CSV UTF-8” w programie, z którego pochodzi.</translation></message>
+    <message id="TableOtherNames"><translation>Pacjent „%1” nazywa się inaczej w jednym z wcześniejszych wierszy.</translation></message>
+    <message id="TableOtherPatient"><translation>Pomiar dotyczy pacjenta „%1”, a nie „%2”.</translation></message>
+    <message id="TableQuotation"><translation>Cudzysłów nie jest zamknięty na końcu komórki.</translation></message>
     <message id="ViewLimitsUnread"><translation>Nie można odczytać pliku %1, w którym zapisano, od jakich granic oznacza się wartości. Do czasu ponownego wyboru granic wartości są oznaczane od %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Uwaga</translation></message>
     <message id="XmlAttributeTwice"><translation>Ten sam atrybut występuje w elemencie dwukrotnie.</translation></message>
@@ -1066,7 +1082,10 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliChangeOfNothing"><translation>--change wymaga co najmniej jednej z opcji --date, --time, --sys, --dia i --pulse.</translation></message>
     <message id="CliClockUnread"><translation>Nie udało się odczytać zegara ciśnieniomierza. %1</translation></message>
     <message id="CliClockUnset"><translation>Nie udało się ustawić zegara ciśnieniomierza. %1</translation></message>
+    <message id="CliColumnsForm"><translation>Opcja --columns podaje tytuły kolumn, na przykład date=Data,time=Godzina,sys=Skurczowe,dia=Rozkurczowe,pulse=Tętno; może brakować tylko time.</translation></message>
+    <message id="CliColumnsHelp"><translation>Dla tabeli z innego programu opcja --columns podaje, czym są jej kolumny.</translation></message>
     <message id="CliCountUnread"><translation>Nie udało się odczytać liczby pomiarów w ciśnieniomierzu. %1</translation></message>
+    <message id="CliDatesForm"><translation>Opcja --dates przyjmuje dmy, mdy lub ymd, a nie „%1”.</translation></message>
     <message id="CliDownloadFailed"><translation>Nie udało się pobrać pomiarów i niczego nie zapisano. %1 Są one nadal w ciśnieniomierzu: proszę spróbować ponownie.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Pomiary zapisano, ale potem nie udało się odczytać pliku danych, dlatego nie wymazano pamięci ciśnieniomierza. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Nie udało się zapisać pobranych pomiarów. %1 Są one nadal w ciśnieniomierzu.</translation></message>
@@ -1083,7 +1102,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliFolderMissing"><translation>Brakuje folderu, do którego mają trafić pliki.</translation></message>
     <message id="CliForceReplaces"><translation>Opcja --force go zastępuje.</translation></message>
     <message id="CliFromAfterTo"><translation>Dzień --from jest późniejszy niż dzień --to.</translation></message>
-    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE]] [--language TAG]
         zel COMMAND [OPTION]...
 
 Przechowuje pomiary z automatycznych ciśnieniomierzy, osobno dla każdego pacjenta.
@@ -1098,7 +1117,8 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
   report     zapisuje raport pacjenta jako PDF
   export-xml eksportuje wszystkich pacjentów albo jednego jako pliki XML
   export-csv eksportuje dane i pomiary pacjenta jako plik CSV
-  import     wczytuje pacjentów z wyeksportowanych plików XML
+  export-table eksportuje pomiary jako tabelę dla arkuszy kalkulacyjnych
+  import     wczytuje pacjentów z wyeksportowanych plików XML albo pomiary z tabel
   settings   pokazuje ustawienia albo zmienia niektóre z nich
   backup     wyświetla kopie pliku danych, tworzy kopię albo wraca do wybranej
   privacy    informuje, czy inni mogą odczytać dane, albo odbiera im dostęp
@@ -1106,7 +1126,6 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
 Opcje:
   --simulated-monitor[=FILE]   użyj ciśnieniomierza programowego (opis w FILE lub wbudowany) zamiast USB
   --language TAG               język komunikatów i raportów, na przykład pl
-  --reset-view                 zapomnij stan okna: położenie, stronę, pacjenta, kolumny, folder
   -h, --help                   pokaż ten tekst; 'zel COMMAND --help' opisuje polecenie
   --version                    pokaż wersję
 
@@ -1199,6 +1218,20 @@ Opcje:
   --force                      zastąp istniejące pliki, zamiast pozostawiać je bez zmian
   --simulated-monitor[=FILE]   przyjmowane jak wszędzie; to polecenie nie wymaga ciśnieniomierza
   -h, --help                   pokaż ten tekst</translation></message>
+    <message id="CliHelpExportTable"><translation>Użycie: zel export-table DIR [--patient ID] [--force]
+        zel export-table FILE.csv [--patient ID] [--force]
+
+Zapisuje pomiary jako tabelę dla arkuszy kalkulacyjnych: w folderze DIR plik „ID.table.csv” dla każdego
+pacjenta albo w FILE.csv jedną tabelę wszystkich pacjentów. Dla każdej wyświetla 'written: FILE'. Tabela jest
+w UTF-8, ma wiersz tytułów i po jednym wierszu na pomiar, w porządku czasowym, z pacjentem, wartościami,
+wykrytymi nieprawidłowościami, pochodzeniem pomiaru, informacją, czy i dlaczego go pominięto, oraz komentarzem
+do jego dnia. Teksty, które arkusz by obliczał, zaczynają się apostrofem. 'zel import' wczytuje tabelę z powrotem.
+
+Opcje:
+  --patient ID                 tylko ten pacjent
+  --force                      zastąp istniejące pliki, zamiast pozostawiać je bez zmian
+  --simulated-monitor[=FILE]   przyjmowane jak wszędzie; to polecenie nie wymaga ciśnieniomierza
+  -h, --help                   pokaż ten tekst</translation></message>
     <message id="CliHelpExportXml"><translation>Użycie: zel export-xml DIR [--patient ID] [--force]
 
 Zapisuje każdego pacjenta, z pomiarami i komentarzami, jako osobny plik XML w folderze DIR i dla każdego
@@ -1211,13 +1244,25 @@ Opcje:
   --simulated-monitor[=FILE]   przyjmowane jak wszędzie; to polecenie nie wymaga ciśnieniomierza
   -h, --help                   pokaż ten tekst</translation></message>
     <message id="CliHelpImport"><translation>Użycie: zel import FILE...
+        zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-Wczytuje z wyeksportowanych plików XML pacjentów wraz z pomiarami i komentarzami. Plik jest przyjmowany
-w całości albo wcale: nie jest przyjmowany, gdy jeden z jego pacjentów jest już na liście. Pliki
-nieprzyjęte są podane z przyczyną na wyjściu błędów. Wyświetla, ile plików przyjęto i odrzucono oraz ilu
-pacjentów, ile pomiarów i komentarzy wczytano, po jednym 'key: value' w wierszu.
+Wczytuje z wyeksportowanych plików XML pacjentów wraz z pomiarami i komentarzami albo pacjentów z tabel
+zapisanych przez 'zel export-table'. Plik jest przyjmowany w całości albo wcale: nie jest przyjmowany, gdy jeden
+z jego pacjentów jest już na liście. Pliki nieprzyjęte są podane z przyczyną na wyjściu błędów, a dla tabeli
+każdy błędny wiersz z jego numerem. Wyświetla, ile plików przyjęto i odrzucono oraz ilu pacjentów, ile pomiarów
+i komentarzy wczytano, po jednym 'key: value' w wierszu; dla tabeli także, ile pomiarów było już znanych: nie są
+podwajane.
+
+Z opcją --patient pomiary z tabeli są dodawane do pacjenta z listy. Z opcją --columns jest to tabela z innego
+programu, na przykład --columns "date=Data,time=Godzina,sys=Skurczowe,dia=Rozkurczowe,pulse=Tętno", z tytułami
+z jej pierwszego wiersza; time pomija się, gdy godzina stoi za datą. Takie pomiary uchodzą za wpisane ręcznie.
+Kolumny oddzielają przecinki, średniki lub tabulatory. Daty mają postać 2026-11-21, chyba że --dates podaje
+kolejność dnia, miesiąca i roku.
 
 Opcje:
+  --patient ID                 komu dodać pomiary z tabeli
+  --columns LIST               tytuły kolumn innego programu
+  --dates dmy|mdy|ymd          jak zapisane są w niej daty
   --simulated-monitor[=FILE]   przyjmowane jak wszędzie; to polecenie nie wymaga ciśnieniomierza
   -h, --help                   pokaż ten tekst</translation></message>
     <message id="CliHelpMonitor"><translation>Użycie: zel monitor [OPTION]...
@@ -1390,6 +1435,7 @@ Opcje:
     <message id="CliNoSuchReading"><translation>pacjent nie ma pomiaru o numerze %1 (numery wyświetla zel readings --numbers)</translation></message>
     <message id="CliNoSuchRule"><translation>Nie ma reguły „%1”. Dostępne reguły: %2.</translation></message>
     <message id="CliNoSuchSection"><translation>Nie ma sekcji „%1”. Sekcje to all albo dowolne z następujących, rozdzielone przecinkami: %2.</translation></message>
+    <message id="CliNoTable"><translation>%1: opcja --patient dotyczy tabel z pomiarami; ten plik nią nie jest albo nie można go odczytać. Niczego z niego nie przyjęto.</translation></message>
     <message id="CliNotExcluded"><translation>pomiar %1 nie jest pominięty</translation></message>
     <message id="CliNotTogether"><translation>opcji --%1 i --%2 nie można łączyć</translation></message>
     <message id="CliOneJob"><translation>Opcji --set-clock, --send-id i --erase można użyć tylko pojedynczo.</translation></message>
@@ -1410,6 +1456,7 @@ Opcje:
     <message id="CliSettingTwice"><translation>Ustawienie %1 podano więcej niż raz.</translation></message>
     <message id="CliSettingUnknown"><translation>Nie ma ustawienia „%1”. Dostępne ustawienia: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 – dozwolone: %2; podano „%3”.</translation></message>
+    <message id="CliTableKnown"><translation>Opcja --patient ID dodaje pomiary z tabeli do pacjenta, który jest na liście.</translation></message>
     <message id="CliTryHelp"><translation>Więcej informacji: „%1”.</translation></message>
     <message id="CliUnexpectedWord"><translation>Nieoczekiwane słowo „%1”.</translation></message>
     <message id="CliUnknownCommand"><translation>Nie ma polecenia „%1”.</translation></message>

@@ -22,14 +22,20 @@
     <message id="fullName"><translation>%2 %1</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1：清單中已有 ID 為「%2」的病患。既有病患絕不會被覆寫，因此未匯入此檔案的任何內容。</translation></message>
     <message id="ImportBadID"><translation>%1：檔案中的 ID「%2」含有換行或其他控制字元，無法儲存，也無法傳送到血壓計。未匯入此檔案的任何內容。</translation></message>
+    <message id="ImportBadLines"><translation>%1：表格中有無法匯入的列。未匯入任何內容。</translation></message>
+    <message id="ImportMissingColumn"><translation>%1：表格沒有「%2」欄，或有不只一個。未匯入任何內容。</translation></message>
     <message id="ImportNoFile"><translation>這不是一般檔案。</translation></message>
     <message id="ImportNoID"><translation>%1：檔案中有一位病患沒有 ID。未匯入此檔案的任何內容。</translation></message>
     <message id="ImportNoPatient"><translation>%1：檔案中沒有病患。未匯入此檔案的任何內容。</translation></message>
+    <message id="ImportNoReading"><translation>%1：表格中沒有量測。未匯入任何內容。</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1：清單中已沒有 ID 為「%2」的病患。未匯入此檔案的任何內容。</translation></message>
     <message id="ImportNotFlushed"><translation>%1：內容已全部儲存，但磁碟未確認已永久保存，斷電後可能遺失。</translation></message>
     <message id="ImportNotReadable"><translation>%1：無法讀取此檔案，或它不是由本程式匯出的檔案。未匯入任何內容。</translation></message>
     <message id="ImportNotStored"><translation>%1：無法儲存檔案的內容。未匯入任何內容。</translation></message>
+    <message id="ImportOtherNames"><translation>%1：ID 為「%2」的病患在清單中的姓名與表格不同，這些量測可能屬於另一個人。未匯入此檔案的任何內容。若仍要匯入，請清空姓名的儲存格。</translation></message>
     <message id="ImportSameIDTwice"><translation>%1：檔案中有兩位病患的 ID 同為「%2」。未匯入此檔案的任何內容。</translation></message>
     <message id="ImportTooLarge"><translation>%1：檔案大於 512 MiB。未匯入任何內容。</translation></message>
+    <message id="ImportTooManyLines"><translation>%1：表格超過 200,000 列。未匯入任何內容。</translation></message>
     <message id="LanguageMissing"><translation>--language 需要指定語言，可用的語言：%1</translation></message>
     <message id="languageTag"><translation>zh_TW</translation></message>
     <message id="LanguageTwice"><translation>--language 只能指定一次</translation></message>
@@ -107,6 +113,16 @@
     <message id="StoreTooLarge"><translation>資料檔 %1 大於 512 MiB，本程式無法讀取。檔案維持原狀，也無法儲存任何資料：請以較小的備份取代，或將它移走以建立新的資料檔。</translation></message>
     <message id="StoreUnreadable"><translation>資料檔 %1 維持原狀：要儲存的內容寫入後無法正確讀回。</translation></message>
     <message id="StoreWriteFailed"><translation>寫入資料檔 %1 失敗，檔案維持原狀。請確認磁碟空間足夠，然後再試一次。</translation></message>
+    <message id="TableCell"><translation>「%1」不能出現在「%2」欄。</translation></message>
+    <message id="TableCells"><translation>此列有 %1 個儲存格，標題列有 %2 個。</translation></message>
+    <message id="TableDateAmbiguous"><translation>「%1」可能是不只一個日期。請用 --dates 指定：dmy、mdy 或 ymd。</translation></message>
+    <message id="TableLine"><translation>第 %1 行：%2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>……另有 %n 行</numerusform></translation></message>
+    <message id="TableNoTime"><translation>「%1」不是含四位數年份與時間的日期。</translation></message>
+    <message id="TableNotUtf8"><translation>它的文字不是 UTF-8。請在原程式中另存為「CSV UTF-8」。</translation></message>
+    <message id="TableOtherNames"><translation>病患「%1」在前面的列中有不同的姓名。</translation></message>
+    <message id="TableOtherPatient"><translation>此量測屬於病患「%1」，不屬於「%2」。</translation></message>
+    <message id="TableQuotation"><translation>引號未在儲存格結尾關閉。</translation></message>
     <message id="ViewLimitsUnread"><translation>無法讀取 %1，其中記錄了標示數值的上限。在您重新選擇上限之前，達到 %2/%3 mmHg 的數值會加上標示。</translation></message>
     <message id="Warning"><translation>警告</translation></message>
     <message id="XmlAttributeTwice"><translation>有一個元素的同一屬性出現兩次。</translation></message>
@@ -1066,7 +1082,10 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliChangeOfNothing"><translation>--change 至少需要 --date、--time、--sys、--dia 與 --pulse 其中之一。</translation></message>
     <message id="CliClockUnread"><translation>無法讀取血壓計的時鐘。%1</translation></message>
     <message id="CliClockUnset"><translation>無法設定血壓計的時鐘。%1</translation></message>
+    <message id="CliColumnsForm"><translation>--columns 需要各欄的標題，例如 date=日期,time=時間,sys=收縮壓,dia=舒張壓,pulse=脈搏；只有 time 可以省略。</translation></message>
+    <message id="CliColumnsHelp"><translation>若是其他程式的表格，請用 --columns 指定各欄的意義。</translation></message>
     <message id="CliCountUnread"><translation>無法讀取血壓計中的量測筆數。%1</translation></message>
+    <message id="CliDatesForm"><translation>--dates 可為 dmy、mdy 或 ymd，不可為「%1」。</translation></message>
     <message id="CliDownloadFailed"><translation>無法下載量測，未儲存任何資料。%1量測仍在血壓計中，請再試一次。</translation></message>
     <message id="CliDownloadNotReadBack"><translation>量測已儲存，但之後無法讀取資料檔，因此未清空血壓計。%1</translation></message>
     <message id="CliDownloadUnsaved"><translation>無法儲存下載的量測。%1量測仍在血壓計中。</translation></message>
@@ -1083,7 +1102,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliFolderMissing"><translation>未指定匯出的目的資料夾。</translation></message>
     <message id="CliForceReplaces"><translation>使用 --force 可取代它。</translation></message>
     <message id="CliFromAfterTo"><translation>--from 的日期晚於 --to 的日期。</translation></message>
-    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE]] [--language TAG] [--reset-view]
+    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE]] [--language TAG]
       zel COMMAND [OPTION]...
 
 依病患分別保存自動血壓計的量測。
@@ -1098,7 +1117,8 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
   report     將病患的報告寫成 PDF
   export-xml 將所有病患或一位病患匯出為 XML 檔案
   export-csv 將一位病患及其量測匯出為 CSV 檔案
-  import     從匯出的 XML 檔案匯入病患
+  export-table 將量測匯出為試算表用的表格
+  import     從匯出的 XML 檔案匯入病患，或從表格匯入量測
   settings   顯示設定，或變更部分設定
   backup     列出資料檔的備份、建立備份，或還原到某份備份
   privacy    檢查其他使用者能否讀取資料檔，或禁止他們讀取
@@ -1106,7 +1126,6 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
 選項：
   --simulated-monitor[=FILE]   使用軟體模擬的血壓計（由 FILE 描述或內建），不使用 USB 血壓計
   --language TAG               訊息與報告的語言，例如 zh_TW
-  --reset-view                 忘記視窗上次的狀態：位置、頁面、病患、欄位、資料夾
   -h, --help                   顯示此說明；'zel COMMAND --help' 顯示指令的說明
   --version                    顯示版本
 
@@ -1191,6 +1210,19 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
   --force                      取代已存在的檔案；未指定時保留原檔
   --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
+    <message id="CliHelpExportTable"><translation>用法：zel export-table DIR [--patient ID] [--force]
+      zel export-table FILE.csv [--patient ID] [--force]
+
+將量測寫成試算表用的表格：在資料夾 DIR 中為每位病患各寫一個檔案 'ID.table.csv'，或將所有病患寫成一個
+表格 FILE.csv。每個檔案輸出一行 'written: FILE'。表格為 UTF-8，有一列標題，其後每筆量測一列，依時間排序，
+包含病患、數值、檢出結果、量測來源、是否排除及原因，以及當天的註記。試算表會當成公式計算的文字以單引號
+開頭。可用 'zel import' 再次匯入此表格。
+
+選項：
+  --patient ID                 只匯出這位病患
+  --force                      取代已存在的檔案；未指定時保留原檔
+  --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
+  -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpExportXml"><translation>用法：zel export-xml DIR [--patient ID] [--force]
 
 將每位病患連同量測與註記各寫成一個 XML 檔案，存入資料夾 DIR，並為每個檔案輸出一行
@@ -1203,12 +1235,22 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
   --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpImport"><translation>用法：zel import FILE...
+      zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
-從匯出的 XML 檔案匯入病患及其量測與註記。每個檔案只會全部匯入或完全不匯入：只要其中一位病患已在
-清單中，該檔案就不會匯入。未匯入的檔案會連同原因列在標準錯誤。輸出匯入與拒絕的檔案數，以及匯入的
-病患、量測與註記數，每行一個 'key: value'。
+從匯出的 XML 檔案匯入病患及其量測與註記，或從 'zel export-table' 寫出的表格匯入病患。每個檔案只會全部
+匯入或完全不匯入：只要其中一位病患已在清單中，該檔案就不會匯入。未匯入的檔案會連同原因列在標準錯誤；
+表格則列出每一個有錯的行號。輸出匯入與拒絕的檔案數，以及匯入的病患、量測與註記數，每行一個
+'key: value'；有表格時也輸出已有的量測數，這些量測不會重複。
+
+使用 --patient 時，表格中的量測會加入清單中的病患。使用 --columns 時，檔案是其他程式的表格，例如
+--columns "date=日期,time=時間,sys=收縮壓,dia=舒張壓,pulse=脈搏"，標題取自其第一列；時間接在日期之後時
+省略 time。這些量測視為手動輸入。各欄以逗號、分號或定位字元分隔。日期格式為 2026-11-21，除非以
+--dates 指定日、月、年的順序。
 
 選項：
+  --patient ID                 表格中的量測要加入哪位病患
+  --columns LIST               其他程式各欄的標題
+  --dates dmy|mdy|ymd          其日期的寫法
   --simulated-monitor[=FILE]   各指令皆可指定；此指令不需要血壓計
   -h, --help                   顯示此說明</translation></message>
     <message id="CliHelpMonitor"><translation>用法：zel monitor [OPTION]...
@@ -1374,6 +1416,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliNoSuchReading"><translation>這位病患沒有編號 %1 的量測（zel readings --numbers 可輸出編號）</translation></message>
     <message id="CliNoSuchRule"><translation>沒有準則「%1」。可用的準則為 %2。</translation></message>
     <message id="CliNoSuchSection"><translation>沒有項目「%1」。可用 all，或下列任意項目，以逗號分隔：%2。</translation></message>
+    <message id="CliNoTable"><translation>%1：--patient 只用於量測表格；此檔案不是表格，或無法讀取。未匯入任何內容。</translation></message>
     <message id="CliNotExcluded"><translation>量測 %1 並未排除</translation></message>
     <message id="CliNotTogether"><translation>--%1 與 --%2 不能同時使用</translation></message>
     <message id="CliOneJob"><translation>--set-clock、--send-id 與 --erase 一次只能使用一項。</translation></message>
@@ -1394,6 +1437,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliSettingTwice"><translation>設定 %1 指定了不只一次。</translation></message>
     <message id="CliSettingUnknown"><translation>沒有設定「%1」。可用的設定為：%2。</translation></message>
     <message id="CliSettingValue"><translation>%1 可用的值：%2；不接受「%3」。</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID 可將表格中的量測加入清單中的病患。</translation></message>
     <message id="CliTryHelp"><translation>請試試 '%1'。</translation></message>
     <message id="CliUnexpectedWord"><translation>此處不應出現「%1」。</translation></message>
     <message id="CliUnknownCommand"><translation>沒有指令「%1」。</translation></message>

@@ -73,10 +73,11 @@ void printLine(std::ostream& stream, const QString& text) {
     stream << text.toStdString() << '\n' << std::flush;
 }
 
-std::array<Command, 14> commands() {
-    return {monitorCommand(), patientsCommand(), downloadCommand(),  readingsCommand(),  statisticsCommand(),
-            averageCommand(), reportCommand(),   exportXmlCommand(), exportCsvCommand(), exportFhirCommand(),
-            importCommand(),  settingsCommand(), backupCommand(),    privacyCommand()};
+std::array<Command, 15> commands() {
+    return {monitorCommand(),    patientsCommand(),    downloadCommand(),   readingsCommand(),
+            statisticsCommand(), averageCommand(),     reportCommand(),     exportXmlCommand(),
+            exportCsvCommand(),  exportTableCommand(), exportFhirCommand(), importCommand(),
+            settingsCommand(),   backupCommand(),      privacyCommand()};
 }
 
 std::optional<Command> commandByName(const QString& name) {

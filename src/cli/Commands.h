@@ -14,6 +14,7 @@ namespace zel::cli {
 [[nodiscard]] Command downloadCommand();
 [[nodiscard]] Command exportCsvCommand();
 [[nodiscard]] Command exportFhirCommand();
+[[nodiscard]] Command exportTableCommand();
 [[nodiscard]] Command exportXmlCommand();
 [[nodiscard]] Command importCommand();
 [[nodiscard]] Command monitorCommand();
@@ -25,7 +26,7 @@ namespace zel::cli {
 [[nodiscard]] Command statisticsCommand();
 
 /// Every command, in the order in which the help lists them.
-[[nodiscard]] std::array<Command, 14> commands();
+[[nodiscard]] std::array<Command, 15> commands();
 [[nodiscard]] std::optional<Command> commandByName(const QString& name);
 
 /// Does what \p arguments (without the program's name) ask for. \return the exit status

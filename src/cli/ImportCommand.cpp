@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/OpenStore.h"
+#include "cli/TableOptions.h"
 #include "cli/Usage.h"
 
 #include <limits>
@@ -13,7 +14,16 @@ namespace {
 /// What all files together brought.
 struct Taken {
     qsizetype files = 0;
+    bool hasTable = false; ///< of what was tried
     ImportCounts records;
+
+    void add(const ImportCounts& counts) {
+        ++files;
+        records.patients += counts.patients;
+        records.readings += counts.readings;
+        records.comments += counts.comments;
+        records.known += counts.known;
+    }
 };
 
 void print(const Taken& taken, qsizetype refused, Surroundings& around) {
@@ -25,25 +35,46 @@ void print(const Taken& taken, qsizetype refused, Surroundings& around) {
     line("patients", taken.records.patients);
     line("readings", taken.records.readings);
     line("comments", taken.records.comments);
+    if (taken.hasTable) line("known", taken.records.known);
+}
+
+/// The refusal, with the option that may help.
+QString wordsOf(const ImportRefusal& refusal, bool isTable) {
+    const bool isSpreadsheet = refusal.path.endsWith(u".csv"_s, Qt::CaseInsensitive);
+    QString words = describe(refusal);
+    if (isTable && refusal.code == ImportRefusalCode::alreadyKnown)
+        words += u'\n' + qtTrId("CliTableKnown");
+    else if (!isTable && isSpreadsheet && refusal.code == ImportRefusalCode::notReadable)
+        words += u'\n' + qtTrId("CliColumnsHelp");
+    return words;
+}
+
+void importFile(const QString& file, const TableImport& wanted, DataStore& store, Taken& taken,
+                Surroundings& around) {
+    const bool isTable = wanted.columns || isReadingTable(file);
+    if (isTable) taken.hasTable = true;
+    if (!isTable && !wanted.patient.isEmpty())
+        return complain(around, u"zel import"_s, qtTrId("CliNoTable").arg(file));
+    const auto counts = isTable ? store.importTable(file, wanted) : store.importXml(file);
+    if (counts)
+        taken.add(*counts);
+    else
+        complain(around, u"zel import"_s, wordsOf(counts.error(), isTable));
 }
 
 CommandResult runImport(const Request& request, Surroundings& around) {
     const QStringList files = request.options.positionalArguments();
     if (files.isEmpty()) return wrongUsage(qtTrId("CliFilesMissing"));
+    const auto wanted = tableImportOf(request);
+    if (!wanted) return tl::unexpected(wanted.error());
     const OpenedStore store = openStoreForWriting(around);
     if (!store) return tl::unexpected(store.error());
+    const bool isInto = !wanted->patient.isEmpty();
+    if (CommandResult known = isInto ? checkPatient(**store, wanted->patient) : CommandResult(); !known)
+        return known;
     Taken taken;
-    for (const QString& file : files) {
-        const auto counts = (*store)->importXml(file);
-        if (!counts) {
-            complain(around, u"zel import"_s, describe(counts.error()));
-            continue;
-        }
-        ++taken.files;
-        taken.records.patients += counts->patients;
-        taken.records.readings += counts->readings;
-        taken.records.comments += counts->comments;
-    }
+    for (const QString& file : files)
+        importFile(file, *wanted, **store, taken, around);
     print(taken, files.size() - taken.files, around);
     if (taken.files < files.size()) return failed({});
     return {};
@@ -52,8 +83,8 @@ CommandResult runImport(const Request& request, Surroundings& around) {
 } // namespace
 
 Command importCommand() {
-    return {"import", [] { return qtTrId("CliHelpImport"); }, [] { return QList<QCommandLineOption>{}; },
-            runImport, std::numeric_limits<int>::max()};
+    return {"import", [] { return qtTrId("CliHelpImport"); }, tableOptions, runImport,
+            std::numeric_limits<int>::max()};
 }
 
 } // namespace zel::cli

@@ -24,6 +24,8 @@
 
 namespace zel {
 
+struct TableImport;
+
 /// The one XML file that holds everything, and the records read from it. Every change is written to the file
 /// first, by reading it, editing it and replacing it; the lists are then read again. Main thread only.
 class DataStore : public QObject {
@@ -107,6 +109,13 @@ public:
     [[nodiscard]] StoreResult exportCSV(const QString& folder, const QString& ID, Replace replace) const;
     /// Takes the patients of the file with their readings and comments, all or none. Does not reload.
     [[nodiscard]] tl::expected<ImportCounts, ImportRefusal> importXml(const QString& path);
+    /// Writes the readings of these patients of the list as one table for spreadsheets, in their order. It
+    /// outlasts a power cut after flushExports(). \return noSuchRecord for an ID that is not in the list; as
+    /// writeExport() for others
+    [[nodiscard]] StoreResult exportTable(const QString& path, const QStringList& IDs, Replace replace) const;
+    /// Takes the readings of a table that are not there yet, all or none, in one write. Does not reload.
+    [[nodiscard]] tl::expected<ImportCounts, ImportRefusal> importTable(const QString& path,
+                                                                        const TableImport& wanted);
 
     using Counter = Records::Counter;
     /// The next free record number: the largest in use, at least the counter's floor, plus 1.

@@ -85,11 +85,7 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& pa
     });
     if (!stored) {
         if (isReadingError(stored.error())) qCWarning(lcStore, "import  create xml doc failed");
-        if (isInPlace(stored))
-            return tl::unexpected{
-                ImportRefusal{ImportRefusalCode::notFlushed, path, {}, stored.error().detail}};
-        return tl::unexpected{
-            ImportRefusal{ImportRefusalCode::notStored, path, {}, describe(stored.error())}};
+        return tl::unexpected{refusalOf(stored.error(), path)};
     }
     if (!known.isNull())
         return tl::unexpected{ImportRefusal{ImportRefusalCode::alreadyKnown, path, known, {}}};

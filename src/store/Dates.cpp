@@ -163,6 +163,11 @@ Date LocalZone::wallClock(const Date& date) const {
     return *date + offsetAt(*zone->zone, *date, false);
 }
 
+Date LocalZone::instantOf(Instant wall) const {
+    const Instant instant = localToInstant(wall, *zone->zone);
+    return wallClock(instant) == wall ? Date{instant} : Date{};
+}
+
 bool isNilDay(DayNumber day) { return day < dayNumber(2, 1, 1); }
 
 bool isUndatedDay(DayNumber day) { return day == nilReadingDay || isNilDay(day); }

@@ -72,6 +72,8 @@ public:
     [[nodiscard]] DayMinute dayMinute(const Date& date) const;
     /// What the clocks show, as if they stood in UTC; none for no date.
     [[nodiscard]] Date wallClock(const Date& date) const;
+    /// When the clocks show \p wall, which is given as if they stood in UTC; none when they leave it out.
+    [[nodiscard]] Date instantOf(Instant wall) const;
 
 private:
     struct Zone;

@@ -35,6 +35,12 @@ QString sentence(ImportRefusalCode code) {
     case ImportRefusalCode::alreadyKnown: return qtTrId("ImportAlreadyKnown");
     case ImportRefusalCode::notStored: return qtTrId("ImportNotStored");
     case ImportRefusalCode::notFlushed: return qtTrId("ImportNotFlushed");
+    case ImportRefusalCode::badLines: return qtTrId("ImportBadLines");
+    case ImportRefusalCode::noReading: return qtTrId("ImportNoReading");
+    case ImportRefusalCode::tooManyLines: return qtTrId("ImportTooManyLines");
+    case ImportRefusalCode::missingColumn: return qtTrId("ImportMissingColumn");
+    case ImportRefusalCode::noSuchPatient: return qtTrId("ImportNoSuchPatient");
+    case ImportRefusalCode::otherNames: return qtTrId("ImportOtherNames");
     }
     return {};
 }
@@ -102,6 +108,12 @@ QString describe(const ImportRefusal& refusal) {
     const QString words = sentence(refusal.code);
     const QString text = namesPatient ? words.arg(refusal.path, refusal.ID) : words.arg(refusal.path);
     return refusal.detail.isEmpty() ? text : text + u'\n' + refusal.detail;
+}
+
+ImportRefusal refusalOf(const StoreError& error, const QString& path) {
+    if (error.code == StoreErrorCode::notFlushed)
+        return {ImportRefusalCode::notFlushed, path, {}, error.detail};
+    return {ImportRefusalCode::notStored, path, {}, describe(error)};
 }
 
 tl::expected<XmlDocument, ImportRefusal> readImport(const QString& path) {

@@ -26,13 +26,20 @@ enum class ImportRefusalCode {
     alreadyKnown, ///< a patient of the list has the ID
     notStored,    ///< the data file could not be read or written; detail says why
     notFlushed,   ///< all of it was taken, but may be gone after a power cut
+    // Of a table of readings:
+    badLines,      ///< lines that cannot be taken; detail says which and why
+    noReading,     ///< there is none in it
+    tooManyLines,  ///< above mostTableReadings
+    missingColumn, ///< the column, the ID, is missing or there twice
+    noSuchPatient, ///< the patient whose readings are to be added to is not in the list
+    otherNames,    ///< the patient with that ID has other names in the list
 };
 
 /// Why a file was not imported. Nothing of it was taken, but for notFlushed.
 struct ImportRefusal {
     ImportRefusalCode code;
     QString path;   ///< the file
-    QString ID;     ///< the patient's, for badID, sameIDTwice and alreadyKnown
+    QString ID;     ///< the patient's, for badID, sameIDTwice, alreadyKnown, noSuchPatient and otherNames
     QString detail; ///< words for the user; may be empty
 
     bool operator==(const ImportRefusal&) const = default;
@@ -46,10 +53,14 @@ struct ImportCounts {
     std::size_t patients = 0;
     std::size_t readings = 0;
     std::size_t comments = 0;
+    std::size_t known = 0; ///< readings of a table that are there already, and were not taken again
 };
 
 /// The largest file that is read, in bytes.
 inline constexpr qint64 largestImport = largestFile;
+
+/// Why nothing was imported when the data file could not be changed; notFlushed if all of it was.
+[[nodiscard]] ImportRefusal refusalOf(const StoreError& error, const QString& path);
 
 // The steps of DataStore::importXml().
 

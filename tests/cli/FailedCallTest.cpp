@@ -152,6 +152,7 @@ TEST_F(FailedCallTest, LeavesTheFilesAsTheyWereOrAsTheyShouldBe) {
     ASSERT_EQ(zelWith(planM1, {u"download"_s, u"--patient=M1"_s}).status, 0);
     const QString exported = folder.filePath(u"program"_s);
     ASSERT_EQ(zel({u"export-xml"_s, exported}).status, 0);
+    ASSERT_EQ(zel({u"export-table"_s, exported}).status, 0);
     stored = data();
     const QByteArray withoutReadings = [this] {
         QByteArray content = data();
@@ -166,6 +167,7 @@ TEST_F(FailedCallTest, LeavesTheFilesAsTheyWereOrAsTheyShouldBe) {
     tryEachCall({"settings", {u"settings"_s, u"--set"_s, u"SysStandard=130"_s}});
     tryEachCall({"export", {u"export-xml"_s, home() + u"/out"_s}});
     tryEachCall({"CSV", {u"export-csv"_s, u"--patient=M1"_s, home() + u"/out"_s}});
+    tryEachCall({"table", {u"export-table"_s, home() + u"/out"_s}});
     tryEachCall(
         {"report",
          {u"report"_s, u"--patient=M1"_s, u"--section=table"_s, u"--output="_s + home() + u"/out/r.pdf"_s}});
@@ -175,6 +177,7 @@ TEST_F(FailedCallTest, LeavesTheFilesAsTheyWereOrAsTheyShouldBe) {
     tryEachCall({"download", {u"download"_s, u"--patient=M1"_s}});
     stored = "<ZEL><SystemSetting/></ZEL>";
     tryEachCall({"import", {u"import"_s, exported + u"/M1.xml"_s}});
+    tryEachCall({"import a table", {u"import"_s, exported + u"/M1.table.csv"_s}});
     RecordProperty("calls", std::to_string(tried));
     std::printf("%u calls failed\n", tried);
 }

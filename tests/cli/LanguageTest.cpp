@@ -35,6 +35,7 @@ public:
         QDir().mkpath(out);
         run({u"export-xml"_s, out});
         run({u"export-csv"_s, out, u"--patient"_s, u"A1"_s});
+        run({u"export-table"_s, out});
         run({u"readings"_s, u"--patient"_s, u"A1"_s, u"--numbers"_s});
         run({u"statistics"_s, u"--patient"_s, u"A1"_s});
         run({u"settings"_s});

@@ -26,6 +26,7 @@ TEST_F(CliTest, AWorkingDayLeavesNoTraceOfThePatientsAndNothingToOthers) {
           QStringList{u"monitor"_s}, QStringList{u"download"_s} + patient,
           QStringList{u"readings"_s} + patient, QStringList{u"statistics"_s} + patient,
           QStringList{u"export-xml"_s, out}, QStringList{u"export-csv"_s, out} + patient,
+          QStringList{u"export-table"_s, out},
           QStringList{u"report"_s, u"--section"_s, u"all"_s, u"--output"_s, out + u"/report.pdf"_s} + patient,
           QStringList{u"settings"_s, u"--set"_s, u"DateFormat=yyyy mm dd"_s},
           QStringList{u"backup"_s, u"create"_s}}) {
@@ -37,7 +38,7 @@ TEST_F(CliTest, AWorkingDayLeavesNoTraceOfThePatientsAndNothingToOthers) {
     EXPECT_EQ(zel({u"import"_s, out + u"/QXZ-771-04.xml"_s}).status, 0);
     EXPECT_EQ(zel({u"import"_s, out + u"/QXZ-771-04.xml"_s}).status, 1) << "it is known by now";
     qputenv("TMPDIR", temporary);
-    EXPECT_EQ(QDir(out).entryList(QDir::Files).size(), 3);
+    EXPECT_EQ(QDir(out).entryList(QDir::Files).size(), 4);
     EXPECT_FALSE(DefaultLog::lines().isEmpty());
     for (const QString& place : {folder.path(), around.path()}) // whose names are random
         DefaultLog::lines().replaceInStrings(place, QString());
