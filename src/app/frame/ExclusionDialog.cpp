@@ -2,6 +2,7 @@
 
 #include "app/frame/DialogParts.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/Style.h"
 #include "store/ManualReading.h"
 
 #include <QLabel>
@@ -26,10 +27,11 @@ ExclusionDialog::ExclusionDialog(const QString& subject, std::function<bool(cons
     title->setBuddy(reason);
     reason->setObjectName(u"exclusionReason"_s);
     reason->setAccessibleName(withoutMnemonic(title->text()).remove(u':').trimmed());
+    Style::followPlaceholder(*reason);
     reason->setPlaceholderText(qtTrId("leaveOutExample"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addWidget(explained);
     column->addWidget(title);
     column->addWidget(reason);

@@ -2,6 +2,7 @@
 
 #include "app/frame/DialogParts.h"
 #include "app/widgets/DayEdit.h"
+#include "app/widgets/Style.h"
 #include "store/Languages.h"
 
 #include <QFormLayout>
@@ -54,8 +55,8 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     dia = addNumber(*form, u"readingDia"_s, qtTrId("infoDia"), qtTrId("unitMmHg"));
     pulse = addNumber(*form, u"readingPulse"_s, qtTrId("infoPulse"), qtTrId("unitPulse"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addLayout(form);
     column->addWidget(problemLine);
     column->addStretch(1);

@@ -27,12 +27,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
-    void colourNote();
-    [[nodiscard]] QColor alarm() const;
-
     QuietLabel* lblTitle;
     QWidget* row;
     QHBoxLayout* rowLayout;

@@ -3,6 +3,7 @@
 #include "app/patients/PatientFilter.h"
 #include "app/patients/PatientInputs.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
@@ -58,7 +59,7 @@ void PatientRoster::build() {
     setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(Style::near);
     column->addWidget(searchPatients);
     column->addWidget(listOrAdvice, 1);
 }

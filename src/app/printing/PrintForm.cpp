@@ -2,6 +2,7 @@
 
 #include "app/printing/PrintPreview.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/Style.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -75,7 +76,7 @@ void PrintForm::build() {
     previewView->setAccessibleName(qtTrId("previewView"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    column->setSpacing(Style::none);
     noPage->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
     pageOrMissing->addWidget(previewView);
     pageOrMissing->addWidget(noPage);
@@ -108,8 +109,8 @@ QWidget* PrintForm::makeOptionRow() {
     pageText->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
     auto* bar = new QWidget(this);
     auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(12, 8, 12, 8);
-    row->setSpacing(8);
+    row->setContentsMargins(Style::apart, Style::near, Style::apart, Style::near);
+    row->setSpacing(Style::near);
     row->addWidget(label);
     row->addWidget(printOption);
     row->addWidget(printAddAddress);
@@ -125,16 +126,16 @@ QWidget* PrintForm::makeButtonRow() {
     lblNote->setWordWrap(true);
     lblPrinter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(Style::near);
     row->addWidget(lblPrinter, 1);
     row->addWidget(printerButton);
-    row->addSpacing(8);
+    row->addSpacing(Style::near);
     row->addWidget(savePdfButton);
     row->addWidget(printButton);
     row->addWidget(cancelButton);
     auto* column = new QVBoxLayout(bar);
-    column->setContentsMargins(12, 4, 12, 8);
-    column->setSpacing(4);
+    column->setContentsMargins(Style::apart, Style::tight, Style::apart, Style::near);
+    column->setSpacing(Style::tight);
     column->addWidget(lblNote);
     column->addLayout(row);
     return bar;

@@ -3,6 +3,7 @@
 #include "app/settings/XmlFileList.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QCheckBox>
@@ -69,8 +70,8 @@ void ImportFileDialog::build() {
     listOrAdvice->addWidget(tblFiles);
     listOrAdvice->addWidget(noFiles);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addLayout(makeFolderRow());
     column->addWidget(listOrAdvice, 1);
     column->addWidget(makeButtons());

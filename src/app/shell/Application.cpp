@@ -3,6 +3,7 @@
 #include "app/shell/FirstWindow.h"
 #include "app/shell/GlobalVar.h"
 #include "app/shell/TerminationSignals.h"
+#include "app/widgets/OutlineStyle.h"
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
 #include "store/LanguageChoice.h"
@@ -13,6 +14,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
+#include <QStyle>
 #include <QTimer>
 
 #include <array>
@@ -117,6 +119,7 @@ int runApplication(int argc, char** argv) {
     QApplication application(argc, argv);
     termination.watch();
     QApplication::setQuitOnLastWindowClosed(false);
+    if (QApplication::style()->name() == "fusion"_L1) QApplication::setStyle(new OutlineStyle);
     QApplication::setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     const ProgramTexts texts(*options->language);
     SystemClock clock;

@@ -9,6 +9,7 @@
 #include "app/table/ReadingTableItemView.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/widgets/EmptyState.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QAction>
@@ -32,7 +33,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int padding = 18; ///< of a cell, both sides
+constexpr int padding = 2 * Style::near + Style::tight; ///< of a cell, both sides
 
 /// The table gives way to the lines below it, however many they are.
 class ListPage final : public QWidget {
@@ -73,7 +74,7 @@ void TableViewController::build() {
     noneInPeriod->setTexts(qtTrId("noneInPeriod"), qtTrId("noneInPeriodAdvice"));
     auto* rows = new QVBoxLayout(list);
     rows->setContentsMargins({});
-    rows->setSpacing(4);
+    rows->setSpacing(Style::tight);
     rows->addWidget(tblReadings, 1);
     rows->addWidget(new LimitBar(parts.store, parts.panel, list));
     for (QWidget* each : {list, static_cast<QWidget*>(noReadings), static_cast<QWidget*>(noneInPeriod)})
@@ -93,9 +94,6 @@ void TableViewController::dressReadings() {
     tblReadings->setAlternatingRowColors(false);
     tblReadings->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tblReadings->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    QPalette paper = tblReadings->palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    tblReadings->setPalette(paper);
     QHeaderView* columns = tblReadings->horizontalHeader();
     columns->setSectionResizeMode(QHeaderView::Fixed);
     columns->setSectionResizeMode(ReadingTableModel::comment, QHeaderView::Stretch);
