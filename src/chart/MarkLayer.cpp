@@ -1,7 +1,6 @@
 #include "chart/MarkLayer.h"
 
 #include "chart/DensePicture.h"
-#include "chart/StyleTable.h"
 
 #include <QImage>
 
@@ -9,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace zel {
@@ -18,14 +18,15 @@ namespace {
 /// The squares of one mark on the device: the outer 5, the inner 3 pixels of the picture wide.
 template <class Length>
 struct MarkShape {
-    MarkShape(const PictureSurface& surface, bool hasBorder)
+    MarkShape(const PictureSurface& surface, const PointMarks& marks)
         : edge(static_cast<Length>(surface.length(1))), outer(static_cast<Length>(surface.length(5))),
-          inner(outer - 2 * edge), bordered(hasBorder) {}
+          inner(outer - 2 * edge), bordered(marks.bordered), color(marks.color), border(marks.border) {}
     Length edge;
     Length outer;
     Length inner;
     bool bordered;
-    QColor border = fixColor(gcGrayBorderForDotcolor);
+    QColor color;
+    QColor border;
 };
 
 QPointF topLeft(const PictureSurface& surface, Point point) {
@@ -38,7 +39,7 @@ void paintEach(PictureSurface& surface, std::span<const Point> points, const Mar
     for (const Point point : points) {
         const QPointF corner = topLeft(surface, point);
         if (shape.bordered) surface.painter.fillRect(QRectF(corner, outer), shape.border);
-        surface.painter.fillRect(QRectF(corner + QPointF(shape.edge, shape.edge), inner), Qt::black);
+        surface.painter.fillRect(QRectF(corner + QPointF(shape.edge, shape.edge), inner), shape.color);
     }
 }
 
@@ -68,7 +69,7 @@ public:
           innerRow(borderRow) {
         const auto edge = static_cast<std::ptrdiff_t>(shape.edge - shift);
         std::fill_n(mark.begin() + edge, shape.inner, Row::inner);
-        std::fill_n(innerRow.begin() + edge, shape.inner, qRgb(0, 0, 0));
+        std::fill_n(innerRow.begin() + edge, shape.inner, shape.color.rgba());
     }
 
     /// \p y is the top of the mark's outer square.
@@ -147,16 +148,17 @@ QRect coveredPart(const PictureSurface& surface, std::span<const Point> points) 
 
 } // namespace
 
-void paintMarks(PictureSurface& surface, std::span<const Point> points, bool bordered) {
+void paintMarks(PictureSurface& surface, const PointMarks& marks) {
+    const std::vector<Point>& points = marks.points;
     if (points.empty()) return;
     // An image costs by its size, a square painted by itself about as much as that many pixels.
     constexpr double pixelsPerMark = 60;
     const QRect part = coveredPart(surface, points);
     const double area = static_cast<double>(part.width()) * part.height();
     if (surface.hasPixels() && area < pixelsPerMark * static_cast<double>(points.size()))
-        paintTogether(surface, points, MarkShape<int>(surface, bordered), part);
+        paintTogether(surface, points, MarkShape<int>(surface, marks), part);
     else
-        paintEach(surface, visibleMarks(points, surface.sight()), MarkShape<double>(surface, bordered));
+        paintEach(surface, visibleMarks(points, surface.sight()), MarkShape<double>(surface, marks));
 }
 
 } // namespace zel

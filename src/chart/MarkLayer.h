@@ -3,11 +3,9 @@
 #include "chart/Picture.h"
 #include "chart/PictureSurface.h"
 
-#include <span>
-
 namespace zel {
 
 /// Paints the marks of readings, each over those before it: many of them in one image of their own.
-void paintMarks(PictureSurface& surface, std::span<const Point> points, bool bordered);
+void paintMarks(PictureSurface& surface, const PointMarks& marks);
 
 } // namespace zel

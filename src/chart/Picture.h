@@ -47,9 +47,10 @@ struct TextLine {
     TextAttribute attribute;
 };
 
-/// Joined points; lines of width 1 in black, square on the pixel.
+/// Joined points; lines of width 1, square on the pixel.
 struct PolyLine {
     std::vector<Point> points; ///< whole numbers
+    QColor color{Qt::black};   ///< opaque
 };
 
 /// Joined points as a smooth line in any colour, broken into dashes where there are any.
@@ -67,11 +68,13 @@ struct Area {
     QColor color; ///< translucent colours blend
 };
 
-/// The marks of readings, painted in order: a grey 5 x 5 square around the point, and on it a black 3 x 3
+/// The marks of readings, painted in order: a 5 x 5 square around the point as a border, and on it a 3 x 3
 /// one.
 struct PointMarks {
     std::vector<Point> points; ///< whole numbers
-    bool bordered = true;      ///< false: the black square only
+    bool bordered = true;      ///< false: the inner square only
+    QColor color{Qt::black};   ///< opaque, as the border's
+    QColor border = fixColor(gcGrayBorderForDotcolor);
 };
 
 /// Upright lines of width 1 in a translucent colour, each blended over what is there.

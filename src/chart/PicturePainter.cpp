@@ -86,7 +86,7 @@ public:
         QList<QLineF> lines;
         for (const Segment& stroke : joinedStrokes(item.points, surface.sight()))
             lines.emplace_back(at(stroke.from), at(stroke.to));
-        painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap));
+        painter.setPen(QPen(item.color, width, Qt::SolidLine, Qt::SquareCap));
         painter.drawLines(lines);
     }
 
@@ -111,7 +111,7 @@ public:
         painter.drawPolygon(polygon(item.outline));
     }
 
-    void operator()(const PointMarks& item) { paintMarks(surface, item.points, item.bordered); }
+    void operator()(const PointMarks& item) { paintMarks(surface, item); }
 
     void operator()(const Ticks& item) { paintTicks(surface, item); }
 

@@ -3,6 +3,7 @@ import os
 import sys
 import tempfile
 
+import looks
 import rooms
 import texts
 
@@ -16,7 +17,11 @@ CLEAN = {
     "src/app/CMakeLists.txt": "add_subdirectory(widgets)\n",
     "src/app/widgets/Box.h": '#include "store/File.h"\n#include <QWidget>\n#include <QtGui/QPainter>\n',
     "src/app/widgets/CMakeLists.txt": "zel_room(app_widgets DOORS zel_store Qt6::Widgets)\n",
+    "src/app/widgets/Style.h": "struct Style { static constexpr int near = 8; };\n",
+    "src/app/widgets/Style.cpp": "auto red = Qt::red; auto font = scaledFont(other, 2);\n",
     "src/app/graph/Page.h": '#include "app/widgets/Box.h"\n',
+    "src/app/graph/Page.cpp": "row->setContentsMargins(0, 0, Style::near, 0); // not (0, 0, 8, 0)\n"
+    "row->setSpacing(0); QColor wash = other; pen(Qt::transparent); box->setStyleSheet(Style::sheet());\n",
     "src/app/graph/CMakeLists.txt": "zel_room(app_graph DOORS zel_app_frame)\n",
     "src/app/printing/Print.h": "#include <QPrinter>\n",
     "src/app/shell/Window.h": '#include "app/graph/Page.h"\n#include "monitor/Port.h"\n#include <QDBusConnection>\n',
@@ -87,6 +92,19 @@ TEXT_PLANTS = (
     ("translations/zel_pl.ts", '<message id="Zebra"><translation>Z</translation></message>', "not in the English table"),
     ("translations/zel_pl.ts", '<message id="Title"><translation>W</translation></message>', "stands in the table twice"),
 )
+LOOK_PLANTS = (
+    ("src/app/graph/Page.cpp", "QColor ink(12, 34, 56);", "Page.cpp:3: a colour"),
+    ("src/app/graph/Page.cpp", 'const QColor ink{"#123456"};', "a colour"),
+    ("src/app/graph/Page.cpp", "pen.setColor(Qt::darkRed);", "a colour"),
+    ("src/app/graph/Page.cpp", "auto ink = QColor::fromRgb(1, 2, 3);", "a colour"),
+    ("src/app/graph/Page.cpp", 'auto sheet = u"color: #fff";', "a colour"),
+    ("src/app/graph/Page.cpp", "font.setPointSizeF(font.pointSizeF() * 1.1);", "a size of type"),
+    ("src/app/graph/Page.cpp", 'QFont font(u"Sans"_s, 12);', "a size of type"),
+    ("src/app/graph/Page.cpp", "row->setContentsMargins(0, 0, 0,\n    9);", "a distance"),
+    ("src/app/graph/Page.cpp", "row->setSpacing(8);", "a distance"),
+    ("src/app/graph/Page.cpp", "constexpr int gapInGroup = 8;", "a distance"),
+    ("src/app/graph/Page.cpp", 'box->setStyleSheet(u"margin: 2px"_s);', "a style sheet"),
+)
 # Spoiled words of a table: what is replaced by what.
 TEXT_SPOILS = (
     ("en", ">T<", "> <", "no words for the key Title"),
@@ -142,7 +160,10 @@ def main(qt_headers):
     def in_texts(root):
         return texts.findings(os.path.join(root, "src"), os.path.join(root, "translations"))
 
-    wrong = plant(in_rooms, ROOM_PLANTS) + plant(in_texts, TEXT_PLANTS)
+    def in_looks(root):
+        return looks.findings(os.path.join(root, "src"))
+
+    wrong = plant(in_rooms, ROOM_PLANTS) + plant(in_texts, TEXT_PLANTS) + plant(in_looks, LOOK_PLANTS)
     for tag, old, new, wanted in TEXT_SPOILS:
         name = f"translations/zel_{tag}.ts"
         files = CLEAN | {name: CLEAN[name].replace(old, new)}

@@ -2,6 +2,7 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -36,10 +37,10 @@ MonitorBar::MonitorBar(const MonitorStatus& monitorStatus, const DataStore& data
 
 void MonitorBar::build() {
     lblTitle->setObjectName(u"lblMonitorBarTitle"_s);
-    lblTitle->setFont(scaledFont(font(), 1, true));
+    Style::setType(*lblTitle, Style::Type::text);
     lblText->setObjectName(u"lblMonitorBar"_s);
     auto* words = new QVBoxLayout;
-    words->setSpacing(2);
+    words->setSpacing(Style::none);
     for (QLabel* label : {lblTitle, lblText}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
@@ -49,8 +50,8 @@ void MonitorBar::build() {
     newPatientButton = makeButton(u"btnBarNewPatient"_s, qtTrId("newPatientWithID"));
     closeButton = makeButton(u"btnBarClose"_s, qtTrId("closeWindow"));
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 8, 16, 8);
-    row->setSpacing(8);
+    row->setContentsMargins(Style::edge, Style::near, Style::edge, Style::near);
+    row->setSpacing(Style::near);
     row->addLayout(words, 1);
     for (QPushButton* button : {downloadButton, newPatientButton, closeButton})
         row->addWidget(button);

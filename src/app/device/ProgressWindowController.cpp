@@ -2,6 +2,7 @@
 
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 #include "store/Text.h"
 
 #include <QHBoxLayout>
@@ -38,7 +39,7 @@ ProgressWindowController::ProgressWindowController(const Parts& needed, QWidget*
 
 void ProgressWindowController::build() {
     lblPatient->setObjectName(u"lblPatient"_s);
-    lblPatient->setFont(scaledFont(font(), 1.15, true));
+    Style::setType(*lblPatient, Style::Type::heading);
     lblPatient->setTextFormat(Qt::PlainText);
     lblPatient->setWordWrap(true);
     lblProcess->setObjectName(u"lblProcess"_s);
@@ -57,8 +58,8 @@ void ProgressWindowController::build() {
     advice->setWordWrap(true);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 20, 24, 20);
-    column->setSpacing(12);
+    column->setContentsMargins(Style::wide, Style::wide, Style::wide, Style::wide);
+    column->setSpacing(Style::apart);
     column->addWidget(lblPatient);
     column->addWidget(barProgress);
     column->addWidget(lblProcess);

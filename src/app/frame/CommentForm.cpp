@@ -3,6 +3,7 @@
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 #include "chart/StyleTable.h"
 
 #include <QApplication>
@@ -49,7 +50,7 @@ void CommentForm::build() {
     lblBeforeAndSince->setWordWrap(true);
     lblBeforeAndSince->setToolTip(qtTrId("beforeAndSinceHint"));
     auto* dates = new QGridLayout;
-    dates->setHorizontalSpacing(8);
+    dates->setHorizontalSpacing(Style::near);
     dates->setColumnStretch(1, 1);
     int row = 0;
     for (const auto& [title, day] :
@@ -62,15 +63,15 @@ void CommentForm::build() {
     }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(2);
+    column->setSpacing(Style::none);
     column->addWidget(lblPatient);
-    column->addSpacing(6);
+    column->addSpacing(Style::near);
     column->addLayout(dates);
-    column->addSpacing(8);
+    column->addSpacing(Style::near);
     column->addWidget(textBox, 1);
-    column->addSpacing(6);
+    column->addSpacing(Style::near);
     column->addWidget(lblBeforeAndSince);
-    column->addSpacing(6);
+    column->addSpacing(Style::near);
     column->addWidget(makeButtons());
 }
 
@@ -97,15 +98,13 @@ void CommentForm::buildText() {
     commentText->setAccessibleName(qtTrId("commentText"));
     commentText->setFrameShape(QFrame::NoFrame);
     commentText->setTabChangesFocus(true);
-    QPalette colours;
-    colours.setColor(QPalette::PlaceholderText, QColor(128, 128, 128)); // can be read on any background
-    commentText->setPalette(colours);
+    Style::followPlaceholder(*commentText);
     commentText->setMinimumHeight(commentText->fontMetrics().lineSpacing() * 4);
     // Gives way before the panels have to be scrolled.
     commentText->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     commentText->installEventFilter(this);
     auto* inside = new QVBoxLayout(textBox);
-    inside->setContentsMargins(2, 2, 2, 2);
+    inside->setContentsMargins(0, 0, 0, 0);
     inside->addWidget(commentText);
 }
 
@@ -113,7 +112,7 @@ QWidget* CommentForm::makeButtons() {
     auto* buttons = new QWidget(this);
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(4);
+    row->setSpacing(Style::tight);
     const auto place = [&](QToolButton* button, const QString& name, Qt::ArrowType arrow,
                            const QString& hint) {
         button->setObjectName(name);
@@ -133,7 +132,7 @@ QWidget* CommentForm::makeButtons() {
     btnDelete->setText(qtTrId("deleteCommentButton"));
     btnDelete->setToolTip(qtTrId("deleteCommentHint"));
     nameAsSeen(*btnDelete, btnDelete->text(), qtTrId("DeleteComment"));
-    btnDelete->setIconSize({18, 18});
+    btnDelete->setIconSize({Style::smallIcon, Style::smallIcon});
     row->addWidget(btnDelete);
     return buttons;
 }
@@ -173,8 +172,9 @@ void CommentForm::showChange(const QString& sentence) {
 
 void CommentForm::showDegree(int degree) {
     btnDelete->setIcon(QIcon(":/images/"_L1 + getCommentDeleteImage(degree) + ".svg"_L1));
-    textBox->setStyleSheet(
-        u"#commentBox { border: 2px solid %1; }"_s.arg(getCommentColor(degree, true).name()));
+    Style::followFrame(*textBox, Style::ring, [degree](const QPalette& palette) {
+        return shade(getCommentColor(degree, true), Style::picture(palette));
+    });
 }
 
 void CommentForm::showText(const QString& text) { commentText->setPlainText(text); }
@@ -203,7 +203,7 @@ void CommentForm::enable(bool enabled) {
     commentText->clear();
     commentText->setPlaceholderText(qtTrId("noComments"));
     btnDelete->setIcon({});
-    textBox->setStyleSheet(u"#commentBox { border: 1px solid palette(mid); }"_s);
+    Style::followFrame(*textBox, Style::line, &Style::border);
 }
 
 void CommentForm::focusText() {

@@ -2,6 +2,7 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -33,7 +34,7 @@ QLabel* problemLabel(const QString& name, QWidget* parent) {
     line->setObjectName(name);
     line->setTextFormat(Qt::PlainText);
     line->setWordWrap(true);
-    line->setFont(scaledFont(line->font(), 1, true));
+    Style::setType(*line, Style::Type::text);
     line->hide();
     return line;
 }

@@ -4,6 +4,7 @@
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/RequiredMark.h"
+#include "app/widgets/Style.h"
 #include "store/ManualReading.h"
 
 #include <QLabel>
@@ -30,10 +31,11 @@ ExclusionDialog::ExclusionDialog(const QString& subject, std::function<bool(cons
     reason->setAccessibleName(withoutMnemonic(title->text()).remove(u':').trimmed());
     reason->setAccessibleDescription(requiredDescription());
     title->setText(requiredTitle(title->text()));
+    Style::followPlaceholder(*reason);
     reason->setPlaceholderText(qtTrId("leaveOutExample"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addWidget(explained);
     column->addWidget(requiredNote(this));
     column->addWidget(title);

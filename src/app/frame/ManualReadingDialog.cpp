@@ -4,6 +4,7 @@
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/RequiredMark.h"
+#include "app/widgets/Style.h"
 #include "store/Languages.h"
 
 #include <QFormLayout>
@@ -58,8 +59,8 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     dia = addNumber(*form, u"readingDia"_s, qtTrId("infoDia"), qtTrId("unitMmHg"));
     pulse = addNumber(*form, u"readingPulse"_s, qtTrId("infoPulse"), qtTrId("unitPulse"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addWidget(requiredNote(this));
     column->addLayout(form);
     column->addWidget(problemLine);

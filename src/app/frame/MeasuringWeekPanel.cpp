@@ -3,6 +3,7 @@
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -52,15 +53,15 @@ MeasuringWeekPanel::MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod
     : SidePanel(u"weekPanel"_s, qtTrId("weekPanel"), parent), store(dataStore), period(displayPeriod),
       cboWeekRule(new QComboBox(this)), weekEnd(new DayEdit(u"weekEnd"_s, qtTrId("weekEnd"), this)) {
     auto* content = static_cast<QVBoxLayout*>(layout());
-    content->addSpacing(4);
+    content->addSpacing(Style::tight);
     content->addLayout(makeChoices());
-    content->addSpacing(6);
+    content->addSpacing(Style::near);
     lblWeekMean = addLine(u"lblWeekMean"_s);
-    lblWeekMean->setFont(scaledFont(font(), 1.2, true));
+    Style::setType(*lblWeekMean, Style::Type::heading);
     lblWeekThreshold = addLine(u"lblWeekThreshold"_s);
     lblWeekHalves = addLine(u"lblWeekHalves"_s);
     lblWeekMissing = addLine(u"lblWeekMissing"_s);
-    lblWeekMissing->setFont(scaledFont(font(), 1, true));
+    Style::setType(*lblWeekMissing, Style::Type::text);
     lblWeekCount = addLine(u"lblWeekCount"_s);
     lblWeekZone = addLine(u"lblWeekZone"_s);
     connect(&store, &DataStore::reloaded, this, &MeasuringWeekPanel::LoadData);
@@ -79,7 +80,7 @@ QLayout* MeasuringWeekPanel::makeChoices() {
             [this](int chosen) { period.setWeekRule(averageRules[static_cast<std::size_t>(chosen)].rule); });
     connect(weekEnd, &DayEdit::confirmed, this, &MeasuringWeekPanel::pickEnd);
     auto* row = new QHBoxLayout;
-    row->setSpacing(6);
+    row->setSpacing(Style::near);
     auto* label = new QLabel(qtTrId("weekTo"), this);
     label->setBuddy(weekEnd);
     nameAsSeen(*weekEnd, label->text(), weekEnd->accessibleName());

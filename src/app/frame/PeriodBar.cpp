@@ -2,7 +2,9 @@
 
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/FlowLayout.h"
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -25,7 +27,7 @@ struct PeriodBar::Choice {
 };
 
 namespace {
-constexpr int gap = 24, gapInGroup = 8, gapBetweenLines = 2;
+constexpr int gap = Style::wide, gapInGroup = Style::near, gapBetweenLines = Style::none;
 }
 
 PeriodBar::PeriodBar(const DataStore& dataStore, DisplayPeriod& displayPeriod, MessagePanel& messagePanel,
@@ -55,7 +57,7 @@ QWidget* PeriodBar::makeDays() {
     auto* days = new QWidget(this);
     auto* row = new QHBoxLayout(days);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(6);
+    row->setSpacing(Style::near);
     for (const auto& [title, edit] :
          {std::pair(qtTrId("periodFrom"), beginDay), {qtTrId("periodTo"), endDay}}) {
         auto* label = new QLabel(title, days);

@@ -6,6 +6,7 @@
 #include "app/frame/StatisticViewController.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
+#include "app/widgets/Style.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -27,12 +28,12 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
       commentPanel(new CommentViewController(needed.store, needed.panel, needed.clock, this)),
       btnSide(new QToolButton(this)), side(makeSide()) {
     auto* body = new QHBoxLayout;
-    body->setSpacing(12);
+    body->setSpacing(Style::apart);
     body->addWidget(&view, 1);
     body->addWidget(side);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(Style::near);
     column->addWidget(makeHead());
     column->addWidget(period);
     column->addLayout(body, 1);
@@ -72,7 +73,7 @@ QWidget* ReadingFrame::makeSide() {
     auto* panels = new QWidget;
     auto* column = new QVBoxLayout(panels);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(Style::apart);
     column->addWidget(statisticPanel);
     column->addWidget(weekPanel);
     column->addWidget(commentPanel, 1);
@@ -132,8 +133,7 @@ bool ReadingFrame::isDisplayingComment() const { return commentPanel->isVisible(
 /// The view keeps the room that it asks for; a page that is scrolled has no more than its parts need at
 /// least.
 bool ReadingFrame::isTooNarrow() const {
-    constexpr int spacing = 12;
-    const int allParts = shown.sizeHint().width() + spacing + side->minimumWidth();
+    const int allParts = shown.sizeHint().width() + Style::apart + side->minimumWidth();
     return width() <= std::max(allParts, fontMetrics().averageCharWidth() * 120 - 1);
 }
 

@@ -4,10 +4,9 @@
 #include "app/frame/StatisticView.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
+#include "app/widgets/Style.h"
 
 #include <QCheckBox>
-#include <QEvent>
-#include <QGuiApplication>
 #include <QVBoxLayout>
 
 namespace zel {
@@ -31,11 +30,11 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
     btnViewAll->setToolTip(qtTrId("statisticAllHint"));
     auto* content = static_cast<QVBoxLayout*>(layout());
     content->addWidget(lblPatient);
-    content->addSpacing(8);
+    content->addSpacing(Style::near);
     content->addWidget(view);
-    content->addSpacing(6);
+    content->addSpacing(Style::near);
     content->addWidget(lblCount);
-    content->addSpacing(6);
+    content->addSpacing(Style::near);
     content->addWidget(btnViewAll);
     // Whether it was ticked or not: other days are picked with the pickers.
     connect(btnViewAll, &QCheckBox::clicked, this, [this] {
@@ -46,7 +45,11 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
     connect(&store, &DataStore::currentIDChanged, this, &StatisticViewController::LoadData);
     connect(&period, &DisplayPeriod::changed, this, &StatisticViewController::LoadData);
     LoadData();
-    colourBox();
+    // On the panel's own background, a dark desktop's box could not be seen.
+    Style::follow(*btnViewAll, [](QPalette colours) {
+        if (Style::isDark(colours)) colours.setColor(QPalette::Base, colours.color(QPalette::Window));
+        return colours;
+    });
 }
 
 void StatisticViewController::LoadData() {
@@ -73,19 +76,6 @@ QString StatisticViewController::counted() const {
 
 void StatisticViewController::setSelectViewUI() {
     btnViewAll->setChecked(period.getChoice() == PeriodChoice::all);
-}
-
-void StatisticViewController::changeEvent(QEvent* event) {
-    SidePanel::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange) colourBox();
-}
-
-/// On the panel's own background, a dark desktop's box could not be seen.
-void StatisticViewController::colourBox() {
-    QPalette colours = QGuiApplication::palette();
-    if (colours.color(QPalette::Base).lightness() < 128)
-        colours.setColor(QPalette::Base, colours.color(QPalette::Window));
-    btnViewAll->setPalette(colours);
 }
 
 } // namespace zel

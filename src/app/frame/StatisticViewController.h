@@ -20,12 +20,9 @@ public:
     void calcStattistic(); // spelled so in the interface
 
 protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void setSelectViewUI();
     [[nodiscard]] QString counted() const;
-    void colourBox();
 
     const DataStore& store;
     DisplayPeriod& period;

@@ -1,6 +1,7 @@
 #include "app/graph/BPInfoView.h"
 
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 #include "store/ManualReading.h"
 
 #include <QGridLayout>
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype longestComment = 240;
-constexpr int gap = 8; ///< between mark and panel
+constexpr int gap = Style::near; ///< between mark and panel
 
 QString arrhythmiaTitle(const ReadingModel& reading, const DataStore& store) {
     if (reading.isAFib()) return qtTrId("afib");
@@ -76,9 +77,9 @@ BPInfoView::BPInfoView(QWidget* window) : QFrame(window), lines(new QGridLayout(
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
     setAttribute(Qt::WA_TransparentForMouseEvents); // the pointer stays with the mark
-    lines->setContentsMargins(10, 8, 10, 8);
-    lines->setHorizontalSpacing(12);
-    lines->setVerticalSpacing(2);
+    lines->setContentsMargins(Style::near, Style::near, Style::near, Style::near);
+    lines->setHorizontalSpacing(Style::apart);
+    lines->setVerticalSpacing(Style::none);
     hide();
 }
 

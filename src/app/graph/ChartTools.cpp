@@ -5,6 +5,7 @@
 #include "app/graph/DrawGraphicVC.h"
 #include "app/graph/PulseView.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 #include "chart/StyleTable.h"
 
 #include <QAction>
@@ -44,7 +45,7 @@ ChartTools::ChartTools(DrawGraphicVC& shownCharts, ChartComments& chartComments,
           this)),
       picker(new CommentColorView(this)) {
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(4);
+    row->setSpacing(Style::tight);
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true); // the views below do not jump
     setSizePolicy(policy);
@@ -77,7 +78,7 @@ QToolButton* ChartTools::addButton(const QString& name, const QString& text, con
 }
 
 void ChartTools::addCommentTools() {
-    row->addSpacing(8);
+    row->addSpacing(Style::near);
     row->addWidget(commentIcon);
     colorSelButton = addButton(u"ColorSelButton"_s, {}, qtTrId("colourButton"), qtTrId("colourHint"));
     colorSelButton->setAutoRepeat(false);

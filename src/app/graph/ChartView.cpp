@@ -117,7 +117,7 @@ void ChartView::updateMarks() {
 
 void ChartView::paintOver(QPainter& painter) {
     if (!pointed) return;
-    painter.setPen(QPen(fixColor(gcViewBackgroundTop), 2));
+    painter.setPen(QPen(shade(fixColor(gcViewBackgroundTop), colours()), 2));
     for (const Point& mark : marksOf(*pointed))
         if (scale().chartRect.contains(mark)) painter.drawEllipse(ringAround(toView(mark)));
 }

@@ -2,6 +2,7 @@
 
 #include "app/graph/ChartComments.h"
 #include "app/widgets/Log.h"
+#include "app/widgets/Style.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -26,7 +27,7 @@ CommentImageBtn::CommentImageBtn(std::function<bool(QPoint)> validPlace, QWidget
     : QToolButton(parent), isValidPlace(std::move(validPlace)) {
     setObjectName(u"CommentImageBtn"_s);
     setAccessibleName(qtTrId("addComment"));
-    setIconSize({20, 20});
+    setIconSize({Style::smallIcon, Style::smallIcon});
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::OpenHandCursor);
     setImage(0);

@@ -6,6 +6,7 @@
 #include "app/graph/ChartWords.h"
 #include "app/graph/PointedReading.h"
 #include "app/graph/PulseView.h"
+#include "app/widgets/Style.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -33,7 +34,7 @@ DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayP
     setFocusProxy(bloodView);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(3);
+    grid->setSpacing(Style::tight);
     bloodScroller = addValueScroller(u"bloodScroller"_s, qtTrId("bloodScroller"), *bloodView);
     pulseScroller = addValueScroller(u"pulseScroller"_s, qtTrId("pulseScroller"), *pulseView);
     timeScroller = addTimeScroller();

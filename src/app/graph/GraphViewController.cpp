@@ -12,6 +12,7 @@
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Spoken.h"
+#include "app/widgets/Style.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -23,17 +24,6 @@
 namespace zel {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The chosen one stands out whatever the desktop's colours.
-QString switchLook() {
-    return u"QToolButton { border: 1px solid palette(mid); padding: 4px 9px; background: palette(button); }"
-           "QToolButton:checked { background: palette(highlight); color: palette(highlighted-text); }"
-           "QToolButton:focus { border: 2px solid palette(text); padding: 3px 8px; }"_s;
-}
-
-} // namespace
 
 // The charts read a new load of the records before the panels beside them do: these answer to it.
 GraphViewController::GraphViewController(const Parts& needed)
@@ -81,7 +71,7 @@ void GraphViewController::build() {
     bar->addLayout(ofView);
     auto* inside = new QVBoxLayout(content);
     inside->setContentsMargins(0, 0, 0, 0);
-    inside->setSpacing(6);
+    inside->setSpacing(Style::tight);
     inside->addLayout(bar);
     inside->addWidget(views, 1);
     auto* column = new QVBoxLayout(this);
@@ -91,12 +81,12 @@ void GraphViewController::build() {
 
 QWidget* GraphViewController::makeSwitch() {
     auto* box = new QWidget(content);
-    box->setStyleSheet(switchLook());
+    Style::followSheet(*box, &Style::switchSheet);
     box->setAccessibleName(qtTrId("viewTabs"));
     speakAs(*box, QAccessible::PageTabList);
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    row->setSpacing(Style::none);
     auto* group = new QButtonGroup(box);
     const std::array names{u"toggleGraph"_s, u"toggleHistogram"_s, u"toggleCorrelation"_s, u"toggleTrend"_s};
     const std::array texts{qtTrId("showGraph"), qtTrId("showHistogram"), qtTrId("showCorrelation"),

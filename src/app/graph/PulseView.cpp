@@ -111,7 +111,7 @@ void PulseView::createCommentOn(Instant day, int colourIndex) {
 void PulseView::paintOver(QPainter& painter) {
     Picture picture;
     drawManager.drawComments(picture, area());
-    if (!picture.empty()) paintPicture(painter, picture, height());
+    if (!picture.empty()) paintPicture(painter, inColours(picture, colours()), height());
     ChartView::paintOver(painter);
 }
 

@@ -90,9 +90,10 @@ void TrendView::paintOver(QPainter& painter) {
     const TrendColumn* column = pointed ? pointedColumn() : nullptr;
     if (!column) return;
     const Rect& plot = layout().plot;
-    painter.setPen(QPen(fixColor(gcViewBackgroundTop), 1, Qt::DashLine));
+    const QColor ring = shade(fixColor(gcViewBackgroundTop), colours());
+    painter.setPen(QPen(ring, 1, Qt::DashLine));
     painter.drawLine(toView({column->x, plot.y}), toView({column->x, plot.top() - 1}));
-    painter.setPen(QPen(fixColor(gcViewBackgroundTop), 2));
+    painter.setPen(QPen(ring, 2));
     for (const Point& median : column->medians)
         painter.drawEllipse(toView(median), trendRing / 2, trendRing / 2);
 }

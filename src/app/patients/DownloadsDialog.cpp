@@ -2,6 +2,7 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PatientTexts.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
@@ -74,8 +75,8 @@ void DownloadsDialog::build() {
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addWidget(lblDownloads);
     column->addWidget(tblDownloads, 1);
     column->addWidget(close, 0, Qt::AlignRight);

@@ -1,6 +1,7 @@
 #include "app/patients/FirstSteps.h"
 
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 
 #include <QGridLayout>
 #include <QPushButton>
@@ -16,20 +17,20 @@ FirstSteps::FirstSteps(const MonitorStatus& monitorStatus, bool offersDemonstrat
     setAccessibleName(qtTrId("firstSteps"));
     lblMonitor->setObjectName(u"lblFirstMonitor"_s);
     auto* heading = new QLabel(qtTrId("firstSteps"), this);
-    heading->setFont(scaledFont(font(), 1.2, true));
+    Style::setType(*heading, Style::Type::heading);
     heading->setWordWrap(true);
     auto* newPatient = makeButton(u"btnFirstPatient"_s, qtTrId("NewPatient"));
     connect(newPatient, &QPushButton::clicked, this, &FirstSteps::newWanted);
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(16);
-    grid->setVerticalSpacing(4);
+    grid->setHorizontalSpacing(Style::edge);
+    grid->setVerticalSpacing(Style::tight);
     grid->setColumnStretch(1, 1);
     addStep(*grid, 1, qtTrId("firstStepPatient"), newPatient);
     lblMonitorStep = addStep(*grid, 2, qtTrId("firstStepMonitor"), lblMonitor);
     addStep(*grid, 3, qtTrId("firstStepDownload"), nullptr);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 8, 0, 8);
-    column->setSpacing(16);
+    column->setContentsMargins(0, Style::near, 0, Style::near);
+    column->setSpacing(Style::edge);
     column->addStretch(1);
     column->addWidget(heading);
     column->addLayout(grid);
@@ -42,7 +43,7 @@ FirstSteps::FirstSteps(const MonitorStatus& monitorStatus, bool offersDemonstrat
 QLabel* FirstSteps::addStep(QGridLayout& grid, int number, const QString& text, QWidget* below) {
     const int row = 3 * number;
     auto* mark = new QLabel(QString::number(number), this);
-    mark->setFont(scaledFont(font(), 1.8, true));
+    Style::setType(*mark, Style::Type::title);
     mark->setMinimumWidth(mark->fontMetrics().horizontalAdvance(u'W'));
     mark->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* words = new QLabel(text, this);
@@ -51,7 +52,7 @@ QLabel* FirstSteps::addStep(QGridLayout& grid, int number, const QString& text, 
     grid.addWidget(mark, row, 0, 2, 1);
     grid.addWidget(words, row, 1);
     if (below) grid.addWidget(below, row + 1, 1, Qt::AlignLeft | Qt::AlignTop);
-    grid.setRowMinimumHeight(row + 2, 12); // before the next
+    grid.setRowMinimumHeight(row + 2, Style::apart); // before the next
     return mark;
 }
 
@@ -70,8 +71,8 @@ QWidget* FirstSteps::makeDemonstration() {
     note->setWordWrap(true);
     button->setAccessibleDescription(note->text());
     auto* column = new QVBoxLayout(part);
-    column->setContentsMargins(0, 8, 0, 0);
-    column->setSpacing(4);
+    column->setContentsMargins(0, Style::near, 0, 0);
+    column->setSpacing(Style::tight);
     column->addWidget(button, 0, Qt::AlignLeft);
     column->addWidget(note);
     return part;

@@ -1,6 +1,7 @@
 #include "app/patients/PatientButtons.h"
 
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/Style.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 PatientButtons::PatientButtons(QWidget* parent) : QWidget(parent), row(new QHBoxLayout(this)) {
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(Style::near);
     const auto* newButton =
         addButton(u"btnNewPatient"_s, qtTrId("newPatientButton"), qtTrId("newPatientHint"));
     deleteButton =

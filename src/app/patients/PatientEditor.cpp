@@ -5,6 +5,7 @@
 #include "app/patients/PatientInputs.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/RequiredMark.h"
+#include "app/widgets/Style.h"
 #include "store/Languages.h"
 
 #include <QApplication>
@@ -66,8 +67,8 @@ PatientEditor::PatientEditor(const Clock& wallClock, QWidget* parent)
     setWidgetResizable(true);
     auto* groups = new QWidget;
     auto* column = new QVBoxLayout(groups);
-    column->setContentsMargins(0, 0, 8, 0); // beside the scroll bar
-    column->setSpacing(12);
+    column->setContentsMargins(0, 0, Style::near, 0); // beside the scroll bar
+    column->setSpacing(Style::apart);
     addPersonalData(*column);
     addRiskFactors(*column);
     addNotes(*column);

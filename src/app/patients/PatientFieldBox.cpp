@@ -2,6 +2,7 @@
 
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/RequiredMark.h"
+#include "app/widgets/Style.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int frameWidth = 2;
 constexpr QStringView warningSign = u"\u26A0 "; // not by colour alone
 
 } // namespace
@@ -25,18 +25,18 @@ PatientFieldBox::PatientFieldBox(const QString& title, QWidget* parent)
     lblProblem->setTextFormat(Qt::PlainText);
     lblProblem->setWordWrap(true);
     lblProblem->hide();
-    rowLayout->setContentsMargins(frameWidth + 1, frameWidth + 1, frameWidth + 1, frameWidth + 1);
-    rowLayout->setSpacing(6);
+    rowLayout->setContentsMargins(Style::tight, Style::tight, Style::tight, Style::tight);
+    rowLayout->setSpacing(Style::near);
     for (QLabel* label : {static_cast<QLabel*>(lblTitle), lblProblem})
-        label->setContentsMargins(frameWidth + 1, 0, frameWidth + 1, 0); // in line with the inputs
+        label->setContentsMargins(Style::tight, 0, Style::tight, 0); // in line with the inputs
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(1);
+    column->setSpacing(Style::none);
     column->addWidget(lblTitle);
     column->addLayout(rowLayout); // beside the title, which names them to screen readers
     column->addWidget(lblProblem);
     column->addStretch(1);
-    colourNote();
+    Style::followText(*lblProblem, &Style::alarm);
 }
 
 void PatientFieldBox::addInput(QWidget* input, const QString& name, int stretch) {
@@ -77,26 +77,9 @@ void PatientFieldBox::paintEvent(QPaintEvent*) {
     if (lblProblem->isHidden()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(alarm(), frameWidth));
-    painter.drawRoundedRect(QRectF(rowLayout->geometry()).adjusted(1, 1, -1, -1), 4, 4);
-}
-
-void PatientFieldBox::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) colourNote();
-}
-
-/// A red that can be read on the palette's background.
-QColor PatientFieldBox::alarm() const {
-    const bool isDark = palette().color(QPalette::Base).lightness() < 128;
-    return isDark ? QColor(255, 138, 128) : QColor(179, 0, 30);
-}
-
-void PatientFieldBox::colourNote() {
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, alarm());
-    colours.setColor(QPalette::Text, alarm()); // its role on the panels' background
-    lblProblem->setPalette(colours);
+    painter.setPen(QPen(Style::alarm(palette()), Style::ring));
+    painter.drawRoundedRect(QRectF(rowLayout->geometry()).adjusted(1, 1, -1, -1), Style::corner,
+                            Style::corner);
 }
 
 } // namespace zel

@@ -21,18 +21,15 @@ public:
     /// Something that stands beside the inputs and is no input.
     void addRemark(QWidget* remark);
     void setTitle(const QString& title);
-    void setRequired(); ///< marks it as one that has to be filled in
+    void setRequired();                   ///< marks it as one that has to be filled in
     void setProblem(const QString& text); ///< empty: none
     [[nodiscard]] QString problem() const { return told; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
-    void colourNote();
     void describe();
-    [[nodiscard]] QColor alarm() const;
 
     QuietLabel* lblTitle;
     QHBoxLayout* rowLayout;

@@ -2,6 +2,7 @@
 
 #include "app/patients/PatientFieldBox.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 
 #include <QGridLayout>
 
@@ -12,12 +13,12 @@ PatientFieldGroup::PatientFieldGroup(const QString& title, QWidget* parent)
     setFrameShape(QFrame::StyledPanel);
     setAccessibleName(title);
     auto* heading = new QLabel(title, this);
-    heading->setFont(scaledFont(font(), 1.1, true));
-    grid->setHorizontalSpacing(14);
-    grid->setVerticalSpacing(8);
+    Style::setType(*heading, Style::Type::heading);
+    grid->setHorizontalSpacing(Style::apart);
+    grid->setVerticalSpacing(Style::near);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(14, 12, 14, 12);
-    column->setSpacing(8);
+    column->setContentsMargins(Style::apart, Style::apart, Style::apart, Style::apart);
+    column->setSpacing(Style::near);
     column->addWidget(heading);
     column->addLayout(grid);
 }

@@ -1,5 +1,7 @@
 #include "app/patients/PatientInputs.h"
 
+#include "app/widgets/Style.h"
+
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -45,9 +47,7 @@ QLineEdit* makeLineInput(const QString& name, std::function<bool(const QString&)
 }
 
 void setPlaceholder(QLineEdit& input, const QString& text) {
-    QPalette colours;
-    colours.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
-    input.setPalette(colours);
+    Style::followPlaceholder(input);
     input.setPlaceholderText(text);
 }
 

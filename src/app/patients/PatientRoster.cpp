@@ -4,6 +4,7 @@
 #include "app/patients/PatientInputs.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/QuietTable.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
@@ -79,7 +80,7 @@ void PatientRoster::build() {
     setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(Style::near);
     column->addWidget(searchPatients);
     column->addWidget(listOrAdvice, 1);
 }
@@ -137,7 +138,7 @@ void PatientRoster::resizeEvent(QResizeEvent* event) {
 /// An ID as a monitor keeps it is seen whole, unless that left no room for names; dates of birth give way
 /// first.
 void PatientRoster::layOutColumns() {
-    constexpr int padding = 18, leastName = 18;
+    constexpr int padding = 2 * Style::near + Style::tight, leastName = 18;
     const QFontMetrics metrics = tblPatients->fontMetrics();
     QHeaderView& columns = *tblPatients->horizontalHeader();
     const int whole = metrics.averageCharWidth() * 14;

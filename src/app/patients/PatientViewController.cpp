@@ -9,6 +9,7 @@
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/PatientTexts.h"
+#include "app/widgets/Style.h"
 #include "store/Text.h"
 
 #include <QSplitter>
@@ -66,7 +67,7 @@ void PatientViewController::build() {
     heading->setTexts(qtTrId("pagePatients"), qtTrId("patientsDetail"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(Style::apart);
     column->addWidget(heading);
     column->addWidget(rosterOrAdvice, 1);
     buttons = makeButtons();

@@ -4,6 +4,7 @@
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Spoken.h"
+#include "app/widgets/Style.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -78,7 +79,7 @@ void PrintForm::build() {
     speakAs(*previewView, QAccessible::Graphic);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    column->setSpacing(Style::none);
     noPage->setTexts(qtTrId("NoData"), qtTrId("NoDataAdvice"));
     pageOrMissing->addWidget(previewView);
     pageOrMissing->addWidget(noPage);
@@ -111,8 +112,8 @@ QWidget* PrintForm::makeOptionRow() {
     pageText->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
     auto* bar = new QWidget(this);
     auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(12, 8, 12, 8);
-    row->setSpacing(8);
+    row->setContentsMargins(Style::apart, Style::near, Style::apart, Style::near);
+    row->setSpacing(Style::near);
     row->addWidget(label);
     row->addWidget(printOption);
     row->addWidget(printAddAddress);
@@ -128,16 +129,16 @@ QWidget* PrintForm::makeButtonRow() {
     lblNote->setWordWrap(true);
     lblPrinter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(Style::near);
     row->addWidget(lblPrinter, 1);
     row->addWidget(printerButton);
-    row->addSpacing(8);
+    row->addSpacing(Style::near);
     row->addWidget(savePdfButton);
     row->addWidget(printButton);
     row->addWidget(cancelButton);
     auto* column = new QVBoxLayout(bar);
-    column->setContentsMargins(12, 4, 12, 8);
-    column->setSpacing(4);
+    column->setContentsMargins(Style::apart, Style::tight, Style::apart, Style::near);
+    column->setSpacing(Style::tight);
     column->addWidget(lblNote);
     column->addLayout(row);
     return bar;

@@ -1,8 +1,11 @@
 #include "app/printing/PrintPreview.h"
 
+#include "app/widgets/Style.h"
 #include "report/ReportPainter.h"
 
+#include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOptionFocusRect>
 
 #include <algorithm>
@@ -10,7 +13,7 @@
 namespace zel {
 
 namespace {
-constexpr double edge = 8; ///< least room around the page
+constexpr double edge = Style::near; ///< least room around the page
 }
 
 PrintPreview::PrintPreview(QWidget* parent) : QWidget(parent) {
@@ -47,10 +50,21 @@ QPixmap PrintPreview::painted() const {
     paintPreview(painter, QRectF(0, 0, width() / scale, height() / scale), *shown, section, currentPage);
     const QSizeF page(box.width, box.height);
     const QRectF sheet(QPointF(width() / scale - box.width, height() / scale - box.height) / 2, page);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 0));
+    if (Style::isDark(palette())) { // the paper stays white
+        QPainterPath around;
+        around.addRect(0, 0, width() / scale, height() / scale);
+        around.addRect(sheet); // a hole
+        painter.fillPath(around, palette().window());
+    }
+    painter.setPen(QPen(Style::border(palette()), 0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(sheet);
     return pixmap;
+}
+
+void PrintPreview::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) bufImage = {};
 }
 
 void PrintPreview::paintEvent(QPaintEvent*) {

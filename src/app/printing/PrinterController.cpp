@@ -1,5 +1,7 @@
 #include "app/printing/PrinterController.h"
 
+#include "app/widgets/Style.h"
+
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -32,8 +34,8 @@ PrinterController::PrinterController(QWidget* parent) : QDialog(parent), printer
         row->addWidget(button);
     }
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 12);
-    column->setSpacing(14);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addLayout(form);
     column->addLayout(row);
 }

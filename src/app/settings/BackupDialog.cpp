@@ -1,6 +1,7 @@
 #include "app/settings/BackupDialog.h"
 
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 #include "store/CopyContent.h"
 #include "store/Languages.h"
@@ -53,8 +54,8 @@ void BackupDialog::build() {
     lblBackup->setTextFormat(Qt::PlainText);
     lblBackup->setWordWrap(true);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addWidget(explained);
     column->addWidget(tblBackups, 1);
     column->addWidget(lblBackup);
@@ -108,6 +109,7 @@ QWidget* BackupDialog::makeSecondFolder() {
     edtSecondFolder = new QLineEdit(this); // a path of any length, to be scrolled and copied
     edtSecondFolder->setObjectName(u"edtSecondFolder"_s);
     edtSecondFolder->setAccessibleName(words->text().remove(u':'));
+    Style::followPlaceholder(*edtSecondFolder);
     edtSecondFolder->setPlaceholderText(qtTrId("backupNoSecondFolder"));
     edtSecondFolder->setReadOnly(true);
     row->addWidget(words);

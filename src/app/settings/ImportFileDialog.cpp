@@ -4,6 +4,7 @@
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QCheckBox>
@@ -75,8 +76,8 @@ void ImportFileDialog::build() {
     listOrAdvice->addWidget(tblFiles);
     listOrAdvice->addWidget(noFiles);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addLayout(makeFolderRow());
     column->addWidget(lblRemark);
     column->addWidget(listOrAdvice, 1);
@@ -127,7 +128,8 @@ void ImportFileDialog::dressList() {
     tblFiles->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView* columns = tblFiles->horizontalHeader();
     const int character = tblFiles->fontMetrics().averageCharWidth();
-    constexpr int padding = 24; // of a title, both sides, and the bold type that some desktops give it
+    constexpr int padding =
+        Style::wide; // of a title, both sides, and the bold type that some desktops give it
     for (const auto& [column, width] : {std::pair(XmlFileList::readings, 12),
                                         {XmlFileList::comments, 12},
                                         {XmlFileList::date, 19},

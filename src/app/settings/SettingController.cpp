@@ -5,6 +5,7 @@
 #include "app/settings/SettingForm.h"
 #include "app/widgets/Log.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 #include "store/LanguageChoice.h"
 
 #include <QGroupBox>
@@ -71,8 +72,8 @@ QPushButton* SettingController::addButton(const QString& name, const QString& te
 void SettingController::build() {
     auto* controls = new QWidget;
     auto* inside = new QVBoxLayout(controls);
-    inside->setContentsMargins(16, 10, 16, 6);
-    inside->setSpacing(6);
+    inside->setContentsMargins(Style::edge, Style::near, Style::edge, Style::near);
+    inside->setSpacing(Style::near);
     form->monitorColumn().addWidget(sendButton, 0, Qt::AlignLeft);
     form->monitorColumn().addStretch(1);
     inside->addWidget(form, 1);
@@ -85,7 +86,7 @@ void SettingController::build() {
     scroll->setWidget(controls);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    column->setSpacing(Style::none);
     column->addWidget(scroll, 1);
     QWidget* buttons = makeButtons();
     column->addWidget(buttons);
@@ -112,7 +113,7 @@ QWidget* SettingController::makeDataGroup() {
 QWidget* SettingController::makeButtons() {
     auto* buttons = new QWidget(this);
     auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(16, 6, 16, 10);
+    row->setContentsMargins(Style::edge, Style::near, Style::edge, Style::near);
     row->addStretch(1);
     QPushButton* ok = addButton(u"okButton"_s, qtTrId("ok"), qtTrId("settingOK"));
     QPushButton* cancel = addButton(u"cancelButton"_s, qtTrId("cancel"), qtTrId("settingCancel"));

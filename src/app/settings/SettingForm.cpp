@@ -3,6 +3,7 @@
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 #include "store/Languages.h"
 #include "store/SettingKeys.h"
 
@@ -80,7 +81,7 @@ QLayout* withUnit(QLineEdit* field, const QValidator* whole) {
 QFormLayout* makeForm(QGroupBox* group) {
     auto* form = new QFormLayout(group);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->setVerticalSpacing(5);
+    form->setVerticalSpacing(Style::tight);
     form->setRowWrapPolicy(QFormLayout::DontWrapRows);
     return form;
 }
@@ -112,8 +113,8 @@ SettingForm::SettingForm(QWidget* parent)
 void SettingForm::build() {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(6);
+    grid->setHorizontalSpacing(Style::apart);
+    grid->setVerticalSpacing(Style::near);
     grid->addWidget(makeDisplayGroup(), 0, 0);
     grid->addWidget(makeLimitGroup(), 1, 0);
     grid->addWidget(makePhysicianGroup(), 0, 1);
@@ -149,8 +150,8 @@ void SettingForm::fillLanguages() {
 QWidget* SettingForm::makeDisplayPPorMAP() {
     auto* both = named(new QWidget, u"displayPPorMAP"_s, qtTrId("settingPPorMAP"));
     auto* column = new QVBoxLayout(both);
-    column->setContentsMargins(0, 2, 0, 0);
-    column->setSpacing(0);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Style::none);
     column->addWidget(new QLabel(qtTrId("settingPPorMAP"), both));
     auto* PP = named(new QRadioButton(qtTrId("settingPPButton")), u"displayPP"_s, qtTrId("settingPP"));
     auto* MAP = named(new QRadioButton(qtTrId("settingMAPButton")), u"displayMAP"_s, qtTrId("settingMAP"));

@@ -4,6 +4,7 @@
 #include "app/shell/FirstWindow.h"
 #include "app/shell/GlobalVar.h"
 #include "app/shell/TerminationSignals.h"
+#include "app/widgets/OutlineStyle.h"
 #include "app/widgets/Spoken.h"
 #include "monitor/HidPort.h"
 #include "monitor/SimulatedMonitor.h"
@@ -16,6 +17,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
+#include <QStyle>
 #include <QTimer>
 
 #include <array>
@@ -135,6 +137,7 @@ int runApplication(int argc, char** argv) {
     QAccessible::installFactory(makeSpoken);
     termination.watch();
     QApplication::setQuitOnLastWindowClosed(false);
+    if (QApplication::style()->name() == "fusion"_L1) QApplication::setStyle(new OutlineStyle);
     QApplication::setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     const ProgramTexts texts(*options->language);
     SystemClock clock;

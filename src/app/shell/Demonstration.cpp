@@ -1,6 +1,7 @@
 #include "app/shell/Demonstration.h"
 
 #include "app/shell/MainWindow.h"
+#include "app/widgets/Style.h"
 #include "store/FileMode.h"
 
 #include <QCoreApplication>
@@ -61,7 +62,7 @@ void markAsDemonstration(MainWindow& window, const DataStore& store) {
     strip->setAccessibleDescription(strip->toolTip());
     strip->setTextFormat(Qt::PlainText);
     strip->setWordWrap(true);
-    strip->setContentsMargins(16, 4, 16, 4);
+    strip->setContentsMargins(Style::edge, Style::tight, Style::edge, Style::tight);
     strip->setAutoFillBackground(true);
     strip->setBackgroundRole(QPalette::Highlight);
     strip->setForegroundRole(QPalette::HighlightedText);

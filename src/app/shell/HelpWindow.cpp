@@ -1,6 +1,7 @@
 #include "app/shell/HelpWindow.h"
 
 #include "app/shell/HelpDocument.h"
+#include "app/widgets/Style.h"
 
 #include <QFile>
 #include <QListWidget>
@@ -32,10 +33,10 @@ QString manualText() {
 void dressTable(QTextTable& table) {
     QTextTableFormat format = table.format();
     format.setBorderCollapse(true);
-    format.setBorder(1);
+    format.setBorder(Style::line);
     format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-    format.setBorderBrush(Qt::lightGray);
-    format.setCellPadding(4);
+    format.setBorderBrush(Style::border(QGuiApplication::palette()));
+    format.setCellPadding(Style::tight);
     table.setFormat(format);
 }
 
@@ -59,11 +60,11 @@ HelpWindow::HelpWindow(QWidget* parent)
 void HelpWindow::build() {
     chapters->setObjectName(u"chapters"_s);
     chapters->setAccessibleName(qtTrId("manualChapters"));
-    chapters->setSpacing(2);
+    chapters->setSpacing(Style::tight);
     manual->setObjectName(u"manual"_s);
     manual->setAccessibleName(qtTrId("manualTitle"));
     manual->setOpenExternalLinks(false);
-    manual->document()->setDocumentMargin(16);
+    manual->document()->setDocumentMargin(Style::edge);
     auto* sides = new QSplitter(this);
     sides->setChildrenCollapsible(false);
     sides->addWidget(chapters);

@@ -2,6 +2,7 @@
 
 #include "app/shell/KeyList.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
@@ -32,8 +33,8 @@ KeysDialog::KeysDialog(QWidget* window) : QDialog(window), tblKeys(new QTableWid
     tblKeys->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     tblKeys->horizontalHeader()->setSectionResizeMode(what, QHeaderView::Stretch);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
+    column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
+    column->setSpacing(Style::apart);
     column->addWidget(tblKeys, 1);
     column->addWidget(makeButtons());
     const int letter = fontMetrics().averageCharWidth();

@@ -7,6 +7,7 @@
 #include "app/widgets/PageController.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Spoken.h"
+#include "app/widgets/Style.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -71,7 +72,7 @@ MainWindow::MainWindow(const DataStore& store, const MonitorStatus& monitorStatu
     auto* central = new QWidget(this);
     auto* column = new QVBoxLayout(central);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    column->setSpacing(Style::none);
     column->addWidget(makeTabBar());
     offer = new MonitorBar(status, store, this); // Tab goes to it next
     column->addWidget(offer);
@@ -87,14 +88,14 @@ QWidget* MainWindow::makeTabBar() {
     bar->setAutoFillBackground(true);
     bar->setBackgroundRole(QPalette::Base);
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(8, 0, 8, 0);
-    row->setSpacing(4);
+    row->setContentsMargins(Style::near, 0, Style::near, 0);
+    row->setSpacing(Style::tight);
     auto* list = new QWidget(bar);
     list->setAccessibleName(qtTrId("pageTabs"));
     speakAs(*list, QAccessible::PageTabList);
     auto* inside = new QHBoxLayout(list);
     inside->setContentsMargins(0, 0, 0, 0);
-    inside->setSpacing(4);
+    inside->setSpacing(Style::tight);
     for (int tag = 0; tag < tabTotal; ++tag) {
         TabButton* tab = tabs.at(static_cast<std::size_t>(tag));
         tab->setToolTip(qtTrId("tabHint").arg(tab->accessibleName()).arg(tag + 1));
@@ -110,7 +111,7 @@ QWidget* MainWindow::makeTabBar() {
     line->setFrameShadow(QFrame::Plain);
     auto* column = new QVBoxLayout(bar);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    column->setSpacing(Style::none);
     column->addLayout(row);
     column->addWidget(line);
     return bar;
@@ -123,7 +124,7 @@ QWidget* MainWindow::makeSettingButton() {
     button->setToolTip(qtTrId("settingsHint"));
     nameAsSeen(*button, button->text());
     button->setIcon(QIcon(u":/icons/settingBtn.svg"_s));
-    button->setIconSize({20, 20});
+    button->setIconSize({Style::smallIcon, Style::smallIcon});
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
@@ -136,8 +137,8 @@ QWidget* MainWindow::makeSettingButton() {
 QWidget* MainWindow::makeBody(const DataStore& store) {
     auto* body = new QWidget;
     auto* row = new QHBoxLayout(body);
-    row->setContentsMargins(16, 14, 16, 12);
-    row->setSpacing(16);
+    row->setContentsMargins(Style::edge, Style::apart, Style::edge, Style::apart);
+    row->setSpacing(Style::edge);
     row->addWidget(contentBox, 1);
     row->addWidget(makeSideColumn(store));
     return makeScroll(u"bodyScroll"_s, body, this);
@@ -147,7 +148,7 @@ QWidget* MainWindow::makeSideColumn(const DataStore& store) {
     auto* panels = new QWidget;
     auto* column = new QVBoxLayout(panels);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(Style::apart);
     column->addWidget(new MonitorPanel(status, panels));
     dataPanel = new DataPanel(store, panels);
     column->addWidget(dataPanel);
@@ -162,10 +163,10 @@ QWidget* MainWindow::makeSideColumn(const DataStore& store) {
 void MainWindow::makeStatusLine() {
     lblOutcome->setObjectName(u"lblOutcome"_s);
     lblOutcome->setTextFormat(Qt::PlainText);
-    lblOutcome->setContentsMargins(12, 0, 0, 0);
+    lblOutcome->setContentsMargins(Style::apart, 0, 0, 0);
     lblOutcome->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblMonitor->setObjectName(u"lblMonitor"_s);
-    lblMonitor->setContentsMargins(0, 0, 12, 0);
+    lblMonitor->setContentsMargins(0, 0, Style::apart, 0);
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addWidget(lblOutcome, 1);
     statusBar()->addPermanentWidget(lblMonitor);

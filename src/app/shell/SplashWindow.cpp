@@ -2,6 +2,7 @@
 
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -48,14 +49,14 @@ SplashWindow::SplashWindow(QWidget* window) : QFrame(window) {
 
 void SplashWindow::build() {
     auto* picture = new QLabel(this);
-    picture->setPixmap(QIcon(u":/icons/zel.svg"_s).pixmap(88, 88));
+    picture->setPixmap(QIcon(u":/icons/zel.svg"_s).pixmap(Style::largeIcon, Style::largeIcon));
     auto* name = new QLabel(qtTrId("programName"), this);
-    name->setFont(scaledFont(font(), 2.8, true));
+    Style::setType(*name, Style::Type::title);
     auto* purpose = new QLabel(qtTrId("programPurpose"), this);
     auto* version = new QuietLabel(qtTrId("programVersion").arg(QLatin1String(ZEL_VERSION)), this);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(40, 32, 40, 24);
-    column->setSpacing(6);
+    column->setContentsMargins(Style::wide, Style::wide, Style::wide, Style::wide);
+    column->setSpacing(Style::near);
     for (QLabel* label : {picture, name, purpose, static_cast<QLabel*>(version)})
         column->addWidget(label, 0, Qt::AlignHCenter);
     column->insertStretch(3, 1);
@@ -93,8 +94,8 @@ void SplashWindow::closeSplash() {
 void SplashWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
-    painter.fillRect(0, height() - 5, width(), 5, palette().highlight());
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.fillRect(0, height() - Style::tight, width(), Style::tight, palette().highlight());
+    painter.setPen(Style::border(palette()));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -3,6 +3,7 @@
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Spoken.h"
+#include "app/widgets/Style.h"
 
 #include <QIcon>
 #include <QPainter>
@@ -13,7 +14,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int imageSize = 28, margin = 14, gap = 10, accent = 4;
+constexpr int imageSize = Style::tabIcon, margin = Style::apart, gap = Style::near, accent = Style::tight;
 }
 
 TabButton::TabButton(const QString& name, const QString& text, QWidget* parent) : QAbstractButton(parent) {
@@ -39,24 +40,22 @@ QString TabButton::imageName() const {
 }
 
 QSize TabButton::sizeHint() const {
-    const QFontMetrics metrics(scaledFont(font(), 1.1, true));
+    const QFontMetrics metrics(Style::type(font(), Style::Type::heading));
     const int width = metrics.horizontalAdvance(QString(text()).remove(u'&'));
     return {margin + imageSize + gap + width + margin,
-            std::max(imageSize, metrics.height()) + 2 * (slim ? 4 : 12)};
+            std::max(imageSize, metrics.height()) + 2 * (slim ? Style::tight : Style::apart)};
 }
 
 void TabButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    QColor wash = palette().color(QPalette::Highlight);
-    wash.setAlpha(isShown() ? 40 : 20);
-    if (isShown() || (isEnabled() && underMouse())) painter.fillRect(rect(), wash);
+    if (isShown() || (isEnabled() && underMouse())) painter.fillRect(rect(), Style::hover(palette()));
     if (isShown()) painter.fillRect(0, height() - accent, width(), accent, palette().highlight());
 
     const QRect image(margin, (height() - imageSize) / 2, imageSize, imageSize);
     QIcon(":/icons/"_L1 + imageName() + ".svg"_L1).paint(&painter, image);
     const QRect words = rect().adjusted(image.right() + 1 + gap, 0, 0, 0);
     const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    painter.setFont(scaledFont(font(), 1.1, isShown()));
+    painter.setFont(Style::type(font(), Style::Type::heading, isShown()));
     painter.setPen(palette().color(group, QPalette::WindowText));
     painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
     if (!hasFocus()) return;

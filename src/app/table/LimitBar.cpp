@@ -3,6 +3,7 @@
 #include "analysis/HighValues.h"
 #include "app/widgets/FlowLayout.h"
 #include "app/widgets/SeenName.h"
+#include "app/widgets/Style.h"
 #include "store/PressureLimits.h"
 
 #include <QComboBox>
@@ -26,12 +27,12 @@ LimitBar::LimitBar(DataStore& dataStore, MessagePanel& messagePanel, QWidget* pa
     lblOwnProblem->setWordWrap(true);
     own = makeOwn();
     auto* parts = new FlowLayout;
-    parts->setGaps(16, 2);
+    parts->setGaps(Style::edge, Style::tight);
     for (QWidget* part : {static_cast<QWidget*>(lblHighMark), makeChoice(), own})
         parts->addWidget(part);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->setSpacing(2);
+    column->setSpacing(Style::none);
     column->addLayout(parts);
     column->addWidget(lblOwnProblem);
     connect(&store, &DataStore::viewLimitsChanged, this, &LimitBar::showLimits);

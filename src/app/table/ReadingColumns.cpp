@@ -1,6 +1,7 @@
 #include "app/table/ReadingColumns.h"
 
 #include "app/table/ReadingTableModel.h"
+#include "app/widgets/Style.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -20,8 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int cellPadding = 18;                     ///< both sides
-constexpr double widestColumn = 200;                ///< letters
+constexpr int cellPadding = 2 * Style::near + Style::tight; ///< both sides
+constexpr double widestColumn = 200;                        ///< letters
 constexpr int sharing = ReadingTableModel::comment; ///< the columns before it, which has what they leave
 
 /// As they are remembered, whatever a column is called in the language.

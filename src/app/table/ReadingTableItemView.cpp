@@ -2,6 +2,7 @@
 
 #include "analysis/HighValues.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 #include "chart/StyleTable.h"
 #include "store/ManualReading.h"
 
@@ -14,7 +15,7 @@ namespace zel {
 
 namespace {
 
-constexpr int margin = 8, diameter = 10, accent = 3;
+constexpr int margin = Style::near, diameter = 10, accent = Style::tight;
 
 enum class Mark { none, outlined, filled };
 
@@ -30,40 +31,41 @@ Mark markOf(const ReadingModel& row, int column) {
     }
 }
 
+/// In the ink that the row has chosen.
 void drawCircle(QPainter& painter, const QRect& cell, Mark mark) {
     if (mark == Mark::none) return;
     QRectF circle(0, 0, diameter, diameter);
     circle.moveCenter(QRectF(cell).center());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::black, mark == Mark::outlined ? 1.2 : 0));
-    painter.setBrush(mark == Mark::filled ? QBrush(Qt::black) : QBrush(Qt::NoBrush));
+    const QColor ink = painter.pen().color();
+    painter.setPen(QPen(ink, mark == Mark::outlined ? 1.2 : 0));
+    painter.setBrush(mark == Mark::filled ? QBrush(ink) : QBrush(Qt::NoBrush));
     painter.drawEllipse(circle);
 }
 
 void drawWords(QPainter& painter, const QRect& cell, const QString& text, bool isCentred) {
     const QRect room = cell.adjusted(margin, 0, -margin, 0);
     const QString words = painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width());
-    painter.setPen(Qt::black);
     const auto alignment = isCentred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
     painter.drawText(room, static_cast<int>(alignment), words);
 }
 
 /// Bold where it would stand anyway, with the mark right of it.
 void drawHigh(QPainter& painter, const QRect& cell, const QString& number) {
-    constexpr int beside = 3;
+    constexpr int beside = Style::tight;
     QFont font = painter.font();
     font.setBold(true);
     painter.setFont(font);
     drawWords(painter, cell, number, true);
     const int end = cell.center().x() + painter.fontMetrics().horizontalAdvance(number) / 2 + beside;
-    painter.setFont(scaledFont(font, 0.7));
+    painter.setFont(Style::type(font, Style::Type::text, false));
     painter.drawText(cell.adjusted(end - cell.left(), 0, 0, 0),
                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), highMark);
 }
 
 /// Through the whole row, also where a column has nothing to say.
 void strikeThrough(QPainter& painter, const QRect& cell) {
-    painter.fillRect(QRect(cell.left(), cell.center().y(), cell.width(), 1), Qt::black);
+    painter.fillRect(QRect(cell.left(), cell.center().y(), cell.width(), Style::line), painter.pen().color());
 }
 
 /// Open towards the rows above and below that belong to the same comment.
@@ -72,7 +74,7 @@ QPainterPath band(const QRect& cell, bool isFirst, bool isLast, int width) {
     const QRectF area = QRectF(cell.left() + margin, cell.top(), width, cell.height())
                             .adjusted(0, isFirst ? 3 : -beyond, 0, isLast ? -3 : beyond);
     QPainterPath path;
-    path.addRoundedRect(area, 4, 4);
+    path.addRoundedRect(area, Style::corner, Style::corner);
     return path;
 }
 
@@ -88,6 +90,8 @@ void ReadingTableItemView::paint(QPainter* painter, const QStyleOptionViewItem& 
     painter->setClipRect(option.rect);
     painter->setFont(option.font);
     drawBackground(*painter, option, index);
+    const bool isSelected = option.state & QStyle::State_Selected;
+    painter->setPen(isSelected ? Style::chosenText(option.palette) : Style::picture(option.palette).ink);
     drawCell(*painter, option.rect, index);
     painter->restore();
 }
@@ -95,18 +99,17 @@ void ReadingTableItemView::paint(QPainter* painter, const QStyleOptionViewItem& 
 void ReadingTableItemView::drawBackground(QPainter& painter, const QStyleOptionViewItem& option,
                                           const QModelIndex& index) const {
     const ReadingModel& row = model.row(index.row());
-    const QColor yellow = fixColor(gcYellowBackgroundcolor);
-    painter.fillRect(option.rect, row.bYellowBackground ? yellow : QColor(Qt::white));
+    const ScreenColours colours = Style::picture(option.palette);
+    const QColor yellow = shade(fixColor(gcYellowBackgroundcolor), colours);
+    painter.fillRect(option.rect, row.bYellowBackground ? yellow : colours.paper);
     const QColor highlight = option.palette.color(QPalette::Active, QPalette::Highlight);
     if (option.state & QStyle::State_Selected) {
-        QColor wash = highlight;
-        wash.setAlpha(70);
-        painter.fillRect(option.rect, wash);
+        painter.fillRect(option.rect, Style::chosen(option.palette));
         if (view.columnViewportPosition(index.column()) == -view.horizontalHeader()->offset())
             painter.fillRect(QRect(option.rect.topLeft(), QSize(accent, option.rect.height())), highlight);
     }
     if (model.beginsDay(index.row()))
-        painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), Qt::black);
+        painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), Style::line)), colours.ink);
     if (view.hasFocus() && index.row() == view.currentIndex().row())
         painter.fillRect(QRect(option.rect.left(), option.rect.bottom() - 1, option.rect.width(), 2),
                          highlight);
@@ -132,19 +135,22 @@ void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, con
     const ReadingModel& row = model.row(index.row());
     const QRect beside = cell.adjusted(margin + width, 0, 0, 0);
     const QString remark = describeRemark(row);
+    const ScreenColours colours = Style::picture(view.palette());
+    const QColor words = painter.pen().color();
     painter.setRenderHint(QPainter::Antialiasing);
     if (!row.comment) {
         if (!remark.isEmpty()) drawWords(painter, beside, remark, false);
         if (!row.bAtBegin) return;
-        painter.setPen(QPen(Qt::darkGray, 1));
+        painter.setPen(QPen(shade(fixColor(gcGrayBorderForDotcolor), colours), Style::line));
         return painter.drawPath(band(cell, true, true, width));
     }
     const bool isFirst = model.beginsComment(index.row());
     const bool isLast = model.endsComment(index.row());
     const bool isChosen = isSelected(*row.comment);
-    painter.setPen(QPen(isChosen ? Qt::black : Qt::darkGray, isChosen ? 2 : 0.5));
-    painter.setBrush(getCommentColor(static_cast<int>(row.comment->degree), true));
+    painter.setPen(isChosen ? QPen(words, 2) : QPen(shade(fixColor(gcGrayBorderForDotcolor), colours), 0.5));
+    painter.setBrush(shade(getCommentColor(static_cast<int>(row.comment->degree), true), colours));
     painter.drawPath(band(cell, isFirst, isLast, width));
+    painter.setPen(words);
     if (!isFirst) return remark.isEmpty() ? void() : drawWords(painter, beside, remark, false);
     QFont font = painter.font();
     font.setBold(isChosen);
@@ -160,7 +166,6 @@ void ReadingTableItemView::drawPlaceholder(QPainter& painter, const QRect& cell,
     if (view.horizontalHeader()->sectionsMoved())
         return column == ReadingTableModel::sys ? drawWords(painter, cell, qtTrId("noValue"), true) : void();
     const int half = view.horizontalHeader()->length() / 2 - view.horizontalHeader()->offset();
-    painter.setPen(Qt::black);
     painter.drawText(QRect(half - view.width(), cell.top(), view.width(), cell.height()),
                      Qt::AlignRight | Qt::AlignVCenter, qtTrId("noValue"));
 }

@@ -8,7 +8,7 @@ class QTableView;
 
 namespace zel {
 
-/// Draws the rows of the reading table, always black on white or yellow as on paper.
+/// Draws the rows of the reading table, black on white or yellow as on paper, or in a dark desktop's colours.
 class ReadingTableItemView final : public QStyledItemDelegate {
     Q_OBJECT
 public:

@@ -11,6 +11,7 @@
 #include "app/table/ReadingTableModel.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/QuietTable.h"
+#include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QAction>
@@ -72,7 +73,7 @@ void TableViewController::build() {
     noneInPeriod->setTexts(qtTrId("noneInPeriod"), qtTrId("noneInPeriodAdvice"));
     auto* rows = new QVBoxLayout(list);
     rows->setContentsMargins({});
-    rows->setSpacing(4);
+    rows->setSpacing(Style::tight);
     rows->addWidget(tblReadings, 1);
     rows->addWidget(new LimitBar(parts.store, parts.panel, list));
     for (QWidget* each : {list, static_cast<QWidget*>(noReadings), static_cast<QWidget*>(noneInPeriod)})
@@ -92,9 +93,6 @@ void TableViewController::dressReadings() {
     tblReadings->setAlternatingRowColors(false);
     tblReadings->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tblReadings->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    QPalette paper = tblReadings->palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    tblReadings->setPalette(paper);
     arrangement = new ReadingColumns(*tblReadings);
     connect(arrangement, &ReadingColumns::sorted, this, &TableViewController::followSorting);
     tblReadings->installEventFilter(this);

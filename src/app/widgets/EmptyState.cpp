@@ -1,5 +1,7 @@
 #include "app/widgets/EmptyState.h"
 
+#include "app/widgets/Style.h"
+
 #include <QIcon>
 #include <QVBoxLayout>
 
@@ -14,8 +16,8 @@ EmptyState::EmptyState(const QString& name, const QString& icon, QWidget* parent
       lblAdvice(new QuietLabel({}, this)) {
     setObjectName(name);
     lblAdvice->setObjectName(name + "Advice"_L1);
-    picture->setPixmap(QIcon(icon).pixmap(64, 64));
-    lblHeading->setFont(scaledFont(font(), 1.2, true));
+    picture->setPixmap(QIcon(icon).pixmap(Style::largeIcon, Style::largeIcon));
+    Style::setType(*lblHeading, Style::Type::heading);
     for (QLabel* label : {lblHeading, static_cast<QLabel*>(lblAdvice)}) {
         label->setWordWrap(true);
         label->setAlignment(Qt::AlignCenter);
@@ -23,8 +25,8 @@ EmptyState::EmptyState(const QString& name, const QString& icon, QWidget* parent
     }
     lblAdvice->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 24, 24, 24);
-    column->setSpacing(12);
+    column->setContentsMargins(Style::wide, Style::wide, Style::wide, Style::wide);
+    column->setSpacing(Style::apart);
     column->addStretch(2);
     column->addWidget(picture, 0, Qt::AlignHCenter);
     column->addWidget(lblHeading);

@@ -2,6 +2,7 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/Style.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -33,7 +34,7 @@ void fill(QMessageBox& box, const QString& text, const QString& title) {
     box.setAccessibleName(title);
     box.setAccessibleDescription(text);
     if (auto* heading = box.findChild<QLabel*>(u"qt_msgbox_label"_s))
-        heading->setFont(scaledFont(box.font(), 1.1, true));
+        heading->setFont(Style::type(box.font(), Style::Type::heading));
     // The box is as wide as its heading otherwise, however long the text.
     if (auto* words = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
         words->setMinimumWidth(words->fontMetrics().averageCharWidth() * 56);

@@ -1,21 +1,16 @@
 #include "app/widgets/PageHeading.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QVBoxLayout>
 
 namespace zel {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr double headingSize = 1.5; ///< of the other texts'
-}
-
 PageHeading::PageHeading(QWidget* parent)
     : QWidget(parent), lblHeading(new QLabel(this)), lblDetail(new QuietLabel({}, this)) {
     lblHeading->setObjectName(u"lblHeading"_s);
-    lblHeading->setFont(scaledFont(font(), headingSize, true));
+    lblHeading->setFont(Style::type(font(), Style::Type::title));
     lblHeading->setTextFormat(Qt::PlainText);
     lblHeading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblDetail->setObjectName(u"lblDetail"_s);
@@ -24,7 +19,7 @@ PageHeading::PageHeading(QWidget* parent)
     lblDetail->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(2);
+    column->setSpacing(Style::none);
     column->addWidget(lblHeading);
     column->addWidget(lblDetail);
 }
@@ -47,7 +42,7 @@ void PageHeading::resizeEvent(QResizeEvent* event) {
 void PageHeading::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::FontChange) return;
-    lblHeading->setFont(scaledFont(font(), headingSize, true));
+    lblHeading->setFont(Style::type(font(), Style::Type::title));
     fitHeading();
 }
 
@@ -56,27 +51,8 @@ void PageHeading::fitHeading() {
     lblHeading->setText(lblHeading->fontMetrics().elidedText(wholeHeading, Qt::ElideMiddle, width()));
 }
 
-QFont scaledFont(const QFont& font, double factor, bool bold) {
-    QFont scaled = font;
-    if (font.pointSizeF() > 0) scaled.setPointSizeF(font.pointSizeF() * factor);
-    scaled.setBold(bold);
-    return scaled;
-}
-
-QuietLabel::QuietLabel(const QString& text, QWidget* parent) : QLabel(text, parent) { dim(); }
-
-void QuietLabel::changeEvent(QEvent* event) {
-    QLabel::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange) dim();
-}
-
-void QuietLabel::dim() {
-    QPalette dimmed = QGuiApplication::palette();
-    QColor faint = dimmed.color(QPalette::WindowText);
-    faint.setAlphaF(0.65F);
-    dimmed.setColor(QPalette::WindowText, faint);
-    dimmed.setColor(QPalette::Text, faint); // its role on the panels' background
-    setPalette(dimmed);
+QuietLabel::QuietLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
+    Style::followText(*this, &Style::quiet);
 }
 
 } // namespace zel

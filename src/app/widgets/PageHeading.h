@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/widgets/Style.h"
+
 #include <QLabel>
 
 namespace zel {
@@ -9,12 +11,6 @@ class QuietLabel final : public QLabel {
     Q_OBJECT
 public:
     explicit QuietLabel(const QString& text, QWidget* parent = nullptr);
-
-protected:
-    void changeEvent(QEvent* event) override;
-
-private:
-    void dim();
 };
 
 /// The large line at the top of a page, over a smaller line that says more.
@@ -35,8 +31,5 @@ private:
     QLabel* lblHeading;
     QuietLabel* lblDetail;
 };
-
-/// The font of a control, \p factor times as large.
-[[nodiscard]] QFont scaledFont(const QFont& font, double factor, bool bold = false);
 
 } // namespace zel

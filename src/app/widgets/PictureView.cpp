@@ -1,8 +1,10 @@
 #include "app/widgets/PictureView.h"
 
 #include "app/widgets/Spoken.h"
+#include "app/widgets/Style.h"
 #include "chart/PicturePainter.h"
 
+#include <QEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -41,7 +43,7 @@ void PictureView::paintBase() {
     base.setDevicePixelRatio(density);
     base.fill(palette().color(QPalette::Window));
     QPainter painter(&base);
-    paintPicture(painter, makePicture(area()), height());
+    paintPicture(painter, inColours(makePicture(area()), colours()), height());
 }
 
 void PictureView::paintEvent(QPaintEvent*) {
@@ -50,10 +52,20 @@ void PictureView::paintEvent(QPaintEvent*) {
     painter.drawImage(QPoint(), base);
     paintOver(painter);
     if (!hasFocus()) return;
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setPen(QPen(Style::focus(palette()), Style::ring));
     painter.drawRect(focusRect().adjusted(1, 1, -1, -1));
 }
 
 void PictureView::resizeEvent(QResizeEvent*) { invalidate(); }
+
+ScreenColours PictureView::colours() const { return Style::picture(palette()); }
+
+/// The same picture, in other colours.
+void PictureView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    base = {};
+    update();
+}
 
 } // namespace zel

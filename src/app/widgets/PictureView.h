@@ -1,6 +1,6 @@
 #pragma once
 
-#include "chart/Picture.h"
+#include "chart/ScreenColours.h"
 
 #include <QImage>
 #include <QWidget>
@@ -26,9 +26,12 @@ protected:
     [[nodiscard]] Point toPicture(QPoint at) const;
     /// The pixel of the view that shows the point.
     [[nodiscard]] QPoint toView(Point at) const;
+    /// What is painted over the picture, in its colours on this desktop.
+    [[nodiscard]] ScreenColours colours() const;
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void paintBase();

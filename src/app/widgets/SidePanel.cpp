@@ -2,6 +2,7 @@
 
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/Spoken.h"
+#include "app/widgets/Style.h"
 
 #include <QVBoxLayout>
 
@@ -15,9 +16,9 @@ SidePanel::SidePanel(const QString& name, const QString& title, QWidget* parent)
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     auto* heading = new QLabel(title, this);
-    heading->setFont(scaledFont(font(), 1.1, true));
-    column->setContentsMargins(14, 12, 14, 12);
-    column->setSpacing(2);
+    Style::setType(*heading, Style::Type::heading);
+    column->setContentsMargins(Style::apart, Style::apart, Style::apart, Style::apart);
+    column->setSpacing(Style::none);
     column->addWidget(heading);
 }
 
@@ -28,7 +29,7 @@ QLabel* SidePanel::addValue(const QString& name, const QString& title) {
     value->setTextFormat(Qt::PlainText);
     value->setWordWrap(true);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    column->addSpacing(6);
+    column->addSpacing(Style::tight);
     caption->setWordWrap(true);
     speakAsValue(*value, *caption);
     column->addWidget(caption);

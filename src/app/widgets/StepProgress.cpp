@@ -1,5 +1,7 @@
 #include "app/widgets/StepProgress.h"
 
+#include "app/widgets/Style.h"
+
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,8 +27,8 @@ void StepProgress::build() {
     btnCancel->setObjectName(u"btnCancelSteps"_s);
     btnCancel->setAccessibleName(qtTrId("cancel"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 20, 24, 20);
-    column->setSpacing(12);
+    column->setContentsMargins(Style::wide, Style::wide, Style::wide, Style::wide);
+    column->setSpacing(Style::apart);
     column->addWidget(lblStep);
     column->addWidget(barProgress);
     auto* row = new QHBoxLayout;

@@ -1,11 +1,11 @@
 #include "app/widgets/TableLook.h"
 
+#include "app/widgets/Style.h"
+
 #include <QHeaderView>
 #include <QTableView>
 
 namespace zel {
-
-using namespace Qt::StringLiterals;
 
 void dressTable(QTableView& table) {
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -13,8 +13,7 @@ void dressTable(QTableView& table) {
     table.setShowGrid(false);
     table.setAlternatingRowColors(true);
     table.setWordWrap(false);
-    table.setStyleSheet(
-        u"QTableView::item { border: 0; padding: 0 8px; } QHeaderView::section { padding: 5px 8px; }"_s);
+    Style::followSheet(table, &Style::tableSheet);
     table.verticalHeader()->hide();
     // Rows of one fixed height: nothing is measured, whatever their number.
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -1,6 +1,7 @@
 #include "analysis/HighValues.h"
 #include "app/table/ReadingTableModel.h"
 #include "app/table/TableViewController.h"
+#include "chart/ScreenColours.h"
 #include "store/PressureLimits.h"
 #include "support/ReadingPageTest.h"
 
@@ -112,15 +113,15 @@ TEST_F(TableViewTest, theMarkColumnIsTitledByReadingsThenByMonitorThenByTarget) 
     EXPECT_EQ(cell(1, ReadingTableModel::mark, Qt::AccessibleTextRole), u"No"_s);
 }
 
-TEST_F(TableViewTest, rowsAreBlackOnWhiteWhateverTheDesktopsColours) {
+TEST_F(TableViewTest, rowsAreBlackOnWhiteOnALightDesktop) {
     storeComments();
     ReadingModel found = reading(u"202611210800"_s, 151); // the day of the download
     found.Arrhythmia = 2;
     storeReadings(u"P1"_s, {found});
     const QPalette before = QApplication::palette();
-    QPalette dark(Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white, Qt::black,
-                  Qt::black);
-    QApplication::setPalette(dark);
+    QPalette light = before;
+    light.setColor(QPalette::Base, QColor(253, 246, 227));
+    QApplication::setPalette(light);
     openTable();
     clickPart("viewAll");
     const QPoint corner(3, 3);
@@ -156,6 +157,36 @@ TEST_F(TableViewTest, rowsAreBlackOnWhiteWhateverTheDesktopsColours) {
     EXPECT_EQ(cell(4, ReadingTableModel::date, Qt::AccessibleTextRole),
               qtTrId("dayOfDownload").arg(u"21/11/2026"_s));
     QApplication::setPalette(before);
+}
+
+TEST_F(TableViewTest, rowsTakeADarkDesktopsColoursAlsoWhileTheyAreShown) {
+    storeComments();
+    ReadingModel found = reading(u"202611210800"_s, 151); // the day of the download
+    found.Arrhythmia = 2;
+    storeReadings(u"P1"_s, {found});
+    openTable();
+    clickPart("viewAll");
+    const QPalette before = QApplication::palette();
+    const QColor paper(20, 20, 40), ink(250, 250, 220);
+    QPalette dark(ink, Qt::darkGray, Qt::gray, Qt::black, Qt::darkGray, ink, ink, paper, Qt::black);
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    const QPoint corner(3, 3);
+    EXPECT_EQ(pixel(0, 2, corner), paper);
+    EXPECT_EQ(pixel(1, 2, {3, 0}), ink) << "the line above";
+    const QColor download = pixel(4, 2, corner);
+    EXPECT_NE(download, paper);
+    EXPECT_GE(contrast(ink, download), readable);
+    const int middle = table().columnWidth(ReadingTableModel::mark) / 2, height = table().rowHeight(0) / 2;
+    EXPECT_EQ(pixel(4, ReadingTableModel::mark, {middle, height}), ink) << "a finding";
+    EXPECT_EQ(pixel(1, ReadingTableModel::comment, {8, height}), ink) << "the selected comment";
+    const QColor band = pixel(1, ReadingTableModel::comment, {13, height});
+    EXPECT_NEAR(band.hue(), QColor(255, 120, 0).hue(), 3);
+    table().selectRow(0);
+    EXPECT_GE(contrast(ink, pixel(0, 2, {10, 3})), readable) << "chosen";
+    QApplication::setPalette(before);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(pixel(1, 2, corner), QColor(Qt::white));
 }
 
 TEST_F(TableViewTest, valuesFromTheLimitsOnAreMarkedAndSpokenAndTheLegendNamesTheLimits) {

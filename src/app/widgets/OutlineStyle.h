@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace zel {
+
+/// The desktop's style, with outlines that can be seen around fields, buttons and boxes on a dark or
+/// high-contrast desktop too: Qt's own are a little darker than the window, which is nothing on black.
+class OutlineStyle final : public QProxyStyle {
+    Q_OBJECT
+public:
+    using QProxyStyle::QProxyStyle;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+};
+
+} // namespace zel
