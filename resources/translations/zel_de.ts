@@ -485,11 +485,13 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="menuDownload"><translation>Messungen auslesen</translation></message>
     <message id="menuDownloads"><translation>Auslesevorgänge …</translation></message>
     <message id="menuEdit"><translation>&amp;Bearbeiten</translation></message>
+    <message id="menuFewerDays"><translation>Weniger Tage</translation></message>
     <message id="menuFile"><translation>&amp;Datei</translation></message>
     <message id="menuFindPatient"><translation>Patienten suchen</translation></message>
     <message id="menuHelp"><translation>&amp;Hilfe</translation></message>
     <message id="menuKeys"><translation>&amp;Tasten</translation></message>
     <message id="menuManual"><translation>&amp;Handbuch</translation></message>
+    <message id="menuMoreDays"><translation>Mehr Tage</translation></message>
     <message id="menuNewPatient"><translation>Neuer Patient</translation></message>
     <message id="menuPrint"><translation>&amp;Drucken …</translation></message>
     <message id="menuQuit"><translation>&amp;Beenden</translation></message>

@@ -485,11 +485,13 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuDownload"><translation>Download readings</translation></message>
     <message id="menuDownloads"><translation>Downloads …</translation></message>
     <message id="menuEdit"><translation>&amp;Edit</translation></message>
+    <message id="menuFewerDays"><translation>Fewer days</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuFindPatient"><translation>Find patient</translation></message>
     <message id="menuHelp"><translation>&amp;Help</translation></message>
     <message id="menuKeys"><translation>&amp;Keys</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
+    <message id="menuMoreDays"><translation>More days</translation></message>
     <message id="menuNewPatient"><translation>New patient</translation></message>
     <message id="menuPrint"><translation>&amp;Print …</translation></message>
     <message id="menuQuit"><translation>&amp;Quit</translation></message>

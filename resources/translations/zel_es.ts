@@ -485,11 +485,13 @@ mmHg</translation></message>
     <message id="menuDownload"><translation>Descargar las mediciones</translation></message>
     <message id="menuDownloads"><translation>Descargas…</translation></message>
     <message id="menuEdit"><translation>&amp;Edición</translation></message>
+    <message id="menuFewerDays"><translation>Menos días</translation></message>
     <message id="menuFile"><translation>&amp;Archivo</translation></message>
     <message id="menuFindPatient"><translation>Buscar paciente</translation></message>
     <message id="menuHelp"><translation>A&amp;yuda</translation></message>
     <message id="menuKeys"><translation>&amp;Teclas</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
+    <message id="menuMoreDays"><translation>Más días</translation></message>
     <message id="menuNewPatient"><translation>Paciente nuevo</translation></message>
     <message id="menuPrint"><translation>&amp;Imprimir…</translation></message>
     <message id="menuQuit"><translation>&amp;Salir</translation></message>

@@ -485,11 +485,13 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="menuDownload"><translation>Transférer les mesures</translation></message>
     <message id="menuDownloads"><translation>Transferts…</translation></message>
     <message id="menuEdit"><translation>Éd&amp;ition</translation></message>
+    <message id="menuFewerDays"><translation>Moins de jours</translation></message>
     <message id="menuFile"><translation>&amp;Fichier</translation></message>
     <message id="menuFindPatient"><translation>Rechercher un patient</translation></message>
     <message id="menuHelp"><translation>&amp;Aide</translation></message>
     <message id="menuKeys"><translation>&amp;Touches</translation></message>
     <message id="menuManual"><translation>&amp;Manuel</translation></message>
+    <message id="menuMoreDays"><translation>Plus de jours</translation></message>
     <message id="menuNewPatient"><translation>Nouveau patient</translation></message>
     <message id="menuPrint"><translation>&amp;Imprimer…</translation></message>
     <message id="menuQuit"><translation>&amp;Quitter</translation></message>

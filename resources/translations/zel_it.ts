@@ -485,11 +485,13 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="menuDownload"><translation>Scarica le misurazioni</translation></message>
     <message id="menuDownloads"><translation>Scarichi…</translation></message>
     <message id="menuEdit"><translation>&amp;Modifica</translation></message>
+    <message id="menuFewerDays"><translation>Meno giorni</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuFindPatient"><translation>Cerca paziente</translation></message>
     <message id="menuHelp"><translation>&amp;Aiuto</translation></message>
     <message id="menuKeys"><translation>&amp;Tasti</translation></message>
     <message id="menuManual"><translation>&amp;Manuale</translation></message>
+    <message id="menuMoreDays"><translation>Più giorni</translation></message>
     <message id="menuNewPatient"><translation>Nuovo paziente</translation></message>
     <message id="menuPrint"><translation>&amp;Stampa…</translation></message>
     <message id="menuQuit"><translation>&amp;Esci</translation></message>

@@ -485,11 +485,13 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="menuDownload"><translation>Pobierz pomiary</translation></message>
     <message id="menuDownloads"><translation>Pobrania…</translation></message>
     <message id="menuEdit"><translation>&amp;Edycja</translation></message>
+    <message id="menuFewerDays"><translation>Mniej dni</translation></message>
     <message id="menuFile"><translation>&amp;Plik</translation></message>
     <message id="menuFindPatient"><translation>Znajdź pacjenta</translation></message>
     <message id="menuHelp"><translation>Pomo&amp;c</translation></message>
     <message id="menuKeys"><translation>&amp;Klawisze</translation></message>
     <message id="menuManual"><translation>&amp;Podręcznik</translation></message>
+    <message id="menuMoreDays"><translation>Więcej dni</translation></message>
     <message id="menuNewPatient"><translation>Nowy pacjent</translation></message>
     <message id="menuPrint"><translation>&amp;Drukuj…</translation></message>
     <message id="menuQuit"><translation>&amp;Zakończ</translation></message>

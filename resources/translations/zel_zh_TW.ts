@@ -485,11 +485,13 @@ mmHg</translation></message>
     <message id="menuDownload"><translation>下載量測</translation></message>
     <message id="menuDownloads"><translation>下載紀錄…</translation></message>
     <message id="menuEdit"><translation>編輯(&amp;E)</translation></message>
+    <message id="menuFewerDays"><translation>減少天數</translation></message>
     <message id="menuFile"><translation>檔案(&amp;F)</translation></message>
     <message id="menuFindPatient"><translation>搜尋病患</translation></message>
     <message id="menuHelp"><translation>說明(&amp;H)</translation></message>
     <message id="menuKeys"><translation>快速鍵(&amp;K)</translation></message>
     <message id="menuManual"><translation>使用手冊(&amp;M)</translation></message>
+    <message id="menuMoreDays"><translation>增加天數</translation></message>
     <message id="menuNewPatient"><translation>新增病患</translation></message>
     <message id="menuPrint"><translation>列印(&amp;P)…</translation></message>
     <message id="menuQuit"><translation>結束(&amp;Q)</translation></message>
