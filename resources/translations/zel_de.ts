@@ -481,6 +481,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="menuAbout"><translation>Ü&amp;ber ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Sicherungen …</translation></message>
     <message id="menuCopyRows"><translation>Zeilen kopieren</translation></message>
+    <message id="menuDeleteComment"><translation>Kommentar löschen</translation></message>
     <message id="menuDeletePatient"><translation>Patienten löschen</translation></message>
     <message id="menuDownload"><translation>Messungen auslesen</translation></message>
     <message id="menuDownloads"><translation>Auslesevorgänge …</translation></message>

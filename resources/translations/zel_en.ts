@@ -481,6 +481,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuAbout"><translation>&amp;About ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backups …</translation></message>
     <message id="menuCopyRows"><translation>Copy rows</translation></message>
+    <message id="menuDeleteComment"><translation>Delete comment</translation></message>
     <message id="menuDeletePatient"><translation>Delete patient</translation></message>
     <message id="menuDownload"><translation>Download readings</translation></message>
     <message id="menuDownloads"><translation>Downloads …</translation></message>

@@ -481,6 +481,7 @@ mmHg</translation></message>
     <message id="menuAbout"><translation>&amp;Acerca de ZEL</translation></message>
     <message id="menuBackups"><translation>Copias de se&amp;guridad…</translation></message>
     <message id="menuCopyRows"><translation>Copiar filas</translation></message>
+    <message id="menuDeleteComment"><translation>Eliminar comentario</translation></message>
     <message id="menuDeletePatient"><translation>Eliminar paciente</translation></message>
     <message id="menuDownload"><translation>Descargar las mediciones</translation></message>
     <message id="menuDownloads"><translation>Descargas…</translation></message>

@@ -481,6 +481,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="menuAbout"><translation>À &amp;propos de ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Sauvegardes…</translation></message>
     <message id="menuCopyRows"><translation>Copier les lignes</translation></message>
+    <message id="menuDeleteComment"><translation>Supprimer le commentaire</translation></message>
     <message id="menuDeletePatient"><translation>Supprimer le patient</translation></message>
     <message id="menuDownload"><translation>Transférer les mesures</translation></message>
     <message id="menuDownloads"><translation>Transferts…</translation></message>

@@ -481,6 +481,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="menuAbout"><translation>&amp;Informazioni su ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Backup…</translation></message>
     <message id="menuCopyRows"><translation>Copia righe</translation></message>
+    <message id="menuDeleteComment"><translation>Elimina commento</translation></message>
     <message id="menuDeletePatient"><translation>Elimina paziente</translation></message>
     <message id="menuDownload"><translation>Scarica le misurazioni</translation></message>
     <message id="menuDownloads"><translation>Scarichi…</translation></message>

@@ -481,6 +481,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="menuAbout"><translation>&amp;O programie ZEL</translation></message>
     <message id="menuBackups"><translation>&amp;Kopie zapasowe…</translation></message>
     <message id="menuCopyRows"><translation>Kopiuj wiersze</translation></message>
+    <message id="menuDeleteComment"><translation>Usuń komentarz</translation></message>
     <message id="menuDeletePatient"><translation>Usuń pacjenta</translation></message>
     <message id="menuDownload"><translation>Pobierz pomiary</translation></message>
     <message id="menuDownloads"><translation>Pobrania…</translation></message>

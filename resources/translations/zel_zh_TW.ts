@@ -481,6 +481,7 @@ mmHg</translation></message>
     <message id="menuAbout"><translation>關於 ZEL(&amp;A)</translation></message>
     <message id="menuBackups"><translation>備份(&amp;B)…</translation></message>
     <message id="menuCopyRows"><translation>複製列</translation></message>
+    <message id="menuDeleteComment"><translation>刪除註記</translation></message>
     <message id="menuDeletePatient"><translation>刪除病患</translation></message>
     <message id="menuDownload"><translation>下載量測</translation></message>
     <message id="menuDownloads"><translation>下載紀錄…</translation></message>

@@ -95,7 +95,7 @@ void PageMenus::fillEdit(QMenu& menu) {
     };
     const std::array colours{Entry{u"colour1"_s}, Entry{u"colour2"_s}, Entry{u"colour3"_s},
                              Entry{u"colour4"_s}};
-    const std::array last{Entry{u"btnDeleteComment"_s}};
+    const std::array last{Entry{u"btnDeleteComment"_s, qtTrId("menuDeleteComment")}};
     add(menu, entries);
     addGroup(menu, u"coloursMenu"_s, qtTrId("colourButton"), colours);
     add(menu, last);
