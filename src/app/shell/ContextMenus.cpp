@@ -38,8 +38,9 @@ ContextMenus::ContextMenus(QWidget& window, const QList<QAction*>& ofPatient)
     }
     auto* comments = new QMenu(&window);
     comments->setObjectName(u"commentMenu"_s);
-    for (const QString& source : {u"btnPreviousComment"_s, u"btnNextComment"_s, u"btnDeleteComment"_s})
+    for (const QString& source : {u"btnPreviousComment"_s, u"btnNextComment"_s})
         addMirror(*comments, window, source);
+    addMirror(*comments, window, u"btnDeleteComment"_s, qtTrId("menuDeleteComment"));
     for (auto* panel : window.findChildren<QWidget*>(u"commentPanel"_s))
         offer(*panel, *comments);
 }

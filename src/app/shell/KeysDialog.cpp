@@ -16,7 +16,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-enum KeyColumn { place, what, keys, keyColumns };
+enum KeyColumn { keyPlace, keyWhat, keyKeys, keyColumns };
 }
 
 KeysDialog::KeysDialog(QWidget* window) : QDialog(window), tblKeys(new QTableWidget(0, keyColumns, this)) {
@@ -31,7 +31,7 @@ KeysDialog::KeysDialog(QWidget* window) : QDialog(window), tblKeys(new QTableWid
     tblKeys->setSelectionMode(QAbstractItemView::SingleSelection);
     tblKeys->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     tblKeys->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    tblKeys->horizontalHeader()->setSectionResizeMode(what, QHeaderView::Stretch);
+    tblKeys->horizontalHeader()->setSectionResizeMode(keyWhat, QHeaderView::Stretch);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
     column->setSpacing(Style::apart);
@@ -68,11 +68,11 @@ void KeysDialog::fill() {
     for (const KeyRow& row : keysOf(*parentWidget())) {
         const int at = tblKeys->rowCount();
         tblKeys->insertRow(at);
-        tblKeys->setItem(at, place, new QTableWidgetItem(row.place));
-        tblKeys->setItem(at, what, new QTableWidgetItem(row.what));
-        tblKeys->setItem(at, keys, new QTableWidgetItem(row.keys));
+        tblKeys->setItem(at, keyPlace, new QTableWidgetItem(row.place));
+        tblKeys->setItem(at, keyWhat, new QTableWidgetItem(row.what));
+        tblKeys->setItem(at, keyKeys, new QTableWidgetItem(row.keys));
     }
-    tblKeys->setCurrentCell(0, place);
+    tblKeys->setCurrentCell(0, keyPlace);
 }
 
 void KeysDialog::showKeys() {

@@ -90,9 +90,15 @@ void PageMenus::fillEdit(QMenu& menu) {
         Entry{u"selectAllRows"_s, qtTrId("menuSelectRows")},
         Entry{},
         Entry{u"addComment"_s},
-        Entry{u"btnDeleteComment"_s},
+        Entry{u"btnPreviousComment"_s},
+        Entry{u"btnNextComment"_s},
     };
+    const std::array colours{Entry{u"colour1"_s}, Entry{u"colour2"_s}, Entry{u"colour3"_s},
+                             Entry{u"colour4"_s}};
+    const std::array last{Entry{u"btnDeleteComment"_s, qtTrId("menuDeleteComment")}};
     add(menu, entries);
+    addGroup(menu, u"coloursMenu"_s, qtTrId("colourButton"), colours);
+    add(menu, last);
 }
 
 void PageMenus::fillView(QMenu& menu) {
@@ -106,9 +112,16 @@ void PageMenus::fillView(QMenu& menu) {
                            Entry{u"toggleTrend"_s},
                            Entry{u"trendApart"_s},
                            Entry{}};
-    const std::array days{Entry{u"viewLast7"_s}, Entry{u"viewLast30"_s}, Entry{u"viewLast90"_s},
-                          Entry{u"viewWeek"_s},  Entry{u"viewAll"_s},    Entry{},
-                          Entry{u"btnAverage"_s}};
+    const std::array days{Entry{u"viewLast7"_s},
+                          Entry{u"viewLast30"_s},
+                          Entry{u"viewLast90"_s},
+                          Entry{u"viewWeek"_s},
+                          Entry{u"viewAll"_s},
+                          Entry{},
+                          Entry{u"btnAverage"_s},
+                          Entry{},
+                          Entry{u"minusDay"_s, qtTrId("menuFewerDays")},
+                          Entry{u"addDay"_s, qtTrId("menuMoreDays")}};
     const std::array halves{Entry{u"viewBoth"_s}, Entry{u"amOnly"_s}, Entry{u"pmOnly"_s}};
     const std::array parts{Entry{}, Entry{u"btnShowMam"_s}, Entry{u"btnShowPad"_s}, Entry{u"btnSide"_s}};
     add(menu, pages);

@@ -82,7 +82,12 @@ TEST_F(PageMenusTest, anEntryCanBeChosenExactlyWhenItsButtonCan) {
                  || onChart.contains(u"copyRows"_s) || onChart.contains(u"btnSendID"_s));
     for (const QString& name : onChart)
         EXPECT_TRUE(window().findChild<QObject*>(name)) << qPrintable(name);
+    const auto days = [this] { return period.getTimePeriod().end - period.getTimePeriod().begin; };
+    const auto before = days();
+    entry("addDayEntry").trigger();
+    EXPECT_GT(days(), before);
     entry("toggleTrendEntry").trigger();
+    EXPECT_FALSE(entry("addDayEntry").isEnabled());
     EXPECT_TRUE(entry("trendApartEntry").isEnabled());
     EXPECT_FALSE(entry("addCommentEntry").isEnabled());
 }
