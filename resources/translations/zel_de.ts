@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>Das Schreiben der Datendatei %1 ist fehlgeschlagen; die Datei wurde nicht verändert. Bitte prüfen Sie, ob der Datenträger voll ist, und versuchen Sie es dann noch einmal.</translation></message>
     <message id="TableCell"><translation>„%1“ kann nicht in der Spalte „%2“ stehen.</translation></message>
     <message id="TableCells"><translation>Sie hat %1 Zellen, die Titelzeile %2.</translation></message>
-    <message id="TableDateAmbiguous"><translation>„%1“ kann mehr als ein Tag sein. Geben Sie mit --dates an, welcher es ist: dmy, mdy oder ymd.</translation></message>
+    <message id="TableDateOrder"><translation>„%1“ ist nicht wie 2026-11-21 geschrieben. Geben Sie mit --dates an, in welcher Reihenfolge Tag, Monat und Jahr stehen: dmy, mdy oder ymd.</translation></message>
     <message id="TableLine"><translation>Zeile %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… und %n weitere Zeile</numerusform><numerusform>… und %n weitere Zeilen</numerusform></translation></message>
     <message id="TableNoTime"><translation>„%1“ ist kein Datum mit vierstelligem Jahr und einer Uhrzeit.</translation></message>

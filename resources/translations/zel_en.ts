@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>Writing the data file %1 failed, and the file was left as it was. Please check that the disk is not full, then try again.</translation></message>
     <message id="TableCell"><translation>“%1” cannot stand in the column “%2”.</translation></message>
     <message id="TableCells"><translation>It has %1 cells, and the line of titles %2.</translation></message>
-    <message id="TableDateAmbiguous"><translation>“%1” may be more than one day. Say with --dates which it is: dmy, mdy or ymd.</translation></message>
+    <message id="TableDateOrder"><translation>“%1” is not written as 2026-11-21 is. Say with --dates in which order day, month and year stand: dmy, mdy or ymd.</translation></message>
     <message id="TableLine"><translation>Line %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… and %n more line</numerusform><numerusform>… and %n more lines</numerusform></translation></message>
     <message id="TableNoTime"><translation>“%1” is no date with a year of four digits and a time.</translation></message>

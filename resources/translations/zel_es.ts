@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>Ha fallado la escritura del archivo de datos %1, y el archivo se ha dejado como estaba. Compruebe que el disco no está lleno y vuelva a intentarlo.</translation></message>
     <message id="TableCell"><translation>«%1» no puede figurar en la columna «%2».</translation></message>
     <message id="TableCells"><translation>Tiene %1 celdas, y la línea de los títulos %2.</translation></message>
-    <message id="TableDateAmbiguous"><translation>«%1» puede ser más de un día. Indique cuál con --dates: dmy, mdy o ymd.</translation></message>
+    <message id="TableDateOrder"><translation>«%1» no está escrito como 2026-11-21. Indique con --dates el orden de día, mes y año: dmy, mdy o ymd.</translation></message>
     <message id="TableLine"><translation>Línea %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… y %n línea más</numerusform><numerusform>… y %n líneas más</numerusform></translation></message>
     <message id="TableNoTime"><translation>«%1» no es una fecha con un año de cuatro cifras y una hora.</translation></message>

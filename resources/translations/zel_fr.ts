@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>L’écriture du fichier de données %1 a échoué ; le fichier a été laissé tel quel. Veuillez vérifier que le disque n’est pas plein, puis réessayer.</translation></message>
     <message id="TableCell"><translation>« %1 » ne peut pas figurer dans la colonne « %2 ».</translation></message>
     <message id="TableCells"><translation>Elle a %1 cellules, et la ligne des titres %2.</translation></message>
-    <message id="TableDateAmbiguous"><translation>« %1 » peut désigner plusieurs jours. Indiquez lequel avec --dates : dmy, mdy ou ymd.</translation></message>
+    <message id="TableDateOrder"><translation>« %1 » n’est pas écrit comme 2026-11-21. Indiquez avec --dates l’ordre du jour, du mois et de l’année : dmy, mdy ou ymd.</translation></message>
     <message id="TableLine"><translation>Ligne %1 : %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… et %n autre ligne</numerusform><numerusform>… et %n autres lignes</numerusform></translation></message>
     <message id="TableNoTime"><translation>« %1 » n’est pas une date avec une année à quatre chiffres et une heure.</translation></message>

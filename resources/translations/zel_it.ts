@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>La scrittura del file dei dati %1 non è riuscita, e il file è rimasto com’era. Controllare che il disco non sia pieno e riprovare.</translation></message>
     <message id="TableCell"><translation>“%1” non può stare nella colonna “%2”.</translation></message>
     <message id="TableCells"><translation>Ha %1 celle, e la riga dei titoli %2.</translation></message>
-    <message id="TableDateAmbiguous"><translation>“%1” può indicare più di un giorno. Indicare quale con --dates: dmy, mdy o ymd.</translation></message>
+    <message id="TableDateOrder"><translation>“%1” non è scritto come 2026-11-21. Indicare con --dates l’ordine di giorno, mese e anno: dmy, mdy o ymd.</translation></message>
     <message id="TableLine"><translation>Riga %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… e %n altra riga</numerusform><numerusform>… e altre %n righe</numerusform></translation></message>
     <message id="TableNoTime"><translation>“%1” non è una data con un anno di quattro cifre e un’ora.</translation></message>

@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>Zapis pliku danych %1 się nie powiódł; plik pozostał bez zmian. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
     <message id="TableCell"><translation>„%1” nie może stać w kolumnie „%2”.</translation></message>
     <message id="TableCells"><translation>Liczba komórek: %1, a w wierszu tytułów: %2.</translation></message>
-    <message id="TableDateAmbiguous"><translation>„%1” może oznaczać więcej niż jeden dzień. Proszę podać w --dates, który: dmy, mdy lub ymd.</translation></message>
+    <message id="TableDateOrder"><translation>„%1” nie jest zapisane jak 2026-11-21. Proszę podać w --dates kolejność dnia, miesiąca i roku: dmy, mdy lub ymd.</translation></message>
     <message id="TableLine"><translation>Wiersz %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… i jeszcze %n wiersz</numerusform><numerusform>… i jeszcze %n wiersze</numerusform><numerusform>… i jeszcze %n wierszy</numerusform></translation></message>
     <message id="TableNoTime"><translation>„%1” nie jest datą z czterocyfrowym rokiem i godziną.</translation></message>

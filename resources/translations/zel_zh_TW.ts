@@ -115,7 +115,7 @@
     <message id="StoreWriteFailed"><translation>寫入資料檔 %1 失敗，檔案維持原狀。請確認磁碟空間足夠，然後再試一次。</translation></message>
     <message id="TableCell"><translation>「%1」不能出現在「%2」欄。</translation></message>
     <message id="TableCells"><translation>此列有 %1 個儲存格，標題列有 %2 個。</translation></message>
-    <message id="TableDateAmbiguous"><translation>「%1」可能是不只一個日期。請用 --dates 指定：dmy、mdy 或 ymd。</translation></message>
+    <message id="TableDateOrder"><translation>「%1」的寫法與 2026-11-21 不同。請用 --dates 指定日、月、年的順序：dmy、mdy 或 ymd。</translation></message>
     <message id="TableLine"><translation>第 %1 行：%2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>……另有 %n 行</numerusform></translation></message>
     <message id="TableNoTime"><translation>「%1」不是含四位數年份與時間的日期。</translation></message>

@@ -36,7 +36,7 @@ tl::expected<ImportCounts, ImportRefusal> DataStore::importTable(const QString& 
     const QString first = table->patients.front().ID;
     // Compared and numbered against the file as it is at the write: another program may have changed it.
     const StoreResult stored = editAsStep([&](pugi::xml_node root, StepRecorder& recorder) {
-        refusal = mergeTable(root, std::move(*table), path, wanted, recorder, counts);
+        refusal = mergeTable(root, *table, path, wanted, recorder, counts);
         recorder.setName({.kind = StepKind::importPatients,
                           .subject = QFileInfo{path}.fileName(),
                           .patientID = first,

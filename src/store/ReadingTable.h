@@ -71,7 +71,7 @@ readReadingTable(const QByteArray& content, const QString& path, const TableImpo
 
 /// Adds to the data file's root what it does not hold yet; \p counts says how much. A patient of the list is
 /// added to only as \p wanted has it. \return why not, and then nothing is changed
-[[nodiscard]] std::optional<ImportRefusal> mergeTable(pugi::xml_node root, ReadingTable table,
+[[nodiscard]] std::optional<ImportRefusal> mergeTable(pugi::xml_node root, const ReadingTable& table,
                                                       const QString& path, const TableImport& wanted,
                                                       StepRecorder& recorder, ImportCounts& counts);
 

@@ -3,12 +3,11 @@
 #include "store/NewReadings.h"
 #include "store/ReadingTable.h"
 #include "store/Records.h"
+#include "store/TableMatches.h"
 
-#include <QHash>
 #include <QSet>
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <tuple>
 
@@ -17,56 +16,6 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// What a reading that was typed in is known by, as where one is typed in the window.
-using TypedKey = std::tuple<Date, std::uint32_t, std::uint32_t, std::uint32_t>;
-
-TypedKey typedKey(const ReadingModel& reading, const LocalZone& zone) {
-    const bool isUndated = isUndatedDay(zone.day(reading.ReadingDate));
-    const Date minute =
-        isUndated ? Date{} : Date{Instant{std::chrono::floor<std::chrono::minutes>(*reading.ReadingDate)}};
-    return {minute, reading.sys, reading.dia, reading.pulse};
-}
-
-/// Whether each of the patient's readings is to be added. One that was measured is known as in a download;
-/// of equal ones that were typed in each stands for one, but in another program's table, which may have a
-/// line twice.
-class NewTableReadings {
-public:
-    NewTableReadings(pugi::xml_node root, const TablePatient& patient, bool isForeign)
-        : added(patient.readings.size(), false) {
-        markMeasured(root, patient);
-        const LocalZone zone;
-        std::map<TypedKey, std::size_t> stored;
-        for (const pugi::xml_node node : root.children()) {
-            if (isElement(node, "MeasureRec") && childText(node, "ID") == patient.ID)
-                ++stored[typedKey(ReadingModel::initWithXMLNode(node), zone)];
-        }
-        for (std::size_t i = 0; i < added.size(); ++i) {
-            if (!patient.readings[i].isManual) continue;
-            std::size_t& alike = stored[typedKey(patient.readings[i], zone)];
-            added[i] = alike == 0;
-            if (isForeign)
-                ++alike;
-            else if (alike > 0)
-                --alike;
-        }
-    }
-    [[nodiscard]] bool has(std::size_t place) const { return added[place]; }
-
-private:
-    void markMeasured(pugi::xml_node root, const TablePatient& patient) {
-        ReadingList measured;
-        for (std::size_t i = 0; i < patient.readings.size(); ++i) {
-            if (patient.readings[i].isManual) continue;
-            measured.push_back(patient.readings[i]);
-            measured.back().RecID = QString::number(i); // to be found by, among those that are new
-        }
-        for (const ReadingModel& reading : newReadings(root, patient.ID, std::move(measured)))
-            added[reading.RecID.toULongLong()] = true;
-    }
-    std::vector<bool> added;
-};
 
 /// Gives the readings that are added their numbers: the table's own where no other reading has it.
 class ReadingNumbers {
@@ -79,7 +28,7 @@ public:
                 if (isNumber(reading.RecID)) counters.countID(kind, reading.RecID);
     }
     [[nodiscard]] QString numberFor(const QString& wished) {
-        const QString number = isNumber(wished) && !taken.contains(wished) ? wished : counters.getMaxID(kind);
+        QString number = isNumber(wished) && !taken.contains(wished) ? wished : counters.getMaxID(kind);
         take(number);
         return number;
     }
@@ -107,9 +56,9 @@ public:
 
     void add(const TablePatient& patient) {
         if (!findElement(root, "Patient", "ID", patient.ID)) addPatient(patient);
-        const NewTableReadings isNew{root, patient, table.isForeign};
-        leaveOutTypedOnes(patient, isNew);
-        addReadings(patient, isNew);
+        const TableMatches matches{root, patient, table.isForeign};
+        leaveOutTypedOnes(patient, matches);
+        addReadings(patient, matches);
         addComments(patient);
     }
 
@@ -127,11 +76,11 @@ private:
     }
 
     /// So that nothing that was measured counts twice, as with a download.
-    void leaveOutTypedOnes(const TablePatient& patient, const NewTableReadings& isNew) {
+    void leaveOutTypedOnes(const TablePatient& patient, const TableMatches& matches) {
         ReadingList measured;
         for (std::size_t i = 0; i < patient.readings.size(); ++i) {
             const ReadingModel& reading = patient.readings[i];
-            if (isNew.has(i) && !reading.isManual && !reading.isExcluded()) measured.push_back(reading);
+            if (matches.isNew(i) && !reading.isManual && !reading.isExcluded()) measured.push_back(reading);
         }
         for (const pugi::xml_node element : typedMeanwhileMeasured(root, patient.ID, measured)) {
             const auto before = ReadingModel::initWithXMLNode(element);
@@ -142,10 +91,10 @@ private:
         }
     }
 
-    void addReadings(const TablePatient& patient, const NewTableReadings& isNew) {
+    void addReadings(const TablePatient& patient, const TableMatches& matches) {
         pugi::xml_node last = placeForReadings(root, patient.ID);
         for (std::size_t i = 0; i < patient.readings.size(); ++i) {
-            if (!isNew.has(i)) {
+            if (!matches.isNew(i)) {
                 ++counts.known;
                 continue;
             }
@@ -221,11 +170,11 @@ std::optional<ImportRefusal> tableFault(pugi::xml_node root, const TablePatient&
 
 } // namespace
 
-std::optional<ImportRefusal> mergeTable(pugi::xml_node root, ReadingTable table, const QString& path,
+std::optional<ImportRefusal> mergeTable(pugi::xml_node root, const ReadingTable& table, const QString& path,
                                         const TableImport& wanted, StepRecorder& recorder,
                                         ImportCounts& counts) {
     for (const TablePatient& patient : table.patients)
-        if (const auto fault = tableFault(root, patient, path, !wanted.patient.isEmpty())) return fault;
+        if (auto fault = tableFault(root, patient, path, !wanted.patient.isEmpty())) return fault;
     TableMerge merge{root, table, recorder, counts};
     for (const TablePatient& patient : table.patients)
         merge.add(patient);

@@ -58,7 +58,7 @@ private:
 QString describeTime(TableTimeProblem problem, const QString& cell) {
     switch (problem) {
     case TableTimeProblem::noTime: return qtTrId("TableNoTime").arg(shortCell(cell));
-    case TableTimeProblem::ambiguous: return qtTrId("TableDateAmbiguous").arg(shortCell(cell));
+    case TableTimeProblem::noOrder: return qtTrId("TableDateOrder").arg(shortCell(cell));
     case TableTimeProblem::skipped: return describe(ManualProblem::noDate);
     }
     return {};

@@ -44,7 +44,7 @@ std::array<int, 3> placesOf(DateOrder order) {
 
 /// A year has four digits: of two, nobody knows the century.
 tl::expected<std::chrono::sys_days, Problem> tableDay(const Match& match, DateOrder order) {
-    if (order == DateOrder::onlyIso && !isIsoDay(match)) return tl::unexpected{Problem::ambiguous};
+    if (order == DateOrder::onlyIso && !isIsoDay(match)) return tl::unexpected{Problem::noOrder};
     const auto [year, month, day] = placesOf(isIsoDay(match) ? DateOrder::ymd : order);
     const bool hasForm =
         match.capturedLength(year) == 4 && match.capturedLength(month) <= 2 && match.capturedLength(day) <= 2;

@@ -22,9 +22,9 @@ struct TableTime {
 };
 
 enum class TableTimeProblem {
-    noTime,    ///< none of the forms, or no such day and time
-    ambiguous, ///< a day that may be read in more ways than one
-    skipped,   ///< the clocks here left that time out when they were put forward
+    noTime,  ///< none of the forms, or no such day and time
+    noOrder, ///< a day that may be another one, unless its order is known
+    skipped, ///< the clocks here left that time out when they were put forward
 };
 
 /// The forms are 2026-11-21T07:30:00+01:00, with a blank for the T, without seconds, or without the offset;

@@ -79,7 +79,7 @@ TEST_F(CliTableTest, AnotherProgramsTableIsTakenWholeOrNotAtAll) {
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.out, counts(0, 1, 0, 0, 0));
     EXPECT_THAT(refused.err,
-                HasSubstr("\nLine 3: “03/04/2026 07:05” may be more than one day. Say with --dates"));
+                HasSubstr("\nLine 3: “03/04/2026 07:05” is not written as 2026-11-21 is. Say with --dates"));
     EXPECT_THAT(refused.err, EndsWith("\nLine 4: It has 3 cells, and the line of titles 4.\n"));
     EXPECT_THAT(zel({u"import"_s, file}).err, HasSubstr("--columns says"));
     EXPECT_THAT(zel({u"import"_s, file, u"--patient"_s, u"A1"_s}).err, HasSubstr("tables of readings"));
