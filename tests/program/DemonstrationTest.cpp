@@ -28,28 +28,42 @@ protected:
         environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
         program.setProcessEnvironment(environment);
         endWithTest(program);
-        program.start(QCoreApplication::applicationDirPath() + u"/blocked_zel"_s, {u"--demonstration"_s});
     }
     ~DemonstrationTest() override {
         program.terminate();
         program.waitForFinished(longestTurn);
     }
 
+    void start(const QString& executable) {
+        program.start(executable, {u"--demonstration"_s});
+        for (int left = longestTurn; left > 0 && !QFile::exists(data); left -= 20)
+            ASSERT_FALSE(program.waitForFinished(20)) << program.readAllStandardError().constData();
+        EXPECT_TRUE(QFile::exists(data));
+        program.terminate();
+        ASSERT_TRUE(program.waitForFinished(longestTurn));
+        EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
+    }
+
     QTemporaryDir home;
+    const QString built = QCoreApplication::applicationDirPath() + u"/blocked_zel"_s;
+    const QString data = home.path() + demonstrationFolder + dataFileBelow;
     QProcess program;
 };
 
 } // namespace
 
 TEST_F(DemonstrationTest, KeepsItsDataInAFolderOfItsOwn) {
-    const QString data = home.path() + demonstrationFolder + dataFileBelow;
-    for (int left = longestTurn; left > 0 && !QFile::exists(data); left -= 20)
-        ASSERT_FALSE(program.waitForFinished(20)) << program.readAllStandardError().constData();
-    EXPECT_TRUE(QFile::exists(data));
-    program.terminate();
-    ASSERT_TRUE(program.waitForFinished(longestTurn));
-    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
+    start(built);
     EXPECT_FALSE(QFile::exists(home.path() + u"/Library"_s)) << "the person's own place is not touched";
+}
+
+TEST_F(DemonstrationTest, TakesNoDataFileOfAnOlderVersionThatLiesBesideTheProgram) {
+    const QString executable = home.filePath(u"zel"_s), old = home.filePath(u"ZEL.xml"_s);
+    ASSERT_TRUE(QFile::copy(built, executable));
+    QFile file(old);
+    ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write("<ZEL/>") > 0 && file.flush());
+    start(executable);
+    EXPECT_TRUE(QFile::exists(old));
 }
 
 } // namespace zel

@@ -128,6 +128,24 @@ TEST_F(LanguageTest, nothingIsCutInAnyLanguage) {
     }
 }
 
+TEST_F(LanguageTest, nothingIsCutBeforeThereIsAPatient) {
+    ASSERT_TRUE(store.deleteXMLPatient(u"P1"_s) && store.loadXML());
+    demonstration = {.isOn = true, .start = [] { return QString(); }};
+    for (const Language& spoken : languages()) {
+        SCOPED_TRACE(spoken.tag.data());
+        const ProgramTexts texts(spoken);
+        language = spoken.tag.toString();
+        startConnected();
+        ASSERT_TRUE(page("btnDemonstration").isVisible() && page("monitorBar").isVisible());
+        for (const QSize& screen : {smallScreen, QSize(640, 455)}) {
+            app->mainWndow().setWindowState(Qt::WindowNoState);
+            app->mainWndow().resize(screen);
+            look(app->mainWndow(), u"firstRun%1"_s.arg(screen.width()));
+        }
+        app.reset();
+    }
+}
+
 TEST_F(LanguageTest, theManualIsInTheProgramsLanguageWhereThereIsOne) {
     for (const auto& [spoken, document, text] :
          {std::tuple{"de_AT", u":/help.de.pdf"_s, u":/manual/manual.de.md"_s},

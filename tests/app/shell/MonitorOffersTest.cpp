@@ -2,7 +2,6 @@
 #include "AppTest.h"
 
 #include <QLineEdit>
-#include <QSignalSpy>
 
 namespace zel {
 
