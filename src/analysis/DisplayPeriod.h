@@ -23,8 +23,8 @@ enum class PeriodChoice : std::int32_t {
 /// Which readings of the days are shown, whatever the days.
 enum class HalfOfDay : std::int32_t { both, morning, evening };
 
-/// The period that all views share, and what they show of it. Lives as long as the program, and saves nothing.
-/// Main thread only.
+/// The period that all views share, and what they show of it. Lives as long as the program, and saves
+/// nothing. Main thread only.
 class DisplayPeriod : public QObject {
     Q_OBJECT
 public:

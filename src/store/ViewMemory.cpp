@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
-#include <array>
 #include <filesystem>
 #include <utility>
 
@@ -36,9 +35,8 @@ QString digestOf(const QByteArray& salt, const QString& ID) {
 }
 
 QByteArray newSalt() {
-    std::array<quint32, 4> random{};
-    QRandomGenerator::system()->fillRange(random.data(), static_cast<qsizetype>(random.size()));
-    return QByteArray(reinterpret_cast<const char*>(random.data()), sizeof random).toHex();
+    QRandomGenerator& random = *QRandomGenerator::system();
+    return QByteArray::number(random.generate64(), 16) + QByteArray::number(random.generate64(), 16);
 }
 
 } // namespace
@@ -76,7 +74,7 @@ StoreResult ViewMemory::save() {
     }
     if (!makePrivateFolder(QFileInfo{path}.path()))
         return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, {}}};
-    const StoreResult written = writeChoiceFile(path, file);
+    StoreResult written = writeChoiceFile(path, file);
     if (isInPlace(written)) known = now;
     return written;
 }

@@ -82,8 +82,9 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connectDataWatch();
     follower = new PeriodFollower(parts.store, parts.period, this);
     if (parts.memory)
-        viewKeeper.reset(new ViewKeeper({*parts.memory, window, parts.store, parts.period, *follower,
-                                         *patientPage, *graphPage, *tablePage}));
+        viewKeeper =
+            std::make_unique<ViewKeeper>(ViewKeeper::Parts{*parts.memory, window, parts.store, parts.period,
+                                                           *follower, *patientPage, *graphPage, *tablePage});
     connect(&watch, &MonitorWatch::setHWButtons, this, &AppController::setHWButtons);
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::demonstrationWanted, this,

@@ -2,6 +2,7 @@
 #include "app/graph/GraphViewController.h"
 #include "app/settings/SelectFolderController.h"
 #include "app/shell/FolderName.h"
+#include "app/shell/UnsavedFile.h"
 #include "app/table/ReadingTableModel.h"
 #include "store/ManualReading.h"
 
@@ -166,6 +167,19 @@ TEST_F(RememberTest, aDamagedFileAndAForgottenOneBeginAnewWithoutAWord) {
         EXPECT_TRUE(panel.messages.empty());
         end();
     }
+}
+
+TEST_F(RememberTest, whatWasTypedAndNotSavedIsOfferedWhereItIsSeen) {
+    useAll();
+    end();
+    const QJsonObject draft{
+        {u"page"_s, u"PatientViewController"_s}, {u"ID"_s, u"QXZ-1"_s}, {u"name"_s, u"Kim Adams"_s}};
+    ASSERT_TRUE(UnsavedFile(store.getZELXMLPath()).write({draft}));
+    begin();
+    EXPECT_EQ(panel.questions, QStringList(qtTrId("unsavedTitle")));
+    EXPECT_EQ(inView(), u"PatientViewController"_s);
+    EXPECT_EQ(store.getCurrentID(), u"QXZ-1"_s);
+    EXPECT_EQ(header().sortIndicatorSection(), ReadingTableModel::sys) << "the rest is as it was";
 }
 
 TEST_F(RememberTest, aWindowOfAScreenThatIsGoneIsSeen) {
