@@ -14,7 +14,7 @@
 namespace zel::fhir {
 
 using namespace Qt::StringLiterals;
-using Code = StoreErrorCode;
+using Problem = StoreErrorCode;
 
 namespace {
 
@@ -31,21 +31,21 @@ TEST(FhirExportTest, ReplacesNeitherTheDataFileNorAFileOfItsOwn) {
     FhirExport bundles(store, out.path(), AverageRule::esh);
     ASSERT_TRUE(bundles.write(u"a1"_s, Replace::no));
     EXPECT_TRUE(bundles.write(u"a1"_s, Replace::yes)) << "its own is not another's";
-    EXPECT_EQ(bundles.write(u"a1"_s, Replace::no).error().code, Code::alreadyExists);
-    EXPECT_EQ(bundles.write(u"c"_s, Replace::yes).error().code, Code::noSuchRecord);
+    EXPECT_EQ(bundles.write(u"a1"_s, Replace::no).error().code, Problem::alreadyExists);
+    EXPECT_EQ(bundles.write(u"c"_s, Replace::yes).error().code, Problem::noSuchRecord);
 
     // As on a disk that does not tell capitals.
     const QString other = out.filePath(u"A1.fhir.json"_s);
     std::filesystem::create_hard_link(out.filePath(u"a1.fhir.json"_s).toStdString(), other.toStdString());
-    EXPECT_EQ(bundles.write(u"A1"_s, Replace::yes).error(), (StoreError{Code::sameFileName, other, u"a1"_s}));
+    EXPECT_EQ(bundles.write(u"A1"_s, Replace::yes).error(), (StoreError{Problem::sameFileName, other, u"a1"_s}));
 
     const QByteArray before = readFile(dataFile).value();
     ASSERT_TRUE(QFile::link(dataFile, out.filePath(u"b.fhir.json"_s)));
-    EXPECT_EQ(bundles.write(u"b"_s, Replace::yes).error().code, Code::isDataFile);
+    EXPECT_EQ(bundles.write(u"b"_s, Replace::yes).error().code, Problem::isDataFile);
     EXPECT_EQ(readFile(dataFile).value(), before);
 
     ASSERT_TRUE(out.remove());
-    EXPECT_EQ(bundles.finish().error().code, Code::notFlushed) << "it is looked at, not assumed";
+    EXPECT_EQ(bundles.finish().error().code, Problem::notFlushed) << "it is looked at, not assumed";
     EXPECT_TRUE(bundles.finish()) << "nothing was written since";
 }
 
