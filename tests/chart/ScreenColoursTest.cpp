@@ -6,9 +6,9 @@ namespace zel {
 
 namespace {
 
-const ScreenColours dark{QColor(30, 32, 40), QColor(240, 240, 230)};
+const ScreenColours night{QColor(30, 32, 40), QColor(240, 240, 230)};
 
-Picture everything() {
+Picture oneOfEach() {
     const Point at{1, 2};
     return {FillRect{{0, 0, 9, 9}, Qt::white},
             RoundRect{{0, 0, 9, 9}, 2, getCommentColor(2, true), 1},
@@ -23,7 +23,7 @@ Picture everything() {
 }
 
 template <class Item>
-const Item& item(const Picture& picture) {
+const Item& firstOf(const Picture& picture) {
     for (const PictureItem& each : picture)
         if (const auto* found = std::get_if<Item>(&each)) return *found;
     qFatal("no such item");
@@ -38,40 +38,40 @@ TEST(ScreenColoursTest, contrastIsCountedAsTheGuidelinesDo) {
 }
 
 TEST(ScreenColoursTest, onWhiteNothingIsChanged) {
-    const Picture shown = inColours(everything(), {});
-    EXPECT_EQ(item<TextLine>(shown).attribute, attribute(4));
-    EXPECT_EQ(item<Curve>(shown).color, QColor(8, 80, 150));
-    EXPECT_EQ(item<PointMarks>(shown).border, fixColor(gcGrayBorderForDotcolor));
+    const Picture shown = inColours(oneOfEach(), {});
+    EXPECT_EQ(firstOf<TextLine>(shown).attribute, attribute(4));
+    EXPECT_EQ(firstOf<Curve>(shown).color, QColor(8, 80, 150));
+    EXPECT_EQ(firstOf<PointMarks>(shown).border, fixColor(gcGrayBorderForDotcolor));
 }
 
 TEST(ScreenColoursTest, whiteBecomesThePaperAndBlackTheInkInEveryItem) {
-    const Picture shown = inColours(everything(), dark);
-    EXPECT_EQ(item<FillRect>(shown).color.rgb(), dark.paper.rgb());
-    EXPECT_EQ(item<PolyLine>(shown).color.rgb(), dark.ink.rgb());
-    EXPECT_EQ(item<Circle>(shown).color.rgb(), dark.ink.rgb());
-    EXPECT_EQ(item<PointMarks>(shown).color.rgb(), dark.ink.rgb());
-    EXPECT_NE(item<PointMarks>(shown).border, item<PointMarks>(shown).color);
-    const QColor tick = item<Ticks>(shown).color;
-    EXPECT_EQ(tick.rgb(), dark.paper.rgb());
+    const Picture shown = inColours(oneOfEach(), night);
+    EXPECT_EQ(firstOf<FillRect>(shown).color.rgb(), night.paper.rgb());
+    EXPECT_EQ(firstOf<PolyLine>(shown).color.rgb(), night.ink.rgb());
+    EXPECT_EQ(firstOf<Circle>(shown).color.rgb(), night.ink.rgb());
+    EXPECT_EQ(firstOf<PointMarks>(shown).color.rgb(), night.ink.rgb());
+    EXPECT_NE(firstOf<PointMarks>(shown).border, firstOf<PointMarks>(shown).color);
+    const QColor tick = firstOf<Ticks>(shown).color;
+    EXPECT_EQ(tick.rgb(), night.paper.rgb());
     EXPECT_EQ(tick.alpha(), fixColor(gcBloodWhiteLinecolor).alpha()) << "blends as it did";
-    EXPECT_EQ(item<Area>(shown).color.alpha(), 40);
+    EXPECT_EQ(firstOf<Area>(shown).color.alpha(), 40);
 }
 
 TEST(ScreenColoursTest, coloursKeepTheirHueAndPaleOnesStayPale) {
     for (int degree = 1; degree <= commentColourTotal; ++degree) {
-        const QColor before = getCommentColor(degree, true), after = shade(before, dark);
+        const QColor before = getCommentColor(degree, true), after = shade(before, night);
         if (before.hslSaturation() > 0) {
             EXPECT_NEAR(after.hslHue(), before.hslHue(), 2) << degree;
         }
-        EXPECT_GE(contrast(after, dark.paper), 3) << degree << ": a band beside the readings can be seen";
+        EXPECT_GE(contrast(after, night.paper), 3) << degree << ": a band beside the readings can be seen";
     }
-    const QColor download = shade(fixColor(gcYellowBackgroundcolor), dark);
+    const QColor download = shade(fixColor(gcYellowBackgroundcolor), night);
     EXPECT_NEAR(download.hslHue(), 60, 3);
-    EXPECT_LT(contrast(download, dark.paper), 2) << "a day behind the lines";
+    EXPECT_LT(contrast(download, night.paper), 2) << "a day behind the lines";
 }
 
 TEST(ScreenColoursTest, textsCanBeReadOnThePaperAndBesideIt) {
-    for (const ScreenColours& colours : {dark, ScreenColours{Qt::black, Qt::white, true}})
+    for (const ScreenColours& colours : {night, ScreenColours{Qt::black, Qt::white, true}})
         for (int number = 1; number <= 8; ++number) {
             const QColor text = readableShade(attribute(number).color, colours);
             EXPECT_GE(contrast(text, colours.paper), readable) << number;
@@ -83,7 +83,7 @@ TEST(ScreenColoursTest, highContrastMakesLinesAsStrongAsTextsAndLeavesTheGrid) {
     const QColor line = fixColor(gcBloodRedLinecolor);
     const ScreenColours strong{Qt::black, Qt::white, true}, usual{Qt::black, Qt::white};
     const auto painted = [](const QColor& color, const ScreenColours& colours) {
-        return item<StraightLine>(inColours({StraightLine{{}, {}, 1, color}}, colours)).color;
+        return firstOf<StraightLine>(inColours({StraightLine{{}, {}, 1, color}}, colours)).color;
     };
     const auto shown = [&](const ScreenColours& colours) { return painted(line, colours); };
     EXPECT_GE(contrast(shown(strong), Qt::black), readable);

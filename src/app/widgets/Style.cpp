@@ -193,6 +193,7 @@ QString Style::switchSheet(const QPalette& palette) {
 void Style::followFrame(QFrame& frame, int width, const std::function<QColor(const QPalette&)>& color) {
     frame.setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
     frame.setLineWidth(width);
+    frame.setForegroundRole(QPalette::WindowText); // in panels, it would have the texts' colour
     delete frame.findChild<QObject*>(frameFollower, Qt::FindDirectChildrenOnly);
     auto* follower = new Follower(frame, {}, [&frame, color] {
         QPalette own;
