@@ -38,7 +38,7 @@ protected:
     }
 };
 
-int focused = 0; // the handler takes no more than a function
+int calendarsInFocus = 0; // the handler takes no more than a function
 
 } // namespace
 
@@ -132,13 +132,13 @@ TEST_F(SpokenTest, ACalendarThatNobodySeesTakesNoFocus) {
     auto* day = new DayEdit(u"day"_s, u"Day"_s, nullptr);
     show(day, {300, 100});
     QAccessible::setActive(true);
-    focused = 0;
+    calendarsInFocus = 0;
     QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        focused += event->type() == QAccessible::Focus && qobject_cast<QTableView*>(event->object());
+        calendarsInFocus += event->type() == QAccessible::Focus && qobject_cast<QTableView*>(event->object());
     });
     day->setDate({2026, 3, 1});
     day->setDate({2026, 4, 17});
-    EXPECT_EQ(focused, 0);
+    EXPECT_EQ(calendarsInFocus, 0);
 }
 
 } // namespace zel
