@@ -13,6 +13,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 LIMIT = 20  # seconds; only a fault takes so long
 STEP = 0.02
+ANSWER = 4000  # milliseconds; an action that opens a dialog with a question does not answer while that is open
 MANY = 200  # children; of a table of more, the first ones are looked at
 State = Atspi.StateType
 
@@ -161,6 +162,7 @@ class Program:
 
     def __init__(self, program, home, *arguments):
         Atspi.init()
+        Atspi.set_timeout(ANSWER, ANSWER)
         surroundings = dict(os.environ, HOME=home, XDG_STATE_HOME=f"{home}/state", LC_ALL="C.UTF-8", LANGUAGE="en",
                             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1")
         self.log = open(f"{home}/log", "w", encoding="utf-8")

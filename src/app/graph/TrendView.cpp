@@ -161,7 +161,7 @@ QString TrendView::words() const {
         for (const TrendPoint& point : series.points)
             readings += point.count;
     const QString count = qtTrId("readingCount", static_cast<int>(readings));
-    const QString keys = qtTrId("trendKeys").arg(trendStepText(trend.step), count);
+    QString keys = qtTrId("trendKeys").arg(trendStepText(trend.step), count);
     DayNumber latest = noDay;
     for (const TrendSeries& series : trend.series)
         if (!series.points.empty()) latest = std::max(latest, series.points.back().begin);

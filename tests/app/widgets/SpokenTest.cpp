@@ -1,6 +1,5 @@
 #include "app/widgets/Spoken.h"
 
-#include "app/widgets/DayEdit.h"
 #include "app/widgets/SeenName.h"
 #include "support/WidgetTest.h"
 
@@ -8,7 +7,6 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableView>
 
 namespace zel {
 
@@ -25,11 +23,7 @@ public:
 class SpokenTest : public WidgetTest {
 protected:
     SpokenTest() { QAccessible::installFactory(makeSpoken); }
-    ~SpokenTest() override {
-        QAccessible::setActive(false);
-        QAccessible::installUpdateHandler(nullptr);
-        QAccessible::removeFactory(makeSpoken);
-    }
+    ~SpokenTest() override { QAccessible::removeFactory(makeSpoken); }
     static QAccessibleInterface& of(QObject& widget) {
         return *QAccessible::queryAccessibleInterface(&widget);
     }
@@ -37,8 +31,6 @@ protected:
         return node ? node->text(QAccessible::Name) : u"nothing"_s;
     }
 };
-
-int focused = 0; // the handler takes no more than a function
 
 } // namespace
 
@@ -61,7 +53,6 @@ TEST_F(SpokenTest, AListIsCalledByItsCaptionAndHoldsWhatIsChosen) {
 }
 
 TEST_F(SpokenTest, AValueIsNamedByItsCaptionAlsoWhereSomebodyAskedBefore) {
-    QAccessible::setActive(true);
     auto* both = new QWidget;
     auto* caption = new QLabel(u"Readings"_s, both);
     auto* value = new QLabel(u"62"_s, both);
@@ -126,19 +117,6 @@ TEST_F(SpokenTest, ADrawnTableHasHeadingsAndCellsThatFollowIt) {
     drawn.rows.clear();
     EXPECT_EQ(node.childCount(), 0);
     EXPECT_FALSE(table->cellAt(0, 0));
-}
-
-TEST_F(SpokenTest, ACalendarThatNobodySeesTakesNoFocus) {
-    auto* day = new DayEdit(u"day"_s, u"Day"_s, nullptr);
-    show(day, {300, 100});
-    QAccessible::setActive(true);
-    focused = 0;
-    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        focused += event->type() == QAccessible::Focus && qobject_cast<QTableView*>(event->object());
-    });
-    day->setDate({2026, 3, 1});
-    day->setDate({2026, 4, 17});
-    EXPECT_EQ(focused, 0);
 }
 
 } // namespace zel
