@@ -97,8 +97,10 @@ protected:
         addPatient(u"P1"_s, u"Adams"_s);
         addPatient(u"P2"_s, u"Brown"_s);
         printers.known = {u"Office"_s};
+        QApplication::setStyle(new OutlineStyle);
     }
     ~LookTest() override {
+        QApplication::setStyle(u"fusion"_s);
         QApplication::setPalette(usualPalette);
         QApplication::setFont(usualFont);
     }
@@ -193,14 +195,12 @@ void expectOutlined(QWidget& window) {
 } // namespace
 
 TEST_F(LookTest, aFieldsFrameIsSeenOnBlack) {
-    QApplication::setStyle(new OutlineStyle);
     openIn({1366, 745});
     QApplication::setPalette(desktops()[2].palette);
     click("patientBtn");
     settle();
     keep(app->mainWndow(), u"outlined"_s);
     expectOutlined(app->mainWndow());
-    QApplication::setStyle(u"fusion"_s);
 }
 
 TEST_F(LookTest, everyWindowFollowsTheDesktopsColoursAndCanBeRead) {
