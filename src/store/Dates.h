@@ -21,8 +21,8 @@ using Date = std::optional<Instant>;
 
 /// Reads the whole of \p text with a Unicode date pattern; none if it does not match exactly.
 [[nodiscard]] Date StrToDate(const QString& text, const QString& pattern);
-/// As StrToDate, where each letter of the pattern is a digit. No date if one is missing or no digit: the year before
-/// it would be taken for a shorter one.
+/// As StrToDate, where each letter of the pattern is a digit. No date if one is missing or no digit: the year
+/// before it would be taken for a shorter one.
 [[nodiscard]] Date digitsToDate(const QString& digits, const QString& pattern);
 /// Local time, locale en_US_POSIX; a null text for no date.
 [[nodiscard]] QString DateToStr(const Date& date, const QString& pattern);

@@ -37,7 +37,8 @@ TEST(FhirExportTest, ReplacesNeitherTheDataFileNorAFileOfItsOwn) {
     // As on a disk that does not tell capitals.
     const QString other = out.filePath(u"A1.fhir.json"_s);
     std::filesystem::create_hard_link(out.filePath(u"a1.fhir.json"_s).toStdString(), other.toStdString());
-    EXPECT_EQ(bundles.write(u"A1"_s, Replace::yes).error(), (StoreError{Problem::sameFileName, other, u"a1"_s}));
+    EXPECT_EQ(bundles.write(u"A1"_s, Replace::yes).error(),
+              (StoreError{Problem::sameFileName, other, u"a1"_s}));
 
     const QByteArray before = readFile(dataFile).value();
     ASSERT_TRUE(QFile::link(dataFile, out.filePath(u"b.fhir.json"_s)));

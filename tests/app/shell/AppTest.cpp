@@ -19,10 +19,10 @@ void AppTest::launch(AppController::Timing timing) {
         opened += path;
         return hasViewer;
     };
-    app = std::make_unique<AppController>(AppController::Parts{store, status, *worker, panel, clock, chooser,
-                                                               period, printers, open,
-                                                               languageFile(home.path()), memory.get(), demonstration},
-                                          timing);
+    app = std::make_unique<AppController>(
+        AppController::Parts{store, status, *worker, panel, clock, chooser, period, printers, open,
+                             languageFile(home.path()), memory.get(), demonstration},
+        timing);
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
 }
