@@ -1105,31 +1105,34 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliFolderMissing"><translation>Es fehlt der Ordner für den Export.</translation></message>
     <message id="CliForceReplaces"><translation>--force ersetzt sie.</translation></message>
     <message id="CliFromAfterTo"><translation>Der Tag von --from liegt nach dem Tag von --to.</translation></message>
-    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Aufruf: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
         zel COMMAND [OPTION]...
 
 Verwaltet die Messungen automatischer Blutdruckmessgeräte, Patient für Patient.
 Ohne Befehl öffnet sich ein Fenster. Die Befehle leisten dasselbe ohne Fenster, mit derselben Datendatei:
 
-  monitor    das angeschlossene Messgerät anzeigen, seine Uhr oder ID setzen oder seinen Speicher löschen
-  patients   die Patienten auflisten oder einen hinzufügen
-  download   die Messungen des Messgeräts für einen Patienten speichern
-  readings   die Messungen eines Patienten ausgeben
-  statistics Mittelwerte, Minima und Maxima der Messungen eines Patienten ausgeben
-  average    den Mittelwert einer Messwoche ausgeben, nach den Leitlinien für Messungen zu Hause
-  report     den Bericht eines Patienten als PDF schreiben
-  export-xml alle Patienten oder einen als XML-Dateien exportieren
-  export-csv einen Patienten mit seinen Messungen als CSV-Datei exportieren
+  monitor      das angeschlossene Messgerät anzeigen, seine Uhr oder ID setzen oder seinen Speicher löschen
+  patients     die Patienten auflisten oder einen hinzufügen
+  download     die Messungen des Messgeräts für einen Patienten speichern
+  readings     die Messungen eines Patienten ausgeben
+  statistics   Mittelwerte, Minima und Maxima der Messungen eines Patienten ausgeben
+  average      den Mittelwert einer Messwoche ausgeben, nach den Leitlinien für Messungen zu Hause
+  report       den Bericht eines Patienten als PDF schreiben
+  export-xml   alle Patienten oder einen als XML-Dateien exportieren
+  export-csv   einen Patienten mit seinen Messungen als CSV-Datei exportieren
+  export-fhir  alle Patienten oder einen als FHIR-Dateien für andere Patientenakten exportieren
   export-table Messungen als Tabelle für Tabellenkalkulationen exportieren
-  import     Patienten aus exportierten XML-Dateien oder Messungen aus Tabellen übernehmen
-  settings   die Einstellungen anzeigen oder einige ändern
-  backup     die Sicherungen der Datendatei auflisten, eine anlegen oder zu einer zurückkehren
-  privacy    angeben, ob andere die Datendatei lesen können, oder ihnen den Zugriff verwehren
+  import       Patienten aus exportierten XML-Dateien oder Messungen aus Tabellen übernehmen
+  settings     die Einstellungen anzeigen oder einige ändern
+  backup       die Sicherungen der Datendatei auflisten, eine anlegen oder zu einer zurückkehren
+  privacy      angeben, ob andere die Datendatei lesen können, oder ihnen den Zugriff verwehren
 
 Optionen:
   --simulated-monitor[=FILE]   statt eines USB-Geräts ein simuliertes Messgerät verwenden, das eingebaute
                                oder das in FILE beschriebene
+  --demonstration              ein Fenster mit simuliertem Messgerät und eigenen, erfundenen Daten
   --language TAG               die Sprache der Meldungen und Berichte, etwa de
+  --reset-view                 vergessen, wie das Fenster zuletzt war: Platz, Seite, Patient, Spalten
   -h, --help                   diesen Text anzeigen; 'zel COMMAND --help' erklärt einen Befehl
   --version                    die Version anzeigen
 

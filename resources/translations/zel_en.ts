@@ -1105,30 +1105,33 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
     <message id="CliForceReplaces"><translation>--force replaces it.</translation></message>
     <message id="CliFromAfterTo"><translation>The day of --from is after the day of --to.</translation></message>
-    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Usage: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
        zel COMMAND [OPTION]...
 
 Keeps the readings of automatic blood-pressure monitors, patient by patient.
 Without a command a window opens. The commands do the same jobs without one, on the same data file:
 
-  monitor    show the attached monitor, or set its clock or ID, or erase its memory
-  patients   list the patients, or add one
-  download   store the monitor's readings for a patient
-  readings   print a patient's readings
-  statistics print the averages, minima and maxima of a patient's readings
-  average    print the average of a measuring week, as guidelines for home readings order it
-  report     write a patient's report as a PDF
-  export-xml export all patients, or one, as XML files
-  export-csv export a patient and the readings as a CSV file
+  monitor      show the attached monitor, or set its clock or ID, or erase its memory
+  patients     list the patients, or add one
+  download     store the monitor's readings for a patient
+  readings     print a patient's readings
+  statistics   print the averages, minima and maxima of a patient's readings
+  average      print the average of a measuring week, as guidelines for home readings order it
+  report       write a patient's report as a PDF
+  export-xml   export all patients, or one, as XML files
+  export-csv   export a patient and the readings as a CSV file
+  export-fhir  export all patients, or one, for other health records, as FHIR files
   export-table export readings as a table for spreadsheets
-  import     take in patients from exported XML files, or readings from tables
-  settings   show the settings, or change some
-  backup     list the copies of the data file, make one, or go back to one
-  privacy    tell whether others can read the data file, or keep them out
+  import       take in patients from exported XML files, or readings from tables
+  settings     show the settings, or change some
+  backup       list the copies of the data file, make one, or go back to one
+  privacy      tell whether others can read the data file, or keep them out
 
 Options:
   --simulated-monitor[=FILE]   use a monitor in software, described by FILE or built in, instead of a USB one
+  --demonstration              a window with a simulated monitor, over data of its own
   --language TAG               the language of messages and reports, such as de or zh_TW
+  --reset-view                 forget how the window was left: place, page, patient, columns, folder
   -h, --help                   show this text; 'zel COMMAND --help' tells about a command
   --version                    show the version
 

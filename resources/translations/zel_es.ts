@@ -1105,30 +1105,33 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo reemplaza.</translation></message>
     <message id="CliFromAfterTo"><translation>El día de --from es posterior al de --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
      zel COMMAND [OPTION]...
 
 Conserva las mediciones de tensiómetros automáticos, paciente por paciente.
 Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con el mismo archivo de datos:
 
-  monitor    mostrar el tensiómetro conectado, ajustar su reloj o su ID, o vaciar su memoria
-  patients   listar los pacientes, o añadir uno
-  download   guardar las mediciones del tensiómetro para un paciente
-  readings   listar las mediciones de un paciente
-  statistics mostrar las medias, los mínimos y los máximos de las mediciones de un paciente
-  average    mostrar la media de una semana de medición, según las guías de medición domiciliaria
-  report     escribir el informe de un paciente como PDF
-  export-xml exportar todos los pacientes, o uno, como archivos XML
-  export-csv exportar un paciente y sus mediciones como archivo CSV
+  monitor      mostrar el tensiómetro conectado, ajustar su reloj o su ID, o vaciar su memoria
+  patients     listar los pacientes, o añadir uno
+  download     guardar las mediciones del tensiómetro para un paciente
+  readings     listar las mediciones de un paciente
+  statistics   mostrar las medias, los mínimos y los máximos de las mediciones de un paciente
+  average      mostrar la media de una semana de medición, según las guías de medición domiciliaria
+  report       escribir el informe de un paciente como PDF
+  export-xml   exportar todos los pacientes, o uno, como archivos XML
+  export-csv   exportar un paciente y sus mediciones como archivo CSV
+  export-fhir  exportar todos los pacientes, o uno, como archivos FHIR para otras historias clínicas
   export-table exportar mediciones como tabla para hojas de cálculo
-  import     incorporar pacientes de archivos XML exportados, o mediciones de tablas
-  settings   mostrar la configuración, o cambiarla en parte
-  backup     listar las copias del archivo de datos, hacer una o volver a una
-  privacy    decir si otros pueden leer el archivo de datos, o impedírselo
+  import       incorporar pacientes de archivos XML exportados, o mediciones de tablas
+  settings     mostrar la configuración, o cambiarla en parte
+  backup       listar las copias del archivo de datos, hacer una o volver a una
+  privacy      decir si otros pueden leer el archivo de datos, o impedírselo
 
 Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
+  --demonstration              una ventana con un tensiómetro simulado y datos propios
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
+  --reset-view                 olvidar cómo quedó la ventana: lugar, página, paciente, columnas
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión
 

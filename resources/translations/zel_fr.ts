@@ -1105,30 +1105,33 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliFolderMissing"><translation>Il manque le dossier vers lequel exporter.</translation></message>
     <message id="CliForceReplaces"><translation>--force le remplace.</translation></message>
     <message id="CliFromAfterTo"><translation>Le jour de --from est postérieur à celui de --to.</translation></message>
-    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Usage : zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
         zel COMMAND [OPTION]...
 
 Conserve les mesures de tensiomètres automatiques, patient par patient.
 Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans fenêtre, sur le même fichier :
 
-  monitor    montrer le tensiomètre branché, régler son horloge ou son ID, ou effacer sa mémoire
-  patients   lister les patients, ou en ajouter un
-  download   enregistrer les mesures du tensiomètre pour un patient
-  readings   afficher les mesures d’un patient
-  statistics afficher moyennes, minimums et maximums des mesures d’un patient
-  average    afficher la moyenne d’une semaine de mesure, selon les recommandations sur l’automesure
-  report     écrire le rapport d’un patient en PDF
-  export-xml exporter tous les patients, ou un seul, en fichiers XML
-  export-csv exporter un patient et ses mesures en fichier CSV
+  monitor      montrer le tensiomètre branché, régler son horloge ou son ID, ou effacer sa mémoire
+  patients     lister les patients, ou en ajouter un
+  download     enregistrer les mesures du tensiomètre pour un patient
+  readings     afficher les mesures d’un patient
+  statistics   afficher moyennes, minimums et maximums des mesures d’un patient
+  average      afficher la moyenne d’une semaine de mesure, selon les recommandations sur l’automesure
+  report       écrire le rapport d’un patient en PDF
+  export-xml   exporter tous les patients, ou un seul, en fichiers XML
+  export-csv   exporter un patient et ses mesures en fichier CSV
+  export-fhir  exporter tous les patients, ou un seul, en fichiers FHIR pour d’autres dossiers médicaux
   export-table exporter des mesures en tableau pour tableurs
-  import     ajouter des patients à partir de fichiers XML exportés, ou des mesures de tableaux
-  settings   afficher les réglages, ou en modifier
-  backup     lister les copies du fichier de données, en créer une, ou revenir à l’une d’elles
-  privacy    dire si d’autres peuvent lire le fichier de données, ou leur en retirer l’accès
+  import       ajouter des patients à partir de fichiers XML exportés, ou des mesures de tableaux
+  settings     afficher les réglages, ou en modifier
+  backup       lister les copies du fichier de données, en créer une, ou revenir à l’une d’elles
+  privacy      dire si d’autres peuvent lire le fichier de données, ou leur en retirer l’accès
 
 Options :
   --simulated-monitor[=FILE]   au lieu d’un tensiomètre USB, en simuler un, décrit par FILE ou intégré
+  --demonstration              une fenêtre avec un tensiomètre simulé et ses propres données
   --language TAG               la langue des messages et des rapports, par exemple fr
+  --reset-view                 oublier l’état de la fenêtre : place, page, patient, colonnes, dossier
   -h, --help                   afficher ce texte ; 'zel COMMAND --help' décrit une commande
   --version                    afficher la version
 

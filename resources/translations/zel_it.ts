@@ -1105,30 +1105,33 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliFolderMissing"><translation>Manca la cartella in cui esportare.</translation></message>
     <message id="CliForceReplaces"><translation>--force lo sostituisce.</translation></message>
     <message id="CliFromAfterTo"><translation>Il giorno di --from è successivo a quello di --to.</translation></message>
-    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
      zel COMANDO [OPZIONE]...
 
 Gestisce le misurazioni dei misuratori automatici di pressione, paziente per paziente.
 Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestra, sullo stesso file dei dati:
 
-  monitor    mostra il misuratore collegato, oppure ne imposta l'orologio o l'ID, o ne cancella la memoria
-  patients   elenca i pazienti o ne aggiunge uno
-  download   registra per un paziente le misurazioni del misuratore
-  readings   mostra le misurazioni di un paziente
-  statistics mostra medie, minimi e massimi delle misurazioni di un paziente
-  average    mostra la media di una settimana di misura, secondo le linee guida per le misurazioni a domicilio
-  report     scrive il rapporto di un paziente in PDF
-  export-xml esporta tutti i pazienti, o uno solo, in file XML
-  export-csv esporta un paziente e le sue misurazioni in un file CSV
+  monitor      mostra il misuratore collegato, oppure ne imposta l'orologio o l'ID, o ne cancella la memoria
+  patients     elenca i pazienti o ne aggiunge uno
+  download     registra per un paziente le misurazioni del misuratore
+  readings     mostra le misurazioni di un paziente
+  statistics   mostra medie, minimi e massimi delle misurazioni di un paziente
+  average      mostra la media di una settimana di misura, secondo le linee guida per le misurazioni a domicilio
+  report       scrive il rapporto di un paziente in PDF
+  export-xml   esporta tutti i pazienti, o uno solo, in file XML
+  export-csv   esporta un paziente e le sue misurazioni in un file CSV
+  export-fhir  esporta tutti i pazienti, o uno solo, in file FHIR per altre cartelle cliniche
   export-table esporta le misurazioni come tabella per fogli di calcolo
-  import     importa pazienti da file XML esportati, o misurazioni da tabelle
-  settings   mostra le impostazioni o ne modifica alcune
-  backup     elenca le copie del file dei dati, ne crea una o ne ripristina una
-  privacy    dice se altri possono leggere il file dei dati, o ne impedisce l'accesso
+  import       importa pazienti da file XML esportati, o misurazioni da tabelle
+  settings     mostra le impostazioni o ne modifica alcune
+  backup       elenca le copie del file dei dati, ne crea una o ne ripristina una
+  privacy      dice se altri possono leggere il file dei dati, o ne impedisce l'accesso
 
 Opzioni:
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato, invece di uno USB
+  --demonstration              una finestra con un misuratore simulato e dati propri
   --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
+  --reset-view                 dimentica lo stato della finestra: posizione, pagina, paziente, colonne
   -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
   --version                    mostra la versione
 

@@ -1105,30 +1105,33 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliFolderMissing"><translation>Brakuje folderu, do którego mają trafić pliki.</translation></message>
     <message id="CliForceReplaces"><translation>Opcja --force go zastępuje.</translation></message>
     <message id="CliFromAfterTo"><translation>Dzień --from jest późniejszy niż dzień --to.</translation></message>
-    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>Użycie: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
         zel COMMAND [OPTION]...
 
 Przechowuje pomiary z automatycznych ciśnieniomierzy, osobno dla każdego pacjenta.
 Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym pliku danych:
 
-  monitor    pokazuje podłączony ciśnieniomierz, ustawia jego zegar lub ID albo wymazuje jego pamięć
-  patients   wyświetla listę pacjentów albo dodaje pacjenta
-  download   zapisuje pomiary z ciśnieniomierza dla pacjenta
-  readings   wyświetla pomiary pacjenta
-  statistics wyświetla średnie, minima i maksima pomiarów pacjenta
-  average    wyświetla średnią z tygodnia pomiarowego według wytycznych dotyczących pomiarów domowych
-  report     zapisuje raport pacjenta jako PDF
-  export-xml eksportuje wszystkich pacjentów albo jednego jako pliki XML
-  export-csv eksportuje dane i pomiary pacjenta jako plik CSV
+  monitor      pokazuje podłączony ciśnieniomierz, ustawia jego zegar lub ID albo wymazuje jego pamięć
+  patients     wyświetla listę pacjentów albo dodaje pacjenta
+  download     zapisuje pomiary z ciśnieniomierza dla pacjenta
+  readings     wyświetla pomiary pacjenta
+  statistics   wyświetla średnie, minima i maksima pomiarów pacjenta
+  average      wyświetla średnią z tygodnia pomiarowego według wytycznych dotyczących pomiarów domowych
+  report       zapisuje raport pacjenta jako PDF
+  export-xml   eksportuje wszystkich pacjentów albo jednego jako pliki XML
+  export-csv   eksportuje dane i pomiary pacjenta jako plik CSV
+  export-fhir  eksportuje wszystkich pacjentów albo jednego jako pliki FHIR dla innych systemów dokumentacji
   export-table eksportuje pomiary jako tabelę dla arkuszy kalkulacyjnych
-  import     wczytuje pacjentów z wyeksportowanych plików XML albo pomiary z tabel
-  settings   pokazuje ustawienia albo zmienia niektóre z nich
-  backup     wyświetla kopie pliku danych, tworzy kopię albo wraca do wybranej
-  privacy    informuje, czy inni mogą odczytać dane, albo odbiera im dostęp
+  import       wczytuje pacjentów z wyeksportowanych plików XML albo pomiary z tabel
+  settings     pokazuje ustawienia albo zmienia niektóre z nich
+  backup       wyświetla kopie pliku danych, tworzy kopię albo wraca do wybranej
+  privacy      informuje, czy inni mogą odczytać dane, albo odbiera im dostęp
 
 Opcje:
   --simulated-monitor[=FILE]   użyj ciśnieniomierza programowego (opis w FILE lub wbudowany) zamiast USB
+  --demonstration              okno z symulowanym ciśnieniomierzem i osobnymi danymi
   --language TAG               język komunikatów i raportów, na przykład pl
+  --reset-view                 zapomnij stan okna: położenie, stronę, pacjenta, kolumny, folder
   -h, --help                   pokaż ten tekst; 'zel COMMAND --help' opisuje polecenie
   --version                    pokaż wersję
 

@@ -1105,30 +1105,33 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliFolderMissing"><translation>未指定匯出的目的資料夾。</translation></message>
     <message id="CliForceReplaces"><translation>使用 --force 可取代它。</translation></message>
     <message id="CliFromAfterTo"><translation>--from 的日期晚於 --to 的日期。</translation></message>
-    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE]] [--language TAG]
+    <message id="CliHelp"><translation>用法：zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
       zel COMMAND [OPTION]...
 
 依病患分別保存自動血壓計的量測。
 不加指令時會開啟視窗。各指令不需視窗即可完成相同的工作，並使用同一個資料檔：
 
-  monitor    顯示連接的血壓計，或設定其時鐘或 ID，或清空其記憶體
-  patients   列出病患，或新增一位病患
-  download   將血壓計的量測存入某位病患的紀錄
-  readings   輸出病患的量測
-  statistics 輸出病患量測的平均值、最小值與最大值
-  average    依居家量測指引的準則，輸出量測週的平均
-  report     將病患的報告寫成 PDF
-  export-xml 將所有病患或一位病患匯出為 XML 檔案
-  export-csv 將一位病患及其量測匯出為 CSV 檔案
+  monitor      顯示連接的血壓計，或設定其時鐘或 ID，或清空其記憶體
+  patients     列出病患，或新增一位病患
+  download     將血壓計的量測存入某位病患的紀錄
+  readings     輸出病患的量測
+  statistics   輸出病患量測的平均值、最小值與最大值
+  average      依居家量測指引的準則，輸出量測週的平均
+  report       將病患的報告寫成 PDF
+  export-xml   將所有病患或一位病患匯出為 XML 檔案
+  export-csv   將一位病患及其量測匯出為 CSV 檔案
+  export-fhir  將所有病患或一位病患匯出為 FHIR 檔案，供其他病歷系統使用
   export-table 將量測匯出為試算表用的表格
-  import     從匯出的 XML 檔案匯入病患，或從表格匯入量測
-  settings   顯示設定，或變更部分設定
-  backup     列出資料檔的備份、建立備份，或還原到某份備份
-  privacy    檢查其他使用者能否讀取資料檔，或禁止他們讀取
+  import       從匯出的 XML 檔案匯入病患，或從表格匯入量測
+  settings     顯示設定，或變更部分設定
+  backup       列出資料檔的備份、建立備份，或還原到某份備份
+  privacy      檢查其他使用者能否讀取資料檔，或禁止他們讀取
 
 選項：
   --simulated-monitor[=FILE]   使用軟體模擬的血壓計（由 FILE 描述或內建），不使用 USB 血壓計
+  --demonstration              開啟使用模擬血壓計與獨立資料的視窗
   --language TAG               訊息與報告的語言，例如 zh_TW
+  --reset-view                 忘記視窗上次的狀態：位置、頁面、病患、欄位、資料夾
   -h, --help                   顯示此說明；'zel COMMAND --help' 顯示指令的說明
   --version                    顯示版本
 

@@ -26,7 +26,7 @@ def enter_patient(program):
     smoker.do("Increase")
     expect(smoker.text == "Yes", f"{smoker} says '{smoker.text}'")
     program.press("push button", "Save")
-    program.find("table cell", "Adams,Anna Maria")
+    program.find("table cell", "Adams, Anna Maria")
 
 
 def value(program, caption):

@@ -37,7 +37,7 @@ def drawn(node, _):
 def entry(node, _):
     if node.role not in ENTRIES:
         return
-    labels = [label.name.strip(" :") for label in node.labels if label.role == "label"]
+    labels = [label.name.rstrip("\u00a0*").strip(" :") for label in node.labels if label.role == "label"]
     for label in labels:
         if not node.name.casefold().startswith(label.casefold()):
             yield f"is written '{label}', and called something else"
