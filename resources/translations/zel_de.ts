@@ -22,20 +22,20 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1: Ein Patient mit der ID „%2“ ist schon in der Liste. Patienten werden nie überschrieben; aus der Datei wurde deshalb nichts übernommen.</translation></message>
     <message id="ImportBadID"><translation>%1: Die ID „%2“ in der Datei enthält einen Zeilenumbruch oder ein anderes Steuerzeichen. Damit ließe sie sich weder speichern noch an ein Messgerät senden. Aus der Datei wurde nichts übernommen.</translation></message>
-    <message id="ImportBadLines"><translation>%1: Zeilen der Tabelle lassen sich nicht übernehmen. Aus ihr wurde nichts übernommen.</translation></message>
+    <message id="ImportBadLines"><translation>%1: Nicht alle Zeilen der Tabelle lassen sich übernehmen. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportMissingColumn"><translation>%1: Die Tabelle hat keine Spalte „%2“ oder mehr als eine. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportNoFile"><translation>Das ist keine gewöhnliche Datei.</translation></message>
     <message id="ImportNoID"><translation>%1: Ein Patient in der Datei hat keine ID. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportNoPatient"><translation>%1: Die Datei enthält keinen Patienten. Es wurde nichts übernommen.</translation></message>
     <message id="ImportNoReading"><translation>%1: Die Tabelle enthält keine Messung. Es wurde nichts übernommen.</translation></message>
-    <message id="ImportNoSuchPatient"><translation>%1: Ein Patient mit der ID „%2“ ist nicht mehr in der Liste. Aus der Datei wurde nichts übernommen.</translation></message>
+    <message id="ImportNoSuchPatient"><translation>%1: Die Liste enthält keinen Patienten mit der ID „%2“ mehr. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportNotFlushed"><translation>%1: Alles ist gespeichert, aber der Datenträger hat das nicht bestätigt: Nach einem Stromausfall könnte es fehlen.</translation></message>
     <message id="ImportNotReadable"><translation>%1: Die Datei ist nicht lesbar oder wurde nicht von diesem Programm exportiert. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportNotStored"><translation>%1: Der Inhalt der Datei konnte nicht gespeichert werden. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="ImportOtherNames"><translation>%1: Der Patient mit der ID „%2“ heißt in der Liste anders als in der Tabelle; die Messungen könnten von jemand anderem sein. Aus der Datei wurde nichts übernommen. Um sie dennoch zu übernehmen, leeren Sie die Zellen mit den Namen.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: Zwei Patienten in der Datei haben dieselbe ID, „%2“. Aus der Datei wurde nichts übernommen.</translation></message>
     <message id="ImportTooLarge"><translation>%1: Die Datei ist größer als 512 MiB. Aus ihr wurde nichts übernommen.</translation></message>
-    <message id="ImportTooManyLines"><translation>%1: Die Tabelle hat mehr als 200 000 Zeilen. Aus ihr wurde nichts übernommen.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: Die Tabelle hat mehr als 200.000 Zeilen. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="LanguageMissing"><translation>--language braucht eine der Sprachen %1</translation></message>
     <message id="languageTag"><translation>de</translation></message>
     <message id="LanguageTwice"><translation>--language kann nur einmal angegeben werden</translation></message>
@@ -113,15 +113,15 @@
     <message id="StoreTooLarge"><translation>Die Datendatei %1 ist größer als 512 MiB; solche Dateien liest dieses Programm nicht. Sie bleibt unverändert, und es kann nichts gespeichert werden: Legen Sie eine kleinere Sicherung an ihre Stelle, oder verschieben Sie sie, um mit einer neuen zu beginnen.</translation></message>
     <message id="StoreUnreadable"><translation>Die Datendatei %1 wurde nicht verändert: Was gespeichert werden sollte, ließ sich anschließend nicht wieder lesen.</translation></message>
     <message id="StoreWriteFailed"><translation>Das Schreiben der Datendatei %1 ist fehlgeschlagen; die Datei wurde nicht verändert. Bitte prüfen Sie, ob der Datenträger voll ist, und versuchen Sie es dann noch einmal.</translation></message>
-    <message id="TableCell"><translation>„%1“ kann nicht in der Spalte „%2“ stehen.</translation></message>
+    <message id="TableCell"><translation>„%1“ ist in der Spalte „%2“ nicht zulässig.</translation></message>
     <message id="TableCells"><translation>Sie hat %1 Zellen, die Titelzeile %2.</translation></message>
     <message id="TableDateOrder"><translation>„%1“ ist nicht wie 2026-11-21 geschrieben. Geben Sie mit --dates an, in welcher Reihenfolge Tag, Monat und Jahr stehen: dmy, mdy oder ymd.</translation></message>
     <message id="TableLine"><translation>Zeile %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… und %n weitere Zeile</numerusform><numerusform>… und %n weitere Zeilen</numerusform></translation></message>
-    <message id="TableNoTime"><translation>„%1“ ist kein Datum mit vierstelligem Jahr und einer Uhrzeit.</translation></message>
+    <message id="TableNoTime"><translation>„%1“ ist kein Datum mit vierstelligem Jahr und Uhrzeit.</translation></message>
     <message id="TableNotUtf8"><translation>Ihr Text ist nicht UTF-8. Bitte speichern Sie sie in dem Programm, aus dem sie stammt, als „CSV UTF-8“.</translation></message>
     <message id="TableOtherNames"><translation>Der Patient „%1“ heißt in einer früheren Zeile anders.</translation></message>
-    <message id="TableOtherPatient"><translation>Die Messung gehört dem Patienten „%1“, nicht „%2“.</translation></message>
+    <message id="TableOtherPatient"><translation>Die Messung gehört zum Patienten „%1“, nicht zu „%2“.</translation></message>
     <message id="TableQuotation"><translation>Ein Anführungszeichen ist am Ende seiner Zelle nicht geschlossen.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1 ist nicht lesbar; darin steht, ab welchen Grenzwerten Werte markiert werden. Bis neue Grenzwerte gewählt sind, werden Werte ab %2/%3 mmHg markiert.</translation></message>
     <message id="Warning"><translation>Warnung</translation></message>
@@ -300,7 +300,7 @@ mmHg</translation></message>
     <message id="columnPulse"><translation>Puls
 1/min</translation></message>
     <message id="columnReadings"><translation>Messungen</translation></message>
-    <message id="columnState"><translation>Zustand</translation></message>
+    <message id="columnState"><translation>Status</translation></message>
     <message id="columnSys"><translation>SYS
 mmHg</translation></message>
     <message id="columnTime"><translation>Uhrzeit</translation></message>
@@ -352,14 +352,14 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="deleteReadingsQuestion"><translation>Die von Hand eingegebenen Werte löschen (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Messung löschen</translation></message>
     <message id="DeleteTheComment"><translation>Diesen Kommentar löschen? Solange ZEL geöffnet ist, stellt „Bearbeiten“ &gt; „Rückgängig“ ihn wieder her.</translation></message>
-    <message id="demonstrationButton"><translation>Mit einem Vorführgerät ausprobieren</translation></message>
-    <message id="demonstrationIsOwnData"><translation>Die Vorführung bewahrt ihre Daten im Ordner %1 auf, der aber zu Ihren eigenen Daten führt. Es wurde nichts gestartet, damit keine erfundenen Messungen unter Ihre geraten.</translation></message>
-    <message id="demonstrationNoFolder"><translation>Die Vorführung bewahrt ihre Daten im Ordner %1 auf, der nicht angelegt werden kann.</translation></message>
+    <message id="demonstrationButton"><translation>Mit simuliertem Messgerät ausprobieren</translation></message>
+    <message id="demonstrationIsOwnData"><translation>Die Demonstration bewahrt ihre Daten im Ordner %1 auf, der aber zu Ihren eigenen Daten führt. Es wurde nichts gestartet, damit keine erfundenen Messungen unter Ihre geraten.</translation></message>
+    <message id="demonstrationNoFolder"><translation>Die Demonstration bewahrt ihre Daten im Ordner %1 auf, der sich nicht anlegen lässt.</translation></message>
     <message id="demonstrationNote"><translation>Öffnet ein zweites Fenster mit einem simulierten Messgerät und erfundenen Messungen, die von Ihren eigenen Daten getrennt bleiben.</translation></message>
-    <message id="demonstrationNotStarted"><translation>Die Vorführung konnte nicht gestartet werden.</translation></message>
-    <message id="demonstrationStarted"><translation>Die Vorführung öffnet sich in einem eigenen Fenster.</translation></message>
-    <message id="demonstrationStrip"><translation>Vorführung: Das Messgerät ist simuliert; seine Messungen sind erfunden und bleiben von Ihren eigenen Daten getrennt.</translation></message>
-    <message id="demonstrationTitle"><translation>Vorführung – %1</translation></message>
+    <message id="demonstrationNotStarted"><translation>Die Demonstration konnte nicht gestartet werden.</translation></message>
+    <message id="demonstrationStarted"><translation>Die Demonstration öffnet sich in einem eigenen Fenster.</translation></message>
+    <message id="demonstrationStrip"><translation>Demonstration: Das Messgerät ist simuliert; seine Messungen sind erfunden und bleiben von Ihren eigenen Daten getrennt.</translation></message>
+    <message id="demonstrationTitle"><translation>Demonstration – %1</translation></message>
     <message id="download"><translation>Messungen auslesen</translation></message>
     <message id="downloadAdvice"><translation>Bitte lassen Sie das Messgerät angeschlossen. Seine Messungen werden gespeichert, sobald alle angekommen sind.</translation></message>
     <message id="downloadButton"><translation>A&amp;uslesen</translation></message>
@@ -438,7 +438,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fileTooLargeToCount"><translation>über 64 MiB: nicht gezählt</translation></message>
     <message id="firstStepDownload"><translation>Drücken Sie „Auslesen“. Die Messungen erscheinen in Diagramm und Tabelle.</translation></message>
     <message id="firstStepMonitor"><translation>Schließen Sie das Messgerät mit seinem USB-Kabel an. Ist die ID dieses Patienten noch nicht darin gespeichert, drücken Sie „ID senden“.</translation></message>
-    <message id="firstStepPatient"><translation>Geben Sie den Patienten, dessen Blutdruck das Messgerät misst, mit einer ID ein und drücken Sie „Speichern“.</translation></message>
+    <message id="firstStepPatient"><translation>Legen Sie den Patienten an, dessen Blutdruck das Messgerät misst, geben Sie ihm eine ID und drücken Sie „Speichern“.</translation></message>
     <message id="firstSteps"><translation>Noch keine Patienten: drei Schritte zu den ersten Messungen</translation></message>
     <message id="heightRefusedCm"><translation>Bitte geben Sie eine Zahl von 20 bis 300 cm ein, z. B. 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Bitte geben Sie Fuß und Zoll mit einem Schrägstrich dazwischen ein, z. B. 5/9. Zoll: höchstens 11.</translation></message>
@@ -483,10 +483,10 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="keysMovePeriod"><translation>Zeitraum verschieben</translation></message>
     <message id="keysMoveScale"><translation>Skala verschieben</translation></message>
     <message id="keysPlace"><translation>Wo</translation></message>
-    <message id="keysTitle"><translation>Tasten</translation></message>
+    <message id="keysTitle"><translation>Tastenkürzel</translation></message>
     <message id="keysWhat"><translation>Was geschieht</translation></message>
     <message id="keysWholePeriod"><translation>Einen ganzen Zeitraum zurück, weiter</translation></message>
-    <message id="keysWidenPeriod"><translation>Zeitraum erweitern, verkürzen</translation></message>
+    <message id="keysWidenPeriod"><translation>Zeitraum verlängern, verkürzen</translation></message>
     <message id="languageNotSaved"><translation>Die Sprache wurde nicht geändert; die übrigen Einstellungen sind gespeichert. %1</translation></message>
     <message id="lastDownload"><translation>Zuletzt ausgelesen</translation></message>
     <message id="lastDownloadNone"><translation>noch nie</translation></message>
@@ -519,7 +519,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="menuFile"><translation>&amp;Datei</translation></message>
     <message id="menuFindPatient"><translation>Patienten suchen</translation></message>
     <message id="menuHelp"><translation>&amp;Hilfe</translation></message>
-    <message id="menuKeys"><translation>&amp;Tasten</translation></message>
+    <message id="menuKeys"><translation>&amp;Tastenkürzel</translation></message>
     <message id="menuManual"><translation>&amp;Handbuch</translation></message>
     <message id="menuMoreDays"><translation>Mehr Tage</translation></message>
     <message id="menuNewPatient"><translation>Neuer Patient</translation></message>
@@ -553,7 +553,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="monitorHoldsReadings" numerus="yes"><translation><numerusform>Darin ist %n Messung.</numerusform><numerusform>Darin sind %n Messungen.</numerusform></translation></message>
     <message id="monitorHoldsUnknown"><translation>Welche ID jetzt im Messgerät gespeichert ist, konnte nicht gelesen werden.</translation></message>
     <message id="monitorID"><translation>ID</translation></message>
-    <message id="monitorIDSimilar"><translation>Die ID %1 von %2 sieht ihr sehr ähnlich, ist aber eine andere.</translation></message>
+    <message id="monitorIDSimilar"><translation>Die ID %1 von %2 sieht ähnlich aus, ist aber eine andere.</translation></message>
     <message id="monitorLooking"><translation>Messgerät wird gesucht …</translation></message>
     <message id="monitorNotAnswering"><translation>Angeschlossen, antwortet aber nicht wie erwartet. %1</translation></message>
     <message id="monitorNotConnected"><translation>Nicht verbunden. Schließen Sie das Messgerät an einen USB-Anschluss an.</translation></message>
@@ -689,7 +689,7 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="readingTotal"><translation>Messungen dieses Patienten</translation></message>
     <message id="redoFailed"><translation>„%1“ wurde nicht wiederholt. %2</translation></message>
     <message id="redone"><translation>Wiederholt: %1</translation></message>
-    <message id="requiredNote"><translation>* muss ausgefüllt werden</translation></message>
+    <message id="requiredNote"><translation>* Pflichtfeld</translation></message>
     <message id="riskFactors"><translation>Risikofaktoren</translation></message>
     <message id="sameID"><translation>Die ID %1 gehört zu einem anderen Patienten der Liste. Es wurde noch nichts gespeichert; bitte wählen Sie eine andere ID.</translation></message>
     <message id="sameIDTitle"><translation>ID schon vergeben</translation></message>
@@ -863,8 +863,8 @@ AHA: 12 Messungen an mindestens 3 Tagen</translation></message>
     <message id="weekTo"><translation>bis</translation></message>
     <message id="weightRefusedKg"><translation>Bitte geben Sie eine Zahl von 0,2 bis 1000 kg ein, z. B. 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Bitte geben Sie eine Zahl von 0,5 bis 2200 lb ein, z. B. 160,5.</translation></message>
-    <message id="windowNotForgotten"><translation>In der Datei %1 steht, wie das Fenster zuletzt war. Sie konnte nicht entfernt werden.</translation></message>
-    <message id="windowNotReset"><translation>ZEL ist für diese Datendatei schon geöffnet; das Fenster wurde in den Vordergrund geholt. Bitte schließen Sie es und starten Sie noch einmal mit --reset-view.</translation></message>
+    <message id="windowNotForgotten"><translation>Die Datei %1, in der steht, wie das Fenster zuletzt war, konnte nicht entfernt werden.</translation></message>
+    <message id="windowNotReset"><translation>ZEL ist für diese Datendatei schon geöffnet; das Fenster wurde in den Vordergrund geholt. Bitte schließen Sie es und starten Sie ZEL noch einmal mit --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL ist für diese Datendatei schon geöffnet; das Fenster wurde in den Vordergrund geholt.</translation></message>
     <message id="windowSilent"><translation>ZEL ist für diese Datendatei schon geöffnet, aber das Fenster antwortet nicht. Vielleicht wartet es auf einen langsamen Datenträger oder Drucker, oder es hängt: Wenn es nicht innerhalb einer Minute weiterarbeitet, beenden Sie es in der Systemüberwachung Ihres Computers.
 
@@ -1085,10 +1085,10 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliChangeOfNothing"><translation>--change braucht mindestens eines von --date, --time, --sys, --dia und --pulse.</translation></message>
     <message id="CliClockUnread"><translation>Die Uhr des Messgeräts konnte nicht gelesen werden. %1</translation></message>
     <message id="CliClockUnset"><translation>Die Uhr des Messgeräts konnte nicht gestellt werden. %1</translation></message>
-    <message id="CliColumnsForm"><translation>--columns nennt die Titel der Spalten, etwa date=Datum,time=Zeit,sys=Systole,dia=Diastole,pulse=Puls; nur time darf fehlen.</translation></message>
-    <message id="CliColumnsHelp"><translation>Bei der Tabelle eines anderen Programms gibt --columns an, was ihre Spalten sind.</translation></message>
+    <message id="CliColumnsForm"><translation>--columns erwartet die Spaltentitel, etwa date=Datum,time=Zeit,sys=Systole,dia=Diastole,pulse=Puls; nur time darf fehlen.</translation></message>
+    <message id="CliColumnsHelp"><translation>Bei der Tabelle eines anderen Programms gibt --columns an, was ihre Spalten enthalten.</translation></message>
     <message id="CliCountUnread"><translation>Die Anzahl der Messungen im Messgerät konnte nicht gelesen werden. %1</translation></message>
-    <message id="CliDatesForm"><translation>--dates nimmt dmy, mdy oder ymd, nicht '%1'.</translation></message>
+    <message id="CliDatesForm"><translation>Zulässig für --dates: dmy, mdy oder ymd; nicht '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>Die Messungen konnten nicht ausgelesen werden, und es wurde nichts gespeichert. %1 Sie sind weiterhin im Messgerät: Bitte versuchen Sie es noch einmal.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Die Messungen sind gespeichert, aber die Datendatei konnte anschließend nicht gelesen werden; das Messgerät wurde deshalb nicht geleert. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Die ausgelesenen Messungen konnten nicht gespeichert werden. %1 Sie sind weiterhin im Messgerät.</translation></message>
@@ -1132,7 +1132,7 @@ Optionen:
                                oder das in FILE beschriebene
   --demonstration              ein Fenster mit simuliertem Messgerät und eigenen, erfundenen Daten
   --language TAG               die Sprache der Meldungen und Berichte, etwa de
-  --reset-view                 vergessen, wie das Fenster zuletzt war: Platz, Seite, Patient, Spalten
+  --reset-view                 vergessen, wie das Fenster zuletzt war: Platz, Seite, Patient, Spalten, Ordner
   -h, --help                   diesen Text anzeigen; 'zel COMMAND --help' erklärt einen Befehl
   --version                    die Version anzeigen
 
@@ -1236,8 +1236,8 @@ Optionen:
 Schreibt Messungen als Tabelle für Tabellenkalkulationen: in den Ordner DIR eine Datei 'ID.table.csv' für jeden
 Patienten oder als FILE.csv eine Tabelle aller Patienten. Gibt für jede 'written: FILE' aus. Die Tabelle ist
 UTF-8, mit einer Titelzeile und einer Zeile je Messung, zeitlich geordnet, mit Patient, Werten, Befunden, der
-Herkunft der Messung, ob und warum sie ausgeschlossen ist, und dem Kommentar zu ihrem Tag. Texte, mit denen
-eine Tabellenkalkulation rechnen würde, beginnen mit einem Apostroph. 'zel import' übernimmt die Tabelle wieder.
+Herkunft der Messung, ob und warum sie ausgeschlossen ist, und dem Kommentar zu ihrem Tag. Texte, die eine
+Tabellenkalkulation als Formel läse, beginnen mit einem Apostroph. 'zel import' übernimmt die Tabelle wieder.
 
 Optionen:
   --patient ID                 nur dieser Patient
@@ -1260,17 +1260,17 @@ Optionen:
         zel import FILE... --patient ID [--columns LIST] [--dates dmy|mdy|ymd]
 
 Übernimmt die Patienten exportierter XML-Dateien mit ihren Messungen und Kommentaren oder die von Tabellen, die
-'zel export-table' geschrieben hat. Eine Datei wird ganz oder gar nicht übernommen: nicht, wenn einer ihrer
+'zel export-table' geschrieben hat. Eine Datei wird ganz oder gar nicht übernommen: gar nicht, wenn einer ihrer
 Patienten schon in der Liste ist. Nicht übernommene Dateien werden mit dem Grund auf der Standardfehlerausgabe
 genannt, bei einer Tabelle jede fehlerhafte Zeile mit ihrer Nummer. Gibt aus, wie viele Dateien übernommen und
 abgelehnt wurden und wie viele Patienten, Messungen und Kommentare sie brachten, je Zeile ein 'key: value'; bei
-einer Tabelle auch, wie viele Messungen schon bekannt waren: Sie werden nicht verdoppelt.
+einer Tabelle auch, wie viele Messungen schon bekannt waren: Sie werden nicht doppelt gespeichert.
 
-Mit --patient werden die Messungen einer Tabelle zu einem Patienten der Liste hinzugefügt. Mit --columns ist es
+Mit --patient werden die Messungen einer Tabelle einem Patienten der Liste hinzugefügt. Mit --columns ist es
 die Tabelle eines anderen Programms, etwa --columns "date=Datum,time=Zeit,sys=Systole,dia=Diastole,pulse=Puls"
 mit den Titeln ihrer ersten Zeile; time entfällt, wenn die Zeit hinter dem Datum steht. Solche Messungen gelten
-als von Hand eingegeben. Ihre Spalten trennt ein Komma, Semikolon oder Tabulator. Das Datum ist wie 2026-11-21,
-wenn nicht --dates sagt, in welcher Reihenfolge Tag, Monat und Jahr stehen.
+als von Hand eingegeben. Ihre Spalten trennt ein Komma, Semikolon oder Tabulator. Das Datum lautet wie 2026-11-21,
+wenn nicht --dates angibt, in welcher Reihenfolge Tag, Monat und Jahr stehen.
 
 Optionen:
   --patient ID                 wem die Messungen einer Tabelle gehören sollen
@@ -1454,7 +1454,7 @@ Optionen:
     <message id="CliNoSuchReading"><translation>der Patient hat keine Messung mit der Nummer %1 (zel readings --numbers gibt die Nummern aus)</translation></message>
     <message id="CliNoSuchRule"><translation>Es gibt keine Regel '%1'. Die Regeln sind %2.</translation></message>
     <message id="CliNoSuchSection"><translation>Es gibt keinen Abschnitt '%1'. Die Abschnitte sind all oder beliebige von %2, mit Kommas dazwischen.</translation></message>
-    <message id="CliNoTable"><translation>%1: --patient ist für Tabellen mit Messungen; diese Datei ist keine oder nicht lesbar. Aus ihr wurde nichts übernommen.</translation></message>
+    <message id="CliNoTable"><translation>%1: --patient gilt nur für Tabellen mit Messungen; diese Datei ist keine oder nicht lesbar. Aus ihr wurde nichts übernommen.</translation></message>
     <message id="CliNotExcluded"><translation>die Messung %1 ist nicht ausgeschlossen</translation></message>
     <message id="CliNotTogether"><translation>--%1 und --%2 passen nicht zusammen</translation></message>
     <message id="CliOneJob"><translation>Nur eines von --set-clock, --send-id und --erase ist auf einmal möglich.</translation></message>
@@ -1475,7 +1475,7 @@ Optionen:
     <message id="CliSettingTwice"><translation>Die Einstellung %1 ist mehr als einmal angegeben.</translation></message>
     <message id="CliSettingUnknown"><translation>Es gibt keine Einstellung '%1'. Es gibt diese: %2.</translation></message>
     <message id="CliSettingValue"><translation>Zulässig für %1: %2; nicht '%3'.</translation></message>
-    <message id="CliTableKnown"><translation>--patient ID fügt die Messungen einer Tabelle zu einem Patienten der Liste hinzu.</translation></message>
+    <message id="CliTableKnown"><translation>--patient ID fügt die Messungen einer Tabelle einem Patienten der Liste hinzu.</translation></message>
     <message id="CliTryHelp"><translation>Versuchen Sie '%1'.</translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' wird hier nicht erwartet.</translation></message>
     <message id="CliUnknownCommand"><translation>Es gibt keinen Befehl '%1'.</translation></message>
