@@ -22,7 +22,7 @@
     <message id="fullName"><translation>%1 %2</translation></message>
     <message id="ImportAlreadyKnown"><translation>%1 : un patient ayant l’ID « %2 » figure déjà dans la liste. Un patient n’est jamais écrasé ; rien n’a donc été importé de ce fichier.</translation></message>
     <message id="ImportBadID"><translation>%1 : l’ID « %2 » du fichier contient une fin de ligne ou un autre caractère de contrôle ; il ne pourrait être ni enregistré ni envoyé à un tensiomètre. Rien n’a été importé de ce fichier.</translation></message>
-    <message id="ImportBadLines"><translation>%1 : des lignes du tableau ne peuvent pas être importées. Rien n’a été importé.</translation></message>
+    <message id="ImportBadLines"><translation>%1 : certaines lignes du tableau ne peuvent pas être importées. Rien n’a été importé.</translation></message>
     <message id="ImportMissingColumn"><translation>%1 : le tableau n’a pas de colonne « %2 », ou en a plusieurs. Rien n’a été importé.</translation></message>
     <message id="ImportNoFile"><translation>Ce n’est pas un fichier ordinaire.</translation></message>
     <message id="ImportNoID"><translation>%1 : un patient du fichier n’a pas d’ID. Rien n’a été importé.</translation></message>
@@ -35,7 +35,7 @@
     <message id="ImportOtherNames"><translation>%1 : le patient ayant l’ID « %2 » n’a pas le même nom dans la liste que dans le tableau ; les mesures sont peut-être celles d’une autre personne. Rien n’a été importé de ce fichier. Pour les importer malgré tout, videz les cellules des noms.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1 : deux patients du fichier ont le même ID, « %2 ». Rien n’a été importé.</translation></message>
     <message id="ImportTooLarge"><translation>%1 : le fichier dépasse 512 Mio. Rien n’a été importé.</translation></message>
-    <message id="ImportTooManyLines"><translation>%1 : le tableau a plus de 200 000 lignes. Rien n’a été importé.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1 : le tableau a plus de 200 000 lignes. Rien n’a été importé.</translation></message>
     <message id="LanguageMissing"><translation>--language attend une langue, parmi %1</translation></message>
     <message id="languageTag"><translation>fr</translation></message>
     <message id="LanguageTwice"><translation>--language ne peut être indiquée qu’une fois</translation></message>
@@ -113,14 +113,14 @@
     <message id="StoreTooLarge"><translation>Le fichier de données %1 dépasse 512 Mio et n’est donc pas lu par ce programme. Il est laissé tel quel, et rien ne peut être enregistré : remplacez-le par une copie plus petite, ou déplacez-le pour en commencer un nouveau.</translation></message>
     <message id="StoreUnreadable"><translation>Le fichier de données %1 a été laissé tel quel : ce qui devait être enregistré n’a pas pu être relu.</translation></message>
     <message id="StoreWriteFailed"><translation>L’écriture du fichier de données %1 a échoué ; le fichier a été laissé tel quel. Veuillez vérifier que le disque n’est pas plein, puis réessayer.</translation></message>
-    <message id="TableCell"><translation>« %1 » ne peut pas figurer dans la colonne « %2 ».</translation></message>
-    <message id="TableCells"><translation>Elle a %1 cellules, et la ligne des titres %2.</translation></message>
+    <message id="TableCell"><translation>« %1 » n’est pas admis dans la colonne « %2 ».</translation></message>
+    <message id="TableCells"><translation>Elle a %1 cellules, et la ligne de titres en a %2.</translation></message>
     <message id="TableDateOrder"><translation>« %1 » n’est pas écrit comme 2026-11-21. Indiquez avec --dates l’ordre du jour, du mois et de l’année : dmy, mdy ou ymd.</translation></message>
     <message id="TableLine"><translation>Ligne %1 : %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… et %n autre ligne</numerusform><numerusform>… et %n autres lignes</numerusform></translation></message>
-    <message id="TableNoTime"><translation>« %1 » n’est pas une date avec une année à quatre chiffres et une heure.</translation></message>
+    <message id="TableNoTime"><translation>« %1 » n’est pas une date avec une année à quatre chiffres, suivie d’une heure.</translation></message>
     <message id="TableNotUtf8"><translation>Son texte n’est pas en UTF-8. Enregistrez-le au format « CSV UTF-8 » dans le programme dont il provient.</translation></message>
-    <message id="TableOtherNames"><translation>Le patient « %1 » a un autre nom dans une ligne précédente.</translation></message>
+    <message id="TableOtherNames"><translation>Le patient « %1 » porte un autre nom dans une ligne précédente.</translation></message>
     <message id="TableOtherPatient"><translation>La mesure est celle du patient « %1 », et non de « %2 ».</translation></message>
     <message id="TableQuotation"><translation>Un guillemet n’est pas fermé à la fin de sa cellule.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1, qui indique à partir de quelles valeurs marquer les mesures, est illisible. Tant que d’autres limites ne sont pas choisies, les valeurs sont marquées à partir de %2/%3 mmHg.</translation></message>
@@ -353,12 +353,12 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="deleteReadingsTitle"><translation>Supprimer la mesure</translation></message>
     <message id="DeleteTheComment"><translation>Supprimer ce commentaire ? Édition &gt; Annuler le rétablit tant que ZEL n’est pas fermé.</translation></message>
     <message id="demonstrationButton"><translation>Essayer avec un tensiomètre de démonstration</translation></message>
-    <message id="demonstrationIsOwnData"><translation>La démonstration conserve ses données dans le dossier %1, mais celui-ci mène à vos propres données. Rien n’a été lancé, afin qu’aucune mesure inventée ne se mêle aux vôtres.</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La démonstration conserve ses données dans le dossier %1, mais celui-ci mène à vos propres données. Rien n’a été lancé, afin qu’aucune mesure fictive ne se mêle aux vôtres.</translation></message>
     <message id="demonstrationNoFolder"><translation>La démonstration conserve ses données dans le dossier %1, qui ne peut pas être créé.</translation></message>
-    <message id="demonstrationNote"><translation>Ouvre une deuxième fenêtre avec un tensiomètre simulé et des mesures inventées, conservées à part de vos propres données.</translation></message>
+    <message id="demonstrationNote"><translation>Ouvre une deuxième fenêtre avec un tensiomètre simulé et des mesures fictives, conservées séparément de vos propres données.</translation></message>
     <message id="demonstrationNotStarted"><translation>La démonstration n’a pas pu être lancée.</translation></message>
     <message id="demonstrationStarted"><translation>La démonstration s’ouvre dans sa propre fenêtre.</translation></message>
-    <message id="demonstrationStrip"><translation>Démonstration : le tensiomètre est simulé ; ses mesures sont inventées et conservées à part de vos propres données.</translation></message>
+    <message id="demonstrationStrip"><translation>Démonstration : le tensiomètre est simulé ; ses mesures sont fictives et conservées séparément de vos propres données.</translation></message>
     <message id="demonstrationTitle"><translation>Démonstration – %1</translation></message>
     <message id="download"><translation>Transfert des mesures</translation></message>
     <message id="downloadAdvice"><translation>Veuillez laisser le tensiomètre branché. Ses mesures seront enregistrées quand toutes seront arrivées.</translation></message>
@@ -384,7 +384,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="downloadsTitle"><translation>Transferts</translation></message>
     <message id="downloadStopping"><translation>Arrêt en cours…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n seconde au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n secondes au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform></translation></message>
-    <message id="dropLeftOut"><translation>Seuls des fichiers XML présents sur cet ordinateur peuvent être importés. Absents de la liste : %1</translation></message>
+    <message id="dropLeftOut"><translation>Seuls des fichiers XML présents sur cet ordinateur peuvent être importés. Ne figurent pas dans la liste : %1</translation></message>
     <message id="DupNewPatient"><translation>Il y a déjà un nouveau patient qui n’est pas encore enregistré : le premier de la liste. Veuillez d’abord l’enregistrer ou le supprimer.</translation></message>
     <message id="EndDate"><translation>Le dernier jour doit suivre le premier, afin que la période couvre au moins deux jours. Les dates sont restées inchangées.</translation></message>
     <message id="endEarlier"><translation>Finir un jour plus tôt</translation></message>
@@ -433,12 +433,12 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fileAlreadyHere"><translation>déjà présent</translation></message>
     <message id="fileAlreadyHereHint"><translation>Un patient avec cet ID figure déjà dans la liste ; l’import serait refusé.</translation></message>
     <message id="fileBeingRead"><translation>lecture…</translation></message>
-    <message id="fileNotImportable"><translation>impossible à importer</translation></message>
+    <message id="fileNotImportable"><translation>non importable</translation></message>
     <message id="fileNotReadable"><translation>illisible</translation></message>
     <message id="fileTooLargeToCount"><translation>plus de 64 Mio : non compté</translation></message>
     <message id="firstStepDownload"><translation>Cliquez sur « Transférer ». Les mesures apparaissent dans le graphique et le tableau.</translation></message>
     <message id="firstStepMonitor"><translation>Branchez le tensiomètre avec son câble USB. S’il ne contient pas encore l’ID de ce patient, cliquez sur « Envoyer l’ID ».</translation></message>
-    <message id="firstStepPatient"><translation>Saisissez le patient dont le tensiomètre mesure la pression artérielle, avec un ID, et cliquez sur « Enregistrer ».</translation></message>
+    <message id="firstStepPatient"><translation>Ajoutez le patient dont le tensiomètre mesure la pression artérielle, attribuez-lui un ID et cliquez sur « Enregistrer ».</translation></message>
     <message id="firstSteps"><translation>Pas encore de patients : trois étapes jusqu’aux premières mesures</translation></message>
     <message id="heightRefusedCm"><translation>Veuillez indiquer un nombre compris entre 20 et 300 cm, par exemple 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Veuillez indiquer les pieds et les pouces séparés par une barre oblique, par exemple 5/9. Les pouces vont jusqu’à 11.</translation></message>
@@ -455,7 +455,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="importButton"><translation>&amp;Importer</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importer %n fichier</numerusform><numerusform>&amp;Importer %n fichiers</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>L’importation a ensuite été annulée ; %n fichier n’a pas été lu.</numerusform><numerusform>L’importation a ensuite été annulée ; %n fichiers n’ont pas été lus.</numerusform></translation></message>
-    <message id="importDropped"><translation>Fichiers déposés sur la fenêtre</translation></message>
+    <message id="importDropped"><translation>Fichiers déposés dans la fenêtre</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n fichier a été importé :</numerusform><numerusform>%n fichiers ont été importés :</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importer…</translation></message>
     <message id="importFolder"><translation>Choisir le dossier d’importation</translation></message>
@@ -483,7 +483,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="keysMovePeriod"><translation>Déplacer la période</translation></message>
     <message id="keysMoveScale"><translation>Déplacer l’échelle</translation></message>
     <message id="keysPlace"><translation>Où</translation></message>
-    <message id="keysTitle"><translation>Touches</translation></message>
+    <message id="keysTitle"><translation>Raccourcis clavier</translation></message>
     <message id="keysWhat"><translation>Effet</translation></message>
     <message id="keysWholePeriod"><translation>Une période entière en arrière, en avant</translation></message>
     <message id="keysWidenPeriod"><translation>Allonger, raccourcir la période</translation></message>
@@ -519,7 +519,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="menuFile"><translation>&amp;Fichier</translation></message>
     <message id="menuFindPatient"><translation>Rechercher un patient</translation></message>
     <message id="menuHelp"><translation>&amp;Aide</translation></message>
-    <message id="menuKeys"><translation>&amp;Touches</translation></message>
+    <message id="menuKeys"><translation>&amp;Raccourcis clavier</translation></message>
     <message id="menuManual"><translation>&amp;Manuel</translation></message>
     <message id="menuMoreDays"><translation>Plus de jours</translation></message>
     <message id="menuNewPatient"><translation>Nouveau patient</translation></message>
@@ -532,14 +532,14 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="menuSelectRows"><translation>Sélectionner toutes les lignes</translation></message>
     <message id="menuSendID"><translation>Envoyer l’ID au tensiomètre</translation></message>
     <message id="menuSettings"><translation>&amp;Réglages…</translation></message>
-    <message id="menuTimeChart"><translation>Graphique dans le temps</translation></message>
+    <message id="menuTimeChart"><translation>Évolution au cours du temps</translation></message>
     <message id="menuUndo"><translation>&amp;Annuler</translation></message>
     <message id="menuUndoStep"><translation>&amp;Annuler : %1</translation></message>
     <message id="menuView"><translation>Affichage</translation></message>
     <message id="minusDay"><translation>Moins de jours : un de moins au début et à la fin de la période</translation></message>
     <message id="minusDayHint"><translation>Moins de jours : un de moins au début et à la fin de la période (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm jj aaaa</translation></message>
-    <message id="monitorChangedMeanwhile"><translation>Le tensiomètre a été débranché ou changé entre-temps ; rien n’a été transféré.</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Le tensiomètre a été débranché ou remplacé entre-temps ; rien n’a été transféré.</translation></message>
     <message id="monitorClock"><translation>Horloge</translation></message>
     <message id="monitorConnected"><translation>Tensiomètre branché</translation></message>
     <message id="monitorConnectedID"><translation>Le tensiomètre contient l’ID %1. Cliquez sur « Transférer » pour récupérer les mesures de ce patient.</translation></message>
@@ -689,7 +689,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="readingTotal"><translation>Mesures de ce patient</translation></message>
     <message id="redoFailed"><translation>L’action « %1 » n’a pas été rétablie. %2</translation></message>
     <message id="redone"><translation>Rétabli : %1</translation></message>
-    <message id="requiredNote"><translation>* à remplir obligatoirement</translation></message>
+    <message id="requiredNote"><translation>* champ obligatoire</translation></message>
     <message id="riskFactors"><translation>Facteurs de risque</translation></message>
     <message id="sameID"><translation>L’ID %1 appartient à un autre patient de la liste. Rien n’a encore été enregistré ; veuillez choisir un autre ID.</translation></message>
     <message id="sameIDTitle"><translation>ID déjà attribué</translation></message>
@@ -863,8 +863,8 @@ AHA : 12 mesures sur au moins 3 jours</translation></message>
     <message id="weekTo"><translation>au</translation></message>
     <message id="weightRefusedKg"><translation>Veuillez indiquer un nombre compris entre 0,2 et 1000 kg, par exemple 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Veuillez indiquer un nombre compris entre 0,5 et 2200 lb, par exemple 160,5.</translation></message>
-    <message id="windowNotForgotten"><translation>Le fichier %1 garde l’état de la fenêtre. Il n’a pas pu être supprimé.</translation></message>
-    <message id="windowNotReset"><translation>ZEL est déjà ouvert pour ce fichier de données ; sa fenêtre a été mise au premier plan. Fermez-la, puis relancez avec --reset-view.</translation></message>
+    <message id="windowNotForgotten"><translation>Le fichier %1 conserve l’état de la fenêtre. Il n’a pas pu être supprimé.</translation></message>
+    <message id="windowNotReset"><translation>ZEL est déjà ouvert pour ce fichier de données ; sa fenêtre a été mise au premier plan. Fermez-la, puis relancez ZEL avec --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL est déjà ouvert pour ce fichier de données ; sa fenêtre a été mise au premier plan.</translation></message>
     <message id="windowSilent"><translation>ZEL est déjà ouvert pour ce fichier de données, mais sa fenêtre ne répond pas. Elle attend peut-être un disque lent ou une imprimante lente, ou elle est bloquée : si rien ne se passe d’ici une minute, forcez l’arrêt de ZEL dans le moniteur système de votre ordinateur.
 
@@ -1085,10 +1085,10 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliChangeOfNothing"><translation>--change demande au moins l’une des options --date, --time, --sys, --dia et --pulse.</translation></message>
     <message id="CliClockUnread"><translation>L’horloge du tensiomètre n’a pas pu être lue. %1</translation></message>
     <message id="CliClockUnset"><translation>L’horloge du tensiomètre n’a pas pu être réglée. %1</translation></message>
-    <message id="CliColumnsForm"><translation>--columns prend les titres des colonnes, par exemple date=Date,time=Heure,sys=Systole,dia=Diastole,pulse=Pouls ; seul time peut manquer.</translation></message>
-    <message id="CliColumnsHelp"><translation>Pour le tableau d’un autre programme, --columns indique ce que sont ses colonnes.</translation></message>
+    <message id="CliColumnsForm"><translation>--columns attend les titres des colonnes, par exemple date=Date,time=Heure,sys=Systole,dia=Diastole,pulse=Pouls ; seul time peut manquer.</translation></message>
+    <message id="CliColumnsHelp"><translation>Pour le tableau d’un autre programme, --columns indique ce que contiennent ses colonnes.</translation></message>
     <message id="CliCountUnread"><translation>Le nombre de mesures dans le tensiomètre n’a pas pu être lu. %1</translation></message>
-    <message id="CliDatesForm"><translation>--dates prend dmy, mdy ou ymd, et non '%1'.</translation></message>
+    <message id="CliDatesForm"><translation>--dates accepte dmy, mdy ou ymd, et non '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>Les mesures n’ont pas pu être transférées, et rien n’a été enregistré. %1 Elles sont toujours dans le tensiomètre : veuillez réessayer.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Les mesures sont enregistrées, mais le fichier de données n’a pas pu être relu ensuite ; le tensiomètre n’a donc pas été vidé. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Les mesures transférées n’ont pas pu être enregistrées. %1 Elles sont toujours dans le tensiomètre.</translation></message>
@@ -1121,7 +1121,7 @@ Sans commande, une fenêtre s’ouvre. Les commandes font le même travail sans 
   export-xml   exporter tous les patients, ou un seul, en fichiers XML
   export-csv   exporter un patient et ses mesures en fichier CSV
   export-fhir  exporter tous les patients, ou un seul, en fichiers FHIR pour d’autres dossiers médicaux
-  export-table exporter des mesures en tableau pour tableurs
+  export-table exporter des mesures sous forme de tableau, pour un tableur
   import       ajouter des patients à partir de fichiers XML exportés, ou des mesures de tableaux
   settings     afficher les réglages, ou en modifier
   backup       lister les copies du fichier de données, en créer une, ou revenir à l’une d’elles
@@ -1230,11 +1230,12 @@ Options :
     <message id="CliHelpExportTable"><translation>Usage : zel export-table DIR [--patient ID] [--force]
         zel export-table FILE.csv [--patient ID] [--force]
 
-Écrit les mesures en tableau pour tableurs : dans le dossier DIR, un fichier 'ID.table.csv' par patient, ou,
-dans FILE.csv, un seul tableau de tous les patients. Affiche 'written: FILE' pour chacun. Le tableau est en
-UTF-8, avec une ligne de titres et une ligne par mesure, dans l’ordre du temps, avec le patient, les valeurs,
-les anomalies détectées, l’origine de la mesure, si elle est exclue et pourquoi, et le commentaire de son jour.
-Les textes qu’un tableur calculerait commencent par une apostrophe. 'zel import' permet de réimporter le tableau.
+Écrit les mesures sous forme de tableau, pour un tableur : dans le dossier DIR, un fichier 'ID.table.csv' par
+patient, ou, dans FILE.csv, un seul tableau de tous les patients. Affiche 'written: FILE' pour chacun. Le
+tableau est en UTF-8, avec une ligne de titres et une ligne par mesure, dans l’ordre chronologique, avec le
+patient, les valeurs, les anomalies détectées, l’origine de la mesure, si elle est exclue et pourquoi, et le
+commentaire du jour. Les textes qu’un tableur prendrait pour des formules commencent par une apostrophe.
+'zel import' réimporte le tableau.
 
 Options :
   --patient ID                 seulement ce patient
@@ -1261,13 +1262,13 @@ Ajoute les patients de fichiers XML exportés, avec leurs mesures et leurs comme
 patients figure déjà dans la liste. Les fichiers non importés sont signalés sur l’erreur standard, avec le
 motif, et pour un tableau chaque ligne fautive, avec son numéro. Affiche combien de fichiers ont été importés et
 refusés, et combien de patients, de mesures et de commentaires ils ont apportés, une ligne 'key: value' pour
-chacun ; pour un tableau, aussi combien de mesures étaient déjà connues : elles ne sont pas doublées.
+chacun ; pour un tableau, aussi combien de mesures étaient déjà connues : elles ne sont pas ajoutées en double.
 
 Avec --patient, les mesures d’un tableau sont ajoutées à un patient de la liste. Avec --columns, c’est le
 tableau d’un autre programme, par exemple --columns "date=Date,time=Heure,sys=Systole,dia=Diastole,pulse=Pouls",
-avec les titres de sa première ligne ; time est omis si l’heure suit la date. Ces mesures valent comme saisies à
-la main. Les colonnes sont séparées par des virgules, des points-virgules ou des tabulations. Les dates sont
-comme 2026-11-21, sauf si --dates indique l’ordre du jour, du mois et de l’année.
+avec les titres de sa première ligne ; time est omis si l’heure suit la date. Ces mesures sont considérées comme
+saisies à la main. Les colonnes sont séparées par des virgules, des points-virgules ou des tabulations. Les dates
+sont de la forme 2026-11-21, sauf si --dates indique l’ordre du jour, du mois et de l’année.
 
 Options :
   --patient ID                 à qui ajouter les mesures d’un tableau
@@ -1448,7 +1449,7 @@ Options :
     <message id="CliNoSuchReading"><translation>le patient n’a pas de mesure portant le numéro %1 (zel readings --numbers affiche les numéros)</translation></message>
     <message id="CliNoSuchRule"><translation>La règle '%1' n’existe pas. Les règles sont %2.</translation></message>
     <message id="CliNoSuchSection"><translation>La section '%1' n’existe pas. Les sections sont all, ou celles de votre choix parmi %2, séparées par des virgules.</translation></message>
-    <message id="CliNoTable"><translation>%1 : --patient vaut pour les tableaux de mesures ; ce fichier n’en est pas un, ou il est illisible. Rien n’a été importé.</translation></message>
+    <message id="CliNoTable"><translation>%1 : --patient est réservé aux tableaux de mesures ; ce fichier n’en est pas un, ou il est illisible. Rien n’a été importé.</translation></message>
     <message id="CliNotExcluded"><translation>la mesure %1 n’est pas exclue</translation></message>
     <message id="CliNotTogether"><translation>--%1 et --%2 ne peuvent pas être utilisées ensemble</translation></message>
     <message id="CliOneJob"><translation>Une seule des options --set-clock, --send-id et --erase est possible à la fois.</translation></message>
