@@ -35,7 +35,7 @@
     <message id="ImportOtherNames"><translation>%1: il paziente con l’ID “%2” ha nell’elenco un nome diverso da quello nella tabella; le misurazioni potrebbero essere di un’altra persona. Dal file non è stato importato nulla. Per importarle comunque, svuotare le celle dei nomi.</translation></message>
     <message id="ImportSameIDTwice"><translation>%1: due pazienti nel file hanno lo stesso ID, “%2”. Dal file non è stato importato nulla.</translation></message>
     <message id="ImportTooLarge"><translation>%1: il file supera i 512 MiB. Non è stato importato nulla.</translation></message>
-    <message id="ImportTooManyLines"><translation>%1: la tabella ha più di 200 000 righe. Non è stato importato nulla.</translation></message>
+    <message id="ImportTooManyLines"><translation>%1: la tabella ha più di 200.000 righe. Non è stato importato nulla.</translation></message>
     <message id="LanguageMissing"><translation>--language richiede una lingua, tra %1</translation></message>
     <message id="languageTag"><translation>it</translation></message>
     <message id="LanguageTwice"><translation>--language si può indicare una sola volta</translation></message>
@@ -113,16 +113,16 @@
     <message id="StoreTooLarge"><translation>Il file dei dati %1 supera i 512 MiB, e questo programma non lo legge. Resta com’è, e non si può salvare nulla: sostituirlo con una copia più piccola o spostarlo altrove per iniziare con uno nuovo.</translation></message>
     <message id="StoreUnreadable"><translation>Il file dei dati %1 è rimasto com’era: ciò che si doveva salvare non sarebbe poi stato leggibile.</translation></message>
     <message id="StoreWriteFailed"><translation>La scrittura del file dei dati %1 non è riuscita, e il file è rimasto com’era. Controllare che il disco non sia pieno e riprovare.</translation></message>
-    <message id="TableCell"><translation>“%1” non può stare nella colonna “%2”.</translation></message>
-    <message id="TableCells"><translation>Ha %1 celle, e la riga dei titoli %2.</translation></message>
+    <message id="TableCell"><translation>“%1” non è ammesso nella colonna “%2”.</translation></message>
+    <message id="TableCells"><translation>Ha %1 celle, mentre la riga dei titoli ne ha %2.</translation></message>
     <message id="TableDateOrder"><translation>“%1” non è scritto come 2026-11-21. Indicare con --dates l’ordine di giorno, mese e anno: dmy, mdy o ymd.</translation></message>
     <message id="TableLine"><translation>Riga %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… e %n altra riga</numerusform><numerusform>… e altre %n righe</numerusform></translation></message>
-    <message id="TableNoTime"><translation>“%1” non è una data con un anno di quattro cifre e un’ora.</translation></message>
+    <message id="TableNoTime"><translation>“%1” non è una data con anno a quattro cifre seguita dall’ora.</translation></message>
     <message id="TableNotUtf8"><translation>Il suo testo non è UTF-8. Salvarlo come “CSV UTF-8” nel programma da cui proviene.</translation></message>
-    <message id="TableOtherNames"><translation>Il paziente “%1” ha un altro nome in una riga precedente.</translation></message>
+    <message id="TableOtherNames"><translation>Il paziente “%1” ha un nome diverso in una riga precedente.</translation></message>
     <message id="TableOtherPatient"><translation>La misurazione è del paziente “%1”, non di “%2”.</translation></message>
-    <message id="TableQuotation"><translation>Le virgolette non sono chiuse alla fine della cella.</translation></message>
+    <message id="TableQuotation"><translation>Alla fine della cella mancano le virgolette di chiusura.</translation></message>
     <message id="ViewLimitsUnread"><translation>Impossibile leggere %1, che indica a partire da quali limiti i valori vengono evidenziati. Finché non si scelgono nuovi limiti, i valori vengono evidenziati da %2/%3 mmHg in su.</translation></message>
     <message id="Warning"><translation>Avviso</translation></message>
     <message id="XmlAttributeTwice"><translation>Un elemento ha due volte lo stesso attributo.</translation></message>
@@ -352,13 +352,13 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="deleteReadingsQuestion"><translation>Eliminare i dati inseriti a mano (%1)?</translation></message>
     <message id="deleteReadingsTitle"><translation>Elimina misurazione</translation></message>
     <message id="DeleteTheComment"><translation>Eliminare questo commento? Con Modifica &gt; Annulla si recupera, finché ZEL resta aperto.</translation></message>
-    <message id="demonstrationButton"><translation>Provare con un misuratore dimostrativo</translation></message>
-    <message id="demonstrationIsOwnData"><translation>La dimostrazione conserva i propri dati nella cartella %1, che però porta ai dati reali. Non è stato avviato nulla, perché nessuna misurazione inventata finisca tra quelle reali.</translation></message>
+    <message id="demonstrationButton"><translation>Prova con un misuratore simulato</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La dimostrazione conserva i propri dati nella cartella %1, che però porta ai dati reali. Non è stato avviato nulla, affinché nessuna misurazione fittizia finisca tra quelle reali.</translation></message>
     <message id="demonstrationNoFolder"><translation>La dimostrazione conserva i propri dati nella cartella %1, che non può essere creata.</translation></message>
-    <message id="demonstrationNote"><translation>Apre una seconda finestra con un misuratore simulato e misurazioni inventate, conservate separatamente dai propri dati.</translation></message>
+    <message id="demonstrationNote"><translation>Apre una seconda finestra con un misuratore simulato e misurazioni fittizie, conservate separatamente dai dati reali.</translation></message>
     <message id="demonstrationNotStarted"><translation>Impossibile avviare la dimostrazione.</translation></message>
-    <message id="demonstrationStarted"><translation>La dimostrazione si apre in una finestra propria.</translation></message>
-    <message id="demonstrationStrip"><translation>Dimostrazione: il misuratore è simulato; le sue misurazioni sono inventate e conservate separatamente dai propri dati.</translation></message>
+    <message id="demonstrationStarted"><translation>La dimostrazione si apre in una finestra a parte.</translation></message>
+    <message id="demonstrationStrip"><translation>Dimostrazione: il misuratore è simulato; le sue misurazioni sono fittizie e conservate separatamente dai dati reali.</translation></message>
     <message id="demonstrationTitle"><translation>Dimostrazione – %1</translation></message>
     <message id="download"><translation>Scarica misurazioni</translation></message>
     <message id="downloadAdvice"><translation>Lasciare collegato il misuratore. Le misurazioni vengono registrate quando sono arrivate tutte.</translation></message>
@@ -379,9 +379,9 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="downloadProgress"><translation>Avanzamento dello scarico dei dati</translation></message>
     <message id="downloadsNew"><translation>Nuove misurazioni</translation></message>
     <message id="downloadsNone"><translation>%1: non è ancora stato scaricato nulla dal misuratore.</translation></message>
-    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n scarico. Nuove misurazioni: %2.</numerusform><numerusform>%1: %n scarichi. Nuove misurazioni: %2.</numerusform></translation></message>
+    <message id="downloadsSummary" numerus="yes"><translation><numerusform>%1: %n scarico dei dati. Nuove misurazioni: %2.</numerusform><numerusform>%1: %n scarichi dei dati. Nuove misurazioni: %2.</numerusform></translation></message>
     <message id="downloadStarting"><translation>Richiesta al misuratore…</translation></message>
-    <message id="downloadsTitle"><translation>Scarichi</translation></message>
+    <message id="downloadsTitle"><translation>Scarichi dei dati</translation></message>
     <message id="downloadStopping"><translation>Interruzione…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondo. Lo scarico si può annullare: non va perso nulla.</numerusform><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondi. Lo scarico si può annullare: non va perso nulla.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Si possono importare solo file XML su questo computer. Non in elenco: %1</translation></message>
@@ -408,7 +408,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="exportKept" numerus="yes"><translation><numerusform>%n file già presente è stato lasciato com’era.</numerusform><numerusform>%n file già presenti sono stati lasciati com’erano.</numerusform></translation></message>
     <message id="ExportMsg" numerus="yes"><translation><numerusform>%n file è stato scritto nella cartella %1.</numerusform><numerusform>%n file sono stati scritti nella cartella %1.</numerusform></translation></message>
     <message id="exportNobody"><translation>Non c’è ancora nessun paziente da esportare. Prima aggiungerne o importarne uno.</translation></message>
-    <message id="exportNoPatient"><translation>Non è stato scelto nessun paziente. Prima scegliere il paziente da esportare.</translation></message>
+    <message id="exportNoPatient"><translation>Nessun paziente scelto. Scegliere prima il paziente da esportare.</translation></message>
     <message id="exportReplace" numerus="yes"><translation><numerusform>La cartella %1 contiene già il file %2. Sostituirlo? Con “No” resta com’è.</numerusform><numerusform>La cartella %1 contiene già %n dei file (%2). Sostituirli? Con “No” restano come sono, e vengono scritti solo gli altri.</numerusform></translation></message>
     <message id="exportReplaceTitle"><translation>Sostituire i file?</translation></message>
     <message id="ExportTitle"><translation>Esportazione</translation></message>
@@ -438,8 +438,8 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fileTooLargeToCount"><translation>oltre 64 MiB: non contato</translation></message>
     <message id="firstStepDownload"><translation>Premere Scarica. Le misurazioni compaiono nel grafico e nella tabella.</translation></message>
     <message id="firstStepMonitor"><translation>Collegare il misuratore con il suo cavo USB. Se non contiene ancora l’ID di questo paziente, premere “Invia ID”.</translation></message>
-    <message id="firstStepPatient"><translation>Inserire con un ID il paziente di cui il misuratore rileva la pressione e premere Salva.</translation></message>
-    <message id="firstSteps"><translation>Ancora nessun paziente: tre passi per le prime misurazioni</translation></message>
+    <message id="firstStepPatient"><translation>Aggiungere il paziente di cui il misuratore rileva la pressione, assegnargli un ID e premere Salva.</translation></message>
+    <message id="firstSteps"><translation>Ancora nessun paziente: tre passaggi fino alle prime misurazioni</translation></message>
     <message id="heightRefusedCm"><translation>Indicare un numero da 20 a 300 cm, per esempio 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Indicare piedi e pollici separati da una barra, per esempio 5/9. I pollici arrivano a 11.</translation></message>
     <message id="highFrom"><translation>Limiti da cui i valori vengono evidenziati</translation></message>
@@ -455,7 +455,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="importButton"><translation>&amp;Importa</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importa %n file</numerusform><numerusform>&amp;Importa %n file</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>L’importazione è stata poi annullata; %n file non è stato letto.</numerusform><numerusform>L’importazione è stata poi annullata; %n file non sono stati letti.</numerusform></translation></message>
-    <message id="importDropped"><translation>File trascinati sulla finestra</translation></message>
+    <message id="importDropped"><translation>File trascinati nella finestra</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>%n file è stato importato:</numerusform><numerusform>%n file sono stati importati:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importa…</translation></message>
     <message id="importFolder"><translation>Scegli la cartella da cui importare</translation></message>
@@ -483,7 +483,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="keysMovePeriod"><translation>Sposta il periodo</translation></message>
     <message id="keysMoveScale"><translation>Sposta la scala</translation></message>
     <message id="keysPlace"><translation>Dove</translation></message>
-    <message id="keysTitle"><translation>Tasti</translation></message>
+    <message id="keysTitle"><translation>Scorciatoie da tastiera</translation></message>
     <message id="keysWhat"><translation>Che cosa fa</translation></message>
     <message id="keysWholePeriod"><translation>Un periodo intero indietro, avanti</translation></message>
     <message id="keysWidenPeriod"><translation>Allarga, restringi il periodo</translation></message>
@@ -511,15 +511,15 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="menuCopyRows"><translation>Copia righe</translation></message>
     <message id="menuDeleteComment"><translation>Elimina commento</translation></message>
     <message id="menuDeletePatient"><translation>Elimina paziente</translation></message>
-    <message id="menuDownload"><translation>Scarica le misurazioni</translation></message>
-    <message id="menuDownloads"><translation>Scarichi…</translation></message>
+    <message id="menuDownload"><translation>Scarica misurazioni</translation></message>
+    <message id="menuDownloads"><translation>Scarichi dei dati…</translation></message>
     <message id="menuEdit"><translation>&amp;Modifica</translation></message>
     <message id="menuExportFhir"><translation>Esporta il paziente in F&amp;HIR…</translation></message>
     <message id="menuFewerDays"><translation>Meno giorni</translation></message>
     <message id="menuFile"><translation>&amp;File</translation></message>
     <message id="menuFindPatient"><translation>Cerca paziente</translation></message>
     <message id="menuHelp"><translation>&amp;Aiuto</translation></message>
-    <message id="menuKeys"><translation>&amp;Tasti</translation></message>
+    <message id="menuKeys"><translation>&amp;Scorciatoie da tastiera</translation></message>
     <message id="menuManual"><translation>&amp;Manuale</translation></message>
     <message id="menuMoreDays"><translation>Più giorni</translation></message>
     <message id="menuNewPatient"><translation>Nuovo paziente</translation></message>
@@ -689,7 +689,7 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="readingTotal"><translation>Misurazioni del paziente</translation></message>
     <message id="redoFailed"><translation>Non è stato possibile ripetere “%1”. %2</translation></message>
     <message id="redone"><translation>Ripetuto: %1</translation></message>
-    <message id="requiredNote"><translation>* da compilare obbligatoriamente</translation></message>
+    <message id="requiredNote"><translation>* campo obbligatorio</translation></message>
     <message id="riskFactors"><translation>Fattori di rischio</translation></message>
     <message id="sameID"><translation>L’ID %1 appartiene a un altro paziente dell’elenco. Non è stato ancora salvato nulla; scegliere un altro ID.</translation></message>
     <message id="sameIDTitle"><translation>ID già in uso</translation></message>
@@ -864,7 +864,7 @@ AHA: 12 misurazioni in almeno 3 giorni</translation></message>
     <message id="weightRefusedKg"><translation>Indicare un numero da 0,2 a 1000 kg, per esempio 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indicare un numero da 0,5 a 2200 lb, per esempio 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>Il file %1 conserva lo stato della finestra. Non è stato possibile rimuoverlo.</translation></message>
-    <message id="windowNotReset"><translation>ZEL è già aperto per questo file dei dati; la sua finestra è stata portata in primo piano. Chiuderla e riavviare con --reset-view.</translation></message>
+    <message id="windowNotReset"><translation>ZEL è già aperto per questo file dei dati; la sua finestra è stata portata in primo piano. Chiuderla e riavviare ZEL con --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL è già aperto per questo file dei dati; la sua finestra è stata portata in primo piano.</translation></message>
     <message id="windowSilent"><translation>ZEL è già aperto per questo file dei dati, ma la sua finestra non risponde. Può essere occupato con un disco o una stampante lenti, oppure bloccato: se entro un minuto non riprende, terminarlo dal monitor di sistema del computer.
 
@@ -1085,8 +1085,8 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliChangeOfNothing"><translation>--change richiede almeno una delle opzioni --date, --time, --sys, --dia e --pulse.</translation></message>
     <message id="CliClockUnread"><translation>Impossibile leggere l'orologio del misuratore. %1</translation></message>
     <message id="CliClockUnset"><translation>Impossibile regolare l'orologio del misuratore. %1</translation></message>
-    <message id="CliColumnsForm"><translation>--columns vuole i titoli delle colonne, per esempio date=Data,time=Ora,sys=Sistolica,dia=Diastolica,pulse=Polso; solo time può mancare.</translation></message>
-    <message id="CliColumnsHelp"><translation>Per la tabella di un altro programma, --columns indica che cosa sono le sue colonne.</translation></message>
+    <message id="CliColumnsForm"><translation>--columns richiede i titoli delle colonne, per esempio date=Data,time=Ora,sys=Sistolica,dia=Diastolica,pulse=Polso; solo time può mancare.</translation></message>
+    <message id="CliColumnsHelp"><translation>Per la tabella di un altro programma, --columns indica che cosa contengono le sue colonne.</translation></message>
     <message id="CliCountUnread"><translation>Impossibile leggere il numero di misurazioni nel misuratore. %1</translation></message>
     <message id="CliDatesForm"><translation>--dates accetta dmy, mdy o ymd, non '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>Impossibile scaricare le misurazioni; non è stato registrato nulla. %1 Le misurazioni sono ancora nel misuratore: riprovare.</translation></message>
@@ -1131,7 +1131,7 @@ Opzioni:
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato, invece di uno USB
   --demonstration              una finestra con un misuratore simulato e dati propri
   --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
-  --reset-view                 dimentica lo stato della finestra: posizione, pagina, paziente, colonne
+  --reset-view                 dimentica lo stato della finestra: posizione, pagina, paziente, colonne, cartella
   -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
   --version                    mostra la versione
 
@@ -1217,7 +1217,7 @@ Opzioni:
 
 Scrive ogni paziente, con le misurazioni e la media dell'ultima settimana di misura, in un proprio bundle HL7
 FHIR R4 nella cartella CARTELLA, per i programmi che gestiscono cartelle cliniche, e stampa per ciascuno una
-riga 'written: FILE'. I file prendono il nome dall'ID del paziente. Il file contiene tutte le misurazioni; una
+riga 'written: FILE'. I file prendono il nome dagli ID dei pazienti. Contengono tutte le misurazioni; una
 misurazione esclusa ha lo stato 'entered-in-error' e il suo motivo. Commenti e indirizzi non ci sono. Un file
 che non si può scrivere è indicato sullo standard error, e gli altri vengono scritti comunque.
 
@@ -1232,9 +1232,10 @@ Opzioni:
 
 Scrive le misurazioni come tabella per fogli di calcolo: nella cartella CARTELLA un file 'ID.table.csv' per
 paziente, oppure in FILE.csv una sola tabella di tutti i pazienti. Stampa 'written: FILE' per ciascuna. La
-tabella è in UTF-8, con una riga di titoli e una riga per misurazione, in ordine di tempo, con il paziente, i
-valori, le anomalie rilevate, l'origine della misurazione, se e perché è esclusa e il commento del suo giorno.
-I testi che un foglio di calcolo calcolerebbe iniziano con un apostrofo. 'zel import' importa di nuovo la tabella.
+tabella è in UTF-8, con una riga di titoli e una riga per misurazione, in ordine cronologico, con il paziente, i
+valori, le anomalie rilevate, l'origine della misurazione, se e perché è esclusa e il commento del giorno.
+I testi che un foglio di calcolo prenderebbe per formule iniziano con un apostrofo. 'zel import' importa di nuovo
+la tabella.
 
 Opzioni:
   --patient ID                 solo questo paziente
@@ -1265,8 +1266,8 @@ note: non vengono duplicate.
 Con --patient le misurazioni di una tabella vengono aggiunte a un paziente dell'elenco. Con --columns si tratta
 della tabella di un altro programma, per esempio
 --columns "date=Data,time=Ora,sys=Sistolica,dia=Diastolica,pulse=Polso", con i titoli della sua prima riga; time
-si omette se l'ora segue la data. Queste misurazioni valgono come inserite a mano. Le colonne sono separate da
-virgole, punti e virgola o tabulazioni. Le date sono come 2026-11-21, a meno che --dates indichi l'ordine di
+si omette se l'ora segue la data. Queste misurazioni contano come inserite a mano. Le colonne sono separate da
+virgole, punti e virgola o tabulazioni. Le date hanno la forma 2026-11-21, a meno che --dates indichi l'ordine di
 giorno, mese e anno.
 
 Opzioni:
@@ -1453,7 +1454,7 @@ Opzioni:
     <message id="CliNoSuchReading"><translation>il paziente non ha alcuna misurazione con il numero %1 (zel readings --numbers mostra i numeri)</translation></message>
     <message id="CliNoSuchRule"><translation>La regola '%1' non esiste. Le regole sono %2.</translation></message>
     <message id="CliNoSuchSection"><translation>La sezione '%1' non esiste. Le sezioni sono all, oppure una o più tra %2, separate da virgole.</translation></message>
-    <message id="CliNoTable"><translation>%1: --patient vale per le tabelle di misurazioni; questo file non lo è o non è leggibile. Non è stato importato nulla.</translation></message>
+    <message id="CliNoTable"><translation>%1: --patient vale solo per le tabelle di misurazioni; questo file non è una tabella o non è leggibile. Non è stato importato nulla.</translation></message>
     <message id="CliNotExcluded"><translation>la misurazione %1 non è esclusa</translation></message>
     <message id="CliNotTogether"><translation>--%1 e --%2 non si possono usare insieme</translation></message>
     <message id="CliOneJob"><translation>Si può usare solo una per volta delle opzioni --set-clock, --send-id e --erase.</translation></message>
