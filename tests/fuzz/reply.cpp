@@ -113,10 +113,12 @@ void requireWhole(const std::string& delivered, std::size_t count) {
         require(16 * std::size_t(digit(all[2])) + std::size_t(digit(all[3])) == count,
                 "as many readings as the header says");
     if (count == 0) return;
-    require(all.size() == recordsHeaderLength + count * recordLength + checkFieldLength,
-            "nothing is left over");
-    const std::string_view text = all.substr(0, all.size() - checkFieldLength);
-    require(all.substr(text.size()) == checkFieldOf(text), "the check field vouches for the readings");
+    const std::size_t whole = recordsHeaderLength + count * recordLength + checkFieldLength;
+    require(all.size() >= whole && all.size() < whole + reportCapacity,
+            "only the last report has bytes left over");
+    const std::string_view text = all.substr(0, whole - checkFieldLength);
+    require(all.substr(text.size(), checkFieldLength) == checkFieldOf(text),
+            "the check field vouches for the readings");
 }
 
 void ask(BPMModel& model, AnsweringPort& port) {
