@@ -114,7 +114,7 @@
     <message id="StoreUnreadable"><translation>El archivo de datos %1 se ha dejado como estaba: lo que se iba a guardar no se podía volver a leer después.</translation></message>
     <message id="StoreWriteFailed"><translation>Ha fallado la escritura del archivo de datos %1, y el archivo se ha dejado como estaba. Compruebe que el disco no está lleno y vuelva a intentarlo.</translation></message>
     <message id="TableCell"><translation>«%1» no puede figurar en la columna «%2».</translation></message>
-    <message id="TableCells"><translation>Tiene %1 celdas, y la línea de los títulos %2.</translation></message>
+    <message id="TableCells"><translation>Tiene %1 celdas, y la línea de títulos, %2.</translation></message>
     <message id="TableDateOrder"><translation>«%1» no está escrito como 2026-11-21. Indique con --dates el orden de día, mes y año: dmy, mdy o ymd.</translation></message>
     <message id="TableLine"><translation>Línea %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… y %n línea más</numerusform><numerusform>… y %n líneas más</numerusform></translation></message>
@@ -353,7 +353,7 @@ mmHg</translation></message>
     <message id="deleteReadingsTitle"><translation>Eliminar medición</translation></message>
     <message id="DeleteTheComment"><translation>¿Eliminar este comentario? Edición &gt; Deshacer permite recuperarlo mientras no se cierre ZEL.</translation></message>
     <message id="demonstrationButton"><translation>Probar con un tensiómetro de demostración</translation></message>
-    <message id="demonstrationIsOwnData"><translation>La demostración guarda sus datos en la carpeta %1, pero esta lleva a sus propios datos. No se ha iniciado nada, para que ninguna medición inventada acabe entre las suyas.</translation></message>
+    <message id="demonstrationIsOwnData"><translation>La demostración guarda sus datos en la carpeta %1, pero esa carpeta remite a los datos reales de usted. No se ha iniciado nada, para que no se mezclen mediciones inventadas con las suyas.</translation></message>
     <message id="demonstrationNoFolder"><translation>La demostración guarda sus datos en la carpeta %1, que no se puede crear.</translation></message>
     <message id="demonstrationNote"><translation>Abre una segunda ventana con un tensiómetro simulado y mediciones inventadas, que se guardan aparte de sus propios datos.</translation></message>
     <message id="demonstrationNotStarted"><translation>No se ha podido iniciar la demostración.</translation></message>
@@ -430,7 +430,7 @@ mmHg</translation></message>
     <message id="fieldSmoker"><translation>Fumador/a</translation></message>
     <message id="fieldWeightKg"><translation>Peso (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Peso (lb)</translation></message>
-    <message id="fileAlreadyHere"><translation>ya está aquí</translation></message>
+    <message id="fileAlreadyHere"><translation>ya existe</translation></message>
     <message id="fileAlreadyHereHint"><translation>Ya hay en la lista un paciente con este ID; la importación se rechazaría.</translation></message>
     <message id="fileBeingRead"><translation>leyendo…</translation></message>
     <message id="fileNotImportable"><translation>no se puede importar</translation></message>
@@ -438,7 +438,7 @@ mmHg</translation></message>
     <message id="fileTooLargeToCount"><translation>más de 64 MiB: sin contar</translation></message>
     <message id="firstStepDownload"><translation>Pulse «Descargar». Las mediciones aparecen en el gráfico y en la tabla.</translation></message>
     <message id="firstStepMonitor"><translation>Conecte el tensiómetro con su cable USB. Si aún no tiene el ID de este paciente, pulse «Enviar ID».</translation></message>
-    <message id="firstStepPatient"><translation>Introduzca, con un ID, al paciente cuya presión arterial mide el tensiómetro y pulse «Guardar».</translation></message>
+    <message id="firstStepPatient"><translation>Introduzca los datos y el ID del paciente cuya presión arterial mide el tensiómetro y pulse «Guardar».</translation></message>
     <message id="firstSteps"><translation>Aún no hay pacientes: tres pasos hasta las primeras mediciones</translation></message>
     <message id="heightRefusedCm"><translation>Indique un número de 20 a 300 cm, por ejemplo 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Indique pies y pulgadas separados por una barra, por ejemplo 5/9. Las pulgadas llegan hasta 11.</translation></message>
@@ -455,7 +455,7 @@ mmHg</translation></message>
     <message id="importButton"><translation>&amp;Importar</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>&amp;Importar %n archivo</numerusform><numerusform>&amp;Importar %n archivos</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>Después se ha cancelado la importación; %n archivo no se ha leído.</numerusform><numerusform>Después se ha cancelado la importación; %n archivos no se han leído.</numerusform></translation></message>
-    <message id="importDropped"><translation>Archivos soltados en la ventana</translation></message>
+    <message id="importDropped"><translation>Archivos arrastrados a la ventana</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>Se ha importado %n archivo:</numerusform><numerusform>Se han importado %n archivos:</numerusform></translation></message>
     <message id="importFilesButton"><translation>&amp;Importar…</translation></message>
     <message id="importFolder"><translation>Elija la carpeta desde la que importar</translation></message>
@@ -477,15 +477,15 @@ mmHg</translation></message>
     <message id="infoSys"><translation>Sistólica</translation></message>
     <message id="keep"><translation>&amp;Conservar</translation></message>
     <message id="keysFirstLast"><translation>Primeras, últimas mediciones</translation></message>
-    <message id="keysFromReading"><translation>De medición en medición</translation></message>
+    <message id="keysFromReading"><translation>De una medición a otra</translation></message>
     <message id="keysKey"><translation>Tecla</translation></message>
     <message id="keysManualHint"><translation>Abrir el manual (F1).</translation></message>
-    <message id="keysMovePeriod"><translation>Mover el periodo</translation></message>
-    <message id="keysMoveScale"><translation>Mover la escala</translation></message>
+    <message id="keysMovePeriod"><translation>Desplazar el periodo</translation></message>
+    <message id="keysMoveScale"><translation>Desplazar la escala</translation></message>
     <message id="keysPlace"><translation>Dónde</translation></message>
-    <message id="keysTitle"><translation>Teclas</translation></message>
+    <message id="keysTitle"><translation>Atajos de teclado</translation></message>
     <message id="keysWhat"><translation>Qué hace</translation></message>
-    <message id="keysWholePeriod"><translation>Un periodo entero atrás, adelante</translation></message>
+    <message id="keysWholePeriod"><translation>Un periodo entero hacia atrás, hacia delante</translation></message>
     <message id="keysWidenPeriod"><translation>Ampliar, reducir el periodo</translation></message>
     <message id="languageNotSaved"><translation>No se ha cambiado el idioma; el resto de la configuración está guardado. %1</translation></message>
     <message id="lastDownload"><translation>Última descarga</translation></message>
@@ -511,15 +511,15 @@ mmHg</translation></message>
     <message id="menuCopyRows"><translation>Copiar filas</translation></message>
     <message id="menuDeleteComment"><translation>Eliminar comentario</translation></message>
     <message id="menuDeletePatient"><translation>Eliminar paciente</translation></message>
-    <message id="menuDownload"><translation>Descargar las mediciones</translation></message>
+    <message id="menuDownload"><translation>Descargar mediciones</translation></message>
     <message id="menuDownloads"><translation>Descargas…</translation></message>
     <message id="menuEdit"><translation>&amp;Edición</translation></message>
-    <message id="menuExportFhir"><translation>&amp;Exportar el paciente como FHIR…</translation></message>
+    <message id="menuExportFhir"><translation>&amp;Exportar paciente como FHIR…</translation></message>
     <message id="menuFewerDays"><translation>Menos días</translation></message>
     <message id="menuFile"><translation>&amp;Archivo</translation></message>
     <message id="menuFindPatient"><translation>Buscar paciente</translation></message>
     <message id="menuHelp"><translation>A&amp;yuda</translation></message>
-    <message id="menuKeys"><translation>&amp;Teclas</translation></message>
+    <message id="menuKeys"><translation>A&amp;tajos de teclado</translation></message>
     <message id="menuManual"><translation>&amp;Manual</translation></message>
     <message id="menuMoreDays"><translation>Más días</translation></message>
     <message id="menuNewPatient"><translation>Paciente nuevo</translation></message>
@@ -530,9 +530,9 @@ mmHg</translation></message>
     <message id="menuSavePatient"><translation>Guardar paciente</translation></message>
     <message id="menuSavePdf"><translation>Guardar como P&amp;DF…</translation></message>
     <message id="menuSelectRows"><translation>Seleccionar todas las filas</translation></message>
-    <message id="menuSendID"><translation>Enviar el ID al tensiómetro</translation></message>
+    <message id="menuSendID"><translation>Enviar ID al tensiómetro</translation></message>
     <message id="menuSettings"><translation>&amp;Configuración…</translation></message>
-    <message id="menuTimeChart"><translation>Gráfico en el tiempo</translation></message>
+    <message id="menuTimeChart"><translation>Gráfico de evolución</translation></message>
     <message id="menuUndo"><translation>&amp;Deshacer</translation></message>
     <message id="menuUndoStep"><translation>&amp;Deshacer: %1</translation></message>
     <message id="menuView"><translation>Ver</translation></message>
@@ -689,7 +689,7 @@ mmHg</translation></message>
     <message id="readingTotal"><translation>Mediciones de este paciente</translation></message>
     <message id="redoFailed"><translation>No se ha rehecho «%1». %2</translation></message>
     <message id="redone"><translation>Rehecho: %1</translation></message>
-    <message id="requiredNote"><translation>* se debe rellenar</translation></message>
+    <message id="requiredNote"><translation>* campo obligatorio</translation></message>
     <message id="riskFactors"><translation>Factores de riesgo</translation></message>
     <message id="sameID"><translation>El ID %1 pertenece a otro paciente de la lista. Todavía no se ha guardado nada; elija otro ID.</translation></message>
     <message id="sameIDTitle"><translation>ID ya en uso</translation></message>
@@ -815,7 +815,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="unsavedDelete"><translation>¿Eliminar lo escrito para %1? Si no, se le volverá a preguntar la próxima vez que abra ZEL.</translation></message>
     <message id="unsavedFound"><translation>Al cerrarse el programa, no se pudo guardar lo que se estaba escribiendo para %1. ¿Continuar ahora con ello?</translation></message>
     <message id="unsavedTitle"><translation>Sin guardar todavía</translation></message>
-    <message id="usualColumns"><translation>Columnas y orden habituales</translation></message>
+    <message id="usualColumns"><translation>Columnas y orden predeterminados</translation></message>
     <message id="valueHigh"><translation>%1, igual o superior al límite</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 por minuto</translation></message>
@@ -864,7 +864,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="weightRefusedKg"><translation>Indique un número de 0,2 a 1000 kg, por ejemplo 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indique un número de 0,5 a 2200 lb, por ejemplo 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>El archivo %1 guarda cómo quedó la ventana. No se ha podido eliminar.</translation></message>
-    <message id="windowNotReset"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente. Ciérrela y vuelva a iniciar con --reset-view.</translation></message>
+    <message id="windowNotReset"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente. Ciérrela y vuelva a iniciarlo con --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL ya está abierto para este archivo de datos; se ha traído su ventana al frente.</translation></message>
     <message id="windowSilent"><translation>ZEL ya está abierto para este archivo de datos, pero su ventana no responde. Puede estar ocupado con un disco o una impresora lentos, o estar bloqueado: si no continúa en un minuto, ciérrelo desde el monitor del sistema de su equipo.
 
@@ -1085,8 +1085,8 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliChangeOfNothing"><translation>--change necesita al menos una de estas opciones: --date, --time, --sys, --dia y --pulse.</translation></message>
     <message id="CliClockUnread"><translation>No se ha podido leer el reloj del tensiómetro. %1</translation></message>
     <message id="CliClockUnset"><translation>No se ha podido ajustar el reloj del tensiómetro. %1</translation></message>
-    <message id="CliColumnsForm"><translation>--columns lleva los títulos de las columnas, por ejemplo date=Fecha,time=Hora,sys=Sistólica,dia=Diastólica,pulse=Pulso; solo puede faltar time.</translation></message>
-    <message id="CliColumnsHelp"><translation>Para la tabla de otro programa, --columns indica qué son sus columnas.</translation></message>
+    <message id="CliColumnsForm"><translation>--columns necesita los títulos de las columnas, por ejemplo date=Fecha,time=Hora,sys=Sistólica,dia=Diastólica,pulse=Pulso; solo puede faltar time.</translation></message>
+    <message id="CliColumnsHelp"><translation>Para la tabla de otro programa, --columns indica qué contiene cada columna.</translation></message>
     <message id="CliCountUnread"><translation>No se ha podido leer el número de mediciones del tensiómetro. %1</translation></message>
     <message id="CliDatesForm"><translation>--dates admite dmy, mdy o ymd, no '%1'.</translation></message>
     <message id="CliDownloadFailed"><translation>No se han podido descargar las mediciones y no se ha guardado nada. %1 Siguen en el tensiómetro: vuelva a intentarlo.</translation></message>
@@ -1120,7 +1120,7 @@ Sin ninguna orden se abre una ventana. Las órdenes hacen lo mismo sin ella, con
   report       escribir el informe de un paciente como PDF
   export-xml   exportar todos los pacientes, o uno, como archivos XML
   export-csv   exportar un paciente y sus mediciones como archivo CSV
-  export-fhir  exportar todos los pacientes, o uno, como archivos FHIR para otras historias clínicas
+  export-fhir  exportar todos los pacientes, o uno, como archivos FHIR para otros sistemas de historia clínica
   export-table exportar mediciones como tabla para hojas de cálculo
   import       incorporar pacientes de archivos XML exportados, o mediciones de tablas
   settings     mostrar la configuración, o cambiarla en parte
@@ -1131,7 +1131,7 @@ Opciones:
   --simulated-monitor[=FILE]   usar un tensiómetro simulado, descrito por FILE o incorporado, en vez de USB
   --demonstration              una ventana con un tensiómetro simulado y datos propios
   --language TAG               el idioma de los mensajes e informes, por ejemplo es
-  --reset-view                 olvidar cómo quedó la ventana: lugar, página, paciente, columnas
+  --reset-view                 olvidar cómo quedó la ventana: posición, página, paciente, columnas, carpeta
   -h, --help                   mostrar este texto; 'zel COMMAND --help' explica una orden
   --version                    mostrar la versión
 

@@ -113,13 +113,13 @@
     <message id="StoreTooLarge"><translation>Plik danych %1 jest większy niż 512 MiB; tak dużych plików program nie odczytuje. Plik pozostaje bez zmian i niczego nie można zapisać: proszę zastąpić go mniejszą kopią albo przenieść w inne miejsce, aby zacząć od nowego.</translation></message>
     <message id="StoreUnreadable"><translation>Plik danych %1 pozostał bez zmian: tego, co miało zostać zapisane, nie udało się potem z powrotem odczytać.</translation></message>
     <message id="StoreWriteFailed"><translation>Zapis pliku danych %1 się nie powiódł; plik pozostał bez zmian. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
-    <message id="TableCell"><translation>„%1” nie może stać w kolumnie „%2”.</translation></message>
+    <message id="TableCell"><translation>Wartość „%1” jest niedozwolona w kolumnie „%2”.</translation></message>
     <message id="TableCells"><translation>Liczba komórek: %1, a w wierszu tytułów: %2.</translation></message>
-    <message id="TableDateOrder"><translation>„%1” nie jest zapisane jak 2026-11-21. Proszę podać w --dates kolejność dnia, miesiąca i roku: dmy, mdy lub ymd.</translation></message>
+    <message id="TableDateOrder"><translation>Data „%1” nie ma postaci takiej jak 2026-11-21. Proszę podać w opcji --dates kolejność dnia, miesiąca i roku: dmy, mdy lub ymd.</translation></message>
     <message id="TableLine"><translation>Wiersz %1: %2</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… i jeszcze %n wiersz</numerusform><numerusform>… i jeszcze %n wiersze</numerusform><numerusform>… i jeszcze %n wierszy</numerusform></translation></message>
-    <message id="TableNoTime"><translation>„%1” nie jest datą z czterocyfrowym rokiem i godziną.</translation></message>
-    <message id="TableNotUtf8"><translation>Jego tekst nie jest w UTF-8. Proszę zapisać go jako „CSV UTF-8” w programie, z którego pochodzi.</translation></message>
+    <message id="TableNoTime"><translation>„%1” nie jest datą z czterocyfrowym rokiem wraz z godziną.</translation></message>
+    <message id="TableNotUtf8"><translation>Tekst pliku nie jest zakodowany w UTF-8. Proszę zapisać plik jako „CSV UTF-8” w programie, z którego pochodzi.</translation></message>
     <message id="TableOtherNames"><translation>Pacjent „%1” nazywa się inaczej w jednym z wcześniejszych wierszy.</translation></message>
     <message id="TableOtherPatient"><translation>Pomiar dotyczy pacjenta „%1”, a nie „%2”.</translation></message>
     <message id="TableQuotation"><translation>Cudzysłów nie jest zamknięty na końcu komórki.</translation></message>
@@ -353,12 +353,12 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="deleteReadingsTitle"><translation>Usuwanie pomiaru</translation></message>
     <message id="DeleteTheComment"><translation>Usunąć ten komentarz? Do zamknięcia ZEL można go przywrócić poleceniem Edycja &gt; Cofnij.</translation></message>
     <message id="demonstrationButton"><translation>Wypróbuj z ciśnieniomierzem demonstracyjnym</translation></message>
-    <message id="demonstrationIsOwnData"><translation>Demonstracja przechowuje swoje dane w folderze %1, który jednak prowadzi do własnych danych. Niczego nie uruchomiono, aby zmyślone pomiary nie trafiły między prawdziwe.</translation></message>
+    <message id="demonstrationIsOwnData"><translation>Demonstracja przechowuje swoje dane w folderze %1, który jednak prowadzi do prawdziwych danych użytkownika. Niczego nie uruchomiono, aby fikcyjne pomiary nie trafiły między prawdziwe.</translation></message>
     <message id="demonstrationNoFolder"><translation>Demonstracja przechowuje swoje dane w folderze %1, którego nie można utworzyć.</translation></message>
-    <message id="demonstrationNote"><translation>Otwiera drugie okno z symulowanym ciśnieniomierzem i zmyślonymi pomiarami, przechowywanymi osobno od własnych danych.</translation></message>
+    <message id="demonstrationNote"><translation>Otwiera drugie okno z symulowanym ciśnieniomierzem i fikcyjnymi pomiarami, przechowywanymi oddzielnie od prawdziwych danych.</translation></message>
     <message id="demonstrationNotStarted"><translation>Nie udało się uruchomić demonstracji.</translation></message>
     <message id="demonstrationStarted"><translation>Demonstracja otwiera się w osobnym oknie.</translation></message>
-    <message id="demonstrationStrip"><translation>Demonstracja: ciśnieniomierz jest symulowany, a jego pomiary są zmyślone i przechowywane osobno od własnych danych.</translation></message>
+    <message id="demonstrationStrip"><translation>Demonstracja: ciśnieniomierz jest symulowany, a jego pomiary są fikcyjne i przechowywane oddzielnie od prawdziwych danych.</translation></message>
     <message id="demonstrationTitle"><translation>Demonstracja – %1</translation></message>
     <message id="download"><translation>Pobieranie pomiarów</translation></message>
     <message id="downloadAdvice"><translation>Proszę nie odłączać ciśnieniomierza. Pomiary zostaną zapisane, gdy dotrą wszystkie.</translation></message>
@@ -384,7 +384,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="downloadsTitle"><translation>Pobrania</translation></message>
     <message id="downloadStopping"><translation>Zatrzymywanie…</translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundę. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundy. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekund. Można je anulować: nic nie przepadnie.</numerusform></translation></message>
-    <message id="dropLeftOut"><translation>Zaimportować można tylko pliki XML na tym komputerze. Poza listą: %1</translation></message>
+    <message id="dropLeftOut"><translation>Importować można tylko pliki XML z tego komputera. Nie dodano do listy: %1</translation></message>
     <message id="DupNewPatient"><translation>Jest już nowy pacjent, którego jeszcze nie zapisano: pierwszy na liście. Proszę go najpierw zapisać lub usunąć.</translation></message>
     <message id="EndDate"><translation>Ostatni dzień musi następować po pierwszym, tak aby okres obejmował co najmniej dwa dni. Daty pozostały bez zmian.</translation></message>
     <message id="endEarlier"><translation>Koniec o dzień wcześniej</translation></message>
@@ -430,15 +430,15 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fieldSmoker"><translation>Palenie tytoniu</translation></message>
     <message id="fieldWeightKg"><translation>Masa ciała (kg)</translation></message>
     <message id="fieldWeightLb"><translation>Masa ciała (lb)</translation></message>
-    <message id="fileAlreadyHere"><translation>już tu jest</translation></message>
+    <message id="fileAlreadyHere"><translation>już istnieje</translation></message>
     <message id="fileAlreadyHereHint"><translation>Pacjent o tym ID jest już na liście, więc import zostałby odrzucony.</translation></message>
     <message id="fileBeingRead"><translation>odczyt…</translation></message>
-    <message id="fileNotImportable"><translation>nie do zaimportowania</translation></message>
+    <message id="fileNotImportable"><translation>nie można zaimportować</translation></message>
     <message id="fileNotReadable"><translation>nieczytelny</translation></message>
     <message id="fileTooLargeToCount"><translation>&gt; 64 MiB: nie policzono</translation></message>
     <message id="firstStepDownload"><translation>Proszę nacisnąć „Pobierz”. Pomiary pojawią się na wykresie i w tabeli.</translation></message>
     <message id="firstStepMonitor"><translation>Proszę podłączyć ciśnieniomierz kablem USB. Jeśli nie ma on jeszcze ID tego pacjenta, proszę nacisnąć „Wyślij ID”.</translation></message>
-    <message id="firstStepPatient"><translation>Proszę wpisać pacjenta, którego ciśnienie mierzy ciśnieniomierz, nadać mu ID i nacisnąć „Zapisz”.</translation></message>
+    <message id="firstStepPatient"><translation>Proszę wpisać dane pacjenta, który korzysta z ciśnieniomierza, nadać mu ID i nacisnąć „Zapisz”.</translation></message>
     <message id="firstSteps"><translation>Nie ma jeszcze pacjentów: trzy kroki do pierwszych pomiarów</translation></message>
     <message id="heightRefusedCm"><translation>Proszę podać liczbę od 20 do 300 cm, na przykład 175.</translation></message>
     <message id="heightRefusedFtIn"><translation>Proszę podać stopy i cale rozdzielone ukośnikiem, na przykład 5/9. Cale: najwyżej 11.</translation></message>
@@ -479,12 +479,12 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="keysFirstLast"><translation>Pierwsze, ostatnie pomiary</translation></message>
     <message id="keysFromReading"><translation>Od pomiaru do pomiaru</translation></message>
     <message id="keysKey"><translation>Klawisz</translation></message>
-    <message id="keysManualHint"><translation>Otwórz podręcznik (F1).</translation></message>
+    <message id="keysManualHint"><translation>Otwiera podręcznik (F1).</translation></message>
     <message id="keysMovePeriod"><translation>Przesuń okres</translation></message>
     <message id="keysMoveScale"><translation>Przesuń skalę</translation></message>
     <message id="keysPlace"><translation>Gdzie</translation></message>
-    <message id="keysTitle"><translation>Klawisze</translation></message>
-    <message id="keysWhat"><translation>Co robi</translation></message>
+    <message id="keysTitle"><translation>Skróty klawiszowe</translation></message>
+    <message id="keysWhat"><translation>Działanie</translation></message>
     <message id="keysWholePeriod"><translation>Cały okres wstecz, naprzód</translation></message>
     <message id="keysWidenPeriod"><translation>Wydłuż, skróć okres</translation></message>
     <message id="languageNotSaved"><translation>Język nie został zmieniony; pozostałe ustawienia są zapisane. %1</translation></message>
@@ -519,7 +519,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="menuFile"><translation>&amp;Plik</translation></message>
     <message id="menuFindPatient"><translation>Znajdź pacjenta</translation></message>
     <message id="menuHelp"><translation>Pomo&amp;c</translation></message>
-    <message id="menuKeys"><translation>&amp;Klawisze</translation></message>
+    <message id="menuKeys"><translation>&amp;Skróty klawiszowe</translation></message>
     <message id="menuManual"><translation>&amp;Podręcznik</translation></message>
     <message id="menuMoreDays"><translation>Więcej dni</translation></message>
     <message id="menuNewPatient"><translation>Nowy pacjent</translation></message>
@@ -532,14 +532,14 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="menuSelectRows"><translation>Zaznacz wszystkie wiersze</translation></message>
     <message id="menuSendID"><translation>Wyślij ID do ciśnieniomierza</translation></message>
     <message id="menuSettings"><translation>&amp;Ustawienia…</translation></message>
-    <message id="menuTimeChart"><translation>Wykres w czasie</translation></message>
+    <message id="menuTimeChart"><translation>Przebieg w czasie</translation></message>
     <message id="menuUndo"><translation>&amp;Cofnij</translation></message>
     <message id="menuUndoStep"><translation>&amp;Cofnij: %1</translation></message>
     <message id="menuView"><translation>Widok</translation></message>
     <message id="minusDay"><translation>Mniej dni: o jeden mniej na każdym końcu okresu</translation></message>
     <message id="minusDayHint"><translation>Mniej dni: o jeden mniej na każdym końcu okresu (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM DD RRRR</translation></message>
-    <message id="monitorChangedMeanwhile"><translation>Ciśnieniomierz został w międzyczasie odłączony lub zmieniony; niczego nie pobrano.</translation></message>
+    <message id="monitorChangedMeanwhile"><translation>Ciśnieniomierz został w tym czasie odłączony lub zamieniony na inny; niczego nie pobrano.</translation></message>
     <message id="monitorClock"><translation>Zegar</translation></message>
     <message id="monitorConnected"><translation>Ciśnieniomierz podłączony</translation></message>
     <message id="monitorConnectedID"><translation>Ciśnieniomierz ma ID %1. Aby pobrać pomiary tego pacjenta, proszę nacisnąć „Pobierz”.</translation></message>
@@ -815,7 +815,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="unsavedDelete"><translation>Usunąć to, co wpisano dla pacjenta (%1)? Jeśli nie, pytanie pojawi się ponownie przy następnym uruchomieniu.</translation></message>
     <message id="unsavedFound"><translation>Przy zamykaniu programu nie udało się zapisać tego, co wpisywano dla pacjenta (%1). Kontynuować teraz wpisywanie?</translation></message>
     <message id="unsavedTitle"><translation>Jeszcze niezapisane</translation></message>
-    <message id="usualColumns"><translation>Zwykłe kolumny i kolejność</translation></message>
+    <message id="usualColumns"><translation>Domyślne kolumny i kolejność</translation></message>
     <message id="valueHigh"><translation>%1, na granicy lub powyżej</translation></message>
     <message id="valueMmHg"><translation>%1 mmHg</translation></message>
     <message id="valuePulse"><translation>%1 na minutę</translation></message>
@@ -864,7 +864,7 @@ AHA: 12 pomiarów z co najmniej 3 dni</translation></message>
     <message id="weightRefusedKg"><translation>Proszę podać liczbę od 0,2 do 1000 kg, na przykład 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Proszę podać liczbę od 0,5 do 2200 lb, na przykład 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>Plik %1 przechowuje stan okna. Nie udało się go usunąć.</translation></message>
-    <message id="windowNotReset"><translation>ZEL jest już otwarty dla tego pliku danych; jego okno przeniesiono na wierzch. Zamknij je i uruchom program ponownie z --reset-view.</translation></message>
+    <message id="windowNotReset"><translation>ZEL jest już otwarty dla tego pliku danych; jego okno przeniesiono na wierzch. Proszę je zamknąć i ponownie uruchomić program z opcją --reset-view.</translation></message>
     <message id="windowShown"><translation>ZEL jest już otwarty dla tego pliku danych; jego okno przeniesiono na wierzch.</translation></message>
     <message id="windowSilent"><translation>ZEL jest już otwarty dla tego pliku danych, ale jego okno nie odpowiada. Być może program czeka na powolny dysk lub drukarkę albo się zawiesił: jeśli w ciągu minuty nie wznowi pracy, proszę go zakończyć w monitorze systemu.
 
@@ -1120,7 +1120,7 @@ Bez polecenia otwiera się okno. Polecenia robią to samo bez okna, na tym samym
   report       zapisuje raport pacjenta jako PDF
   export-xml   eksportuje wszystkich pacjentów albo jednego jako pliki XML
   export-csv   eksportuje dane i pomiary pacjenta jako plik CSV
-  export-fhir  eksportuje wszystkich pacjentów albo jednego jako pliki FHIR dla innych systemów dokumentacji
+  export-fhir  eksportuje wszystkich pacjentów albo jednego jako pliki FHIR dla innych systemów medycznych
   export-table eksportuje pomiary jako tabelę dla arkuszy kalkulacyjnych
   import       wczytuje pacjentów z wyeksportowanych plików XML albo pomiary z tabel
   settings     pokazuje ustawienia albo zmienia niektóre z nich
@@ -1227,7 +1227,7 @@ Opcje:
     <message id="CliHelpExportTable"><translation>Użycie: zel export-table DIR [--patient ID] [--force]
         zel export-table FILE.csv [--patient ID] [--force]
 
-Zapisuje pomiary jako tabelę dla arkuszy kalkulacyjnych: w folderze DIR plik „ID.table.csv” dla każdego
+Zapisuje pomiary jako tabelę dla arkuszy kalkulacyjnych: w folderze DIR plik 'ID.table.csv' dla każdego
 pacjenta albo w FILE.csv jedną tabelę wszystkich pacjentów. Dla każdej wyświetla 'written: FILE'. Tabela jest
 w UTF-8, ma wiersz tytułów i po jednym wierszu na pomiar, w porządku czasowym, z pacjentem, wartościami,
 wykrytymi nieprawidłowościami, pochodzeniem pomiaru, informacją, czy i dlaczego go pominięto, oraz komentarzem
@@ -1257,13 +1257,13 @@ zapisanych przez 'zel export-table'. Plik jest przyjmowany w całości albo wcal
 z jego pacjentów jest już na liście. Pliki nieprzyjęte są podane z przyczyną na wyjściu błędów, a dla tabeli
 każdy błędny wiersz z jego numerem. Wyświetla, ile plików przyjęto i odrzucono oraz ilu pacjentów, ile pomiarów
 i komentarzy wczytano, po jednym 'key: value' w wierszu; dla tabeli także, ile pomiarów było już znanych: nie są
-podwajane.
+powielane.
 
 Z opcją --patient pomiary z tabeli są dodawane do pacjenta z listy. Z opcją --columns jest to tabela z innego
 programu, na przykład --columns "date=Data,time=Godzina,sys=Skurczowe,dia=Rozkurczowe,pulse=Tętno", z tytułami
-z jej pierwszego wiersza; time pomija się, gdy godzina stoi za datą. Takie pomiary uchodzą za wpisane ręcznie.
-Kolumny oddzielają przecinki, średniki lub tabulatory. Daty mają postać 2026-11-21, chyba że --dates podaje
-kolejność dnia, miesiąca i roku.
+z jej pierwszego wiersza; time pomija się, gdy godzina następuje po dacie. Takie pomiary są traktowane jako
+wpisane ręcznie. Kolumny oddzielają przecinki, średniki lub tabulatory. Daty mają postać 2026-11-21, chyba że
+--dates podaje kolejność dnia, miesiąca i roku.
 
 Opcje:
   --patient ID                 komu dodać pomiary z tabeli

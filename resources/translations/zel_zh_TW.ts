@@ -113,13 +113,13 @@
     <message id="StoreTooLarge"><translation>資料檔 %1 大於 512 MiB，本程式無法讀取。檔案維持原狀，也無法儲存任何資料：請以較小的備份取代，或將它移走以建立新的資料檔。</translation></message>
     <message id="StoreUnreadable"><translation>資料檔 %1 維持原狀：要儲存的內容寫入後無法正確讀回。</translation></message>
     <message id="StoreWriteFailed"><translation>寫入資料檔 %1 失敗，檔案維持原狀。請確認磁碟空間足夠，然後再試一次。</translation></message>
-    <message id="TableCell"><translation>「%1」不能出現在「%2」欄。</translation></message>
+    <message id="TableCell"><translation>「%1」不能填在「%2」欄。</translation></message>
     <message id="TableCells"><translation>此列有 %1 個儲存格，標題列有 %2 個。</translation></message>
     <message id="TableDateOrder"><translation>「%1」的寫法與 2026-11-21 不同。請用 --dates 指定日、月、年的順序：dmy、mdy 或 ymd。</translation></message>
-    <message id="TableLine"><translation>第 %1 行：%2</translation></message>
-    <message id="TableMoreLines" numerus="yes"><translation><numerusform>……另有 %n 行</numerusform></translation></message>
+    <message id="TableLine"><translation>第 %1 列：%2</translation></message>
+    <message id="TableMoreLines" numerus="yes"><translation><numerusform>…另有 %n 列</numerusform></translation></message>
     <message id="TableNoTime"><translation>「%1」不是含四位數年份與時間的日期。</translation></message>
-    <message id="TableNotUtf8"><translation>它的文字不是 UTF-8。請在原程式中另存為「CSV UTF-8」。</translation></message>
+    <message id="TableNotUtf8"><translation>檔案的文字不是 UTF-8 編碼。請在原來的程式中另存為「CSV UTF-8」。</translation></message>
     <message id="TableOtherNames"><translation>病患「%1」在前面的列中有不同的姓名。</translation></message>
     <message id="TableOtherPatient"><translation>此量測屬於病患「%1」，不屬於「%2」。</translation></message>
     <message id="TableQuotation"><translation>引號未在儲存格結尾關閉。</translation></message>
@@ -436,9 +436,9 @@ mmHg</translation></message>
     <message id="fileNotImportable"><translation>無法匯入</translation></message>
     <message id="fileNotReadable"><translation>無法讀取</translation></message>
     <message id="fileTooLargeToCount"><translation>超過 64 MiB，未計算</translation></message>
-    <message id="firstStepDownload"><translation>按「下載」。量測會顯示在圖表與表格中。</translation></message>
-    <message id="firstStepMonitor"><translation>以 USB 線連接血壓計。如果血壓計尚未存有這位病患的 ID，請按「傳送 ID」。</translation></message>
-    <message id="firstStepPatient"><translation>輸入使用血壓計量測的病患並給予 ID，然後按「儲存」。</translation></message>
+    <message id="firstStepDownload"><translation>請按「下載」。量測會顯示在圖表與表格中。</translation></message>
+    <message id="firstStepMonitor"><translation>請以 USB 線連接血壓計。如果血壓計尚未存有這位病患的 ID，請按「傳送 ID」。</translation></message>
+    <message id="firstStepPatient"><translation>請輸入使用血壓計的病患資料與 ID，然後按「儲存」。</translation></message>
     <message id="firstSteps"><translation>目前沒有病患：三個步驟取得第一批量測</translation></message>
     <message id="heightRefusedCm"><translation>請填寫 20 到 300 cm 的數字，例如 175。</translation></message>
     <message id="heightRefusedFtIn"><translation>請填寫呎與吋，中間以斜線分隔，例如 5/9。吋最大為 11。</translation></message>
@@ -455,7 +455,7 @@ mmHg</translation></message>
     <message id="importButton"><translation>匯入(&amp;I)</translation></message>
     <message id="importButtonFiles" numerus="yes"><translation><numerusform>匯入 %n 個檔案(&amp;I)</numerusform></translation></message>
     <message id="importCancelled" numerus="yes"><translation><numerusform>匯入隨後取消，有 %n 個檔案未讀取。</numerusform></translation></message>
-    <message id="importDropped"><translation>拖放到視窗上的檔案</translation></message>
+    <message id="importDropped"><translation>拖放到視窗的檔案</translation></message>
     <message id="importedFiles" numerus="yes"><translation><numerusform>已匯入 %n 個檔案：</numerusform></translation></message>
     <message id="importFilesButton"><translation>匯入(&amp;I)…</translation></message>
     <message id="importFolder"><translation>選擇要匯入的資料夾</translation></message>
@@ -477,15 +477,15 @@ mmHg</translation></message>
     <message id="infoSys"><translation>收縮壓</translation></message>
     <message id="keep"><translation>保留(&amp;K)</translation></message>
     <message id="keysFirstLast"><translation>最早、最近的量測</translation></message>
-    <message id="keysFromReading"><translation>逐筆移動量測</translation></message>
+    <message id="keysFromReading"><translation>逐筆查看量測</translation></message>
     <message id="keysKey"><translation>按鍵</translation></message>
-    <message id="keysManualHint"><translation>開啟使用手冊 (F1)。</translation></message>
+    <message id="keysManualHint"><translation>開啟使用手冊（F1）。</translation></message>
     <message id="keysMovePeriod"><translation>移動期間</translation></message>
     <message id="keysMoveScale"><translation>移動刻度</translation></message>
     <message id="keysPlace"><translation>位置</translation></message>
     <message id="keysTitle"><translation>快速鍵</translation></message>
     <message id="keysWhat"><translation>功能</translation></message>
-    <message id="keysWholePeriod"><translation>往前、往後整段期間</translation></message>
+    <message id="keysWholePeriod"><translation>往前、往後移動整段期間</translation></message>
     <message id="keysWidenPeriod"><translation>延長、縮短期間</translation></message>
     <message id="languageNotSaved"><translation>語言未變更；其他設定已儲存。%1</translation></message>
     <message id="lastDownload"><translation>上次下載</translation></message>
@@ -530,9 +530,9 @@ mmHg</translation></message>
     <message id="menuSavePatient"><translation>儲存病患</translation></message>
     <message id="menuSavePdf"><translation>儲存為 PDF(&amp;D)…</translation></message>
     <message id="menuSelectRows"><translation>選取所有列</translation></message>
-    <message id="menuSendID"><translation>將 ID 傳送至血壓計</translation></message>
+    <message id="menuSendID"><translation>將 ID 傳送到血壓計</translation></message>
     <message id="menuSettings"><translation>設定(&amp;S)…</translation></message>
-    <message id="menuTimeChart"><translation>時間圖表</translation></message>
+    <message id="menuTimeChart"><translation>時間變化圖</translation></message>
     <message id="menuUndo"><translation>復原(&amp;U)</translation></message>
     <message id="menuUndoStep"><translation>復原：%1(&amp;U)</translation></message>
     <message id="menuView"><translation>檢視</translation></message>
@@ -863,7 +863,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="weekTo"><translation>至</translation></message>
     <message id="weightRefusedKg"><translation>請填寫 0.2 到 1000 kg 的數字，例如 72.5。</translation></message>
     <message id="weightRefusedLb"><translation>請填寫 0.5 到 2200 lb 的數字，例如 160.5。</translation></message>
-    <message id="windowNotForgotten"><translation>檔案 %1 保存視窗上次的狀態，無法移除。</translation></message>
+    <message id="windowNotForgotten"><translation>檔案 %1 保存了視窗上次的狀態，但無法移除此檔案。</translation></message>
     <message id="windowNotReset"><translation>ZEL 已開啟此資料檔，其視窗已移到最前面。請關閉視窗，再以 --reset-view 重新啟動。</translation></message>
     <message id="windowShown"><translation>ZEL 已開啟此資料檔，其視窗已移到最前面。</translation></message>
     <message id="windowSilent"><translation>ZEL 已開啟此資料檔，但視窗沒有回應。它可能正在等候緩慢的磁碟或印表機，也可能已當掉：如果一分鐘後仍無反應，請在電腦的系統監視器中結束它。
@@ -1245,7 +1245,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 
 從匯出的 XML 檔案匯入病患及其量測與註記，或從 'zel export-table' 寫出的表格匯入病患。每個檔案只會全部
 匯入或完全不匯入：只要其中一位病患已在清單中，該檔案就不會匯入。未匯入的檔案會連同原因列在標準錯誤；
-表格則列出每一個有錯的行號。輸出匯入與拒絕的檔案數，以及匯入的病患、量測與註記數，每行一個
+表格則列出每一個有錯的列號。輸出匯入與拒絕的檔案數，以及匯入的病患、量測與註記數，每行一個
 'key: value'；有表格時也輸出已有的量測數，這些量測不會重複。
 
 使用 --patient 時，表格中的量測會加入清單中的病患。使用 --columns 時，檔案是其他程式的表格，例如
