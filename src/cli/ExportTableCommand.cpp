@@ -1,14 +1,12 @@
 #include "cli/Commands.h"
+#include "cli/ExportTarget.h"
 #include "cli/OpenStore.h"
 #include "cli/Usage.h"
 #include "store/Text.h"
+#include "store/WrittenNames.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QHash>
-
-#include <filesystem>
 
 namespace zel::cli {
 
@@ -23,41 +21,31 @@ public:
         : store(from), replace(asked), around(told) {}
 
     void write(const QString& path, const QStringList& IDs) {
-        StoreResult result = checkName(path);
+        const QString ID = IDs.value(0);
+        StoreResult result = names.check(ID, path);
         if (result) result = store.exportTable(path, IDs, replace);
         if (!result) return complainOf(result.error());
         printLine(around.out, u"written: "_s + path);
-        written.insert(path.toCaseFolded(), {path, IDs.value(0)});
+        names.add(ID, path);
+        isAnyWritten = true;
     }
     [[nodiscard]] CommandResult finish(const QString& folder) {
-        if (written.isEmpty()) return failed({});
+        if (!isAnyWritten) return failed({});
         if (const StoreResult flushed = flushExports(folder); !flushed) complainOf(flushed.error());
         return isComplete ? CommandResult() : CommandResult(failed({}));
     }
 
 private:
-    /// IDs that differ in their case only have one file on some disks.
-    [[nodiscard]] StoreResult checkName(const QString& path) const {
-        const auto [other, ID] = written.value(path.toCaseFolded());
-        if (other.isEmpty()) return {};
-        const auto onDisk = [](const QString& name) {
-            return std::filesystem::path(QFile::encodeName(name).toStdString());
-        };
-        std::error_code isNone;
-        if (!std::filesystem::equivalent(onDisk(other), onDisk(path), isNone)) return {};
-        return tl::unexpected(StoreError{StoreErrorCode::sameFileName, path, ID});
-    }
     void complainOf(const StoreError& error) {
         isComplete = false;
-        const QString words = describeExport(error);
-        const bool isThere = error.code == StoreErrorCode::alreadyExists;
-        complain(around, u"zel export-table"_s, isThere ? words + u' ' + qtTrId("CliForceReplaces") : words);
+        complain(around, u"zel export-table"_s, reason(error));
     }
 
     const DataStore& store;
     Replace replace;
     Surroundings& around;
-    QHash<QString, std::pair<QString, QString>> written;
+    WrittenNames names;
+    bool isAnyWritten = false;
     bool isComplete = true;
 };
 
@@ -89,7 +77,7 @@ CommandResult runExportTable(const Request& request, Surroundings& around) {
     if (!store) return tl::unexpected(store.error());
     if (CommandResult known = isOne ? checkPatient(**store, *ID) : CommandResult(); !known) return known;
     const QStringList IDs = isOne ? QStringList(*ID) : patientsWithID(**store);
-    TableWriter writer(**store, request.options.isSet(u"force"_s) ? Replace::yes : Replace::no, around);
+    TableWriter writer(**store, replaceOf(request), around);
     if (!QDir(*place).exists()) {
         writer.write(*place, IDs);
         return writer.finish(QFileInfo(*place).path());

@@ -28,10 +28,10 @@ QString dayOf(const std::chrono::year_month_day& day) {
 }
 
 /// Offsets of the times before time zones have seconds, and some were larger than any is today.
-minutes writableOffset(Instant date, const LocalZone& zone) {
+minutes writableOffset(Instant date, const LocalZone& zone, std::int16_t stored) {
     constexpr minutes largest = std::chrono::hours{14};
-    const Date wall = zone.wallClock(date);
-    const minutes offset = floor<minutes>(*wall - date);
+    const minutes offset =
+        stored == ReadingModel::noOffset ? floor<minutes>(*zone.wallClock(date) - date) : minutes{stored};
     const auto year = civilDay(floor<std::chrono::days>(date + offset)).year();
     return std::chrono::abs(offset) <= largest && hasFourDigits(year) ? offset : minutes{0};
 }
@@ -73,8 +73,8 @@ QJsonObject absentExtension(Absence why) {
     return {{u"extension"_s, QJsonArray{extension}}};
 }
 
-QString dateTime(Instant date, const LocalZone& zone) {
-    const minutes offset = writableOffset(date, zone);
+QString dateTime(Instant date, const LocalZone& zone, std::int16_t storedOffset) {
+    const minutes offset = writableOffset(date, zone, storedOffset);
     const Instant shown = date + offset;
     const auto midnight = floor<std::chrono::days>(shown);
     const auto day = civilDay(midnight);

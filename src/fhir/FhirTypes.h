@@ -3,6 +3,7 @@
 // record does not have is left out by the callers: nothing here is ever empty.
 
 #include "store/Dates.h"
+#include "store/ReadingModel.h"
 
 #include <QJsonObject>
 #include <QJsonValue>
@@ -38,9 +39,11 @@ enum class Absence { unknown, error };
 /// The same as an extension, which takes the place of an element that may not be missing.
 [[nodiscard]] QJsonObject absentExtension(Absence why);
 
-/// "2026-11-21T07:12:00+01:00": what the clocks of the zone showed, and how far they were ahead of UTC; in
-/// UTC where the form cannot hold that. A null text for a year that has no four digits.
-[[nodiscard]] QString dateTime(Instant date, const LocalZone& zone);
+/// "2026-11-21T07:12:00+01:00": what the clocks showed there, and how far they were ahead of UTC, \p
+/// storedOffset minutes or, where that is not known, as in the zone; in UTC where the form cannot hold that.
+/// A null text for a year that has no four digits.
+[[nodiscard]] QString dateTime(Instant date, const LocalZone& zone,
+                               std::int16_t storedOffset = ReadingModel::noOffset);
 /// "1956-03-02"; a null text as for dateTime(), and for a day that stands for none.
 [[nodiscard]] QString dateOfDay(DayNumber day);
 

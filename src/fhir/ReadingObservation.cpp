@@ -53,7 +53,8 @@ QJsonArray componentsOf(const ReadingModel& reading) {
     constexpr std::uint32_t padFound = 2;
     constexpr std::uint32_t afibFound = 5;
     if (reading.isPad())
-        components += finding(u"PAD flagged by the monitor"_s, reading.Arrhythmia == padFound);
+        components += finding(u"Irregular pulse (pulse arrhythmia detection) flagged by the monitor"_s,
+                              reading.Arrhythmia == padFound);
     if (reading.isAFib())
         components +=
             finding(u"Atrial fibrillation (AFib) flagged by the monitor"_s, reading.Arrhythmia == afibFound);
@@ -87,7 +88,8 @@ QString methodOf(const ReadingModel& reading) {
 
 /// The profile asks for a time; where there is none, it says so in the time's place.
 void addTime(QJsonObject& observation, const ReadingModel& reading, const LocalZone& zone) {
-    const QString time = reading.isUndated() ? QString{} : dateTime(*reading.ReadingDate, zone);
+    const QString time =
+        reading.isUndated() ? QString{} : dateTime(*reading.ReadingDate, zone, reading.utcOffset);
     if (time.isEmpty())
         observation[u"_effectiveDateTime"_s] = absentExtension(Absence::unknown);
     else

@@ -12,12 +12,14 @@
 
 namespace zel::fhir {
 
-/// Of the patient's ID and day of birth: IDs are short, and two practices may both have a patient "12". A
-/// name that is corrected makes nobody else of a patient.
+/// Of the patient's ID, day of birth and names: IDs are short, two practices may both have a patient "12",
+/// and the day of birth may be missing. Whoever corrects one of them makes another patient of it for who
+/// takes the export.
 [[nodiscard]] QUuid patientId(const PatientModel& patient, const LocalZone& zone);
 
-/// One for each reading, in their order, of its number: values that are corrected and a reading that is left
-/// out stay the same resource. Of several that have one number each has its own.
+/// One for each reading, in their order: of a measured one by its time and values, so that it is the same
+/// from every data file that has downloaded it; of a typed one by its time and number, so that corrected
+/// values and one that is left out stay the same resource. Of several that are alike each has its own.
 [[nodiscard]] std::vector<QUuid> readingIds(const QUuid& patient, const ReadingList& readings);
 
 /// Of the average by that rule of the week that ends with that day, both in one text.

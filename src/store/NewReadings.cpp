@@ -31,6 +31,13 @@ std::optional<Likeness> shownLikeness(const ReadingModel& reading, const Date& t
                     {0, reading.pulse, reading.dia, reading.sys}};
 }
 
+/// What the clocks showed there, if that is known, and else here.
+Date wallClockOf(const ReadingModel& reading, const LocalZone& zone) {
+    if (!reading.ReadingDate || reading.utcOffset == ReadingModel::noOffset)
+        return zone.wallClock(reading.ReadingDate);
+    return *reading.ReadingDate + std::chrono::minutes{reading.utcOffset};
+}
+
 /// What the file shows, whatever zone it was written in.
 Date wallClockOf(pugi::xml_node element) {
     const QByteArray date = childText(element, "ReadingDate").toUtf8();
@@ -83,7 +90,7 @@ ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList down
     UnmatchedReadings stored{root, ID, zone};
     // What the clock showed first: after a change of zone, one reading's instant may be another one's.
     std::erase_if(downloaded, [&](const ReadingModel& reading) {
-        return stored.matchWall(likeness(reading, zone.wallClock(reading.ReadingDate), zone));
+        return stored.matchWall(likeness(reading, wallClockOf(reading, zone), zone));
     });
     std::erase_if(downloaded, [&](const ReadingModel& reading) {
         return stored.matchInstant(likeness(reading, reading.ReadingDate, zone));
@@ -97,8 +104,7 @@ std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QS
     std::set<Likeness> byWall;
     std::set<Likeness> byInstant;
     for (const ReadingModel& reading : measured) {
-        if (const auto wall = shownLikeness(reading, zone.wallClock(reading.ReadingDate), zone))
-            byWall.insert(*wall);
+        if (const auto wall = shownLikeness(reading, wallClockOf(reading, zone), zone)) byWall.insert(*wall);
         if (const auto instant = shownLikeness(reading, reading.ReadingDate, zone))
             byInstant.insert(*instant);
     }

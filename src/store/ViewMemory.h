@@ -35,6 +35,9 @@ private:
     QJsonObject now;
 };
 
+/// Under which the last folder is remembered. Folders are named after patients: what names one is taken out.
+inline constexpr QLatin1StringView rememberedFolder{"folder"};
+
 /// Which patient it was, for a file that is to give nobody's ID away: a digest with a salt of its own, which
 /// is another one each time.
 [[nodiscard]] QJsonObject maskedID(const QString& ID);

@@ -17,9 +17,12 @@ WINDOWS = {  # what a menu opens: its title, and the button that closes it again
     ("File", "Save as PDF …"): ("Save as PDF", "Cancel"),
     ("File", "Settings …"): ("Settings", "Cancel"),
     ("File", "Backups …"): ("Backups", "Close"),
+    ("Monitor", "Downloads …"): ("Downloads", "Close"),
+    ("Help", "Keys"): ("Keys", "Close"),
     ("Help", "About ZEL"): ("ZEL", "OK"),
     ("Help", "Manual"): ("Manual", None),  # beside which one works on
 }
+MENUS = {"File": "Print …", "Edit": "Undo", "View": "Days shown", "Monitor": "Downloads …", "Help": "Keys"}  # what is in each
 
 
 class Walk:
@@ -86,9 +89,9 @@ class Walk:
                 self.found[f"{node} in {parent} does not show, and takes the focus"] = "zoom"
 
     def menus(self, program):
-        for menu in {menu: None for menu, _ in WINDOWS}:
+        for menu, item in MENUS.items():
             opened = program.press("menu item", menu)
-            program.find("menu item", next(item for each, item in WINDOWS if each == menu))
+            program.find("menu item", item)
             self.look(f"menu {menu}", opened)
             opened.do()  # closes it
         for (menu, item), (title, close) in WINDOWS.items():

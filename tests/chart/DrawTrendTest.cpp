@@ -4,6 +4,7 @@
 #include "chart/CurvePieces.h"
 #include "chart/Drawing.h"
 #include "chart/PicturePainter.h"
+#include "chart/ScreenColours.h"
 #include "chart/TrendScale.h"
 
 #include <QImage>
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace zel {
 namespace {
@@ -73,18 +73,6 @@ bool overlap(const Rect& a, const Rect& b) {
     constexpr double touch = 0.01;
     return a.x + touch < b.right() && b.x + touch < a.right() && a.y + touch < b.top()
            && b.y + touch < a.top();
-}
-
-/// From 1 to 21, as the eye has it.
-double contrast(const QColor& dark, const QColor& pale) {
-    const auto part = [](float value) {
-        return value <= 0.04045F ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    const auto brightness = [&](const QColor& color) {
-        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF())
-               + 0.05;
-    };
-    return brightness(pale) / brightness(dark);
 }
 
 /// What does not stand clear of the others, or leaves the picture.

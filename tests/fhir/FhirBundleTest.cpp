@@ -78,6 +78,9 @@ TEST(FhirTypesTest, TimesAreThoseOfTheClocksWithTheirOffset) {
         const InZone here(c.zone);
         EXPECT_EQ(dateTime(date.value(), LocalZone{}).toStdString(), c.written) << c.zone;
     }
+    const InZone utc("UTC"); // a reading that was stored elsewhere keeps its own
+    EXPECT_EQ(dateTime(Instant{std::chrono::hours{6}}, LocalZone{}, 60).toStdString(),
+              "1970-01-01T07:00:00+01:00");
     EXPECT_TRUE(
         dateTime(Instant{std::chrono::sys_days{std::chrono::year{10000} / 2 / 1}}, LocalZone{}).isNull());
 }
@@ -86,10 +89,11 @@ TEST(ResourceIdsTest, ARecordKeepsItsIdAndSharesItWithNone) {
     const LocalZone zone;
     PatientModel anna = patient(u"A1"_s);
     const QUuid id = patientId(anna, zone);
-    // As it was in the first file ever written.
-    EXPECT_EQ(idText(id).toStdString(), "755f3f60-9d2d-5ecd-bdc4-ad1eb177b236");
-    anna.FamilyName = u"Brown"_s;
-    EXPECT_EQ(patientId(anna, zone), id);
+    // As it is in the first file ever written.
+    EXPECT_EQ(idText(id).toStdString(), "PATIENT-UUID");
+    PatientModel ruth = anna;
+    ruth.GivenNames = u"Ruth"_s;
+    EXPECT_NE(patientId(ruth, zone), id) << "another person of another practice";
     anna.DateOfBirth = StrToDate(u"1956-03-02"_s, u"yyyy-MM-dd"_s);
     EXPECT_NE(patientId(anna, zone), id) << "another person of another practice";
 
@@ -98,8 +102,18 @@ TEST(ResourceIdsTest, ARecordKeepsItsIdAndSharesItWithNone) {
     const std::vector<QUuid> before = readingIds(id, readings);
     EXPECT_EQ(std::set(before.begin(), before.end()).size(), 4U);
     readings[0].exclusion = u"cuff was loose"_s;
-    readings[2].sys = 200;
+    readings[2].RecID = u"1000001"_s; // as another data file may number it
     EXPECT_EQ(readingIds(id, readings), before);
+    readings[2].sys = 200;
+    EXPECT_NE(readingIds(id, readings)[2], before[2]) << "another measurement";
+    ReadingList typed{reading("2026-11-01 08:00", u"1"_s), reading("2026-11-01 08:00", u"2"_s)};
+    for (ReadingModel& each : typed)
+        each.isManual = true;
+    const std::vector<QUuid> asTyped = readingIds(id, typed);
+    EXPECT_NE(asTyped[0], asTyped[1]);
+    EXPECT_NE(asTyped[0], before[0]);
+    typed[0].sys = 200;
+    EXPECT_EQ(readingIds(id, typed), asTyped);
     EXPECT_NE(readingIds(patientId(anna, zone), readings).front(), before.front());
 }
 

@@ -156,6 +156,20 @@ TEST_F(ReadingTableTest, WhatGoesOutComesBackTheSameAndOnlyOnce) {
     }
 }
 
+TEST_F(ReadingTableTest, AlikeReadingsAnHourApartAreNotTakenForEachOtherElsewhere) {
+    const QByteArray later = measured("A", "1000002", "2026-11-20T07:12:00+01:00", "0 0 131 84 99 47 66");
+    load("<SystemSetting/>\n<Patient><ID>A</ID></Patient>\n"
+         + measured("A", "1000001", "2026-11-20T06:12:00+01:00", "0 0 131 84 99 47 66") + later);
+    const InZone elsewhere{"UTC"};
+    ASSERT_TRUE(store.loadXML());
+    const QByteArray both = exported();
+    EXPECT_EQ(import(both, {u"A"_s, {}})->known, 2U);
+    load("<SystemSetting/>\n<Patient><ID>A</ID></Patient>\n" + later);
+    const auto counts = import(both, {u"A"_s, {}});
+    EXPECT_EQ(counts->readings, 1U);
+    EXPECT_EQ(counts->known, 1U);
+}
+
 TEST_F(ReadingTableTest, TableIsPlainCsvThatNoSpreadsheetCalculates) {
     load(everything);
     const QByteArray lines = exported();

@@ -92,7 +92,7 @@ void MonitorBar::follow() {
     const MonitorState& state = status.state();
     const auto ID = state.isConnected ? state.IDOnDevice : std::nullopt;
     if (ID != dismissed) dismissed.reset();
-    if (!ID || dismissed) {
+    if (!ID || dismissed || !store.lastLoad()) { // whose it is cannot be told while the data file is not read
         said = {};
         return hide();
     }

@@ -14,7 +14,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 SelectFolderController::SelectFolderController(ViewMemory* memory)
-    : lastFolder(memory), folder(memory ? memory->value(u"folder"_s).toString() : QString()) {
+    : lastFolder(memory), folder(memory ? memory->value(rememberedFolder).toString() : QString()) {
     if (!QDir::isAbsolutePath(folder))
         folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     // Qt's dialogs write down which folders were chosen; some are named after patients.
@@ -28,7 +28,7 @@ void SelectFolderController::find() {
 
 void SelectFolderController::moveTo(const QString& chosen) {
     folder = chosen;
-    if (lastFolder) lastFolder->set(u"folder"_s, folder);
+    if (lastFolder) lastFolder->set(rememberedFolder, folder);
 }
 
 QString SelectFolderController::chooseFolder(QWidget* owner, const QString& title) {

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto windowKey = "window"_L1, pageKey = "page"_L1, chartKey = "chart"_L1, patientKey = "patient"_L1,
-               periodKey = "period"_L1, tableKey = "table"_L1, folderKey = "folder"_L1;
+               periodKey = "period"_L1, tableKey = "table"_L1;
 
 /// By the numbers of the choices; what stands first is usual, and not kept.
 constexpr std::array dayNames{""_L1, "last7"_L1, "last30"_L1, "last90"_L1, "measuringWeek"_L1, "all"_L1};
@@ -115,8 +115,8 @@ void ViewKeeper::keep(const QString& page) {
     else if (!isMaskOf(memory.value(patientKey), ID))
         memory.set(patientKey, maskedID(ID));
     memory.set(periodKey, isAnyone ? unlessEmpty(choiceOf(parts.period)) : QJsonValue(QJsonValue::Undefined));
-    if (const QString folder = memory.value(folderKey).toString(); !folder.isEmpty())
-        memory.set(folderKey, folderNamingNobody(folder, parts.store.getPatientArray()));
+    if (const QString folder = memory.value(rememberedFolder).toString(); !folder.isEmpty())
+        memory.set(rememberedFolder, folderNamingNobody(folder, parts.store.getPatientArray()));
     if (const StoreResult kept = memory.save(); !kept)
         qCWarning(lcApp, "what is to be remembered of the window could not be written");
 }

@@ -53,6 +53,11 @@ ReadingColumns::ReadingColumns(QTableView& readings)
     header.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
+void ReadingColumns::sortByDateInsteadOf(int column) {
+    if (header.sortIndicatorSection() == column)
+        table.sortByColumn(ReadingTableModel::date, Qt::AscendingOrder);
+}
+
 void ReadingColumns::dress() {
     header.setSectionResizeMode(QHeaderView::Interactive);
     header.setSectionResizeMode(ReadingTableModel::comment, QHeaderView::Stretch);

@@ -20,6 +20,8 @@ public:
 
     /// The table has another width, or columns came or went.
     void layOut();
+    /// Nothing would say by what the rows are sorted once that column is hidden.
+    void sortByDateInsteadOf(int column);
     /// As they are in a table that nobody has touched.
     void reset();
 

@@ -108,6 +108,7 @@ void TableViewController::addBoxes() {
         connect(box, &QCheckBox::toggled, tblReadings, [this, column](bool shown) {
             tblReadings->setColumnHidden(column, !shown);
             arrangement->layOut();
+            if (!shown) arrangement->sortByDateInsteadOf(column);
         });
         frame->periodBar().addOption(*box);
     };

@@ -208,6 +208,17 @@ TEST_F(TableArrangementTest, aChosenReadingStaysInSightAndElseTheFirstRowsAreSho
     }
 }
 
+TEST_F(TableArrangementTest, rowsAreByDateAgainOnceTheColumnThatTheyWereSortedByIsHidden) {
+    storeAndOpen();
+    const QString usual = days();
+    clickTitle(T::mam);
+    ASSERT_NE(days(), usual);
+    clickPart("btnShowPad");
+    EXPECT_NE(days(), usual) << "another column";
+    clickPart("btnShowMam");
+    EXPECT_EQ(days(), usual);
+}
+
 TEST_F(TableArrangementTest, aColumnThatIsSizedKeepsItsWidth) {
     storeAndOpen();
     const int before = header().sectionSize(T::sys), usual = header().sectionSize(T::date);
