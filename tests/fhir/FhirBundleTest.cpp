@@ -90,7 +90,7 @@ TEST(ResourceIdsTest, ARecordKeepsItsIdAndSharesItWithNone) {
     PatientModel anna = patient(u"A1"_s);
     const QUuid id = patientId(anna, zone);
     // As it is in the first file ever written.
-    EXPECT_EQ(idText(id).toStdString(), "PATIENT-UUID");
+    EXPECT_EQ(idText(id).toStdString(), "400554e0-5553-574c-903b-c1269255005a");
     PatientModel ruth = anna;
     ruth.GivenNames = u"Ruth"_s;
     EXPECT_NE(patientId(ruth, zone), id) << "another person of another practice";
