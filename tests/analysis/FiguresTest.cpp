@@ -61,6 +61,7 @@ TEST(Statistic, ShowsOneOfTwoMeasuresAndTakesAnyValue) {
     EXPECT_EQ(figures.dia.minimum, 80U);
     EXPECT_EQ(figures.dia.maximum, largest);
     EXPECT_EQ(minString(figures.pulse.minimum), u"n/a"_s);
+    EXPECT_EQ(minString(32766), u"32766"_s);
     EXPECT_GT(figures.pulse.average, 0);
     EXPECT_EQ(calcStatistic(readings, selection, false).mapOrPP.minimum, 40U);
 }

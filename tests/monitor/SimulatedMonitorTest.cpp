@@ -189,6 +189,8 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
     expectMember("3", R"(3, "flag": 3)", u".flag"_s, Code::notAllowed);
     expectMember("3", R"(3, "Flag": 2)", u".Flag"_s, Code::unknownKey);
     expect(R"("records": [{"raw": "short"}])", u"records[0].raw"_s, Code::wrongLength);
+    expect(R"("records": [{"raw": "1903221405z      4814078000000000", "flag": 1}])", u"records[0].flag"_s,
+           Code::unknownKey);
     expect(R"("records": [7])", u"records[0]"_s, Code::notObject);
     expect(R"("records": {})", u"records"_s, Code::notList);
     expect(R"("reportSizes": [15, 16])", u"reportSizes[1]"_s, Code::notWhole);
