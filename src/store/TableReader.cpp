@@ -77,12 +77,12 @@ void readTime(LineCells& cells, const QString& text, DateOrder order, const Tabl
     reading.utcOffset = time->offset;
 }
 
-/// What nobody can have typed is not taken. What is left out counts nowhere, and so may be what it likes;
-/// what a monitor has stored comes back as it is, also of one whose clock is ahead.
+/// What nobody can have typed is not taken. What is left out counts nowhere, and so may be what it likes. A
+/// monitor's clock may be ahead.
 void checkValues(LineCells& cells, const ReadingModel& reading, bool isDated, const TablePlace& place) {
-    if (reading.isExcluded() || !reading.isManual) return;
+    if (reading.isExcluded()) return;
     ManualReading values = ManualReading::of(reading);
-    if (!isDated) values.time = place.now;
+    if (!isDated || (!reading.isManual && values.time > place.now)) values.time = place.now;
     if (const auto problem = manualProblem(values, place.now)) cells.refuse(describe(*problem));
 }
 

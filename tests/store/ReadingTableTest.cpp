@@ -261,7 +261,8 @@ TEST_F(ReadingTableTest, EveryLineThatCannotBeTakenIsTold) {
         {"monitor", "Monitor", u"column “source”"_s},
         {"monitor,no", "monitor,", u"column “excluded”"_s},
         {"monitor,no,", "monitor,no,cuff", u"column “reason”"_s},
-        {"2026-11-20T07:00:00+01:00", "2026-11-21T08:01:00Z", u"in the future"_s},
+        {"2026-11-20T07:00:00+01:00,131,84,66,99,47,no,,monitor",
+         "2026-11-21T08:01:00Z,131,84,66,99,47,no,,manual", u"in the future"_s},
         {"2026-11-20T07", "1899-11-20T07", u"before the year 1900"_s},
         {"2026-11-20T07", "2000-01-01T07", u"no such date"_s},
         {"2026-11-20T07", "2026-02-29T07", u"is no date"_s},
@@ -303,6 +304,7 @@ TEST_F(ReadingTableTest, EveryLineThatCannotBeTakenIsTold) {
     const auto leftOut =
         import(titles + QByteArray{good}.replace("131,84", "84,131").replace("monitor,no,", "monitor,yes,"));
     EXPECT_TRUE(leftOut.has_value());
+    EXPECT_TRUE(import(titles + QByteArray{good}.replace("2026-11-20", "2027-11-20"))) << "a monitor's clock";
 }
 
 TEST_F(ReadingTableTest, AnotherProgramsColumnsAreNamed) {
