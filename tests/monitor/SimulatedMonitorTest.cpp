@@ -189,7 +189,7 @@ TEST_F(SimulatedMonitorTest, PlansThatAreNone) {
     expectMember("3", R"(3, "flag": 3)", u".flag"_s, Code::notAllowed);
     expectMember("3", R"(3, "Flag": 2)", u".Flag"_s, Code::unknownKey);
     expect(R"("records": [{"raw": "short"}])", u"records[0].raw"_s, Code::wrongLength);
-    expect(R"("records": [{"raw": "1903221405z      4814078000000000", "flag": 1}])", u"records[0].flag"_s,
+    expect(R"("records": [{"raw": "1903221405z      481407800000000", "flag": 1}])", u"records[0].flag"_s,
            Code::unknownKey);
     expect(R"("records": [7])", u"records[0]"_s, Code::notObject);
     expect(R"("records": {})", u"records"_s, Code::notList);

@@ -304,7 +304,8 @@ TEST_F(ReadingTableTest, EveryLineThatCannotBeTakenIsTold) {
     const auto leftOut =
         import(titles + QByteArray{good}.replace("131,84", "84,131").replace("monitor,no,", "monitor,yes,"));
     EXPECT_TRUE(leftOut.has_value());
-    EXPECT_TRUE(import(titles + QByteArray{good}.replace("2026-11-20", "2027-11-20"))) << "a monitor's clock";
+    const auto ahead = import(titles + QByteArray{good}.replace("2026-11-20", "2027-11-20"), {u"A"_s, {}});
+    EXPECT_TRUE(ahead) << describe(ahead.error()).toStdString();
 }
 
 TEST_F(ReadingTableTest, AnotherProgramsColumnsAreNamed) {
