@@ -476,6 +476,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="infoRemark"><translation>Bemerkung</translation></message>
     <message id="infoSys"><translation>Systolisch</translation></message>
     <message id="keep"><translation>&amp;Behalten</translation></message>
+    <message id="keysCloseMonitorBar"><translation>Leiste des Messgeräts schließen</translation></message>
     <message id="keysFirstLast"><translation>Erste, letzte Messungen</translation></message>
     <message id="keysFromReading"><translation>Von Messung zu Messung</translation></message>
     <message id="keysKey"><translation>Taste</translation></message>
@@ -484,6 +485,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="keysMoveScale"><translation>Skala verschieben</translation></message>
     <message id="keysPlace"><translation>Wo</translation></message>
     <message id="keysTitle"><translation>Tastenkürzel</translation></message>
+    <message id="keysToMonitorBar"><translation>Zur Leiste des Messgeräts</translation></message>
     <message id="keysWhat"><translation>Was geschieht</translation></message>
     <message id="keysWholePeriod"><translation>Einen ganzen Zeitraum zurück, weiter</translation></message>
     <message id="keysWidenPeriod"><translation>Zeitraum verlängern, verkürzen</translation></message>

@@ -476,6 +476,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="infoRemark"><translation>Remark</translation></message>
     <message id="infoSys"><translation>Systolic</translation></message>
     <message id="keep"><translation>&amp;Keep</translation></message>
+    <message id="keysCloseMonitorBar"><translation>Close the monitor’s bar</translation></message>
     <message id="keysFirstLast"><translation>First, last readings</translation></message>
     <message id="keysFromReading"><translation>From reading to reading</translation></message>
     <message id="keysKey"><translation>Key</translation></message>
@@ -484,6 +485,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="keysMoveScale"><translation>Move the scale</translation></message>
     <message id="keysPlace"><translation>Where</translation></message>
     <message id="keysTitle"><translation>Keys</translation></message>
+    <message id="keysToMonitorBar"><translation>Go to the monitor’s bar</translation></message>
     <message id="keysWhat"><translation>What it does</translation></message>
     <message id="keysWholePeriod"><translation>A whole period back, on</translation></message>
     <message id="keysWidenPeriod"><translation>Widen, narrow the period</translation></message>

@@ -476,6 +476,7 @@ mmHg</translation></message>
     <message id="infoRemark"><translation>Observación</translation></message>
     <message id="infoSys"><translation>Sistólica</translation></message>
     <message id="keep"><translation>&amp;Conservar</translation></message>
+    <message id="keysCloseMonitorBar"><translation>Cerrar la barra del tensiómetro</translation></message>
     <message id="keysFirstLast"><translation>Primeras, últimas mediciones</translation></message>
     <message id="keysFromReading"><translation>De una medición a otra</translation></message>
     <message id="keysKey"><translation>Tecla</translation></message>
@@ -484,6 +485,7 @@ mmHg</translation></message>
     <message id="keysMoveScale"><translation>Desplazar la escala</translation></message>
     <message id="keysPlace"><translation>Dónde</translation></message>
     <message id="keysTitle"><translation>Atajos de teclado</translation></message>
+    <message id="keysToMonitorBar"><translation>Ir a la barra del tensiómetro</translation></message>
     <message id="keysWhat"><translation>Qué hace</translation></message>
     <message id="keysWholePeriod"><translation>Un periodo entero hacia atrás, hacia delante</translation></message>
     <message id="keysWidenPeriod"><translation>Ampliar, reducir el periodo</translation></message>

@@ -476,6 +476,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="infoRemark"><translation>Remarque</translation></message>
     <message id="infoSys"><translation>Systolique</translation></message>
     <message id="keep"><translation>&amp;Conserver</translation></message>
+    <message id="keysCloseMonitorBar"><translation>Fermer la barre du tensiomètre</translation></message>
     <message id="keysFirstLast"><translation>Premières, dernières mesures</translation></message>
     <message id="keysFromReading"><translation>De mesure en mesure</translation></message>
     <message id="keysKey"><translation>Touche</translation></message>
@@ -484,6 +485,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="keysMoveScale"><translation>Déplacer l’échelle</translation></message>
     <message id="keysPlace"><translation>Où</translation></message>
     <message id="keysTitle"><translation>Raccourcis clavier</translation></message>
+    <message id="keysToMonitorBar"><translation>Aller à la barre du tensiomètre</translation></message>
     <message id="keysWhat"><translation>Effet</translation></message>
     <message id="keysWholePeriod"><translation>Une période entière en arrière, en avant</translation></message>
     <message id="keysWidenPeriod"><translation>Allonger, raccourcir la période</translation></message>

@@ -476,6 +476,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="infoRemark"><translation>Nota</translation></message>
     <message id="infoSys"><translation>Sistolica</translation></message>
     <message id="keep"><translation>&amp;Conserva</translation></message>
+    <message id="keysCloseMonitorBar"><translation>Chiudi la barra del misuratore</translation></message>
     <message id="keysFirstLast"><translation>Prime, ultime misurazioni</translation></message>
     <message id="keysFromReading"><translation>Da misurazione a misurazione</translation></message>
     <message id="keysKey"><translation>Tasto</translation></message>
@@ -484,6 +485,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="keysMoveScale"><translation>Sposta la scala</translation></message>
     <message id="keysPlace"><translation>Dove</translation></message>
     <message id="keysTitle"><translation>Scorciatoie da tastiera</translation></message>
+    <message id="keysToMonitorBar"><translation>Vai alla barra del misuratore</translation></message>
     <message id="keysWhat"><translation>Che cosa fa</translation></message>
     <message id="keysWholePeriod"><translation>Un periodo intero indietro, avanti</translation></message>
     <message id="keysWidenPeriod"><translation>Allarga, restringi il periodo</translation></message>

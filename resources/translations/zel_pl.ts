@@ -476,6 +476,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="infoRemark"><translation>Adnotacja</translation></message>
     <message id="infoSys"><translation>Skurczowe</translation></message>
     <message id="keep"><translation>&amp;Zachowaj</translation></message>
+    <message id="keysCloseMonitorBar"><translation>Zamknij pasek ciśnieniomierza</translation></message>
     <message id="keysFirstLast"><translation>Pierwsze, ostatnie pomiary</translation></message>
     <message id="keysFromReading"><translation>Od pomiaru do pomiaru</translation></message>
     <message id="keysKey"><translation>Klawisz</translation></message>
@@ -484,6 +485,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="keysMoveScale"><translation>Przesuń skalę</translation></message>
     <message id="keysPlace"><translation>Gdzie</translation></message>
     <message id="keysTitle"><translation>Skróty klawiszowe</translation></message>
+    <message id="keysToMonitorBar"><translation>Przejdź do paska ciśnieniomierza</translation></message>
     <message id="keysWhat"><translation>Działanie</translation></message>
     <message id="keysWholePeriod"><translation>Cały okres wstecz, naprzód</translation></message>
     <message id="keysWidenPeriod"><translation>Wydłuż, skróć okres</translation></message>

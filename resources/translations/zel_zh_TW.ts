@@ -476,6 +476,7 @@ mmHg</translation></message>
     <message id="infoRemark"><translation>附註</translation></message>
     <message id="infoSys"><translation>收縮壓</translation></message>
     <message id="keep"><translation>保留(&amp;K)</translation></message>
+    <message id="keysCloseMonitorBar"><translation>關閉血壓計列</translation></message>
     <message id="keysFirstLast"><translation>最早、最近的量測</translation></message>
     <message id="keysFromReading"><translation>逐筆查看量測</translation></message>
     <message id="keysKey"><translation>按鍵</translation></message>
@@ -484,6 +485,7 @@ mmHg</translation></message>
     <message id="keysMoveScale"><translation>移動刻度</translation></message>
     <message id="keysPlace"><translation>位置</translation></message>
     <message id="keysTitle"><translation>快速鍵</translation></message>
+    <message id="keysToMonitorBar"><translation>移到血壓計列</translation></message>
     <message id="keysWhat"><translation>功能</translation></message>
     <message id="keysWholePeriod"><translation>往前、往後移動整段期間</translation></message>
     <message id="keysWidenPeriod"><translation>延長、縮短期間</translation></message>

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
-#include "cli/Csv.h"
 #include "cli/Usage.h"
 #include "store/CopyContent.h"
+#include "store/CsvText.h"
 #include "store/SecondFolder.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "cli/Commands.h"
-#include "cli/Csv.h"
 #include "cli/OpenStore.h"
 #include "cli/Usage.h"
 #include "monitor/BPMModel.h"
+#include "store/CsvText.h"
 #include "store/Text.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #include "analysis/ReadingRows.h"
 #include "cli/Commands.h"
-#include "cli/Csv.h"
 #include "cli/OpenStore.h"
 #include "cli/PeriodOptions.h"
 #include "cli/ReadingChanges.h"
 #include "cli/Usage.h"
+#include "store/CsvText.h"
 #include "store/RecordXml.h"
 
 #include <QTime>

@@ -71,12 +71,15 @@ QPushButton* MonitorBar::makeButton(const QString& name, const QString& text) {
 }
 
 void MonitorBar::makeKeys() {
-    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] {
+    auto* enter = new QShortcut(Qt::Key_F6, this);
+    enter->setWhatsThis(qtTrId("keysToMonitorBar"));
+    connect(enter, &QShortcut::activated, this, [this] {
         for (QPushButton* button : {downloadButton, newPatientButton, closeButton})
             if (button->isVisible() && button->isEnabled()) return button->setFocus(Qt::ShortcutFocusReason);
     });
     auto* escape = new QShortcut(Qt::Key_Escape, this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
+    escape->setWhatsThis(qtTrId("keysCloseMonitorBar"));
     connect(escape, &QShortcut::activated, this, &MonitorBar::dismiss);
 }
 

@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -63,6 +64,14 @@ void addChart(const QString& page, std::vector<KeyRow>& rows) {
     add(qtTrId("keysFromReading"), Qt::CTRL | Qt::Key_Left, Qt::CTRL | Qt::Key_Right);
 }
 
+/// Those of the monitor's bar, which are no actions, say what they do.
+void addMonitorBar(const QWidget& window, std::vector<KeyRow>& rows) {
+    for (const auto* key : window.findChildren<QShortcut*>())
+        if (!key->whatsThis().isEmpty())
+            rows.push_back(
+                {qtTrId("monitorPanel"), key->whatsThis(), key->key().toString(QKeySequence::NativeText)});
+}
+
 } // namespace
 
 const PageController* pageOf(const QObject* object) {
@@ -85,6 +94,7 @@ std::vector<KeyRow> keysOf(const QWidget& window) {
     }
     if (const auto* chart = window.findChild<PageController*>(u"GraphViewController"_s))
         addChart(chart->accessibleName(), rows);
+    addMonitorBar(window, rows);
     return rows;
 }
 

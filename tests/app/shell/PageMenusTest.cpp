@@ -165,6 +165,7 @@ TEST_F(PageMenusTest, theListOfKeysIsTrue) {
     EXPECT_EQ(whatByKey[u"Ctrl+N"_s + place("PatientViewController")], qtTrId("menuNewPatient"));
     EXPECT_EQ(whatByKey[u"Left, Right"_s + place("GraphViewController")], qtTrId("keysMovePeriod"));
     EXPECT_TRUE(whatByKey.contains(u"Alt+1"_s + place("GraphViewController"))) << "of no menu";
+    EXPECT_EQ(whatByKey[u"F6@"_s + qtTrId("monitorPanel")], qtTrId("keysToMonitorBar"));
     EXPECT_TRUE(opened.empty());
     waitFor([&] { return list.isActiveWindow(); });
     QTest::keyClick(&table, Qt::Key_F1);

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "store/CsvText.h"
-
-namespace zel::cli {
-
-using zel::csvLine;
-
-} // namespace zel::cli
