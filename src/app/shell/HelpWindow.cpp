@@ -4,6 +4,7 @@
 #include "app/widgets/Style.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QListWidget>
 #include <QScreen>
 #include <QScrollBar>
