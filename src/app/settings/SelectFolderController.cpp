@@ -54,7 +54,7 @@ QString SelectFolderController::choosePdf(QWidget* owner, const QString& title, 
     dialog.setDefaultSuffix(u"pdf"_s); // before it asks about a file that is there
     dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted) return {};
-    const QString chosen = dialog.selectedFiles().value(0);
+    QString chosen = dialog.selectedFiles().value(0);
     if (!chosen.isEmpty()) moveTo(QFileInfo(chosen).absolutePath()); // also of a path that was typed
     return chosen;
 }
