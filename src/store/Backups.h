@@ -12,7 +12,7 @@ struct BackupContent {
     DayNumber lastReading = noDay; ///< noDay without a dated reading
 };
 
-/// As "2 patients, 60 readings, the last of 02/11/2026". \p dateFormat: as SettingModel::getDateFormat()
+/// As "2 patients, 60 readings, the last of 02/11/2026". \p dateFormat: as SettingModel::shownDateFormat()
 [[nodiscard]] QString describe(const BackupContent& content, const QString& dateFormat);
 
 /// Copies of the data file in the folder "Backups" beside it, for its owner alone.

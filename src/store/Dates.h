@@ -21,6 +21,11 @@ using Date = std::optional<Instant>;
 
 /// Reads the whole of \p text with a Unicode date pattern; none if it does not match exactly.
 [[nodiscard]] Date StrToDate(const QString& text, const QString& pattern);
+/// 12 and 1 to 11, as a clock's hand shows it.
+[[nodiscard]] constexpr int hourOnDial(int minuteOfDay) {
+    const int hour = minuteOfDay / 60 % 12;
+    return hour == 0 ? 12 : hour;
+}
 /// As StrToDate, where each letter of the pattern is a digit. No date if one is missing or no digit: the year
 /// before it would be taken for a shorter one.
 [[nodiscard]] Date digitsToDate(const QString& digits, const QString& pattern);

@@ -79,13 +79,6 @@ std::pair<bool, DayNumber> shownDay(const ReadingModel& reading, const SettingMo
     return {isUndated, isUndated || settings.getDateFormat().isNull() ? noDay : reading.day};
 }
 
-int hourOnDial(int minuteOfDay) {
-    const int hour = minuteOfDay / 60 % 12;
-    return hour == 0 ? 12 : hour;
-}
-
-QString twoDigits(int value) { return u"%1"_s.arg(value, 2, 10, QLatin1Char{'0'}); }
-
 /// What stands behind a line's last comma, in a column without a title, which is empty for all others.
 QString exportedMark(const R& reading) {
     QStringList marks;
@@ -193,12 +186,7 @@ QString ReadingModel::strDisplayDate(const SettingModel& settings) const {
 }
 
 QString ReadingModel::strDisplayTime(const SettingModel& settings) const {
-    if (isUndated()) return u"--:--"_s;
-    const int hour = minuteOfDay / 60;
-    const QString minute = twoDigits(minuteOfDay % 60);
-    if (!settings.is12Hours()) return twoDigits(hour) + u':' + minute;
-    const QString time = twoDigits(hourOnDial(minuteOfDay)) + u':' + minute;
-    return (isPMData ? qtTrId("%1 P") : qtTrId("%1 A")).arg(time);
+    return isUndated() ? u"--:--"_s : settings.timeText(minuteOfDay);
 }
 
 } // namespace zel

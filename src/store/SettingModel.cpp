@@ -1,5 +1,6 @@
 #include "store/SettingModel.h"
 
+#include "store/Dates.h"
 #include "store/RecordXml.h"
 
 #include <QStringList>
@@ -72,6 +73,18 @@ QString SettingModel::getDateFormat() const {
     if (dateFormat == "mm dd yyyy"_L1) return u"MM/dd/yyyy"_s;
     if (dateFormat == "yyyy mm dd"_L1) return u"yyyy/MM/dd"_s;
     return {};
+}
+
+QString SettingModel::shownDateFormat() const {
+    const QString format = getDateFormat();
+    return format.isNull() ? u"yyyy/MM/dd"_s : format;
+}
+
+QString SettingModel::timeText(int minuteOfDay) const {
+    const int hour = is12Hours() ? hourOnDial(minuteOfDay) : minuteOfDay / 60;
+    const QString shown = QString::asprintf("%02d:%02d", hour, minuteOfDay % 60);
+    if (!is12Hours()) return shown;
+    return (minuteOfDay < 12 * 60 ? qtTrId("%1 A") : qtTrId("%1 P")).arg(shown);
 }
 
 QString SettingModel::getPractitioner() const {

@@ -36,6 +36,10 @@ struct SettingModel {
 
     /// Unicode date pattern of dateFormat, or a null text for a value that is none.
     [[nodiscard]] QString getDateFormat() const;
+    /// The same for what has to be said all the same: year, month and day for a value that is none.
+    [[nodiscard]] QString shownDateFormat() const;
+    /// "19:30", or "07:30" with the words for morning or evening. \p minuteOfDay: 0 to 1439
+    [[nodiscard]] QString timeText(int minuteOfDay) const;
     /// The practitioner's lines without those that a new data file suggests: what is nobody's own.
     [[nodiscard]] QString getPractitioner() const;
     [[nodiscard]] bool isMetric() const;

@@ -15,12 +15,12 @@ NAMED = "red|green|blue|cyan|magenta|yellow|black|white|gray|lightGray|dark(?:Re
 NUMBER = r"(?<![\w.])(?!0(?![\w.]))\d"  # not none at all
 SETTERS = (
     "setContentsMargins|setSpacing|setHorizontalSpacing|setVerticalSpacing|addSpacing|setGaps|setMargin|setIndent|setCellPadding"
-    "|setCellSpacing|setDocumentMargin|setIconSize|setBorder|addRoundedRect"
+    "|setCellSpacing|setDocumentMargin|setIconSize|setHandleWidth|setBorder|addRoundedRect"
 )
 RULES = (
     ("a colour", re.compile(rf"\bQt::(?:{NAMED})\b|\bQColor\b(?:\s+\w+)?\s*[({{]\s*(?:\d|u?\"|QRgb)|\bQColor::from\w+\(|\bqRgba?\(")),
     ("a colour", re.compile(r"\"[^\"]*#[0-9a-fA-F]{3,8}\b[^\"]*\"")),
-    ("a size of type", re.compile(r"\b(?:setPointSizeF?|setPixelSize|scaledFont)\(|\bQFont\b(?:\s+\w+)?\s*[({][^)}]*,")),
+    ("a size of type", re.compile(r"\b(?:setPointSizeF?|setPixelSize)\(|\bQFont\b(?:\s+\w+)?\s*[({][^)}]*,")),
     ("a distance", re.compile(rf"\b(?:{SETTERS})\((?:[^;]*?){NUMBER}")),
     ("a distance", re.compile(r"\b(?:margin|gap|padding|spacing|edge)\w*\s*=\s*[1-9]\d*\s*[,;]")),
     ("a style sheet", re.compile(r"\bsetStyleSheet\((?!Style::)")),

@@ -18,7 +18,7 @@ CLEAN = {
     "src/app/widgets/Box.h": '#include "store/File.h"\n#include <QWidget>\n#include <QtGui/QPainter>\n',
     "src/app/widgets/CMakeLists.txt": "zel_room(app_widgets DOORS zel_store Qt6::Widgets)\n",
     "src/app/widgets/Style.h": "struct Style { static constexpr int near = 8; };\n",
-    "src/app/widgets/Style.cpp": "auto red = Qt::red; auto font = scaledFont(other, 2);\n",
+    "src/app/widgets/Style.cpp": "auto red = Qt::red; font.setPointSizeF(2);\n",
     "src/app/graph/Page.h": '#include "app/widgets/Box.h"\n',
     "src/app/graph/Page.cpp": "row->setContentsMargins(0, 0, Style::near, 0); // not (0, 0, 8, 0)\n"
     "row->setSpacing(0); QColor wash = other; pen(Qt::transparent); box->setStyleSheet(Style::sheet());\n",
@@ -99,6 +99,7 @@ LOOK_PLANTS = (
     ("src/app/graph/Page.cpp", "auto ink = QColor::fromRgb(1, 2, 3);", "a colour"),
     ("src/app/graph/Page.cpp", 'auto sheet = u"color: #fff";', "a colour"),
     ("src/app/graph/Page.cpp", "font.setPointSizeF(font.pointSizeF() * 1.1);", "a size of type"),
+    ("src/app/graph/Page.cpp", "sides->setHandleWidth(12);", "a distance"),
     ("src/app/graph/Page.cpp", 'QFont font(u"Sans"_s, 12);', "a size of type"),
     ("src/app/graph/Page.cpp", "row->setContentsMargins(0, 0, 0,\n    9);", "a distance"),
     ("src/app/graph/Page.cpp", "row->setSpacing(8);", "a distance"),

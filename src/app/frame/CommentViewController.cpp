@@ -100,13 +100,8 @@ void CommentViewController::enableCommentUI(bool enabled) {
 }
 
 void CommentViewController::updateDaetInfo(const CommentModel& comment) {
-    const QString pattern = datePattern();
+    const QString pattern = store.getSetting().shownDateFormat();
     form->showDates(commentDayText(comment.beginDate, pattern), commentDayText(comment.endDate, pattern));
-}
-
-QString CommentViewController::datePattern() const {
-    const QString format = store.getSetting().getDateFormat();
-    return format.isNull() ? u"yyyy/MM/dd"_s : format;
 }
 
 void CommentViewController::showPosition() {
@@ -144,7 +139,7 @@ CommentViewController::Typed CommentViewController::typed() const {
 /// A day that is typed as it was keeps its time.
 void CommentViewController::takeDay(const std::optional<QString>& text, bool begin, Typed& into) const {
     if (!text) return;
-    const QString pattern = datePattern();
+    const QString pattern = store.getSetting().shownDateFormat();
     Date& stored = begin ? into.comment.beginDate : into.comment.endDate;
     if (*text == commentDayText(stored, pattern)) return;
     const Date day = typedCommentDay(*text, pattern);
@@ -238,7 +233,8 @@ void CommentViewController::askAboutEmpty() {
     const QString ID = std::exchange(unasked, QString());
     const bool isShown = shown && !ID.isNull() && shown->CommentID == ID && shown->ID == store.getCurrentID();
     if (isLoading || !isShown || !form->text().trimmed().isEmpty()) return;
-    const QString question = qtTrId("commentEmpty").arg(commentDayText(shown->beginDate, datePattern()));
+    const QString question =
+        qtTrId("commentEmpty").arg(commentDayText(shown->beginDate, store.getSetting().shownDateFormat()));
     const QString patientID = shown->ID;
     if (!panel.AskMessage(question, qtTrId("commentEmptyTitle"))) return;
     if (store.getCurrentID() == patientID) erase(ID);

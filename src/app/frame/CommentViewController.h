@@ -68,7 +68,6 @@ private:
     [[nodiscard]] bool refuseDates();
     void askAboutEmpty();
     void erase(const QString& commentID);
-    [[nodiscard]] QString datePattern() const;
     void go(bool forward);
     void show(const CommentModel& comment);
     void showPosition();

@@ -1,5 +1,7 @@
 #include "app/patients/DataPanel.h"
 
+#include "app/widgets/PatientTexts.h"
+
 #include <QDir>
 
 #include <algorithm>
@@ -33,13 +35,11 @@ DataPanel::DataPanel(const DataStore& dataStore, QWidget* parent)
 }
 
 void DataPanel::showState() {
-    const DataLogList& downloads = store.getTrasferLogForCurID();
+    const DataLogList downloads = downloadsLatestFirst(store);
     lblPatients->setText(QString::number(store.getPatientArray().size()));
     lblReadings->setText(readingsText(store.getReadingForCurID()));
-    const QString format = store.getSetting().getDateFormat();
-    lblLastDownload->setText(downloads.empty() || format.isNull()
-                                 ? qtTrId("lastDownloadNone")
-                                 : DateToStr(downloads.back().transferDate, format));
+    lblLastDownload->setText(downloads.empty() ? qtTrId("lastDownloadNone")
+                                               : downloadDayText(downloads.front(), store.getSetting()));
     showPath();
 }
 

@@ -11,8 +11,6 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <functional>
 #include <numeric>
 
 namespace zel {
@@ -22,20 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 enum DownloadColumn { downloadDay, downloadTime, downloadCount, downloadColumns };
-
-/// Of a log that other programs wrote, the day may be missing.
-QString timeOf(const Date& when, const SettingModel& settings) {
-    if (isNilDate(when)) return {};
-    if (!settings.is12Hours()) return DateToStr(when, u"HH:mm"_s);
-    const bool isMorning = DateToStr(when, u"HH"_s).toInt() < 12;
-    return (isMorning ? qtTrId("%1 A") : qtTrId("%1 P")).arg(DateToStr(when, u"hh:mm"_s));
-}
-
-QString dayOf(const Date& when, const SettingModel& settings) {
-    const QString format = settings.getDateFormat();
-    return isNilDate(when) ? qtTrId("downloadDayUnknown")
-                           : DateToStr(when, format.isNull() ? u"yyyy/MM/dd"_s : format);
-}
 
 QTableWidgetItem* cell(const QString& text, Qt::Alignment side) {
     auto* item = new QTableWidgetItem(text);
@@ -84,15 +68,16 @@ void DownloadsDialog::build() {
 }
 
 void DownloadsDialog::fill() {
-    DataLogList downloads = store.getTrasferLogForCurID();
-    std::ranges::stable_sort(downloads, std::greater(), &DataTransferLogModel::transferDate);
+    const DataLogList downloads = downloadsLatestFirst(store);
+    const SettingModel& settings = store.getSetting();
+    const LocalZone zone;
     tblDownloads->setRowCount(static_cast<int>(downloads.size()));
     int row = 0;
     for (const DataTransferLogModel& download : downloads) {
-        const SettingModel& settings = store.getSetting();
-        tblDownloads->setItem(row, downloadDay, cell(dayOf(download.transferDate, settings), Qt::AlignLeft));
-        tblDownloads->setItem(row, downloadTime,
-                              cell(timeOf(download.transferDate, settings), Qt::AlignLeft));
+        const Date& when = download.transferDate;
+        const QString time = isNilDate(when) ? QString() : settings.timeText(zone.dayMinute(when).minute);
+        tblDownloads->setItem(row, downloadDay, cell(downloadDayText(download, settings), Qt::AlignLeft));
+        tblDownloads->setItem(row, downloadTime, cell(time, Qt::AlignLeft));
         tblDownloads->setItem(row++, downloadCount,
                               cell(QString::number(download.numofRecord), Qt::AlignRight));
     }

@@ -215,8 +215,6 @@ PatientEntry PatientEditor::typedOver(const PatientForm& other) const {
 
 bool PatientEditor::isChanged() const { return form.isChanged(entry(), today()); }
 
-std::vector<PatientProblem> PatientEditor::problems() const { return form.problems(entry(), today()); }
-
 void PatientEditor::mark(const std::vector<PatientProblem>& found) {
     forEachPatientField([&](PatientField field) { box(field).setProblem({}); });
     for (const PatientProblem& problem : found)

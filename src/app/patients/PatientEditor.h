@@ -34,7 +34,6 @@ public:
     /// What the user typed over the record that was shown, over \p other.
     [[nodiscard]] PatientEntry typedOver(const PatientForm& other) const;
     [[nodiscard]] bool isChanged() const;
-    [[nodiscard]] std::vector<PatientProblem> problems() const;
 
     /// Says what is wrong at each field, and goes to the first of them.
     void mark(const std::vector<PatientProblem>& found);

@@ -53,7 +53,7 @@ PatientViewController::PatientViewController(const Parts& needed)
 void PatientViewController::build() {
     auto* sides = new QSplitter(this);
     sides->setChildrenCollapsible(false);
-    sides->setHandleWidth(12);
+    sides->setHandleWidth(Style::apart);
     sides->addWidget(roster);
     sides->addWidget(editor);
     sides->setStretchFactor(0, 2);
@@ -227,19 +227,10 @@ bool PatientViewController::settle() {
     return leave();
 }
 
-/// Nobody is there to be asked: what leaving would ask about is taken to be wanted.
-bool PatientViewController::isSavedQuietly(const PatientForm& form, const PatientEntry& entry) {
-    const PatientModel record = form.record(entry);
-    const auto others = std::ranges::count(store.getPatientArray(), record.ID, &PatientModel::ID);
-    if (others != (form.isNew() ? 0 : 1) || !form.problems(entry, today()).empty()) return false;
-    return (form.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record, form.patient()))
-        .has_value();
-}
-
 QJsonArray PatientViewController::saveQuietly() {
     QJsonArray unsaved;
     const auto save = [&](const PatientForm& form, const PatientEntry& entry) {
-        if (!isSavedQuietly(form, entry)) unsaved.append(draftOf(form, entry));
+        if (!writer.isSavedQuietly(form, entry, today())) unsaved.append(draftOf(form, entry));
     };
     const bool isNewShown = isNewOne(store.getCurrentID());
     // The new one first: it stays open beside another when they are taken up.
@@ -261,11 +252,7 @@ bool PatientViewController::takeUp(const QJsonObject& draft) {
     const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
     PatientEntry entry = blank.entryOf();
     entry[PatientField::ID] = ID; // of a patient who is gone meanwhile
-    newPatient = {blank, typedIn(draft, entry)};
-    roster->showAll();
-    roster->reload(true);
-    open(u"-"_s);
-    editor->showPatient(newPatient->form, newPatient->entry); // not the blank one of an empty roster
+    showNew({blank, typedIn(draft, entry)});
     return true;
 }
 
@@ -276,14 +263,6 @@ Instant PatientViewController::today() const {
 SaveAnswer PatientViewController::askToSave(const QString& question) {
     const QString name = shortName(editor->shownForm().record(editor->entry()));
     return parts.panel.AskToSave(question.arg(name), qtTrId("SavePatient"));
-}
-
-/// Nobody types a whole patient for a file that takes none. It may have been mended since it was read.
-bool PatientViewController::canBeStored() {
-    const StoreResult read = store.lastLoad() ? StoreResult{} : store.loadXML();
-    if (read) return store.checkXmlWritable(parts.panel);
-    parts.panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
-    return false;
 }
 
 void PatientViewController::btnNewPatient() {
@@ -303,21 +282,25 @@ void PatientViewController::addPatient(const QString& ID) {
 }
 
 void PatientViewController::openNewPatient(const QString& ID) {
-    if (!canBeStored() || !leave()) return;
+    if (!writer.canWrite() || !leave()) return;
     const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
     PatientEntry entry = blank.entryOf();
     if (!ID.isEmpty()) entry[PatientField::ID] = ID;
-    newPatient = {blank, entry};
+    showNew({blank, entry});
+    editor->beginTyping();
+}
+
+void PatientViewController::showNew(Unsaved begun) {
+    newPatient = std::move(begun);
     roster->showAll();
     roster->reload(true);
     open(u"-"_s);
     editor->showPatient(newPatient->form, newPatient->entry); // not the blank one of an empty roster
-    editor->beginTyping();
 }
 
 bool PatientViewController::btnSavePatient() {
     if (!isThere(store.getCurrentID()) || !writer.isUnique(store.getCurrentID())) return false;
-    const auto found = problems();
+    const auto found = writer.problems(editor->shownForm(), editor->entry(), today());
     editor->mark(found);
     if (!found.empty()) {
         writer.refuse(found);
@@ -327,15 +310,6 @@ bool PatientViewController::btnSavePatient() {
     const bool isMissing = editor->shownForm().isNew() || isGone(record.ID);
     return (isMissing ? writer.add(record) : writer.write(record, editor->shownForm().patient()))
            && saved(record);
-}
-
-std::vector<PatientProblem> PatientViewController::problems() const {
-    auto found = editor->problems();
-    const PatientForm& form = editor->shownForm();
-    const QString ID = form.record(editor->entry()).ID;
-    if (form.isNew() && !IsEmptyID(ID) && store.validIDinXML(ID))
-        found.push_back({PatientField::ID, PatientProblem::Kind::sameID, qtTrId("sameID").arg(ID)});
-    return found;
 }
 
 /// A record of the file that lacks an element has no place for that field, and the user has to know.

@@ -71,6 +71,11 @@ signals:
     replaced(const QString& name); ///< the patient shown is not in the file any more, another one will be
 
 private:
+    struct Unsaved {
+        PatientForm form;
+        PatientEntry entry;
+    };
+
     void build();
     PatientButtons* makeButtons();
     void reload();
@@ -82,6 +87,7 @@ private:
     [[nodiscard]] bool isThere(const QString& ID) const;
     [[nodiscard]] bool isNewOneBegun() const;
     void openNewPatient(const QString& ID);
+    void showNew(Unsaved begun);
     [[nodiscard]] bool isNewOne(const QString& ID) const;
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();
@@ -89,12 +95,9 @@ private:
     void leaveEditor();
     void forget();
     [[nodiscard]] Instant today() const;
-    [[nodiscard]] bool isSavedQuietly(const PatientForm& form, const PatientEntry& entry);
     [[nodiscard]] PatientForm formOf(const QString& ID) const;
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
-    [[nodiscard]] std::vector<PatientProblem> problems() const;
-    [[nodiscard]] bool canBeStored();
     [[nodiscard]] SaveAnswer askToSave(const QString& question);
     [[nodiscard]] bool saved(const PatientModel& record);
     void dropNewPatient(const QString& next);
@@ -109,10 +112,6 @@ private:
     FirstSteps* firstSteps;
     QStackedWidget* rosterOrAdvice;
     PatientButtons* buttons = nullptr;
-    struct Unsaved {
-        PatientForm form;
-        PatientEntry entry;
-    };
     QString toldGone;                  ///< the ID of who was said to be gone, until there again
     std::optional<Unsaved> newPatient; ///< the one that is not saved yet, as it was left
 };

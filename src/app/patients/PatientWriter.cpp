@@ -32,6 +32,31 @@ void PatientWriter::refuse(const std::vector<PatientProblem>& found) {
     panel.ShowMessage(qtTrId("patientRefused").arg(texts.join(u'\n')), qtTrId("Warning"));
 }
 
+/// Nobody types a whole patient for a file that takes none. It may have been mended since it was read.
+bool PatientWriter::canWrite() {
+    const StoreResult read = store.lastLoad() ? StoreResult{} : store.loadXML();
+    if (read) return store.checkXmlWritable(panel);
+    panel.ShowMessage(describe(read.error()), qtTrId("dataFileUnreadable"));
+    return false;
+}
+
+std::vector<PatientProblem> PatientWriter::problems(const PatientForm& form, const PatientEntry& entry,
+                                                    Instant today) const {
+    auto found = form.problems(entry, today);
+    const QString ID = form.record(entry).ID;
+    if (form.isNew() && !IsEmptyID(ID) && store.validIDinXML(ID))
+        found.push_back({PatientField::ID, PatientProblem::Kind::sameID, qtTrId("sameID").arg(ID)});
+    return found;
+}
+
+bool PatientWriter::isSavedQuietly(const PatientForm& form, const PatientEntry& entry, Instant today) {
+    const PatientModel record = form.record(entry);
+    const auto others = std::ranges::count(store.getPatientArray(), record.ID, &PatientModel::ID);
+    if (others != (form.isNew() ? 0 : 1) || !form.problems(entry, today).empty()) return false;
+    return (form.isNew() ? store.addXMLPatient(record) : store.saveXMLPatient(record, form.patient()))
+        .has_value();
+}
+
 bool PatientWriter::write(const PatientModel& record, const PatientModel& shown) {
     const StoreResult written = store.saveXMLPatient(record, shown);
     const bool isGone = !written && written.error().code == StoreErrorCode::noSuchRecord;

@@ -13,6 +13,13 @@ public:
 
     /// Whether the ID leads to one record only. One without an ID is found by all that it holds.
     [[nodiscard]] bool isUnique(const QString& ID);
+    /// Tells why, if the data file takes no patient.
+    [[nodiscard]] bool canWrite();
+    /// What keeps an entry from being saved, an ID that another patient has among it.
+    [[nodiscard]] std::vector<PatientProblem> problems(const PatientForm& form, const PatientEntry& entry,
+                                                       Instant today) const;
+    /// Nobody is there to be asked: what leaving would ask about is taken to be wanted.
+    [[nodiscard]] bool isSavedQuietly(const PatientForm& form, const PatientEntry& entry, Instant today);
     /// Says why an entry is not written. \p found: at least one problem
     void refuse(const std::vector<PatientProblem>& found);
     /// Writes what \p record has other than \p shown. \return false if it could not be written

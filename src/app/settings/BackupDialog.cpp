@@ -192,7 +192,7 @@ void BackupDialog::fill(const QString& chosen) {
 /// \p path: what it is restored by, a name in the usual folder or a whole path.
 void BackupDialog::addRow(const Backup& copy, const QString& path, const QString& kind,
                           const QString& chosen) {
-    const QString pattern = std::as_const(store).getSetting().getDateFormat();
+    const QString pattern = std::as_const(store).getSetting().shownDateFormat();
     const int row = tblBackups->rowCount();
     tblBackups->insertRow(row);
     auto* name = new QTableWidgetItem(kind);
@@ -221,7 +221,7 @@ void BackupDialog::showChosen() {
     const QString shown = isFar ? qtTrId("backupFar").arg(QFileInfo(name).fileName()) : name;
     const auto content = isFar ? contentOfCopy(name) : store.backups().content(name);
     btnRestore->setEnabled(content.has_value());
-    const QString pattern = std::as_const(store).getSetting().getDateFormat();
+    const QString pattern = std::as_const(store).getSetting().shownDateFormat();
     lblBackup->setText(
         qtTrId("infoLine").arg(shown, content ? describe(*content, pattern) : qtTrId("backupUnreadable")));
 }

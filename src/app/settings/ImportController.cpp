@@ -65,7 +65,7 @@ void ImportController::importAll(const QStringList& paths) {
 
 ImportContext ImportController::context() const {
     return {.isKnown = [this](const QString& ID) { return parts.store.validIDinXML(ID); },
-            .dateFormat = std::as_const(parts.store).getSetting().getDateFormat()};
+            .dateFormat = std::as_const(parts.store).getSetting().shownDateFormat()};
 }
 
 void ImportController::importOne(const QString& path) {

@@ -134,9 +134,7 @@ QString XmlFileList::text(const Row& row, Column column) const {
     }
 }
 
-/// A file of settings without a date format has the file's own form.
 QString XmlFileList::dayOf(const XmlFile& file) const {
-    if (context.dateFormat.isNull()) return file.backupTime;
     return QDate::fromString(file.backupTime, u"yyyy/MM/dd"_s).toString(context.dateFormat);
 }
 

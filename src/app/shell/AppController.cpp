@@ -24,9 +24,6 @@
 #include "app/shell/WindowPlacement.h"
 #include "app/table/TableViewController.h"
 #include "app/widgets/Log.h"
-#include "store/CopyContent.h"
-#include "store/LanguageChoice.h"
-#include "store/Privacy.h"
 
 #include <QApplication>
 #include <QDir>
@@ -51,7 +48,9 @@ AppController::AppController(const Parts& needed, const Timing& times)
       graphPage(new GraphViewController({needed.store, needed.period, needed.panel, needed.clock})),
       tablePage(
           new TableViewController({needed.store, needed.status, needed.period, needed.panel, needed.clock})),
-      pages{patientPage, graphPage, tablePage} {
+      pages{patientPage, graphPage, tablePage},
+      questions({needed.store, needed.panel, needed.clock, needed.languageFile}),
+      unsaved({needed.store, needed.panel, pages, [this] { return isClosing; }}) {
     for (PageController* page : pages)
         window.addPage(*page);
     makePageMenus();
@@ -66,6 +65,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
+    connect(&questions, &StartQuestions::restored, this, &AppController::showRestored);
+    connect(&questions, &StartQuestions::said, &window, &MainWindow::showOutcome);
     undoer =
         new UndoController({needed.store, needed.status, needed.panel, [this] { return isEdited(); }}, this);
     connect(&window, &MainWindow::undoWanted, undoer, &UndoController::undo);
@@ -151,73 +152,15 @@ void AppController::applicationDidFinishLaunching(const StoreResult& loaded) {
     if (isClosing) return;
     window.show();
     if (isWantedInFront) bringToFront();
-    if (!loaded) offerBackup(loaded.error());
-    if (parts.store.lastLoad()) offerUnsaved();
+    if (!loaded) questions.offerBackup(loaded.error());
+    if (parts.store.lastLoad()) unsaved.offer();
     if (isClosing) return;
-    offerPrivacy();
-    tellUnreadLanguage();
+    questions.offerPrivacy();
+    questions.tellUnreadLanguage();
     if (isClosing) return;
     splash = new SplashWindow(&window);
     connect(splash, &SplashWindow::splashClosed, this, [this] { watch.setSplashClosed(); });
     splash->showSplash(timing.splash);
-}
-
-void AppController::tellUnreadLanguage() {
-    if (const auto chosen = readLanguageChoice(parts.languageFile); !chosen)
-        parts.panel.ShowMessage(describeUnreadLanguage(chosen.error()), qtTrId("Warning"));
-}
-
-/// Of the copies beside the data file; where there is none, one of the second folder joins them.
-std::optional<Backup> AppController::newestReadable() const {
-    const Backups& backups = parts.store.backups();
-    if (auto near = backups.newestReadable()) return near;
-    const auto second = secondFolder(parts.store.getZELXMLPath()).value_or(std::nullopt);
-    if (!second) return std::nullopt;
-    for (const Backup& copy : second->list()) {
-        if (!contentOfCopy(second->path(copy.name))) continue;
-        const auto now = std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
-        const auto name = fetchCopy(backups.folder(), second->path(copy.name), now);
-        return name ? backupOfName(*name) : std::nullopt;
-    }
-    return std::nullopt;
-}
-
-/// A file that is damaged gives way to the newest copy of it, if the user says so; any other is only told.
-void AppController::offerBackup(const StoreError& damage) {
-    const Backups& backups = parts.store.backups();
-    const auto copy = damage.code == StoreErrorCode::notParsed ? newestReadable() : std::nullopt;
-    const auto content = copy ? backups.content(copy->name) : tl::unexpected{damage};
-    const QString why = describe(damage);
-    if (!content) return parts.panel.ShowMessage(why, qtTrId("dataFileUnreadable"));
-    const QString holds = describe(*content, parts.store.getSetting().getDateFormat());
-    const QString question = why + u"\n\n"_s + qtTrId("backupOffered").arg(copy->name, holds);
-    if (parts.panel.AskToErase(question, qtTrId("dataFileUnreadable"))) goBackTo(*copy);
-}
-
-/// It is asked by itself, once for each start.
-void AppController::offerPrivacy() {
-    const QStringList open = readableByOthers(parts.store.getZELXMLPath());
-    if (open.isEmpty()) return;
-    const auto more = static_cast<int>(open.size()) - 1;
-    const QString which = more == 0 ? open.first() : qtTrId("privacyAskedMore").arg(open.first()).arg(more);
-    parts.panel.interject(this, [this, question = qtTrId("privacyAsked").arg(which)] {
-        if (parts.panel.AskMessage(question, qtTrId("privacyTitle"))) keepOthersOut();
-    });
-}
-
-void AppController::keepOthersOut() {
-    QStringList left;
-    for (const StoreError& error : makePrivate(parts.store.getZELXMLPath()))
-        left += describe(error);
-    std::ignore = parts.store.takeChanges(); // or the new mode would be taken for another program's change
-    if (left.isEmpty()) return window.showOutcome(qtTrId("privacyMended"));
-    parts.panel.ShowMessage(left.join(u'\n'), qtTrId("Warning"));
-}
-
-void AppController::goBackTo(const Backup& copy) {
-    const auto kept = parts.store.restoreBackup(copy.name);
-    if (!kept) return parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
-    showRestored(copy.name, *kept);
 }
 
 void AppController::showRestored(const QString& name, const QString& kept) {
@@ -445,45 +388,8 @@ void AppController::bringToFront() {
 
 void AppController::terminate() {
     if (std::exchange(isTerminated, true)) return; // asked twice
-    keepUnsaved();
+    unsaved.keep();
     end();
-}
-
-void AppController::keepUnsaved() {
-    const UnsavedFile file(parts.store.getZELXMLPath());
-    QJsonArray drafts = file.read();
-    const auto before = drafts.size();
-    for (PageController* page : pages) {
-        for (const QJsonValue unsaved : page->saveQuietly()) {
-            QJsonObject draft = unsaved.toObject();
-            draft[u"page"_s] = page->objectName();
-            drafts.append(draft);
-        }
-    }
-    if (drafts.size() == before) return;
-    if (const StoreResult kept = file.write(drafts); !kept)
-        qCWarning(lcApp, "What was typed could not be kept: %s", qUtf8Printable(describe(kept.error())));
-}
-
-/// What was typed when the program was ended the last time.
-void AppController::offerUnsaved() {
-    const UnsavedFile file(parts.store.getZELXMLPath());
-    QJsonArray left;
-    for (const QJsonValue draft : file.read())
-        if (!isSettled(draft.toObject())) left.append(draft);
-    if (const StoreResult kept = file.write(left); !kept)
-        parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
-}
-
-/// \return false if it is to be offered again; nothing is dropped by an answer that changes nothing elsewhere
-bool AppController::isSettled(const QJsonObject& draft) {
-    const QString name = draft[u"name"_s].toString();
-    const QString title = qtTrId("unsavedTitle");
-    const auto page = std::ranges::find(pages, draft[u"page"_s].toString(), &PageController::objectName);
-    if (isClosing || page == pages.end()) return false;
-    if (!parts.panel.AskMessage(qtTrId("unsavedFound").arg(name), title))
-        return !isClosing && parts.panel.AskToErase(qtTrId("unsavedDelete").arg(name), title);
-    return (*page)->takeUp(draft);
 }
 
 void AppController::end() {

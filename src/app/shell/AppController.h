@@ -8,6 +8,8 @@
 #include "app/shell/DataWatch.h"
 #include "app/shell/HelpDocument.h"
 #include "app/shell/MainWindow.h"
+#include "app/shell/StartQuestions.h"
+#include "app/shell/UnsavedWork.h"
 #include "app/widgets/FileChooser.h"
 #include "store/DataStore.h"
 
@@ -108,18 +110,9 @@ private:
     void makePageMenus();
     void connectDataWatch();
     void end();
-    void offerBackup(const StoreError& damage);
-    [[nodiscard]] std::optional<Backup> newestReadable() const;
-    void offerPrivacy();
-    void tellUnreadLanguage();
-    void keepOthersOut();
-    void goBackTo(const Backup& copy);
     void showRestored(const QString& name, const QString& kept);
     void tellNotBackedUp(const QString& why);
-    void keepUnsaved();
-    void offerUnsaved();
     void takeUpView();
-    [[nodiscard]] bool isSettled(const QJsonObject& draft);
     [[nodiscard]] bool isEdited() const;
     void tellReplaced(const QString& name);
     void showStep(const StepName& name);
@@ -138,6 +131,8 @@ private:
     GraphViewController* graphPage;
     TableViewController* tablePage;
     std::array<PageController*, MainWindow::tabTotal> pages;
+    StartQuestions questions;
+    UnsavedWork unsaved;
     PeriodFollower* follower = nullptr;
     UndoController* undoer = nullptr;
     std::unique_ptr<ViewKeeper> viewKeeper; ///< if anything is remembered

@@ -10,9 +10,9 @@ namespace zel {
 /// What a list of files to import says of them, beside what is in them.
 struct ImportContext {
     std::function<bool(const QString& ID)> isKnown = [](const QString&) { return false; };
-    QString dateFormat{}; ///< as SettingModel::getDateFormat()
-    QStringList files{};  ///< listed instead of a folder's, and chosen as far as they can be imported
-    QString remark{};     ///< for the user, about these files
+    QString dateFormat = QStringLiteral("yyyy/MM/dd"); ///< as SettingModel::shownDateFormat()
+    QStringList files{}; ///< listed instead of a folder's, and chosen as far as they can be imported
+    QString remark{};    ///< for the user, about these files
 };
 
 /// How the user picks the folder of an export, the files of an import and the file of a report. The window

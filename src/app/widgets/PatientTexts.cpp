@@ -3,6 +3,7 @@
 #include "store/Text.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace zel {
 
@@ -74,7 +75,18 @@ QString listedName(const PatientModel& patient) {
 
 QString birthText(const PatientModel& patient, const SettingModel& settings) {
     const Date& birth = patient.DateOfBirth;
-    return isNilDate(birth) ? QString() : DateToStr(birth, settings.getDateFormat());
+    return isNilDate(birth) ? QString() : DateToStr(birth, settings.shownDateFormat());
+}
+
+DataLogList downloadsLatestFirst(const DataStore& store) {
+    DataLogList downloads = store.getTrasferLogForCurID();
+    std::ranges::stable_sort(downloads, std::greater(), &DataTransferLogModel::transferDate);
+    return downloads;
+}
+
+QString downloadDayText(const DataTransferLogModel& download, const SettingModel& settings) {
+    return isNilDate(download.transferDate) ? qtTrId("downloadDayUnknown")
+                                            : DateToStr(download.transferDate, settings.shownDateFormat());
 }
 
 QString readingSummary(const DataStore& store) {

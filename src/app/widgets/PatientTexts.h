@@ -19,6 +19,10 @@ namespace zel {
 [[nodiscard]] QString listedName(const PatientModel& patient);
 /// The date of birth as the settings have dates; empty when it is not known.
 [[nodiscard]] QString birthText(const PatientModel& patient, const SettingModel& settings);
+/// The current patient's.
+[[nodiscard]] DataLogList downloadsLatestFirst(const DataStore& store);
+/// Of a log that other programs wrote, the day may be missing, which is said.
+[[nodiscard]] QString downloadDayText(const DataTransferLogModel& download, const SettingModel& settings);
 /// How many readings the current patient has, and from when to when.
 [[nodiscard]] QString readingSummary(const DataStore& store);
 

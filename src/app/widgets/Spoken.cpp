@@ -19,10 +19,10 @@ namespace {
 
 constexpr const char* roleProperty = "spokenRole";
 
-/// The list's name is its own, and what is chosen in it is its text.
-class SpokenChoice final : public QAccessibleWidget, public SpokenText {
+/// Its name is its caption, and what it holds is its text.
+class SpokenContent : public QAccessibleWidget, public SpokenText {
 public:
-    explicit SpokenChoice(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), choice(box) {}
+    using QAccessibleWidget::QAccessibleWidget;
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
@@ -32,6 +32,13 @@ public:
         return kind == QAccessible::Value ? whole() : QAccessibleWidget::text(kind);
     }
     [[nodiscard]] QString text(int begin, int end) const override { return SpokenText::text(begin, end); }
+};
+
+/// What is chosen in the list is its text.
+class SpokenChoice final : public SpokenContent {
+public:
+    explicit SpokenChoice(QComboBox& box) : SpokenContent(&box, QAccessible::ComboBox), choice(box) {}
+
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State now = QAccessibleWidget::state();
         now.expandable = now.hasPopup = true;
@@ -74,18 +81,9 @@ private:
     QComboBox& choice;
 };
 
-class SpokenValue final : public QAccessibleWidget, public SpokenText {
+class SpokenValue final : public SpokenContent {
 public:
-    explicit SpokenValue(QLabel& label) : QAccessibleWidget(&label, QAccessible::StaticText), value(label) {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override {
-        if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
-    [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? whole() : QAccessibleWidget::text(kind);
-    }
-    [[nodiscard]] QString text(int begin, int end) const override { return SpokenText::text(begin, end); }
+    explicit SpokenValue(QLabel& label) : SpokenContent(&label, QAccessible::StaticText), value(label) {}
 
 protected:
     [[nodiscard]] QString whole() const override { return value.text(); }

@@ -63,7 +63,12 @@ QString pixels(int length) { return u"%1px"_s.arg(length); }
 
 } // namespace
 
-QFont Style::type(const QFont& font, Type size, bool bold) { return scaledFont(font, factorOf(size), bold); }
+QFont Style::type(const QFont& font, Type size, bool bold) {
+    QFont scaled = font;
+    if (font.pointSizeF() > 0) scaled.setPointSizeF(font.pointSizeF() * factorOf(size));
+    scaled.setBold(bold);
+    return scaled;
+}
 
 void Style::setType(QLabel& label, Type size) {
     QWidget& around = *label.parentWidget();
@@ -202,13 +207,6 @@ void Style::followFrame(QFrame& frame, int width, const std::function<QColor(con
     });
     follower->setObjectName(frameFollower);
     follower->followColours();
-}
-
-QFont scaledFont(const QFont& font, double factor, bool bold) {
-    QFont scaled = font;
-    if (font.pointSizeF() > 0) scaled.setPointSizeF(font.pointSizeF() * factor);
-    scaled.setBold(bold);
-    return scaled;
 }
 
 } // namespace zel

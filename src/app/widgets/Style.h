@@ -77,7 +77,4 @@ struct Style {
     static void followSheet(QWidget& widget, const std::function<QString(const QPalette&)>& sheet);
 };
 
-/// The font, \p factor times as large.
-[[nodiscard]] QFont scaledFont(const QFont& font, double factor, bool bold = false);
-
 } // namespace zel

@@ -20,6 +20,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QFont scaledFont(QFont font, double factor) {
+    font.setPointSizeF(font.pointSizeF() * factor);
+    return font;
+}
+
 class PeriodBarTest : public ReadingPageTest {
 protected:
     void openYear() {
