@@ -269,6 +269,13 @@ TEST_F(DownloadTest, CountWaitsForTheRecordsThatFollow) {
         port.answers = {download(3, hexCount)};
         EXPECT_EQ(outcome(commands.getBPMCycleDataCount()), MonitorResult::badCheckField) << hexCount;
     }
+    for (const std::size_t surplus : {reportCapacity, reportCapacity + 1}) { // a report too many, and more
+        port.answers = {download(3, "03")};
+        for (Report& report : reportsOf(std::string(surplus, '0'), reportCapacity))
+            port.answers[0].push_back(std::move(report));
+        EXPECT_EQ(outcome(commands.getBPMCycleDataCount()),
+                  surplus > reportCapacity ? MonitorResult::badCheckField : MonitorResult::success);
+    }
 }
 
 TEST_F(DownloadTest, AsksForTheModelFirstAndFailsWithoutIt) {

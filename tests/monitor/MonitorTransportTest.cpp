@@ -133,6 +133,26 @@ TEST_F(MonitorTransportTest, LateAnswerIsNotTakenForTheNextOne) {
     }
 }
 
+TEST_F(MonitorTransportTest, LateAnswerIsWaitedForOnlyUntilItIsOver) {
+    EXPECT_EQ(outcome(commands.getBPMID()), MonitorResult::timeOut);
+    const auto late = reply(goodID, 5);
+    port.onRead = [this, late, next = 0U]() mutable {
+        if (next < late.size() && elapsed() >= 90ms * next) port.queued.push_back(late[next++]);
+    };
+    port.answers = {reply(goodVersion)};
+    begin = clock.now();
+    EXPECT_EQ(version(), MonitorResult::success);
+    EXPECT_NEAR(seconds(elapsed()), 0.09 * static_cast<double>(late.size() - 1) + 0.1, 0.02);
+}
+
+TEST_F(MonitorTransportTest, NoLateAnswerIsWaitedForBehindARefusal) {
+    port.answers = {reportsOf("\x15", 1), reply(goodVersion)};
+    EXPECT_EQ(version(), MonitorResult::noAcknowledgement);
+    begin = clock.now();
+    EXPECT_EQ(version(), MonitorResult::success);
+    EXPECT_LT(elapsed(), 50ms);
+}
+
 TEST_F(MonitorTransportTest, StaleHandleIsReplacedAndALiveOneKept) {
     port.answers = {reply(goodVersion), reply(goodVersion), reply(goodVersion)};
     EXPECT_EQ(version(), MonitorResult::success);

@@ -2,6 +2,7 @@
 
 #include "Outcome.h"
 #include "monitor/BPMModel.h"
+#include "monitor/SimulatedDevice.h"
 #include "monitor/SimulatedMonitorPlan.h"
 #include "support/ManualClock.h"
 
@@ -70,6 +71,15 @@ TEST_F(SimulatedMonitorTest, AnswersByteForByte) {
     EXPECT_EQ(answer(Command::records).substr(0, 64), records);
     EXPECT_TRUE(checkSum(answer(Command::records)));
     EXPECT_EQ(answer(static_cast<Command>('?')), "");
+}
+
+TEST_F(SimulatedMonitorTest, ReportThatEndsBeforeItsCommandAsksForNothing) {
+    SimulatedDevice device({}, clock);
+    const auto whole = commandFrame(Command::version);
+    EXPECT_TRUE(device.take(std::span(whole).first(commandPreamble.size())));
+    EXPECT_FALSE(device.next());
+    EXPECT_TRUE(device.take(whole));
+    EXPECT_TRUE(device.next());
 }
 
 TEST_F(SimulatedMonitorTest, ReportsAreAsLongAsThePlanSaysAndAsManyAsAFaultLeaves) {
