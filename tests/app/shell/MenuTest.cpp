@@ -247,6 +247,23 @@ TEST_F(MenuTest, withoutAViewerTheManualHasAWindowOfItsOwn) {
     EXPECT_TRUE(help.isVisible());
 }
 
+TEST_F(MenuTest, eachPictureOfTheManualsIsCarriedInside) {
+    const QStringList manuals = QDir(u":/manual"_s).entryList({u"manual*.md"_s});
+    ASSERT_GE(manuals.size(), 2);
+    const QRegularExpression link(uR"(!\[[^\]]*\]\(([^)]+)\))"_s);
+    for (const QString& name : manuals) {
+        QFile manual(u":/manual/"_s + name);
+        ASSERT_TRUE(manual.open(QFile::ReadOnly));
+        const QString text = QString::fromUtf8(manual.readAll());
+        auto pictures = link.globalMatch(text);
+        EXPECT_TRUE(pictures.hasNext()) << name.toStdString();
+        while (pictures.hasNext()) {
+            const QString path = pictures.next().captured(1);
+            EXPECT_FALSE(QImage(u":/manual/"_s + path).isNull()) << path.toStdString();
+        }
+    }
+}
+
 TEST_F(MenuTest, theDesktopIsAskedWhetherItShowsPdfFiles) {
     const QByteArray before = qgetenv("PATH");
     const auto withTool = [&](const QByteArray& script) {
