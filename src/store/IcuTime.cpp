@@ -85,17 +85,27 @@ QString formatDate(const Date& date, const QString& pattern, const char* locale,
     return fromIcu(text);
 }
 
-Date parseAsUtc(const QString& text, const QString& pattern) {
+std::optional<ZonedDate> parseZoned(const QString& text, const QString& pattern) {
     // ICU divides by zero over some dozens of digits of a second.
     if (text.size() > longestDate) return {};
     const auto* parsing = parserOf(pattern);
     if (!parsing) return {};
     const icu::UnicodeString source = toIcu(text);
     icu::ParsePosition position{0};
-    const UDate date = parsing->parse(source, position);
+    const std::unique_ptr<icu::Calendar> fields{parsing->getCalendar()->clone()};
+    fields->clear();
+    parsing->parse(source, *fields, position);
     if (position.getIndex() == 0 || position.getIndex() != source.length()) return {};
+    UErrorCode status = U_ZERO_ERROR;
+    const UDate date = fields->getTime(status);
     // Days are counted in whole numbers.
-    return std::abs(date) <= farthest ? Date{fromUDate(date)} : Date{};
+    if (U_FAILURE(status) || std::abs(date) > farthest) return {};
+    return ZonedDate{fromUDate(date), offsetAt(fields->getTimeZone(), fromUDate(date), false)};
+}
+
+Date parseAsUtc(const QString& text, const QString& pattern) {
+    const auto parsed = parseZoned(text, pattern);
+    return parsed ? Date{parsed->date} : Date{};
 }
 
 } // namespace zel

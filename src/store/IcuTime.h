@@ -21,8 +21,14 @@ namespace zel {
 /// The date by a Unicode pattern; a null text for no date and for a pattern that is none.
 [[nodiscard]] QString formatDate(const Date& date, const QString& pattern, const char* locale,
                                  std::unique_ptr<icu::TimeZone> zone);
-/// Reads the whole text, fields without a zone as UTC. None for a text that is longer than a date, or a date
+struct ZonedDate {
+    Instant date;
+    std::chrono::milliseconds offset; ///< how far the text's zone is ahead of UTC
+};
+/// Reads the whole text, one without a zone as UTC. None for a text that is longer than a date, or a date
 /// that is ten thousand years off.
+[[nodiscard]] std::optional<ZonedDate> parseZoned(const QString& text, const QString& pattern);
+/// The same without the zone.
 [[nodiscard]] Date parseAsUtc(const QString& text, const QString& pattern);
 
 } // namespace zel

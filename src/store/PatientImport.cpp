@@ -86,6 +86,18 @@ QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) 
     return texts;
 }
 
+/// The first of the records' IDs, by their kinds, that is such a one; null for none.
+template <typename Wanted>
+QString firstRecordID(pugi::xml_node root, const Wanted& isWanted) {
+    for (const char* kind : personalKinds) {
+        for (const pugi::xml_node node : root.children()) {
+            if (!isElement(node, kind)) continue;
+            if (QString ID = childText(node, "ID"); isWanted(ID)) return ID;
+        }
+    }
+    return {};
+}
+
 /// Such an ID would be another patient's than the one without them, and none that a monitor keeps.
 void trimIDs(pugi::xml_node root) {
     for (const pugi::xml_node node : root.children()) {
@@ -143,10 +155,8 @@ std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString&
     }
     qCDebug(lcStore, "itemNodes = %lld", static_cast<long long>(IDs.size()));
     if (IDs.isEmpty()) return ImportRefusal{ImportRefusalCode::noPatient, path, {}, {}};
-    for (const char* kind : personalKinds) {
-        for (const QString& ID : textsOf(imported, kind, "ID"))
-            if (hasControl(ID)) return ImportRefusal{ImportRefusalCode::badID, path, ID.simplified(), {}};
-    }
+    const QString bad = firstRecordID(imported, hasControl);
+    if (!bad.isNull()) return ImportRefusal{ImportRefusalCode::badID, path, bad.simplified(), {}};
     return std::nullopt;
 }
 
@@ -159,11 +169,8 @@ QSet<QString> recordIDs(pugi::xml_node imported) {
 
 QString knownPatient(pugi::xml_node data, pugi::xml_node imported) {
     const QSet<QString> known = textsOf(data, "Patient", "ID");
-    for (const char* kind : personalKinds) {
-        for (const QString& ID : textsOf(imported, kind, "ID"))
-            if (known.contains(ID)) return ID;
-    }
-    return {};
+    if (known.isEmpty()) return {};
+    return firstRecordID(imported, [&known](const QString& ID) { return known.contains(ID); });
 }
 
 ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported, StepRecorder& recorder) {

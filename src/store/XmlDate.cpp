@@ -30,10 +30,15 @@ int digits(std::string_view text) {
                            [](int value, char c) { return value * 10 + (c - '0'); });
 }
 
+struct FileDate {
+    Instant date;
+    Date wall; ///< what the text shows without its zone, as if in UTC; none where the zone has no sign
+};
+
 /// Exactly "yyyy-MM-ddTHH:mm:ss+hh:mm", the form that this program writes, or the same with milliseconds;
 /// none for any other, which is left to the formatter. A whole file of dates is read this way, a hundred
 /// times faster.
-Date parseUsualForm(std::string_view text) {
+std::optional<FileDate> parseUsualForm(std::string_view text) {
     constexpr std::string_view shape = "dddd-dd-ddTdd:dd:dd";
     constexpr std::string_view millisecondsShape = ".ddd";
     const bool hasMilliseconds = text.size() == shape.size() + millisecondsShape.size() + zoneShape.size();
@@ -56,8 +61,9 @@ Date parseUsualForm(std::string_view text) {
                                            std::chrono::day{static_cast<unsigned>(number(8, 2))}};
     if (!date.ok() || date.year() < std::chrono::year{1} || hour > 23 || minute > 59 || second > 59)
         return {};
-    return Instant{std::chrono::sys_days{date}} - *offset + seconds{(hour * 60 + minute) * 60 + second}
-           + milliseconds{hasMilliseconds ? digits(fraction.substr(1)) : 0};
+    const Instant wall = Instant{std::chrono::sys_days{date}} + seconds{(hour * 60 + minute) * 60 + second}
+                         + milliseconds{hasMilliseconds ? digits(fraction.substr(1)) : 0};
+    return FileDate{wall - *offset, wall};
 }
 
 /// Without the digits beyond milliseconds.
@@ -69,27 +75,42 @@ QString withMilliseconds(QString text) {
     return end > begin + 3 ? text.remove(begin + 3, end - begin - 3) : text;
 }
 
+/// The zone follows the seconds, which are at least one digit behind the second colon.
+bool hasSignedZone(const QString& text) {
+    const auto seconds = text.indexOf(u':', text.indexOf(u':') + 1) + 1;
+    const auto sign = std::max(text.lastIndexOf(u'+'), text.lastIndexOf(u'-'));
+    return sign > seconds;
+}
+
 /// Any form that the rule of the file format takes: the last colon belongs to the zone, a point to
 /// milliseconds.
-Date parseAnyForm(const QString& text) {
+std::optional<FileDate> parseAnyForm(const QString& text) {
     const auto colon = text.lastIndexOf(u':');
     if (colon < 0) {
         qCDebug(lcStore, "XML data error: %s", qUtf8Printable(text));
         return {};
     }
     const bool hasMilliseconds = text.contains(u'.');
-    return parseAsUtc(withMilliseconds(QString{text}.remove(colon, 1)),
-                      hasMilliseconds ? u"yyyy-MM-dd'T'HH:mm:ss'.'SSSZZZ"_s : u"yyyy-MM-dd'T'HH:mm:ssZZZ"_s);
+    const auto parsed =
+        parseZoned(withMilliseconds(QString{text}.remove(colon, 1)),
+                   hasMilliseconds ? u"yyyy-MM-dd'T'HH:mm:ss'.'SSSZZZ"_s : u"yyyy-MM-dd'T'HH:mm:ssZZZ"_s);
+    if (!parsed) return {};
+    return FileDate{parsed->date, hasSignedZone(text) ? Date{parsed->date + parsed->offset} : Date{}};
+}
+
+std::optional<FileDate> parseFileDate(std::string_view text) {
+    if (text == emptyDateText) return FileDate{getNilDate(), parseUsualForm(text)->wall};
+    if (const auto usual = parseUsualForm(text)) return usual;
+    constexpr std::size_t longest = 100; // with more digits of a second than any clock has
+    if (text.size() > longest) return {};
+    return parseAnyForm(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 } // namespace
 
 Date XMLStrToDate(std::string_view text) {
-    if (text == emptyDateText) return getNilDate();
-    if (const Date usual = parseUsualForm(text)) return usual;
-    constexpr std::size_t longest = 100; // with more digits of a second than any clock has
-    if (text.size() > longest) return {};
-    return parseAnyForm(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    const auto parsed = parseFileDate(text);
+    return parsed ? Date{parsed->date} : Date{};
 }
 
 std::optional<std::chrono::minutes> XMLStrToOffset(std::string_view text) {
@@ -102,16 +123,17 @@ std::optional<std::chrono::minutes> XMLStrToOffset(std::string_view text) {
 }
 
 Date XMLStrToWallClock(std::string_view text) {
-    if (!XMLStrToDate(text)) return {};
-    return XMLStrToDate(std::string{text.substr(0, text.find_last_of("+-"))} + "+00:00");
+    const auto parsed = parseFileDate(text);
+    return parsed ? parsed->wall : Date{};
 }
 
 Date XMLStrToLocalDate(std::string_view text) {
-    const Date date = XMLStrToDate(text);
-    const Date wall = XMLStrToWallClock(text);
-    if (!date || !wall) return date;
+    const auto parsed = parseFileDate(text);
+    if (!parsed) return {};
+    const auto& [date, wall] = *parsed;
+    if (!wall) return date;
     const auto zone = systemZone();
-    return *date + offsetAt(*zone, *date, false) == *wall ? *date : *wall - offsetAt(*zone, *wall, true);
+    return date + offsetAt(*zone, date, false) == *wall ? date : *wall - offsetAt(*zone, *wall, true);
 }
 
 QString XMLDateToStr(const Date& date) {

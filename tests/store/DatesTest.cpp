@@ -77,6 +77,29 @@ TEST(Dates, EmptyDateStaysEmptyInEveryZone) {
     EXPECT_FALSE(isNilDate(local(u"0002-01-01 00:00:00"_s)));
 }
 
+TEST(Dates, ShowTheirOwnDayInEveryZoneWhateverTheirForm) {
+    const std::pair<const char*, QString> cases[] = {
+        {"2026-01-03T23:05:07+01:00", u"2026-01-03 23:05:07.000"_s},
+        {"2026-01-03T7:05:00-3:30", u"2026-01-03 07:05:00.000"_s},
+        {"2026-01-03T23:05:00UTC+01:00", u"2026-01-03 23:05:00.000"_s},
+        {"2026-01-03T00:05:00.1234567-11:00", u"2026-01-03 00:05:00.123"_s},
+        {"0001-01-01T00:00:00+08:00", u"0001-01-01 00:00:00.000"_s},
+        {"2026-01-03T23:05:00Z:", {}}, // not said to be anybody's wall clock
+        {"2026-02-30T23:05:00+1:00", {}},
+    };
+    for (const char* name : {"UTC", "Europe/Berlin", "Asia/Tokyo", "America/St_Johns", "Pacific/Apia"}) {
+        const InZone zone{name};
+        for (const auto& [text, shown] : cases) {
+            EXPECT_EQ(DateToStr_EN(XMLStrToWallClock(text), u"yyyy-MM-dd HH:mm:ss.SSS"_s), shown) << text;
+            const Date date = XMLStrToLocalDate(text);
+            if (shown.isEmpty())
+                EXPECT_EQ(date, XMLStrToDate(text)) << text;
+            else
+                EXPECT_EQ(dayText(LocalZone{}.day(date), u"yyyy-MM-dd"_s), shown.left(10)) << text << name;
+        }
+    }
+}
+
 TEST(Dates, DaySurvivesOffsetsWithSeconds) {
     const InZone zone{"Africa/Monrovia"}; // 44 minutes and 30 seconds behind until 1972
     const QString text = XMLDateToStr(local(u"1970-06-02 00:00:00"_s));
