@@ -348,6 +348,9 @@ TEST_F(ReadingTableTest, ColumnsThatMeanAndPulsePressureContradictAreNotTaken) {
                         Refusal::badLines)
                     .toStdString(),
                 HasSubstr("A pulse pressure of 47 does not go with 131/99"));
+    // A column that was named is what it was named to be.
+    const TableImport pulseIsPP{u"A"_s, ForeignColumns{u"Date"_s, {}, u"Sys"_s, u"Dia"_s, u"PP"_s}};
+    EXPECT_TRUE(import("Date,Sys,Dia,PP\n2026-11-20 09:05,131,84,66\n", pulseIsPP));
 }
 
 TEST_F(ReadingTableTest, AnotherProgramsColumnsAreNamed) {
