@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>Sie hat %1 Zellen, die Titelzeile %2.</translation></message>
     <message id="TableDateOrder"><translation>„%1“ ist nicht wie 2026-11-21 geschrieben. Geben Sie mit --dates an, in welcher Reihenfolge Tag, Monat und Jahr stehen: dmy, mdy oder ymd.</translation></message>
     <message id="TableLine"><translation>Zeile %1: %2</translation></message>
+    <message id="TableMeanPressure"><translation>Ein mittlerer arterieller Druck von %1 passt nicht zu %2/%3: Ist jede Spalte richtig zugeordnet?</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… und %n weitere Zeile</numerusform><numerusform>… und %n weitere Zeilen</numerusform></translation></message>
     <message id="TableNoTime"><translation>„%1“ ist kein Datum mit vierstelligem Jahr und Uhrzeit.</translation></message>
     <message id="TableNotUtf8"><translation>Ihr Text ist nicht UTF-8. Bitte speichern Sie sie in dem Programm, aus dem sie stammt, als „CSV UTF-8“.</translation></message>
     <message id="TableOtherNames"><translation>Der Patient „%1“ heißt in einer früheren Zeile anders.</translation></message>
     <message id="TableOtherPatient"><translation>Die Messung gehört zum Patienten „%1“, nicht zu „%2“.</translation></message>
+    <message id="TablePulsePressure"><translation>Ein Pulsdruck von %1 passt nicht zu %2/%3: Ist jede Spalte richtig zugeordnet?</translation></message>
     <message id="TableQuotation"><translation>Ein Anführungszeichen ist am Ende seiner Zelle nicht geschlossen.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1 ist nicht lesbar; darin steht, ab welchen Grenzwerten Werte markiert werden. Bis neue Grenzwerte gewählt sind, werden Werte ab %2/%3 mmHg markiert.</translation></message>
     <message id="Warning"><translation>Warnung</translation></message>
@@ -962,6 +964,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportCutPractitioner"><translation>…: hier gekürzt; der ganze Text steht in den Einstellungen.</translation></message>
     <message id="reportCutTexts"><translation>…: hier gekürzt; der ganze Text steht auf der nächsten Seite.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n Tag</numerusform><numerusform>%n Tage</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>Demonstration: erfundene Daten</translation></message>
     <message id="reportDiaAbove"><translation>Nur diastolisch darüber: %1</translation></message>
     <message id="reportDocument"><translation>Blutdruckbericht: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ gelb: ausgelesen</translation></message>
@@ -1267,6 +1270,8 @@ Patienten schon in der Liste ist. Nicht übernommene Dateien werden mit dem Grun
 genannt, bei einer Tabelle jede fehlerhafte Zeile mit ihrer Nummer. Gibt aus, wie viele Dateien übernommen und
 abgelehnt wurden und wie viele Patienten, Messungen und Kommentare sie brachten, je Zeile ein 'key: value'; bei
 einer Tabelle auch, wie viele Messungen schon bekannt waren: Sie werden nicht doppelt gespeichert.
+Von Hand eingegebene Messungen der Liste, die eine Tabelle von einem Messgerät hat, sind ab dann ausgeschlossen
+und werden als 'left-out' gezählt.
 
 Mit --patient werden die Messungen einer Tabelle einem Patienten der Liste hinzugefügt. Mit --columns ist es
 die Tabelle eines anderen Programms, etwa --columns "date=Datum,time=Zeit,sys=Systole,dia=Diastole,pulse=Puls"
@@ -1451,6 +1456,7 @@ Optionen:
     <message id="CliNoCommand"><translation>Es fehlt ein Befehl.</translation></message>
     <message id="CliNoFolder"><translation>Es gibt keinen Ordner '%1'.</translation></message>
     <message id="CliNoHome"><translation>Die Umgebungsvariable HOME ist nicht gesetzt; deshalb ist nicht bekannt, wo die Datendatei zu suchen ist.</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>%n Patient hat keine Zeile in der Tabelle: Für ihn ist keine Messung gespeichert, wie für alle ohne ID.</numerusform><numerusform>%n Patienten haben keine Zeile in der Tabelle: Für sie ist keine Messung gespeichert, wie für alle ohne ID.</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>Innerhalb von %1 s wurde kein Messgerät gefunden. Bitte schließen Sie es mit dem USB-Kabel an, oder geben Sie ihm mit --wait mehr Zeit.</translation></message>
     <message id="CliNoSuchPatient"><translation>Es gibt keinen Patienten mit der ID '%1'. 'zel patients' listet sie auf.</translation></message>
     <message id="CliNoSuchReading"><translation>der Patient hat keine Messung mit der Nummer %1 (zel readings --numbers gibt die Nummern aus)</translation></message>
@@ -1472,13 +1478,16 @@ Optionen:
     <message id="CliReadingJobMissing"><translation>--reason gehört zu --exclude; --date, --time, --sys, --dia und --pulse gehören zu --add oder --change</translation></message>
     <message id="CliReadingNotUnique"><translation>mehrere Messungen haben die Nummer %1; welche gemeint ist, lässt sich nicht feststellen</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n dieser Messungen ist von Hand ausgeschlossen und zählt nirgends mit; --numbers zeigt, welche und warum</numerusform><numerusform>%n dieser Messungen sind von Hand ausgeschlossen und zählen nirgends mit; --numbers zeigt, welche und warum</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n Patient wurde ausgelassen: Ein anderer in der Liste hat dieselbe ID oder ebenfalls keine. Zur Unterscheidung braucht jeder Patient eine eigene ID.</numerusform><numerusform>%n Patienten wurden ausgelassen: Andere in der Liste haben dieselben IDs oder ebenfalls keine. Zur Unterscheidung braucht jeder Patient eine eigene ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set braucht KEY=VALUE, nicht '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>Die Datendatei hat keinen Platz für die Einstellung %1; deshalb wurde nichts geändert.</translation></message>
     <message id="CliSettingTwice"><translation>Die Einstellung %1 ist mehr als einmal angegeben.</translation></message>
     <message id="CliSettingUnknown"><translation>Es gibt keine Einstellung '%1'. Es gibt diese: %2.</translation></message>
     <message id="CliSettingValue"><translation>Zulässig für %1: %2; nicht '%3'.</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Eine Tabelle enthält nichts zu Geschlecht, Rauchen und Diabetes: Der %n neue Patient ist als weiblich, Nichtraucher und ohne Diabetes gespeichert. Bitte prüfen.</numerusform><numerusform>Eine Tabelle enthält nichts zu Geschlecht, Rauchen und Diabetes: Die %n neuen Patienten sind als weiblich, Nichtraucher und ohne Diabetes gespeichert. Bitte prüfen.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID fügt die Messungen einer Tabelle einem Patienten der Liste hinzu.</translation></message>
     <message id="CliTryHelp"><translation>Versuchen Sie '%1'.</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung zählt ab jetzt nirgends mehr mit: Die Tabelle enthält dieselbe von einem Messgerät.</numerusform><numerusform>%n von Hand eingegebene Messungen zählen ab jetzt nirgends mehr mit: Die Tabelle enthält dieselben von einem Messgerät.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' wird hier nicht erwartet.</translation></message>
     <message id="CliUnknownCommand"><translation>Es gibt keinen Befehl '%1'.</translation></message>
     <message id="CliWaiting"><translation>Warten auf das Messgerät, noch höchstens %1 s. Strg+C bricht ab.</translation></message>

@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>It has %1 cells, and the line of titles %2.</translation></message>
     <message id="TableDateOrder"><translation>“%1” is not written as 2026-11-21 is. Say with --dates in which order day, month and year stand: dmy, mdy or ymd.</translation></message>
     <message id="TableLine"><translation>Line %1: %2</translation></message>
+    <message id="TableMeanPressure"><translation>A mean arterial pressure of %1 does not go with %2/%3: is each column what it is taken for?</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… and %n more line</numerusform><numerusform>… and %n more lines</numerusform></translation></message>
     <message id="TableNoTime"><translation>“%1” is no date with a year of four digits and a time.</translation></message>
     <message id="TableNotUtf8"><translation>Its text is not UTF-8. Please save it as “CSV UTF-8” in the program that it comes from.</translation></message>
     <message id="TableOtherNames"><translation>The patient “%1” has another name in an earlier line.</translation></message>
     <message id="TableOtherPatient"><translation>The reading is of the patient “%1”, not of “%2”.</translation></message>
+    <message id="TablePulsePressure"><translation>A pulse pressure of %1 does not go with %2/%3: is each column what it is taken for?</translation></message>
     <message id="TableQuotation"><translation>A quotation mark is not closed at the end of its cell.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1, which says from where on values are marked, cannot be read. Until limits are chosen anew, values are marked from %2/%3 mmHg on.</translation></message>
     <message id="Warning"><translation>Warning</translation></message>
@@ -962,6 +964,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportCutPractitioner"><translation>…: cut here; the settings hold the whole text.</translation></message>
     <message id="reportCutTexts"><translation>…: cut here; the whole text stands on the next page.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n day</numerusform><numerusform>%n days</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>Demonstration: invented data</translation></message>
     <message id="reportDiaAbove"><translation>Only diastolic above: %1</translation></message>
     <message id="reportDocument"><translation>Blood-pressure report: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ yellow: download</translation></message>
@@ -1258,6 +1261,8 @@ Takes in the patients of XML files that were exported, with their readings and c
 already. Files that are not taken are named on standard error, with the reason; of a table every line that is at
 fault, by its number. Prints how many files were taken and refused, and how many patients, readings and comments
 they brought, one 'key: value' a line; with a table also how many readings were known: they are not doubled.
+Readings of the list that were typed in, and that a table has from a monitor, are left out from then on, and
+counted as 'left-out'.
 
 With --patient the readings of a table are added to a patient who is in the list. With --columns it is another
 program's table, as in --columns "date=Date,time=Time,sys=Systolic,dia=Diastolic,pulse=Pulse", where the titles
@@ -1435,6 +1440,7 @@ Options:
     <message id="CliNoCommand"><translation>A command is missing.</translation></message>
     <message id="CliNoFolder"><translation>There is no folder '%1'.</translation></message>
     <message id="CliNoHome"><translation>The environment variable HOME is not set, so there is no place to look for the data file.</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>%n patient has no line in the table: no reading is stored for this one, as for anybody without an ID.</numerusform><numerusform>%n patients have no line in the table: no reading is stored for them, as for anybody without an ID.</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>No monitor was found within %1 s. Please attach it by its USB cable, or give it more time with --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>There is no patient with the ID '%1'. 'zel patients' lists them.</translation></message>
     <message id="CliNoSuchReading"><translation>the patient has no reading with the number %1 (zel readings --numbers prints the numbers)</translation></message>
@@ -1456,13 +1462,16 @@ Options:
     <message id="CliReadingJobMissing"><translation>--reason goes with --exclude; --date, --time, --sys, --dia and --pulse go with --add or --change</translation></message>
     <message id="CliReadingNotUnique"><translation>several readings have the number %1; which one is meant cannot be told</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out by the user and counts nowhere; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out by the user and count nowhere; --numbers tells which, and why</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n patient was left out: another one in the list has the same ID, or none either. Patients need IDs of their own to be told apart.</numerusform><numerusform>%n patients were left out: others in the list have the same IDs, or none either. Patients need IDs of their own to be told apart.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>
     <message id="CliSettingTwice"><translation>The setting %1 is given more than once.</translation></message>
     <message id="CliSettingUnknown"><translation>There is no setting '%1'. These are: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 takes %2, not '%3'.</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>A table says nothing of sex, smoking and diabetes: the %n new patient is stored as female, non-smoker and without diabetes. Please check.</numerusform><numerusform>A table says nothing of sex, smoking and diabetes: the %n new patients are stored as female, non-smokers and without diabetes. Please check.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID adds the readings of a table to a patient who is in the list.</translation></message>
     <message id="CliTryHelp"><translation>Try '%1'.</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n reading that was typed in counts nowhere from now on: the table has the same one from a monitor.</numerusform><numerusform>%n readings that were typed in count nowhere from now on: the table has the same ones from a monitor.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>
     <message id="CliUnknownCommand"><translation>There is no command '%1'.</translation></message>
     <message id="CliWaiting"><translation>Waiting for the monitor, for at most another %1 s. Ctrl-C cancels.</translation></message>

@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>Tiene %1 celdas, y la línea de títulos, %2.</translation></message>
     <message id="TableDateOrder"><translation>«%1» no está escrito como 2026-11-21. Indique con --dates el orden de día, mes y año: dmy, mdy o ymd.</translation></message>
     <message id="TableLine"><translation>Línea %1: %2</translation></message>
+    <message id="TableMeanPressure"><translation>Una presión arterial media de %1 no concuerda con %2/%3: ¿está bien asignada cada columna?</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… y %n línea más</numerusform><numerusform>… y %n líneas más</numerusform></translation></message>
     <message id="TableNoTime"><translation>«%1» no es una fecha con un año de cuatro cifras y una hora.</translation></message>
     <message id="TableNotUtf8"><translation>Su texto no es UTF-8. Guárdelo como «CSV UTF-8» en el programa del que procede.</translation></message>
     <message id="TableOtherNames"><translation>El paciente «%1» tiene otro nombre en una línea anterior.</translation></message>
     <message id="TableOtherPatient"><translation>La medición es del paciente «%1», no de «%2».</translation></message>
+    <message id="TablePulsePressure"><translation>Una presión de pulso de %1 no concuerda con %2/%3: ¿está bien asignada cada columna?</translation></message>
     <message id="TableQuotation"><translation>Unas comillas no se cierran al final de su celda.</translation></message>
     <message id="ViewLimitsUnread"><translation>No se puede leer %1, donde consta a partir de qué límites se marcan los valores. Mientras no se elijan otros, se marcan a partir de %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Aviso</translation></message>
@@ -962,6 +964,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportCutPractitioner"><translation>…: cortado aquí; la configuración contiene el texto completo.</translation></message>
     <message id="reportCutTexts"><translation>…: cortado aquí; el texto completo figura en la página siguiente.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n día</numerusform><numerusform>%n días</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>Demostración: datos inventados</translation></message>
     <message id="reportDiaAbove"><translation>Solo la diastólica por encima: %1</translation></message>
     <message id="reportDocument"><translation>Informe de presión arterial: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ amarillo: descarga</translation></message>
@@ -1262,6 +1265,8 @@ ya está en la lista. Los archivos no incorporados se indican en la salida de er
 cada línea con errores, con su número. Muestra cuántos archivos se han incorporado y cuántos se han rechazado, y
 cuántos pacientes, mediciones y comentarios han aportado, en líneas 'key: value'; con una tabla, también cuántas
 mediciones ya se conocían: no se duplican.
+Las mediciones de la lista introducidas a mano que una tabla trae de un tensiómetro quedan excluidas desde
+entonces, y se cuentan como 'left-out'.
 
 Con --patient, las mediciones de una tabla se añaden a un paciente de la lista. Con --columns es la tabla de
 otro programa, por ejemplo --columns "date=Fecha,time=Hora,sys=Sistólica,dia=Diastólica,pulse=Pulso", con los
@@ -1442,6 +1447,7 @@ Opciones:
     <message id="CliNoCommand"><translation>Falta una orden.</translation></message>
     <message id="CliNoFolder"><translation>No hay ninguna carpeta '%1'.</translation></message>
     <message id="CliNoHome"><translation>La variable de entorno HOME no está definida, así que no hay lugar donde buscar el archivo de datos.</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>%n paciente no tiene ninguna línea en la tabla: no hay mediciones guardadas de él, como ocurre con todo el que no tiene ID.</numerusform><numerusform>%n pacientes no tienen ninguna línea en la tabla: no hay mediciones guardadas de ellos, como ocurre con todo el que no tiene ID.</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>No se ha encontrado ningún tensiómetro en %1 s. Conéctelo con su cable USB o dele más tiempo con --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>No hay ningún paciente con el ID '%1'. 'zel patients' los lista.</translation></message>
     <message id="CliNoSuchReading"><translation>el paciente no tiene ninguna medición con el número %1 (zel readings --numbers muestra los números)</translation></message>
@@ -1463,13 +1469,16 @@ Opciones:
     <message id="CliReadingJobMissing"><translation>--reason va con --exclude; --date, --time, --sys, --dia y --pulse van con --add o --change</translation></message>
     <message id="CliReadingNotUnique"><translation>varias mediciones tienen el número %1; no se puede saber a cuál se refiere</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de estas mediciones está excluida por el usuario y no cuenta en ningún cálculo; --numbers dice cuál y por qué</numerusform><numerusform>%n de estas mediciones están excluidas por el usuario y no cuentan en ningún cálculo; --numbers dice cuáles y por qué</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>Se ha omitido %n paciente: otro de la lista tiene el mismo ID, o tampoco tiene ninguno. Para distinguirlos, cada paciente necesita un ID propio.</numerusform><numerusform>Se han omitido %n pacientes: otros de la lista tienen los mismos ID, o tampoco tienen ninguno. Para distinguirlos, cada paciente necesita un ID propio.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set necesita KEY=VALUE, no '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>En el archivo de datos no hay lugar para el valor de configuración %1, así que no se ha cambiado nada.</translation></message>
     <message id="CliSettingTwice"><translation>El valor de configuración %1 se ha indicado más de una vez.</translation></message>
     <message id="CliSettingUnknown"><translation>No hay ningún valor de configuración '%1'. Los que hay son: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 no admite '%3'; admite %2.</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Una tabla no indica el sexo, el tabaquismo ni la diabetes: %n paciente nuevo se ha guardado como mujer, no fumador y sin diabetes. Compruébelo.</numerusform><numerusform>Una tabla no indica el sexo, el tabaquismo ni la diabetes: %n pacientes nuevos se han guardado como mujeres, no fumadores y sin diabetes. Compruébelo.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID añade las mediciones de una tabla a un paciente de la lista.</translation></message>
     <message id="CliTryHelp"><translation>Pruebe '%1'.</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n medición introducida a mano deja de contar en los cálculos: la tabla contiene la misma, procedente de un tensiómetro.</numerusform><numerusform>%n mediciones introducidas a mano dejan de contar en los cálculos: la tabla contiene las mismas, procedentes de un tensiómetro.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' no se esperaba aquí.</translation></message>
     <message id="CliUnknownCommand"><translation>No hay ninguna orden '%1'.</translation></message>
     <message id="CliWaiting"><translation>Esperando al tensiómetro, como máximo otros %1 s. Ctrl-C cancela.</translation></message>

@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>Elle a %1 cellules, et la ligne de titres en a %2.</translation></message>
     <message id="TableDateOrder"><translation>« %1 » n’est pas écrit comme 2026-11-21. Indiquez avec --dates l’ordre du jour, du mois et de l’année : dmy, mdy ou ymd.</translation></message>
     <message id="TableLine"><translation>Ligne %1 : %2</translation></message>
+    <message id="TableMeanPressure"><translation>Une pression artérielle moyenne de %1 ne va pas avec %2/%3 : les colonnes sont-elles bien attribuées ?</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… et %n autre ligne</numerusform><numerusform>… et %n autres lignes</numerusform></translation></message>
     <message id="TableNoTime"><translation>« %1 » n’est pas une date avec une année à quatre chiffres, suivie d’une heure.</translation></message>
     <message id="TableNotUtf8"><translation>Son texte n’est pas en UTF-8. Enregistrez-le au format « CSV UTF-8 » dans le programme dont il provient.</translation></message>
     <message id="TableOtherNames"><translation>Le patient « %1 » porte un autre nom dans une ligne précédente.</translation></message>
     <message id="TableOtherPatient"><translation>La mesure est celle du patient « %1 », et non de « %2 ».</translation></message>
+    <message id="TablePulsePressure"><translation>Une pression pulsée de %1 ne va pas avec %2/%3 : les colonnes sont-elles bien attribuées ?</translation></message>
     <message id="TableQuotation"><translation>Un guillemet n’est pas fermé à la fin de sa cellule.</translation></message>
     <message id="ViewLimitsUnread"><translation>%1, qui indique à partir de quelles valeurs marquer les mesures, est illisible. Tant que d’autres limites ne sont pas choisies, les valeurs sont marquées à partir de %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Attention</translation></message>
@@ -962,6 +964,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="reportCutPractitioner"><translation>… : abrégé ici ; le texte complet figure dans les réglages.</translation></message>
     <message id="reportCutTexts"><translation>… : abrégé ici ; le texte complet figure à la page suivante.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n jour</numerusform><numerusform>%n jours</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>Démonstration : données fictives</translation></message>
     <message id="reportDiaAbove"><translation>Diastolique seule au-dessus : %1</translation></message>
     <message id="reportDocument"><translation>Rapport de pression artérielle : %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ jaune : transfert</translation></message>
@@ -1265,6 +1268,8 @@ patients figure déjà dans la liste. Les fichiers non importés sont signalés 
 motif, et pour un tableau chaque ligne fautive, avec son numéro. Affiche combien de fichiers ont été importés et
 refusés, et combien de patients, de mesures et de commentaires ils ont apportés, une ligne 'key: value' pour
 chacun ; pour un tableau, aussi combien de mesures étaient déjà connues : elles ne sont pas ajoutées en double.
+Les mesures saisies de la liste qu’un tableau contient venant d’un tensiomètre sont dès lors exclues, et
+comptées sous 'left-out'.
 
 Avec --patient, les mesures d’un tableau sont ajoutées à un patient de la liste. Avec --columns, c’est le
 tableau d’un autre programme, par exemple --columns "date=Date,time=Heure,sys=Systole,dia=Diastole,pulse=Pouls",
@@ -1446,6 +1451,7 @@ Options :
     <message id="CliNoCommand"><translation>Il manque une commande.</translation></message>
     <message id="CliNoFolder"><translation>Le dossier '%1' n’existe pas.</translation></message>
     <message id="CliNoHome"><translation>La variable d’environnement HOME n’est pas définie ; l’emplacement du fichier de données est donc inconnu.</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>%n patient n’a pas de ligne dans le tableau : aucune mesure n’est enregistrée pour lui, comme pour tout patient sans ID.</numerusform><numerusform>%n patients n’ont pas de ligne dans le tableau : aucune mesure n’est enregistrée pour eux, comme pour tout patient sans ID.</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>Aucun tensiomètre n’a été trouvé en %1 s. Veuillez le relier par son câble USB, ou prolonger l’attente avec --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>Aucun patient n’a l’ID '%1'. 'zel patients' en donne la liste.</translation></message>
     <message id="CliNoSuchReading"><translation>le patient n’a pas de mesure portant le numéro %1 (zel readings --numbers affiche les numéros)</translation></message>
@@ -1467,13 +1473,16 @@ Options :
     <message id="CliReadingJobMissing"><translation>--reason s’emploie avec --exclude ; --date, --time, --sys, --dia et --pulse s’emploient avec --add ou --change</translation></message>
     <message id="CliReadingNotUnique"><translation>plusieurs mesures portent le numéro %1 ; impossible de savoir laquelle est visée</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de ces mesures est exclue par l’utilisateur et ne compte nulle part ; --numbers indique laquelle, et pourquoi</numerusform><numerusform>%n de ces mesures sont exclues par l’utilisateur et ne comptent nulle part ; --numbers indique lesquelles, et pourquoi</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n patient a été omis : un autre de la liste a le même ID, ou n’en a pas non plus. Chaque patient doit avoir son propre ID pour être distingué.</numerusform><numerusform>%n patients ont été omis : d’autres de la liste ont les mêmes ID, ou n’en ont pas non plus. Chaque patient doit avoir son propre ID pour être distingué.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set attend KEY=VALUE, et non '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>Le fichier de données ne prévoit pas d’emplacement pour le réglage %1 ; rien n’a donc été modifié.</translation></message>
     <message id="CliSettingTwice"><translation>Le réglage %1 est indiqué plusieurs fois.</translation></message>
     <message id="CliSettingUnknown"><translation>Le réglage '%1' n’existe pas. Les réglages sont : %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accepte %2, et non '%3'.</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Un tableau n’indique ni le sexe, ni le tabagisme, ni le diabète : %n nouveau patient est enregistré comme femme, non-fumeur et sans diabète. Veuillez vérifier.</numerusform><numerusform>Un tableau n’indique ni le sexe, ni le tabagisme, ni le diabète : %n nouveaux patients sont enregistrés comme femmes, non-fumeurs et sans diabète. Veuillez vérifier.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID ajoute les mesures d’un tableau à un patient qui figure dans la liste.</translation></message>
     <message id="CliTryHelp"><translation>Essayez '%1'.</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n mesure saisie à la main ne compte désormais nulle part : le tableau contient la même, venant d’un tensiomètre.</numerusform><numerusform>%n mesures saisies à la main ne comptent désormais nulle part : le tableau contient les mêmes, venant d’un tensiomètre.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' n’est pas attendu ici.</translation></message>
     <message id="CliUnknownCommand"><translation>La commande '%1' n’existe pas.</translation></message>
     <message id="CliWaiting"><translation>Attente du tensiomètre, encore %1 s au plus. Ctrl-C annule.</translation></message>

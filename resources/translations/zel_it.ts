@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>Ha %1 celle, mentre la riga dei titoli ne ha %2.</translation></message>
     <message id="TableDateOrder"><translation>“%1” non è scritto come 2026-11-21. Indicare con --dates l’ordine di giorno, mese e anno: dmy, mdy o ymd.</translation></message>
     <message id="TableLine"><translation>Riga %1: %2</translation></message>
+    <message id="TableMeanPressure"><translation>Una pressione arteriosa media di %1 non è compatibile con %2/%3: le colonne sono assegnate correttamente?</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… e %n altra riga</numerusform><numerusform>… e altre %n righe</numerusform></translation></message>
     <message id="TableNoTime"><translation>“%1” non è una data con anno a quattro cifre seguita dall’ora.</translation></message>
     <message id="TableNotUtf8"><translation>Il suo testo non è UTF-8. Salvarlo come “CSV UTF-8” nel programma da cui proviene.</translation></message>
     <message id="TableOtherNames"><translation>Il paziente “%1” ha un nome diverso in una riga precedente.</translation></message>
     <message id="TableOtherPatient"><translation>La misurazione è del paziente “%1”, non di “%2”.</translation></message>
+    <message id="TablePulsePressure"><translation>Una pressione differenziale di %1 non è compatibile con %2/%3: le colonne sono assegnate correttamente?</translation></message>
     <message id="TableQuotation"><translation>Alla fine della cella mancano le virgolette di chiusura.</translation></message>
     <message id="ViewLimitsUnread"><translation>Impossibile leggere %1, che indica a partire da quali limiti i valori vengono evidenziati. Finché non si scelgono nuovi limiti, i valori vengono evidenziati da %2/%3 mmHg in su.</translation></message>
     <message id="Warning"><translation>Avviso</translation></message>
@@ -962,6 +964,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportCutPractitioner"><translation>…: qui abbreviato; il testo intero è nelle impostazioni.</translation></message>
     <message id="reportCutTexts"><translation>…: qui abbreviato; il testo intero è nella pagina seguente.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n giorno</numerusform><numerusform>%n giorni</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>Dimostrazione: dati fittizi</translation></message>
     <message id="reportDiaAbove"><translation>Solo la diastolica sopra: %1</translation></message>
     <message id="reportDocument"><translation>Rapporto sulla pressione arteriosa: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ giallo: scarico dati</translation></message>
@@ -1264,6 +1267,8 @@ nell'elenco. I file non importati sono indicati sullo standard error, con il mot
 errata, con il suo numero. Stampa quanti file sono stati importati e rifiutati, e quanti pazienti, misurazioni e
 commenti contenevano, una riga 'chiave: valore' per ciascuno; con una tabella anche quante misurazioni erano già
 note: non vengono duplicate.
+Le misurazioni inserite a mano nell'elenco, che una tabella riporta da un misuratore, sono da allora escluse e
+contate come 'left-out'.
 
 Con --patient le misurazioni di una tabella vengono aggiunte a un paziente dell'elenco. Con --columns si tratta
 della tabella di un altro programma, per esempio
@@ -1451,6 +1456,7 @@ Opzioni:
     <message id="CliNoCommand"><translation>Manca un comando.</translation></message>
     <message id="CliNoFolder"><translation>La cartella '%1' non esiste.</translation></message>
     <message id="CliNoHome"><translation>La variabile d'ambiente HOME non è impostata, perciò non si sa dove cercare il file dei dati.</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>%n paziente non ha righe nella tabella: per lui non è salvata alcuna misurazione, come per chiunque non abbia un ID.</numerusform><numerusform>%n pazienti non hanno righe nella tabella: per loro non è salvata alcuna misurazione, come per chiunque non abbia un ID.</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>Nessun misuratore trovato entro %1 s. Collegarlo con il suo cavo USB, oppure concedere più tempo con --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>Non esiste un paziente con l'ID '%1'. 'zel patients' li elenca.</translation></message>
     <message id="CliNoSuchReading"><translation>il paziente non ha alcuna misurazione con il numero %1 (zel readings --numbers mostra i numeri)</translation></message>
@@ -1472,13 +1478,16 @@ Opzioni:
     <message id="CliReadingJobMissing"><translation>--reason va insieme a --exclude; --date, --time, --sys, --dia e --pulse vanno insieme a --add o --change</translation></message>
     <message id="CliReadingNotUnique"><translation>più misurazioni hanno il numero %1; non si può stabilire quale si intende</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n di queste misurazioni è esclusa dall'utente e non conta in nessun calcolo; --numbers mostra quale, e perché</numerusform><numerusform>%n di queste misurazioni sono escluse dall'utente e non contano in nessun calcolo; --numbers mostra quali, e perché</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n paziente è stato omesso: un altro nell’elenco ha lo stesso ID, o ne è anch’esso privo. Per essere distinto, ogni paziente deve avere un proprio ID.</numerusform><numerusform>%n pazienti sono stati omessi: altri nell’elenco hanno gli stessi ID, o ne sono anch’essi privi. Per essere distinto, ogni paziente deve avere un proprio ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set richiede CHIAVE=VALORE, non '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>L'impostazione %1 non trova posto nel file dei dati, perciò non è stato modificato nulla.</translation></message>
     <message id="CliSettingTwice"><translation>L'impostazione %1 è indicata più di una volta.</translation></message>
     <message id="CliSettingUnknown"><translation>L'impostazione '%1' non esiste. Le impostazioni sono: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accetta %2, non '%3'.</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Una tabella non indica sesso, fumo e diabete: %n nuovo paziente è salvato come femmina, non fumatore e senza diabete. Si prega di verificare.</numerusform><numerusform>Una tabella non indica sesso, fumo e diabete: %n nuovi pazienti sono salvati come femmine, non fumatori e senza diabete. Si prega di verificare.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID aggiunge le misurazioni di una tabella a un paziente dell’elenco.</translation></message>
     <message id="CliTryHelp"><translation>Provare '%1'.</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n misurazione inserita a mano non conta più in nessun calcolo: la tabella contiene la stessa, proveniente da un misuratore.</numerusform><numerusform>%n misurazioni inserite a mano non contano più in nessun calcolo: la tabella contiene le stesse, provenienti da un misuratore.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' non è previsto qui.</translation></message>
     <message id="CliUnknownCommand"><translation>Il comando '%1' non esiste.</translation></message>
     <message id="CliWaiting"><translation>In attesa del misuratore, ancora per %1 s al massimo. Ctrl-C annulla.</translation></message>

@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>Liczba komórek: %1, a w wierszu tytułów: %2.</translation></message>
     <message id="TableDateOrder"><translation>Data „%1” nie ma postaci takiej jak 2026-11-21. Proszę podać w opcji --dates kolejność dnia, miesiąca i roku: dmy, mdy lub ymd.</translation></message>
     <message id="TableLine"><translation>Wiersz %1: %2</translation></message>
+    <message id="TableMeanPressure"><translation>Średnie ciśnienie tętnicze %1 nie pasuje do %2/%3: czy każda kolumna jest właściwie przypisana?</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>… i jeszcze %n wiersz</numerusform><numerusform>… i jeszcze %n wiersze</numerusform><numerusform>… i jeszcze %n wierszy</numerusform></translation></message>
     <message id="TableNoTime"><translation>„%1” nie jest datą z czterocyfrowym rokiem wraz z godziną.</translation></message>
     <message id="TableNotUtf8"><translation>Tekst pliku nie jest zakodowany w UTF-8. Proszę zapisać plik jako „CSV UTF-8” w programie, z którego pochodzi.</translation></message>
     <message id="TableOtherNames"><translation>Pacjent „%1” nazywa się inaczej w jednym z wcześniejszych wierszy.</translation></message>
     <message id="TableOtherPatient"><translation>Pomiar dotyczy pacjenta „%1”, a nie „%2”.</translation></message>
+    <message id="TablePulsePressure"><translation>Ciśnienie tętna %1 nie pasuje do %2/%3: czy każda kolumna jest właściwie przypisana?</translation></message>
     <message id="TableQuotation"><translation>Cudzysłów nie jest zamknięty na końcu komórki.</translation></message>
     <message id="ViewLimitsUnread"><translation>Nie można odczytać pliku %1, w którym zapisano, od jakich granic oznacza się wartości. Do czasu ponownego wyboru granic wartości są oznaczane od %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Uwaga</translation></message>
@@ -962,6 +964,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportCutPractitioner"><translation>…: tu skrócone; pełny tekst znajduje się w ustawieniach.</translation></message>
     <message id="reportCutTexts"><translation>…: tu skrócone; pełny tekst znajduje się na następnej stronie.</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n dzień</numerusform><numerusform>%n dni</numerusform><numerusform>%n dni</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>Demonstracja: dane fikcyjne</translation></message>
     <message id="reportDiaAbove"><translation>Tylko rozkurczowe powyżej: %1</translation></message>
     <message id="reportDocument"><translation>Raport z pomiarów ciśnienia krwi: %1 (%2)</translation></message>
     <message id="reportDownloadDay"><translation>↓ żółte tło: pobranie</translation></message>
@@ -1260,6 +1263,8 @@ z jego pacjentów jest już na liście. Pliki nieprzyjęte są podane z przyczyn
 każdy błędny wiersz z jego numerem. Wyświetla, ile plików przyjęto i odrzucono oraz ilu pacjentów, ile pomiarów
 i komentarzy wczytano, po jednym 'key: value' w wierszu; dla tabeli także, ile pomiarów było już znanych: nie są
 powielane.
+Wpisane ręcznie pomiary z listy, które tabela zawiera z ciśnieniomierza, są odtąd pomijane i liczone jako
+'left-out'.
 
 Z opcją --patient pomiary z tabeli są dodawane do pacjenta z listy. Z opcją --columns jest to tabela z innego
 programu, na przykład --columns "date=Data,time=Godzina,sys=Skurczowe,dia=Rozkurczowe,pulse=Tętno", z tytułami
@@ -1438,6 +1443,7 @@ Opcje:
     <message id="CliNoCommand"><translation>Brakuje polecenia.</translation></message>
     <message id="CliNoFolder"><translation>Nie ma folderu „%1”.</translation></message>
     <message id="CliNoHome"><translation>Zmienna środowiskowa HOME nie jest ustawiona, dlatego nie wiadomo, gdzie szukać pliku danych.</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>%n pacjent nie ma wiersza w tabeli: nie ma zapisanych jego pomiarów, tak jak u każdego bez ID.</numerusform><numerusform>%n pacjentów nie ma wierszy w tabeli: nie ma zapisanych ich pomiarów, tak jak u każdego bez ID.</numerusform><numerusform>%n pacjentów nie ma wierszy w tabeli: nie ma zapisanych ich pomiarów, tak jak u każdego bez ID.</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>Nie znaleziono ciśnieniomierza w ciągu %1 s. Proszę podłączyć go przewodem USB albo wydłużyć czas oczekiwania opcją --wait.</translation></message>
     <message id="CliNoSuchPatient"><translation>Nie ma pacjenta o ID „%1”. Listę wyświetla „zel patients”.</translation></message>
     <message id="CliNoSuchReading"><translation>pacjent nie ma pomiaru o numerze %1 (numery wyświetla zel readings --numbers)</translation></message>
@@ -1459,13 +1465,16 @@ Opcje:
     <message id="CliReadingJobMissing"><translation>--reason wymaga --exclude; --date, --time, --sys, --dia i --pulse wymagają --add lub --change</translation></message>
     <message id="CliReadingNotUnique"><translation>kilka pomiarów ma numer %1; nie wiadomo, o który chodzi</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte przez użytkownika i nigdzie się nie liczą; --numbers pokazuje, które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, które i dlaczego</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>Pominięto %n pacjenta: inny na liście ma ten sam ID albo też go nie ma. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform><numerusform>Pominięto %n pacjentów: inni na liście mają te same ID albo też ich nie mają. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform><numerusform>Pominięto %n pacjentów: inni na liście mają te same ID albo też ich nie mają. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set wymaga postaci KEY=VALUE, podano „%1”.</translation></message>
     <message id="CliSettingNotKept"><translation>W pliku danych nie ma miejsca na ustawienie %1, dlatego niczego nie zmieniono.</translation></message>
     <message id="CliSettingTwice"><translation>Ustawienie %1 podano więcej niż raz.</translation></message>
     <message id="CliSettingUnknown"><translation>Nie ma ustawienia „%1”. Dostępne ustawienia: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 – dozwolone: %2; podano „%3”.</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Tabela nie podaje płci, palenia tytoniu ani cukrzycy: %n nowy pacjent jest zapisany jako kobieta, osoba niepaląca i bez cukrzycy. Proszę to sprawdzić.</numerusform><numerusform>Tabela nie podaje płci, palenia tytoniu ani cukrzycy: %n nowi pacjenci są zapisani jako kobiety, osoby niepalące i bez cukrzycy. Proszę to sprawdzić.</numerusform><numerusform>Tabela nie podaje płci, palenia tytoniu ani cukrzycy: %n nowych pacjentów zapisano jako kobiety, osoby niepalące i bez cukrzycy. Proszę to sprawdzić.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>Opcja --patient ID dodaje pomiary z tabeli do pacjenta, który jest na liście.</translation></message>
     <message id="CliTryHelp"><translation>Więcej informacji: „%1”.</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie odtąd nigdzie się nie liczy: tabela zawiera ten sam pomiar z ciśnieniomierza.</numerusform><numerusform>%n pomiary wpisane ręcznie odtąd nigdzie się nie liczą: tabela zawiera te same pomiary z ciśnieniomierza.</numerusform><numerusform>%n pomiarów wpisanych ręcznie odtąd nigdzie się nie liczy: tabela zawiera te same pomiary z ciśnieniomierza.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>Nieoczekiwane słowo „%1”.</translation></message>
     <message id="CliUnknownCommand"><translation>Nie ma polecenia „%1”.</translation></message>
     <message id="CliWaiting"><translation>Oczekiwanie na ciśnieniomierz, jeszcze najwyżej %1 s. Ctrl-C anuluje.</translation></message>

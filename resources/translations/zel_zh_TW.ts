@@ -117,11 +117,13 @@
     <message id="TableCells"><translation>此列有 %1 個儲存格，標題列有 %2 個。</translation></message>
     <message id="TableDateOrder"><translation>「%1」的寫法與 2026-11-21 不同。請用 --dates 指定日、月、年的順序：dmy、mdy 或 ymd。</translation></message>
     <message id="TableLine"><translation>第 %1 列：%2</translation></message>
+    <message id="TableMeanPressure"><translation>平均動脈壓 %1 與 %2/%3 不符：各欄的對應是否正確？</translation></message>
     <message id="TableMoreLines" numerus="yes"><translation><numerusform>…另有 %n 列</numerusform></translation></message>
     <message id="TableNoTime"><translation>「%1」不是含四位數年份與時間的日期。</translation></message>
     <message id="TableNotUtf8"><translation>檔案的文字不是 UTF-8 編碼。請在原來的程式中另存為「CSV UTF-8」。</translation></message>
     <message id="TableOtherNames"><translation>病患「%1」在前面的列中有不同的姓名。</translation></message>
     <message id="TableOtherPatient"><translation>此量測屬於病患「%1」，不屬於「%2」。</translation></message>
+    <message id="TablePulsePressure"><translation>脈壓 %1 與 %2/%3 不符：各欄的對應是否正確？</translation></message>
     <message id="TableQuotation"><translation>引號未在儲存格結尾關閉。</translation></message>
     <message id="ViewLimitsUnread"><translation>無法讀取 %1，其中記錄了標示數值的上限。在您重新選擇上限之前，達到 %2/%3 mmHg 的數值會加上標示。</translation></message>
     <message id="Warning"><translation>警告</translation></message>
@@ -962,6 +964,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportCutPractitioner"><translation>…：在此截斷；設定中有全文。</translation></message>
     <message id="reportCutTexts"><translation>…：在此截斷；全文見下一頁。</translation></message>
     <message id="reportDays" numerus="yes"><translation><numerusform>%n 天</numerusform></translation></message>
+    <message id="reportDemonstration"><translation>示範：虛構資料</translation></message>
     <message id="reportDiaAbove"><translation>僅舒張壓超過：%1</translation></message>
     <message id="reportDocument"><translation>血壓報告：%1（%2）</translation></message>
     <message id="reportDownloadDay"><translation>↓ 黃色：下載</translation></message>
@@ -1249,6 +1252,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 匯入或完全不匯入：只要其中一位病患已在清單中，該檔案就不會匯入。未匯入的檔案會連同原因列在標準錯誤；
 表格則列出每一個有錯的列號。輸出匯入與拒絕的檔案數，以及匯入的病患、量測與註記數，每行一個
 'key: value'；有表格時也輸出已有的量測數，這些量測不會重複。
+清單中手動輸入的量測，若表格中有來自血壓計的相同量測，從此予以排除，並計入 'left-out'。
 
 使用 --patient 時，表格中的量測會加入清單中的病患。使用 --columns 時，檔案是其他程式的表格，例如
 --columns "date=日期,time=時間,sys=收縮壓,dia=舒張壓,pulse=脈搏"，標題取自其第一列；時間接在日期之後時
@@ -1419,6 +1423,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliNoCommand"><translation>未指定指令。</translation></message>
     <message id="CliNoFolder"><translation>沒有資料夾「%1」。</translation></message>
     <message id="CliNoHome"><translation>未設定環境變數 HOME，因此無法尋找資料檔。</translation></message>
+    <message id="CliNoLineInTable" numerus="yes"><translation><numerusform>有 %n 位病患在表格中沒有任何一列：沒有儲存其量測（沒有 ID 的病患都是如此）。</numerusform></translation></message>
     <message id="CliNoMonitor"><translation>在 %1 秒內找不到血壓計。請用 USB 傳輸線連接，或用 --wait 延長等候時間。</translation></message>
     <message id="CliNoSuchPatient"><translation>沒有 ID 為「%1」的病患。'zel patients' 可列出所有病患。</translation></message>
     <message id="CliNoSuchReading"><translation>這位病患沒有編號 %1 的量測（zel readings --numbers 可輸出編號）</translation></message>
@@ -1440,13 +1445,16 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliReadingJobMissing"><translation>--reason 須與 --exclude 一起使用；--date、--time、--sys、--dia 與 --pulse 須與 --add 或 --change 一起使用</translation></message>
     <message id="CliReadingNotUnique"><translation>有多筆量測的編號為 %1，無法判斷是哪一筆</translation></message>
     <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>這些量測中有 %n 筆由使用者排除，不計入任何結果；--numbers 可顯示是哪些量測及其原因</numerusform></translation></message>
+    <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>已略過 %n 位病患：清單中另有病患的 ID 相同，或同樣沒有 ID。每位病患都需要自己的 ID 才能區分。</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set 需要 KEY=VALUE，不能是「%1」。</translation></message>
     <message id="CliSettingNotKept"><translation>資料檔中沒有可存放設定 %1 的位置，因此未做任何變更。</translation></message>
     <message id="CliSettingTwice"><translation>設定 %1 指定了不只一次。</translation></message>
     <message id="CliSettingUnknown"><translation>沒有設定「%1」。可用的設定為：%2。</translation></message>
     <message id="CliSettingValue"><translation>%1 可用的值：%2；不接受「%3」。</translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>表格沒有性別、吸菸與糖尿病的資料：%n 位新病患已存為女性、不吸菸且無糖尿病，請確認。</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID 可將表格中的量測加入清單中的病患。</translation></message>
     <message id="CliTryHelp"><translation>請試試 '%1'。</translation></message>
+    <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測從此不再計入任何結果：表格中有來自血壓計的相同量測。</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>此處不應出現「%1」。</translation></message>
     <message id="CliUnknownCommand"><translation>沒有指令「%1」。</translation></message>
     <message id="CliWaiting"><translation>正在等候血壓計，最多再等 %1 秒。按 Ctrl-C 可取消。</translation></message>

@@ -1,61 +1,18 @@
 #include "cli/Commands.h"
 #include "cli/ExportTarget.h"
-#include "cli/OpenStore.h"
 #include "cli/Usage.h"
-#include "store/Text.h"
 #include "store/WrittenNames.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace zel::cli {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Writes tables, and says of each whether it was written.
-class TableWriter {
-public:
-    TableWriter(const DataStore& from, Replace asked, Surroundings& told)
-        : store(from), replace(asked), around(told) {}
-
-    void write(const QString& path, const QStringList& IDs) {
-        const QString ID = IDs.value(0);
-        StoreResult result = names.check(ID, path);
-        if (result) result = store.exportTable(path, IDs, replace);
-        if (!result) return complainOf(result.error());
-        printLine(around.out, u"written: "_s + path);
-        names.add(ID, path);
-        isAnyWritten = true;
-    }
-    [[nodiscard]] CommandResult finish(const QString& folder) {
-        if (!isAnyWritten) return failed({});
-        if (const StoreResult flushed = flushExports(folder); !flushed) complainOf(flushed.error());
-        return isComplete ? CommandResult() : CommandResult(failed({}));
-    }
-
-private:
-    void complainOf(const StoreError& error) {
-        isComplete = false;
-        complain(around, u"zel export-table"_s, reason(error));
-    }
-
-    const DataStore& store;
-    Replace replace;
-    Surroundings& around;
-    WrittenNames names;
-    bool isAnyWritten = false;
-    bool isComplete = true;
-};
-
-/// One without an ID has no readings.
-QStringList patientsWithID(const DataStore& store) {
-    QStringList IDs;
-    for (const PatientModel& patient : store.getPatientArray())
-        if (!IsEmptyID(patient.ID) && !IDs.contains(patient.ID)) IDs.append(patient.ID);
-    return IDs;
-}
 
 /// A folder that is there, or a file; a name that ends otherwise is a folder's with a slip in it.
 tl::expected<QString, Failure> tablePlace(const Request& request) {
@@ -67,24 +24,39 @@ tl::expected<QString, Failure> tablePlace(const Request& request) {
     return place;
 }
 
-CommandResult runExportTable(const Request& request, Surroundings& around) {
-    const auto place = tablePlace(request);
-    if (!place) return tl::unexpected(place.error());
-    const bool isOne = request.options.isSet(u"patient"_s);
-    const auto ID = isOne ? requiredValue(request, u"patient"_s) : QString();
-    if (!ID) return tl::unexpected(ID.error());
-    const OpenedStore store = openStore(around);
-    if (!store) return tl::unexpected(store.error());
-    if (CommandResult known = isOne ? checkPatient(**store, *ID) : CommandResult(); !known) return known;
-    const QStringList IDs = isOne ? QStringList(*ID) : patientsWithID(**store);
-    TableWriter writer(**store, replaceOf(request), around);
-    if (!QDir(*place).exists()) {
-        writer.write(*place, IDs);
-        return writer.finish(QFileInfo(*place).path());
+/// A table of its own for each patient.
+void writeTables(const ExportJob& job, ExportTally& tally) {
+    WrittenNames names;
+    for (const QString& ID : job.patients.IDs) {
+        const QString path = exportPath(job.place, ID, u".table.csv"_s);
+        StoreResult result = names.check(ID, path);
+        if (result) result = job.store->exportTable(path, {ID}, job.replace);
+        if (result) names.add(ID, path);
+        tally.count(result, path);
     }
-    for (const QString& each : IDs)
-        writer.write(exportPath(*place, each, u".table.csv"_s), {each});
-    return IDs.isEmpty() ? CommandResult() : writer.finish(*place);
+}
+
+/// One table of all of them. Who has no reading, as anybody without an ID, has no line that would show it.
+void writeTable(const ExportJob& job, ExportTally& tally, Surroundings& around) {
+    tally.count(job.store->exportTable(job.place, job.patients.IDs, job.replace), job.place);
+    const auto hasNone = [&job](const QString& ID) { return job.store->getReadingForID(ID).empty(); };
+    const auto without = std::ranges::count_if(job.patients.IDs, hasNone);
+    if (tally.isAnyWritten() && without > 0)
+        complain(around, u"zel export-table"_s, qtTrId("CliNoLineInTable", static_cast<int>(without)));
+}
+
+CommandResult runExportTable(const Request& request, Surroundings& around) {
+    const auto job = exportJob(request, around, Whom::oneOrAll, tablePlace);
+    if (!job) return tl::unexpected(job.error());
+    const bool isFolder = QDir(job->place).exists();
+    ExportTally tally(u"zel export-table"_s, around);
+    if (isFolder)
+        writeTables(*job, tally);
+    else
+        writeTable(*job, tally, around);
+    tally.countLeftOut(job->patients);
+    const QString folder = isFolder ? job->place : QFileInfo(job->place).path();
+    return tally.finish([&] { return tally.isAnyWritten() ? flushExports(folder) : StoreResult(); });
 }
 
 } // namespace

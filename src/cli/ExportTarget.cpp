@@ -1,10 +1,22 @@
 #include "cli/ExportTarget.h"
 
+#include "cli/Usage.h"
+
 #include <QDir>
 
 namespace zel::cli {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Why a file was not written, in words, also how it would be.
+QString exportFailure(const StoreError& error) {
+    const QString words = describeExport(error);
+    return error.code == StoreErrorCode::alreadyExists ? words + u' ' + qtTrId("CliForceReplaces") : words;
+}
+
+} // namespace
 
 tl::expected<QString, Failure> folderOf(const Request& request) {
     const QString folder = request.options.positionalArguments().value(0);
@@ -13,17 +25,43 @@ tl::expected<QString, Failure> folderOf(const Request& request) {
     return folder;
 }
 
-Replace replaceOf(const Request& request) {
-    return request.options.isSet(u"force"_s) ? Replace::yes : Replace::no;
+tl::expected<ExportJob, Failure> exportJob(const Request& request, Surroundings& around, Whom whom,
+                                           PlaceOf placeOf) {
+    const auto place = placeOf(request);
+    if (!place) return tl::unexpected(place.error());
+    const bool isOne = whom == Whom::one || request.options.isSet(u"patient"_s);
+    const auto ID = isOne ? requiredValue(request, u"patient"_s) : QString();
+    if (!ID) return tl::unexpected(ID.error());
+    OpenedStore store = openStore(around);
+    if (!store) return tl::unexpected(store.error());
+    if (CommandResult known = isOne ? checkPatient(**store, *ID) : CommandResult(); !known)
+        return tl::unexpected(known.error());
+    AllPatients patients = isOne ? AllPatients{.IDs = {*ID}} : allPatients((*store)->getPatientArray());
+    const auto replace = request.options.isSet(u"force"_s) ? Replace::yes : Replace::no;
+    return ExportJob{*place, replace, std::move(*store), std::move(patients)};
 }
 
-QString reason(const StoreError& error) {
-    const QString words = describeExport(error);
-    return error.code == StoreErrorCode::alreadyExists ? words + u' ' + qtTrId("CliForceReplaces") : words;
+ExportTally::ExportTally(QString program, Surroundings& around) : name(std::move(program)), told(around) {}
+
+void ExportTally::count(const StoreResult& result, const QString& path) {
+    if (result) {
+        printLine(told.out, u"written: "_s + path);
+        anyWritten = true;
+    } else {
+        complain(told, name, exportFailure(result.error()));
+        isComplete = false;
+    }
 }
 
-QString written(const QString& folder, const QString& ID, const QString& extension) {
-    return u"written: "_s + exportPath(folder, ID, extension);
+void ExportTally::countLeftOut(const AllPatients& patients) {
+    if (patients.sameID == 0) return;
+    complain(told, name, qtTrId("CliSameIDLeftOut", patients.sameID));
+    isComplete = false;
+}
+
+CommandResult ExportTally::finish(const std::function<StoreResult()>& flush) {
+    if (const StoreResult flushed = flush(); !flushed) return failed(exportFailure(flushed.error()));
+    return isComplete ? CommandResult() : CommandResult(failed({}));
 }
 
 } // namespace zel::cli

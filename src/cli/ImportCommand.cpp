@@ -15,14 +15,17 @@ namespace {
 struct Taken {
     qsizetype files = 0;
     bool hasTable = false; ///< of what was tried
+    std::size_t tablePatients = 0;
     ImportCounts records;
 
-    void add(const ImportCounts& counts) {
+    void add(const ImportCounts& counts, bool isTable) {
         ++files;
+        if (isTable) tablePatients += counts.patients;
         records.patients += counts.patients;
         records.readings += counts.readings;
         records.comments += counts.comments;
         records.known += counts.known;
+        records.leftOut += counts.leftOut;
     }
 };
 
@@ -36,6 +39,15 @@ void print(const Taken& taken, qsizetype refused, Surroundings& around) {
     line("readings", taken.records.readings);
     line("comments", taken.records.comments);
     if (taken.hasTable) line("known", taken.records.known);
+    if (taken.hasTable) line("left-out", taken.records.leftOut);
+}
+
+/// What the user has to know beside the numbers.
+void tellTableEffects(const Taken& taken, Surroundings& around) {
+    if (const auto patients = static_cast<int>(taken.tablePatients); patients > 0)
+        complain(around, u"zel import"_s, qtTrId("CliTableAssumed", patients));
+    if (const auto leftOut = static_cast<int>(taken.records.leftOut); leftOut > 0)
+        complain(around, u"zel import"_s, qtTrId("CliTypedLeftOut", leftOut));
 }
 
 /// The refusal, with the option that may help.
@@ -57,7 +69,7 @@ void importFile(const QString& file, const TableImport& wanted, DataStore& store
         return complain(around, u"zel import"_s, qtTrId("CliNoTable").arg(file));
     const auto counts = isTable ? store.importTable(file, wanted) : store.importXml(file);
     if (counts)
-        taken.add(*counts);
+        taken.add(*counts, isTable);
     else
         complain(around, u"zel import"_s, wordsOf(counts.error(), isTable));
 }
@@ -76,6 +88,7 @@ CommandResult runImport(const Request& request, Surroundings& around) {
     for (const QString& file : files)
         importFile(file, *wanted, **store, taken, around);
     print(taken, files.size() - taken.files, around);
+    tellTableEffects(taken, around);
     if (taken.files < files.size()) return failed({});
     return {};
 }

@@ -34,8 +34,16 @@ QJsonObject patientResource(const PatientModel& patient, const QUuid& id, const 
     return made;
 }
 
+/// By which programs that take records in keep invented ones apart from people's.
+QJsonObject markedAsTest(QJsonObject meta) {
+    constexpr Code test{"http://terminology.hl7.org/CodeSystem/v3-ActReason", "HTEST", "test health data"};
+    meta[u"security"_s] = QJsonArray{coding(test)};
+    return meta;
+}
+
 /// As text at once: as one document, a hundred thousand readings would take a gigabyte and a half.
-void addEntry(QByteArray& text, const QUuid& id, const QJsonObject& resource) {
+void addEntry(QByteArray& text, const QUuid& id, QJsonObject resource, bool isTest) {
+    if (isTest) resource[u"meta"_s] = markedAsTest(resource[u"meta"_s].toObject());
     const QJsonObject entry{{u"fullUrl"_s, fullUrl(id)}, {u"resource"_s, resource}};
     if (!text.endsWith('[')) text += ',';
     text += '\n' + QJsonDocument{entry}.toJson(QJsonDocument::Compact);
@@ -46,12 +54,15 @@ void addEntry(QByteArray& text, const QUuid& id, const QJsonObject& resource) {
 QByteArray fhirBundle(const BundleSource& source) {
     const QUuid patient = patientId(source.patient, source.zone);
     const std::vector<QUuid> ids = readingIds(patient, source.readings);
-    QByteArray text = R"({"resourceType":"Bundle","type":"collection","entry":[)";
-    addEntry(text, patient, patientResource(source.patient, patient, source.zone));
+    const bool isTest = source.isDemonstration;
+    QByteArray text = R"({"resourceType":"Bundle",)";
+    if (isTest) text += R"("meta":)" + QJsonDocument{markedAsTest({})}.toJson(QJsonDocument::Compact) + ',';
+    text += R"("type":"collection","entry":[)";
+    addEntry(text, patient, patientResource(source.patient, patient, source.zone), isTest);
     for (std::size_t i = 0; i < ids.size(); ++i)
-        addEntry(text, ids[i], readingObservation(source.readings[i], ids[i], patient, source.zone));
+        addEntry(text, ids[i], readingObservation(source.readings[i], ids[i], patient, source.zone), isTest);
     if (const auto average = averageObservation({source.readings, ids}, source.rule, patient, source.zone))
-        addEntry(text, QUuid::fromString((*average)[u"id"_s].toString()), *average);
+        addEntry(text, QUuid::fromString((*average)[u"id"_s].toString()), *average, isTest);
     return text + "\n]}\n";
 }
 

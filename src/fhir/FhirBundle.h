@@ -13,7 +13,8 @@ struct BundleSource {
     const PatientModel& patient;
     const ReadingList& readings; ///< the patient's, in the file's order, all of them
     AverageRule rule = AverageRule::esh;
-    const LocalZone& zone; ///< whose clocks the times show
+    const LocalZone& zone;        ///< whose clocks the times show
+    bool isDemonstration = false; ///< all is invented, which bundle and resources say
 };
 
 /// A bundle with the patient, each reading, and the average of the last measuring week if there is one, as

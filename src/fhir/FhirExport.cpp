@@ -12,13 +12,15 @@ FhirExport::FhirExport(const DataStore& from, QString to, AverageRule average)
 StoreResult FhirExport::write(const QString& ID, Replace replace) {
     const PatientModel* patient = store.getPatientByID(ID);
     if (!patient) return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
-    const QString path = exportPath(folder, ID, fileExtension.toString());
+    const QString path = exportPath(folder, ID, fileExtension.toString(), store.isDemonstration());
     if (StoreResult unique = names.check(ID, path); !unique) return unique;
     const LocalZone zone;
-    StoreResult result = writeExport(
-        path,
-        fhirBundle({.patient = *patient, .readings = store.getReadingForID(ID), .rule = rule, .zone = zone}),
-        replace, store.getZELXMLPath());
+    const QByteArray bundle = fhirBundle({.patient = *patient,
+                                          .readings = store.getReadingForID(ID),
+                                          .rule = rule,
+                                          .zone = zone,
+                                          .isDemonstration = store.isDemonstration()});
+    StoreResult result = writeExport(path, bundle, replace, store.getZELXMLPath());
     if (result) names.add(ID, path);
     isWritten = isWritten || result.has_value();
     return result;

@@ -45,12 +45,13 @@ QString offsetText(minutes offset) {
 
 } // namespace
 
-QJsonObject codeableConcept(const Code& code) {
-    const QJsonObject coding{{u"system"_s, QLatin1StringView{code.system}},
-                             {u"code"_s, QLatin1StringView{code.code}},
-                             {u"display"_s, QLatin1StringView{code.display}}};
-    return {{u"coding"_s, QJsonArray{coding}}};
+QJsonObject coding(const Code& code) {
+    return {{u"system"_s, QLatin1StringView{code.system}},
+            {u"code"_s, QLatin1StringView{code.code}},
+            {u"display"_s, QLatin1StringView{code.display}}};
 }
+
+QJsonObject codeableConcept(const Code& code) { return {{u"coding"_s, QJsonArray{coding(code)}}}; }
 
 QJsonObject codeableConcept(const QString& text) { return {{u"text"_s, text}}; }
 

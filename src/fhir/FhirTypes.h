@@ -25,6 +25,7 @@ struct Unit {
     const char* code;
 };
 
+[[nodiscard]] QJsonObject coding(const Code& code);
 [[nodiscard]] QJsonObject codeableConcept(const Code& code);
 /// Where no code system has a code that says just this.
 [[nodiscard]] QJsonObject codeableConcept(const QString& text);

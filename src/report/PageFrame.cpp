@@ -16,7 +16,8 @@ const TextAttribute emptyFont{.size = 9, .bold = true};
 constexpr int smallestName = 8;
 constexpr int practitionerSize = 10, smallestPractitioner = 5;
 const TextAttribute pageNumberFont{.size = 10};
-const QColor titleBackgroundColor(206, 219, 239);
+const QColor titleBackgroundColor(206, 219, 239), markColor(150, 0, 0);
+const TextAttribute markFont{.bold = true, .color = markColor};
 
 constexpr double titleIndent = 6, dateIndent = 27, logoWidth = 117, logoHeight = 54, logoIndent = 120,
                  besideLogo = 130, practitionerTop = 90, gap = 12, legendTop = 21, aboveLegend = 6;
@@ -148,7 +149,11 @@ void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& rep
     const QString today = day(report.now, report);
     const double width = band.width - titleIndent - dateIndent - textSize(today, boldFont).width - gap;
     fieldText(picture, section, {band.x + titleIndent, band.y + 22}, width, boldFont);
-    fieldText(picture, qtTrId("appDescrption"), {band.x + titleIndent, band.y + 6}, width, plainFont);
+    const Point under{band.x + titleIndent, band.y + 6};
+    if (report.isDemonstration)
+        fieldText(picture, qtTrId("reportDemonstration"), under, width, markFont);
+    else
+        fieldText(picture, qtTrId("appDescrption"), under, width, plainFont);
     textOut(picture, today, {band.right() - dateIndent, band.y + 18}, boldFont, XPos::right);
 }
 

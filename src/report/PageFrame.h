@@ -27,7 +27,8 @@ struct PagePlace {
 /// any length.
 void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section,
                       const PagePlace& place);
-/// The band with the section's name, the program's and today's date.
+/// The band with the section's name, the program's and today's date; in a demonstration it has that all is
+/// invented in the program's place.
 void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, const QString& section);
 /// What a document's first page says of the sections that it lacks; empty elsewhere.
 [[nodiscard]] QString emptyText(const PagePlace& place);

@@ -35,7 +35,8 @@ PdfFacts factsOf(const ReportSource& report, const ReportDocument& document) {
     const PatientModel& patient = report.patient;
     const QString name =
         qtTrId("fullName").arg(patient.GivenNames.left(200), patient.FamilyName.left(200)).trimmed();
-    return {.title = qtTrId("reportDocument").arg(name, patient.ID.left(200)),
+    const QString title = qtTrId("reportDocument").arg(name, patient.ID.left(200));
+    return {.title = report.isDemonstration ? qtTrId("reportDemonstration") + u" – "_s + title : title,
             .author = author(report),
             .creator = u"ZEL "_s + QStringLiteral(ZEL_VERSION),
             .created = report.now,

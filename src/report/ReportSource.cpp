@@ -19,6 +19,7 @@ std::optional<ReportSource> reportSource(const DataStore& store, const ReadingSe
                         .rows = std::move(rows),
                         .highFrom = store.viewLimits().limits(),
                         .now = std::chrono::floor<Instant::duration>(clock.now()),
+                        .isDemonstration = store.isDemonstration(),
                         .getIsAfib = isAFib};
 }
 

@@ -30,6 +30,7 @@ struct ReportSource {
     AverageRule weekRule = AverageRule::esh; ///< of the summary's measuring week
     std::optional<DayNumber> weekEnd{};      ///< its last day; else the period's last one with a reading
 
+    bool isDemonstration = false;      ///< all is invented, which every page says
     bool needPhysicianInfo = false;    ///< the practitioner's details stand in the footer
     bool getShowMam = true;            ///< the reading table shows its column of averages
     bool getShowPad = true;            ///< the reading table shows its arrhythmia column

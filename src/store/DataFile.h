@@ -16,9 +16,10 @@ class FileLock;
 
 /// Where the store finds its files.
 struct StorePaths {
-    QString home;              ///< the user's home folder; the data file lives below it
-    QString applicationFolder; ///< the executable's folder: ".target" and the data file of older versions
-    QString templateFolder;    ///< holds ZEL_<target>.xml
+    QString home;                 ///< the user's home folder; the data file lives below it
+    QString applicationFolder;    ///< the executable's folder: ".target" and the data file of older versions
+    QString templateFolder;       ///< holds ZEL_<target>.xml
+    bool isDemonstration = false; ///< the patients are invented: what leaves the program says so
 };
 
 /// What tells one state of a file from the next without reading it; all 0 where there is none.
@@ -40,6 +41,7 @@ public:
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getZELXMLPath_Old() const;
+    [[nodiscard]] bool isDemonstration() const { return paths.isDemonstration; }
     /// First line of ".target" beside the program, "pad" when there is none: the model family.
     [[nodiscard]] QString getTargetString() const;
     /// Writes ".target" with "pad" if it is missing. A program in a read-only folder just keeps "pad".

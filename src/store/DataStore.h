@@ -68,6 +68,8 @@ public:
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getTargetString() const;
+    /// Its patients are invented, which whatever is made of them has to say.
+    [[nodiscard]] bool isDemonstration() const { return file.isDemonstration(); }
     /// \return false, after telling the user, if the data file may not be written
     bool checkXmlWritable(MessagePanel& panel) const;
 

@@ -53,7 +53,7 @@ tl::expected<PatientExport, StoreError> DataStore::beginExport() const {
         qCWarning(lcStore, "_export  create xml doc failed");
         return tl::unexpected{document.error()};
     }
-    return PatientExport{std::move(*document), file.getZELXMLPath()};
+    return PatientExport{std::move(*document), file.getZELXMLPath(), file.isDemonstration()};
 }
 
 StoreResult DataStore::exportCSV(const QString& folder, const QString& ID, Replace replace) const {
@@ -61,8 +61,10 @@ StoreResult DataStore::exportCSV(const QString& folder, const QString& ID, Repla
     if (!patient) return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
     const QString text =
         csvText(*patient, records.readingsOf(ID), records.gSettingModel, file.getTargetString());
-    return writeExport(exportPath(folder, ID, u".csv"_s), text.toUtf8(), replace, file.getZELXMLPath())
-        .and_then([&folder] { return flushExports(folder); });
+    const QString path = exportPath(folder, ID, u".csv"_s, file.isDemonstration());
+    return writeExport(path, text.toUtf8(), replace, file.getZELXMLPath()).and_then([&folder] {
+        return flushExports(folder);
+    });
 }
 
 tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& path) {

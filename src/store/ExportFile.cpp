@@ -85,16 +85,17 @@ StoreResult place(const QString& path, const QByteArray& content) {
 
 } // namespace
 
-QString exportFileName(const QString& ID, const QString& extension) {
+QString exportFileName(const QString& ID, const QString& extension, bool isDemonstration) {
+    const QString mark = isDemonstration ? u"Demonstration-"_s : QString{};
     const QByteArray bytes = ID.toUtf8();
-    const qsizetype longest = longestName - extension.toUtf8().size();
+    const qsizetype longest = longestName - mark.size() - extension.toUtf8().size();
     QByteArray name = escapedName(bytes);
     if (name.size() > longest) name = shortened(std::move(name), bytes, longest);
-    return QString::fromUtf8(name) + extension;
+    return mark + QString::fromUtf8(name) + extension;
 }
 
-QString exportPath(const QString& folder, const QString& ID, const QString& extension) {
-    return folder + u'/' + exportFileName(ID, extension);
+QString exportPath(const QString& folder, const QString& ID, const QString& extension, bool isDemonstration) {
+    return folder + u'/' + exportFileName(ID, extension, isDemonstration);
 }
 
 StoreResult writeExport(const QString& path, const QByteArray& content, Replace replace,

@@ -1,5 +1,6 @@
 #include "store/PatientExport.h"
 
+#include "store/AllPatients.h"
 #include "store/DocumentElements.h"
 #include "store/Log.h"
 
@@ -19,20 +20,20 @@ bool isPersonal(pugi::xml_node node) {
 
 } // namespace
 
-PatientExport::PatientExport(XmlDocument read, QString path)
-    : document{std::make_unique<const XmlDocument>(std::move(read))}, dataFile{std::move(path)} {
+PatientExport::PatientExport(XmlDocument read, QString path, bool isDemonstration)
+    : document{std::make_unique<const XmlDocument>(std::move(read))}, dataFile{std::move(path)},
+      isInvented{isDemonstration} {
     std::size_t place = 0;
     for (pugi::xml_node node = document->root().first_child(); node; node = node.next_sibling())
         sort({place++, node});
+    IDs = allPatients(IDs).IDs;
 }
 
 void PatientExport::sort(const Child& child) {
     if (!isPersonal(child.node)) return common.push_back(child);
     const QString ID = childText(child.node, "ID");
-    std::vector<Child>& own = personal[ID];
-    const auto isPatient = [](const Child& known) { return isElement(known.node, "Patient"); };
-    if (isPatient(child) && std::ranges::none_of(own, isPatient)) IDs += ID;
-    own.push_back(child);
+    if (isElement(child.node, "Patient")) IDs += ID;
+    personal[ID].push_back(child);
 }
 
 std::vector<pugi::xml_node> PatientExport::childrenFor(const std::vector<Child>& own) const {
@@ -48,7 +49,7 @@ StoreResult PatientExport::writeXml(const QString& ID, const QString& folder, Re
     const auto own = personal.find(ID);
     if (own == personal.end() || !IDs.contains(ID))
         return tl::unexpected{StoreError{StoreErrorCode::noSuchRecord, ID, {}}};
-    const QString path = exportPath(folder, ID, u".xml"_s);
+    const QString path = exportPath(folder, ID, u".xml"_s, isInvented);
     if (StoreResult unique = written->check(ID, path); !unique) return unique;
     const auto content = document->withChildren(childrenFor(own->second)).serialise();
     if (!content) return tl::unexpected{StoreError{StoreErrorCode::writeFailed, path, content.error()}};

@@ -18,10 +18,11 @@ namespace zel {
 /// read once. Holds no reference to the store. DataStore::beginExport() makes one.
 class PatientExport {
 public:
-    /// \p path is the data file's, which no export replaces.
-    PatientExport(XmlDocument document, QString path);
+    /// \p path is the data file's, which no export replaces. \p isDemonstration: see exportFileName()
+    PatientExport(XmlDocument document, QString path, bool isDemonstration = false);
 
-    /// The IDs of all patients in the file, in its order, each once.
+    /// The IDs of all patients in the file, in its order, by the rule of AllPatients. The file of an ID that
+    /// several have is of all of them.
     [[nodiscard]] const QStringList& patients() const { return IDs; }
 
     /// Writes the data file's whole content without other patients' Patient, Comment and MeasureRec elements
@@ -57,6 +58,7 @@ private:
     std::unique_ptr<Unflushed> unflushed = std::make_unique<Unflushed>();
     std::unique_ptr<WrittenNames> written = std::make_unique<WrittenNames>();
     QString dataFile;
+    bool isInvented;
     QStringList IDs;
     std::vector<Child> common;                                ///< in every patient's file
     std::unordered_map<QString, std::vector<Child>> personal; ///< by patient ID

@@ -54,6 +54,8 @@ struct ImportCounts {
     std::size_t readings = 0;
     std::size_t comments = 0;
     std::size_t known = 0; ///< readings of a table that are there already, and were not taken again
+    /// Typed readings of the list that count nowhere from now on: a table has the same ones from a monitor.
+    std::size_t leftOut = 0;
 };
 
 /// The largest file that is read, in bytes.

@@ -16,9 +16,24 @@ constexpr std::array<TableWord, 5> findings{
     {{0, u""}, {1, u"no PAD"}, {2, u"PAD"}, {4, u"no AFib"}, {5, u"AFib"}}};
 constexpr std::array<TableWord, 4> colours{{{1, u"grey"}, {2, u"orange"}, {3, u"blue"}, {4, u"yellow"}}};
 
+/// The column with that title, as in "MAP" or "map (mmHg)"; none where there are two, or where it was looked
+/// for as another one.
+std::optional<std::size_t> usualColumn(const CsvReader& header, const TableLayout& layout,
+                                       const QString& title) {
+    std::optional<std::size_t> found;
+    for (std::size_t i = 0; i < header.cells().size(); ++i) {
+        QString cell = header.cells()[i].simplified();
+        cell.remove(u"(mmHg)"_s, Qt::CaseInsensitive).remove(u"[mmHg]"_s, Qt::CaseInsensitive);
+        if (cell.trimmed().compare(title, Qt::CaseInsensitive) != 0) continue;
+        if (found || std::ranges::find(layout.places, i) != layout.places.end()) return {};
+        found = i;
+    }
+    return found;
+}
+
 tl::expected<TableLayout, QString> layoutOf(const CsvReader& header, QChar delimiter,
                                             const QStringList& titles) {
-    TableLayout layout{delimiter, {}, header.count()};
+    TableLayout layout{.delimiter = delimiter, .places = {}, .cells = header.count()};
     for (const QString& title : titles) {
         const auto isTitle = [&title](const QString& cell) { return cell.trimmed() == title; };
         const auto found = std::ranges::find_if(header.cells(), isTitle);
@@ -26,6 +41,8 @@ tl::expected<TableLayout, QString> layoutOf(const CsvReader& header, QChar delim
         if (found == end || std::find_if(found + 1, end, isTitle) != end) return tl::unexpected{title};
         layout.places.push_back(static_cast<std::size_t>(found - header.cells().begin()));
     }
+    layout.map = usualColumn(header, layout, u"map"_s);
+    layout.pp = usualColumn(header, layout, u"pp"_s);
     return layout;
 }
 

@@ -47,6 +47,9 @@ struct TableLayout {
     QChar delimiter;
     std::vector<std::size_t> places; ///< as the titles that were looked for
     std::size_t cells = 0;           ///< of a line
+    // Columns that were not looked for, but are known by their usual titles, with or without a unit.
+    std::optional<std::size_t> map{}; ///< mean arterial pressure
+    std::optional<std::size_t> pp{};  ///< pulse pressure
 };
 
 /// Looks for the titles in the table's first line, whose cells are parted by commas, semicolons or tabs.

@@ -88,6 +88,7 @@ private:
             excluded.exclusion = measuredReason.toString();
             recorder.willChange(element);
             excluded.changeXMLNode(element, before);
+            ++counts.leftOut;
         }
     }
 

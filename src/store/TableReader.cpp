@@ -1,6 +1,7 @@
 #include "store/TableReader.h"
 
 #include "store/ManualReading.h"
+#include "store/MeanPressures.h"
 #include "store/Text.h"
 
 #include <algorithm>
@@ -79,11 +80,13 @@ void readTime(LineCells& cells, const QString& text, DateOrder order, const Tabl
 
 /// What nobody can have typed is not taken. What is left out counts nowhere, and so may be what it likes. A
 /// monitor's clock may be ahead.
-void checkValues(LineCells& cells, const ReadingModel& reading, bool isDated, const TablePlace& place) {
+void checkValues(LineCells& cells, const ReadingModel& reading, const MeanPressures& means, bool isDated,
+                 const TablePlace& place) {
     if (reading.isExcluded()) return;
     ManualReading values = ManualReading::of(reading);
     if (!isDated || (!reading.isManual && values.time > place.now)) values.time = place.now;
     if (const auto problem = manualProblem(values, place.now)) cells.refuse(describe(*problem));
+    if (const QString problem = meanPressureProblem(means, reading); !problem.isNull()) cells.refuse(problem);
 }
 
 void readOwnValues(LineCells& cells, ReadingModel& reading) {
@@ -159,7 +162,7 @@ tl::expected<TableLine, QString> readOwnLine(const CsvReader& line, const TableL
     const QString time = cells.cell(TableColumn::dateTime).trimmed();
     readTime(cells, time, DateOrder::ymd, place, read.reading);
     readOwnValues(cells, read.reading);
-    checkValues(cells, read.reading, !time.isEmpty(), place);
+    checkValues(cells, read.reading, meanPressuresOf(read.reading), !time.isEmpty(), place);
     read.comment = readComment(cells, place);
     return lineOrProblem(std::move(read), cells);
 }
@@ -184,7 +187,7 @@ tl::expected<TableLine, QString> readForeignLine(const CsvReader& line, const Ta
     readTime(cells, time, dates, place, read.reading);
     values.time = read.reading.ReadingDate;
     read.reading = values.writtenOver(std::move(read.reading));
-    checkValues(cells, read.reading, true, place);
+    checkValues(cells, read.reading, meanPressuresOf(line, layout), true, place);
     return lineOrProblem(std::move(read), cells);
 }
 

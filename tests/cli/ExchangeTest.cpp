@@ -90,6 +90,34 @@ TEST_F(CliExchangeTest, BundlesAreWrittenForAllOrOneAndNeverOverAFileUnlessForce
     EXPECT_EQ(data(), before);
 }
 
+TEST_F(CliExchangeTest, AllPatientsAreTheSameOnesInEachExportAndWhoIsLeftOutIsTold) {
+    setData("<ZEL><SystemSetting/><Patient><ID>A1</ID><FamilyName>First</FamilyName></Patient>"
+            "<Patient><ID/><FamilyName>None</FamilyName></Patient><Patient><ID>A1</ID>"
+            "<FamilyName>Second</FamilyName></Patient></ZEL>");
+    const QString told =
+        u": 1 patient was left out: another one in the list has the same ID, or none either."_s;
+    const struct {
+        const char* command;
+        QString extension;
+        bool isWhole;
+    } cases[] = {{"export-xml", u".xml"_s, true},
+                 {"export-fhir", u".fhir.json"_s, false},
+                 {"export-table", u".table.csv"_s, false}};
+    for (const auto& [command, extension, isWhole] : cases) {
+        const Outcome outcome = zel({QString::fromLatin1(command), out});
+        EXPECT_EQ(outcome.out, line(u"A1"_s + extension) + line(u"%"_s + extension)) << command;
+        EXPECT_EQ(outcome.status, isWhole ? 0 : 1) << command;
+        if (isWhole)
+            EXPECT_EQ(outcome.err, "") << "both patients are in the file";
+        else
+            EXPECT_THAT(outcome.err, StartsWith("zel " + std::string(command) + told.toStdString()));
+    }
+    const Outcome table = zel({u"export-table"_s, out + u"/all.csv"_s});
+    EXPECT_THAT(table.err, HasSubstr("2 patients have no line in the table"));
+    EXPECT_EQ(table.status, 1);
+    EXPECT_EQ(zel({u"export-table"_s, out, u"--patient"_s, u"A1"_s, u"--force"_s}).status, 0);
+}
+
 TEST_F(CliExchangeTest, UnknownPatientOrFolderIsTold) {
     const QString none = out + u"/none"_s;
     const std::pair<QStringList, const char*> cases[] = {

@@ -30,10 +30,12 @@ struct CliTableTest : CliTest {
     [[nodiscard]] std::string line(const QString& name) const {
         return (u"written: "_s + out + u'/' + name + u'\n').toStdString();
     }
-    static std::string counts(int taken, int refused, int patients, int readings, int known) {
+    static std::string counts(int taken, int refused, int patients, int readings, int known,
+                              int leftOut = 0) {
         const auto number = [](const char* key, int count) { return key + std::to_string(count) + '\n'; };
         return number("taken: ", taken) + number("refused: ", refused) + number("patients: ", patients)
-               + number("readings: ", readings) + "comments: 0\n" + number("known: ", known);
+               + number("readings: ", readings) + "comments: 0\n" + number("known: ", known)
+               + number("left-out: ", leftOut);
     }
     static QStringList theirs(const QStringList& more = {}) {
         return QStringList{u"--patient"_s, u"A1"_s, u"--columns"_s, u"date=Day,sys=S,dia=D,pulse=P"_s} + more;
@@ -48,7 +50,12 @@ TEST_F(CliTableTest, GoesIntoAFolderOrAFileAndComesBack) {
     EXPECT_EQ(again.status, 1);
     EXPECT_THAT(again.err, HasSubstr("--force"));
     EXPECT_EQ(zel({u"export-table"_s, out, u"--force"_s}).out, written.out);
-    EXPECT_EQ(zel({u"export-table"_s, out + u"/all.csv"_s}).out, line(u"all.csv"_s));
+    const Outcome all = zel({u"export-table"_s, out + u"/all.csv"_s});
+    EXPECT_EQ(all.status, 0);
+    EXPECT_EQ(all.out, line(u"all.csv"_s));
+    EXPECT_EQ(all.err,
+              "zel export-table: 1 patient has no line in the table: no reading is stored for this one, "
+              "as for anybody without an ID.\n");
     EXPECT_EQ(zel({u"export-table"_s, dataFile(), u"--force"_s}).status, 1) << "no name of a table";
     EXPECT_THAT(zel({u"export-table"_s, out + u"/none"_s}).err, HasSubstr("no folder"));
     EXPECT_THAT(zel({u"export-table"_s, out, u"--patient"_s, u"nobody"_s}).err, HasSubstr("'nobody'"));
@@ -69,6 +76,8 @@ TEST_F(CliTableTest, GoesIntoAFolderOrAFileAndComesBack) {
     EXPECT_EQ(taken.status, 1);
     EXPECT_EQ(taken.out, counts(1, 1, 1, 4, 0));
     EXPECT_THAT(taken.err, HasSubstr("no reading"));
+    EXPECT_THAT(taken.err,
+                HasSubstr("the 1 new patient is stored as female, non-smoker and without diabetes"));
     EXPECT_EQ(zel(list).out, readings);
 }
 
@@ -92,6 +101,27 @@ TEST_F(CliTableTest, AnotherProgramsTableIsTakenWholeOrNotAtAll) {
     EXPECT_EQ(zel(import).out, counts(1, 0, 0, 0, 2));
     EXPECT_THAT(zel({u"readings"_s, u"--patient"_s, u"A1"_s}).out,
                 HasSubstr("\n2026-04-03,07:05,131,84,66,99,47,No,N/A\n"));
+}
+
+TEST_F(CliTableTest, TypedReadingsThatATableHasFromAMonitorAreLeftOutAndCounted) {
+    const QString all = out + u"/all.csv"_s;
+    EXPECT_EQ(zel({u"export-table"_s, all}).status, 0);
+    const std::string line = zel({u"readings"_s, u"--patient"_s, u"A1"_s}).out;
+    const QStringList cells = QString::fromStdString(line).section(u"2026-11-02,19:30,"_s, 1).split(u',');
+    QByteArray content = data();
+    const qsizetype first = content.indexOf("<MeasureRec>"), end = content.lastIndexOf("</MeasureRec>") + 13;
+    setData(content.remove(first, end - first));
+    ASSERT_EQ(
+        zel({u"readings"_s, u"--patient"_s, u"A1"_s, u"--add"_s, u"--date"_s, u"2026-11-02"_s, u"--time"_s,
+             u"19:30"_s, u"--sys"_s, cells[0], u"--dia"_s, cells[1], u"--pulse"_s, cells[2]})
+            .status,
+        0);
+    const Outcome taken = zel({u"import"_s, all, u"--patient"_s, u"A1"_s});
+    EXPECT_EQ(taken.out, counts(1, 0, 0, 4, 0, 1));
+    EXPECT_EQ(taken.err,
+              "zel import: 1 reading that was typed in counts nowhere from now on: the table has the "
+              "same one from a monitor.\n")
+        << "nobody is new";
 }
 
 TEST_F(CliTableTest, OptionsThatMakeNoSenseAreWrongUsage) {

@@ -117,6 +117,40 @@ TEST(ResourceIdsTest, ARecordKeepsItsIdAndSharesItWithNone) {
     EXPECT_NE(readingIds(patientId(anna, zone), readings).front(), before.front());
 }
 
+TEST(FhirBundleTest, WhatIsInventedSaysSoInEachResourceAndIsElseTheSame) {
+    const LocalZone zone;
+    const PatientModel of = patient(u"A1"_s);
+    const ReadingList readings{reading("2026-11-01 08:00", u"1"_s), reading("2026-11-01 08:01", u"2"_s)};
+    const auto bundle = [&](bool isDemonstration) {
+        return QJsonDocument::fromJson(fhirBundle({.patient = of,
+                                                   .readings = readings,
+                                                   .rule = AverageRule::aha,
+                                                   .zone = zone,
+                                                   .isDemonstration = isDemonstration}))
+            .object();
+    };
+    const QJsonArray label{QJsonObject{{u"system"_s, u"http://terminology.hl7.org/CodeSystem/v3-ActReason"_s},
+                                       {u"code"_s, u"HTEST"_s},
+                                       {u"display"_s, u"test health data"_s}}};
+    const auto unmarked = [&label](QJsonObject resource) {
+        QJsonObject meta = resource[u"meta"_s].toObject();
+        EXPECT_EQ(meta.take(u"security"_s).toArray(), label) << text(resource[u"resourceType"_s]);
+        resource[u"meta"_s] = meta;
+        if (meta.isEmpty()) resource.remove(u"meta"_s);
+        return resource;
+    };
+    QJsonObject marked = unmarked(bundle(true));
+    QJsonArray entries;
+    for (const QJsonValue value : marked[u"entry"_s].toArray()) {
+        QJsonObject entry = value.toObject();
+        entry[u"resource"_s] = unmarked(entry[u"resource"_s].toObject());
+        entries.append(entry);
+    }
+    EXPECT_EQ(entries.size(), 4) << "patient, readings and average";
+    marked[u"entry"_s] = entries;
+    EXPECT_EQ(marked, bundle(false));
+}
+
 TEST(FhirBundleTest, AverageIsThatOfTheWeekAndRefersToItsReadings) {
     ReadingList readings;
     for (int day = 1; day <= 4; ++day)

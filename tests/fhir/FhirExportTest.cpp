@@ -50,6 +50,20 @@ TEST(FhirExportTest, ReplacesNeitherTheDataFileNorAFileOfItsOwn) {
     EXPECT_TRUE(bundles.finish()) << "nothing was written since";
 }
 
+TEST(FhirExportTest, ABundleOfADemonstrationSaysSoInItsNameAndInEachResource) {
+    const QTemporaryDir home, out;
+    ManualClock clock;
+    DataStore invented{{home.path(), home.path(), home.path(), true}, clock};
+    const QString dataFile = invented.getZELXMLPath();
+    ASSERT_TRUE(QDir{}.mkpath(QFileInfo{dataFile}.path()));
+    ASSERT_TRUE(replaceFile(dataFile, "<ZEL><Patient><ID>A</ID></Patient></ZEL>"));
+    ASSERT_TRUE(invented.loadXML());
+    ASSERT_TRUE(FhirExport(invented, out.path(), AverageRule::esh).write(u"A"_s, Replace::no));
+    const auto bundle = readFile(out.filePath(u"Demonstration-A.fhir.json"_s));
+    ASSERT_TRUE(bundle);
+    EXPECT_EQ(bundle->count("HTEST"), 2) << "the bundle and its patient";
+}
+
 } // namespace
 
 } // namespace zel::fhir

@@ -214,11 +214,16 @@ WHOLE = {
         {"fullUrl": "urn:uuid:6f9619ff-8b86-4011-b42d-00cf4fc964ff", "resource": PRESSURE},
     ],
 }
+# As a demonstration has them: what is invented says so wherever it goes.
+TEST_LABEL = {"system": profile.PURPOSE, "code": "HTEST", "display": "test health data"}
 GONE = object()
 ABSENT = {"coding": [{"system": profile.ABSENCE, "code": "unknown"}]}
 HEART = {"code": {"coding": [{"system": "http://loinc.org", "code": "8867-4"}]}, "valueQuantity": {"value": 60, "unit": "mmHg", "system": profile.UCUM, "code": "mm[Hg]"}}
 BROKEN = (
     (("type",), GONE, "type is missing"),
+    (("meta",), {"security": [{**TEST_LABEL, "code": "TEST"}]}, "a label TEST"),
+    (("meta",), {"security": TEST_LABEL}, "is no list"),
+    (("entry", 0, "resource", "meta"), {"security": [{**TEST_LABEL, "system": profile.LOINC}]}, "a label HTEST"),
     (("type",), "heap", "none of the codes"),
     (("entry", 0, "fullUrl"), "urn:uuid:6f9619ff-8b86-4011-b42d-00cf4fc964ff", "bdl-7"),
     (("entry", 0, "fullUrl"), "urn:uuid:1", "fullUrl"),
@@ -275,6 +280,10 @@ def changed(path, value):
 
 def broken_bundles_are_refused():
     same(profile.findings(WHOLE), [])
+    marked = copy.deepcopy(WHOLE)
+    for one in (marked, *(entry["resource"] for entry in marked["entry"])):
+        one.setdefault("meta", {})["security"] = [TEST_LABEL]
+    same(profile.findings(marked), [])
     for path, value, words in BROKEN:
         found = profile.findings(changed(path, value))
         assert any(words in one for one in found), f"{path}, {value!r}: {words!r} is not in {found}"

@@ -26,7 +26,7 @@ PRIMITIVES = {
 
 # Of each type: element, its type, least and most. Elements of R4 that no such bundle needs are not here, and are refused.
 TYPES = {
-    "Bundle": {"id": ("id", 0, 1), "type": ("code", 1, 1), "timestamp": ("instant", 0, 1), "entry": ("Bundle.entry", 0, MANY)},
+    "Bundle": {"id": ("id", 0, 1), "meta": ("Meta", 0, 1), "type": ("code", 1, 1), "timestamp": ("instant", 0, 1), "entry": ("Bundle.entry", 0, MANY)},
     "Bundle.entry": {"fullUrl": ("uri", 0, 1), "resource": ("Resource", 0, 1)},
     "Patient": {
         "id": ("id", 0, 1),
@@ -67,7 +67,7 @@ TYPES = {
     "Extension": {"url": ("uri", 1, 1), "valueCode": ("code", 0, 1)},
     "HumanName": {"use": ("code", 0, 1), "text": ("string", 0, 1), "family": ("string", 0, 1), "given": ("string", 0, MANY)},
     "Identifier": {"use": ("code", 0, 1), "system": ("uri", 0, 1), "value": ("string", 0, 1)},
-    "Meta": {"profile": ("canonical", 0, MANY)},
+    "Meta": {"profile": ("canonical", 0, MANY), "security": ("Coding", 0, MANY)},
     "Period": {"start": ("dateTime", 0, 1), "end": ("dateTime", 0, 1)},
     "Quantity": {"value": ("decimal", 0, 1), "unit": ("string", 0, 1), "system": ("uri", 0, 1), "code": ("code", 0, 1)},
     "Reference": {"reference": ("string", 0, 1), "display": ("string", 0, 1)},
@@ -83,6 +83,7 @@ BINDINGS = {
 ABSENCE = "http://terminology.hl7.org/CodeSystem/data-absent-reason"
 CATEGORY = "http://terminology.hl7.org/CodeSystem/observation-category"
 LOINC = "http://loinc.org"
+PURPOSE = "http://terminology.hl7.org/CodeSystem/v3-ActReason"
 UCUM = "http://unitsofmeasure.org"
 # The codes of the systems that may be used, as far as such a bundle has use for them.
 CODES = {
@@ -91,6 +92,7 @@ CODES = {
         " not-a-number negative-infinity positive-infinity not-performed not-permitted".split()
     ),
     CATEGORY: {"vital-signs"},
+    PURPOSE: {"HTEST"},
     LOINC: {"85354-9", "8480-6", "8462-4", "8478-0", "8867-4", "96607-7", "96608-5", "96609-3"},
 }
 # What is measured in which unit.
@@ -202,6 +204,12 @@ def concepts(value, where):
             yield from concepts(inner, where)
 
 
+def labels_wrong(resource, where):
+    for label in resource.get("meta", {}).get("security", []):
+        if label.get("code") not in CODES.get(label.get("system"), ()):
+            yield f"{where}: a label {label.get('code')} of {label.get('system')}"
+
+
 def terminology(resource, where):
     for at, concept in concepts(resource, where):
         for system, code in codings(concept):
@@ -303,10 +311,12 @@ def bundle_wrong(bundle):
     urls = [entry.get("fullUrl") for entry in entries]
     if len(set(urls)) != len(urls):
         yield "bdl-7: two resources have one fullUrl"
+    yield from labels_wrong(bundle, "Bundle")
     yield from (f"fullUrl {url}" for url in urls if not re.fullmatch(UUID, url or ""))
     resources = {entry["fullUrl"]: entry["resource"] for entry in entries if "fullUrl" in entry and "resource" in entry}
     for number, entry in enumerate(entries):
         resource, where = entry.get("resource", {}), f"entry[{number}]"
+        yield from labels_wrong(resource, where)
         if resource.get("resourceType") != "Observation":
             continue
         yield from observation_wrong(resource, where)

@@ -107,6 +107,34 @@ TEST(Page, noTextLeavesItsPage) {
     }
 }
 
+/// The page's texts and where they stand, without the program's own line.
+std::vector<std::pair<QString, double>> placesBesideTheMark(const Picture& page, const QString& mark) {
+    std::vector<std::pair<QString, double>> places;
+    for (const TextLine& line : textsOf(page))
+        if (line.text != mark) places.emplace_back(line.text, line.origin.x + 10'000 * line.origin.y);
+    return places;
+}
+
+TEST(Page, eachOneOfADemonstrationSaysSoAndIsElseAsAnyOther) {
+    SampleReport sample(90, 12);
+    sample.readings[3].exclusion = u"cuff"_s;
+    const QString mark = qtTrId("reportDemonstration");
+    const auto isMark = [&mark](const TextLine& line) { return line.text == mark; };
+    for (const Section section : allSections()) {
+        sample.isDemonstration = false;
+        const PrintView usual = sample.view();
+        sample.isDemonstration = true;
+        const PrintView marked = sample.view();
+        ASSERT_EQ(marked.getTotalPages(section), usual.getTotalPages(section));
+        for (int number = 1; number <= marked.getTotalPages(section); ++number) {
+            const Picture page = marked.page(section, number), plain = usual.page(section, number);
+            EXPECT_EQ(std::ranges::count_if(textsOf(page), isMark), 1) << facts(section).key << number;
+            EXPECT_EQ(std::ranges::count_if(textsOf(plain), isMark), 0);
+            EXPECT_EQ(placesBesideTheMark(page, mark), placesBesideTheMark(plain, qtTrId("appDescrption")));
+        }
+    }
+}
+
 TEST(Page, aLongNameLeavesTheIDReadable) {
     SampleReport sample;
     sample.patient.GivenNames = QString(5000, u'x');

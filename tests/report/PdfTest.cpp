@@ -167,6 +167,14 @@ TEST(Pdf, saysWhatItIsAndTurnsItsPages) {
     const QString ofEndless = said(u"pdfinfo"_s, pdfOf(endless, {Section::table}));
     for (const char* line : {"report: g{200} f{200} \\(i{200}\\)\n", "Author: +a{200}\n"})
         EXPECT_TRUE(ofEndless.contains(QRegularExpression(QLatin1StringView(line)))) << qPrintable(ofEndless);
+    SampleReport invented(40);
+    invented.isDemonstration = true;
+    const QByteArray marked = pdfOf(invented, {Section::summary, Section::graph, Section::table});
+    EXPECT_TRUE(said(u"pdfinfo"_s, marked)
+                    .contains(QRegularExpression(u"Title: +Demonstration: invented data – Blood"_s)));
+    const QStringList pages = said(u"pdftotext"_s, marked).split(u'\f', Qt::SkipEmptyParts);
+    EXPECT_EQ(pages.size(), 4);
+    EXPECT_EQ(pages.filter(qtTrId("reportDemonstration")).size(), 4) << "also as text that can be searched";
     SampleReport own(1);
     own.needPhysicianInfo = false;
     const auto isFromZEL = [&] {

@@ -36,6 +36,12 @@ TEST(ReportSource, isOfTheCurrentPatientWithThisFilesLimitsAndOfNobodyElse) {
     EXPECT_EQ(source->comments.size(), 1U);
     EXPECT_EQ(source->highFrom, (LimitPair{130, 80}));
     EXPECT_EQ(source->now, std::chrono::floor<Instant::duration>(clock.now()));
+    EXPECT_FALSE(source->isDemonstration);
+
+    DataStore invented({home.path(), home.path(), home.path(), true}, clock);
+    ASSERT_TRUE(invented.loadXML());
+    invented.setCurrentID(u"B"_s);
+    EXPECT_TRUE(reportSource(invented, {}, clock)->isDemonstration);
 }
 
 } // namespace

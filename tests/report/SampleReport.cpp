@@ -73,6 +73,7 @@ PrintView SampleReport::view(QPageSize::PageSizeId paper) const {
                         .now = noonOf("2020-01-15"),
                         .weekRule = weekRule,
                         .weekEnd = weekEnd,
+                        .isDemonstration = isDemonstration,
                         .needPhysicianInfo = needPhysicianInfo,
                         .getShowMam = getShowMam,
                         .getShowPad = getShowPad,

@@ -17,6 +17,7 @@ struct SampleReport {
     LimitPair highFrom; ///< none
     AverageRule weekRule = AverageRule::esh;
     std::optional<DayNumber> weekEnd;
+    bool isDemonstration = false;
     bool needPhysicianInfo = true;
     bool getShowMam = true;
     bool getShowPad = true;

@@ -1,3 +1,4 @@
+#include "store/AllPatients.h"
 #include "store/AtomicFile.h"
 #include "store/DataStore.h"
 #include "store/ExportFile.h"
@@ -166,6 +167,36 @@ TEST(ExportFileName, StaysInTheFolderAndIsNeverAnothersName) {
     };
     for (const auto& [ID, name] : cases)
         EXPECT_EQ(exportFileName(ID, u".xml"_s), name);
+}
+
+TEST_F(ExchangeTest, FilesOfADemonstrationSaySoInTheirNames) {
+    DataStore invented{{home.path(), home.path(), home.path(), true}, clock};
+    ASSERT_TRUE(invented.loadXML());
+    const auto all = invented.beginExport();
+    for (const QString& ID : all->patients()) {
+        ASSERT_TRUE(all->writeXml(ID, out.path(), Replace::no));
+        ASSERT_TRUE(invented.exportCSV(out.path(), ID, Replace::no));
+    }
+    EXPECT_EQ(QDir{out.path()}.entryList(QDir::Files, QDir::Name),
+              (QStringList{u"Demonstration-A1.csv"_s, u"Demonstration-A1.xml"_s, u"Demonstration-B2.csv"_s,
+                           u"Demonstration-B2.xml"_s}));
+    const QString longest = exportFileName(QString{300, u'x'}, u".xml"_s, true);
+    EXPECT_EQ(longest.size(), 255);
+    EXPECT_TRUE(longest.startsWith("Demonstration-x"_L1));
+}
+
+TEST_F(ExchangeTest, AllPatientsAreThoseWithoutAnIDTooAndEachIDOnce) {
+    setData("<ZEL><Patient><ID>A1</ID></Patient><Patient><ID/></Patient><Patient><ID>-</ID></Patient>"
+            "<Patient><ID>A1</ID><FamilyName>Second</FamilyName></Patient><Patient/></ZEL>");
+    const auto all = store.beginExport();
+    EXPECT_EQ(all->patients(), (QStringList{u"A1"_s, u""_s, u"-"_s}));
+    for (const QString& ID : all->patients())
+        EXPECT_TRUE(all->writeXml(ID, out.path(), Replace::no));
+    EXPECT_TRUE(exported(u"A1.xml"_s).contains("Second")) << "one file is of all who have the ID";
+    ASSERT_TRUE(store.loadXML());
+    const AllPatients listed = allPatients(store.getPatientArray());
+    EXPECT_EQ(listed.IDs.size(), 3);
+    EXPECT_EQ(listed.sameID, 2);
 }
 
 TEST_F(ExchangeTest, LongIDsGetShortNamesOfTheirOwn) {

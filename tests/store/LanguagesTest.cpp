@@ -62,7 +62,11 @@ TEST(LanguagesTest, TheOptionGoesBeforeTheChoiceAndTheChoiceBeforeTheSystem) {
         {{u"readings"_s, u"--language=zh-Hant"_s}, u"it"_s, "zh_TW", "readings", ""},
         {{u"readings"_s, u"--language"_s}, u"it"_s, "it", "readings", "needs a language"},
         {{u"--language="_s}, {}, "pl", "", "needs a language"},
-        {{u"--language"_s, u"tlh"_s}, {}, "pl", "", "no language “tlh”"},
+        {{u"--language"_s, u"tlh"_s},
+         {},
+         "pl",
+         "",
+         "no language “tlh”; the languages are de, en, es, fr, it, pl, zh_TW"},
         {{u"--language=de"_s, u"--language"_s, u"fr"_s}, {}, "de", "", "only once"},
     };
     for (const auto& [arguments, chosen, tag, words, problem] : cases) {

@@ -43,7 +43,7 @@ const QByteArray everything =
     + measured("-5", "1000003", "2026-11-19T08:00:00+01:00", "0 2 150 95 113 55 75")
     + measured("A", "1000004", "2026-11-18T08:00:00+01:00", "0 0 141 92 109 49 71",
                "<Source>manual</Source><Excluded/>")
-    + measured("A", "1000005", "2026-11-18T08:00:00+01:00", "2 3 141 92 108 48 71")
+    + measured("A", "1000005", "2026-11-18T08:00:00+01:00", "2 3 141 92 108 49 71")
     + measured("A", "1000006", "2026-11-17T08:00:00+01:00", "0 0 142 93 109 49 72", "<Source>manual</Source>")
     + measured("A", "1000008", "2000-01-01T00:00:00+01:00", "0 4 121 80 93 41 60")
     + measured("A", "1000009", "2027-01-01T00:00:00+01:00", "0 0 0 255 4294967211 4294967041 0",
@@ -229,6 +229,7 @@ TEST_F(ReadingTableTest, KnownPatientIsAddedToOnlyWhenNamedAndAsByADownload) {
     ASSERT_TRUE(counts) << describe(counts.error()).toStdString();
     EXPECT_EQ(counts->readings, 2U);
     EXPECT_EQ(counts->known, 1U);
+    EXPECT_EQ(counts->leftOut, 1U);
     EXPECT_EQ(readings(u"A"_s),
               "1000001 20261120 060000 60 4 66 84 131 99 47 0\n"
               "1000002 20261119 060000 60 0 71 92 141 108 49 0 manual !measured by the monitor, too\n"
@@ -257,6 +258,10 @@ TEST_F(ReadingTableTest, EveryLineThatCannotBeTakenIsTold) {
         {",66,", ",400,", u"pulse is to be"_s},
         {",99,", ",x,", u"column “map”"_s},
         {",47,no,", ",47,perhaps,", u"column “mam”"_s},
+        {",99,47,", ",99,46,", u"A pulse pressure of 46 does not go with 131/84"_s},
+        {",99,47,", ",47,99,", u"A pulse pressure of 99 does not go with 131/84"_s},
+        {",99,47,", ",83,47,", u"A mean arterial pressure of 83 does not go with 131/84"_s},
+        {",99,47,", ",132,0,", u"A mean arterial pressure of 132 does not go with 131/84"_s},
         {"no,,monitor", "no,flutter,monitor", u"column “arrhythmia”"_s},
         {"monitor", "Monitor", u"column “source”"_s},
         {"monitor,no", "monitor,", u"column “excluded”"_s},
@@ -306,6 +311,46 @@ TEST_F(ReadingTableTest, EveryLineThatCannotBeTakenIsTold) {
     EXPECT_TRUE(leftOut.has_value());
     const auto ahead = import(titles + QByteArray{good}.replace("2026-11-20", "2027-11-20"), {u"A"_s, {}});
     EXPECT_TRUE(ahead) << describe(ahead.error()).toStdString();
+}
+
+TEST_F(ReadingTableTest, ColumnsThatMeanAndPulsePressureContradictAreNotTaken) {
+    const RealTexts words;
+    load("<SystemSetting/><Patient><ID>A</ID></Patient>");
+    const auto wanted = [](const QString& dia) {
+        return TableImport{u"A"_s, ForeignColumns{u"Date"_s, {}, u"Sys"_s, dia, u"Pulse"_s}};
+    };
+    const struct {
+        const char *titles, *cells;
+        const char* reason; ///< none: it is taken
+    } cases[] = {
+        {"MAP,PP", "99,47", ""},
+        {"map (mmHg),pp [mmHg]", "\"99,7\",47.0", ""},
+        {"MAP,PP", "84,", ""},
+        {"MAP,PP", "n/a,0", ""},
+        {"PP,PP", "46,45", ""}, // which one it is cannot be told
+        {"MAP,PPG", "99,46", ""},
+        {"Pp,Map", "46,99", "Line 2: A pulse pressure of 46 does not go with 131/84"},
+        {"MAP,PP", "83.5,47", "Line 2: A mean arterial pressure of 83.5 does not go with 131/84"},
+        {"MAP,note", "140,x", "Line 2: A mean arterial pressure of 140 does not go with 131/84"},
+    };
+    for (const auto& [more, cells, reason] : cases) {
+        const QByteArray content =
+            QByteArray{"Date,Sys,Dia,Pulse,"} + more + "\n2026-11-20 07:05,131,84,66," + cells + "\n";
+        if (qstrlen(reason) == 0) {
+            EXPECT_TRUE(import(content, wanted(u"Dia"_s))) << content.constData();
+            continue;
+        }
+        const QString told = refusal(content, wanted(u"Dia"_s), Refusal::badLines);
+        EXPECT_THAT(told.toStdString(), HasSubstr(reason)) << content.constData();
+    }
+    // The columns taken for one another.
+    EXPECT_THAT(refusal("Date,Sys,Dia,Pulse,MAP,PP\n2026-11-20 08:05,131,84,66,99,47\n", wanted(u"MAP"_s),
+                        Refusal::badLines)
+                    .toStdString(),
+                HasSubstr("A pulse pressure of 47 does not go with 131/99"));
+    // A column that was named is what it was named to be.
+    const TableImport pulseIsPP{u"A"_s, ForeignColumns{u"Date"_s, {}, u"Sys"_s, u"Dia"_s, u"PP"_s}};
+    EXPECT_TRUE(import("Date,Sys,Dia,PP\n2026-11-20 09:05,131,84,66\n", pulseIsPP));
 }
 
 TEST_F(ReadingTableTest, AnotherProgramsColumnsAreNamed) {

@@ -76,7 +76,8 @@ QString whose(const DataStore& store, const PatientModel& patient) {
 QString pdfName(const DataStore& store, const PatientModel& patient, Section section, Instant today) {
     const QString what = wordFor(section) + u' ' + DateToStr(today, u"yyyy-MM-dd"_s) + u".pdf"_s;
     const QString who = whose(store, patient);
-    return who.isEmpty() ? what : who + u" - "_s + what;
+    const QString name = who.isEmpty() ? what : who + u" - "_s + what;
+    return store.isDemonstration() ? qtTrId("demonstrationTitle").arg(name) : name;
 }
 
 } // namespace zel

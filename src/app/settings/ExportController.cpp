@@ -100,7 +100,7 @@ void ExportController::write(const QStringList& IDs, const QString& extension, c
     std::vector<Target> targets;
     QStringList present;
     for (const QString& ID : IDs) {
-        const QString path = exportPath(outcome.folder, ID, extension);
+        const QString path = exportPath(outcome.folder, ID, extension, parts.store.isDemonstration());
         targets.push_back({ID, isThere(path)});
         if (targets.back().isThere) present += fileName(path);
     }

@@ -151,7 +151,8 @@ int runApplication(int argc, char** argv) {
                            // The file of an older version beside the program is the person's.
                            .applicationFolder =
                                options->demonstration ? *home : QCoreApplication::applicationDirPath(),
-                           .templateFolder = u":/templates"_s};
+                           .templateFolder = u":/templates"_s,
+                           .isDemonstration = options->demonstration};
     const QString dataFile = DataFile(paths, clock).getZELXMLPath();
     FirstWindow firstWindow(runningSessionBus(), dataFile);
     const auto leave = QObject::connect(&termination, &TerminationSignals::terminated, &application,

@@ -52,6 +52,15 @@ TEST_F(PdfNameTest, patientsOfOneNameAreToldApart) {
     EXPECT_EQ(whose(u"P3"_s), u"Smith, Mary"_s);
 }
 
+TEST_F(PdfNameTest, saysFirstOfAllThatAPatientIsInvented) {
+    add(u"P1"_s, u"Smith"_s, u"Margaret"_s);
+    DataStore invented({home.path(), {}, {}, true}, clock);
+    ASSERT_TRUE(invented.loadXML());
+    EXPECT_EQ(pdfName(invented, *invented.getPatientByID(u"P1"_s), Section::table, at("08:00")),
+              qtTrId("demonstrationTitle")
+                  .arg(pdfName(store, *store.getPatientByID(u"P1"_s), Section::table, at("08:00"))));
+}
+
 TEST_F(PdfNameTest, everyFileSystemTakesIt) {
     add(u"1"_s, u"../a:b"_s, u"<c>?%\u202e"_s);
     EXPECT_EQ(whose(u"1"_s), u"_._a_b, _c____"_s);

@@ -174,6 +174,28 @@ TEST_F(ExportTest, ofABundleIsOfTheChosenPatientAndAsksBeforeItReplaces) {
     EXPECT_EQ(panel.questions, QStringList(qtTrId("exportReplaceTitle")));
 }
 
+TEST_F(ExportTest, filesOfADemonstrationSaySoAndAreLookedForBeforeTheyAreReplaced) {
+    attach();
+    show(new QWidget);
+    addPatients(1);
+    DataStore invented({home.path(), {}, {}, true}, clock);
+    ASSERT_TRUE(invented.loadXML());
+    invented.setCurrentID(u"P001"_s);
+    ExportController exporter({invented, panel, chooser}, host.get());
+    const QStringList names{u"Demonstration-P001.csv"_s, u"Demonstration-P001.fhir.json"_s,
+                            u"Demonstration-P001.xml"_s};
+    for (const QString& name : names)
+        put(name, "old");
+    panel.answers[qtTrId("exportReplaceTitle")] = true;
+    exporter.exportFiles();
+    exporter.exportCSV();
+    exporter.exportFhir(AverageRule::esh);
+    EXPECT_EQ(panel.questions.size(), 3);
+    EXPECT_EQ(files(), names);
+    for (const QString& name : names)
+        EXPECT_TRUE(content(name).contains("P001")) << qPrintable(name);
+}
+
 TEST_F(ExportTest, importTellsOfEachFileAndReloadsOnce) {
     addPatients(1);
     put(u"known.xml"_s, patientFile("P001"));
