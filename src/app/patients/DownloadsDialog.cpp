@@ -82,6 +82,7 @@ void DownloadsDialog::build() {
     inside->setSpacing(Style::apart);
     inside->addWidget(lblDownloads);
     inside->addWidget(tblDownloads, 1);
+    takeWhatIsLeft(*tblDownloads);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
     column->setSpacing(Style::apart);

@@ -62,6 +62,7 @@ void BackupDialog::build() {
     inside->setSpacing(Style::apart);
     inside->addWidget(explained);
     inside->addWidget(tblBackups, 1);
+    takeWhatIsLeft(*tblBackups);
     inside->addWidget(lblBackup);
     inside->addWidget(makeSecondFolder());
     auto* column = new QVBoxLayout(this);

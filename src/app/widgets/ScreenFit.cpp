@@ -1,7 +1,9 @@
 #include "app/widgets/ScreenFit.h"
 
+#include <QHeaderView>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTableView>
 
 namespace zel {
 
@@ -26,6 +28,12 @@ QScrollArea* scrolling(const QString& name, QWidget* inside, QWidget* parent) {
     area->viewport()->setAutoFillBackground(false); // over the window's own background
     inside->setAutoFillBackground(false);
     return area;
+}
+
+void takeWhatIsLeft(QTableView& table) {
+    constexpr int leastRows = 4; // and its titles
+    table.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    table.setMinimumHeight(table.verticalHeader()->defaultSectionSize() * (leastRows + 1));
 }
 
 } // namespace zel

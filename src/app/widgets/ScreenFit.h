@@ -4,6 +4,7 @@
 #include <QString>
 
 class QScrollArea;
+class QTableView;
 class QWidget;
 
 namespace zel {
@@ -21,5 +22,8 @@ void fitToScreen(QWidget& window, const QSize& wanted);
 
 /// Something that takes the room that it is given, and scrolls where that is too little. The area owns it.
 [[nodiscard]] QScrollArea* scrolling(const QString& name, QWidget* inside, QWidget* parent);
+
+/// A table in scrolling(): it takes what is left, and gives way down to a few rows before all of it scrolls.
+void takeWhatIsLeft(QTableView& table);
 
 } // namespace zel

@@ -143,7 +143,8 @@ protected:
     void lookAtQuestions(const std::function<void(QWidget&, const QString&)>& look) {
         click("tableBtn");
         find<QTableView>("tblReadings").selectRow(0);
-        for (const char* action : {"newReading", "leaveOutReadings"}) {
+        for (const char* action : {"newReadingEntry", "leaveOutReadingsEntry"}) {
+            ASSERT_TRUE(find<QAction>(action).isEnabled()) << action;
             lookOnceOpen(look);
             find<QAction>(action).trigger();
         }

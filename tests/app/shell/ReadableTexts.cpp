@@ -124,6 +124,7 @@ QStringList unreadableIn(QWidget& window, bool isDark) {
         if (wordsOf(*one).isEmpty() || one->objectName().startsWith(u"qt_"_s)) continue;
         const auto* button = qobject_cast<const QAbstractButton*>(one);
         const bool hasOwnColour = (button && (button->isChecked() || !button->icon().isNull()))
+                                  || one->backgroundRole() == QPalette::Highlight
                                   || one->objectName() == "previewView"_L1;
         const QRect seen = one->visibleRegion().boundingRect().translated(one->mapTo(&window, QPoint()));
         faults +=
