@@ -327,7 +327,8 @@ mmHg</translation></message>
 Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein“ wird der Text verworfen.</translation></message>
     <message id="commentText"><translation>Text des Kommentars</translation></message>
     <message id="commentUnchanged"><translation>Der Kommentar konnte nicht gespeichert werden. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>%1 %2 mit allen Messungen und Kommentaren löschen? Solange ZEL geöffnet ist, stellt „Bearbeiten“ &gt; „Rückgängig“ alles wieder her.</translation></message>
+    <message id="ConfirmDelPatient"><translation>%1 mit allen Messungen und Kommentaren löschen? Solange ZEL geöffnet ist, stellt „Bearbeiten“ &gt; „Rückgängig“ alles wieder her.</translation></message>
+    <message id="confirmDropNew"><translation>Die Daten von %1 sind noch nicht gespeichert. Die Eingaben löschen? Sie lassen sich nicht wiederherstellen.</translation></message>
     <message id="confirmPrintSave"><translation>Die Daten von %1 wurden geändert, und nur Gespeichertes wird gedruckt oder exportiert. Die Änderungen zuerst speichern?</translation></message>
     <message id="confirmSendID"><translation>%2 Die ID %1 in das Messgerät schreiben? Von da an gehören seine Messungen zu diesem Patienten.</translation></message>
     <message id="confirmSendSave"><translation>Die Daten von %1 wurden geändert. Die Änderungen speichern?</translation></message>
@@ -620,9 +621,11 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="patientGone"><translation>%1 ist nicht mehr in der Datendatei: Ein anderes Programm hat diesen Patienten entfernt, oder ein Schritt wurde hier rückgängig gemacht. Was Sie eingegeben haben, ist noch da; „Speichern“ legt den Patienten wieder an.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>Die Datendatei enthält mehr als einen Patienten mit der ID %1. Sie lassen sich nicht unterscheiden; deshalb wird keiner von ihnen geändert oder gelöscht.</translation></message>
     <message id="patientList"><translation>Patientenliste</translation></message>
     <message id="patientName"><translation>Name</translation></message>
+    <message id="patientNameless"><translation>Patient ohne Namen</translation></message>
     <message id="patientPartlySaved"><translation>Die Daten von %1 konnten nicht vollständig gespeichert werden: Für einen Teil davon hat die Datendatei keinen Platz. Was nicht gespeichert werden konnte, steht noch in den Feldern.</translation></message>
     <message id="patientRefused"><translation>Es wurde noch nichts gespeichert. Bitte berichtigen Sie die markierten Angaben:
 %1</translation></message>

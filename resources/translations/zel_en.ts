@@ -327,7 +327,8 @@ mmHg</translation></message>
 Stay here and keep your text, to try again? With No, the text is given up.</translation></message>
     <message id="commentText"><translation>Text of the comment</translation></message>
     <message id="commentUnchanged"><translation>The comment could not be saved. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>Delete %1 %2 with all readings and comments? Edit &gt; Undo brings them back until ZEL is closed.</translation></message>
+    <message id="ConfirmDelPatient"><translation>Delete %1 with all readings and comments? Edit &gt; Undo brings them back until ZEL is closed.</translation></message>
+    <message id="confirmDropNew"><translation>The data of %1 have not been saved yet. Delete what was typed? It cannot be brought back.</translation></message>
     <message id="confirmPrintSave"><translation>The data of %1 have been changed, and only what is saved is printed or exported. Save the changes first?</translation></message>
     <message id="confirmSendID"><translation>%2 Write the ID %1 into it? From then on its readings belong to this patient.</translation></message>
     <message id="confirmSendSave"><translation>The data of %1 have been changed. Save the changes?</translation></message>
@@ -539,7 +540,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="menuTimeChart"><translation>Chart over time</translation></message>
     <message id="menuUndo"><translation>&amp;Undo</translation></message>
     <message id="menuUndoStep"><translation>&amp;Undo %1</translation></message>
-    <message id="menuView"><translation>View</translation></message>
+    <message id="menuView"><translation>Vie&amp;w</translation></message>
     <message id="minusDay"><translation>Fewer days: one fewer at each end of the period</translation></message>
     <message id="minusDayHint"><translation>Fewer days: one fewer at each end of the period (−)</translation></message>
     <message id="mm dd yyyy"><translation>mm dd yyyy</translation></message>
@@ -620,9 +621,11 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="patientGone"><translation>%1 is no longer in the data file: another program removed this patient, or a step was undone here. What you typed is still here, and Save adds the patient again.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>The data file holds more than one patient with the ID %1. They cannot be told apart, so none of them is changed or deleted.</translation></message>
     <message id="patientList"><translation>List of patients</translation></message>
     <message id="patientName"><translation>Name</translation></message>
+    <message id="patientNameless"><translation>Patient without a name</translation></message>
     <message id="patientPartlySaved"><translation>Not all of the data of %1 could be stored: the data file has no place for some of it. What could not be stored still stands in the fields.</translation></message>
     <message id="patientRefused"><translation>Nothing was saved yet. Please correct what is marked:
 %1</translation></message>

@@ -327,7 +327,8 @@ mmHg</translation></message>
 ¿Quedarse aquí y conservar el texto para volver a intentarlo? Si responde «No», el texto se pierde.</translation></message>
     <message id="commentText"><translation>Texto del comentario</translation></message>
     <message id="commentUnchanged"><translation>No se ha podido guardar el comentario. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>¿Eliminar los datos de %1 %2, con todas sus mediciones y comentarios? Edición &gt; Deshacer permite recuperarlos mientras no se cierre ZEL.</translation></message>
+    <message id="ConfirmDelPatient"><translation>¿Eliminar los datos de %1, con todas sus mediciones y comentarios? Edición &gt; Deshacer permite recuperarlos mientras no se cierre ZEL.</translation></message>
+    <message id="confirmDropNew"><translation>Los datos de %1 aún no se han guardado. ¿Eliminar lo introducido? No se podrá recuperar.</translation></message>
     <message id="confirmPrintSave"><translation>Se han cambiado los datos de %1, y solo se imprime o exporta lo que está guardado. ¿Guardar antes los cambios?</translation></message>
     <message id="confirmSendID"><translation>%2 ¿Escribir en él el ID %1? A partir de entonces sus mediciones pertenecerán a este paciente.</translation></message>
     <message id="confirmSendSave"><translation>Se han cambiado los datos de %1. ¿Guardar los cambios?</translation></message>
@@ -620,9 +621,11 @@ mmHg</translation></message>
     <message id="patientGone"><translation>%1 ya no está en el archivo de datos: otro programa ha eliminado sus datos o aquí se ha deshecho un cambio. Lo que ha escrito sigue aquí, y con «Guardar» se vuelve a añadir el paciente.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>El archivo de datos contiene más de un paciente con el ID %1. No se pueden distinguir, así que no se cambia ni se elimina ninguno de ellos.</translation></message>
     <message id="patientList"><translation>Lista de pacientes</translation></message>
     <message id="patientName"><translation>Nombre</translation></message>
+    <message id="patientNameless"><translation>Paciente sin nombre</translation></message>
     <message id="patientPartlySaved"><translation>No se han podido guardar todos los datos de %1: en el archivo de datos no hay lugar para algunos. Lo que no se ha podido guardar sigue en los campos.</translation></message>
     <message id="patientRefused"><translation>Todavía no se ha guardado nada. Corrija lo que está marcado:
 %1</translation></message>
@@ -828,7 +831,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="viewAllHint"><translation>Todas las mediciones, del primer día al último.</translation></message>
     <message id="viewAM"><translation>Maña&amp;na</translation></message>
     <message id="viewAMHint"><translation>Las mediciones de antes del mediodía de los días mostrados.</translation></message>
-    <message id="viewBoth"><translation>Día ente&amp;ro</translation></message>
+    <message id="viewBoth"><translation>Día enter&amp;o</translation></message>
     <message id="viewBothHint"><translation>Las mediciones de todas las horas de los días mostrados.</translation></message>
     <message id="viewChoiceNeeded"><translation>Las mediciones sin fecha no pertenecen a ningún día y solo se pueden mostrar con «Todo». Pulse antes «Todo»; entonces se podrá elegir esto.</translation></message>
     <message id="viewDays"><translation>Días mostrados</translation></message>

@@ -327,7 +327,8 @@ mmHg</translation></message>
 Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non », votre texte sera perdu.</translation></message>
     <message id="commentText"><translation>Texte du commentaire</translation></message>
     <message id="commentUnchanged"><translation>Le commentaire n’a pas pu être enregistré. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>Supprimer le patient %1 %2 avec toutes ses mesures et tous ses commentaires ? Édition &gt; Annuler les rétablit tant que ZEL n’est pas fermé.</translation></message>
+    <message id="ConfirmDelPatient"><translation>Supprimer %1 avec toutes ses mesures et tous ses commentaires ? Édition &gt; Annuler les rétablit tant que ZEL n’est pas fermé.</translation></message>
+    <message id="confirmDropNew"><translation>Les données de %1 ne sont pas encore enregistrées. Supprimer ce qui a été saisi ? Cela ne pourra pas être rétabli.</translation></message>
     <message id="confirmPrintSave"><translation>La fiche a été modifiée (%1), et seules les données enregistrées sont imprimées ou exportées. Enregistrer d’abord les modifications ?</translation></message>
     <message id="confirmSendID"><translation>%2 Y écrire l’ID %1 ? Les mesures du tensiomètre appartiendront alors à ce patient.</translation></message>
     <message id="confirmSendSave"><translation>La fiche a été modifiée (%1). Enregistrer les modifications ?</translation></message>
@@ -620,9 +621,11 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="patientGone"><translation>%1 n’est plus dans le fichier de données : un autre programme a supprimé ce patient, ou une action a été annulée ici. Votre saisie est toujours là, et « Enregistrer » ajoute de nouveau le patient.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>Le fichier de données contient plusieurs patients ayant l’ID %1. Il est impossible de les distinguer ; aucun d’eux n’est donc modifié ni supprimé.</translation></message>
     <message id="patientList"><translation>Liste des patients</translation></message>
     <message id="patientName"><translation>Nom</translation></message>
+    <message id="patientNameless"><translation>Patient sans nom</translation></message>
     <message id="patientPartlySaved"><translation>Certaines données de la fiche n’ont pas pu être enregistrées (%1) : le fichier de données ne prévoit pas d’emplacement pour elles. Elles figurent toujours dans les champs.</translation></message>
     <message id="patientRefused"><translation>Rien n’a encore été enregistré. Veuillez corriger ce qui est marqué :
 %1</translation></message>

@@ -327,7 +327,8 @@ mmHg</translation></message>
 Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso.</translation></message>
     <message id="commentText"><translation>Testo del commento</translation></message>
     <message id="commentUnchanged"><translation>Impossibile salvare il commento. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>Eliminare %1 %2 con tutte le misurazioni e i commenti? Con Modifica &gt; Annulla si recuperano, finché ZEL resta aperto.</translation></message>
+    <message id="ConfirmDelPatient"><translation>Eliminare %1 con tutte le misurazioni e i commenti? Con Modifica &gt; Annulla si recuperano, finché ZEL resta aperto.</translation></message>
+    <message id="confirmDropNew"><translation>I dati di %1 non sono ancora salvati. Eliminare quanto è stato inserito? Non si potrà recuperare.</translation></message>
     <message id="confirmPrintSave"><translation>I dati di %1 sono stati modificati, e si può stampare o esportare solo ciò che è salvato. Salvare prima le modifiche?</translation></message>
     <message id="confirmSendID"><translation>%2 Scrivere nel misuratore l’ID %1? Da quel momento le misurazioni del misuratore apparterranno a questo paziente.</translation></message>
     <message id="confirmSendSave"><translation>I dati di %1 sono stati modificati. Salvare le modifiche?</translation></message>
@@ -620,9 +621,11 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="patientGone"><translation>%1 non è più nel file dei dati: un altro programma ha rimosso questo paziente, oppure qui è stata annullata un’operazione. I dati digitati sono ancora qui, e con Salva il paziente viene aggiunto di nuovo.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>Il file dei dati contiene più di un paziente con l’ID %1. Non si possono distinguere, perciò nessuno di loro viene modificato o eliminato.</translation></message>
     <message id="patientList"><translation>Elenco dei pazienti</translation></message>
     <message id="patientName"><translation>Nome</translation></message>
+    <message id="patientNameless"><translation>Paziente senza nome</translation></message>
     <message id="patientPartlySaved"><translation>Non è stato possibile registrare tutti i dati di %1: alcuni non trovano posto nel file dei dati. I dati non registrati sono ancora nei campi.</translation></message>
     <message id="patientRefused"><translation>Non è stato ancora salvato nulla. Correggere ciò che è evidenziato:
 %1</translation></message>

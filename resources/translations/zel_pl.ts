@@ -327,7 +327,8 @@ mmHg</translation></message>
 Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza rezygnację z tekstu.</translation></message>
     <message id="commentText"><translation>Tekst komentarza</translation></message>
     <message id="commentUnchanged"><translation>Nie udało się zapisać komentarza. %1</translation></message>
-    <message id="ConfirmDelPatient"><translation>Usunąć pacjenta (%1 %2) ze wszystkimi pomiarami i komentarzami? Do zamknięcia ZEL można go przywrócić poleceniem Edycja &gt; Cofnij.</translation></message>
+    <message id="ConfirmDelPatient"><translation>Usunąć pacjenta (%1) ze wszystkimi pomiarami i komentarzami? Do zamknięcia ZEL można go przywrócić poleceniem Edycja &gt; Cofnij.</translation></message>
+    <message id="confirmDropNew"><translation>Dane pacjenta (%1) nie są jeszcze zapisane. Usunąć to, co wpisano? Nie będzie można tego przywrócić.</translation></message>
     <message id="confirmPrintSave"><translation>Dane pacjenta (%1) zostały zmienione, a drukowane lub eksportowane jest tylko to, co zapisano. Zapisać najpierw zmiany?</translation></message>
     <message id="confirmSendID"><translation>%2 Zapisać w nim ID %1? Od tej chwili jego pomiary będą należeć do tego pacjenta.</translation></message>
     <message id="confirmSendSave"><translation>Dane pacjenta (%1) zostały zmienione. Zapisać zmiany?</translation></message>
@@ -539,7 +540,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="menuTimeChart"><translation>Przebieg w czasie</translation></message>
     <message id="menuUndo"><translation>&amp;Cofnij</translation></message>
     <message id="menuUndoStep"><translation>&amp;Cofnij: %1</translation></message>
-    <message id="menuView"><translation>Widok</translation></message>
+    <message id="menuView"><translation>Wido&amp;k</translation></message>
     <message id="minusDay"><translation>Mniej dni: o jeden mniej na każdym końcu okresu</translation></message>
     <message id="minusDayHint"><translation>Mniej dni: o jeden mniej na każdym końcu okresu (−)</translation></message>
     <message id="mm dd yyyy"><translation>MM DD RRRR</translation></message>
@@ -620,9 +621,11 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="patientGone"><translation>Pacjenta (%1) nie ma już w pliku danych: usunął go inny program albo cofnięto tu jakąś czynność. Wpisane dane są nadal tutaj, a „Zapisz” doda pacjenta ponownie.</translation></message>
     <message id="patientHeading"><translation>%1 %2 (ID %3)</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>W pliku danych jest więcej niż jeden pacjent o ID %1. Nie da się ich rozróżnić, dlatego żadnego z nich nie można zmienić ani usunąć.</translation></message>
     <message id="patientList"><translation>Lista pacjentów</translation></message>
     <message id="patientName"><translation>Nazwisko i imię</translation></message>
+    <message id="patientNameless"><translation>Pacjent bez nazwiska</translation></message>
     <message id="patientPartlySaved"><translation>Nie udało się zapisać wszystkich danych pacjenta (%1): w pliku danych nie ma miejsca na niektóre z nich. To, czego nie zapisano, jest nadal w polach.</translation></message>
     <message id="patientRefused"><translation>Niczego jeszcze nie zapisano. Proszę poprawić oznaczone pola:
 %1</translation></message>
@@ -713,7 +716,7 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="sendClockBusy"><translation>Ustawianie zegara…</translation></message>
     <message id="sendClockButton"><translation>Ustaw ze&amp;gar</translation></message>
     <message id="sendID"><translation>Wysyłanie ID do ciśnieniomierza</translation></message>
-    <message id="sendIDButton"><translation>Wyślij &amp;ID</translation></message>
+    <message id="sendIDButton"><translation>Wyś&amp;lij ID</translation></message>
     <message id="SendIDDataMsg" numerus="yes"><translation><numerusform>Jest w nim jeszcze %n pomiar. Przed zapisaniem ID %1: zachować ten pomiar dla nowego ID czy trwale usunąć go z ciśnieniomierza?</numerusform><numerusform>Są w nim jeszcze %n pomiary. Przed zapisaniem ID %1: zachować te pomiary dla nowego ID czy trwale usunąć je z ciśnieniomierza?</numerusform><numerusform>Jest w nim jeszcze %n pomiarów. Przed zapisaniem ID %1: zachować te pomiary dla nowego ID czy trwale usunąć je z ciśnieniomierza?</numerusform></translation></message>
     <message id="SendIDDataTitle"><translation>Pomiary w ciśnieniomierzu</translation></message>
     <message id="sendIDFailed"><translation>Nie udało się wysłać ID do ciśnieniomierza. %1</translation></message>

@@ -327,7 +327,8 @@ mmHg</translation></message>
 要留在這裡並保留文字，以便再試一次嗎？選「否」則放棄這段文字。</translation></message>
     <message id="commentText"><translation>註記內容</translation></message>
     <message id="commentUnchanged"><translation>無法儲存註記。%1</translation></message>
-    <message id="ConfirmDelPatient"><translation>要刪除 %2 %1 及其所有量測與註記嗎？在 ZEL 關閉之前，可用「編輯 &gt; 復原」恢復。</translation></message>
+    <message id="ConfirmDelPatient"><translation>要刪除 %1 及其所有量測與註記嗎？在 ZEL 關閉之前，可用「編輯 &gt; 復原」恢復。</translation></message>
+    <message id="confirmDropNew"><translation>%1 的資料尚未儲存。要刪除已輸入的內容嗎？刪除後無法復原。</translation></message>
     <message id="confirmPrintSave"><translation>%1 的資料已變更，但只有已儲存的內容才會列印或匯出。要先儲存變更嗎？</translation></message>
     <message id="confirmSendID"><translation>%2要將 ID %1 寫入這台血壓計嗎？此後它的量測都屬於這位病患。</translation></message>
     <message id="confirmSendSave"><translation>%1 的資料已變更。要儲存變更嗎？</translation></message>
@@ -620,9 +621,11 @@ mmHg</translation></message>
     <message id="patientGone"><translation>%1 已不在資料檔中：另一個程式移除了這位病患，或在此復原了某個步驟。您輸入的內容仍在這裡，按「儲存」可重新加入這位病患。</translation></message>
     <message id="patientHeading"><translation>%2 %1（ID %3）</translation></message>
     <message id="patientID"><translation>ID</translation></message>
+    <message id="patientIDOnly"><translation>ID %1</translation></message>
     <message id="patientIDTwice"><translation>資料檔中有多位病患的 ID 同為 %1，無法區分，因此不會變更或刪除其中任何一位。</translation></message>
     <message id="patientList"><translation>病患清單</translation></message>
     <message id="patientName"><translation>姓名</translation></message>
+    <message id="patientNameless"><translation>未命名的病患</translation></message>
     <message id="patientPartlySaved"><translation>%1 的部分資料無法儲存：資料檔中沒有可存放的位置。無法儲存的內容仍保留在欄位中。</translation></message>
     <message id="patientRefused"><translation>尚未儲存任何資料。請更正標示的欄位：
 %1</translation></message>

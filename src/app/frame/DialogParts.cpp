@@ -2,6 +2,7 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/Style.h"
 
 #include <QAccessible>
@@ -24,7 +25,7 @@ void makeRoom(QWidget& dialog) {
     content->activate();
     const int needed =
         std::max(content->totalHeightForWidth(dialog.width()), content->totalMinimumSize().height());
-    if (dialog.height() < needed) dialog.resize(dialog.width(), needed);
+    if (dialog.height() < needed) fitToScreen(dialog, QSize(dialog.width(), needed));
 }
 
 } // namespace

@@ -2,12 +2,14 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PatientTexts.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -58,13 +60,19 @@ void DownloadsDialog::build() {
     close->setAccessibleName(withoutMnemonic(close->text()));
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    auto* body = new QWidget(this);
+    auto* inside = new QVBoxLayout(body);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setSpacing(Style::apart);
+    inside->addWidget(lblDownloads);
+    inside->addWidget(tblDownloads, 1);
+    takeWhatIsLeft(*tblDownloads);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
     column->setSpacing(Style::apart);
-    column->addWidget(lblDownloads);
-    column->addWidget(tblDownloads, 1);
+    column->addWidget(scrolling(u"downloadsScroll"_s, body, this), 1);
     column->addWidget(close, 0, Qt::AlignRight);
-    resize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 22);
+    fitToScreen(*this, QSize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 22));
 }
 
 void DownloadsDialog::fill() {
@@ -87,12 +95,11 @@ void DownloadsDialog::fill() {
 
 QString DownloadsDialog::summary() const {
     const DataLogList& downloads = store.getTrasferLogForCurID();
-    if (downloads.empty()) return qtTrId("downloadsNone").arg(patientHeading(store));
+    const QString whose = narrowPatientHeading(store);
+    if (downloads.empty()) return qtTrId("downloadsNone").arg(whose);
     const auto add = [](qint64 sum, const DataTransferLogModel& one) { return sum + one.numofRecord; };
     const qint64 total = std::accumulate(downloads.begin(), downloads.end(), qint64{0}, add);
-    return qtTrId("downloadsSummary", static_cast<int>(downloads.size()))
-        .arg(patientHeading(store))
-        .arg(total);
+    return qtTrId("downloadsSummary", static_cast<int>(downloads.size())).arg(whose, QString::number(total));
 }
 
 } // namespace zel

@@ -14,6 +14,7 @@ PatientFieldGroup::PatientFieldGroup(const QString& title, QWidget* parent)
     setAccessibleName(title);
     auto* heading = new QLabel(title, this);
     Style::setType(*heading, Style::Type::heading);
+    heading->setContentsMargins(Style::tight, 0, 0, 0); // in line with the captions
     grid->setHorizontalSpacing(Style::apart);
     grid->setVerticalSpacing(Style::near);
     auto* column = new QVBoxLayout(this);
@@ -30,6 +31,7 @@ void PatientFieldGroup::add(PatientFieldBox* box, bool isWide) {
 }
 
 void PatientFieldGroup::addNote(QWidget* note) {
+    note->setContentsMargins(Style::tight, 0, 0, 0);
     qobject_cast<QVBoxLayout*>(layout())->insertWidget(1, note);
 }
 

@@ -142,11 +142,14 @@ void PatientRoster::layOutColumns() {
     const QFontMetrics metrics = tblPatients->fontMetrics();
     QHeaderView& columns = *tblPatients->horizontalHeader();
     const int whole = metrics.averageCharWidth() * 14;
-    const QString title =
-        roster->headerData(PatientTableModel::birth, Qt::Horizontal, Qt::DisplayRole).toString();
+    const auto titleWidth = [&](int column) {
+        const QString title = roster->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        return metrics.horizontalAdvance(title) + padding;
+    };
     const int birth =
-        std::max(metrics.horizontalAdvance(u"00/00/0000"_s), metrics.horizontalAdvance(title)) + padding;
-    columns.resizeSection(PatientTableModel::ID, std::min(whole, width() * 2 / 5));
+        std::max(metrics.horizontalAdvance(u"00/00/0000"_s) + padding, titleWidth(PatientTableModel::birth));
+    columns.resizeSection(PatientTableModel::ID,
+                          std::min({whole, width() * 2 / 5, width() - titleWidth(PatientTableModel::name)}));
     columns.resizeSection(PatientTableModel::birth, birth);
     columns.setSectionHidden(PatientTableModel::birth,
                              width() < whole + birth + metrics.averageCharWidth() * leastName);

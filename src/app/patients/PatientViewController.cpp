@@ -337,11 +337,15 @@ void PatientViewController::btnDeletePatient() {
     const QString ID = store.getCurrentID();
     if (!isThere(ID) || !writer.isUnique(ID)) return;
     const QString next = roster->neighbourOf(ID);
-    if (isNewOne(ID)) return dropNewPatient(next);
+    if (isNewOne(ID)) {
+        if (!isNewOneBegun() || writer.dropNew(editor->shownForm().record(editor->entry())))
+            dropNewPatient(next);
+        return;
+    }
     const PatientModel patient = formOf(ID).patient();
     if (!writer.remove(patient)) return;
     writer.loadAnew(next);
-    emit said(qtTrId("patientDeleted").arg(shortName(patient)));
+    emit said(qtTrId("patientDeleted").arg(knownName(patient)));
 }
 
 void PatientViewController::dropNewPatient(const QString& next) {

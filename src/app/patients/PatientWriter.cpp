@@ -67,9 +67,12 @@ bool PatientWriter::write(const PatientModel& record, const PatientModel& shown)
 bool PatientWriter::add(const PatientModel& record) { return tell(store.addXMLPatient(record)); }
 
 bool PatientWriter::remove(const PatientModel& patient) {
-    const QString question =
-        qtTrId("ConfirmDelPatient").arg(shortText(patient.GivenNames), shortText(patient.FamilyName));
-    return panel.AskToErase(question, qtTrId("DeletePatient")) && tell(store.deleteXMLPatient(patient.ID));
+    return panel.AskToErase(qtTrId("ConfirmDelPatient").arg(knownName(patient)), qtTrId("DeletePatient"))
+           && tell(store.deleteXMLPatient(patient.ID));
+}
+
+bool PatientWriter::dropNew(const PatientModel& patient) {
+    return panel.AskToErase(qtTrId("confirmDropNew").arg(shortName(patient)), qtTrId("DeletePatient"));
 }
 
 void PatientWriter::loadAnew(const QString& ID) {

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] bool add(const PatientModel& record);
     /// Takes the patient out after a question. \return false if the patient is still there
     [[nodiscard]] bool remove(const PatientModel& patient);
+    /// Asks whether a new patient for whom something was typed, and nothing saved, may go.
+    [[nodiscard]] bool dropNew(const PatientModel& patient);
     /// Reads the file anew after a write, with that patient as the current one.
     void loadAnew(const QString& ID);
 

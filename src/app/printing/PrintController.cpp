@@ -4,12 +4,12 @@
 #include "app/printing/PrintForm.h"
 #include "app/printing/PrinterController.h"
 #include "app/widgets/Log.h"
+#include "app/widgets/ScreenFit.h"
 #include "report/ReportPdf.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -86,9 +86,8 @@ void PrintController::build() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(form);
-    const QSize room = screen()->availableSize() - QSize(0, 32); // the title bar
-    form->fitPage(room);
-    resize(QSize(900, 680).boundedTo(room));
+    form->fitPage(roomFor(*this));
+    fitToScreen(*this, QSize(900, 680));
 }
 
 void PrintController::addShortcuts() {

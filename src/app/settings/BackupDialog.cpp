@@ -1,6 +1,8 @@
 #include "app/settings/BackupDialog.h"
 
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/PatientTexts.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 #include "store/CopyContent.h"
@@ -12,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QTableWidget>
 
@@ -46,22 +49,28 @@ BackupDialog::BackupDialog(const Parts& needed, QWidget* parent)
 }
 
 void BackupDialog::build() {
-    auto* explained = new QLabel(qtTrId("backupExplained").arg(store.backups().folder()), this);
+    auto* explained = new QLabel(qtTrId("backupExplained").arg(breakable(store.backups().folder())), this);
     explained->setObjectName(u"lblBackups"_s);
     explained->setTextFormat(Qt::PlainText);
     explained->setWordWrap(true);
     lblBackup->setObjectName(u"lblBackup"_s);
     lblBackup->setTextFormat(Qt::PlainText);
     lblBackup->setWordWrap(true);
+    auto* body = new QWidget(this);
+    auto* inside = new QVBoxLayout(body);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setSpacing(Style::apart);
+    inside->addWidget(explained);
+    inside->addWidget(tblBackups, 1);
+    takeWhatIsLeft(*tblBackups);
+    inside->addWidget(lblBackup);
+    inside->addWidget(makeSecondFolder());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
     column->setSpacing(Style::apart);
-    column->addWidget(explained);
-    column->addWidget(tblBackups, 1);
-    column->addWidget(lblBackup);
-    column->addWidget(makeSecondFolder());
+    column->addWidget(scrolling(u"backupScroll"_s, body, this), 1);
     column->addWidget(makeButtons());
-    resize(fontMetrics().averageCharWidth() * 88, fontMetrics().height() * 24);
+    fitToScreen(*this, QSize(fontMetrics().averageCharWidth() * 88, fontMetrics().height() * 24));
 }
 
 QTableWidget* BackupDialog::makeList() {

@@ -1,5 +1,6 @@
 #include "app/settings/ExportController.h"
 
+#include "app/widgets/PatientTexts.h"
 #include "fhir/FhirExport.h"
 
 #include <QDir>
@@ -11,8 +12,6 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int namesInQuestion = 6;
 
 QString fileName(const QString& path) { return QFileInfo(path).fileName(); }
 
@@ -120,11 +119,10 @@ void ExportController::write(const QStringList& IDs, const QString& extension, c
 }
 
 bool ExportController::askToReplace(const QStringList& names) const {
-    QString listed = names.mid(0, namesInQuestion).join(qtTrId(", "));
-    if (names.size() > namesInQuestion) listed += u", …"_s;
     const QString folder = QDir::toNativeSeparators(outcome.folder);
-    return parts.panel.AskToErase(qtTrId("exportReplace", static_cast<int>(names.size())).arg(folder, listed),
-                                  qtTrId("exportReplaceTitle"));
+    return parts.panel.AskToErase(
+        qtTrId("exportReplace", static_cast<int>(names.size())).arg(folder, listInShort(names)),
+        qtTrId("exportReplaceTitle"));
 }
 
 void ExportController::writeOne(const Target& target, bool mayReplace, const Writer& writer) {

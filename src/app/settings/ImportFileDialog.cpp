@@ -3,6 +3,7 @@
 #include "app/settings/XmlFileList.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
@@ -14,7 +15,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -82,8 +82,7 @@ void ImportFileDialog::build() {
     column->addWidget(lblRemark);
     column->addWidget(listOrAdvice, 1);
     column->addWidget(makeButtons());
-    const QSize wanted(fontMetrics().averageCharWidth() * 136, fontMetrics().height() * 24);
-    resize(wanted.boundedTo(screen()->availableSize() - QSize(40, 80)));
+    fitToScreen(*this, QSize(fontMetrics().averageCharWidth() * 136, fontMetrics().height() * 24));
 }
 
 QHBoxLayout* ImportFileDialog::makeFolderRow() {

@@ -4,6 +4,7 @@
 #include "app/settings/ImportController.h"
 #include "app/settings/SettingForm.h"
 #include "app/widgets/Log.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Style.h"
 #include "store/LanguageChoice.h"
@@ -11,7 +12,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -78,23 +78,17 @@ void SettingController::build() {
     form->monitorColumn().addStretch(1);
     inside->addWidget(form, 1);
     inside->addWidget(makeDataGroup());
-    auto* scroll = new QScrollArea(this);
-    scroll->setObjectName(u"settingScroll"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(controls);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Style::none);
-    column->addWidget(scroll, 1);
+    column->addWidget(scrolling(u"settingScroll"_s, controls, this), 1);
     QWidget* buttons = makeButtons();
     column->addWidget(buttons);
     // All of it at once where the screen is large enough; a scroll area by itself would ask for less.
     QSize whole = controls->sizeHint();
     whole.setHeight(std::max(whole.height(), inside->heightForWidth(whole.width())));
     whole.rheight() += buttons->sizeHint().height();
-    resize(whole.boundedTo(screen()->availableSize()));
+    fitToScreen(*this, whole);
 }
 
 QWidget* SettingController::makeDataGroup() {

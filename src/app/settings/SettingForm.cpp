@@ -72,7 +72,7 @@ QLayout* withUnit(QLineEdit* field, const QValidator* whole) {
     field->setValidator(whole);
     field->setFixedWidth(field->fontMetrics().averageCharWidth() * 10);
     auto* row = new QHBoxLayout;
-    row->setSpacing(Style::tight); // a layout within a form has none of its own
+    row->setSpacing(Style::near); // or it would have the form's between its lines
     row->addWidget(field);
     row->addWidget(new QLabel(qtTrId("unitMmHg")));
     row->addStretch(1);

@@ -22,9 +22,10 @@ public:
 
     /// Lists the files of another folder, none of them chosen.
     void setFolder(const QString& folder);
-    /// Lists these files, all of them chosen that can be imported.
+    /// Lists these files, chosen as chooseAll() would.
     void setFiles(const QStringList& paths);
-    /// All but those whose patients are here already: each of these can be chosen by itself.
+    /// All but those whose patients are here already, and those that are too large to see who is in them:
+    /// each of these can be chosen by itself.
     void chooseAll(bool chosen);
     [[nodiscard]] bool isAnyForAll() const;
     [[nodiscard]] bool areAllChosen() const; ///< of those that chooseAll() chooses
@@ -51,7 +52,8 @@ private:
         bool isRead = false; ///< its turn has come, whether or not the file could be read
         bool isChosen = false;
         bool isHere = false; ///< someone in it has the ID of a patient of the data file
-        [[nodiscard]] bool isForAll() const { return !file.fault && !isHere; }
+        /// Who is in a large file is not known before it is imported.
+        [[nodiscard]] bool isForAll() const { return !file.fault && !isHere && !file.isLarge; }
     };
     /// Reads one folder's files. When it goes, it first waits for the file in its hands; what it handed over
     /// and was not taken goes with it.

@@ -65,6 +65,7 @@ void markAsDemonstration(MainWindow& window, const DataStore& store) {
     strip->setContentsMargins(Style::edge, Style::tight, Style::edge, Style::tight);
     strip->setAutoFillBackground(true);
     strip->setBackgroundRole(QPalette::Highlight);
+    Style::followHighlight(*strip);
     strip->setForegroundRole(QPalette::HighlightedText);
     window.showAtHead(*strip);
 }

@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -25,12 +26,6 @@ QString nameOfDropped(const QUrl& url) {
     return shortText(name.isEmpty() ? url.toDisplayString() : name, longest);
 }
 
-QString listOf(const QStringList& names) {
-    constexpr qsizetype shown = 6;
-    const QString listed = names.mid(0, shown).join(qtTrId(", "));
-    return names.size() > shown ? listed + u", …"_s : listed;
-}
-
 } // namespace
 
 FileDrop::FileDrop(const Parts& needed, QWidget* over)
@@ -42,29 +37,50 @@ FileDrop::FileDrop(const Parts& needed, QWidget* over)
 }
 
 bool FileDrop::isWanted(const QDropEvent& event) {
-    if (QApplication::activeModalWidget() || !(event.possibleActions() & Qt::CopyAction)) return false;
+    if (!(event.possibleActions() & Qt::CopyAction)) return false;
     return std::ranges::any_of(event.mimeData()->urls(), &QUrl::isLocalFile);
+}
+
+/// While a question stands, nothing is begun: the pointer says so.
+bool FileDrop::refuse(QDropEvent& event) {
+    event.ignore();
+    return true; // nor does a field behind the question take the files' names
 }
 
 /// Always a copy: after a move the other program would remove the file.
 bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
     const auto kind = event->type();
+    if (kind == QEvent::WindowUnblocked && watched == window) takeSoon();
     if (kind != QEvent::DragEnter && kind != QEvent::DragMove && kind != QEvent::Drop) return false;
     const auto* widget = qobject_cast<const QWidget*>(watched);
     if (!widget || widget->window() != window) return false;
     auto& drop = *static_cast<QDropEvent*>(event);
     if (kind != QEvent::DragMove) isWelcome = isWanted(drop);
     if (!isWelcome) return false;
+    // What was begun before the question came up is taken: the other program may tell nobody of a refusal.
+    if (kind == QEvent::DragEnter) isRefused = QApplication::activeModalWidget();
+    if (isRefused) return refuse(drop);
     drop.setDropAction(Qt::CopyAction);
     drop.accept();
-    if (kind == QEvent::Drop)
-        QMetaObject::invokeMethod(
-            this, [this, urls = drop.mimeData()->urls()] { take(urls); }, Qt::QueuedConnection);
+    if (kind == QEvent::Drop) {
+        waiting += drop.mimeData()->urls();
+        QMetaObject::invokeMethod(this, &FileDrop::takeWaiting, Qt::QueuedConnection);
+    }
     return true;
 }
 
+/// The list that comes up then must not take the keys that were meant for the question.
+void FileDrop::takeSoon() {
+    if (!waiting.isEmpty()) panel.interject(this, [this] { takeWaiting(); });
+}
+
+/// Those that are dropped while a question stands wait for its end.
+void FileDrop::takeWaiting() {
+    if (waiting.isEmpty() || QApplication::activeModalWidget()) return;
+    take(std::exchange(waiting, {}));
+}
+
 void FileDrop::take(const QList<QUrl>& dropped) {
-    if (QApplication::activeModalWidget()) return; // a question came up in between
     QStringList files;
     QStringList others;
     for (const QUrl& url : dropped) {
@@ -73,7 +89,7 @@ void FileDrop::take(const QList<QUrl>& dropped) {
         else if (const QString path = url.toLocalFile(); !files.contains(path))
             files += path;
     }
-    const QString remark = others.isEmpty() ? QString() : qtTrId("dropLeftOut").arg(listOf(others));
+    const QString remark = others.isEmpty() ? QString() : qtTrId("dropLeftOut").arg(listInShort(others));
     window->activateWindow();
     if (files.isEmpty()) return panel.ShowMessage(remark, qtTrId("importTitle"));
     importer->importAmong(files, remark);

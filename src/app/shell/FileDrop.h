@@ -3,17 +3,19 @@
 #include "app/widgets/FileChooser.h"
 #include "store/DataStore.h"
 
+#include <QList>
 #include <QObject>
+#include <QUrl>
 
 class QDropEvent;
-class QUrl;
 
 namespace zel {
 
 class ImportController;
 
 /// Files that are dropped anywhere on the window are imported, as if they had been looked for; also on a
-/// field, which would take their names for text. Nothing is asked before the other program has its answer.
+/// field, which would take their names for text. Nothing is asked before the other program has its answer,
+/// nor while a question stands: what was dropped by then waits for its end.
 class FileDrop final : public QObject {
     Q_OBJECT
 public:
@@ -33,6 +35,9 @@ protected:
 
 private:
     [[nodiscard]] static bool isWanted(const QDropEvent& event);
+    [[nodiscard]] static bool refuse(QDropEvent& event);
+    void takeSoon();
+    void takeWaiting();
     void take(const QList<QUrl>& dropped);
 
     MessagePanel& panel;
@@ -40,6 +45,8 @@ private:
     ImportController* importer;
     bool isWelcome =
         false; ///< what is dragged just now; thousands of names are read once, not with each move
+    bool isRefused = false; ///< a question stood when it came over the window
+    QList<QUrl> waiting;    ///< dropped, and not taken yet
 };
 
 } // namespace zel

@@ -1,12 +1,12 @@
 #include "app/shell/HelpWindow.h"
 
 #include "app/shell/HelpDocument.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/Style.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QListWidget>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
@@ -53,8 +53,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     manual->setMarkdown(manualText());
     for (QTextFrame* frame : manual->document()->rootFrame()->childFrames())
         if (auto* table = qobject_cast<QTextTable*>(frame)) dressTable(*table);
-    fitPictures();
     listChapters();
+    fitPictures();
     connect(chapters, &QListWidget::currentRowChanged, this, &HelpWindow::goTo);
 }
 
@@ -76,14 +76,17 @@ void HelpWindow::build() {
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(sides);
     const int letter = fontMetrics().averageCharWidth();
-    resize(QSize(letter * 150, letter * 100).boundedTo(screen()->availableSize() - QSize(0, 40)));
+    fitToScreen(*this, QSize(letter * 150, letter * 100));
 }
 
-/// None is wider than the text. They are scaled here, since the browser would leave out lines of their
-/// pixels.
+/// None is wider than the text, nor than the room beside the chapters. They are scaled here, since the
+/// browser would leave out lines of their pixels.
 void HelpWindow::fitPictures() {
     const double density = devicePixelRatioF();
-    const int widest = static_cast<int>(fontMetrics().averageCharWidth() * 90 * density);
+    const int taken = chapters->minimumWidth() + manual->verticalScrollBar()->sizeHint().width()
+                      + 2 * Style::edge + Style::wide;
+    const int widest =
+        static_cast<int>(std::min(fontMetrics().averageCharWidth() * 90, width() - taken) * density);
     for (QTextBlock block = manual->document()->begin(); block.isValid(); block = block.next()) {
         for (auto part = block.begin(); !part.atEnd(); ++part) {
             const QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
@@ -102,6 +105,9 @@ void HelpWindow::listChapters() {
         auto* chapter = new QListWidgetItem(block.text(), chapters);
         chapter->setData(Qt::UserRole, block.position());
     }
+    const int words = chapters->sizeHintForColumn(0) + 2 * chapters->frameWidth();
+    const int bar = chapters->verticalScrollBar()->sizeHint().width();
+    chapters->setMinimumWidth(std::min(words + bar, width() / 3));
 }
 
 void HelpWindow::goTo(int chapter) {

@@ -2,12 +2,12 @@
 
 #include "app/shell/KeyList.h"
 #include "app/widgets/Mnemonic.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/Style.h"
 #include "app/widgets/TableLook.h"
 
 #include <QHeaderView>
 #include <QPushButton>
-#include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -38,7 +38,7 @@ KeysDialog::KeysDialog(QWidget* window) : QDialog(window), tblKeys(new QTableWid
     column->addWidget(tblKeys, 1);
     column->addWidget(makeButtons());
     const int letter = fontMetrics().averageCharWidth();
-    resize(QSize(letter * 120, letter * 90).boundedTo(screen()->availableSize() - QSize(40, 80)));
+    fitToScreen(*this, QSize(letter * 120, letter * 90));
 }
 
 /// The key that opens the list goes on to the manual, as help does elsewhere.

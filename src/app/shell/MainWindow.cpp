@@ -5,6 +5,7 @@
 #include "app/patients/DataPanel.h"
 #include "app/shell/MainMenu.h"
 #include "app/widgets/PageController.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Spoken.h"
 #include "app/widgets/Style.h"
@@ -14,6 +15,7 @@
 #include <QIcon>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
@@ -26,19 +28,6 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Over the window's own background.
-QScrollArea* makeScroll(const QString& name, QWidget* inside, QWidget* parent) {
-    auto* scroll = new QScrollArea(parent);
-    scroll->setObjectName(name);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(inside);
-    scroll->viewport()->setAutoFillBackground(false);
-    inside->setAutoFillBackground(false);
-    return scroll;
-}
 
 /// The pages, in no less room than the one in view needs at its width, rather than what it would like.
 class PageBox final : public QStackedWidget {
@@ -141,7 +130,7 @@ QWidget* MainWindow::makeBody(const DataStore& store) {
     row->setSpacing(Style::edge);
     row->addWidget(contentBox, 1);
     row->addWidget(makeSideColumn(store));
-    return makeScroll(u"bodyScroll"_s, body, this);
+    return scrolling(u"bodyScroll"_s, body, this);
 }
 
 QWidget* MainWindow::makeSideColumn(const DataStore& store) {
@@ -153,11 +142,10 @@ QWidget* MainWindow::makeSideColumn(const DataStore& store) {
     dataPanel = new DataPanel(store, panels);
     column->addWidget(dataPanel);
     column->addStretch(1);
-    QScrollArea* scroll = makeScroll(u"sideColumn"_s, panels, this);
-    scroll->setAccessibleName(qtTrId("sideColumn"));
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    sideColumn = scroll;
-    return scroll;
+    sideColumn = scrolling(u"sideColumn"_s, panels, this);
+    sideColumn->setAccessibleName(qtTrId("sideColumn"));
+    sideColumn->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return sideColumn;
 }
 
 void MainWindow::makeStatusLine() {
@@ -237,11 +225,14 @@ bool MainWindow::makeFirstResponder() {
     return false;
 }
 
-/// The page below and beside them keeps the room that it needs.
+/// The page below and beside them keeps the room that it needs, and so do the panels' words beside their bar.
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     const int letter = fontMetrics().averageCharWidth();
-    sideColumn->setFixedWidth(letter * (width() < letter * 130 ? 22 : 34));
+    const int words = sideColumn->widget()->minimumSizeHint().width();
+    const int least = words + sideColumn->verticalScrollBar()->sizeHint().width();
+    const bool isNarrow = width() < letter * 130;
+    sideColumn->setFixedWidth(isNarrow ? std::clamp(least, letter * 22, letter * 34) : letter * 34);
     for (TabButton* tab : tabs)
         tab->setSlim(height() < letter * 75);
 }

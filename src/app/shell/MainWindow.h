@@ -10,6 +10,8 @@
 
 #include <array>
 
+class QScrollArea;
+
 namespace zel {
 
 class DataPanel;
@@ -71,7 +73,7 @@ private:
     std::array<TabButton*, tabTotal> tabs;
     QStackedWidget* contentBox;
     MonitorBar* offer = nullptr;
-    QWidget* sideColumn = nullptr;
+    QScrollArea* sideColumn = nullptr;
     DataPanel* dataPanel = nullptr;
     QLabel* lblOutcome;
     QLabel* lblMonitor;

@@ -62,10 +62,11 @@ void giveMnemonics(QMenu& menu) {
 
 QSet<QChar> mnemonicsIn(const QWidget& window) {
     QSet<QChar> found;
+    const auto isHere = [&](const QWidget* one) { return one->window() == &window; }; // and in no dialog
     for (const auto* button : window.findChildren<QAbstractButton*>())
-        found.insert(mnemonicOf(button->text()));
+        if (isHere(button)) found.insert(mnemonicOf(button->text()));
     for (const auto* label : window.findChildren<QLabel*>())
-        if (label->buddy()) found.insert(mnemonicOf(label->text()));
+        if (label->buddy() && isHere(label)) found.insert(mnemonicOf(label->text()));
     for (const auto* bar : window.findChildren<QMenuBar*>())
         for (const QAction* menu : bar->actions())
             found.insert(mnemonicOf(menu->text()));

@@ -2,6 +2,7 @@
 
 #include "app/shell/MenuMnemonics.h"
 #include "app/widgets/Log.h"
+#include "app/widgets/Mnemonic.h"
 
 #include <QMenu>
 
@@ -31,11 +32,12 @@ PageMenus::PageMenus(QWidget& window, QMenuBar& bar) : QObject(&bar), shown(wind
     dress(*monitor);
 }
 
-/// Before the menu Help, the last one.
+/// Before the menu Help, the last one. A title whose letters are nearly all taken marks its own.
 QMenu* PageMenus::insertMenu(QMenuBar& bar, const QString& name, const QString& title) {
-    auto* menu = new QMenu(withMnemonic(title, mnemonicsIn(shown)), &bar);
+    const bool isMarked = !mnemonicOf(title).isNull();
+    auto* menu = new QMenu(isMarked ? title : withMnemonic(title, mnemonicsIn(shown)), &bar);
     menu->setObjectName(name);
-    menu->setAccessibleName(title);
+    menu->setAccessibleName(withoutMnemonic(title));
     bar.insertMenu(bar.actions().constLast(), menu);
     return menu;
 }

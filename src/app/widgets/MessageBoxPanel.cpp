@@ -2,6 +2,7 @@
 
 #include "app/widgets/Mnemonic.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/ScreenFit.h"
 #include "app/widgets/Style.h"
 
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -43,7 +43,7 @@ void fill(QMessageBox& box, const QString& text, const QString& title) {
 /// A long list must not make the box higher than the screen, with its button out of reach.
 void keepOnScreen(QMessageBox& box) {
     auto* words = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s);
-    const int room = box.screen()->availableSize().height() / 2;
+    const int room = roomFor(box).height() / 2;
     if (!words || words->heightForWidth(words->minimumWidth()) <= room) return;
     auto* scroll = new QScrollArea(&box);
     scroll->setObjectName(u"longText"_s);

@@ -2,6 +2,7 @@
 
 #include "app/widgets/Style.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -43,10 +44,25 @@ void drawOutline(Outline outline, const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
+/// Around a cell that the keys have reached; the usual one covers its words with a haze.
+void drawCellRing(const QStyleOptionFocusRect& option, QPainter& painter) {
+    if (!(option.state & QStyle::State_KeyboardFocusChange)) return;
+    const bool isChosen = option.backgroundColor == option.palette.color(QPalette::Highlight);
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(
+        QPen(option.palette.color(isChosen ? QPalette::HighlightedText : QPalette::Text), Style::line));
+    painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
 } // namespace
 
 void OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
+    const auto* ring = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+    if (element == PE_FrameFocusRect && ring && qobject_cast<const QAbstractItemView*>(widget))
+        return drawCellRing(*ring, *painter);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const Outline outline = outlineOf(element);
     if (outline != Outline::none && needsOutline(option)) drawOutline(outline, *option, *painter);

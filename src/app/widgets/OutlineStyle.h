@@ -5,7 +5,8 @@
 namespace zel {
 
 /// The desktop's style, with outlines that can be seen around fields, buttons and boxes on a dark or
-/// high-contrast desktop too: Qt's own are a little darker than the window, which is nothing on black.
+/// high-contrast desktop too: Qt's own are a little darker than the window, which is nothing on black. And
+/// with a ring around a cell that the keys have reached, which leaves its words as they are.
 class OutlineStyle final : public QProxyStyle {
     Q_OBJECT
 public:

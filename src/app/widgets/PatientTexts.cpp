@@ -22,24 +22,23 @@ std::pair<const ReadingModel*, const ReadingModel*> datedSpan(const ReadingList&
     return span;
 }
 
+/// The name, or the ID of who has none.
+QString nameOrID(const QString& givenNames, const QString& familyName, const QString& ID,
+                 const QString& neither) {
+    const QString name = qtTrId("fullName").arg(givenNames, familyName).simplified();
+    if (!TrimStr(givenNames + familyName).isEmpty()) return name;
+    return TrimStr(ID).isEmpty() ? neither : qtTrId("patientIDOnly").arg(ID.simplified());
+}
+
 QString nameAndID(const QString& givenNames, const QString& familyName, const QString& ID) {
+    if (TrimStr(ID).isEmpty() || TrimStr(givenNames + familyName).isEmpty())
+        return nameOrID(givenNames, familyName, ID, qtTrId("patientNameless"));
     return qtTrId("patientHeading").arg(givenNames, familyName, ID).simplified();
 }
 
-/// With places where a line may end within long words, which nobody sees.
-QString breakable(const QString& text) {
-    constexpr int longest = 16;
-    QString broken;
-    int run = 0;
-    for (const QChar letter : text) {
-        if (run >= longest && !letter.isLowSurrogate() && !letter.isMark()) {
-            broken += QChar(0x200b);
-            run = 0;
-        }
-        broken += letter;
-        run = letter.isSpace() ? 0 : run + 1;
-    }
-    return broken;
+QString shortNameOr(const QString& neither, const PatientModel& patient) {
+    return nameOrID(shortText(patient.GivenNames), shortText(patient.FamilyName), shortText(patient.ID),
+                    neither);
 }
 
 } // namespace
@@ -61,11 +60,30 @@ QString shortText(const QString& text, int longest) {
     return text.size() <= longest ? text : text.first(longest) + u'\u2026';
 }
 
-QString shortName(const PatientModel& patient) {
-    const QString name =
-        TrimStr(qtTrId("fullName").arg(shortText(patient.GivenNames), shortText(patient.FamilyName)));
-    return name.isEmpty() ? qtTrId("NewPatient") : name;
+QString listInShort(const QStringList& names) {
+    constexpr qsizetype shown = 6;
+    const QString listed = names.mid(0, shown).join(qtTrId(", "));
+    return names.size() > shown ? listed + u", …"_s : listed;
 }
+
+QString breakable(const QString& text) {
+    constexpr int longest = 16;
+    QString broken;
+    int run = 0;
+    for (const QChar letter : text) {
+        if (run >= longest && !letter.isLowSurrogate() && !letter.isMark()) {
+            broken += QChar(0x200b);
+            run = 0;
+        }
+        broken += letter;
+        run = letter.isSpace() ? 0 : run + 1;
+    }
+    return broken;
+}
+
+QString shortName(const PatientModel& patient) { return shortNameOr(qtTrId("NewPatient"), patient); }
+
+QString knownName(const PatientModel& patient) { return shortNameOr(qtTrId("patientNameless"), patient); }
 
 QString listedName(const PatientModel& patient) {
     QStringList names{TrimStr(patient.FamilyName), TrimStr(patient.GivenNames)};

@@ -163,6 +163,14 @@ void Style::followPlaceholder(QWidget& widget) {
     });
 }
 
+void Style::followHighlight(QWidget& widget) {
+    follow(widget, [](const QPalette& colours) {
+        QPalette own;
+        own.setColor(QPalette::Highlight, highlight(colours));
+        return own;
+    });
+}
+
 void Style::followSheet(QWidget& widget, const std::function<QString(const QPalette&)>& sheet) {
     delete widget.findChild<QObject*>(sheetFollower, Qt::FindDirectChildrenOnly);
     auto* follower = new Follower(

@@ -52,6 +52,8 @@ struct Style {
     [[nodiscard]] static QColor focus(const QPalette& palette);
     /// Behind the palette's highlighted text, which can be read on it, as on some desktops' own it cannot.
     [[nodiscard]] static QColor highlight(const QPalette& palette);
+    /// The same as the widget's own highlight, also when the desktop's colours change.
+    static void followHighlight(QWidget& widget);
     /// Behind what the pointer is over.
     [[nodiscard]] static QColor hover(const QPalette& palette);
     /// Laid over what is chosen, and the words on it.

@@ -20,6 +20,7 @@ void dressTable(QTableView& table) {
     table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() * 9 / 5);
     table.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setTextElideMode(Qt::ElideRight);
 }
 
 } // namespace zel

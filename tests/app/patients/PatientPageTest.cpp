@@ -351,12 +351,20 @@ TEST_F(PatientPageTest, thereIsOneUnsavedNewPatientWhoIsKeptUntilSavedOrDeleted)
     clickRow(0);
     EXPECT_EQ(value("FamilyName"), u"Clark"_s) << "what was typed can be gone on with";
     panel.questions.clear();
+    panel.answers[qtTrId("DeletePatient")] = false;
     click("btnDeletePatient");
-    EXPECT_TRUE(panel.questions.empty());
+    EXPECT_EQ(panel.questions, QStringList(qtTrId("DeletePatient"))) << "no undo brings it back";
+    EXPECT_EQ(value("FamilyName"), u"Clark"_s);
+    panel.answers[qtTrId("DeletePatient")] = true;
+    click("btnDeletePatient");
     EXPECT_EQ(rows(), 2);
     EXPECT_EQ(store.getCurrentID(), u"P1"_s);
     press(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(value("FamilyName"), u""_s);
+    panel.questions.clear();
+    click("btnDeletePatient");
+    EXPECT_TRUE(panel.questions.empty()) << "nothing was typed";
+    EXPECT_EQ(rows(), 2);
 }
 
 TEST_F(PatientPageTest, deletingAsksAndGoesToTheNeighbour) {

@@ -124,6 +124,20 @@ TEST_F(ImportFileDialogTest, whatCannotBeTakenHasNoBoxAndWhoIsHereIsNotTickedWit
     EXPECT_FALSE(find<QCheckBox>("boxAll").isEnabled()) << "there is nothing to take with it";
 }
 
+TEST_F(ImportFileDialogTest, whoIsInALargeFileIsNotKnownSoItIsNotTickedFromTheStart) {
+    ASSERT_TRUE(QFile::resize(folder.filePath(u"a.xml"_s), XmlFile::largestCounted + 1));
+    dialog.show();
+    const QStringList both{folder.filePath(u"a.xml"_s), folder.filePath(u"b.xml"_s)};
+    dialog.findChild<XmlFileList*>()->setFiles(both);
+    waitUntilRead();
+    EXPECT_EQ(names(), QStringList(u"b.xml"_s)) << "who is in the large one was not seen";
+    click("boxAll");
+    click("boxAll");
+    EXPECT_EQ(names(), QStringList(u"b.xml"_s));
+    clickRow(0, XmlFileList::name);
+    EXPECT_EQ(names().size(), 2) << "by itself";
+}
+
 TEST_F(ImportFileDialogTest, filesAreChosenByMouseAndKeys) {
     dialog.show();
     waitUntilRead();

@@ -9,6 +9,8 @@
 #include <QPlainTextEdit>
 #include <QUrl>
 
+#include <functional>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -36,6 +38,7 @@ protected:
         enter.setAccepted(false);
         QApplication::sendEvent(&on, &enter);
         if (!enter.isAccepted()) return false;
+        whileOver();
         QDragMoveEvent move({6, 6}, actions, &data, Qt::LeftButton, {});
         move.setAccepted(false);
         QApplication::sendEvent(&on, &move);
@@ -45,12 +48,14 @@ protected:
         QApplication::sendEvent(&on, &drop);
         isCopy = drop.dropAction() == Qt::CopyAction;
         isAskedWithin = !chooser.asked.isEmpty() || !panel.messages.isEmpty();
+        onceDropped();
         QCoreApplication::processEvents();
         return true;
     }
     static QByteArray patientFile(const QByteArray& ID) {
         return "<ZEL><Patient><ID>" + ID + "</ID><FamilyName>Dropped</FamilyName></Patient></ZEL>";
     }
+    std::function<void()> whileOver = [] {}, onceDropped = [] {};
     bool isCopy = false;
     bool isAskedWithin = false;
 };
@@ -99,6 +104,40 @@ TEST_F(FileDropTest, whatIsNoFileOfPatientsIsToldOrLeftToItsField) {
     question.show();
     EXPECT_FALSE(drop({file(u"a.xml"_s)}, window())) << "while a question stands";
     EXPECT_TRUE(chooser.asked.isEmpty());
+}
+
+TEST_F(FileDropTest, whatWasDroppedBeforeAQuestionCameUpWaitsForItsEnd) {
+    start();
+    panel.messages.clear();
+    const QUrl first = file(u"N 1.xml"_s, patientFile("N1"));
+    const QUrl second = file(u"N 2.xml"_s, patientFile("N2"));
+    QDialog question(&window());
+    question.setModal(true);
+    const auto ask = [&] { question.show(); };
+    for (auto* moment : {&whileOver, &onceDropped}) {
+        *moment = ask;
+        EXPECT_TRUE(drop({first, second}, window()));
+        *moment = [] {};
+        EXPECT_TRUE(chooser.asked.isEmpty()) << "not over the question";
+        panel.isTyping = true; // the answer to it
+        question.hide();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(chooser.asked.isEmpty()) << "the list would take the key";
+        panel.isTyping = false;
+        ASSERT_EQ(panel.heldBack.size(), 1U);
+        panel.heldBack.front()();
+        panel.heldBack.clear();
+        EXPECT_EQ(chooser.asked.size(), 1) << "once";
+        EXPECT_EQ(chooser.listed.files, (QStringList{first.toLocalFile(), second.toLocalFile()}));
+        chooser.asked.clear();
+        chooser.listed = {};
+    }
+    question.show();
+    auto& field = *find<QPlainTextEdit>("PatientNotes").viewport();
+    EXPECT_FALSE(drop({first}, field)) << "the pointer says so";
+    question.hide();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(chooser.asked.isEmpty() && panel.heldBack.empty());
 }
 
 } // namespace zel

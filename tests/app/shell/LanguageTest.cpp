@@ -11,6 +11,7 @@
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -62,6 +63,10 @@ protected:
         look(dialog, dialog.objectName());
         EXPECT_LE(dialog.width(), smallScreen.width());
         EXPECT_LE(dialog.height(), smallScreen.height());
+        for (const char* area : {"downloadsScroll", "backupScroll"}) {
+            const auto* body = dialog.findChild<QScrollArea*>(QLatin1StringView(area));
+            EXPECT_TRUE(!body || body->verticalScrollBar()->maximum() == 0) << "there is room for all";
+        }
         dialog.reject();
     }
     /// Of an action that waits until its dialog is closed.

@@ -2,24 +2,24 @@
 // ZEL_LOOK_PICTURES=FOLDER has them painted into a folder.
 #include "AppTest.h"
 #include "CutTexts.h"
+#include "ReadableTexts.h"
+#include "app/settings/ImportFileDialog.h"
+#include "app/settings/XmlFileList.h"
 #include "app/shell/WindowPlacement.h"
+#include "app/widgets/MessageBoxPanel.h"
 #include "app/widgets/OutlineStyle.h"
 #include "chart/ScreenColours.h"
 
-#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QDialog>
-#include <QHeaderView>
+#include <QFile>
 #include <QImage>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTimer>
-
-#include <unordered_map>
 
 namespace zel {
 
@@ -56,39 +56,6 @@ std::vector<Desktop> desktops() {
         {u"strong-dark"_s, paletteOf(Qt::white, Qt::black, Qt::black, Qt::black, Qt::cyan, Qt::black), true},
         {u"strong-light"_s, paletteOf(Qt::black, Qt::white, Qt::white, Qt::white, Qt::darkBlue, Qt::white),
          false}};
-}
-
-/// What most of a picture is made of.
-QColor groundOf(const QImage& image) {
-    std::unordered_map<QRgb, int> counts;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ++counts[image.pixel(x, y)];
-    return QColor(std::ranges::max_element(counts, {}, [](const auto& one) { return one.second; })->first);
-}
-
-double bestContrast(const QImage& image, const QColor& ground) {
-    double best = 1;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            best = std::max(best, contrast(ground, image.pixelColor(x, y)));
-    return best;
-}
-
-QString wordsOf(const QWidget& one) {
-    if (const auto* label = qobject_cast<const QLabel*>(&one)) return label->text();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&one)) return button->text();
-    if (const auto* list = qobject_cast<const QComboBox*>(&one)) return list->currentText();
-    if (const auto* line = qobject_cast<const QLineEdit*>(&one))
-        return line->displayText() + line->placeholderText();
-    if (const auto* text = qobject_cast<const QPlainTextEdit*>(&one))
-        return text->toPlainText() + text->placeholderText();
-    if (const auto* header = qobject_cast<const QHeaderView*>(&one))
-        return header->orientation() == Qt::Horizontal ? u"titles"_s : QString();
-    if (const auto* table = qobject_cast<const QTableView*>(&one))
-        return table->model()->rowCount() > 0 ? u"rows"_s : QString();
-    return one.objectName().endsWith("View"_L1) && one.focusPolicy() != Qt::NoFocus ? u"picture"_s
-                                                                                    : QString();
 }
 
 class LookTest : public AppTest {
@@ -139,44 +106,69 @@ protected:
             look(*dialog, dialog->objectName());
             dialog->reject();
         }
+        lookAtLists(look);
+        lookAtQuestions(look);
+    }
+    /// The dialogs that hold a table or a text, which is never empty here.
+    void lookAtLists(const std::function<void(QWidget&, const QString&)>& look) {
+        hasViewer = false;
+        for (const auto& [action, name] : {std::pair("showKeys", "KeysDialog"),
+                                           {"showDownloads", "DownloadsDialog"},
+                                           {"showHelp", "HelpWindow"}}) {
+            find<QAction>(action).trigger();
+            settle();
+            auto& dialog = find<QDialog>(name);
+            look(dialog, QString::fromLatin1(name));
+            dialog.reject();
+            settle();
+        }
+        const auto files = importList();
+        files->show();
+        settle();
+        look(*files, files->objectName());
+    }
+    /// One file that can be imported, and one that cannot.
+    std::unique_ptr<ImportFileDialog> importList() {
+        const QString damaged = home.filePath(u"damaged.xml"_s);
+        EXPECT_TRUE(QFile(damaged).open(QFile::WriteOnly));
+        auto made = std::make_unique<ImportFileDialog>(
+            chooser, home.path(),
+            ImportContext{.files = {store.getZELXMLPath(), damaged}, .remark = u"Only XML files"_s},
+            &app->mainWndow());
+        const auto& list = *made->findChild<XmlFileList*>();
+        waitFor([&] { return !list.isReading(); });
+        return made;
+    }
+    /// What waits until it is answered.
+    void lookAtQuestions(const std::function<void(QWidget&, const QString&)>& look) {
         click("tableBtn");
-        QTimer::singleShot(0, &app->mainWndow(), [&] {
+        find<QTableView>("tblReadings").selectRow(0);
+        for (const char* action : {"newReadingEntry", "leaveOutReadingsEntry"}) {
+            ASSERT_TRUE(find<QAction>(action).isEnabled()) << action;
+            lookOnceOpen(look);
+            find<QAction>(action).trigger();
+        }
+        MessageBoxPanel boxes;
+        boxes.setWindow(&app->mainWndow());
+        lookOnceOpen(look);
+        boxes.ShowMessage(u"One word or two"_s, u"Title"_s);
+    }
+    void lookOnceOpen(const std::function<void(QWidget&, const QString&)>& look) {
+        QTimer::singleShot(0, &app->mainWndow(), [&look] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
             settle();
             look(*dialog, dialog->objectName());
             dialog->reject();
         });
-        find<QAction>("newReading").trigger();
     }
 
     const QPalette usualPalette = QApplication::palette();
     const QFont usualFont = QApplication::font();
 };
 
-/// As painted: the words of each control stand out from what lies behind them.
 void expectReadable(QWidget& window, bool isDark) {
-    const QImage painted = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    for (const QWidget* one : window.findChildren<QWidget*>()) {
-        if (!one->isVisible() || !one->isEnabled() || one->window() != &window || wordsOf(*one).isEmpty())
-            continue;
-        if (one->objectName().startsWith(u"qt_"_s)) continue;
-        const QRect seen = one->visibleRegion()
-                               .boundingRect()
-                               .adjusted(3, 3, -3, -3)
-                               .translated(one->mapTo(&window, QPoint()));
-        if (seen.width() < 8 || seen.height() < 8) continue;
-        const QImage part = painted.copy(seen);
-        const QColor ground = groundOf(part);
-        SCOPED_TRACE(qPrintable(one->objectName() + u": "_s + wordsOf(*one)));
-        EXPECT_GE(bestContrast(part, ground), readable) << qPrintable(ground.name());
-        const auto* button = qobject_cast<const QAbstractButton*>(one);
-        const bool hasOwnColour = button && (button->isChecked() || !button->icon().isNull());
-        if (one->objectName() != "previewView"_L1 && !hasOwnColour) {
-            EXPECT_EQ(contrast(ground, Qt::white) > contrast(ground, Qt::black), isDark)
-                << qPrintable(ground.name());
-        }
-    }
+    EXPECT_EQ(unreadableIn(window, isDark).join(u'\n').toStdString(), "");
 }
 
 /// Of each field: its frame, to what it stands on.
@@ -223,6 +215,53 @@ TEST_F(LookTest, everyWindowFollowsTheDesktopsColoursAndCanBeRead) {
     }
     QApplication::setPalette(usualPalette);
     EXPECT_TRUE(before == charts()) << "as it was, to the last pixel";
+}
+
+TEST_F(LookTest, theFirstStepsCanBeReadBelowTheMonitorsBar) {
+    ASSERT_TRUE(store.deleteXMLPatient(u"P1"_s) && store.deleteXMLPatient(u"P2"_s) && store.loadXML());
+    demonstration = {.isOn = true, .start = [] { return QString(); }};
+    startConnected();
+    ASSERT_TRUE(page("firstSteps").isVisible() && page("monitorBar").isVisible());
+    for (const Desktop& desktop : desktops()) {
+        SCOPED_TRACE(qPrintable(desktop.name));
+        QApplication::setPalette(desktop.palette);
+        settle();
+        keep(app->mainWndow(), u"firstSteps-"_s + desktop.name);
+        expectReadable(app->mainWndow(), desktop.isDark);
+    }
+    page("lblFirstMonitor")
+        .setPalette(QPalette(Qt::gray, Qt::gray, Qt::gray, Qt::gray, Qt::gray, Qt::gray, Qt::gray));
+    EXPECT_TRUE(unreadableIn(app->mainWndow(), false).join(u'\n').contains(u"lblFirstMonitor"_s));
+}
+
+/// One grey cell among many, and one grey title.
+TEST_F(LookTest, whatCannotBeReadIsFoundInATable) {
+    openIn({1366, 745});
+    const QColor grey(170, 170, 170);
+    for (const auto& [action, name] : {std::pair("showKeys", "tblKeys"), {"showDownloads", "tblDownloads"}}) {
+        find<QAction>(action).trigger();
+        settle();
+        auto& table = find<QTableWidget>(name);
+        EXPECT_TRUE(unreadableIn(*table.window(), false).isEmpty()) << name;
+        const int last = std::min(table.rowCount() - 1, 3);
+        table.item(last, 1)->setForeground(grey);
+        table.clearSelection();
+        table.horizontalHeaderItem(1)->setForeground(grey);
+        settle();
+        EXPECT_EQ(unreadableIn(*table.window(), false).size(), 2) << name;
+        qobject_cast<QDialog*>(table.window())->reject();
+    }
+    const auto files = importList();
+    files->show();
+    auto& table = *files->findChild<QTableView*>(u"tblFiles"_s);
+    table.clearSelection();
+    settle();
+    EXPECT_TRUE(unreadableIn(*files, false).isEmpty());
+    QPalette faint = table.palette();
+    faint.setColor(QPalette::Text, grey);
+    table.setPalette(faint);
+    settle();
+    EXPECT_GE(unreadableIn(*files, false).size(), 4) << "names, numbers and why one cannot be imported";
 }
 
 TEST_F(LookTest, paperStaysWhiteAndWhatIsAroundItDoesNot) {
