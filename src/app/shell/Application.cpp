@@ -147,12 +147,10 @@ int runApplication(int argc, char** argv) {
     const QString person = qEnvironmentVariable("HOME");
     const tl::expected<QString, QString> home = options->demonstration ? demonstrationHome(person) : person;
     if (!home) return complain(failed, home.error());
-    const StorePaths paths{.home = *home,
-                           // The file of an older version beside the program is the person's.
-                           .applicationFolder =
-                               options->demonstration ? *home : QCoreApplication::applicationDirPath(),
-                           .templateFolder = u":/templates"_s,
-                           .isDemonstration = options->demonstration};
+    const StorePaths own{.home = *home,
+                         .applicationFolder = QCoreApplication::applicationDirPath(),
+                         .templateFolder = u":/templates"_s};
+    const StorePaths paths = options->demonstration ? demonstrationPaths(own) : own;
     const QString dataFile = DataFile(paths, clock).getZELXMLPath();
     FirstWindow firstWindow(runningSessionBus(), dataFile);
     const auto leave = QObject::connect(&termination, &TerminationSignals::terminated, &application,

@@ -45,6 +45,12 @@ tl::expected<QString, QString> demonstrationHome(const QString& home) {
     return folder;
 }
 
+StorePaths demonstrationPaths(StorePaths paths) {
+    paths.applicationFolder = paths.home; // an older version's file beside the program is the person's
+    paths.isDemonstration = true;
+    return paths;
+}
+
 QString startDemonstration(const QString& home) {
     const auto folder = demonstrationHome(home); // else nobody would hear why it ends
     if (!folder) return folder.error();

@@ -80,6 +80,15 @@ TEST_F(FirstRunTest, aDemonstrationSaysSoOnEveryPage) {
     }
 }
 
+TEST_F(FirstRunTest, theDemonstrationsDataAreKnownAsInvented) {
+    const StorePaths paths =
+        demonstrationPaths({.home = u"/demo"_s, .applicationFolder = u"/bin"_s, .templateFolder = {}});
+    const DataStore invented(paths, clock);
+    EXPECT_TRUE(invented.isDemonstration());
+    EXPECT_EQ(paths.applicationFolder, u"/demo"_s) << "nothing beside the program is looked at";
+    EXPECT_FALSE(store.isDemonstration());
+}
+
 TEST_F(FirstRunTest, theDemonstrationsDataAreNeverThePersons) {
     const QString own = home.filePath(u"person"_s), state = home.filePath(u"state"_s);
     ASSERT_TRUE(QDir().mkpath(own));
