@@ -62,6 +62,7 @@ void HelpWindow::build() {
     chapters->setObjectName(u"chapters"_s);
     chapters->setAccessibleName(qtTrId("manualChapters"));
     chapters->setSpacing(Style::tight);
+    Style::followHighlight(*chapters);
     manual->setObjectName(u"manual"_s);
     manual->setAccessibleName(qtTrId("manualTitle"));
     manual->setOpenExternalLinks(false);

@@ -68,6 +68,15 @@ void OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     if (outline != Outline::none && needsOutline(option)) drawOutline(outline, *option, *painter);
 }
 
+void OutlineStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (!entry) return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionMenuItem legible(*entry);
+    legible.palette.setColor(QPalette::Highlight, Style::highlight(entry->palette));
+    QProxyStyle::drawControl(element, &legible, painter, widget);
+}
+
 void OutlineStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -17,6 +17,7 @@
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTimer>
@@ -108,6 +109,15 @@ protected:
         }
         lookAtLists(look);
         lookAtQuestions(look);
+        lookAtMenu(look);
+    }
+    void lookAtMenu(const std::function<void(QWidget&, const QString&)>& look) {
+        auto& menu = find<QMenu>("viewMenu");
+        menu.popup(window().mapToGlobal(QPoint(60, 60)));
+        menu.setActiveAction(&find<QAction>("patientBtnEntry"));
+        settle();
+        look(menu, menu.objectName());
+        menu.close();
     }
     /// The dialogs that hold a table or a text, which is never empty here.
     void lookAtLists(const std::function<void(QWidget&, const QString&)>& look) {

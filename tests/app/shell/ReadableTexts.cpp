@@ -7,12 +7,15 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTextEdit>
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace zel {
@@ -84,15 +87,30 @@ void addTitles(const QHeaderView& header, std::vector<Words>& found) {
     }
 }
 
-/// Of a table and a list: one by one, or the best of all would speak for the others.
+template <class Menu>
+void addEntries(const Menu& menu, std::vector<Words>& found) {
+    for (QAction* entry : menu.actions())
+        if (entry->isEnabled() && entry->isVisible() && !entry->isSeparator())
+            found.push_back({entry->text(),
+                             menu.actionGeometry(entry).translated(menu.mapTo(menu.window(), QPoint())),
+                             entry == menu.activeAction()});
+}
+
+/// Of a table, a list and a menu: one by one, or the best of all would speak for the others.
 bool addParts(const QWidget& one, std::vector<Words>& found) {
     const auto* header = qobject_cast<const QHeaderView*>(&one);
     const auto* list = qobject_cast<const QAbstractItemView*>(&one);
+    const auto* bar = qobject_cast<const QMenuBar*>(&one);
+    const auto* menu = qobject_cast<const QMenu*>(&one);
     if (header)
         addTitles(*header, found);
     else if (list)
         addCells(*list, found);
-    return list;
+    else if (bar)
+        addEntries(*bar, found);
+    else if (menu)
+        addEntries(*menu, found);
+    return list || bar || menu;
 }
 
 /// Do the words stand out from what lies behind them, and is that as dark as the desktop?
@@ -113,7 +131,9 @@ QStringList faultsOf(const QImage& painted, const Words& words, bool isDark) {
 QStringList unreadableIn(QWidget& window, bool isDark) {
     const QImage painted = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
     QStringList faults;
-    for (const QWidget* one : window.findChildren<QWidget*>()) {
+    QList<const QWidget*> all = window.findChildren<const QWidget*>();
+    all += &window; // a menu has no other
+    for (const QWidget* one : std::as_const(all)) {
         if (!one->isVisible() || !one->isEnabled() || one->window() != &window) continue;
         std::vector<Words> parts;
         if (addParts(*one, parts)) {

@@ -12,7 +12,7 @@ namespace zel {
 [[nodiscard]] QColor groundOf(const QImage& image);
 [[nodiscard]] double bestContrast(const QImage& image, const QColor& ground);
 
-/// As the window is painted: the words of each control, of each cell and of each column's title that do not
+/// As the window is painted: the words of each control, cell, column's title and entry of a menu that do not
 /// stand out, or that stand on a ground which is light on a dark desktop or the other way round.
 [[nodiscard]] QStringList unreadableIn(QWidget& window, bool isDark);
 
