@@ -1271,7 +1271,8 @@ patients figure déjà dans la liste. Les fichiers non importés sont signalés 
 motif, et pour un tableau chaque ligne fautive, avec son numéro. Affiche combien de fichiers ont été importés et
 refusés, et combien de patients, de mesures et de commentaires ils ont apportés, une ligne 'key: value' pour
 chacun ; pour un tableau, aussi combien de mesures étaient déjà connues : elles ne sont pas ajoutées en double.
-Les mesures saisies de la liste qu’un tableau contient venant d’un tensiomètre sont dès lors exclues, et
+Les mesures de la liste saisies à la main, et qui figurent dans un tableau comme venant d’un
+tensiomètre, sont dès lors exclues, et
 comptées sous 'left-out'.
 
 Avec --patient, les mesures d’un tableau sont ajoutées à un patient de la liste. Avec --columns, c’est le
@@ -1482,7 +1483,7 @@ Options :
     <message id="CliSettingTwice"><translation>Le réglage %1 est indiqué plusieurs fois.</translation></message>
     <message id="CliSettingUnknown"><translation>Le réglage '%1' n’existe pas. Les réglages sont : %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accepte %2, et non '%3'.</translation></message>
-    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Un tableau n’indique ni le sexe, ni le tabagisme, ni le diabète : %n nouveau patient est enregistré comme femme, non-fumeur et sans diabète. Veuillez vérifier.</numerusform><numerusform>Un tableau n’indique ni le sexe, ni le tabagisme, ni le diabète : %n nouveaux patients sont enregistrés comme femmes, non-fumeurs et sans diabète. Veuillez vérifier.</numerusform></translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Un tableau n’indique ni le sexe, ni le tabagisme, ni le diabète : %n nouveau patient est enregistré comme femme, non-fumeuse et sans diabète. Veuillez vérifier.</numerusform><numerusform>Un tableau n’indique ni le sexe, ni le tabagisme, ni le diabète : %n nouveaux patients sont enregistrés comme femmes, non-fumeuses et sans diabète. Veuillez vérifier.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID ajoute les mesures d’un tableau à un patient qui figure dans la liste.</translation></message>
     <message id="CliTryHelp"><translation>Essayez '%1'.</translation></message>
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n mesure saisie à la main ne compte désormais nulle part : le tableau contient la même, venant d’un tensiomètre.</numerusform><numerusform>%n mesures saisies à la main ne comptent désormais nulle part : le tableau contient les mêmes, venant d’un tensiomètre.</numerusform></translation></message>

@@ -1270,7 +1270,8 @@ nell'elenco. I file non importati sono indicati sullo standard error, con il mot
 errata, con il suo numero. Stampa quanti file sono stati importati e rifiutati, e quanti pazienti, misurazioni e
 commenti contenevano, una riga 'chiave: valore' per ciascuno; con una tabella anche quante misurazioni erano già
 note: non vengono duplicate.
-Le misurazioni inserite a mano nell'elenco, che una tabella riporta da un misuratore, sono da allora escluse e
+Le misurazioni dell'elenco inserite a mano, se una tabella le contiene come provenienti da un misuratore, sono
+da allora escluse e
 contate come 'left-out'.
 
 Con --patient le misurazioni di una tabella vengono aggiunte a un paziente dell'elenco. Con --columns si tratta
@@ -1487,7 +1488,7 @@ Opzioni:
     <message id="CliSettingTwice"><translation>L'impostazione %1 è indicata più di una volta.</translation></message>
     <message id="CliSettingUnknown"><translation>L'impostazione '%1' non esiste. Le impostazioni sono: %2.</translation></message>
     <message id="CliSettingValue"><translation>%1 accetta %2, non '%3'.</translation></message>
-    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Una tabella non indica sesso, fumo e diabete: %n nuovo paziente è salvato come femmina, non fumatore e senza diabete. Si prega di verificare.</numerusform><numerusform>Una tabella non indica sesso, fumo e diabete: %n nuovi pazienti sono salvati come femmine, non fumatori e senza diabete. Si prega di verificare.</numerusform></translation></message>
+    <message id="CliTableAssumed" numerus="yes"><translation><numerusform>Una tabella non indica sesso, fumo e diabete: %n nuovo paziente è salvato come femmina, non fumatrice e senza diabete. Si prega di verificare.</numerusform><numerusform>Una tabella non indica sesso, fumo e diabete: %n nuovi pazienti sono salvati come femmine, non fumatrici e senza diabete. Si prega di verificare.</numerusform></translation></message>
     <message id="CliTableKnown"><translation>--patient ID aggiunge le misurazioni di una tabella a un paziente dell’elenco.</translation></message>
     <message id="CliTryHelp"><translation>Provare '%1'.</translation></message>
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n misurazione inserita a mano non conta più in nessun calcolo: la tabella contiene la stessa, proveniente da un misuratore.</numerusform><numerusform>%n misurazioni inserite a mano non contano più in nessun calcolo: la tabella contiene le stesse, provenienti da un misuratore.</numerusform></translation></message>

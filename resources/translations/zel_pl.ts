@@ -625,7 +625,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="patientIDTwice"><translation>W pliku danych jest więcej niż jeden pacjent o ID %1. Nie da się ich rozróżnić, dlatego żadnego z nich nie można zmienić ani usunąć.</translation></message>
     <message id="patientList"><translation>Lista pacjentów</translation></message>
     <message id="patientName"><translation>Nazwisko i imię</translation></message>
-    <message id="patientNameless"><translation>Pacjent bez nazwiska</translation></message>
+    <message id="patientNameless"><translation>Pacjent bez imienia i nazwiska</translation></message>
     <message id="patientPartlySaved"><translation>Nie udało się zapisać wszystkich danych pacjenta (%1): w pliku danych nie ma miejsca na niektóre z nich. To, czego nie zapisano, jest nadal w polach.</translation></message>
     <message id="patientRefused"><translation>Niczego jeszcze nie zapisano. Proszę poprawić oznaczone pola:
 %1</translation></message>
@@ -1266,7 +1266,7 @@ z jego pacjentów jest już na liście. Pliki nieprzyjęte są podane z przyczyn
 każdy błędny wiersz z jego numerem. Wyświetla, ile plików przyjęto i odrzucono oraz ilu pacjentów, ile pomiarów
 i komentarzy wczytano, po jednym 'key: value' w wierszu; dla tabeli także, ile pomiarów było już znanych: nie są
 powielane.
-Wpisane ręcznie pomiary z listy, które tabela zawiera z ciśnieniomierza, są odtąd pomijane i liczone jako
+Wpisane ręcznie pomiary z listy, które w tabeli występują jako pomiary z ciśnieniomierza, są odtąd pomijane i liczone jako
 'left-out'.
 
 Z opcją --patient pomiary z tabeli są dodawane do pacjenta z listy. Z opcją --columns jest to tabela z innego

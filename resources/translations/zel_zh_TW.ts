@@ -625,7 +625,7 @@ mmHg</translation></message>
     <message id="patientIDTwice"><translation>資料檔中有多位病患的 ID 同為 %1，無法區分，因此不會變更或刪除其中任何一位。</translation></message>
     <message id="patientList"><translation>病患清單</translation></message>
     <message id="patientName"><translation>姓名</translation></message>
-    <message id="patientNameless"><translation>未命名的病患</translation></message>
+    <message id="patientNameless"><translation>無姓名的病患</translation></message>
     <message id="patientPartlySaved"><translation>%1 的部分資料無法儲存：資料檔中沒有可存放的位置。無法儲存的內容仍保留在欄位中。</translation></message>
     <message id="patientRefused"><translation>尚未儲存任何資料。請更正標示的欄位：
 %1</translation></message>

@@ -1,12 +1,17 @@
 #include "store/FileImport.h"
 
 #include "store/DataStore.h"
+#include "store/Log.h"
 
 #include <QFileInfo>
 
 #include <utility>
 
 namespace zel {
+
+FileImport::~FileImport() {
+    if (!read.empty()) qCWarning(lcStore, "Files of an import that were not taken: %zu", read.size());
+}
 
 void FileImport::add(const QString& path) {
     auto source = readImportSource(path);

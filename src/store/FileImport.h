@@ -27,6 +27,9 @@ public:
     static constexpr qint64 usuallyHeld = qint64{32} << 20;
     /// \p store must outlive the import.
     explicit FileImport(DataStore& store, qint64 mostHeld = usuallyHeld) : data{store}, most{mostHeld} {}
+    FileImport(const FileImport&) = delete;
+    FileImport& operator=(const FileImport&) = delete;
+    ~FileImport(); ///< tells the log how many files it did not come to write
 
     void add(const QString& path);
     /// Writes what has been read, and begins anew. \return how each file went, in the order of adding

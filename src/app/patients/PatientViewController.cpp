@@ -124,7 +124,7 @@ void PatientViewController::reload() {
     if (store.validIDinXML(toldGone)) toldGone = QString();
     const bool isOther = isShownGone();
     const PatientModel& gone = editor->shownForm().patient();
-    if (isOther && toldGone != gone.ID) emit replaced(shortName(gone));
+    if (isOther && toldGone != gone.ID) emit replaced(knownName(gone));
     open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
     if (isOther) leaveEditor();
     emit rosterChanged(!patients.empty());
@@ -147,7 +147,7 @@ void PatientViewController::leaveEditor() {
 void PatientViewController::tellIfGone() {
     const QString ID = store.getCurrentID();
     if (!store.lastLoad() || !isGone(ID) || std::exchange(toldGone, ID) == ID) return;
-    const QString told = qtTrId("patientGone").arg(shortName(editor->shownForm().patient()));
+    const QString told = qtTrId("patientGone").arg(knownName(editor->shownForm().patient()));
     parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }
 
@@ -261,7 +261,8 @@ Instant PatientViewController::today() const {
 }
 
 SaveAnswer PatientViewController::askToSave(const QString& question) {
-    const QString name = shortName(editor->shownForm().record(editor->entry()));
+    const PatientModel typed = editor->shownForm().record(editor->entry());
+    const QString name = editor->shownForm().isNew() ? shortName(typed) : knownName(typed);
     return parts.panel.AskToSave(question.arg(name), qtTrId("SavePatient"));
 }
 
@@ -325,11 +326,11 @@ bool PatientViewController::saved(const PatientModel& record) {
     const PatientEntry kept = formOf(record.ID).entryOf();
     const PatientEntry meant = keepTyped(wanted, before.entryOf(), kept);
     if (!store.validIDinXML(record.ID) || kept == meant) {
-        emit said(qtTrId("patientSaved").arg(shortName(record)));
+        emit said(qtTrId("patientSaved").arg(knownName(record)));
         return true;
     }
     editor->showPatient(formOf(record.ID), meant);
-    parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(shortName(record)), qtTrId("Warning"));
+    parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(knownName(record)), qtTrId("Warning"));
     return false;
 }
 

@@ -184,7 +184,7 @@ void ImportFileDialog::showChosen() {
     btnImport->setText(chosen > 0 ? qtTrId("importButtonFiles", chosen) : qtTrId("importButton"));
     btnImport->setAccessibleName(withoutMnemonic(btnImport->text()));
     boxAll->setEnabled(files->isAnyForAll());
-    boxAll->setChecked(chosen > 0 && files->areAllChosen());
+    boxAll->setChecked(files->isAnyForAll() && files->areAllChosen());
 }
 
 void ImportFileDialog::resizeEvent(QResizeEvent* event) {

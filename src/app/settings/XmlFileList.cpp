@@ -43,7 +43,7 @@ void XmlFileList::list(const QStringList& paths, bool chosen) {
     rows.clear();
     for (const QString& path : paths)
         rows.push_back({.file = {.FullPath = path, .sFileName = path.section(u'/', -1), .backupTime = {}},
-                        .isChosen = chosen});
+                        .isAwaited = chosen});
     endResetModel();
     emit chosenChanged();
     read(paths);
@@ -68,15 +68,18 @@ void XmlFileList::fileRead(int row, const XmlFile& file) {
     changed.isRead = true;
     changed.isHere = std::ranges::any_of(file.IDs, context.isKnown);
     // What was chosen before this was known was not chosen knowing it.
-    changed.isChosen = changed.isChosen && changed.isForAll();
+    changed.isChosen = (changed.isChosen || changed.isAwaited) && changed.isForAll();
+    changed.isAwaited = false;
     emit dataChanged(index(row, 0), index(row, columnTotal - 1));
-    if (!changed.isForAll()) emit chosenChanged();
+    emit chosenChanged();
 }
 
 void XmlFileList::chooseAll(bool chosen) {
     if (rows.empty()) return;
-    for (Row& row : rows)
-        row.isChosen = chosen && row.isForAll();
+    for (Row& row : rows) {
+        row.isChosen = chosen && row.isRead && row.isForAll();
+        row.isAwaited = chosen && !row.isRead;
+    }
     emit dataChanged(index(0, name), index(rowCount() - 1, name), {Qt::CheckStateRole});
     emit chosenChanged();
 }
@@ -84,7 +87,8 @@ void XmlFileList::chooseAll(bool chosen) {
 bool XmlFileList::isAnyForAll() const { return std::ranges::any_of(rows, &Row::isForAll); }
 
 bool XmlFileList::areAllChosen() const {
-    return std::ranges::all_of(rows, [](const Row& row) { return row.isChosen || !row.isForAll(); });
+    return std::ranges::all_of(
+        rows, [](const Row& row) { return row.isChosen || row.isAwaited || !row.isForAll(); });
 }
 
 QStringList XmlFileList::chosenFiles() const {
@@ -117,6 +121,7 @@ bool XmlFileList::setData(const QModelIndex& index, const QVariant& value, int r
     Row& row = rows.at(static_cast<std::size_t>(index.row()));
     if (row.file.fault) return false;
     row.isChosen = value.toInt() == Qt::Checked;
+    row.isAwaited = false;
     emit dataChanged(index, index, {role});
     emit chosenChanged();
     return true;

@@ -22,10 +22,10 @@ public:
 
     /// Lists the files of another folder, none of them chosen.
     void setFolder(const QString& folder);
-    /// Lists these files, chosen as chooseAll() would.
+    /// Lists these files, each chosen as chooseAll() would as soon as it is known what it is.
     void setFiles(const QStringList& paths);
     /// All but those whose patients are here already, and those that are too large to see who is in them:
-    /// each of these can be chosen by itself.
+    /// each of these can be chosen by itself. One that is not read yet is chosen when it is.
     void chooseAll(bool chosen);
     [[nodiscard]] bool isAnyForAll() const;
     [[nodiscard]] bool areAllChosen() const; ///< of those that chooseAll() chooses
@@ -51,6 +51,7 @@ private:
         XmlFile file;
         bool isRead = false; ///< its turn has come, whether or not the file could be read
         bool isChosen = false;
+        bool isAwaited = false; ///< is chosen when it is read, if all that can be imported are
         bool isHere = false; ///< someone in it has the ID of a patient of the data file
         /// Who is in a large file is not known before it is imported.
         [[nodiscard]] bool isForAll() const { return !file.fault && !isHere && !file.isLarge; }

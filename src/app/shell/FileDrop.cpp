@@ -69,9 +69,12 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-/// The list that comes up then must not take the keys that were meant for the question.
+/// The list that comes up then must not take the keys that were meant for the question. It is no message of
+/// the panel's: while it is open, others may still come up.
 void FileDrop::takeSoon() {
-    if (!waiting.isEmpty()) panel.interject(this, [this] { takeWaiting(); });
+    if (waiting.isEmpty()) return;
+    panel.interject(
+        this, [this] { QMetaObject::invokeMethod(this, &FileDrop::takeWaiting, Qt::QueuedConnection); });
 }
 
 /// Those that are dropped while a question stands wait for its end.

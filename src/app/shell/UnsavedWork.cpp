@@ -19,7 +19,7 @@ void UnsavedWork::keep() {
         for (const QJsonValue unsaved : page->saveQuietly()) {
             QJsonObject draft = unsaved.toObject();
             draft[u"page"_s] = page->objectName();
-            drafts.append(draft);
+            if (!drafts.contains(draft)) drafts.append(draft); // one that was taken up is still there
         }
     }
     if (drafts.size() == before) return;
@@ -32,6 +32,7 @@ void UnsavedWork::offer() {
     QJsonArray left;
     for (const QJsonValue draft : file.read())
         if (!isSettled(draft.toObject())) left.append(draft);
+    if (parts.isClosing()) return; // keep() has written what is to be offered again
     if (const StoreResult kept = file.write(left); !kept)
         parts.panel.ShowMessage(describe(kept.error()), qtTrId("Warning"));
 }

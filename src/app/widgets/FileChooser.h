@@ -11,7 +11,7 @@ namespace zel {
 struct ImportContext {
     std::function<bool(const QString& ID)> isKnown = [](const QString&) { return false; };
     QString dateFormat = QStringLiteral("yyyy/MM/dd"); ///< as SettingModel::shownDateFormat()
-    QStringList files{}; ///< listed instead of a folder's, and chosen as far as they can be imported
+    QStringList files{}; ///< listed instead of a folder's, and chosen as XmlFileList::setFiles() does
     QString remark{};    ///< for the user, about these files
 };
 

@@ -101,6 +101,22 @@ TEST_F(ImportFileDialogTest, listsTheXMLFilesWithWhatIsInThem) {
     EXPECT_TRUE(list().flags(list().index(0, 0)) & Qt::ItemIsUserCheckable);
 }
 
+TEST_F(ImportFileDialogTest, nothingIsChosenBeforeItIsKnownWhatItIs) {
+    auto& files = *dialog.findChild<XmlFileList*>();
+    const QStringList paths{folder.filePath(u"a.xml"_s), folder.filePath(u"c.xml"_s)};
+    files.setFiles(paths);
+    EXPECT_TRUE(files.chosenFiles().isEmpty());
+    files.chooseAll(true);
+    EXPECT_TRUE(files.chosenFiles().isEmpty());
+    EXPECT_TRUE(find<QCheckBox>("boxAll").isChecked());
+    waitUntilRead();
+    EXPECT_EQ(names(), QStringList(u"a.xml"_s));
+    files.setFiles(paths);
+    files.chooseAll(false);
+    waitUntilRead();
+    EXPECT_TRUE(names().isEmpty()) << "given up before they were known";
+}
+
 TEST_F(ImportFileDialogTest, whatCannotBeTakenHasNoBoxAndWhoIsHereIsNotTickedWithAll) {
     dialog.show();
     click("boxAll");
