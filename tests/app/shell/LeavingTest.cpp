@@ -263,7 +263,7 @@ TEST_F(LeavingTest, whatCannotBeSavedAtTheEndIsOfferedAtTheNextStart) {
         app->terminate();
         panel.answers[title] = false; // as a box that is closed answers
     };
-    start();
+    launch();
     panel.whenAsked = [] {};
     panel.answers[title] = true;
     panel.questions.clear();
