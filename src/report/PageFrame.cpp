@@ -1,5 +1,6 @@
 #include "report/PageFrame.h"
 
+#include "analysis/ReadingCount.h"
 #include "report/FieldText.h"
 
 namespace zel {
@@ -75,10 +76,12 @@ CountRule countRule(Section section) {
 }
 
 /// Beside a heading of the section's own that counts them, only if some are left out.
-QString countText(const std::optional<ReadingCount>& count, Section section) {
-    if (!count) return {};
+QString countText(const ReportSource& report, Section section) {
+    const CountRule rule = countRule(section);
+    if (!rule) return {};
+    const ReadingCount count = countReadings(report.readings, report.selection, rule);
     const bool isHeaded = section != Section::graph && section != Section::trend && section != Section::table;
-    return isHeaded && describeLeftOut(*count).isEmpty() ? QString() : describe(*count);
+    return isHeaded && describeLeftOut(count).isEmpty() ? QString() : describe(count);
 }
 
 /// One line; neither text takes the other's room.
@@ -122,14 +125,8 @@ QString emptyText(const PagePlace& place) {
 
 double patientTitleHeight() { return static_cast<int>(2 * lineHeight(plainFont) + 20); }
 
-std::optional<ReadingCount> countOf(const ReportSource& report, Section section) {
-    const CountRule rule = countRule(section);
-    if (!rule) return {};
-    return countReadings(report.readings, report.selection, rule);
-}
-
 void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section,
-                      const std::optional<ReadingCount>& count, const PagePlace& place) {
+                      const PagePlace& place) {
     const double height = lineHeight(plainFont);
     const Point first{at.titleRect.x + titleIndent, at.titleRect.y - height};
     const double width = at.titleRect.width - 2 * titleIndent;
@@ -142,7 +139,7 @@ void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSour
     textOut(picture, period, second, plainFont);
     fieldText(picture, shownPart(report, section), {second.x + width, second.y}, width - periodWidth - gap,
               boldFont, XPos::right);
-    drawCounts(picture, {second.x, second.y - lineHeight(countFont)}, width, countText(count, section),
+    drawCounts(picture, {second.x, second.y - lineHeight(countFont)}, width, countText(report, section),
                emptyText(place));
 }
 

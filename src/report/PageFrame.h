@@ -1,7 +1,6 @@
 #pragma once
 // What stands around the body of every page.
 
-#include "analysis/ReadingCount.h"
 #include "chart/Picture.h"
 #include "report/LeftOutReadings.h"
 #include "report/PageGeometry.h"
@@ -24,12 +23,10 @@ struct PagePlace {
 
 /// Room that the patient title takes at the head of the body.
 [[nodiscard]] double patientTitleHeight();
-/// How many readings the section counts; none for one that is about something else.
-[[nodiscard]] std::optional<ReadingCount> countOf(const ReportSource& report, Section section);
-/// Name, ID and reporting period, and countOf() the section. The ID stays readable beside a name of any
-/// length.
+/// Name, ID and reporting period, and how many readings count in it. The ID stays readable beside a name of
+/// any length.
 void drawPatientTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, Section section,
-                      const std::optional<ReadingCount>& count, const PagePlace& place);
+                      const PagePlace& place);
 /// The band with the section's name, the program's and today's date; in a demonstration it has that all is
 /// invented in the program's place.
 void drawTitle(Picture& picture, const PageGeometry& at, const ReportSource& report, const QString& section);

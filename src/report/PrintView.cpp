@@ -7,6 +7,7 @@
 #include "report/GraphPage.h"
 #include "report/PageFrame.h"
 #include "report/SummaryPage.h"
+#include "report/TableLegend.h"
 #include "report/TrendPage.h"
 
 namespace zel {
@@ -47,17 +48,6 @@ const LeftOutPages& PrintView::leftOut(Section section, const LeftOutScope& scop
     const auto [found, isNew] = leftOutLists.try_emplace(std::pair(getOrientation(section), scope));
     if (isNew) found->second = layOutLeftOut(source, scope, geometry(section).drawingRect);
     return found->second;
-}
-
-const std::optional<ReadingCount>& PrintView::count(Section section) const {
-    const auto [found, isNew] = counts.try_emplace(section);
-    if (isNew) found->second = countOf(source, section);
-    return found->second;
-}
-
-const TableMarks& PrintView::marks() const {
-    if (!allMarks) allMarks = tableMarks(source.rows);
-    return *allMarks;
 }
 
 int PrintView::getTotalPages(std::optional<Section> printSelection) const {
@@ -106,7 +96,7 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
         return picture;
     }
     if (printSelection) {
-        drawPatientTitle(picture, at, source, *printSelection, count(*printSelection), place);
+        drawPatientTitle(picture, at, source, *printSelection, place);
         drawBody(picture, at, *printSelection, number, place.leftOut);
     }
     drawTitle(picture, at, source, printSelection ? facts(*printSelection).text() : QString());
@@ -138,7 +128,7 @@ void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section secti
         return drawCommentLegend(picture, comments(), legendPlace(at), legendWidth(at));
     case Section::SWStatistics: return drawSummaryStat(picture, at, number);
     case Section::table:
-        return drawTableLegend(picture, source, marks(),
+        return drawTableLegend(picture, source,
                                DrawTable(source).drawRect(picture, at.drawingRect, number, true),
                                legendPlace(at), legendWidth(at));
     }
@@ -147,7 +137,7 @@ void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section secti
 void PrintView::drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const {
     const Rect& area = at.drawingRect;
     const bool isCommentCut = DrawTable(source).drawRect(picture, area, number, false);
-    drawTableLegend(picture, source, marks(), isCommentCut, legendPlace(at), legendWidth(at));
+    drawTableLegend(picture, source, isCommentCut, legendPlace(at), legendWidth(at));
     if (number != 1) return;
     const Rect rows = DrawTable::firstPageRect(area, false);
     drawStatisticSummary(picture, source, {area.x, area.top() - fStatTable, area.width, fStatTable});

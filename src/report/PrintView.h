@@ -7,7 +7,6 @@
 #include "report/PageFrame.h"
 #include "report/ReportSource.h"
 #include "report/Section.h"
-#include "report/TableLegend.h"
 
 #include <QPageSize>
 #include <QSizeF>
@@ -53,17 +52,13 @@ private:
     [[nodiscard]] const CommentPages& comments() const;
     [[nodiscard]] const PatientPages& profile() const;
     [[nodiscard]] const LeftOutPages& leftOut(Section section, const LeftOutScope& scope) const;
-    [[nodiscard]] const std::optional<ReadingCount>& count(Section section) const;
-    [[nodiscard]] const TableMarks& marks() const;
 
     ReportSource source;
     QPageSize paperSize;
-    // Worked out when the section is first asked for: texts may be long, and readings many on many pages.
+    // Worked out when the section is first asked for: texts may be long, and many.
     mutable std::optional<CommentPages> commentPages;
     mutable std::optional<PatientPages> patientPages;
     mutable std::map<std::pair<QPageLayout::Orientation, LeftOutScope>, LeftOutPages> leftOutLists;
-    mutable std::map<Section, std::optional<ReadingCount>> counts;
-    mutable std::optional<TableMarks> allMarks;
 };
 
 } // namespace zel

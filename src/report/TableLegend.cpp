@@ -90,41 +90,32 @@ LegendItems markMeanings(const ReportSource& report) {
     return items;
 }
 
-LegendItems otherMarks(const LimitPair& highFrom, const TableMarks& marks, bool isCommentCut) {
+LegendItems otherMarks(const ReportSource& report, bool isCommentCut) {
+    const ReadingRows& rows = report.rows;
     LegendItems items;
-    const auto explain = [&items](const QString& text, bool isThere = true) {
-        if (isThere) items.push_back({LegendItem::Mark::none, text, itemGap});
+    if (report.highFrom != LimitPair{})
+        items.push_back({LegendItem::Mark::none, describeHighMark(report.highFrom), itemGap});
+    const auto explain = [&](const QString& text, auto&& isSuch) {
+        if (std::ranges::any_of(rows.rows, isSuch)) items.push_back({LegendItem::Mark::none, text, itemGap});
     };
-    if (highFrom != LimitPair{}) explain(describeHighMark(highFrom));
-    explain(qtTrId("reportDownloadDay"), marks.hasDownloadDay);
-    explain(qtTrId("reportStruckThrough"), marks.hasExcluded);
-    explain(qtTrId("reportNoReading"), marks.hasDayWithoutReading);
-    explain(qtTrId("reportNoDate"), marks.hasUndated);
-    explain(qtTrId("reportCommentBars"), marks.hasComment);
-    explain(qtTrId("reportCutComments"), isCommentCut);
+    explain(qtTrId("reportDownloadDay"), [](const ReadingRow& row) { return row.bYellowBackground; });
+    explain(qtTrId("reportStruckThrough"),
+            [](const ReadingRow& row) { return !row.isNA() && row.reading->isExcluded(); });
+    explain(qtTrId("reportNoReading"), [](const ReadingRow& row) { return row.isNA(); });
+    explain(qtTrId("reportNoDate"), [](const ReadingRow& row) { return isUndatedDay(row.day); });
+    explain(qtTrId("reportCommentBars"), [](const ReadingRow& row) { return row.comment != nullptr; });
+    if (isCommentCut) items.push_back({LegendItem::Mark::none, qtTrId("reportCutComments"), itemGap});
     return items;
 }
 
 } // namespace
 
-TableMarks tableMarks(const ReadingRows& rows) {
-    TableMarks marks;
-    for (const ReadingRow& row : rows.rows) {
-        marks.hasDownloadDay |= row.bYellowBackground;
-        marks.hasExcluded |= !row.isNA() && row.reading->isExcluded();
-        marks.hasDayWithoutReading |= row.isNA();
-        marks.hasUndated |= isUndatedDay(row.day);
-        marks.hasComment |= row.comment != nullptr;
-    }
-    return marks;
-}
-
-void drawTableLegend(Picture& picture, const ReportSource& report, const TableMarks& marks, bool isCommentCut,
-                     Point at, double width) {
+void drawTableLegend(Picture& picture, const ReportSource& report, bool isCommentCut, Point at,
+                     double width) {
     const auto written = [&](int size) {
         LegendText text(width, {.size = size});
         text.add(markMeanings(report));
-        text.add(otherMarks(report.highFrom, marks, isCommentCut));
+        text.add(otherMarks(report, isCommentCut));
         return text;
     };
     int size = legendFont.size;

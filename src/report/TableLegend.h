@@ -7,20 +7,9 @@
 
 namespace zel {
 
-/// What the reading table's rows have to be explained, on any page.
-struct TableMarks {
-    bool hasDownloadDay = false;
-    bool hasExcluded = false;
-    bool hasDayWithoutReading = false;
-    bool hasUndated = false;
-    bool hasComment = false;
-};
-[[nodiscard]] TableMarks tableMarks(const ReadingRows& rows);
-
 /// What the marks of the reading table mean, in lines that stand on \p at: smaller and more of them where
 /// they would be cut.
-void drawTableLegend(Picture& picture, const ReportSource& report, const TableMarks& marks, bool isCommentCut,
-                     Point at, double width);
+void drawTableLegend(Picture& picture, const ReportSource& report, bool isCommentCut, Point at, double width);
 /// The same for the comments' page.
 void drawCommentLegend(Picture& picture, const CommentPages& comments, Point at, double width);
 /// That the profile's form has cut texts, which stand in full behind it.

@@ -117,14 +117,14 @@ TEST_F(TableTest, theLegendExplainsWhatTheTableShowsAndNoMore) {
 
 TEST_F(TableTest, aLegendWithoutRoomHasNoEmptyLine) {
     Picture picture;
-    drawTableLegend(picture, sample.view().report(), {.hasDownloadDay = true}, false, {100, 50}, 12);
+    drawTableLegend(picture, sample.view().report(), false, {100, 50}, 12);
     const auto texts = textsOf(picture);
     ASSERT_GE(texts.size(), 6U);
     const double line = lineHeight({.size = 6});
     for (std::size_t i = 0; i < texts.size(); ++i)
         EXPECT_NEAR(texts[i].origin.y, 50 + line * static_cast<double>(texts.size() - 1 - i), 0.01) << i;
     picture.clear();
-    drawTableLegend(picture, sample.view().report(), {.hasDownloadDay = true}, false, {100, 50}, 25);
+    drawTableLegend(picture, sample.view().report(), false, {100, 50}, 25);
     for (const TextLine& text : textsOf(picture))
         EXPECT_LE(text.origin.x + textSize(text.text, text.attribute).width, 125.01) << qPrintable(text.text);
 }
