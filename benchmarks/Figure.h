@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace zel {
 
@@ -25,6 +26,12 @@ void print(const Figure& figure);
 
 /// \return seconds of one call
 [[nodiscard]] double seconds(const std::function<void()>& work);
+/// The same in this process's own time, so that a busy machine does not count: for what neither waits nor has
+/// threads.
+[[nodiscard]] double processorSeconds(const std::function<void()>& work);
+
+/// Of at least one value.
+[[nodiscard]] double median(std::vector<double> values);
 
 /// Medians of so many calls in turn, in seconds, so that a drift of the machine's speed cancels out.
 struct Pair {
@@ -32,6 +39,7 @@ struct Pair {
     double bare = 0;
     double ratio = 0; ///< the median of the pairs' ratios
 };
-[[nodiscard]] Pair inTurn(int rounds, const std::function<void()>& ours, const std::function<void()>& bare);
+[[nodiscard]] Pair inTurn(int rounds, const std::function<void()>& ours, const std::function<void()>& bare,
+                          double (*measure)(const std::function<void()>&) = seconds);
 
 } // namespace zel

@@ -21,12 +21,13 @@ void addPatient(pugi::xml_node root, int number) {
     patient.updateXMLNode(PatientModel::makeXmlNode(root), true);
 }
 
-void addReading(pugi::xml_node root, int number, int patient) {
+/// \p place: among the patient's
+void addReading(pugi::xml_node root, int number, int patient, int place) {
     using namespace std::chrono_literals;
     ReadingModel reading;
     reading.ID = QStringLiteral("P%1").arg(patient, 5, 10, QLatin1Char{'0'});
     reading.RecID = QString::number(1000001 + number);
-    reading.ReadingDate = Instant{1546300800s} + 11h * (number % 500) + 7min * (number % 13);
+    reading.ReadingDate = Instant{1546300800s} + 11h * place + 7min * (number % 13);
     const auto step = static_cast<std::uint32_t>(number);
     reading.sys = 115 + step % 37;
     reading.dia = 70 + step % 23;
@@ -56,7 +57,7 @@ QByteArray makeDataFile(int patients, int readings) {
         addPatient(root, patient);
     const int each = readings / patients;
     for (int number = 0; number < readings; ++number)
-        addReading(root, number, number / each);
+        addReading(root, number, number / each, number % each);
     addComment(root);
     std::ostringstream text;
     document.save(text, "    ");
