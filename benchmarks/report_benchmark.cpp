@@ -92,7 +92,7 @@ void tableAsPdf(const Report& report) {
         [&] {
             if (!makePdf(report.view(), table)) std::abort();
         },
-        [&] { writeBare(texts); });
+        [&] { writeBare(texts); }, processorSeconds);
     print({.what = "Table of " + std::to_string(report.list.size()) + " readings as PDF",
            .unit = "ms",
            .ours = 1000 * ours,

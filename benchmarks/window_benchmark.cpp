@@ -1,5 +1,6 @@
 // What a user does in the main window, over 100,000 readings of one patient and 2,000 patients: from the key
-// or the mouse until the window has been painted. Each row is the slowest of 200 such steps.
+// or the mouse until the window has been painted. Each row is the slowest of 200 such steps, in processor
+// time: nothing of them waits.
 
 #include "Figure.h"
 #include "LongHistory.h"
@@ -34,12 +35,13 @@ StorePaths pathsIn(const QString& home) {
 /// Counts what is painted, so that no step is measured that shows nothing.
 class Paints final : public QObject {
 public:
-    Paints() { qApp->installEventFilter(this); }
+    explicit Paints(bool small) : isSmall(small) { qApp->installEventFilter(this); }
     bool eventFilter(QObject*, QEvent* event) override {
         count += event->type() == QEvent::Paint ? 1 : 0;
         return false;
     }
     int count = 0;
+    bool isSmall;
 };
 
 /// The whole program over a made data file, without its own process.
@@ -112,12 +114,13 @@ void press(QWidget& to, int key, const QString& text) {
 /// Each of 200 steps is done in three rounds, and its best one counts, which leaves out what else the
 /// computer does, but not what the step itself takes. The rounds begin alike.
 void measure(const std::string& what, Paints& paints, const std::function<void(int)>& step) {
-    constexpr int steps = 200, rounds = 3;
-    std::vector<double> best(steps, 1e9);
+    constexpr int rounds = 3;
+    const int steps = paints.isSmall ? 10 : 200;
+    std::vector<double> best(static_cast<std::size_t>(steps), 1e9);
     const int before = paints.count;
     for (int round = 0; round < rounds; ++round) {
         for (int number = 0; number < steps; ++number) {
-            const double taken = seconds([&] {
+            const double taken = processorSeconds([&] {
                 step(number);
                 Window::settle();
             });
@@ -227,7 +230,7 @@ int main(int argc, char** argv) {
     const ProgramTexts texts(english());
     const bool small = isSmall(argc, argv);
     Window window(small ? 20 : 2000, small ? 2000 : 100'000);
-    Paints paints;
+    Paints paints(small);
     measureSearch(window, paints);
     measurePages(window, paints);
     click(window.find("tableBtn"));
