@@ -27,7 +27,8 @@ void print(const Figure& figure);
 /// \return seconds of one call
 [[nodiscard]] double seconds(const std::function<void()>& work);
 /// The same in this process's own time, so that a busy machine does not count: for what neither waits nor has
-/// threads.
+/// threads. Begins with as little memory as a program that has just started: what earlier calls have freed
+/// would else be at hand for one and not for the other.
 [[nodiscard]] double processorSeconds(const std::function<void()>& work);
 
 /// Of at least one value.

@@ -4,6 +4,7 @@
 #include "Figure.h"
 #include "MadeDataFile.h"
 #include "store/AtomicFile.h"
+#include "store/FileImport.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -57,8 +58,11 @@ void measureImport(int patients, int readingsEach, int rounds) {
     for (int round = 0; round < rounds; ++round) {
         require(replaceFile(home.path, before).has_value(), "not written");
         own.push_back(seconds([&] {
+            FileImport together{home.store};
             for (const QString& file : files)
-                require(home.store.importXml(file).has_value(), "not imported");
+                together.add(file);
+            for (const ImportedFile& file : together.finish())
+                require(file.result.has_value(), "not imported");
         }));
         pugi::xml_document all;
         all.load_file(home.name().c_str());

@@ -2,6 +2,7 @@
 #include "cli/OpenStore.h"
 #include "cli/TableOptions.h"
 #include "cli/Usage.h"
+#include "store/FileImport.h"
 
 #include <limits>
 
@@ -49,17 +50,41 @@ QString wordsOf(const ImportRefusal& refusal, bool isTable) {
     return words;
 }
 
-void importFile(const QString& file, const TableImport& wanted, DataStore& store, Taken& taken,
-                Surroundings& around) {
-    const bool isTable = wanted.columns || isReadingTable(file);
-    if (isTable) taken.hasTable = true;
-    if (!isTable && !wanted.patient.isEmpty())
-        return complain(around, u"zel import"_s, qtTrId("CliNoTable").arg(file));
-    const auto counts = isTable ? store.importTable(file, wanted) : store.importXml(file);
-    if (counts)
+void importTable(const QString& file, const TableImport& wanted, DataStore& store, Taken& taken,
+                 Surroundings& around) {
+    taken.hasTable = true;
+    if (const auto counts = store.importTable(file, wanted))
         taken.add(*counts);
     else
-        complain(around, u"zel import"_s, wordsOf(counts.error(), isTable));
+        complain(around, u"zel import"_s, wordsOf(counts.error(), true));
+}
+
+void finish(FileImport& together, Taken& taken, Surroundings& around) {
+    for (const ImportedFile& file : together.finish()) {
+        if (file.result)
+            taken.add(*file.result);
+        else
+            complain(around, u"zel import"_s, wordsOf(file.result.error(), false));
+    }
+}
+
+/// In the order of the files, since a table may be of a patient whose file stands before it.
+void importAll(const QStringList& files, const TableImport& wanted, DataStore& store, Taken& taken,
+               Surroundings& around) {
+    FileImport together{store};
+    for (const QString& file : files) {
+        const bool isTable = wanted.columns || isReadingTable(file);
+        if (!isTable && wanted.patient.isEmpty()) {
+            together.add(file);
+            continue;
+        }
+        finish(together, taken, around);
+        if (isTable)
+            importTable(file, wanted, store, taken, around);
+        else
+            complain(around, u"zel import"_s, qtTrId("CliNoTable").arg(file));
+    }
+    finish(together, taken, around);
 }
 
 CommandResult runImport(const Request& request, Surroundings& around) {
@@ -73,8 +98,7 @@ CommandResult runImport(const Request& request, Surroundings& around) {
     if (CommandResult known = isInto ? checkPatient(**store, wanted->patient) : CommandResult(); !known)
         return known;
     Taken taken;
-    for (const QString& file : files)
-        importFile(file, *wanted, **store, taken, around);
+    importAll(files, *wanted, **store, taken, around);
     print(taken, files.size() - taken.files, around);
     if (taken.files < files.size()) return failed({});
     return {};

@@ -82,8 +82,9 @@ CommandResult excludeOne(const Request& request, DataStore& store, Surroundings&
 
 CommandResult includeOne(const Request& request, DataStore& store, Surroundings&) {
     return readingOf(request, u"include"_s, store).and_then([&](const ReadingModel& reading) {
-        return reading.isExcluded() ? doneOrFailed(store.includeReadings({reading}))
-                                    : CommandResult(failed(qtTrId("CliNotExcluded").arg(reading.RecID)));
+        return reading.isExcluded()
+                   ? doneOrFailed(store.includeReadings({reading}))
+                   : CommandResult(failed(qtTrId("CliNotExcluded").arg(reading.RecID.text())));
     });
 }
 

@@ -26,7 +26,7 @@ std::vector<QUuid> readingIds(const QUuid& patient, const ReadingList& readings)
     const auto nameOf = [](const ReadingModel& reading) {
         const QString time =
             QString::number(reading.ReadingDate ? reading.ReadingDate->time_since_epoch().count() : 0);
-        if (reading.isManual) return u"typed %1 %2"_s.arg(time, reading.RecID);
+        if (reading.isManual) return u"typed %1 %2"_s.arg(time, reading.RecID.text());
         return u"measured %1 %2/%3/%4"_s.arg(time).arg(reading.sys).arg(reading.dia).arg(reading.pulse);
     };
     std::unordered_map<QString, int> seen;

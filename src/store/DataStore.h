@@ -108,7 +108,10 @@ public:
     /// \return noSuchRecord for an ID that is not in the list; see PatientExport::writeXml() for others
     [[nodiscard]] StoreResult exportCSV(const QString& folder, const QString& ID, Replace replace) const;
     /// Takes the patients of the file with their readings and comments, all or none. Does not reload.
-    [[nodiscard]] tl::expected<ImportCounts, ImportRefusal> importXml(const QString& path);
+    [[nodiscard]] ImportResult importXml(const QString& path);
+    /// The same of several files in one write, each of them all or not at all: one that is refused holds up
+    /// no other. Each is a step of its own. \return how each went, in their order. FileImport reads them.
+    [[nodiscard]] std::vector<ImportResult> importXml(std::vector<ImportSource> files);
     /// Writes the readings of these patients of the list as one table for spreadsheets, in their order. It
     /// outlasts a power cut after flushExports(). \return noSuchRecord for an ID that is not in the list; as
     /// writeExport() for others
@@ -189,6 +192,8 @@ private:
     using StepChange = std::function<DataFile::Edit(pugi::xml_node root, StepRecorder& recorder)>;
     [[nodiscard]] StoreResult editAsStep(const StepChange& change);
     [[nodiscard]] StoreResult retrace(bool back);
+    [[nodiscard]] std::vector<ImportResult> importEach(const QStringList& paths);
+    void addSteps(std::vector<ChangeStep> steps);
     void tellNotBackedUp(const StoreError& error);
     [[nodiscard]] StoreResult deleteWithoutID(const QString& ID);
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);

@@ -45,6 +45,38 @@ bool isReadingError(const StoreError& error) {
     return error.code == StoreErrorCode::notReadable || error.code == StoreErrorCode::notParsed;
 }
 
+QStringList pathsOf(const std::vector<ImportSource>& files) {
+    QStringList paths;
+    paths.reserve(static_cast<qsizetype>(files.size()));
+    for (const ImportSource& file : files)
+        paths += file.path;
+    return paths;
+}
+
+/// Into the document, as a step of its own.
+ImportResult takeSource(const ImportSource& file, ImportTarget& target, std::vector<ChangeStep>& steps) {
+    const pugi::xml_node imported = file.document.root();
+    if (const QString known = target.knownPatient(imported); !known.isNull())
+        return tl::unexpected{ImportRefusal{ImportRefusalCode::alreadyKnown, file.path, known, {}}};
+    StepRecorder recorder;
+    const ImportCounts counts = target.take(imported, recorder);
+    recorder.setName({.kind = StepKind::importPatients,
+                      .subject = QFileInfo{file.path}.fileName(),
+                      .patientID = childText(firstElement(imported, "Patient"), "ID"),
+                      .commentID = {}});
+    steps.push_back(recorder.step());
+    return counts;
+}
+
+/// What was not stored for a reason of its own keeps that.
+std::vector<ImportResult> asRefused(std::vector<ImportResult> results, const QStringList& paths,
+                                    const StoreError& error) {
+    if (results.empty()) results.assign(static_cast<std::size_t>(paths.size()), ImportCounts{});
+    for (std::size_t i = 0; i < results.size(); ++i)
+        if (results[i]) results[i] = tl::unexpected{refusalOf(error, paths.at(static_cast<qsizetype>(i)))};
+    return results;
+}
+
 } // namespace
 
 tl::expected<PatientExport, StoreError> DataStore::beginExport() const {
@@ -65,31 +97,48 @@ StoreResult DataStore::exportCSV(const QString& folder, const QString& ID, Repla
         .and_then([&folder] { return flushExports(folder); });
 }
 
-tl::expected<ImportCounts, ImportRefusal> DataStore::importXml(const QString& path) {
-    auto imported = readImport(path);
-    if (!imported) return tl::unexpected{imported.error()};
-    if (const auto fault = importFault(imported->root(), path)) return tl::unexpected{*fault};
-    ImportCounts counts;
-    QString known;
-    // Checked against the file as it is at the write: another program may have added the patient.
-    const StoreResult stored = editAsStep([&](pugi::xml_node root, StepRecorder& recorder) {
-        known = knownPatient(root, imported->root());
-        if (!known.isNull()) return DataFile::Edit::unchanged;
-        counts = importRecords(root, imported->root(), recorder);
-        recorder.setName({.kind = StepKind::importPatients,
-                          .subject = QFileInfo{path}.fileName(),
-                          .patientID = childText(firstElement(imported->root(), "Patient"), "ID"),
-                          .commentID = {}});
-        *imported = {}; // a large file would stand in memory twice
-        return DataFile::Edit::changed;
+ImportResult DataStore::importXml(const QString& path) {
+    auto read = readImportSource(path);
+    if (!read) return tl::unexpected{read.error()};
+    std::vector<ImportSource> files;
+    files.push_back(std::move(*read));
+    return importXml(std::move(files)).front();
+}
+
+std::vector<ImportResult> DataStore::importXml(std::vector<ImportSource> files) {
+    const QStringList paths = pathsOf(files);
+    std::vector<ImportResult> results;
+    std::vector<ChangeStep> steps;
+    // Checked against the file as it is at the write: another program may have added a patient.
+    const StoreResult stored = edit([&](pugi::xml_node root) {
+        ImportTarget target{root};
+        for (ImportSource& file : files) {
+            results.push_back(takeSource(file, target, steps));
+            file.document = {}; // a large file would stand in memory twice
+        }
+        return steps.empty() ? DataFile::Edit::unchanged : DataFile::Edit::changed;
     });
-    if (!stored) {
-        if (isReadingError(stored.error())) qCWarning(lcStore, "import  create xml doc failed");
-        return tl::unexpected{refusalOf(stored.error(), path)};
-    }
-    if (!known.isNull())
-        return tl::unexpected{ImportRefusal{ImportRefusalCode::alreadyKnown, path, known, {}}};
-    return counts;
+    if (isInPlace(stored)) addSteps(std::move(steps));
+    if (stored) return results;
+    if (isReadingError(stored.error())) qCWarning(lcStore, "import  create xml doc failed");
+    // One of them may be what the data file cannot hold beside the rest.
+    if (stored.error().code == StoreErrorCode::unreadable && paths.size() > 1) return importEach(paths);
+    return asRefused(results, paths, stored.error());
+}
+
+std::vector<ImportResult> DataStore::importEach(const QStringList& paths) {
+    std::vector<ImportResult> results;
+    results.reserve(static_cast<std::size_t>(paths.size()));
+    for (const QString& path : paths)
+        results.push_back(importXml(path));
+    return results;
+}
+
+void DataStore::addSteps(std::vector<ChangeStep> steps) {
+    bool isAny = false;
+    for (ChangeStep& step : steps)
+        isAny = history.add(std::move(step)) || isAny;
+    if (isAny) emit historyChanged();
 }
 
 } // namespace zel

@@ -3,9 +3,12 @@
 #include "store/DocumentElements.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
+#include <string>
+#include <unordered_set>
 
 namespace zel {
 
@@ -48,12 +51,38 @@ bool isReadingForID(pugi::xml_node element, const QString& ID) {
     return isElement(element, "MeasureRec") && childText(element, "ID") == ID;
 }
 
-/// The stored readings that no reading of the download has been found to be yet.
+/// Pressures and pulses that are looked for. Of a patient's many readings few have one, and only these need
+/// be read with their dates, which takes several times as long.
+class SoughtValues {
+public:
+    explicit SoughtValues(const ReadingList& readings) {
+        for (const ReadingModel& reading : readings)
+            keys.insert(key(reading.sys, reading.dia, reading.pulse));
+    }
+    /// True for some others as well.
+    [[nodiscard]] bool mayHaveThoseOf(pugi::xml_node element) const {
+        std::string scratch;
+        const auto value = [element, &scratch](const char* name) {
+            return toUnsigned(elementText(firstElement(element, name), scratch));
+        };
+        return keys.contains(key(value("Sys"), value("Dia"), value("Pulse")));
+    }
+
+private:
+    static std::uint64_t key(std::uint64_t sys, std::uint64_t dia, std::uint64_t pulse) {
+        return sys << 40U ^ dia << 20U ^ pulse;
+    }
+    std::unordered_set<std::uint64_t> keys;
+};
+
+/// The stored readings that no reading of the download has been found to be yet, but for those that none can
+/// be.
 class UnmatchedReadings {
 public:
-    UnmatchedReadings(pugi::xml_node root, const QString& ID, const LocalZone& zone) {
+    UnmatchedReadings(pugi::xml_node root, const QString& ID, const SoughtValues& sought,
+                      const LocalZone& zone) {
         for (const pugi::xml_node element : root.children()) {
-            if (!isReadingForID(element, ID)) continue;
+            if (!sought.mayHaveThoseOf(element) || !isReadingForID(element, ID)) continue;
             const auto reading = ReadingModel::initWithXMLNode(element);
             if (reading.isManual) continue; // stands for nothing measured
             byWall[likeness(reading, wallClockOf(element), zone)].push_back(isMatched.size());
@@ -87,7 +116,7 @@ private:
 
 ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList downloaded) {
     const LocalZone zone;
-    UnmatchedReadings stored{root, ID, zone};
+    UnmatchedReadings stored{root, ID, SoughtValues{downloaded}, zone};
     // What the clock showed first: after a change of zone, one reading's instant may be another one's.
     std::erase_if(downloaded, [&](const ReadingModel& reading) {
         return stored.matchWall(likeness(reading, wallClockOf(reading, zone), zone));
@@ -108,9 +137,10 @@ std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QS
         if (const auto instant = shownLikeness(reading, reading.ReadingDate, zone))
             byInstant.insert(*instant);
     }
+    const SoughtValues sought{measured};
     std::vector<pugi::xml_node> found;
     for (const pugi::xml_node element : root.children()) {
-        if (!isReadingForID(element, ID)) continue;
+        if (!sought.mayHaveThoseOf(element) || !isReadingForID(element, ID)) continue;
         const auto reading = ReadingModel::initWithXMLNode(element);
         if (!reading.isManual || reading.isExcluded()) continue;
         const auto instant = shownLikeness(reading, reading.ReadingDate, zone);

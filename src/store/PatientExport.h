@@ -4,6 +4,7 @@
 #include "store/WrittenNames.h"
 #include "store/XmlDocument.h"
 
+#include <QHash> // of texts
 #include <QString>
 #include <QStringList>
 

@@ -4,7 +4,6 @@
 #include "store/DocumentElements.h"
 #include "store/Log.h"
 #include "store/RecordXml.h"
-#include "store/Records.h"
 #include "store/Text.h"
 
 #include <QFileInfo>
@@ -43,40 +42,6 @@ QString sentence(ImportRefusalCode code) {
     case ImportRefusalCode::otherNames: return qtTrId("ImportOtherNames");
     }
     return {};
-}
-
-/// Copies all elements of one kind behind the last of their kind, or to the end where there is none.
-/// \return the copies
-std::vector<pugi::xml_node> importNodes(const char* kind, pugi::xml_node data, pugi::xml_node imported,
-                                        StepRecorder& recorder) {
-    std::vector<pugi::xml_node> copies;
-    pugi::xml_node last = lastElement(data, kind);
-    for (const pugi::xml_node node : imported.children()) {
-        if (!isElement(node, kind)) continue;
-        last = last ? data.insert_copy_after(node, last) : data.append_copy(node);
-        recorder.added(last);
-        copies.push_back(last);
-    }
-    return copies;
-}
-
-/// Gives those of the \p copies a number of their own that have another comment's.
-void renumber(const std::vector<pugi::xml_node>& copies, QSet<QString> taken) {
-    constexpr auto kind = Records::Counter::comment;
-    Records counters;
-    for (const QString& number : taken)
-        counters.countID(kind, number);
-    for (const pugi::xml_node copy : copies)
-        counters.countID(kind, childText(copy, "CommentID"));
-    for (const pugi::xml_node copy : copies) {
-        QString number = childText(copy, "CommentID");
-        if (taken.contains(number)) {
-            number = counters.getMaxID(kind);
-            counters.countID(kind, number);
-            setElementText(firstElement(copy, "CommentID"), number);
-        }
-        taken.insert(number);
-    }
 }
 
 QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) {
@@ -157,23 +122,68 @@ QSet<QString> recordIDs(pugi::xml_node imported) {
     return IDs;
 }
 
-QString knownPatient(pugi::xml_node data, pugi::xml_node imported) {
-    const QSet<QString> known = textsOf(data, "Patient", "ID");
+tl::expected<ImportSource, ImportRefusal> readImportSource(const QString& path) {
+    auto document = readImport(path);
+    if (!document) return tl::unexpected{document.error()};
+    if (const auto fault = importFault(document->root(), path)) return tl::unexpected{*fault};
+    return ImportSource{path, std::move(*document)};
+}
+
+ImportTarget::ImportTarget(pugi::xml_node data)
+    : root{data}, patients{textsOf(data, "Patient", "ID")}, commentNumbers{
+                                                                textsOf(data, "Comment", "CommentID")} {
+    for (const QString& number : commentNumbers)
+        counters.countID(Records::Counter::comment, number);
+    for (const char* kind : personalKinds)
+        lastOf[kind] = lastElement(data, kind);
+}
+
+QString ImportTarget::knownPatient(pugi::xml_node imported) const {
     for (const char* kind : personalKinds) {
         for (const QString& ID : textsOf(imported, kind, "ID"))
-            if (known.contains(ID)) return ID;
+            if (patients.contains(ID)) return ID;
     }
     return {};
 }
 
-ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported, StepRecorder& recorder) {
-    const QSet<QString> commentNumbers = textsOf(data, "Comment", "CommentID");
+/// Behind the last of their kind, or at the end where there is none.
+std::vector<pugi::xml_node> ImportTarget::copyAll(const char* kind, pugi::xml_node imported,
+                                                  StepRecorder& recorder) {
+    std::vector<pugi::xml_node> copies;
+    pugi::xml_node& last = lastOf[kind];
+    for (const pugi::xml_node node : imported.children()) {
+        if (!isElement(node, kind)) continue;
+        last = last ? root.insert_copy_after(node, last) : root.append_copy(node);
+        recorder.added(last);
+        copies.push_back(last);
+    }
+    return copies;
+}
+
+/// Gives those a number of their own that have another comment's.
+void ImportTarget::renumber(const std::vector<pugi::xml_node>& comments) {
+    constexpr auto kind = Records::Counter::comment;
+    for (const pugi::xml_node comment : comments)
+        counters.countID(kind, childText(comment, "CommentID"));
+    for (const pugi::xml_node comment : comments) {
+        QString number = childText(comment, "CommentID");
+        if (commentNumbers.contains(number)) {
+            number = counters.getMaxID(kind);
+            counters.countID(kind, number);
+            setElementText(firstElement(comment, "CommentID"), number);
+        }
+        commentNumbers.insert(number);
+    }
+}
+
+ImportCounts ImportTarget::take(pugi::xml_node imported, StepRecorder& recorder) {
     ImportCounts counts;
-    counts.patients = importNodes("Patient", data, imported, recorder).size();
-    const auto comments = importNodes("Comment", data, imported, recorder);
-    renumber(comments, commentNumbers);
+    counts.patients = copyAll("Patient", imported, recorder).size();
+    const auto comments = copyAll("Comment", imported, recorder);
+    renumber(comments);
     counts.comments = comments.size();
-    counts.readings = importNodes("MeasureRec", data, imported, recorder).size();
+    counts.readings = copyAll("MeasureRec", imported, recorder).size();
+    patients.unite(textsOf(imported, "Patient", "ID")); // of the next file
     return counts;
 }
 

@@ -2,6 +2,7 @@
 // Patients from an exported file into the data file.
 
 #include "store/AtomicFile.h"
+#include "store/Records.h"
 #include "store/StepRecorder.h"
 #include "store/StoreError.h"
 #include "store/XmlDocument.h"
@@ -12,7 +13,10 @@
 #include <tl/expected.hpp>
 
 #include <cstddef>
+#include <map>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace zel {
 
@@ -56,6 +60,9 @@ struct ImportCounts {
     std::size_t known = 0; ///< readings of a table that are there already, and were not taken again
 };
 
+/// How the import of one file went.
+using ImportResult = tl::expected<ImportCounts, ImportRefusal>;
+
 /// The largest file that is read, in bytes.
 inline constexpr qint64 largestImport = largestFile;
 
@@ -70,15 +77,38 @@ inline constexpr qint64 largestImport = largestFile;
 /// What is wrong with the patients of the document read from \p path, if anything.
 [[nodiscard]] std::optional<ImportRefusal> importFault(pugi::xml_node imported, const QString& path);
 
+/// A file that may be imported, but for what is in the data file.
+struct ImportSource {
+    QString path;
+    XmlDocument document;
+};
+
+/// Reads it, and looks for faults.
+[[nodiscard]] tl::expected<ImportSource, ImportRefusal> readImportSource(const QString& path);
+
 /// Of the \p imported records of all kinds that belong to a patient.
 [[nodiscard]] QSet<QString> recordIDs(pugi::xml_node imported);
 
-/// An ID of the \p imported records, also of readings and comments without their patient, that a patient of
-/// \p data has; null if there is none.
-[[nodiscard]] QString knownPatient(pugi::xml_node data, pugi::xml_node imported);
+/// The data file's document while files are imported into it. It is gone through once for all of them.
+class ImportTarget {
+public:
+    explicit ImportTarget(pugi::xml_node data);
+    /// An ID of the \p imported records, also of readings and comments without their patient, that a patient
+    /// in the data file has by now; null if there is none.
+    [[nodiscard]] QString knownPatient(pugi::xml_node imported) const;
+    /// Copies patients, comments and readings, each kind after the last of its kind. They stay as they are,
+    /// but that a comment whose number is taken gets a new one, since comments are found by their numbers.
+    ImportCounts take(pugi::xml_node imported, StepRecorder& recorder);
 
-/// Copies patients, comments and readings, each kind after the last of its kind. They stay as they are, but
-/// that a comment whose number is taken gets a new one, since comments are found by their numbers.
-ImportCounts importRecords(pugi::xml_node data, pugi::xml_node imported, StepRecorder& recorder);
+private:
+    std::vector<pugi::xml_node> copyAll(const char* kind, pugi::xml_node imported, StepRecorder& recorder);
+    void renumber(const std::vector<pugi::xml_node>& comments);
+
+    pugi::xml_node root;
+    QSet<QString> patients;
+    QSet<QString> commentNumbers;
+    Records counters;                             ///< of the numbers alone
+    std::map<std::string, pugi::xml_node> lastOf; ///< by the kind of element
+};
 
 } // namespace zel

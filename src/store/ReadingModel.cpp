@@ -56,7 +56,9 @@ void removeChildren(pugi::xml_node element, const char* name) {
 
 constexpr std::array readingChildren{
     xml::text<R, &R::ID>("ID"),
-    xml::text<R, &R::RecID>("RecID"),
+    XmlChild<R>{"RecID",
+                [](R& reading, std::string_view text) { reading.RecID = RecordNumber::fromUtf8(text); },
+                [](const R& reading) { return reading.RecID.text(); }},
     xml::number<R, &R::mam>("MAM"),
     xml::number<R, &R::Arrhythmia>("Arrhythmia"),
     XmlChild<R>{"ReadingDate", readDate, [](const R& reading) { return XMLDateToStr(reading.ReadingDate); }},

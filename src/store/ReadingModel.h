@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/Dates.h"
+#include "store/RecordNumber.h"
 #include "store/SettingModel.h"
 
 #include <QString>
@@ -19,7 +20,7 @@ struct CommentModel;
 struct ReadingModel {
     const CommentModel* comment = nullptr; ///< the comment that covers it; not owned
     QString ID;                            ///< the owning patient's
-    QString RecID;                         ///< decimal, unique in the document
+    RecordNumber RecID;                    ///< decimal, unique in the document
     Date ReadingDate;                      ///< getNilReadingDate() when the monitor gave none
     std::uint32_t mam = 0;                 ///< 1: an average of several measurements
     std::uint32_t Arrhythmia = 0;          ///< 0 none; 1/2 PAD-capable no/yes; 4/5 AFib-capable no/yes

@@ -132,15 +132,18 @@ QString Records::getMaxID(Counter kind) const {
 }
 
 void Records::countID(Counter kind, const QString& number) {
-    // Larger ones are no counter's, and counting on from them would soon end.
-    constexpr std::int64_t largestTaken = std::int64_t{1} << 53;
     if (number.isEmpty()) {
         qCDebug(lcStore, "error no RecID\n");
         return;
     }
-    const std::int64_t value = leadingInteger(number);
+    countID(kind, leadingInteger(number));
+}
+
+void Records::countID(Counter kind, std::int64_t number) {
+    // Larger ones are no counter's, and counting on from them would soon end.
+    constexpr std::int64_t largestTaken = std::int64_t{1} << 53;
     std::int64_t& largest = largestID.at(static_cast<std::size_t>(kind));
-    if (value < largestTaken) largest = std::max(largest, value);
+    if (number < largestTaken) largest = std::max(largest, number);
 }
 
 const ReadingList& Records::readingsOf(const QString& ID) const {
@@ -150,7 +153,10 @@ const ReadingList& Records::readingsOf(const QString& ID) const {
 }
 
 void Records::addReading(ReadingModel reading, const LocalZone& zone) {
-    countID(Counter::reading, reading.RecID);
+    if (const auto number = reading.RecID.number()) // without making a text of it again
+        countID(Counter::reading, *number);
+    else
+        countID(Counter::reading, reading.RecID.text());
     ReadingList* list = listFor(mdReading, reading.ID, {"reading", " "});
     if (!list) return;
     // One text for all of a patient's readings.

@@ -33,6 +33,7 @@ struct Records {
     [[nodiscard]] QString getMaxID(Counter kind) const;
     /// Notes a number that is in use.
     void countID(Counter kind, const QString& number);
+    void countID(Counter kind, std::int64_t number);
 
     /// Reads all records below the root element ZEL and links them. \p zone is the computer's.
     [[nodiscard]] static Records read(pugi::xml_node root, const LocalZone& zone);

@@ -38,7 +38,7 @@ void TableMatches::markMeasured(pugi::xml_node root, const TablePatient& patient
     }
     const ReadingList notStored = newReadings(root, patient.ID, std::move(measured));
     for (const ReadingModel& reading : notStored)
-        fresh[reading.RecID.toULongLong()] = true;
+        fresh[reading.RecID.text().toULongLong()] = true;
 }
 
 void TableMatches::markTyped(pugi::xml_node root, const TablePatient& patient, bool isForeign) {

@@ -2,6 +2,7 @@
 
 #include "store/StoreError.h"
 
+#include <QHash> // of texts
 #include <QString>
 
 #include <unordered_map>

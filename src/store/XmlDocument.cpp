@@ -45,31 +45,99 @@ struct Survey {
     bool hasEqualsSign = false;   ///< after the declaration: perhaps an attribute's
     bool hasNonCharacter = false; ///< U+FFFE or U+FFFF
     bool hasCdata = false;
-    bool hasBlankFirst = false; ///< what a declaration behind it says of the encoding was not read
-    std::size_t parts = 0;      ///< half as many as elements, attributes and pieces of text, or more
-    std::size_t tags = 0;       ///< of these, begins of tags
+    bool hasBlankFirst = false;  ///< what a declaration behind it says of the encoding was not read
+    bool hasLikeTags = false;    ///< comments and the like, within which may stand what looks like tags
+    std::size_t equalsSigns = 0; ///< at least as many as attributes
+    std::size_t elementsAndTexts = 0;
+    int levels = 0; ///< of elements in each other, at most; means nothing beside attributes and hasLikeTags
 };
 
-bool isControl(char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }
+/// What one pass over a block's bytes finds.
+struct BlockMarks {
+    unsigned control = 0, ampersand = 0, suspect = 0, equalsSigns = 0;
+};
 
-void surveyBlock(std::string_view block, Survey& seen) {
-    std::size_t marks = 0;
-    std::size_t tags = 0;
-    bool hasControl = false;
-    bool hasAmpersand = false;
-    bool hasSuspect = false;
-    for (const char c : block) {
-        hasControl |= isControl(c);
-        hasAmpersand |= c == '&';
-        hasSuspect |= c == '\xEF';
-        marks += (c == '<' || c == '=') ? 1U : 0U;
-        tags += c == '<' ? 1U : 0U;
+/// Of a few bytes: with a known number of rounds, and sums that are no struct's, the compiler takes many of
+/// them at once.
+template <int Size>
+BlockMarks marksIn(const char* block) {
+    unsigned control = 0, ampersand = 0, suspect = 0, equalsSigns = 0;
+    for (int i = 0; i < Size; ++i) {
+        const auto c = static_cast<std::uint8_t>(block[i]);
+        control |= (c < ' ') & (c != '\t') & (c != '\n') & (c != '\r');
+        ampersand |= c == '&';
+        suspect |= c == 0xEF;
+        equalsSigns += c == '=';
     }
-    seen.hasControl = seen.hasControl || hasControl;
-    seen.hasAmpersand = seen.hasAmpersand || hasAmpersand;
-    seen.hasNonCharacter = seen.hasNonCharacter || hasSuspect; // until it has been looked at
-    seen.parts += marks;
-    seen.tags += tags;
+    return {control, ampersand, suspect, equalsSigns};
+}
+
+void note(const BlockMarks& marks, Survey& seen) {
+    seen.hasControl = seen.hasControl || marks.control != 0;
+    seen.hasAmpersand = seen.hasAmpersand || marks.ampersand != 0;
+    seen.hasNonCharacter = seen.hasNonCharacter || marks.suspect != 0; // until it has been looked at
+    seen.equalsSigns += marks.equalsSigns;
+}
+
+void surveyBytes(std::string_view text, Survey& seen) {
+    constexpr int blockSize = 64;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    for (; at + blockSize <= end; at += blockSize)
+        note(marksIn<blockSize>(at), seen);
+    for (; at < end; ++at)
+        note(marksIn<1>(at), seen);
+}
+
+bool isBlank(char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; }
+
+/// What stands from a "<" to the next one.
+enum class Tag { start, empty, end, other };
+
+/// A start tag keeps the text that follows it.
+Tag kindOf(std::string_view tag) {
+    const char mark = tag.size() > 1 ? tag[1] : '\0';
+    if (mark == '/') return Tag::end;
+    if (mark == '!' || mark == '?') return Tag::other;
+    const auto end = tag.find('>');
+    return end != tag.npos && tag[end - 1] != '/' ? Tag::start : Tag::empty;
+}
+
+/// Comments and CDATA sections do, and of processing instructions those that do not end before the next "<".
+bool mayHoldTags(std::string_view other) { return other[1] == '!' || other.find("?>") == other.npos; }
+
+/// Behind the last tag.
+bool hasTextAtEnd(std::string_view text) {
+    auto end = text.size();
+    while (end > 0 && isBlank(text[end - 1]))
+        --end;
+    return end > 0 && text[end - 1] != '>';
+}
+
+/// Elements, and pieces of text but for those that are kept in their elements; how deep they lie.
+void surveyTags(std::string_view text, Survey& seen) {
+    Tag before = Tag::other;
+    int level = 0;
+    for (auto at = text.find('<'); at != text.npos;) {
+        const auto next = std::min(text.find('<', at + 1), text.size());
+        const std::string_view whole = text.substr(at, next - at);
+        const Tag tag = kindOf(whole);
+        if (hasTextAtEnd(text.substr(0, at)) && (seen.hasCdata || before != Tag::start))
+            ++seen.elementsAndTexts;
+        if (tag != Tag::end) ++seen.elementsAndTexts;
+        if (tag == Tag::other) seen.hasLikeTags = seen.hasLikeTags || mayHoldTags(whole);
+        if (tag == Tag::start || tag == Tag::empty) seen.levels = std::max(seen.levels, level + 1);
+        level += tag == Tag::start ? 1 : tag == Tag::end ? -1 : 0;
+        before = tag;
+        at = next < text.size() ? next : text.npos;
+    }
+}
+
+bool hasCdata(std::string_view text) {
+    // By its second character, since the first is everywhere.
+    for (auto at = text.find("![CDATA["); at != text.npos; at = text.find("![CDATA[", at + 1))
+        if (at > 0 && text[at - 1] == '<') return true;
+    return false;
 }
 
 Survey survey(std::string_view text) {
@@ -77,36 +145,13 @@ Survey survey(std::string_view text) {
     const auto declarationEnd = text.starts_with("<?xml") ? text.find("?>") : 0;
     seen.hasEqualsSign = text.find('=', std::min(declarationEnd, text.size())) != text.npos;
     seen.hasBlankFirst = text.find_first_not_of(" \t\r\n") != 0;
-    seen.hasCdata = text.find("<![CDATA[") != text.npos;
-    // Block by block, so that a large file goes through memory once.
-    constexpr std::size_t blockSize = std::size_t{64} * 1024;
-    for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(std::min(blockSize, rest.size())))
-        surveyBlock(rest.substr(0, blockSize), seen);
+    seen.hasCdata = hasCdata(text);
+    surveyBytes(text, seen);
+    surveyTags(text, seen);
     seen.hasNonCharacter =
         seen.hasNonCharacter
         && (text.find("\xEF\xBF\xBE") != text.npos || text.find("\xEF\xBF\xBF") != text.npos);
     return seen;
-}
-
-/// \p tag, from its "<" up to before the next one, keeps the text that follows it.
-bool isStartTag(std::string_view tag) {
-    const auto end = tag.find('>');
-    const auto mark = tag.substr(1, 1);
-    return end != tag.npos && mark != "/" && mark != "!" && mark != "?" && tag[end - 1] != '/';
-}
-
-/// Elements, attributes and pieces of text, but for those that are kept in their elements.
-std::size_t partsOf(std::string_view text, const Survey& seen) {
-    std::size_t parts = seen.parts - seen.tags;
-    auto last = text.npos; // where the tag before begins
-    for (auto at = text.find('<'); at != text.npos; last = at, at = text.find('<', at + 1)) {
-        if (!text.substr(at).starts_with("</")) ++parts;
-        const auto before = at == 0 ? text.npos : text.find_last_not_of(" \t\r\n", at - 1);
-        const bool isText = before != text.npos && text[before] != '>';
-        if (isText && (seen.hasCdata || last == text.npos || !isStartTag(text.substr(last, at - last))))
-            ++parts;
-    }
-    return parts;
 }
 
 /// What is wrong with a text before it is parsed, or an empty text.
@@ -117,9 +162,7 @@ QString textFault(std::string_view text, const Survey& seen) {
     // The parser lets one more character pass.
     if (last != text.npos && text[last] != '>') return qtTrId("XmlTextOutsideRoot");
     const std::size_t most = mostParts(text.size());
-    // Counting exactly takes as long again.
-    const bool isMany = 2 * seen.parts > most && partsOf(text, seen) > most;
-    return isMany ? qtTrId("XmlTooManyParts").arg(most) : QString{};
+    return seen.elementsAndTexts + seen.equalsSigns > most ? qtTrId("XmlTooManyParts").arg(most) : QString{};
 }
 
 bool hasDoubleAttribute(pugi::xml_node element) {
@@ -147,6 +190,9 @@ QString treeFault(pugi::xml_document& tree, const Survey& seen, std::size_t size
     const auto records = tree.document_element().children();
     if (static_cast<std::size_t>(std::distance(records.begin(), records.end())) > mostRecords(size))
         return qtTrId("XmlTooManyRecords").arg(mostRecords(size));
+    // Seldom needed: elements without attributes were counted as they lie in each other.
+    const bool isPlain = !seen.hasEqualsSign && !seen.hasLikeTags;
+    if (isPlain && seen.levels <= mostLevels) return {};
     TreeSearch search{seen.hasEqualsSign};
     tree.traverse(search);
     if (search.isDeep) return qtTrId("XmlTooDeep").arg(mostLevels);

@@ -91,7 +91,7 @@ struct ReadingTableTest : DataStoreTest {
         store.setCurrentID(ID);
         std::string all;
         for (const ReadingModel& r : store.getReadingForCurID()) {
-            all += r.RecID.toStdString() + ' '
+            all += r.RecID.text().toStdString() + ' '
                    + DateToStr_EN(r.ReadingDate, u"yyyyMMdd HHmmss"_s).toStdString()
                    + (r.isUndated() ? " undated" : ' ' + std::to_string(r.utcOffset));
             for (const std::uint32_t value : r.values())

@@ -24,6 +24,26 @@ std::string written(pugi::xml_node node) {
     return text.str();
 }
 
+/// A number is its text, however it is held.
+TEST(RecordNumber, IsTheTextOfTheFile) {
+    for (const char* text : {"0", "7", "1000001", "999999999999999999"}) {
+        EXPECT_EQ(RecordNumber::fromUtf8(text).text(), QLatin1StringView{text});
+        EXPECT_EQ(RecordNumber::fromUtf8(text).number(), std::stoll(text));
+    }
+    for (const char* text : {"", "00", "01", "-5", "+5", "5 ", " 5", "5x", "1000000000000000000",
+                             "99999999999999999999999", "\xD9\xA3"}) {
+        const RecordNumber number = RecordNumber::fromUtf8(text);
+        EXPECT_EQ(number.text(), QString::fromUtf8(text));
+        EXPECT_EQ(number.number(), std::nullopt) << text;
+        EXPECT_FALSE(number.isNull()) << text;
+        EXPECT_TRUE(number == RecordNumber{QString::fromUtf8(text)}) << text;
+    }
+    EXPECT_TRUE(RecordNumber{}.isNull() && RecordNumber{QString{}}.isNull());
+    EXPECT_TRUE(RecordNumber{}.text().isNull());
+    EXPECT_FALSE(RecordNumber{u"7"_s} == RecordNumber{u"07"_s});
+    EXPECT_TRUE(RecordNumber{u"7"_s} == u"7"_s);
+}
+
 TEST(ReadingRecord, ReadsNumbersAsFarAsTheyGo) {
     pugi::xml_document document;
     const auto reading = ReadingModel::initWithXMLNode(
@@ -210,7 +230,7 @@ TEST(Records, CommentsAndDownloadsAreLinkedByDay) {
     ASSERT_EQ(records.mdReading.size(), 2U); // the one without ID is dropped
     std::string seen;
     for (const ReadingModel& reading : records.mdReading.at(u"A"_s)) {
-        seen += reading.RecID.toStdString() + ':'
+        seen += reading.RecID.text().toStdString() + ':'
                 + (reading.comment ? reading.comment->CommentID.toStdString() : "-")
                 + (reading.bAtBegin ? " begin" : "") + (reading.bAtEnd ? " end" : "")
                 + (reading.bYellowBackground ? " yellow" : "") + (reading.bDrawTopLine ? " line" : "") + '\n';

@@ -154,6 +154,17 @@ TEST(XmlDocument, TextBesideCdataIsKept) {
     EXPECT_EQ(XmlDocument::parse(text)->serialise().value(), text);
 }
 
+/// Wherever it stands among the bytes that are looked at together.
+TEST(XmlDocument, RefusesAControlCharacterAnywhere) {
+    for (qsizetype before = 0; before < 200; ++before) {
+        const QByteArray begin = "<ZEL>" + QByteArray(before, 'x');
+        EXPECT_FALSE(XmlDocument::parse(begin + "\x1F</ZEL>")) << before;
+        EXPECT_FALSE(XmlDocument::parse(begin + "&no;</ZEL>")) << before;
+        EXPECT_FALSE(XmlDocument::parse(begin + "\xEF\xBF\xBF</ZEL>")) << before;
+        EXPECT_TRUE(XmlDocument::parse(begin + "\t\r\n \x7F</ZEL>")) << before;
+    }
+}
+
 /// Each of these few megabytes took seconds, gigabytes or the program's stack.
 TEST(XmlDocument, RefusesWhatWouldTakeTooMuch) {
     const auto levels = [](qsizetype count) {
@@ -162,6 +173,15 @@ TEST(XmlDocument, RefusesWhatWouldTakeTooMuch) {
     EXPECT_TRUE(XmlDocument::parse(levels(99)));
     EXPECT_FALSE(XmlDocument::parse(levels(100)));
     EXPECT_FALSE(XmlDocument::parse(levels(200'000)));
+    for (const char* hiding :
+         {"<!--</a></a>-->", "<?p </a></a>?>", "<b c='</a></a>'/>", "<![CDATA[</a></a>]]>"}) {
+        const auto hidden = [hiding](qsizetype count) {
+            return "<ZEL>" + (QByteArray{"<a>"} + hiding).repeated(count) + QByteArray{"</a>"}.repeated(count)
+                   + "</ZEL>";
+        };
+        EXPECT_TRUE(XmlDocument::parse(hidden(98))) << hiding;
+        EXPECT_FALSE(XmlDocument::parse(hidden(100))) << hiding;
+    }
     const auto holds = [](const QByteArray& records) {
         return XmlDocument::parse("<ZEL>" + records + "</ZEL>").has_value();
     };

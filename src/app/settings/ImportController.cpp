@@ -3,6 +3,7 @@
 #include "app/widgets/Log.h"
 
 #include <QFileInfo>
+#include <QGuiApplication>
 
 #include <algorithm>
 
@@ -58,8 +59,8 @@ void ImportController::importAll(const QStringList& paths) {
     const int total = static_cast<int>(paths.size());
     progress->run({.title = qtTrId("importing"),
                    .total = total,
-                   .quickTotal = 5, // each writes the data file
-                   .step = [this, paths](int place) { importOne(paths.at(place)); },
+                   .quickTotal = 5, // each may be large
+                   .step = [this, paths](int place) { files.add(paths.at(place)); },
                    .finished = [this, total](int done) { finish(total - done); }});
 }
 
@@ -68,17 +69,22 @@ ImportContext ImportController::context() const {
             .dateFormat = std::as_const(parts.store).getSetting().getDateFormat()};
 }
 
-void ImportController::importOne(const QString& path) {
-    const QString name = QFileInfo(path).fileName();
-    qCDebug(lcApp, "file %s %s", qUtf8Printable(name), qUtf8Printable(path));
-    const auto counts = parts.store.importXml(path);
-    if (counts)
-        outcome.taken.emplace_back(name, *counts);
+void ImportController::tell(const ImportedFile& file) {
+    const QString name = QFileInfo(file.path).fileName();
+    qCDebug(lcApp, "file %s %s", qUtf8Printable(name), qUtf8Printable(file.path));
+    if (file.result)
+        outcome.taken.emplace_back(name, *file.result);
     else
-        outcome.refused.push_back(counts.error());
+        outcome.refused.push_back(file.result.error());
 }
 
+/// What was read until then is taken, also after a cancel.
 void ImportController::finish(int notReached) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // the data file is written
+    const std::vector<ImportedFile> ended = files.finish();
+    QGuiApplication::restoreOverrideCursor();
+    for (const ImportedFile& file : ended)
+        tell(file);
     outcome.notReached = notReached;
     const bool mayBeLost = std::ranges::any_of(outcome.refused, [](const ImportRefusal& each) {
         return each.code == ImportRefusalCode::notFlushed; // taken all the same

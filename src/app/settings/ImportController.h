@@ -3,6 +3,7 @@
 #include "app/widgets/FileChooser.h"
 #include "app/widgets/StepProgress.h"
 #include "store/DataStore.h"
+#include "store/FileImport.h"
 
 #include <QObject>
 
@@ -43,12 +44,13 @@ signals:
 private:
     [[nodiscard]] ImportContext context() const;
     void importAll(const QStringList& paths);
-    void importOne(const QString& path);
+    void tell(const ImportedFile& file);
     void finish(int notReached);
 
     Parts parts;
     QWidget* window;
     StepProgress* progress;
+    FileImport files{parts.store};
     ImportOutcome outcome;
 };
 
