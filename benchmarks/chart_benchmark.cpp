@@ -1,25 +1,27 @@
 // How fast both charts of the graph page are laid out and painted at 1,400 x 500, beside a plotting library
-// that draws the same readings as lines and square marks, in one run. The trend of the same readings, with
-// its medians and percentiles calculated anew, beside the same library. And what a hover or drag step costs.
+// that draws the same readings as lines and square marks, in turn. The trend and the printed summary of the
+// same readings, with their figures calculated anew, beside the same library.
 
+#include "Figure.h"
 #include "analysis/Trend.h"
 #include "chart/DrawChart.h"
 #include "chart/DrawTrend.h"
 #include "chart/PicturePainter.h"
+#include "report/PrintView.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QTranslator>
 #include <qcustomplot.h>
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
-#include <ctime>
+#include <limits>
 #include <random>
 
 namespace zel {
 namespace {
 
+constexpr int many = 100'000;
 constexpr int width = 1400;
 constexpr int bloodHeight = 350;
 constexpr int pulseHeight = 150;
@@ -100,17 +102,9 @@ private:
     QCustomPlot plot;
 };
 
-/// Of the processor: what else the computer does must not count.
-template <class Paint>
-double milliseconds(Paint paint) {
-    const std::clock_t begin = std::clock();
-    paint();
-    return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-}
-
-void paintTrend(QImage& image, const MadeReadings& made, bool apart, const LocalZone& zone) {
+void paintTrend(QImage& image, const MadeReadings& made, const LocalZone& zone) {
     const ReadingSelection all{.period = made.period};
-    const TrendSeriesList trend = calcTrendSeries(made.readings, all, apart);
+    const TrendSeriesList trend = calcTrendSeries(made.readings, all, false);
     const CommentList none;
     const TrendLayout layout = drawTrend({.trend = trend,
                                           .comments = none,
@@ -123,86 +117,133 @@ void paintTrend(QImage& image, const MadeReadings& made, bool apart, const Local
     paintPicture(painter, layout.picture, height);
 }
 
-/// What \p paintOwn takes beside the library's two plots of the same readings.
-template <class Paint>
-void compareWithPlots(benchmark::State& state, const MadeReadings& made, Paint paintOwn) {
-    ComparedPlot blood(made, bloodHeight, {&ReadingModel::sys, &ReadingModel::dia});
-    ComparedPlot pulse(made, pulseHeight, {&ReadingModel::pulse});
-    std::vector<double> own;
-    std::vector<double> compared;
-    for ([[maybe_unused]] auto _ : state) {
-        own.push_back(milliseconds(paintOwn));
-        compared.push_back(milliseconds([&] {
-            blood.paint();
-            pulse.paint();
-        }));
-        state.SetIterationTime(own.back() / 1000);
-    }
-    // The run that was disturbed least, of both.
-    const double ownTime = std::ranges::min(own);
-    const double comparedTime = std::ranges::min(compared);
-    state.counters["compared_ms"] = comparedTime;
-    state.counters["ratio"] = ownTime / comparedTime;   // to stay below 1
-    state.counters["of_a_frame"] = ownTime * 60 / 1000; // to stay below 1
+/// A page of A4, a pixel for each of its points.
+void paintSummary(QImage& image, const MadeReadings& made) {
+    const PatientModel patient;
+    const SettingModel settings = SettingModel::initWithDefault();
+    const CommentList comments;
+    const DataLogList downloads;
+    const PrintView view({.patient = patient,
+                          .readings = made.readings,
+                          .comments = comments,
+                          .downloads = downloads,
+                          .settings = settings,
+                          .selection = {.period = made.period},
+                          .rows = {},
+                          .now = made.period.end},
+                         QPageSize(QPageSize::A4));
+    QPainter painter(&image);
+    paintPicture(painter, view.page(Section::summary, 1), image.height());
 }
 
-void bothCharts(benchmark::State& state) {
-    const MadeReadings made(state.range(0), state.range(1));
+/// Both charts of the library, which show the same readings.
+class ComparedCharts {
+public:
+    explicit ComparedCharts(const MadeReadings& made)
+        : blood(made, bloodHeight, {&ReadingModel::sys, &ReadingModel::dia}),
+          pulse(made, pulseHeight, {&ReadingModel::pulse}) {}
+    void paint() {
+        blood.paint();
+        pulse.paint();
+    }
+
+private:
+    ComparedPlot blood, pulse;
+};
+
+/// The library's plot of the trend's marks: for each measure a smooth line of medians over a filled band.
+class ComparedTrend {
+public:
+    explicit ComparedTrend(const MadeReadings& made)
+        : trend(calcTrendSeries(made.readings, {.period = made.period}, false)) {
+        plot.setViewport(QRect(0, 0, width, height));
+        for (const auto measure : {&TrendPoint::sys, &TrendPoint::dia, &TrendPoint::pulse}) {
+            QCPGraph* low = addGraph(measure, &TrendBand::low, Qt::NoPen);
+            QCPGraph* high = addGraph(measure, &TrendBand::high, Qt::NoPen);
+            high->setBrush(QColor(0, 0, 255, 40));
+            high->setChannelFillGraph(low);
+            addGraph(measure, &TrendBand::median, QPen(Qt::black, 2));
+        }
+        plot.rescaleAxes();
+    }
+    void paint() { plot.replot(QCustomPlot::rpQueuedRefresh); }
+
+private:
+    QCPGraph* addGraph(TrendBand TrendPoint::*measure, double TrendBand::*line, const QPen& pen) {
+        QVector<double> days;
+        QVector<double> values;
+        for (const TrendPoint& point : trend.series.front().points) {
+            days.push_back(static_cast<double>(point.begin));
+            values.push_back(point.*measure.*line);
+        }
+        QCPGraph* graph = plot.addGraph();
+        graph->setPen(pen);
+        graph->setData(days, values, true);
+        return graph;
+    }
+
+    TrendSeriesList trend;
+    QCustomPlot plot;
+};
+
+/// What neither waits nor has threads, beside another that does not.
+void compare(const std::string& what, int rounds, const std::function<void()>& own,
+             const std::function<void()>& compared) {
+    const auto [ours, bare, ratio] = inTurn(rounds, own, compared, processorSeconds);
+    print({.what = what,
+           .unit = "ms",
+           .ours = 1000 * ours,
+           .against = "QCustomPlot",
+           .bare = 1000 * bare,
+           .target = 1,
+           .ratio = ratio});
+}
+
+/// The run that was disturbed least.
+void printLeast(const std::string& what, int rounds, const std::function<void()>& own) {
+    double least = std::numeric_limits<double>::max();
+    for (int round = 0; round < rounds; ++round)
+        least = std::min(least, seconds(own));
+    print({.what = what, .unit = "ms", .ours = 1000 * least, .against = {}, .target = 10});
+}
+
+std::string sizeOf(int readings, int years) {
+    return std::to_string(readings) + " readings of " + std::to_string(years)
+           + (years == 1 ? " year" : " years");
+}
+
+void measure(int readings, int years, int rounds) {
+    const MadeReadings made(readings, years);
     const LocalZone zone;
+    ComparedCharts plots(made);
+    ComparedTrend trendPlot(made);
     QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    compareWithPlots(state, made, [&] { paintCharts(image, made, zone); });
+    QImage page(595, 842, QImage::Format_ARGB32_Premultiplied);
+    const std::string size = sizeOf(readings, years);
+    const auto charts = [&] { paintCharts(image, made, zone); };
+    compare("Both charts, " + size, rounds, charts, [&] { plots.paint(); });
+    compare(
+        "Trend, " + size, rounds, [&] { paintTrend(image, made, zone); }, [&] { trendPlot.paint(); });
+    if (readings < many) return;
+    printLeast("Both charts, " + size + ", nothing else running", rounds, charts);
+    // With fewer readings, hardly anything of the page is a picture.
+    compare(
+        "Summary page, " + size, rounds, [&] { paintSummary(page, made); }, [&] { plots.paint(); });
 }
-
-void trend(benchmark::State& state) {
-    const MadeReadings made(state.range(0), state.range(1));
-    const LocalZone zone;
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    compareWithPlots(state, made, [&] { paintTrend(image, made, state.range(2) == 1, zone); });
-}
-
-/// The picture is kept as an image; a step paints the part of it that changed, and a mark or box on it.
-void hoverStep(benchmark::State& state) {
-    const MadeReadings made(10000, 1);
-    const LocalZone zone;
-    const ChartInput shown = input(made, DrawPulse, {0, 0, width, pulseHeight});
-    const ChartLayout layout = drawChart(shown, zone);
-    const std::vector<ChartPoint> points = chartPoints(shown);
-    QImage kept(width, pulseHeight, QImage::Format_ARGB32_Premultiplied);
-    {
-        QPainter painter(&kept);
-        paintPicture(painter, layout.picture, pulseHeight);
-    }
-    QImage screen(width, pulseHeight, QImage::Format_ARGB32_Premultiplied);
-    std::size_t step = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        const ChartPoint& point = points[step++ * 37 % points.size()];
-        QPainter painter(&screen);
-        painter.drawImage(0, 0, kept);
-        paintPicture(painter, {RoundRect{{point.x - 6.0, point.y - 6.0, 13, 13}, 4, Qt::red, 1}},
-                     pulseHeight);
-    }
-}
-
-BENCHMARK(bothCharts)
-    ->ArgsProduct({{365, 2000, 10000, 100000}, {1, 10}})
-    ->ArgNames({"readings", "years"})
-    ->Iterations(100)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(trend)
-    ->ArgsProduct({{2000, 100000}, {1, 10}, {0, 1}})
-    ->ArgNames({"readings", "years", "apart"})
-    ->Iterations(100)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(hoverStep)->Unit(benchmark::kMillisecond); // to stay below 2 ms
 
 } // namespace
 } // namespace zel
 
 int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    setenv("QT_LOGGING_RULES", "zel.*=false", 1);
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    QTranslator texts;
+    if (!texts.load(QStringLiteral(":/zel_en.qm"))) return 1;
+    QCoreApplication::installTranslator(&texts);
+    const bool small = zel::isSmall(argc, argv);
+    for (const int readings : {365, 5000, zel::many})
+        for (const int years : {1, 10})
+            if (!small || (readings == 365 && years == 1)) zel::measure(readings, years, small ? 3 : 41);
+    return 0;
 }

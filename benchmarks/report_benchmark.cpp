@@ -1,6 +1,7 @@
 // The table section of 10,000 readings as a PDF, beside writing the same texts once into a bare PDF. And what
 // a page turn in the preview costs.
 
+#include "Figure.h"
 #include "report/ReportPainter.h"
 #include "report/ReportPdf.h"
 #include "report/TextApplication.h"
@@ -11,8 +12,6 @@
 #include <QPdfWriter>
 #include <QTranslator>
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -21,7 +20,6 @@ namespace {
 
 using namespace zel;
 
-constexpr int readings = 10'000;
 constexpr std::array table{Section::table};
 
 struct Report {
@@ -32,7 +30,7 @@ struct Report {
     DataLogList downloads;
     LocalZone zone;
 
-    Report() {
+    explicit Report(std::uint32_t readings) {
         patient.ID = QStringLiteral("P1");
         const Instant first{std::chrono::sys_days{std::chrono::year{2010} / 1 / 1}};
         for (std::uint32_t number = 0; number < readings; ++number) {
@@ -61,12 +59,6 @@ struct Report {
     }
 };
 
-double seconds(auto&& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
 std::vector<std::vector<TextLine>> textsOf(const PrintView& view) {
     std::vector<std::vector<TextLine>> pages;
     for (int number = 1; number <= view.getTotalPages(Section::table); ++number) {
@@ -91,44 +83,42 @@ void writeBare(const std::vector<std::vector<TextLine>>& pages) {
     }
 }
 
-/// At most 2 s, and 4 times the bare texts, which have no lines, marks or other fonts between them.
-void tableAsPdf(benchmark::State& state) {
-    const Report report;
+/// The bare texts have no lines, marks or other fonts between them.
+void tableAsPdf(const Report& report) {
     const auto texts = textsOf(report.view());
-    std::vector<double> ratios;
-    double slowest = 0;
-    qsizetype bytes = 0;
-    for ([[maybe_unused]] auto turn : state) {
-        const double own = seconds([&] {
-            const auto pdf = makePdf(report.view(), table);
-            if (!pdf) std::abort();
-            bytes = pdf->size();
-        });
-        ratios.push_back(own / seconds([&] { writeBare(texts); }));
-        slowest = std::max(slowest, own);
-    }
-    std::ranges::sort(ratios);
-    state.counters["RATIO"] = ratios[ratios.size() / 2];
-    state.counters["slowest_s"] = slowest;
-    state.counters["pages"] = static_cast<double>(texts.size());
-    state.counters["BYTES_PER_READING"] = static_cast<double>(bytes) / readings;
+    constexpr int rounds = 7;
+    const auto [ours, bare, ratio] = inTurn(
+        rounds,
+        [&] {
+            if (!makePdf(report.view(), table)) std::abort();
+        },
+        [&] { writeBare(texts); }, processorSeconds);
+    print({.what = "Table of " + std::to_string(report.list.size()) + " readings as PDF",
+           .unit = "ms",
+           .ours = 1000 * ours,
+           .against = "the same texts drawn bare",
+           .bare = 1000 * bare,
+           .target = 2,
+           .ratio = ratio});
 }
 
-/// At most 50 ms for each section.
-void previewPage(benchmark::State& state) {
-    const Report report;
+/// The slowest of some turns to the last page.
+void previewPage(const Report& report, Section section) {
     const PrintView view = report.view();
-    const auto section = static_cast<Section>(state.range(0));
-    state.SetLabel(facts(section).key);
     QImage image(700, 500, QImage::Format_ARGB32_Premultiplied);
-    for ([[maybe_unused]] auto turn : state) {
-        QPainter painter(&image);
-        paintPreview(painter, image.rect(), view, section, view.getTotalPages(section));
-    }
+    double slowest = 0;
+    for (int turn = 0; turn < 7; ++turn)
+        slowest =
+            std::max(slowest, seconds([&] {
+                         QPainter painter(&image);
+                         paintPreview(painter, image.rect(), view, section, view.getTotalPages(section));
+                     }));
+    print({.what = std::string("Page in the preview: ") + facts(section).key,
+           .unit = "ms",
+           .ours = 1000 * slowest,
+           .against = {},
+           .target = 50});
 }
-
-BENCHMARK(tableAsPdf)->Unit(benchmark::kMillisecond)->Iterations(7);
-BENCHMARK(previewPage)->Unit(benchmark::kMillisecond)->DenseRange(0, 6);
 
 } // namespace
 
@@ -137,7 +127,9 @@ int main(int argc, char** argv) {
     QTranslator texts;
     if (!texts.load(QStringLiteral(":/zel_en.qm"))) return 1;
     QCoreApplication::installTranslator(&texts);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    const Report report(isSmall(argc, argv) ? 300 : 10'000);
+    tableAsPdf(report);
+    for (const SectionFacts& each : sections())
+        if (each.section != Section::comment) previewPage(report, each.section);
     return 0;
 }

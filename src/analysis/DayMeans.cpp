@@ -14,9 +14,10 @@ DayMeans::DayMeans(const ReadingList& readings) {
         if (reading.isExcluded() && !reading.isUndated()) excludedDays.push_back(reading.day);
     }
     std::ranges::sort(excludedDays);
-    std::ranges::stable_sort(dated, {}, [](const ReadingModel* reading) { return reading->day; });
+    const auto day = [](const ReadingModel* reading) { return reading->day; };
+    // Most files have them in order, and sorting takes most of the time also then.
+    if (!std::ranges::is_sorted(dated, {}, day)) std::ranges::stable_sort(dated, {}, day);
     PressureMeans sum;
-    days.reserve(dated.size());
     for (const ReadingModel* reading : dated) {
         sum.add(*reading);
         if (days.empty() || days.back().day != reading->day) days.push_back({reading->day});

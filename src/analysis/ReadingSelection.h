@@ -2,6 +2,7 @@
 
 #include "store/ReadingModel.h"
 
+#include <chrono>
 #include <cstdint>
 
 namespace zel {
@@ -27,8 +28,18 @@ enum class ViewSelection : std::int32_t {
     pmOnly = 3,  ///< readings from noon on, likewise
 };
 
-/// Whether a view of that selection shows readings of that half of the day.
-[[nodiscard]] bool MatchedDataType(ViewSelection view, bool isPMData);
+/// Whether a view of that selection shows readings of that half of the day. It and the rules below stand here
+/// so that they are built into the loops that ask for each reading, most of whose time the calls took.
+[[nodiscard]] inline bool MatchedDataType(ViewSelection view, bool isPMData) {
+    switch (view) {
+    case ViewSelection::custom:
+    case ViewSelection::viewAll: return true;
+    case ViewSelection::amOnly: return !isPMData;
+    case ViewSelection::pmOnly: return isPMData;
+    case ViewSelection::none: break;
+    }
+    return false;
+}
 
 /// Which readings a view takes.
 struct ReadingSelection {
@@ -40,19 +51,37 @@ struct ReadingSelection {
 };
 
 /// The monitor stored the reading without a valid clock, or the file gives no date at all.
-[[nodiscard]] bool hasUndatedMarker(const ReadingModel& reading);
+[[nodiscard]] inline bool hasUndatedMarker(const ReadingModel& reading) {
+    constexpr std::chrono::sys_days marker{std::chrono::year{2000} / 1 / 1};
+    return !reading.ReadingDate || reading.day == DayNumber{marker.time_since_epoch().count()};
+}
 
 /// Whether the list of readings has the reading, also one that the user left out.
-[[nodiscard]] bool isListed(const ReadingModel& reading, const ReadingSelection& selection);
+[[nodiscard]] inline bool isListed(const ReadingModel& reading, const ReadingSelection& selection) {
+    if (hasUndatedMarker(reading)) return selection.includeUndated;
+    return selection.period.contains(*reading.ReadingDate)
+           && MatchedDataType(selection.view, reading.isPMData) && !reading.isUndated();
+}
 
 /// Whether the statistics count the reading. Unlike elsewhere, the half of the day does not matter.
-[[nodiscard]] bool isInStatistic(const ReadingModel& reading, const ReadingSelection& selection);
+[[nodiscard]] inline bool isInStatistic(const ReadingModel& reading, const ReadingSelection& selection) {
+    ReadingSelection wholeDays = selection;
+    wholeDays.view = ViewSelection::custom;
+    return reading.ReadingDate && !reading.isExcluded() && isListed(reading, wholeDays);
+}
 
 /// Whether histogram and correlation count the reading.
-[[nodiscard]] bool isCounted(const ReadingModel& reading, const ReadingSelection& selection);
+[[nodiscard]] inline bool isCounted(const ReadingModel& reading, const ReadingSelection& selection) {
+    if (reading.isExcluded()) return false;
+    if (selection.includeUndated && hasUndatedMarker(reading)) return true;
+    return reading.ReadingDate && selection.period.contains(*reading.ReadingDate)
+           && MatchedDataType(selection.view, reading.isPMData);
+}
 
 /// Whether the chart counts the reading: its time axis has no place for an undated one, wanted or not.
-[[nodiscard]] bool isInChart(const ReadingModel& reading, const ReadingSelection& selection);
+[[nodiscard]] inline bool isInChart(const ReadingModel& reading, const ReadingSelection& selection) {
+    return isCounted(reading, selection) && !hasUndatedMarker(reading);
+}
 
 /// Whether averages of days and weeks count the reading: it has a day, and is not left out.
 [[nodiscard]] bool isAveraged(const ReadingModel& reading);

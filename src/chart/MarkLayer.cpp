@@ -15,6 +15,8 @@ namespace zel {
 
 namespace {
 
+constexpr double farOut = 1e8; ///< beyond any screen, within an int
+
 /// The squares of one mark on the device: the outer 5, the inner 3 pixels of the picture wide.
 template <class Length>
 struct MarkShape {
@@ -72,15 +74,26 @@ public:
         std::fill_n(innerRow.begin() + edge, shape.inner, shape.color.rgba());
     }
 
-    /// \p y is the top of the mark's outer square.
-    void add(int y) {
-        const int begin = y + shift - top;
-        const int from = std::max(begin, 0);
-        const int to = std::min(begin + static_cast<int>(mark.size()), static_cast<int>(rows.size()));
-        if (from >= to) return;
-        stamp(rows.data() + from, mark.data() + (from - begin), to - from);
-        first = std::min(first, from);
-        last = std::max(last, to);
+    /// Marks on one pixel column. What the loop needs stands in variables of its own: behind each stamp, the
+    /// compiler would read the members again.
+    void add(std::span<const Point> points, const PictureSurface::Rows rowOf) {
+        Row* const to = rows.data();
+        const Row* const values = mark.data();
+        const int size = static_cast<int>(mark.size()), end = static_cast<int>(rows.size());
+        const int offset = shift - top;
+        int low = first, high = last;
+        for (const Point point : points) {
+            const double y = rowOf(point.y + 3); // the top of the mark's outer square
+            if (!(std::abs(y) < farOut)) continue;
+            const int begin = static_cast<int>(y) + offset;
+            const int from = std::max(begin, 0), until = std::min(begin + size, end);
+            if (from >= until) continue;
+            stamp(to + from, values + (from - begin), until - from);
+            low = std::min(low, from);
+            high = std::max(high, until);
+        }
+        first = low;
+        last = high;
     }
 
     /// Draws the rows into an image from its column \p x on, and begins anew.
@@ -123,12 +136,13 @@ void paintTogether(PictureSurface& surface, std::span<const Point> points, const
     image.fill(Qt::transparent);
     const Pixels pixels{reinterpret_cast<QRgb*>(image.bits()), image.bytesPerLine() / 4, image.width()};
     MarkColumn column(part, shape);
-    constexpr double farOut = 1e8; // beyond any screen, within an int
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const QPointF corner = topLeft(surface, points[i]);
-        if (std::abs(corner.y()) < farOut) column.add(static_cast<int>(corner.y()));
-        if (i + 1 < points.size() && points[i + 1].x == points[i].x) continue;
-        column.flush(pixels, static_cast<int>(std::clamp(corner.x(), -farOut, farOut)) - part.left());
+    const PictureSurface::Rows rowOf = surface.rows();
+    for (std::size_t begin = 0, end = 0; begin < points.size(); begin = end) {
+        while (end < points.size() && points[end].x == points[begin].x)
+            ++end;
+        column.add(points.subspan(begin, end - begin), rowOf);
+        const double x = topLeft(surface, points[begin]).x();
+        column.flush(pixels, static_cast<int>(std::clamp(x, -farOut, farOut)) - part.left());
     }
     surface.painter.drawImage(part.topLeft(), image);
 }

@@ -12,7 +12,9 @@
 #include <QSvgRenderer>
 
 #include <cmath>
+#include <optional>
 #include <span>
+#include <utility>
 
 namespace zel {
 
@@ -68,11 +70,16 @@ public:
     }
 
     void operator()(const TextLine& item) {
-        const QFont font = item.attribute.font();
-        painter.setFont(font);
+        // Looking a font up takes as long as writing a short text, and most texts are in that of the one
+        // before.
+        if (!written || written->first != item.attribute) {
+            const QFont font = item.attribute.font();
+            painter.setFont(font);
+            written = std::pair(item.attribute, QFontMetricsF(font).descent());
+        }
         painter.setPen(item.attribute.color);
         surface.moveTo(item.origin, true);
-        painter.drawText(QPointF(0, -QFontMetricsF(font).descent()), item.text);
+        painter.drawText(QPointF(0, -written->second), item.text);
         surface.moveTo({}, false);
     }
 
@@ -122,7 +129,10 @@ public:
     }
 
     void operator()(const BeginClip& item) { surface.beginClip(item.rect, item.radius); }
-    void operator()(const EndClip&) { surface.endClip(); }
+    void operator()(const EndClip&) {
+        surface.endClip();
+        written.reset(); // the painter has the font again that it had before the clip
+    }
 
 private:
     class Smooth {
@@ -172,6 +182,7 @@ private:
 
     PictureSurface surface;
     QPainter& painter;
+    std::optional<std::pair<TextAttribute, double>> written; ///< the painter's type now, and its descent
 };
 
 } // namespace

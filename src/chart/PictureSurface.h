@@ -31,6 +31,21 @@ public:
     [[nodiscard]] double y(double pictureY) const {
         return placed((height - pictureY) * perUnit + toDevice.dy());
     }
+    /// y() of a surface of pixels, for loops over many points: without what it is to the compiler that they
+    /// may change.
+    class Rows {
+    public:
+        [[nodiscard]] double operator()(double pictureY) const {
+            return nearest((height - pictureY) * perUnit + shift);
+        }
+
+    private:
+        friend class PictureSurface;
+        Rows(double pictureHeight, double scale, double down)
+            : height(pictureHeight), perUnit(scale), shift(down) {}
+        double height, perUnit, shift;
+    };
+    [[nodiscard]] Rows rows() const { return {height, perUnit, toDevice.dy()}; }
     [[nodiscard]] QRectF rect(const Rect& rect) const;
     /// From the picture's coordinates to the device, not rounded.
     [[nodiscard]] QTransform exact() const;
@@ -43,9 +58,9 @@ public:
     [[nodiscard]] const Rect& sight() const { return sights.back(); }
 
 private:
+    [[nodiscard]] double placed(double value) const { return pixels ? nearest(value) : value; }
     /// On the nearest pixel; by hand, as this is done for every reading.
-    [[nodiscard]] double placed(double value) const {
-        if (!pixels) return value;
+    [[nodiscard]] static double nearest(double value) {
         const double above = value + 0.5;
         const auto whole = static_cast<double>(static_cast<std::int64_t>(above));
         return whole > above ? whole - 1 : whole;

@@ -1,7 +1,10 @@
 #include "chart/ReadingLines.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 
@@ -29,9 +32,14 @@ void addToRun(std::vector<PolyLine>& runs, Point point, bool joined) {
         return;
     }
     const std::span<Point> column = std::span(points).last(enough);
-    const auto [low, high] = std::ranges::minmax(column, {}, &Point::y);
-    column[1].y = std::min(low.y, point.y);
-    column[2].y = std::max(high.y, point.y);
+    double low = point.y;
+    double high = point.y;
+    for (const Point& each : column) {
+        low = std::min(low, each.y);
+        high = std::max(high, each.y);
+    }
+    column[1].y = low;
+    column[2].y = high;
     column[3] = point;
 }
 
@@ -41,17 +49,26 @@ void addPoint(std::vector<ChartPoint>& points, const ChartScale& scale, Point at
         points.push_back({static_cast<float>(at.x), static_cast<float>(at.y), reading.reading});
 }
 
-Point sysPoint(const ChartScale& scale, const ChartReading& reading, double x) {
-    return {x, std::trunc(scale.mapValToY(reading.sys))};
-}
+/// Where the values of one kind lie. There are few of them and many readings: each usual one is worked out
+/// once.
+class Heights {
+public:
+    using Map = double (ChartScale::*)(double) const;
+    Heights(const ChartScale& chartScale, Map valueToY) : scale(chartScale), map(valueToY) {
+        for (std::size_t value = 0; value < usual.size(); ++value)
+            usual[value] = heightOf(static_cast<std::uint32_t>(value));
+    }
+    [[nodiscard]] double operator()(std::uint32_t value) const {
+        return value < usual.size() ? usual[value] : heightOf(value);
+    }
 
-Point diaPoint(const ChartScale& scale, const ChartReading& reading, double x) {
-    return {x, std::trunc(scale.mapValToY(reading.dia))};
-}
+private:
+    [[nodiscard]] double heightOf(std::uint32_t value) const { return std::trunc((scale.*map)(value)); }
 
-Point pulsePoint(const ChartScale& scale, const ChartReading& reading, double x) {
-    return {x, std::trunc(scale.mapPulseValToY(reading.pulse))};
-}
+    const ChartScale& scale;
+    Map map;
+    std::array<double, 300> usual{};
+};
 
 /// Counts a reading by its values, if it lies in the period.
 void countInPeriod(ReadingLines& made, const ChartScale& scale, Instant date,
@@ -86,7 +103,9 @@ void forEachAccepted(std::span<const ChartReading> readings, const ChartScale& s
     for (const ChartReading& reading : readings) {
         if (!MatchedDataType(view, reading.isPMData)) continue;
         const bool joined = previous && reading.date - *previous <= longestJoin;
-        add(reading, std::trunc(scale.time.calcXPos(reading.date)), joined);
+        // Cut off by hand: the library's function takes longer than the rest of it.
+        const auto x = static_cast<double>(static_cast<std::int64_t>(scale.time.calcXPos(reading.date)));
+        add(reading, x, joined);
         if (!reading.isExcluded) previous = reading.date;
     }
 }
@@ -101,9 +120,10 @@ ReadingLines bloodLines(const std::vector<ChartReading>& all, const ChartScale& 
     const ScaleRange range = scale.bloodRange();
     made.ticks.color = fixColor(gcBloodWhiteLinecolor);
     made.ticks.ticks.reserve(readings.size());
+    const Heights heights(scale, &ChartScale::mapValToY);
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
-        const Point sys = sysPoint(scale, reading, x);
-        const Point dia = diaPoint(scale, reading, x);
+        const Point sys{x, heights(reading.sys)};
+        const Point dia{x, heights(reading.dia)};
         if (reading.isExcluded) return addHollow(made, scale, reading, {sys, dia});
         addToRun(made.lines, sys, joined);
         addToRun(diaRuns, dia, joined);
@@ -124,8 +144,9 @@ ReadingLines pulseLines(const std::vector<ChartReading>& all, const ChartScale& 
     ReadingLines made;
     const ScaleRange range = scale.pulseRange();
     made.marks.points.reserve(readings.size());
+    const Heights heights(scale, &ChartScale::mapPulseValToY);
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool joined) {
-        const Point pulse = pulsePoint(scale, reading, x);
+        const Point pulse{x, heights(reading.pulse)};
         if (reading.isExcluded) return addHollow(made, scale, reading, {pulse});
         addToRun(made.lines, pulse, joined);
         made.marks.points.push_back(pulse);
@@ -141,9 +162,10 @@ std::vector<ChartPoint> bloodPoints(const std::vector<ChartReading>& all, const 
     std::vector<ChartPoint> points;
     const auto readings = readingsAround(all, periodInReach(scale), view);
     points.reserve(2 * readings.size());
+    const Heights heights(scale, &ChartScale::mapValToY);
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool) {
-        addPoint(points, scale, sysPoint(scale, reading, x), reading);
-        addPoint(points, scale, diaPoint(scale, reading, x), reading);
+        addPoint(points, scale, {x, heights(reading.sys)}, reading);
+        addPoint(points, scale, {x, heights(reading.dia)}, reading);
     });
     return points;
 }
@@ -153,8 +175,9 @@ std::vector<ChartPoint> pulsePoints(const std::vector<ChartReading>& all, const 
     std::vector<ChartPoint> points;
     const auto readings = readingsAround(all, periodInReach(scale), view);
     points.reserve(readings.size());
+    const Heights heights(scale, &ChartScale::mapPulseValToY);
     forEachAccepted(readings, scale, view, [&](const ChartReading& reading, double x, bool) {
-        addPoint(points, scale, pulsePoint(scale, reading, x), reading);
+        addPoint(points, scale, {x, heights(reading.pulse)}, reading);
     });
     return points;
 }

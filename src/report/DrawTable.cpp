@@ -47,18 +47,18 @@ void title(Picture& picture, const Rect& row, double from, double to, const QStr
 }
 
 /// In one type, as large as a date has room for beside the time.
-TableRow tableRow(const Rect& place) {
+TableRow tableRow(const Rect& place, TextWidths* widths) {
     TextAttribute font = cellFont;
     const double room = field(place, xDate, xTime, textBase).width;
     while (font.size > smallestRow && textSize(u"0000/00/00"_s, font).width > room)
         --font.size;
-    return {place, font, textSize(u"000"_s, font).width};
+    return {place, font, textSize(u"000"_s, font).width, widths};
 }
 
 void text(Picture& picture, const TableRow& row, double from, double to, const QString& words,
           double indent = 0) {
     const Field cell = field(row, from, to, textBase, indent);
-    fieldFigure(picture, words, cell.at, cell.width, row.font);
+    fieldFigure(picture, words, cell.at, cell.width, row.font, XPos::left, smallestFigure, row.widths);
 }
 
 /// Ends under the end of a three-digit number that begins at the column. One that is high is bold, with a
@@ -71,7 +71,8 @@ void number(Picture& picture, const TableRow& row, double from, double to, std::
     const Point at{isShort ? cell.at.x + row.threeDigits : cell.at.x, cell.at.y};
     TextAttribute font = row.font;
     font.bold = isHigh;
-    fieldFigure(picture, words, at, cell.width, font, isShort ? XPos::right : XPos::left);
+    fieldFigure(picture, words, at, cell.width, font, isShort ? XPos::right : XPos::left, smallestFigure,
+                row.widths);
     if (!isHigh) return;
     const double end = isShort ? row.threeDigits : textSize(words, font).width;
     const TextAttribute markFont{.size = std::max(smallestRow, row.font.size - 2)};
@@ -120,7 +121,7 @@ bool DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forT
     const Rect area = page == 1 ? firstPageRect(rect, forTable) : rect;
     const int from = page < 2 ? 0 : (page - 2) * perPage + firstPageItems;
     const int until = std::min(rowTotal(), from + (page == 1 ? firstPageItems : perPage));
-    TableRow row = tableRow({area.x, std::trunc(area.top() - rowHeight), area.width, rowHeight});
+    TableRow row = tableRow({area.x, std::trunc(area.top() - rowHeight), area.width, rowHeight}, widths);
     picture.emplace_back(FillRect{area, Qt::white});
     drawHeader(picture, row);
     bool isCut = false;

@@ -2,6 +2,7 @@
 
 #include "chart/Picture.h"
 #include "report/ReportSource.h"
+#include "report/TextWidths.h"
 
 namespace zel {
 
@@ -9,6 +10,7 @@ namespace zel {
 struct TableRow : Rect {
     TextAttribute font;
     double threeDigits = 0; ///< width of a number
+    TextWidths* widths = nullptr;
 };
 
 /// The reading rows of a report's pages.
@@ -16,8 +18,9 @@ class DrawTable {
 public:
     static constexpr double rowHeight = 20, baseWidth = 786;
 
-    /// \p source must outlive it.
-    explicit DrawTable(const ReportSource& source) : report(source) {}
+    /// \p source and \p widths must outlive it.
+    explicit DrawTable(const ReportSource& source, TextWidths* known = nullptr)
+        : report(source), widths(known) {}
 
     [[nodiscard]] static int itemsPerPage(const Rect& rect);
     /// Where the rows of the first page stand: the whole rectangle, or without \p forTable the lower half of
@@ -42,6 +45,7 @@ private:
     static void drawBar(Picture& picture, const TableRow& row, const ReadingRow& reading);
 
     const ReportSource& report;
+    TextWidths* widths; ///< of one report's cells, or none
 };
 
 } // namespace zel

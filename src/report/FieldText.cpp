@@ -60,11 +60,14 @@ void fieldText(Picture& picture, const QString& text, Point at, double width, co
 }
 
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
-                 XPos x, int smallest) {
-    double own = textSize(text, attribute).width;
+                 XPos x, int smallest, TextWidths* widths) {
+    const auto measured = [&] {
+        return widths ? widths->of(text, attribute) : textSize(text, attribute).width;
+    };
+    double own = measured();
     while (own > width && attribute.size > smallest) {
         --attribute.size;
-        own = textSize(text, attribute).width;
+        own = measured();
     }
     if (own > width) return fieldText(picture, text, at, width, attribute, x);
     // Measured once: there are many of them.

@@ -2,6 +2,7 @@
 // Texts of any length in fields of a given width. The time taken does not grow with what is left out.
 
 #include "chart/Drawing.h"
+#include "report/TextWidths.h"
 
 #include <limits>
 
@@ -19,9 +20,9 @@ void fieldText(Picture& picture, const QString& text, Point at, double width, co
 
 inline constexpr int smallestFigure = 6;
 /// A figure or a date, which loses its meaning when it is cut: set smaller where it is too long, but not
-/// below \p smallest.
+/// below \p smallest. \p widths: where those that were measured are kept.
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
-                 XPos x = XPos::left, int smallest = smallestFigure);
+                 XPos x = XPos::left, int smallest = smallestFigure, TextWidths* widths = nullptr);
 
 /// The text's lines, \p mostLines at most. Blanks and line ends that it is broken at are in none of them.
 [[nodiscard]] QStringList wrapped(const QString& text, double width, const TextAttribute& attribute,

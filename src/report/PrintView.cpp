@@ -96,13 +96,36 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
         return picture;
     }
     if (printSelection) {
-        drawPatientTitle(picture, at, source, *printSelection, place);
+        const Head drawn = head(at, *printSelection, place);
+        picture = drawn.patient;
         drawBody(picture, at, *printSelection, number, place.leftOut);
+        picture.insert(picture.end(), drawn.title.begin(), drawn.title.end());
+    } else {
+        drawTitle(picture, at, source, QString());
     }
-    drawTitle(picture, at, source, printSelection ? facts(*printSelection).text() : QString());
     drawFooter(picture, at, source);
     drawPageNumber(picture, at, place);
     return picture;
+}
+
+/// A first page may say more, which another document leaves out.
+PrintView::Head PrintView::head(const PageGeometry& at, Section section, const PagePlace& place) const {
+    const auto made = [&] {
+        Head drawn;
+        drawPatientTitle(drawn.patient, at, source, section, place);
+        drawTitle(drawn.title, at, source, facts(section).text());
+        return drawn;
+    };
+    if (place.number == 1) return made();
+    const auto found = heads.find(section);
+    return found != heads.end() ? found->second : heads.emplace(section, made()).first->second;
+}
+
+void PrintView::drawLegend(Picture& picture, const PageGeometry& at, Section section,
+                           bool isCommentCut) const {
+    const auto [found, isNew] = legends.try_emplace(std::pair(section, isCommentCut));
+    if (isNew) drawTableLegend(found->second, source, isCommentCut, legendPlace(at), legendWidth(at));
+    picture.insert(picture.end(), found->second.begin(), found->second.end());
 }
 
 void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section section, int number,
@@ -128,16 +151,15 @@ void PrintView::drawBody(Picture& picture, const PageGeometry& at, Section secti
         return drawCommentLegend(picture, comments(), legendPlace(at), legendWidth(at));
     case Section::SWStatistics: return drawSummaryStat(picture, at, number);
     case Section::table:
-        return drawTableLegend(picture, source,
-                               DrawTable(source).drawRect(picture, at.drawingRect, number, true),
-                               legendPlace(at), legendWidth(at));
+        return drawLegend(picture, at, section,
+                          DrawTable(source, &widths).drawRect(picture, at.drawingRect, number, true));
     }
 }
 
 void PrintView::drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const {
     const Rect& area = at.drawingRect;
-    const bool isCommentCut = DrawTable(source).drawRect(picture, area, number, false);
-    drawTableLegend(picture, source, isCommentCut, legendPlace(at), legendWidth(at));
+    const bool isCommentCut = DrawTable(source, &widths).drawRect(picture, area, number, false);
+    drawLegend(picture, at, Section::SWStatistics, isCommentCut);
     if (number != 1) return;
     const Rect rows = DrawTable::firstPageRect(area, false);
     drawStatisticSummary(picture, source, {area.x, area.top() - fStatTable, area.width, fStatTable});

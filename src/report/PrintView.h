@@ -7,6 +7,7 @@
 #include "report/PageFrame.h"
 #include "report/ReportSource.h"
 #include "report/Section.h"
+#include "report/TextWidths.h"
 
 #include <QPageSize>
 #include <QSizeF>
@@ -45,6 +46,12 @@ public:
     void setNeedPhysicianInfo(bool need) { source.needPhysicianInfo = need; }
 
 private:
+    /// What stands on all pages of a section but the first, and is worked out from all readings.
+    struct Head {
+        Picture patient, title;
+    };
+    [[nodiscard]] Head head(const PageGeometry& at, Section section, const PagePlace& place) const;
+    void drawLegend(Picture& picture, const PageGeometry& at, Section section, bool isCommentCut) const;
     void drawBody(Picture& picture, const PageGeometry& at, Section section, int number,
                   const LeftOutScope& scope) const;
     void drawSummaryStat(Picture& picture, const PageGeometry& at, int number) const;
@@ -59,6 +66,9 @@ private:
     mutable std::optional<CommentPages> commentPages;
     mutable std::optional<PatientPages> patientPages;
     mutable std::map<std::pair<QPageLayout::Orientation, LeftOutScope>, LeftOutPages> leftOutLists;
+    mutable std::map<Section, Head> heads;
+    mutable std::map<std::pair<Section, bool>, Picture> legends; ///< of tables, by whether a comment is cut
+    mutable TextWidths widths;                                   ///< of the tables' cells
 };
 
 } // namespace zel

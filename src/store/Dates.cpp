@@ -168,10 +168,6 @@ Date LocalZone::instantOf(Instant wall) const {
     return wallClock(instant) == wall ? Date{instant} : Date{};
 }
 
-bool isNilDay(DayNumber day) { return day < dayNumber(2, 1, 1); }
-
-bool isUndatedDay(DayNumber day) { return day == nilReadingDay || isNilDay(day); }
-
 QString dayText(DayNumber day) { return dayText(day, u"yyyy/MM/dd"_s); }
 
 QString dayText(DayNumber day, const QString& pattern) {

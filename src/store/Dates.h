@@ -86,9 +86,15 @@ private:
 };
 
 /// noDay, and whatever isNilDate() takes for no date.
-[[nodiscard]] bool isNilDay(DayNumber day);
+[[nodiscard]] inline bool isNilDay(DayNumber day) {
+    constexpr std::chrono::sys_days second{std::chrono::year{2} / 1 / 1};
+    return day < DayNumber{second.time_since_epoch().count()};
+}
 /// noDay, 2000-01-01, and whatever isNilDate() takes for no date.
-[[nodiscard]] bool isUndatedDay(DayNumber day);
+[[nodiscard]] inline bool isUndatedDay(DayNumber day) {
+    constexpr std::chrono::sys_days marker{std::chrono::year{2000} / 1 / 1};
+    return day == DayNumber{marker.time_since_epoch().count()} || isNilDay(day);
+}
 /// The day as "yyyy/MM/dd"; empty for noDay.
 [[nodiscard]] QString dayText(DayNumber day);
 /// The day in a pattern made of yyyy, MM, dd and other characters; empty for noDay.

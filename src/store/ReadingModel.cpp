@@ -139,8 +139,6 @@ bool ReadingModel::isSame(const ReadingModel& other) const {
 
 ReadingModel::Values ReadingModel::values() const { return {Arrhythmia, pulse, dia, sys, map, pp, mam}; }
 
-bool ReadingModel::isUndated() const { return isUndatedDay(day); }
-
 bool ReadingModel::isPad() const { return Arrhythmia == 1 || Arrhythmia == 2; }
 
 bool ReadingModel::isAFib() const { return Arrhythmia == 4 || Arrhythmia == 5; }

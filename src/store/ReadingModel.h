@@ -64,7 +64,7 @@ struct ReadingModel {
     using Values = std::array<std::uint32_t, 7>;
     [[nodiscard]] Values values() const;
     /// Without a usable date: none, the monitor's marker, or year 1, which the file writes for none.
-    [[nodiscard]] bool isUndated() const;
+    [[nodiscard]] bool isUndated() const { return isUndatedDay(day); }
     /// The user has left it out: it stays in the file and in the list, and counts nowhere.
     [[nodiscard]] bool isExcluded() const { return !exclusion.isNull(); }
     [[nodiscard]] bool isPad() const;

@@ -30,6 +30,8 @@ CommentViewController::CommentViewController(DataStore& dataStore, MessagePanel&
     connect(form, &CommentForm::datesTyped, this, &CommentViewController::checkToSaveComment);
     connect(form, &CommentForm::beginEntered, this, &CommentViewController::beginEntered);
     connect(&store, &DataStore::currentIDChanged, this, [this] { unasked = QString(); });
+    for (const auto changed : {&DataStore::reloaded, &DataStore::currentIDChanged})
+        connect(&store, changed, this, [this] { means.reset(); });
     connect(&store, &DataStore::reloaded, this, &CommentViewController::LoadData);
     connect(&store, &DataStore::currentIDChanged, this, &CommentViewController::LoadData);
     LoadData();
@@ -111,9 +113,8 @@ void CommentViewController::showPosition() {
         form->showPosition(*index, comments.size());
     else
         form->showNoPosition();
-    form->showChange(index ? describe(calcBeforeAndSince(DayMeans(store.getReadingForCurID()), comments,
-                                                         *comments[*index]))
-                           : QString());
+    if (index && !means) means = DayMeans(store.getReadingForCurID());
+    form->showChange(index ? describe(calcBeforeAndSince(*means, comments, *comments[*index])) : QString());
 }
 
 bool CommentViewController::isEdited() const {

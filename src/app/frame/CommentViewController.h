@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/DayMeans.h"
 #include "app/widgets/SidePanel.h"
 #include "store/Clock.h"
 #include "store/DataStore.h"
@@ -82,6 +83,7 @@ private:
     QString unasked; ///< the comment that was just added, or emptied by hand, by its number; null: none
     bool isLoading = false;
     CommentForm* form;
+    std::optional<DayMeans> means; ///< of the patient's readings, as soon as they are asked for
 };
 
 } // namespace zel

@@ -94,6 +94,7 @@ QLayout* MeasuringWeekPanel::makeChoices() {
 QLabel* MeasuringWeekPanel::addLine(const QString& name) {
     auto* line = new QLabel(this);
     line->setObjectName(name);
+    line->setAccessibleName(accessibleName()); // until it has a text
     line->setTextFormat(Qt::PlainText);
     line->setWordWrap(true);
     line->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -101,7 +102,7 @@ QLabel* MeasuringWeekPanel::addLine(const QString& name) {
     return line;
 }
 
-void MeasuringWeekPanel::LoadData() {
+void MeasuringWeekPanel::showWeek() {
     const MeasuringWeek week =
         calcMeasuringWeek(store.getReadingForCurID(), period.getWeekRule(), period.getWeekEnd());
     cboWeekRule->setCurrentIndex(static_cast<int>(week.rule));

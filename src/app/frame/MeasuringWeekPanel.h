@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/DisplayPeriod.h"
+#include "app/widgets/SeenWork.h"
 #include "app/widgets/SidePanel.h"
 #include "store/DataStore.h"
 
@@ -16,9 +17,10 @@ class MeasuringWeekPanel final : public SidePanel {
 public:
     MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod& displayPeriod, QWidget* parent);
 
-    void LoadData();
+    void LoadData() { showing.want(); }
 
 private:
+    void showWeek();
     QLayout* makeChoices();
     void showMeans(const MeasuringWeek& week);
     void showCounts(const MeasuringWeek& week);
@@ -35,6 +37,7 @@ private:
     QLabel* lblWeekMissing;
     QLabel* lblWeekCount;
     QLabel* lblWeekZone; ///< empty unless readings of another time zone are among them
+    SeenWork showing{*this, [this] { showWeek(); }};
 };
 
 } // namespace zel

@@ -38,8 +38,8 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     column->addWidget(period);
     column->addLayout(body, 1);
     connect(&needed.period, &DisplayPeriod::changed, this, &ReadingFrame::showHeading);
-    connect(&needed.store, &DataStore::reloaded, this, &ReadingFrame::showHeading);
-    connect(&needed.store, &DataStore::currentIDChanged, this, &ReadingFrame::showHeading);
+    connect(&needed.store, &DataStore::reloaded, this, &ReadingFrame::summarize);
+    connect(&needed.store, &DataStore::currentIDChanged, this, &ReadingFrame::summarize);
     connect(commentPanel, &CommentViewController::wanted, this, [this] { btnSide->setChecked(true); });
     connect(
         commentPanel, &CommentViewController::wanted, side,
@@ -91,10 +91,17 @@ QWidget* ReadingFrame::makeSide() {
     return scroll;
 }
 
-void ReadingFrame::showHeading() {
+/// The period changes far more often than what there is at all.
+void ReadingFrame::summarize() {
+    summary = QString();
+    showHeading();
+}
+
+void ReadingFrame::writeHeading() {
+    if (summary.isNull()) summary = readingSummary(parts.store);
     const ReadingCount count =
         countReadings(parts.store.getReadingForCurID(), parts.period.selection(), counts);
-    QString detail = readingSummary(parts.store);
+    QString detail = summary;
     if (count.listedExcluded > 0)
         detail = qtTrId("readingsListed").arg(detail, describe(count));
     else if (!describeLeftOut(count).isEmpty())
@@ -113,7 +120,7 @@ void ReadingFrame::setRule(CountRule rule) {
 }
 
 void ReadingFrame::LoadData() {
-    showHeading();
+    summarize();
     period->LoadData();
     statisticPanel->LoadData();
     weekPanel->LoadData();
@@ -121,7 +128,7 @@ void ReadingFrame::LoadData() {
 }
 
 void ReadingFrame::UpdateUIBySetting() {
-    showHeading();
+    summarize();
     period->UpdateUIBySetting();
     statisticPanel->LoadData();
     weekPanel->LoadData();

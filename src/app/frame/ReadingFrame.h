@@ -2,6 +2,7 @@
 
 #include "analysis/DisplayPeriod.h"
 #include "analysis/ReadingCount.h"
+#include "app/widgets/SeenWork.h"
 #include "store/Clock.h"
 #include "store/DataStore.h"
 
@@ -47,7 +48,9 @@ protected:
 private:
     QWidget* makeHead();
     QWidget* makeSide();
-    void showHeading();
+    void showHeading() { headed.want(); }
+    void writeHeading();
+    void summarize();
 
     [[nodiscard]] bool isTooNarrow() const;
 
@@ -61,8 +64,10 @@ private:
     QToolButton* btnSide;
     QWidget* side;
     QString note;
+    QString summary; ///< of all readings, whatever the period
     CountRule counts = isListed;
     bool isNarrow = false;
+    SeenWork headed{*this, [this] { writeHeading(); }};
 };
 
 } // namespace zel

@@ -74,18 +74,15 @@ StatisticView::StatisticView(const DataStore& dataStore, const DisplayPeriod& di
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-StatisticFigures StatisticView::figures() const {
-    return calcStatistic(store.getReadingForCurID(), period.selection(), showsMap());
-}
-
 void StatisticView::calc() {
-    setAccessibleDescription(words(figures()));
+    figures = calcStatistic(store.getReadingForCurID(), period.selection(), showsMap());
+    setAccessibleDescription(words());
     updateGeometry();
     update();
 }
 
 QSize StatisticView::sizeHint() const {
-    const Cells cells = cellsOf(figures(), showsMap());
+    const Cells cells = cellsOf(figures, showsMap());
     const int lines = static_cast<int>(cells.size());
     return {columnEnds(cells, fontMetrics()).back(), lines * (fontMetrics().height() + Style::tight)};
 }
@@ -93,7 +90,7 @@ QSize StatisticView::sizeHint() const {
 /// In the panel's own type, unless the words of the language need more room than there is.
 void StatisticView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const Cells cells = cellsOf(figures(), showsMap());
+    const Cells cells = cellsOf(figures, showsMap());
     const Ends ends = columnEnds(cells, fontMetrics());
     const double scale = std::min(1.0, static_cast<double>(width()) / std::max(1, ends.back()));
     painter.scale(scale, scale);
@@ -108,29 +105,28 @@ void StatisticView::paintEvent(QPaintEvent*) {
 }
 
 std::vector<QStringList> StatisticView::spokenRows() const {
-    const StatisticFigures statistic = figures();
     const auto row = [](const QString& name, const MeasureStatistic& measure) {
         return QStringList{name, maxString(static_cast<std::uint32_t>(measure.average)),
                            minString(measure.minimum), maxString(measure.maximum)};
     };
     return {{accessibleName(), qtTrId("average"), qtTrId("min"), qtTrId("max")},
-            row(qtTrId("spokenSys"), statistic.sys),
-            row(qtTrId("spokenDia"), statistic.dia),
-            row(qtTrId("spokenPulse"), statistic.pulse),
-            row(showsMap() ? qtTrId("spokenMap") : qtTrId("spokenPP"), statistic.mapOrPP)};
+            row(qtTrId("spokenSys"), figures.sys),
+            row(qtTrId("spokenDia"), figures.dia),
+            row(qtTrId("spokenPulse"), figures.pulse),
+            row(showsMap() ? qtTrId("spokenMap") : qtTrId("spokenPP"), figures.mapOrPP)};
 }
 
-QString StatisticView::words(const StatisticFigures& statistic) const {
+QString StatisticView::words() const {
     QStringList lines;
     const auto add = [&lines](const QString& name, const MeasureStatistic& measure) {
         const auto average = static_cast<std::uint32_t>(measure.average);
         lines += qtTrId("spokenMeasure")
                      .arg(name, maxString(average), minString(measure.minimum), maxString(measure.maximum));
     };
-    add(qtTrId("spokenSys"), statistic.sys);
-    add(qtTrId("spokenDia"), statistic.dia);
-    add(qtTrId("spokenPulse"), statistic.pulse);
-    add(showsMap() ? qtTrId("spokenMap") : qtTrId("spokenPP"), statistic.mapOrPP);
+    add(qtTrId("spokenSys"), figures.sys);
+    add(qtTrId("spokenDia"), figures.dia);
+    add(qtTrId("spokenPulse"), figures.pulse);
+    add(showsMap() ? qtTrId("spokenMap") : qtTrId("spokenPP"), figures.mapOrPP);
     return lines.join(u'\n');
 }
 

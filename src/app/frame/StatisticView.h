@@ -9,7 +9,7 @@
 
 namespace zel {
 
-/// The table of averages, minima and maxima, computed anew each time it is drawn.
+/// The table of averages, minima and maxima.
 class StatisticView final : public QWidget, public SpokenTable {
     Q_OBJECT
 public:
@@ -24,12 +24,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] StatisticFigures figures() const;
     [[nodiscard]] bool showsMap() const { return store.getSetting().showPPorMap != 0; }
-    [[nodiscard]] QString words(const StatisticFigures& statistic) const;
+    [[nodiscard]] QString words() const;
 
     const DataStore& store;
     const DisplayPeriod& period;
+    StatisticFigures figures; ///< kept, as a layout asks for the size many times
 };
 
 } // namespace zel

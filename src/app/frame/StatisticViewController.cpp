@@ -52,7 +52,7 @@ StatisticViewController::StatisticViewController(const DataStore& dataStore, Dis
     });
 }
 
-void StatisticViewController::LoadData() {
+void StatisticViewController::showFigures() {
     lblPatient->setText(narrowPatientHeading(store));
     lblPatient->setAccessibleName(patientHeading(store));
     setSelectViewUI();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/DisplayPeriod.h"
+#include "app/widgets/SeenWork.h"
 #include "app/widgets/SidePanel.h"
 #include "store/DataStore.h"
 
@@ -16,11 +17,11 @@ class StatisticViewController final : public SidePanel {
 public:
     StatisticViewController(const DataStore& dataStore, DisplayPeriod& displayPeriod, QWidget* parent);
 
-    void LoadData();
+    void LoadData() { showing.want(); }
     void calcStattistic(); // spelled so in the interface
 
-protected:
 private:
+    void showFigures();
     void setSelectViewUI();
     [[nodiscard]] QString counted() const;
 
@@ -30,6 +31,7 @@ private:
     StatisticView* view;
     QLabel* lblCount;
     QCheckBox* btnViewAll;
+    SeenWork showing{*this, [this] { showFigures(); }};
 };
 
 } // namespace zel

@@ -14,7 +14,7 @@ CorrelationView::CorrelationView(const DataStore& dataStore, const DisplayPeriod
     reload();
 }
 
-void CorrelationView::reload() {
+void CorrelationView::read() {
     setAccessibleDescription(words());
     invalidate();
 }

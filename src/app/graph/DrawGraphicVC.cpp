@@ -13,6 +13,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -47,7 +48,7 @@ DrawGraphicVC::DrawGraphicVC(const DataStore& dataStore, DisplayPeriod& displayP
     grid->setRowStretch(1, pulseShare);
     connect(&store, &DataStore::reloaded, this, &DrawGraphicVC::reload);
     connect(&store, &DataStore::currentIDChanged, this, &DrawGraphicVC::reload);
-    connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::showPeriod);
+    connect(&period, &DisplayPeriod::changed, this, &DrawGraphicVC::takePeriod);
     connect(pointed, &PointedReading::changed, this, [this] {
         if (!pointed->reading()) describe(); // the charts have said that reading's values until now
         emit chosenReadingChanged();
@@ -91,7 +92,7 @@ QScrollBar* DrawGraphicVC::addTimeScroller() {
 
 /// The reading pointed at may be gone already: it is forgotten before anybody asks where its marks were.
 void DrawGraphicVC::forgetPointed() {
-    menuReading = nullptr;
+    if (std::exchange(menuReading, nullptr)) emit chosenReadingChanged();
     bloodView->invalidate();
     pulseView->invalidate();
     pointed->forget();
@@ -99,20 +100,29 @@ void DrawGraphicVC::forgetPointed() {
 
 void DrawGraphicVC::reload() {
     forgetPointed();
-    source.data = makeChartData(store.getReadingForCurID(), store.getTrasferLogForCurID());
-    source.zone = LocalZone();
-    showPeriod();
+    isRead = false;
+    if (!isVisible()) source.data = {}; // it points at readings that are gone
+    takePeriod();
 }
 
-void DrawGraphicVC::showPeriod() {
+void DrawGraphicVC::takePeriod() {
     forgetPointed();
     source.period = period.getTimePeriod();
     source.view = period.getSelectViewIndex();
     source.sysStandard = store.getSetting().sysStandard;
     source.diaStandard = store.getSetting().diaStandard;
+    setTimeScrollRange();
+    showing.want();
+}
+
+void DrawGraphicVC::showPeriod() {
+    if (!isRead) {
+        source.data = makeChartData(store.getReadingForCurID(), store.getTrasferLogForCurID());
+        source.zone = LocalZone();
+        isRead = true;
+    }
     bloodView->invalidate();
     pulseView->invalidate();
-    setTimeScrollRange();
     describe();
 }
 

@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "app/graph/ChartComments.h"
 #include "app/graph/ChartView.h"
+#include "app/widgets/SeenWork.h"
 
 class QScrollBar;
 
@@ -49,6 +50,7 @@ private:
     QScrollBar* addValueScroller(const QString& name, const QString& title, ChartView& view);
     QScrollBar* addTimeScroller();
     void setTimePeriod(const Period& period);
+    void takePeriod();
     void showPeriod();
     void setTimeScrollRange();
     void move(int days);
@@ -63,6 +65,7 @@ private:
     const DataStore& store;
     DisplayPeriod& period;
     ChartSource source;
+    bool isRead = false; ///< the source has the patient's readings
     BloodView* bloodView;
     PulseView* pulseView;
     PointedReading* pointed;
@@ -72,6 +75,7 @@ private:
     QScrollBar* pulseScroller;
     QScrollBar* timeScroller;
     QPoint wheelled; ///< parts of a wheel's step, of both axes, that did not make a move yet
+    SeenWork showing{*this, [this] { showPeriod(); }};
 };
 
 } // namespace zel

@@ -30,7 +30,7 @@ HistogramView::HistogramView(const DataStore& dataStore, const DisplayPeriod& di
     reload();
 }
 
-void HistogramView::reload() {
+void HistogramView::read() {
     figures = calcHistogram(store.getReadingForCurID(), period.selection(), figures);
     offScale = histogramOffScale(store.getReadingForCurID(), period.selection());
     setAccessibleDescription(words());

@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "analysis/Histogram.h"
 #include "app/widgets/PictureView.h"
+#include "app/widgets/SeenWork.h"
 #include "chart/DrawHistogram.h"
 #include "store/DataStore.h"
 
@@ -13,18 +14,20 @@ class HistogramView final : public PictureView {
     Q_OBJECT
 public:
     HistogramView(const DataStore& dataStore, const DisplayPeriod& displayPeriod, QWidget* parent);
-    void reload();
+    void reload() { reading.want(); }
 
 protected:
     [[nodiscard]] Picture makePicture(const Rect& rect) override;
 
 private:
+    void read();
     [[nodiscard]] QString words() const;
 
     const DataStore& store;
     const DisplayPeriod& period;
     HistogramFigures figures; ///< their percent axes stay where no reading counts
     HistogramOffScale offScale{};
+    SeenWork reading{*this, [this] { read(); }};
 };
 
 } // namespace zel

@@ -1,6 +1,7 @@
 #include "app/graph/PointedReading.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 
@@ -59,14 +60,14 @@ void PointedReading::hideInfo() {
 }
 
 void PointedReading::point(const ReadingModel* reading) {
-    pointed = reading;
+    const bool isOther = std::exchange(pointed, reading) != reading;
     for (ChartView* chart : charts)
         chart->setPointed(reading);
     if (!reading) {
         hideInfo();
         isHovering = false;
     }
-    emit changed();
+    if (isOther) emit changed(); // what is said of all readings takes a while
 }
 
 void PointedReading::hover(ChartView& chart, const ReadingModel* reading, QPoint mark) {

@@ -27,7 +27,7 @@ TrendView::TrendView(const DataStore& dataStore, const DisplayPeriod& displayPer
     reload();
 }
 
-void TrendView::reload() {
+void TrendView::read() {
     trend = calcTrendSeries(store.getReadingForCurID(), period.selection(), apart);
     invalidate();
 }

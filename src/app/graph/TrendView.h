@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "app/graph/BPInfoView.h"
 #include "app/widgets/PictureView.h"
+#include "app/widgets/SeenWork.h"
 #include "chart/DrawTrend.h"
 #include "store/DataStore.h"
 
@@ -18,7 +19,7 @@ class TrendView final : public PictureView {
     Q_OBJECT
 public:
     TrendView(const DataStore& dataStore, const DisplayPeriod& displayPeriod, QWidget* parent);
-    void reload();
+    void reload() { reading.want(); }
     void invalidate() override;
     void setApart(bool mornings); ///< mornings and evenings as lines of their own
     [[nodiscard]] bool isApart() const { return apart; }
@@ -34,6 +35,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void read();
     const TrendLayout& layout();
     [[nodiscard]] const TrendColumn* pointedColumn();
     void point(std::optional<DayNumber> step);
@@ -49,6 +51,7 @@ private:
     std::optional<DayNumber> pointed; ///< begin of the step
     bool isHovering = false;          ///< the pointer has come to it, not the keys
     QPointer<BPInfoView> infoView;    ///< the window's child, as it may reach over everything in it
+    SeenWork reading{*this, [this] { read(); }};
 };
 
 } // namespace zel

@@ -191,8 +191,8 @@ void AppController::displayViewController(PageController& controller, int tabTag
     PageController& left = pageInView();
     if (&left != &controller && !left.leave()) return showPageInView();
     follower->prepare();
+    controller.LoadData(); // before it shows, when all is computed once
     window.showPage(controller);
-    controller.LoadData();
 }
 
 /// The tabs and panels of the page that stays in view, as it is not to be left.

@@ -7,8 +7,9 @@
 namespace zel {
 
 KeptSelection::Row KeptSelection::rowOf(const ReadingTableModel& model, int number) {
-    const ReadingModel& reading = model.row(number);
-    return {reading.RecID, reading.day, reading.minuteOfDay, reading.isNA};
+    const ReadingRow& row = model.rowAt(number);
+    if (row.isNA()) return {QString(), row.day, 0, true};
+    return {row.reading->RecID, row.day, row.reading->minuteOfDay, false};
 }
 
 KeptSelection::KeptSelection(const QTableView& table, const ReadingTableModel& model)

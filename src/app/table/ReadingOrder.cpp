@@ -10,12 +10,12 @@
 
 namespace zel {
 
-SortKeys keysOf(const std::vector<ReadingModel>& rows,
+SortKeys keysOf(const std::vector<ReadingRow>& rows,
                 std::optional<std::int64_t> (*key)(const ReadingModel&)) {
     SortKeys keys;
     keys.reserve(rows.size());
-    for (const ReadingModel& row : rows)
-        keys.push_back(row.isNA ? std::nullopt : key(row));
+    for (const ReadingRow& row : rows)
+        keys.push_back(row.isNA() ? std::nullopt : key(*row.reading));
     return keys;
 }
 

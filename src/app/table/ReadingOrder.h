@@ -1,7 +1,7 @@
 #pragma once
 // The order in which the table shows its rows, which are by date as they come.
 
-#include "store/ReadingModel.h"
+#include "analysis/ReadingRows.h"
 
 #include <QString>
 
@@ -16,7 +16,7 @@ using SortKeys = std::vector<std::optional<std::int64_t>>;
 
 /// One key for each number or time, or other whole value, of a row's reading. Days without a reading have
 /// none.
-[[nodiscard]] SortKeys keysOf(const std::vector<ReadingModel>& rows,
+[[nodiscard]] SortKeys keysOf(const std::vector<ReadingRow>& rows,
                               std::optional<std::int64_t> (*key)(const ReadingModel&));
 /// Keys in the order of the texts as the language sorts them, whatever their case; none for an empty one.
 [[nodiscard]] SortKeys keysOf(const std::vector<QString>& texts);

@@ -98,7 +98,7 @@ void ReadingTableItemView::paint(QPainter* painter, const QStyleOptionViewItem& 
 
 void ReadingTableItemView::drawBackground(QPainter& painter, const QStyleOptionViewItem& option,
                                           const QModelIndex& index) const {
-    const ReadingModel& row = model.row(index.row());
+    const ReadingModel row = model.row(index.row());
     const ScreenColours colours = Style::picture(option.palette);
     const QColor yellow = shade(fixColor(gcYellowBackgroundcolor), colours);
     painter.fillRect(option.rect, row.bYellowBackground ? yellow : colours.paper);
@@ -116,7 +116,7 @@ void ReadingTableItemView::drawBackground(QPainter& painter, const QStyleOptionV
 }
 
 void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
-    const ReadingModel& row = model.row(index.row());
+    const ReadingModel row = model.row(index.row());
     const int column = index.column();
     if (column == ReadingTableModel::comment) drawComment(painter, cell, index);
     if (row.isNA && column != ReadingTableModel::date) return drawPlaceholder(painter, cell, column);
@@ -132,7 +132,7 @@ void ReadingTableItemView::drawCell(QPainter& painter, const QRect& cell, const 
 /// no row at all shows where it would begin.
 void ReadingTableItemView::drawComment(QPainter& painter, const QRect& cell, const QModelIndex& index) const {
     constexpr int width = 10;
-    const ReadingModel& row = model.row(index.row());
+    const ReadingModel row = model.row(index.row());
     const QRect beside = cell.adjusted(margin + width, 0, 0, 0);
     const QString remark = describeRemark(row);
     const ScreenColours colours = Style::picture(view.palette());

@@ -1,7 +1,6 @@
 #include "app/table/ReadingTableModel.h"
 
 #include "analysis/HighValues.h"
-#include "analysis/ReadingRows.h"
 #include "store/ManualReading.h"
 #include "store/RecordXml.h"
 
@@ -9,7 +8,7 @@
 
 #include <algorithm>
 #include <numeric>
-#include <unordered_map>
+#include <utility>
 
 namespace zel {
 
@@ -17,12 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Comments = std::unordered_map<const CommentModel*, const CommentModel*>;
-
-ReadingModel copyOf(const ReadingRow& row, const Comments& copies) {
+/// The reading with what the list knows of its row.
+ReadingModel shownReading(const ReadingRow& row) {
     ReadingModel copy = row.isNA() ? ReadingModel::initNA(row.ReadingDate) : *row.reading;
     copy.day = row.day;
-    copy.comment = row.comment ? copies.at(row.comment) : nullptr;
+    copy.comment = row.comment;
     copy.bAtBegin = row.bAtBegin;
     copy.bAtEnd = row.bAtEnd;
     copy.bDrawTopLine = row.bDrawTopLine;
@@ -46,22 +44,28 @@ QString oneLine(const QString& text) { return text.simplified(); }
 } // namespace
 
 ReadingTableModel::ReadingTableModel(const DataStore& readings, QObject* parent)
-    : QAbstractTableModel(parent), store(readings) {}
+    : QAbstractTableModel(parent), store(readings) {
+    const auto forget = [this] { isCopied = false; };
+    connect(&store, &DataStore::reloaded, this, forget);
+    connect(&store, &DataStore::currentIDChanged, this, forget);
+}
+
+void ReadingTableModel::copyRecords() {
+    readings = store.getReadingForCurID();
+    for (ReadingModel& reading : readings)
+        reading.comment = nullptr; // the store's own, which goes with the next load
+    comments.clear();
+    for (const auto& each : store.getCommentForCurID())
+        comments.push_back(std::make_unique<CommentModel>(*each));
+    isCopied = true;
+}
 
 void ReadingTableModel::reload(const ReadingSelection& selection) {
     beginResetModel();
-    const CommentList& noted = store.getCommentForCurID();
-    const ReadingRows list = assembleReadingRows(
-        {store.getReadingForCurID(), noted, store.getTrasferLogForCurID(), selection}, LocalZone());
-    comments.clear();
-    comments.reserve(noted.size()); // the rows point into it
-    Comments copies;
-    for (const auto& each : noted)
-        copies[each.get()] = &comments.emplace_back(*each);
-    rows.clear();
-    rows.reserve(list.rows.size());
-    for (const ReadingRow& row : list.rows)
-        rows.push_back(copyOf(row, copies));
+    if (!isCopied) copyRecords();
+    ReadingRows list =
+        assembleReadingRows({readings, comments, store.getTrasferLogForCurID(), selection}, LocalZone());
+    rows = std::move(list.rows);
     anyAFib = list.isAFib;
     anyPad = list.isPad;
     cut = describeCut(list);
@@ -88,8 +92,8 @@ SortKeys ReadingTableModel::keys() const {
     }
     std::vector<QString> texts;
     texts.reserve(rows.size());
-    for (const ReadingModel& each : rows)
-        texts.push_back(text(each, comment));
+    for (const ReadingRow& each : rows)
+        texts.push_back(text(shownReading(each), comment));
     return keysOf(texts);
 }
 
@@ -132,26 +136,28 @@ int ReadingTableModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : columnTotal;
 }
 
-const ReadingModel& ReadingTableModel::row(int number) const {
+ReadingModel ReadingTableModel::row(int number) const { return shownReading(rowAt(number)); }
+
+const ReadingRow& ReadingTableModel::rowAt(int number) const {
     return rows.at(static_cast<std::size_t>(places.at(static_cast<std::size_t>(number))));
 }
 
 bool ReadingTableModel::beginsComment(int number) const {
-    return row(number).comment && (number == 0 || row(number - 1).comment != row(number).comment);
+    return rowAt(number).comment && (number == 0 || rowAt(number - 1).comment != rowAt(number).comment);
 }
 
 bool ReadingTableModel::endsComment(int number) const {
-    return row(number).comment
-           && (number + 1 == rowCount() || row(number + 1).comment != row(number).comment);
+    return rowAt(number).comment
+           && (number + 1 == rowCount() || rowAt(number + 1).comment != rowAt(number).comment);
 }
 
 bool ReadingTableModel::beginsDay(int number) const {
-    return sortedBy == date && number > 0 && row(number).day != row(number - 1).day;
+    return sortedBy == date && number > 0 && rowAt(number).day != rowAt(number - 1).day;
 }
 
 QVariant ReadingTableModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    const ReadingModel& reading = row(index.row());
+    const ReadingModel reading = row(index.row());
     const auto column = static_cast<Column>(index.column());
     if (role == Qt::DisplayRole) return text(reading, column);
     if (role == Qt::AccessibleTextRole) return spoken(index);
@@ -193,7 +199,7 @@ QString ReadingTableModel::text(const ReadingModel& reading, Column column) cons
 }
 
 bool ReadingTableModel::isHigh(const QModelIndex& index) const {
-    const ReadingModel& reading = row(index.row());
+    const ReadingModel reading = row(index.row());
     if (reading.isNA) return false;
     const LimitPair limits = store.viewLimits().limits();
     if (index.column() == sys) return isSysHigh(reading, limits);
@@ -201,7 +207,7 @@ bool ReadingTableModel::isHigh(const QModelIndex& index) const {
 }
 
 QString ReadingTableModel::words(const QModelIndex& index) const {
-    const ReadingModel& reading = row(index.row());
+    const ReadingModel reading = row(index.row());
     switch (static_cast<Column>(index.column())) {
     case date:
     case comment: break;
@@ -214,7 +220,7 @@ QString ReadingTableModel::words(const QModelIndex& index) const {
 }
 
 QString ReadingTableModel::spoken(const QModelIndex& index) const {
-    const ReadingModel& reading = row(index.row());
+    const ReadingModel reading = row(index.row());
     if (index.column() == date && reading.isNA) return qtTrId("dayWithoutReading").arg(words(index));
     const QString said = words(index);
     if (index.column() == comment) return said.isEmpty() ? qtTrId("none") : said;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/ReadingSelection.h"
+#include "analysis/ReadingRows.h"
 #include "app/table/ReadingOrder.h"
 #include "store/DataStore.h"
 
@@ -10,8 +10,9 @@
 
 namespace zel {
 
-/// The list of readings that the page shows, a copy: the store's own are replaced with each load. Texts are
-/// made when a row is shown.
+/// The list of readings that the page shows. The patient's records are copied, as the store's own are
+/// replaced with each load, but only when they are others: a period of them is rows that point at the copies.
+/// Texts are made when a row is shown.
 class ReadingTableModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -39,7 +40,11 @@ public:
     /// The settings or the limits may have changed, on which texts and titles depend.
     void refreshTexts();
     /// Rows are numbered as they are shown.
-    [[nodiscard]] const ReadingModel& row(int number) const;
+    [[nodiscard]] ReadingModel row(int number) const;
+    /// The reading of a row, without what the list knows of it, until the next reload(); null for a day
+    /// without one.
+    [[nodiscard]] const ReadingModel* readingAt(int number) const { return rowAt(number).reading; }
+    [[nodiscard]] const ReadingRow& rowAt(int number) const;
     /// The row is the first of its comment's, or the last, among those that follow each other.
     [[nodiscard]] bool beginsComment(int number) const;
     [[nodiscard]] bool endsComment(int number) const;
@@ -53,6 +58,7 @@ public:
     [[nodiscard]] QString words(const QModelIndex& index) const;
 
 private:
+    void copyRecords();
     [[nodiscard]] static QString toolTip(const ReadingModel& reading, Column column);
     [[nodiscard]] QString text(const ReadingModel& reading, Column column) const;
     [[nodiscard]] QString spoken(const QModelIndex& index) const;
@@ -60,11 +66,13 @@ private:
     void putInOrder();
 
     const DataStore& store;
-    std::vector<ReadingModel> rows; ///< by date
-    std::vector<int> places;        ///< in rows, of those that are shown one below the other
+    bool isCopied = false;        ///< the records are those of the store
+    ReadingList readings;         ///< that the rows point at
+    CommentList comments;         ///< likewise
+    std::vector<ReadingRow> rows; ///< by date
+    std::vector<int> places;      ///< in rows, of those that are shown one below the other
     int sortedBy = date;
     Qt::SortOrder order = Qt::AscendingOrder;
-    std::vector<CommentModel> comments; ///< that the rows point at
     QString markTitle;
     QString cut;
     bool anyAFib = false;

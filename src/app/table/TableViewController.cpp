@@ -147,7 +147,7 @@ void TableViewController::addActions() {
 
 /// What is selected stays so where it can, of the same patient. Who looks at the latest readings goes on to
 /// see them.
-void TableViewController::reload() {
+void TableViewController::listReadings() {
     QScrollBar& scrolled = *tblReadings->verticalScrollBar();
     const int value = scrolled.value();
     const bool wasAtEnd = value == scrolled.maximum();
@@ -238,7 +238,7 @@ void TableViewController::setPadTitle() {
 
 void TableViewController::chooseComment(const QModelIndex& index) {
     if (!index.isValid() || !frame->isDisplayingComment()) return;
-    if (const CommentModel* comment = readingModelArray->row(index.row()).comment)
+    if (const CommentModel* comment = readingModelArray->rowAt(index.row()).comment)
         frame->comments().setCommentScroll(QString(comment->CommentID)); // the list is read anew meanwhile
 }
 
@@ -248,7 +248,7 @@ std::vector<const ReadingModel*> TableViewController::chosenReadings() const {
     if (!tblReadings->selectionModel()) return chosen;
     for (const QItemSelectionRange& range : tblReadings->selectionModel()->selection())
         for (int row = range.top(); row <= range.bottom(); ++row)
-            if (!readingModelArray->row(row).isNA) chosen.push_back(&readingModelArray->row(row));
+            if (const ReadingModel* reading = readingModelArray->readingAt(row)) chosen.push_back(reading);
     return chosen;
 }
 

@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "app/device/MonitorStatus.h"
 #include "app/widgets/PageController.h"
+#include "app/widgets/SeenWork.h"
 #include "store/Clock.h"
 #include "store/DataStore.h"
 
@@ -59,7 +60,8 @@ private:
     void followSorting();
     void addBoxes();
     void addActions();
-    void reload();
+    void reload() { listing.want(); }
+    void listReadings();
     void chooseComment(const QModelIndex& index);
     void copyRows();
     [[nodiscard]] std::vector<const ReadingModel*> chosenReadings() const;
@@ -77,6 +79,7 @@ private:
     QCheckBox* btnShowPad;
     QString listedPatient; ///< whose readings are in the list
     ReadingActions* readingActions;
+    SeenWork listing{*this, [this] { listReadings(); }};
 };
 
 } // namespace zel

@@ -1,0 +1,245 @@
+// What a user does in the main window, over 100,000 readings of one patient and 2,000 patients: from the key
+// or the mouse until the window has been painted. Each row is the slowest of 200 such steps, in processor
+// time: nothing of them waits.
+
+#include "Figure.h"
+#include "LongHistory.h"
+#include "app/shell/GlobalVar.h"
+#include "app/widgets/OutlineStyle.h"
+#include "monitor/HidPort.h"
+#include "store/AtomicFile.h"
+#include "store/Languages.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+using namespace zel;
+using namespace Qt::StringLiterals;
+
+constexpr double aFrame = 16; ///< milliseconds
+
+StorePaths pathsIn(const QString& home) {
+    return {.home = home, .applicationFolder = home, .templateFolder = u":/templates"_s};
+}
+
+/// Counts what is painted, so that no step is measured that shows nothing.
+class Paints final : public QObject {
+public:
+    explicit Paints(bool small) : isSmall(small) { qApp->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+    bool isSmall;
+};
+
+/// The whole program over a made data file, without its own process.
+class Window {
+public:
+    Window(int patients, int readings) {
+        SystemClock real;
+        const QString file = DataFile(pathsIn(home.path()), real).getZELXMLPath();
+        QDir{}.mkpath(QFileInfo{file}.path());
+        if (!replaceFile(file, makeLongHistory(patients, readings))) std::abort();
+        using namespace std::chrono_literals;
+        program =
+            std::make_unique<GlobalVar>(pathsIn(home.path()), std::make_unique<HidPort>(), clock,
+                                        AppController::Timing{.polling = 1h, .splash = 1ms, .watching = 1h});
+        if (!program->loaded) std::abort();
+        program->appController.awakeFromNib(program->loaded);
+        program->appController.applicationDidFinishLaunching(program->loaded);
+        program->appController.mainWndow().resize(1400, 900);
+        program->store.setCurrentID(u"P00000"_s);
+        settle();
+    }
+
+    static void settle() {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(); // what the first round posted
+    }
+    template <class W = QWidget>
+    W& find(const char* name, const QString& page = u"mainWndow"_s) {
+        QWidget& window = program->appController.mainWndow();
+        auto* parent = page == window.objectName() ? &window : window.findChild<QWidget*>(page);
+        auto* widget = parent->findChild<W*>(QLatin1StringView(name));
+        if (!widget) qFatal("no widget %s", name);
+        return *widget;
+    }
+    void showPeriod(int days) {
+        const Instant end = program->period.getDataPeriod().end;
+        program->period.setTimePeriod(end - std::chrono::days{days}, end);
+        settle();
+    }
+    [[nodiscard]] int daysOfData() const {
+        return static_cast<int>(
+            DayDiff(program->period.getDataPeriod().begin, program->period.getDataPeriod().end));
+    }
+
+private:
+    QTemporaryDir home;
+    SystemClock clock;
+    std::unique_ptr<GlobalVar> program;
+};
+
+void mouse(QWidget& to, QEvent::Type type, QPoint where, Qt::MouseButtons held) {
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, where, to.mapToGlobal(where), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&to, &event);
+}
+
+void click(QWidget& button) {
+    const QPoint where(8, button.height() / 2);
+    mouse(button, QEvent::MouseButtonPress, where, Qt::LeftButton);
+    mouse(button, QEvent::MouseButtonRelease, where, Qt::NoButton);
+}
+
+void press(QWidget& to, int key, const QString& text) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(&to, &event);
+    }
+}
+
+/// Each of 200 steps is done in three rounds, and its best one counts, which leaves out what else the
+/// computer does, but not what the step itself takes. The rounds begin alike.
+void measure(const std::string& what, Paints& paints, const std::function<void(int)>& step) {
+    constexpr int rounds = 3;
+    const int steps = paints.isSmall ? 10 : 200;
+    std::vector<double> best(static_cast<std::size_t>(steps), 1e9);
+    const int before = paints.count;
+    for (int round = 0; round < rounds; ++round) {
+        for (int number = 0; number < steps; ++number) {
+            const double taken = processorSeconds([&] {
+                step(number);
+                Window::settle();
+            });
+            best[static_cast<std::size_t>(number)] = std::min(best[static_cast<std::size_t>(number)], taken);
+        }
+    }
+    if (paints.count - before < steps * rounds) qFatal("%s: most steps show nothing", what.c_str());
+    const double slowest = std::ranges::max(best);
+    print({.what = what, .unit = "ms", .ours = 1000 * slowest, .against = {}, .target = aFrame});
+}
+
+void measureSearch(Window& window, Paints& paints) {
+    auto& field = window.find("searchPatients");
+    const QString typed = u"1999\b\b\b\bx\b"_s;
+    measure("A key in the search", paints, [&](int number) {
+        const QChar key = typed[number % typed.size()];
+        if (key == u'\b') return press(field, Qt::Key_Backspace, {});
+        press(field, key.toUpper().unicode(), key);
+    });
+}
+
+void measurePages(Window& window, Paints& paints) {
+    constexpr std::array tabs{"graphBtn", "tableBtn", "patientBtn"};
+    for (const bool all : {false, true}) {
+        window.showPeriod(all ? window.daysOfData() : 90);
+        measure(all ? "A page switch, all days in view" : "A page switch, 90 days in view", paints,
+                [&](int number) { click(window.find(tabs.at(static_cast<std::size_t>(number) % 3))); });
+        click(window.find("patientBtn"));
+    }
+}
+
+void measurePeriods(Window& window, Paints& paints, const QString& page, const std::string& where) {
+    constexpr std::array choices{"viewAll", "viewLast30", "viewAll", "viewWeek", "viewLast90", "viewLast7"};
+    measure("A period change, " + where, paints, [&](int number) {
+        click(window.find(choices.at(static_cast<std::size_t>(number) % choices.size()), page));
+    });
+}
+
+void measureViews(Window& window, Paints& paints) {
+    const QString page = u"GraphViewController"_s;
+    constexpr std::array views{"toggleHistogram", "toggleCorrelation", "toggleTrend"};
+    constexpr std::array names{"histogram", "correlation", "trend"};
+    for (std::size_t view = 0; view < views.size(); ++view) {
+        click(window.find(views.at(view), page));
+        measurePeriods(window, paints, page, names.at(view));
+    }
+    click(window.find("toggleGraph", page));
+}
+
+void measureHover(Window& window, Paints& paints) {
+    window.showPeriod(window.daysOfData());
+    auto& chart = window.find("BloodView");
+    measure("A hover, all days in view", paints, [&](int number) {
+        mouse(chart, QEvent::MouseMove,
+              {100 + number * 37 % (chart.width() - 150), chart.height() / 2 + number % 9}, Qt::NoButton);
+    });
+}
+
+/// Back and forth, so that each step goes elsewhere.
+int swing(int number, int range) {
+    return number % 2 == 0 ? number * range / 200 : range - number * range / 200;
+}
+
+void measureDrags(Window& window, Paints& paints) {
+    window.showPeriod(window.daysOfData());
+    const auto drag = [&](const char* name, const std::string& what) {
+        auto& bar = window.find<QScrollBar>(name);
+        bar.setSliderDown(true);
+        measure(what, paints, [&](int number) { bar.setSliderPosition(swing(number, bar.maximum())); });
+        bar.setSliderDown(false);
+    };
+    drag("bloodScroller", "A drag of the pressure scale, all days in view");
+    window.showPeriod(window.daysOfData() / 2);
+    drag("timeScroller", "A drag along time, half of all days in view");
+    window.showPeriod(90);
+    drag("timeScroller", "A drag along time, 90 days in view");
+}
+
+void measureComment(Window& window, Paints& paints) {
+    window.showPeriod(40);
+    auto& chart = window.find("PulseView");
+    // The last comment begins 30 days before the end, and lasts three.
+    const int right = chart.width() - 1, strip = chart.height() - 22;
+    const auto at = [&](double days) {
+        return QPoint(right - static_cast<int>((right - 40) * days / 41), strip);
+    };
+    mouse(chart, QEvent::MouseMove, at(28), Qt::NoButton);
+    for (double days = 26; days < 32; days += 0.1) { // until an edge is held
+        mouse(chart, QEvent::MouseMove, at(days), Qt::NoButton);
+        if (chart.cursor().shape() != Qt::SizeHorCursor) continue;
+        mouse(chart, QEvent::MouseButtonPress, at(days), Qt::LeftButton);
+        measure("A drag of a comment's edge", paints, [&](int number) {
+            mouse(chart, QEvent::MouseMove, at(22 + number * 7 % 17), Qt::LeftButton);
+        });
+        return;
+    }
+    qFatal("no comment to drag");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "zel.*=false");
+    const QApplication application{argc, argv};
+    QApplication::setStyle(new OutlineStyle);
+    const ProgramTexts texts(english());
+    const bool small = isSmall(argc, argv);
+    Window window(small ? 20 : 2000, small ? 2000 : 100'000);
+    Paints paints(small);
+    measureSearch(window, paints);
+    measurePages(window, paints);
+    click(window.find("tableBtn"));
+    measurePeriods(window, paints, u"TableViewController"_s, "table");
+    click(window.find("graphBtn"));
+    measurePeriods(window, paints, u"GraphViewController"_s, "charts");
+    measureViews(window, paints);
+    measureHover(window, paints);
+    measureDrags(window, paints);
+    measureComment(window, paints);
+    return 0;
+}
