@@ -90,9 +90,9 @@ void SettingController::build() {
     QSize whole = controls->sizeHint();
     whole.setHeight(std::max(whole.height(), inside->heightForWidth(whole.width())));
     whole.rheight() += buttons->sizeHint().height();
-    if (whole.height() > roomFor(*this).height())
-        whole.rwidth() +=
-            scroll->verticalScrollBar()->sizeHint().width(); // or it would need one across as well
+    // With room for its bar, or it would need one across as well.
+    const int bar = scroll->verticalScrollBar()->sizeHint().width();
+    if (whole.height() > roomFor(*this).height()) whole.rwidth() += bar;
     fitToScreen(*this, whole);
 }
 
