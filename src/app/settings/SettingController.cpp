@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -81,13 +82,17 @@ void SettingController::build() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Style::none);
-    column->addWidget(scrolling(u"settingScroll"_s, controls, this), 1);
+    QScrollArea* scroll = scrolling(u"settingScroll"_s, controls, this);
+    column->addWidget(scroll, 1);
     QWidget* buttons = makeButtons();
     column->addWidget(buttons);
     // All of it at once where the screen is large enough; a scroll area by itself would ask for less.
     QSize whole = controls->sizeHint();
     whole.setHeight(std::max(whole.height(), inside->heightForWidth(whole.width())));
     whole.rheight() += buttons->sizeHint().height();
+    // With room for its bar, or it would need one across as well.
+    const int bar = scroll->verticalScrollBar()->sizeHint().width();
+    if (whole.height() > roomFor(*this).height()) whole.rwidth() += bar;
     fitToScreen(*this, whole);
 }
 

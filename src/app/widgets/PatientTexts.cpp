@@ -25,8 +25,8 @@ std::pair<const ReadingModel*, const ReadingModel*> datedSpan(const ReadingList&
 /// The name, or the ID of who has none.
 QString nameOrID(const QString& givenNames, const QString& familyName, const QString& ID,
                  const QString& neither) {
-    const QString name = qtTrId("fullName").arg(givenNames, familyName).simplified();
-    if (!TrimStr(givenNames + familyName).isEmpty()) return name;
+    if (!TrimStr(givenNames + familyName).isEmpty())
+        return qtTrId("fullName").arg(givenNames, familyName).simplified();
     return TrimStr(ID).isEmpty() ? neither : qtTrId("patientIDOnly").arg(ID.simplified());
 }
 

@@ -1,7 +1,9 @@
 #include "AppTest.h"
 #include "CutTexts.h"
 #include "app/shell/WindowPlacement.h"
+#include "app/widgets/ScreenFit.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QScreen>
@@ -78,6 +80,29 @@ TEST_F(LargeTypeTest, nothingIsCutOnASmallScreen) {
             EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
             dialog.reject();
         }
+    }
+}
+
+TEST_F(LargeTypeTest, dialogsGiveWayToASmallScreenAndKeepTheirButtons) {
+    openIn(rooms[1]);
+    const QSize room = roomWithin({800, 480});
+    struct Opened {
+        const char *action, *dialog, *button;
+    };
+    for (const auto& [action, name, button] : {Opened{"showBackups", "BackupDialog", "btnCloseBackups"},
+                                               {"showDownloads", "DownloadsDialog", "btnCloseDownloads"},
+                                               {"showKeys", "KeysDialog", "btnCloseKeys"},
+                                               {"showSetting", "SettingController", "cancelButton"}}) {
+        SCOPED_TRACE(name);
+        find<QAction>(action).trigger();
+        auto& dialog = find<QDialog>(name);
+        fitTo(dialog, dialog.size(), room);
+        settle();
+        EXPECT_LE(dialog.width(), room.width());
+        EXPECT_LE(dialog.height(), room.height());
+        const auto& close = *dialog.findChild<QPushButton*>(QLatin1StringView(button));
+        EXPECT_TRUE(dialog.rect().contains({close.mapTo(&dialog, QPoint()), close.size()}));
+        dialog.reject();
     }
 }
 
