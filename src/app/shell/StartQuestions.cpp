@@ -52,8 +52,8 @@ void StartQuestions::goBackTo(const Backup& copy) {
 void StartQuestions::offerPrivacy() {
     const QStringList open = readableByOthers(parts.store.getZELXMLPath());
     if (open.isEmpty()) return;
-    const auto more = static_cast<int>(open.size()) - 1;
-    const QString which = more == 0 ? open.first() : qtTrId("privacyAskedMore").arg(open.first()).arg(more);
+    const auto more = open.size() - 1;
+    const QString which = more == 0 ? open.first() : qtTrId("privacyAskedMore").arg(open.first(), QString::number(more));
     parts.panel.interject(this, [this, question = qtTrId("privacyAsked").arg(which)] {
         if (parts.panel.AskMessage(question, qtTrId("privacyTitle"))) keepOthersOut();
     });
