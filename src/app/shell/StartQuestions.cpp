@@ -53,7 +53,8 @@ void StartQuestions::offerPrivacy() {
     const QStringList open = readableByOthers(parts.store.getZELXMLPath());
     if (open.isEmpty()) return;
     const auto more = open.size() - 1;
-    const QString which = more == 0 ? open.first() : qtTrId("privacyAskedMore").arg(open.first(), QString::number(more));
+    const QString which =
+        more == 0 ? open.first() : qtTrId("privacyAskedMore").arg(open.first(), QString::number(more));
     parts.panel.interject(this, [this, question = qtTrId("privacyAsked").arg(which)] {
         if (parts.panel.AskMessage(question, qtTrId("privacyTitle"))) keepOthersOut();
     });
