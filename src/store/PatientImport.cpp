@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace zel {
 
@@ -46,11 +47,18 @@ QString sentence(ImportRefusalCode code) {
 
 QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) {
     QSet<QString> texts;
-    for (const pugi::xml_node node : root.children())
-        if (isElement(node, kind)) texts.insert(childText(node, child));
+    std::string scratch, previous;
+    for (const pugi::xml_node node : root.children()) {
+        if (!isElement(node, kind)) continue;
+        const std::string_view text = elementText(firstElement(node, child), scratch);
+        if (!texts.isEmpty() && text == previous) continue; // a patient's readings stand together
+        texts.insert(toQString(text));
+        previous = text;
+    }
     return texts;
 }
 
+<<<<<<< HEAD
 /// The first of the records' IDs, by their kinds, that is such a one; null for none.
 template <typename Wanted>
 QString firstRecordID(pugi::xml_node root, const Wanted& isWanted) {
@@ -61,16 +69,24 @@ QString firstRecordID(pugi::xml_node root, const Wanted& isWanted) {
         }
     }
     return {};
+=======
+/// As nearly all do; others are looked at as Unicode.
+bool beginsAndEndsWithLetter(std::string_view text) {
+    const auto isLetter = [](char c) { return c > ' ' && c < '\x7F'; };
+    return !text.empty() && isLetter(text.front()) && isLetter(text.back());
+>>>>>>> 1439a41c73bf08279fc1fa7839378b3bf38c4172
 }
 
 /// Such an ID would be another patient's than the one without them, and none that a monitor keeps.
 void trimIDs(pugi::xml_node root) {
+    std::string scratch;
     for (const pugi::xml_node node : root.children()) {
         const bool isPersonal =
             std::ranges::any_of(personalKinds, [node](const char* kind) { return isElement(node, kind); });
         if (!isPersonal) continue;
         for (const pugi::xml_node ID : node.children("ID"))
-            setElementText(ID, TrimStr(elementText(ID)));
+            if (!beginsAndEndsWithLetter(elementText(ID, scratch)))
+                setElementText(ID, TrimStr(elementText(ID)));
     }
 }
 

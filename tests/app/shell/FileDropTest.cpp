@@ -127,6 +127,7 @@ TEST_F(FileDropTest, whatWasDroppedBeforeAQuestionCameUpWaitsForItsEnd) {
         ASSERT_EQ(panel.heldBack.size(), 1U);
         panel.heldBack.front()();
         panel.heldBack.clear();
+        QCoreApplication::processEvents();
         EXPECT_EQ(chooser.asked.size(), 1) << "once";
         EXPECT_EQ(chooser.listed.files, (QStringList{first.toLocalFile(), second.toLocalFile()}));
         chooser.asked.clear();
