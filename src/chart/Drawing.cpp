@@ -77,6 +77,11 @@ Size textSize(const QString& text, const TextAttribute& attribute) {
 
 void textOut(Picture& picture, const QString& text, Point at, const TextAttribute& attribute, XPos x,
              YPos y) {
+    // Where it begins at the place, nobody needs to know how large it is.
+    if (x == XPos::left && y == YPos::bottom) {
+        picture.emplace_back(TextLine{text, at, attribute});
+        return;
+    }
     const Size size = textSize(text, attribute);
     if (x == XPos::centre) at.x -= size.width / 2;
     if (x == XPos::right) at.x -= size.width;

@@ -11,10 +11,10 @@
 #include <QFontMetricsF>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <cmath>
-#include <optional>
+#include <list>
 #include <span>
-#include <utility>
 
 namespace zel {
 
@@ -70,16 +70,13 @@ public:
     }
 
     void operator()(const TextLine& item) {
-        // Looking a font up takes as long as writing a short text, and most texts are in that of the one
-        // before.
-        if (!written || written->first != item.attribute) {
-            const QFont font = item.attribute.font();
-            painter.setFont(font);
-            written = std::pair(item.attribute, QFontMetricsF(font).descent());
-        }
+        const Type& type = typeOf(item.attribute);
+        // Most texts are in the type of the one before.
+        if (written != &type) painter.setFont(type.font);
+        written = &type;
         painter.setPen(item.attribute.color);
         surface.moveTo(item.origin, true);
-        painter.drawText(QPointF(0, -written->second), item.text);
+        painter.drawText(QPointF(0, -type.descent), item.text);
         surface.moveTo({}, false);
     }
 
@@ -131,7 +128,7 @@ public:
     void operator()(const BeginClip& item) { surface.beginClip(item.rect, item.radius); }
     void operator()(const EndClip&) {
         surface.endClip();
-        written.reset(); // the painter has the font again that it had before the clip
+        written = nullptr; // the painter has the font again that it had before the clip
     }
 
 private:
@@ -145,6 +142,19 @@ private:
     private:
         QPainter& painter;
     };
+
+    struct Type {
+        TextAttribute attribute;
+        QFont font;
+        double descent;
+    };
+    /// A picture has few of them, and looking one up takes as long as writing a short text.
+    const Type& typeOf(const TextAttribute& attribute) {
+        const auto known = std::ranges::find(types, attribute, &Type::attribute);
+        if (known != types.end()) return *known;
+        const QFont font = attribute.font();
+        return types.emplace_back(Type{attribute, font, QFontMetricsF(font).descent()});
+    }
 
     /// Qt's stroker takes a hundred times as long for a line across the screen as for its pieces.
     void drawPieces(const Curve& item) {
@@ -182,7 +192,8 @@ private:
 
     PictureSurface surface;
     QPainter& painter;
-    std::optional<std::pair<TextAttribute, double>> written; ///< the painter's type now, and its descent
+    std::list<Type> types;         ///< that the picture is written in
+    const Type* written = nullptr; ///< the painter's now; none: unknown
 };
 
 } // namespace

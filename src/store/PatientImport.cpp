@@ -58,23 +58,27 @@ QSet<QString> textsOf(pugi::xml_node root, const char* kind, const char* child) 
     return texts;
 }
 
-<<<<<<< HEAD
 /// The first of the records' IDs, by their kinds, that is such a one; null for none.
 template <typename Wanted>
 QString firstRecordID(pugi::xml_node root, const Wanted& isWanted) {
+    std::string scratch;
+    std::optional<std::string> previous;
     for (const char* kind : personalKinds) {
         for (const pugi::xml_node node : root.children()) {
             if (!isElement(node, kind)) continue;
-            if (QString ID = childText(node, "ID"); isWanted(ID)) return ID;
+            const std::string_view text = elementText(firstElement(node, "ID"), scratch);
+            if (text == previous) continue; // a patient's readings stand together
+            previous = text;
+            if (QString ID = toQString(text); isWanted(ID)) return ID;
         }
     }
     return {};
-=======
+}
+
 /// As nearly all do; others are looked at as Unicode.
 bool beginsAndEndsWithLetter(std::string_view text) {
     const auto isLetter = [](char c) { return c > ' ' && c < '\x7F'; };
     return !text.empty() && isLetter(text.front()) && isLetter(text.back());
->>>>>>> 1439a41c73bf08279fc1fa7839378b3bf38c4172
 }
 
 /// Such an ID would be another patient's than the one without them, and none that a monitor keeps.

@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 
 #include <map>
+#include <tuple>
+#include <vector>
 
 namespace zel {
 
@@ -67,6 +69,29 @@ TEST(Page, countsFollowRowsAndComments) {
         EXPECT_EQ(sample.view().getTotalPages(row.section), row.pages)
             << (row.section ? facts(*row.section).key : "none") << ", " << row.readings << " readings, "
             << row.comments << " comments";
+    }
+}
+
+/// All that a page says, with its places.
+std::vector<std::tuple<QString, double, double, bool>> saidOn(const Picture& picture) {
+    std::vector<std::tuple<QString, double, double, bool>> said;
+    for (const TextLine& line : textsOf(picture))
+        said.emplace_back(line.text, line.origin.x, line.origin.y, line.attribute.bold);
+    return said;
+}
+
+TEST(Page, isTheSameWhicheverPagesWereAskedForBefore) {
+    SampleReport sample(100, 3);
+    sample.comments.back()->comment = QString(500, u'W'); // is cut on its page alone
+    sample.highFrom = {135, 85};
+    const PrintView used = sample.view();
+    for (const Section section : allSections()) {
+        const PagePlace first{.number = 1, .total = 9, .emptySections = {u"Comments"_s}};
+        EXPECT_EQ(saidOn(used.page(section, 1, first)), saidOn(sample.view().page(section, 1, first)));
+        for (int page = used.getTotalPages(section); page > 0; --page)
+            EXPECT_EQ(saidOn(used.page(section, page)), saidOn(sample.view().page(section, page)))
+                << facts(section).key << ", page " << page;
+        EXPECT_EQ(saidOn(used.page(section, 1, first)), saidOn(sample.view().page(section, 1, first)));
     }
 }
 

@@ -24,6 +24,8 @@ public:
     void minusDay(); ///< and shrinks, unless it is of two days or one
     /// Reads everything anew.
     void reload();
+    /// The same period may be shown in another way, of readings that are the same.
+    void takePeriod();
     /// The styles of the charts on the screen, for a pair that is to look like them.
     void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
     [[nodiscard]] PulseView& getPulseView() { return *pulseView; }
@@ -50,7 +52,6 @@ private:
     QScrollBar* addValueScroller(const QString& name, const QString& title, ChartView& view);
     QScrollBar* addTimeScroller();
     void setTimePeriod(const Period& period);
-    void takePeriod();
     void showPeriod();
     void setTimeScrollRange();
     void move(int days);

@@ -152,7 +152,7 @@ void GraphViewController::switchToGraph() {
 void GraphViewController::LoadData() {
     frame->LoadData();
     comments->forgetSelection();
-    charts->reload();
+    charts->takePeriod(); // new readings and other settings come by themselves
     reload();
 }
 

@@ -55,6 +55,7 @@ void ReadingTableModel::copyRecords() {
     for (ReadingModel& reading : readings)
         reading.comment = nullptr; // the store's own, which goes with the next load
     comments.clear();
+    comments.reserve(store.getCommentForCurID().size());
     for (const auto& each : store.getCommentForCurID())
         comments.push_back(std::make_unique<CommentModel>(*each));
     isCopied = true;
