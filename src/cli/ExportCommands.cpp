@@ -16,7 +16,7 @@ CommandResult runExportXml(const Request& request, Surroundings& around) {
     const bool isOne = request.options.isSet(u"patient"_s);
     ExportTally tally(u"zel export-xml"_s, around);
     for (const QString& ID : isOne ? job->patients.IDs : all->patients())
-        tally.count(all->writeXml(ID, job->place, job->replace), exportPath(job->place, ID, u".xml"_s));
+        tally.count(all->writeXml(ID, job->place, job->replace), job->pathOf(ID, u".xml"_s));
     return tally.finish([&all] { return all->finish(); });
 }
 
@@ -25,7 +25,7 @@ CommandResult runExportCsv(const Request& request, Surroundings& around) {
     if (!job) return tl::unexpected(job.error());
     const QString ID = job->patients.IDs.constFirst();
     ExportTally tally(u"zel export-csv"_s, around);
-    tally.count(job->store->exportCSV(job->place, ID, job->replace), exportPath(job->place, ID, u".csv"_s));
+    tally.count(job->store->exportCSV(job->place, ID, job->replace), job->pathOf(ID, u".csv"_s));
     return tally.finish([] { return StoreResult(); });
 }
 

@@ -28,7 +28,7 @@ tl::expected<QString, Failure> tablePlace(const Request& request) {
 void writeTables(const ExportJob& job, ExportTally& tally) {
     WrittenNames names;
     for (const QString& ID : job.patients.IDs) {
-        const QString path = exportPath(job.place, ID, u".table.csv"_s);
+        const QString path = job.pathOf(ID, u".table.csv"_s);
         StoreResult result = names.check(ID, path);
         if (result) result = job.store->exportTable(path, {ID}, job.replace);
         if (result) names.add(ID, path);

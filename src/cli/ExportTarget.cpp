@@ -18,6 +18,10 @@ QString exportFailure(const StoreError& error) {
 
 } // namespace
 
+QString ExportJob::pathOf(const QString& ID, const QString& extension) const {
+    return exportPath(place, ID, extension, store->isDemonstration());
+}
+
 tl::expected<QString, Failure> folderOf(const Request& request) {
     const QString folder = request.options.positionalArguments().value(0);
     if (folder.isEmpty()) return wrongUsage(qtTrId("CliFolderMissing"));

@@ -16,6 +16,9 @@ struct ExportJob {
     Replace replace = Replace::no;
     std::unique_ptr<DataStore> store;
     AllPatients patients; ///< the one of --patient, or all
+
+    /// Where the store writes the patient's file.
+    [[nodiscard]] QString pathOf(const QString& ID, const QString& extension) const;
 };
 
 enum class Whom { one, oneOrAll };
@@ -29,7 +32,7 @@ using PlaceOf = tl::expected<QString, Failure> (*)(const Request& request);
 [[nodiscard]] tl::expected<ExportJob, Failure> exportJob(const Request& request, Surroundings& around,
                                                          Whom whom, PlaceOf placeOf = folderOf);
 
-/// Writes the files of one export. What cannot be written is named, and the others are still written.
+/// Tells of each file of one export whether it was written, and counts them.
 class ExportTally {
 public:
     /// \p program as the user called it, with its command. \p around must outlive it.

@@ -18,8 +18,7 @@ CommandResult runExportFhir(const Request& request, Surroundings& around) {
     fhir::FhirExport bundles(*job->store, job->place, *rule);
     ExportTally tally(u"zel export-fhir"_s, around);
     for (const QString& ID : job->patients.IDs)
-        tally.count(bundles.write(ID, job->replace),
-                    exportPath(job->place, ID, fhir::fileExtension.toString()));
+        tally.count(bundles.write(ID, job->replace), job->pathOf(ID, fhir::fileExtension.toString()));
     tally.countLeftOut(job->patients);
     return tally.finish([&bundles] { return bundles.finish(); });
 }

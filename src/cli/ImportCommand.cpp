@@ -80,7 +80,7 @@ void finish(FileImport& together, Taken& taken, Surroundings& around) {
     }
 }
 
-/// In the order of the files, since a table may be of a patient whose file stands before it.
+/// In the order of the files: of two with one new patient, the first is taken and the second refused.
 void importAll(const QStringList& files, const TableImport& wanted, DataStore& store, Taken& taken,
                Surroundings& around) {
     FileImport together{store};

@@ -17,9 +17,9 @@ public:
     /// \p store must outlive the export. \p rule: of the average
     FhirExport(const DataStore& store, QString folder, AverageRule rule);
 
-    /// Writes the patient's bundle as exportPath(folder, ID, fileExtension). Never replaces a file of this
-    /// export. \return noSuchRecord for an ID that is not in the list; see PatientExport::writeXml() for
-    /// others
+    /// Writes the patient's bundle at exportPath() in the folder, with fileExtension. Never replaces a file
+    /// of this export. \return noSuchRecord for an ID that is not in the list; see PatientExport::writeXml()
+    /// for others
     [[nodiscard]] StoreResult write(const QString& ID, Replace replace);
     /// Waits until all that was written is on the disk.
     [[nodiscard]] StoreResult finish();

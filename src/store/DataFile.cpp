@@ -15,6 +15,7 @@
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <tuple>
 #include <unistd.h>
 
 namespace zel {
@@ -62,10 +63,19 @@ QString linksFollowed(const QString& path) {
     return real.isEmpty() ? path : real;
 }
 
+/// What a demonstration leaves beside its data file.
+QString markBeside(const QString& dataFile) { return QFileInfo{dataFile}.path() + u"/Demonstration"_s; }
+
+/// Also one that is reached by a link from elsewhere.
+bool isMarked(const QString& dataFile) {
+    return QFileInfo::exists(markBeside(dataFile)) || QFileInfo::exists(markBeside(linksFollowed(dataFile)));
+}
+
 } // namespace
 
-DataFile::DataFile(StorePaths storePaths, Clock& wallClock)
-    : paths{std::move(storePaths)}, clock{wallClock} {}
+DataFile::DataFile(StorePaths storePaths, Clock& wallClock) : paths{std::move(storePaths)}, clock{wallClock} {
+    if (isMarked(getZELXMLPath())) paths.isDemonstration = true;
+}
 
 QString DataFile::folder() const { return paths.home + u"/Library/Application Support/ZELMac"_s; }
 
@@ -96,11 +106,21 @@ void DataFile::checkAndMakeTargetFile() const {
 
 StoreResult DataFile::checkXMLFileExist() const {
     const QString path = getZELXMLPath();
+    if (StoreResult marked = mark(); !marked) return marked;
     const bool isThere = !isPlaceFree(path);
     qCInfo(lcStore, "%s  file %s exists", qUtf8Printable(path), isThere ? " does " : " does not ");
     if (!isThere) return create();
     removeDeadReplacements(path);
     return {};
+}
+
+/// Before there is anything that could leave the program without it.
+StoreResult DataFile::mark() const {
+    const QString path = getZELXMLPath();
+    if (!paths.isDemonstration || isMarked(path)) return {};
+    std::ignore = makePrivateFolder(folder()); // without it, the next step fails
+    StoreResult made = makeFile(markBeside(path), {});
+    return isMarked(path) ? StoreResult{} : made;
 }
 
 StoreResult DataFile::create() const {

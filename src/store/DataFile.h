@@ -19,7 +19,7 @@ struct StorePaths {
     QString home;                 ///< the user's home folder; the data file lives below it
     QString applicationFolder;    ///< the executable's folder: ".target" and the data file of older versions
     QString templateFolder;       ///< holds ZEL_<target>.xml
-    bool isDemonstration = false; ///< the patients are invented: what leaves the program says so
+    bool isDemonstration = false; ///< its patients are invented, which DataFile has to leave a mark of
 };
 
 /// What tells one state of a file from the next without reading it; all 0 where there is none.
@@ -36,18 +36,21 @@ struct FileStamp {
 /// The data file on disk: the only class that knows its place and how it is created, read and replaced.
 class DataFile {
 public:
-    /// \p clock must outlive the file; it waits for other programs that hold it.
+    /// Looks for the mark of a demonstration, once. \p clock must outlive the file; it waits for other
+    /// programs that hold it.
     DataFile(StorePaths paths, Clock& clock);
 
     [[nodiscard]] QString getZELXMLPath() const;
     [[nodiscard]] QString getZELXMLPath_Old() const;
+    /// The patients are invented: what leaves the program says so, whichever way the file was opened.
     [[nodiscard]] bool isDemonstration() const { return paths.isDemonstration; }
     /// First line of ".target" beside the program, "pad" when there is none: the model family.
     [[nodiscard]] QString getTargetString() const;
     /// Writes ".target" with "pad" if it is missing. A program in a read-only folder just keeps "pad".
     void checkAndMakeTargetFile() const;
     /// Makes sure that the data file exists: moves an older version's file into place, else copies the
-    /// template. Removes what a killed program left beside it.
+    /// template. Removes what a killed program left beside it. A demonstration gets its mark first, and fails
+    /// without it.
     [[nodiscard]] StoreResult checkXMLFileExist() const;
     /// Both the file and its folder, since a write replaces the file.
     [[nodiscard]] bool isWritable() const;
@@ -75,6 +78,7 @@ public:
 private:
     [[nodiscard]] QString folder() const;
     void moveOldXml() const;
+    [[nodiscard]] StoreResult mark() const;
     [[nodiscard]] StoreResult create() const;
     [[nodiscard]] StoreResult copyTemplate() const;
     [[nodiscard]] StoreResult takeTurn(FileLock& lock) const;

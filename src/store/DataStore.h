@@ -106,7 +106,7 @@ public:
 
     /// Reads the data file for an export of its patients.
     [[nodiscard]] tl::expected<PatientExport, StoreError> beginExport() const;
-    /// Writes the patient and its readings as exportPath(folder, ID, ".csv").
+    /// Writes the patient and its readings at exportPath() in the folder, with ".csv".
     /// \return noSuchRecord for an ID that is not in the list; see PatientExport::writeXml() for others
     [[nodiscard]] StoreResult exportCSV(const QString& folder, const QString& ID, Replace replace) const;
     /// Takes the patients of the file with their readings and comments, all or none. Does not reload.

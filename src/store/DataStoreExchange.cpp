@@ -53,11 +53,15 @@ QStringList pathsOf(const std::vector<ImportSource>& files) {
     return paths;
 }
 
+tl::unexpected<ImportRefusal> alreadyKnown(const QString& path, const QString& ID) {
+    return tl::unexpected{ImportRefusal{ImportRefusalCode::alreadyKnown, path, ID, {}}};
+}
+
 /// Into the document, as a step of its own.
 ImportResult takeSource(const ImportSource& file, ImportTarget& target, std::vector<ChangeStep>& steps) {
     const pugi::xml_node imported = file.document.root();
     if (const QString known = target.knownPatient(imported); !known.isNull())
-        return tl::unexpected{ImportRefusal{ImportRefusalCode::alreadyKnown, file.path, known, {}}};
+        return alreadyKnown(file.path, known);
     StepRecorder recorder;
     const ImportCounts counts = target.take(imported, recorder);
     recorder.setName({.kind = StepKind::importPatients,
@@ -68,10 +72,23 @@ ImportResult takeSource(const ImportSource& file, ImportTarget& target, std::vec
     return counts;
 }
 
-/// What was not stored for a reason of its own keeps that.
-std::vector<ImportResult> asRefused(std::vector<ImportResult> results, const QStringList& paths,
+/// None is stored. One that only another of them stood in the way of is refused as that other is. \p before:
+/// a patient of each that was there before; null text for none, and nothing where that was not looked for.
+std::vector<ImportResult> asRefused(const QStringList& paths, const QStringList& before,
                                     const StoreError& error) {
-    if (results.empty()) results.assign(static_cast<std::size_t>(paths.size()), ImportCounts{});
+    std::vector<ImportResult> results;
+    results.reserve(static_cast<std::size_t>(paths.size()));
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const QString known = before.value(i);
+        results.emplace_back(known.isNull() ? tl::unexpected{refusalOf(error, paths.at(i))}
+                                            : alreadyKnown(paths.at(i), known));
+    }
+    return results;
+}
+
+/// All are stored that were not refused.
+std::vector<ImportResult> asUnflushed(std::vector<ImportResult> results, const QStringList& paths,
+                                      const StoreError& error) {
     for (std::size_t i = 0; i < results.size(); ++i)
         if (results[i]) results[i] = tl::unexpected{refusalOf(error, paths.at(static_cast<qsizetype>(i)))};
     return results;
@@ -110,22 +127,25 @@ ImportResult DataStore::importXml(const QString& path) {
 std::vector<ImportResult> DataStore::importXml(std::vector<ImportSource> files) {
     const QStringList paths = pathsOf(files);
     std::vector<ImportResult> results;
+    QStringList before;
     std::vector<ChangeStep> steps;
     // Checked against the file as it is at the write: another program may have added a patient.
     const StoreResult stored = edit([&](pugi::xml_node root) {
         ImportTarget target{root};
         for (ImportSource& file : files) {
             results.push_back(takeSource(file, target, steps));
+            before += results.back() ? QString{} : target.patientThereBefore(file.document.root());
             file.document = {}; // a large file would stand in memory twice
         }
         return steps.empty() ? DataFile::Edit::unchanged : DataFile::Edit::changed;
     });
     if (isInPlace(stored)) addSteps(std::move(steps));
     if (stored) return results;
+    if (isInPlace(stored)) return asUnflushed(std::move(results), paths, stored.error());
     if (isReadingError(stored.error())) qCWarning(lcStore, "import  create xml doc failed");
     // One of them may be what the data file cannot hold beside the rest.
     if (stored.error().code == StoreErrorCode::unreadable && paths.size() > 1) return importEach(paths);
-    return asRefused(results, paths, stored.error());
+    return asRefused(paths, before, stored.error());
 }
 
 std::vector<ImportResult> DataStore::importEach(const QStringList& paths) {

@@ -11,10 +11,9 @@ namespace zel {
 /// The patient's ID and the extension (".xml", ".csv"). What cannot stand in a file name is percent-escaped,
 /// and a name that is too long ends in a digest of the ID, so that every ID has a name of its own that stays
 /// inside its folder. That of an invented patient says so: no form of file but one has a place for it inside.
-[[nodiscard]] QString exportFileName(const QString& ID, const QString& extension,
-                                     bool isDemonstration = false);
+[[nodiscard]] QString exportFileName(const QString& ID, const QString& extension, bool isDemonstration);
 [[nodiscard]] QString exportPath(const QString& folder, const QString& ID, const QString& extension,
-                                 bool isDemonstration = false);
+                                 bool isDemonstration);
 
 /// Whether a file that is there already may be replaced.
 enum class Replace { no, yes };

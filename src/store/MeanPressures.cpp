@@ -6,6 +6,10 @@ namespace zel {
 
 namespace {
 
+/// Each of three numbers may be rounded in a way of its own, and monitors compute the means from what they do
+/// not show. Columns that were taken for one another differ by far more. mmHg.
+constexpr double tolerance = 2;
+
 std::optional<double> unlessNone(double number) { return number == 0 ? std::nullopt : std::optional{number}; }
 
 std::optional<double> numberIn(const CsvReader& line, std::optional<std::size_t> column) {
@@ -30,9 +34,9 @@ QString meanPressureProblem(const MeanPressures& means, const ReadingModel& read
     const auto pressures = [&reading](const QString& text, double mean) {
         return text.arg(mean).arg(reading.sys).arg(reading.dia);
     };
-    if (means.pp && std::abs(*means.pp - (sys - dia)) >= 1) // less is how it was rounded
+    if (means.pp && std::abs(*means.pp - (sys - dia)) > tolerance)
         return pressures(qtTrId("TablePulsePressure"), *means.pp);
-    if (means.map && (*means.map < dia || *means.map > sys))
+    if (means.map && (*means.map < dia - tolerance || *means.map > sys + tolerance))
         return pressures(qtTrId("TableMeanPressure"), *means.map);
     return {};
 }

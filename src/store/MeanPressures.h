@@ -1,6 +1,6 @@
 #pragma once
 // What a table says of mean arterial and pulse pressure, held against systolic and diastolic pressure: where
-// they do not go together, the columns are most likely not what they are taken for.
+// they are more than 2 mmHg from going together, the columns are most likely not what they are taken for.
 
 #include "store/CsvText.h"
 #include "store/ReadingModel.h"

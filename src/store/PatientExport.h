@@ -20,17 +20,17 @@ namespace zel {
 class PatientExport {
 public:
     /// \p path is the data file's, which no export replaces. \p isDemonstration: see exportFileName()
-    PatientExport(XmlDocument document, QString path, bool isDemonstration = false);
+    PatientExport(XmlDocument document, QString path, bool isDemonstration);
 
     /// The IDs of all patients in the file, in its order, by the rule of AllPatients. The file of an ID that
     /// several have is of all of them.
     [[nodiscard]] const QStringList& patients() const { return IDs; }
 
     /// Writes the data file's whole content without other patients' Patient, Comment and MeasureRec elements
-    /// as exportPath(folder, ID, ".xml"). Settings and the log of downloads stay, also other patients'.
-    /// Never replaces a file of this export: IDs that differ in their case only have one file on some disks.
-    /// \return noSuchRecord for an ID that is not in the file; alreadyExists, isDataFile, sameFileName,
-    /// notWritable or writeFailed with the file's path
+    /// at exportPath() in the folder, with ".xml". Settings and the log of downloads stay, also other
+    /// patients'. Never replaces a file of this export: IDs that differ in their case only have one file on
+    /// some disks. \return noSuchRecord for an ID that is not in the file; alreadyExists, isDataFile,
+    /// sameFileName, notWritable or writeFailed with the file's path
     [[nodiscard]] StoreResult writeXml(const QString& ID, const QString& folder, Replace replace) const;
 
     /// Waits until all that was written is on the disk. Done at the latest when the export goes; only here is

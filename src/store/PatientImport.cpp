@@ -169,7 +169,12 @@ ImportTarget::ImportTarget(pugi::xml_node data)
 }
 
 QString ImportTarget::knownPatient(pugi::xml_node imported) const {
-    if (patients.isEmpty()) return {};
+    if (patients.isEmpty() && taken.isEmpty()) return {};
+    return firstRecordID(imported,
+                         [this](const QString& ID) { return patients.contains(ID) || taken.contains(ID); });
+}
+
+QString ImportTarget::patientThereBefore(pugi::xml_node imported) const {
     return firstRecordID(imported, [this](const QString& ID) { return patients.contains(ID); });
 }
 
@@ -210,7 +215,7 @@ ImportCounts ImportTarget::take(pugi::xml_node imported, StepRecorder& recorder)
     renumber(comments);
     counts.comments = comments.size();
     counts.readings = copyAll("MeasureRec", imported, recorder).size();
-    patients.unite(textsOf(imported, "Patient", "ID")); // of the next file
+    taken.unite(textsOf(imported, "Patient", "ID"));
     return counts;
 }
 

@@ -98,6 +98,8 @@ public:
     /// An ID of the \p imported records, also of readings and comments without their patient, that a patient
     /// in the data file has by now; null if there is none.
     [[nodiscard]] QString knownPatient(pugi::xml_node imported) const;
+    /// The same without the patients that were taken meanwhile.
+    [[nodiscard]] QString patientThereBefore(pugi::xml_node imported) const;
     /// Copies patients, comments and readings, each kind after the last of its kind. They stay as they are,
     /// but that a comment whose number is taken gets a new one, since comments are found by their numbers.
     ImportCounts take(pugi::xml_node imported, StepRecorder& recorder);
@@ -107,7 +109,8 @@ private:
     void renumber(const std::vector<pugi::xml_node>& comments);
 
     pugi::xml_node root;
-    QSet<QString> patients;
+    QSet<QString> patients; ///< that were there
+    QSet<QString> taken;    ///< patients, too
     QSet<QString> commentNumbers;
     Records counters;                             ///< of the numbers alone
     std::map<std::string, pugi::xml_node> lastOf; ///< by the kind of element

@@ -118,6 +118,20 @@ TEST_F(CliExchangeTest, AllPatientsAreTheSameOnesInEachExportAndWhoIsLeftOutIsTo
     EXPECT_EQ(zel({u"export-table"_s, out, u"--patient"_s, u"A1"_s, u"--force"_s}).status, 0);
 }
 
+TEST_F(CliExchangeTest, FilesOfADemonstrationAreToldByTheNamesThatTheyHave) {
+    QFile mark(QFileInfo(dataFile()).path() + u"/Demonstration"_s);
+    ASSERT_TRUE(mark.open(QIODevice::WriteOnly));
+    for (const auto& [command, extension] : {std::pair{u"export-xml"_s, u".xml"_s},
+                                             {u"export-csv"_s, u".csv"_s},
+                                             {u"export-fhir"_s, u".fhir.json"_s},
+                                             {u"export-table"_s, u".table.csv"_s}}) {
+        const QString name = u"Demonstration-A1"_s + extension;
+        EXPECT_EQ(zel({command, out, u"--patient"_s, u"A1"_s}).out, line(name));
+        EXPECT_TRUE(QFile::exists(out + u'/' + name)) << qPrintable(name);
+    }
+    EXPECT_EQ(QDir(out).entryList(QDir::Files).size(), 4);
+}
+
 TEST_F(CliExchangeTest, UnknownPatientOrFolderIsTold) {
     const QString none = out + u"/none"_s;
     const std::pair<QStringList, const char*> cases[] = {

@@ -1,6 +1,7 @@
 #include "store/AtomicFile.h"
 
 #include "store/DataStore.h"
+#include "store/FileImport.h"
 #include "store/FileLock.h"
 #include "store/NewFile.h"
 #include "store/SecondFolder.h"
@@ -229,6 +230,15 @@ TEST_F(AtomicFileTest, ChangeThatIsNotFlushedIsShownAllTheSame) {
     const auto imported = store.importXml(other);
     folderFlushesThatWork = noFault;
     EXPECT_EQ(imported.error().code, ImportRefusalCode::notFlushed) << "it was taken";
+    ASSERT_TRUE(replaceFile(other, "<ZEL><Patient><ID>C</ID></Patient></ZEL>"));
+    FileImport twice{store};
+    twice.add(other);
+    twice.add(other);
+    folderFlushesThatWork = 0;
+    const auto both = twice.finish();
+    folderFlushesThatWork = noFault;
+    EXPECT_EQ(both[0].result.error().code, ImportRefusalCode::notFlushed);
+    EXPECT_EQ(both[1].result.error().code, ImportRefusalCode::alreadyKnown) << "by now it is";
     const auto copies = store.backups().list();
     ASSERT_EQ(copies.size(), 1U);
     for (const bool isKept : {false, true}) { // what is there, before the copy takes its place

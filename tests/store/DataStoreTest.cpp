@@ -29,6 +29,29 @@ TEST_F(DataStoreTest, LinkToWhatIsOutOfReachIsLeftAndTold) {
     EXPECT_EQ(makeFile(path, "another").error().code, StoreErrorCode::alreadyExists);
 }
 
+TEST_F(DataStoreTest, DemonstrationIsKnownByItsMarkWhoeverOpensIt) {
+    const QTemporaryDir other;
+    const auto opened = [this](const QTemporaryDir& at, bool isDemonstration = false) {
+        return DataFile{{at.path(), program.path(), program.path(), isDemonstration}, clock};
+    };
+    ASSERT_TRUE(store.load());
+    EXPECT_FALSE(opened(home).isDemonstration());
+    const DataFile invented = opened(home, true);
+    ASSERT_TRUE(invented.checkXMLFileExist()) << "one that an older version has made gets it, too";
+    EXPECT_TRUE(opened(home).isDemonstration());
+    const QString mark = QFileInfo{path}.path() + u"/Demonstration"_s;
+    EXPECT_EQ(QFile::permissions(mark) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions{});
+
+    const QString link = opened(other).getZELXMLPath();
+    ASSERT_TRUE(QDir{}.mkpath(QFileInfo{link}.path()));
+    EXPECT_FALSE(opened(other).isDemonstration());
+    ASSERT_TRUE(QFile::link(path, link));
+    EXPECT_TRUE(opened(other).isDemonstration()) << "the data are the same";
+
+    ASSERT_TRUE(QFile::remove(mark) && QFile::link(u"/nowhere"_s, mark));
+    EXPECT_EQ(invented.checkXMLFileExist().error().path, mark) << "without it nobody would know later";
+}
+
 TEST_F(DataStoreTest, TargetFileChoosesTheTemplate) {
     write(program.filePath(u".target"_s), "ihd\nmore");
     write(program.filePath(u"ZEL_ihd.xml"_s),

@@ -166,7 +166,7 @@ TEST(ExportFileName, StaysInTheFolderAndIsNeverAnothersName) {
         {widest, widest + u".xml"_s},
     };
     for (const auto& [ID, name] : cases)
-        EXPECT_EQ(exportFileName(ID, u".xml"_s), name);
+        EXPECT_EQ(exportFileName(ID, u".xml"_s, false), name);
 }
 
 TEST_F(ExchangeTest, FilesOfADemonstrationSaySoInTheirNames) {
@@ -205,7 +205,7 @@ TEST_F(ExchangeTest, LongIDsGetShortNamesOfTheirOwn) {
     for (const QString& ID : {longID, longID + u'1', QString{252, u'/'}, QString{251, u'b'}}) {
         setData("<ZEL><Patient><ID>" + ID.toUtf8() + "</ID></Patient></ZEL>");
         EXPECT_TRUE(exportXml(ID));
-        const QString name = exportFileName(ID, u".xml"_s);
+        const QString name = exportFileName(ID, u".xml"_s, false);
         EXPECT_LE(name.toUtf8().size(), 255);
         EXPECT_FALSE(name.contains(QChar::ReplacementCharacter));
         EXPECT_TRUE(exported(name).contains(ID.toUtf8()));

@@ -87,13 +87,18 @@ TEST_F(FileImportTest, NothingIsWrittenBeforeTheEndNorWhenTheDiskIsFull) {
     EXPECT_TRUE(import.finish().front().result);
     const QByteArray withN = content();
     EXPECT_NE(withN, before);
+    // The last one's first patient is only in another of the files.
     const QStringList files{file(u"m.xml"_s, fileOf("M")), file(u"a.xml"_s, fileOf("A")),
-                            file(u"l.xml"_s, fileOf("L"))};
+                            file(u"again.xml"_s, fileOf("M")),
+                            file(u"both.xml"_s, fileOf("M", "<Patient><ID>A</ID></Patient>"))};
     {
         const FullDisk disk{100};
         const std::vector<std::optional<Refusal>> codes{Refusal::notStored, Refusal::alreadyKnown,
-                                                        Refusal::notStored};
+                                                        Refusal::notStored, Refusal::alreadyKnown};
         EXPECT_EQ(importAll(files), codes);
+        import.add(files.front());
+        import.add(files.back());
+        EXPECT_EQ(import.finish().back().result.error().ID, u"A"_s);
     }
     EXPECT_EQ(content(), withN);
     EXPECT_EQ(store.changes().undoable()->name.subject, u"n.xml"_s);
