@@ -199,10 +199,11 @@ void ImportTarget::renumber(const std::vector<pugi::xml_node>& comments) {
         counters.countID(kind, childText(comment, "CommentID"));
     for (const pugi::xml_node comment : comments) {
         QString number = childText(comment, "CommentID");
-        if (commentNumbers.contains(number)) {
+        const pugi::xml_node place = firstElement(comment, "CommentID");
+        if (place && commentNumbers.contains(number)) { // without a place, a new one would be lost
             number = counters.getMaxID(kind);
             counters.countID(kind, number);
-            setElementText(firstElement(comment, "CommentID"), number);
+            setElementText(place, number);
         }
         commentNumbers.insert(number);
     }

@@ -57,6 +57,22 @@ TEST_F(DemonstrationTest, KeepsItsDataInAFolderOfItsOwn) {
     EXPECT_FALSE(QFile::exists(home.path() + u"/Library"_s)) << "the person's own place is not touched";
 }
 
+TEST_F(DemonstrationTest, CommandsOnItsFolderKnowThatItIsOne) {
+    start(built);
+    QProcessEnvironment there = program.processEnvironment();
+    there.insert(u"HOME"_s, home.path() + demonstrationFolder);
+    program.setProcessEnvironment(there);
+    const auto command = [this](const QStringList& words) {
+        program.start(built, words);
+        EXPECT_TRUE(program.waitForFinished(longestTurn));
+        return program.readAllStandardOutput();
+    };
+    command({u"patients"_s, u"--add"_s, u"--id"_s, u"N1"_s, u"--family-name"_s, u"New"_s, u"--given-names"_s,
+             u"Ann"_s});
+    EXPECT_EQ(command({u"export-xml"_s, home.path()}),
+              QFile::encodeName(u"written: "_s + home.filePath(u"Demonstration-N1.xml"_s) + u'\n'));
+}
+
 TEST_F(DemonstrationTest, TakesNoDataFileOfAnOlderVersionThatLiesBesideTheProgram) {
     const QString executable = home.filePath(u"zel"_s), old = home.filePath(u"ZEL.xml"_s);
     ASSERT_TRUE(QFile::copy(built, executable));

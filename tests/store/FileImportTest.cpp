@@ -31,10 +31,11 @@ struct FileImportTest : DataStoreTest {
         write(made, content);
         return made;
     }
-    /// One whose patient's comment has a number that others have, one that is damaged, one whose patient is
-    /// here, one of the same patient as the first, and another good one.
+    /// One whose patient's comments have a number that others have or none, one that is damaged, one whose
+    /// patient is here, one of the same patient as the first, and another good one.
     QStringList mixed() {
-        const QByteArray records = commentOf("N") + "<MeasureRec><ID>N</ID></MeasureRec>";
+        const QByteArray records = commentOf("N") + QByteArray{"<Comment><ID>N</ID></Comment>"}.repeated(2)
+                                   + "<MeasureRec><ID>N</ID></MeasureRec>";
         return {file(u"n.xml"_s, fileOf("N", records)), file(u"damaged.xml"_s, "<ZEL>"),
                 file(u"known.xml"_s, fileOf("A")), file(u"again.xml"_s, fileOf("N")),
                 file(u"m.xml"_s, fileOf("M", commentOf("M")))};
@@ -71,8 +72,8 @@ TEST_F(FileImportTest, TakesTogetherWhatIsTakenOneByOneAndUndoesItSo) {
     EXPECT_NE(content(), undone);
     EXPECT_EQ(store.changes().undoable()->name.subject, u"m.xml"_s);
     ASSERT_TRUE(store.undo());
-    EXPECT_EQ(order(),
-              "SystemSetting: Patient:A Patient:N Comment:A10001 Comment:N10002 MeasureRec:A MeasureRec:N");
+    EXPECT_EQ(order(), "SystemSetting: Patient:A Patient:N Comment:A10001 Comment:N10002 Comment:N Comment:N "
+                       "MeasureRec:A MeasureRec:N");
     ASSERT_TRUE(store.undo());
     EXPECT_EQ(content(), undone);
     ASSERT_TRUE(store.redo() && store.redo());

@@ -100,8 +100,10 @@ tl::expected<Options, int> prepare(int argc, char** argv) {
     return *options;
 }
 
-tl::expected<std::unique_ptr<MonitorPort>, QString> makePort(const Options& options, const Clock& clock) {
-    if (options.simulatedMonitor) return makeSimulatedMonitor(options.planFile, clock);
+/// A demonstration takes no measured readings among its invented ones, however it was opened.
+tl::expected<std::unique_ptr<MonitorPort>, QString> makePort(const Options& options, bool isDemonstration,
+                                                             const Clock& clock) {
+    if (options.simulatedMonitor || isDemonstration) return makeSimulatedMonitor(options.planFile, clock);
     return std::make_unique<HidPort>();
 }
 
@@ -141,8 +143,6 @@ int runApplication(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(u":/icons/zel.svg"_s));
     const ProgramTexts texts(*options->language);
     SystemClock clock;
-    auto port = makePort(*options, clock);
-    if (!port) return complain(failed, port.error());
 
     const QString person = qEnvironmentVariable("HOME");
     const tl::expected<QString, QString> home = options->demonstration ? demonstrationHome(person) : person;
@@ -151,7 +151,10 @@ int runApplication(int argc, char** argv) {
                          .applicationFolder = QCoreApplication::applicationDirPath(),
                          .templateFolder = u":/templates"_s};
     const StorePaths paths = options->demonstration ? demonstrationPaths(own) : own;
-    const QString dataFile = DataFile(paths, clock).getZELXMLPath();
+    const DataFile file(paths, clock);
+    auto port = makePort(*options, file.isDemonstration(), clock);
+    if (!port) return complain(failed, port.error());
+    const QString dataFile = file.getZELXMLPath();
     FirstWindow firstWindow(runningSessionBus(), dataFile);
     const auto leave = QObject::connect(&termination, &TerminationSignals::terminated, &application,
                                         [] { QCoreApplication::exit(0); });
@@ -161,7 +164,7 @@ int runApplication(int argc, char** argv) {
 
     const AppController::Demonstration another{.start = [person] { return startDemonstration(person); }};
     GlobalVar global(paths, std::move(*port), clock, {},
-                     options->demonstration ? AppController::Demonstration{.isOn = true} : another, person);
+                     file.isDemonstration() ? AppController::Demonstration{.isOn = true} : another, person);
     AppController& controller = global.appController;
     QObject::connect(&controller, &AppController::closed, &application, [] { QCoreApplication::exit(0); });
     QObject::connect(&termination, &TerminationSignals::terminated, &controller, &AppController::terminate);
