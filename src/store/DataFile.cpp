@@ -106,7 +106,8 @@ void DataFile::checkAndMakeTargetFile() const {
 
 StoreResult DataFile::checkXMLFileExist() const {
     const QString path = getZELXMLPath();
-    if (StoreResult marked = mark(); !marked) return marked;
+    const bool lacksMark = paths.isDemonstration && !isMarked(path);
+    if (StoreResult marked = lacksMark ? mark() : StoreResult{}; !marked) return marked;
     const bool isThere = !isPlaceFree(path);
     qCInfo(lcStore, "%s  file %s exists", qUtf8Printable(path), isThere ? " does " : " does not ");
     if (!isThere) return create();
@@ -114,10 +115,9 @@ StoreResult DataFile::checkXMLFileExist() const {
     return {};
 }
 
-/// Before there is anything that could leave the program without it.
+/// Before there is anything that could leave the program without it. Another start may do the same.
 StoreResult DataFile::mark() const {
     const QString path = getZELXMLPath();
-    if (!paths.isDemonstration || isMarked(path)) return {};
     std::ignore = makePrivateFolder(folder()); // without it, the next step fails
     StoreResult made = makeFile(markBeside(path), {});
     return isMarked(path) ? StoreResult{} : made;
