@@ -138,6 +138,7 @@ void paintTogether(PictureSurface& surface, std::span<const Point> points, const
     MarkColumn column(part, shape);
     const PictureSurface::Rows rowOf = surface.rows();
     for (std::size_t begin = 0, end = 0; begin < points.size(); begin = end) {
+        end = begin + 1; // also for what equals nothing
         while (end < points.size() && points[end].x == points[begin].x)
             ++end;
         column.add(points.subspan(begin, end - begin), rowOf);

@@ -162,6 +162,24 @@ TEST(PicturePainter, SetsTextIntoItsBox) {
     }
 }
 
+TEST(PicturePainter, SetsEachTextInItsOwnType) {
+    const TextLine small{u"Hg"_s, {10, 120}, {9, false}}, large{u"Hg"_s, {10, 60}, {24, true}};
+    const TextLine inside{u"Hg"_s, {80, 60}, {24, true}}, behind{u"Hg"_s, {150, 60}, {24, true}};
+    const TextLine last{u"Hg"_s, {80, 120}, {9, false}};
+    const BeginClip clip{{70, 40, 70, 60}, 0};
+    const QImage together =
+        painted({small, clip, inside, EndClip{}, behind, large, last, FillRect{{0, 0, 1, 1}, Qt::red}}, 1);
+    QImage apart = together;
+    apart.fill(Qt::transparent);
+    QPainter painter(&apart);
+    const std::vector<Picture> each{{small}, {clip, inside, EndClip{}},        {behind}, {large},
+                                    {last},  {FillRect{{0, 0, 1, 1}, Qt::red}}};
+    for (const Picture& picture : each)
+        painter.drawImage(0, 0, painted(picture, 1));
+    painter.end();
+    EXPECT_EQ(together, apart);
+}
+
 TEST(PicturePainter, GoesToPaperAsAScalableDrawing) {
     QBuffer file;
     file.open(QIODevice::WriteOnly);

@@ -90,12 +90,14 @@ QScrollBar* DrawGraphicVC::addTimeScroller() {
     return scroller;
 }
 
-/// The reading pointed at may be gone already: it is forgotten before anybody asks where its marks were.
+/// The readings may be gone already: all are forgotten before anybody asks which it was, or where its marks
+/// were.
 void DrawGraphicVC::forgetPointed() {
-    if (std::exchange(menuReading, nullptr)) emit chosenReadingChanged();
+    const bool hadMenu = std::exchange(menuReading, nullptr);
     bloodView->invalidate();
     pulseView->invalidate();
     pointed->forget();
+    if (hadMenu) emit chosenReadingChanged();
 }
 
 void DrawGraphicVC::reload() {
@@ -111,6 +113,7 @@ void DrawGraphicVC::takePeriod() {
     source.view = period.getSelectViewIndex();
     source.sysStandard = store.getSetting().sysStandard;
     source.diaStandard = store.getSetting().diaStandard;
+    source.zone = LocalZone();
     setTimeScrollRange();
     showing.want();
 }
@@ -118,7 +121,6 @@ void DrawGraphicVC::takePeriod() {
 void DrawGraphicVC::showPeriod() {
     if (!isRead) {
         source.data = makeChartData(store.getReadingForCurID(), store.getTrasferLogForCurID());
-        source.zone = LocalZone();
         isRead = true;
     }
     bloodView->invalidate();

@@ -165,6 +165,23 @@ TEST_F(ChartPageTest, theReadingUnderTheMenuIsTheOneThatIsMeant) {
     EXPECT_FALSE(action("leaveOutReadings")->isEnabled()) << "the pointer is beside it";
 }
 
+TEST_F(ChartPageTest, theMenuOfTheKeyboardMayTakeAwayWhatItIsAbout) {
+    openChart(u"20260301"_s, u"20260310"_s);
+    blood().grab();
+    blood().setFocus();
+    press(Qt::Key_Right, Qt::ControlModifier);
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, blood().rect().center());
+    QApplication::sendEvent(&blood(), &asked);
+    auto& leaveOut = *window().findChild<QAction*>(u"leaveOutReadings"_s);
+    ASSERT_TRUE(leaveOut.isEnabled());
+    // Whoever is told that it is another one looks at it: none that has gone with the load may be left to
+    // see.
+    ASSERT_TRUE(store.loadXML());
+    EXPECT_FALSE(leaveOut.isEnabled()) << "none is pointed at";
+    find<QWidget>("chartMenu").close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 TEST(PlaceBesideTest, thePanelNeitherCoversTheMarkNorLeavesTheWindow) {
     const QRect window(0, 0, 640, 480);
     for (const QSize panel : {QSize(200, 180), QSize(400, 100), QSize(620, 200)}) {
