@@ -167,15 +167,12 @@ TEST(PicturePainter, SetsEachTextInItsOwnType) {
     const TextLine inside{u"Hg"_s, {80, 60}, {24, true}}, behind{u"Hg"_s, {150, 60}, {24, true}};
     const TextLine last{u"Hg"_s, {80, 120}, {9, false}};
     const BeginClip clip{{70, 40, 70, 60}, 0};
-    const QImage together =
-        painted({small, clip, inside, EndClip{}, behind, large, last, FillRect{{0, 0, 1, 1}, Qt::red}}, 1);
-    QImage apart = together;
-    apart.fill(Qt::transparent);
+    const QImage together = painted({small, clip, inside, EndClip{}, behind, large, last});
+    QImage apart = canvas(1);
     QPainter painter(&apart);
-    const std::vector<Picture> each{{small}, {clip, inside, EndClip{}},        {behind}, {large},
-                                    {last},  {FillRect{{0, 0, 1, 1}, Qt::red}}};
-    for (const Picture& picture : each)
-        painter.drawImage(0, 0, painted(picture, 1));
+    for (const Picture& each :
+         std::vector<Picture>{{small}, {clip, inside, EndClip{}}, {behind}, {large}, {last}})
+        paintPicture(painter, each, height);
     painter.end();
     EXPECT_EQ(together, apart);
 }
