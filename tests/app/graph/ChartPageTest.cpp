@@ -170,7 +170,8 @@ TEST_F(ChartPageTest, theMenuOfTheKeyboardMayTakeAwayWhatItIsAbout) {
     blood().grab();
     blood().setFocus();
     press(Qt::Key_Right, Qt::ControlModifier);
-    QContextMenuEvent asked(QContextMenuEvent::Keyboard, blood().rect().center());
+    const QPoint middle = blood().rect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, middle, blood().mapToGlobal(middle));
     QApplication::sendEvent(&blood(), &asked);
     auto& leaveOut = *window().findChild<QAction*>(u"leaveOutReadings"_s);
     ASSERT_TRUE(leaveOut.isEnabled());
