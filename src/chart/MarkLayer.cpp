@@ -76,7 +76,8 @@ public:
 
     /// Marks on one pixel column. What the loop needs stands in variables of its own: behind each stamp, the
     /// compiler would read the members again.
-    void add(std::span<const Point> points, const PictureSurface::Rows rowOf) {
+    void add(std::span<const Point> points, const PictureSurface::Rows& rowsOfValues) {
+        const PictureSurface::Rows rowOf = rowsOfValues;
         Row* const to = rows.data();
         const Row* const values = mark.data();
         const int size = static_cast<int>(mark.size()), end = static_cast<int>(rows.size());

@@ -33,7 +33,7 @@ void addToRun(std::vector<PolyLine>& runs, Point point, bool joined) {
     }
     const std::span<Point> column = std::span(points).last(enough);
     double low = point.y;
-    double high = point.y;
+    double high = low;
     for (const Point& each : column) {
         low = std::min(low, each.y);
         high = std::max(high, each.y);

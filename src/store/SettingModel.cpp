@@ -82,7 +82,7 @@ QString SettingModel::shownDateFormat() const {
 
 QString SettingModel::timeText(int minuteOfDay) const {
     const int hour = is12Hours() ? hourOnDial(minuteOfDay) : minuteOfDay / 60;
-    const QString shown = QString::asprintf("%02d:%02d", hour, minuteOfDay % 60);
+    QString shown = QString::asprintf("%02d:%02d", hour, minuteOfDay % 60);
     if (!is12Hours()) return shown;
     return (minuteOfDay < 12 * 60 ? qtTrId("%1 A") : qtTrId("%1 P")).arg(shown);
 }

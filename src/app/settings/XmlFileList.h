@@ -52,7 +52,7 @@ private:
         bool isRead = false; ///< its turn has come, whether or not the file could be read
         bool isChosen = false;
         bool isAwaited = false; ///< is chosen when it is read, if all that can be imported are
-        bool isHere = false; ///< someone in it has the ID of a patient of the data file
+        bool isHere = false;    ///< someone in it has the ID of a patient of the data file
         /// Who is in a large file is not known before it is imported.
         [[nodiscard]] bool isForAll() const { return !file.fault && !isHere && !file.isLarge; }
     };

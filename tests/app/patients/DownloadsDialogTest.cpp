@@ -4,6 +4,7 @@
 #include "store/Languages.h"
 #include "support/WidgetTest.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTableWidget>
 
