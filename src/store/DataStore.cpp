@@ -20,16 +20,38 @@ const List& listOf(const std::unordered_map<QString, List>& index, const QString
     return found == index.end() ? none : found->second;
 }
 
+tl::expected<Records, StoreError> readAll(const DataFile& file) {
+    return file.read().map(
+        [](const XmlDocument& document) { return Records::read(document.root(), LocalZone{}); });
+}
+
 } // namespace
 
 DataStore::DataStore(StorePaths paths, Clock& wallClock)
     : file{std::move(paths), wallClock}, clock{wallClock} {}
 
 StoreResult DataStore::load() {
+    prepareLoad();
+    return loadXML();
+}
+
+void DataStore::prepareLoad() {
     file.checkAndMakeTargetFile();
     backups().removeDead();
     loadViewLimits();
-    return loadXML();
+}
+
+std::future<DataStore::Read> DataStore::beginLoad() {
+    prepareLoad();
+    records = Records{};
+    const StoreResult isThere = file.checkXMLFileExist();
+    if (isThere) lastSeen = file.stamp();
+    // Where no thread can be started, it is read when it is asked for.
+    return std::async([this, isThere] { return isThere.and_then([this] { return readAll(file); }); });
+}
+
+StoreResult DataStore::finishLoad(std::future<Read> reading) {
+    return tellLoaded(takeRead(reading.get()));
 }
 
 void DataStore::loadViewLimits() {
@@ -64,26 +86,31 @@ StoreResult DataStore::chooseViewLimits(const ViewLimits& chosen) {
     return written;
 }
 
-StoreResult DataStore::loadXML() {
-    loaded = readRecords();
+StoreResult DataStore::loadXML() { return tellLoaded(readRecords()); }
+
+StoreResult DataStore::tellLoaded(StoreResult how) {
+    loaded = std::move(how);
     emit reloaded();
     takeViewLimits();
     return loaded;
 }
 
 StoreResult DataStore::readRecords() {
-    const auto document = file.checkXMLFileExist().and_then([this] {
+    return takeRead(file.checkXMLFileExist().and_then([this] {
         lastSeen = file.stamp(); // before it is read: a change meanwhile is seen as one
-        return file.read();
-    });
-    if (!document) {
-        qCWarning(lcStore, "nodesForXPath failed %s", qUtf8Printable(document.error().detail));
+        return readAll(file);
+    }));
+}
+
+StoreResult DataStore::takeRead(Read read) {
+    if (!read) {
+        qCWarning(lcStore, "nodesForXPath failed %s", qUtf8Printable(read.error().detail));
         const SettingModel settings = records.gSettingModel;
         records = Records{};
         records.gSettingModel = settings;
-        return tl::unexpected{document.error()};
+        return tl::unexpected{read.error()};
     }
-    take(*document);
+    take(std::move(*read));
     return {};
 }
 
@@ -92,21 +119,21 @@ bool DataStore::isChangedElsewhere() const { return isChangedElsewhere(file.stam
 StoreResult DataStore::takeChanges() {
     const FileStamp now = file.stamp();
     if (damaged && damaged->first == now) return tl::unexpected{damaged->second};
-    const auto document = file.read();
-    if (!document) {
-        if (document.error().code == StoreErrorCode::notParsed) damaged = {now, document.error()};
-        return tl::unexpected{document.error()};
+    auto read = readAll(file);
+    if (!read) {
+        if (read.error().code == StoreErrorCode::notParsed) damaged = {now, read.error()};
+        return tl::unexpected{read.error()};
     }
     lastSeen = now;
-    take(*document);
+    take(std::move(*read));
     loaded = {};
     emit reloaded();
     takeViewLimits();
     return {};
 }
 
-void DataStore::take(const XmlDocument& document) {
-    records = Records::read(document.root(), LocalZone{});
+void DataStore::take(Records read) {
+    records = std::move(read);
     keepSelectedComment();
     if (!records.hasSetting) {
         pugi::xml_document defaults;

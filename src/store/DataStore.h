@@ -18,6 +18,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <future>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -36,6 +37,12 @@ public:
 
     /// Start-up: makes sure that ".target" and the data file exist, then loads.
     StoreResult load();
+    using Read = tl::expected<Records, StoreError>;
+    /// The same in two halves, between which a window can be made: the file is read off this thread, and
+    /// until finishLoad(), which emits reloaded(), the store is empty. The result outlasts neither the store
+    /// nor another load.
+    [[nodiscard]] std::future<Read> beginLoad();
+    StoreResult finishLoad(std::future<Read> reading);
     /// Reads the whole file. On an error all lists are empty, and a write reads the file first, and is
     /// refused if it cannot be read yet. Emits reloaded() in any case.
     StoreResult loadXML();
@@ -186,8 +193,11 @@ signals:
     void notBackedUp(const QString& why);
 
 private:
+    void prepareLoad();
     StoreResult readRecords();
-    void take(const XmlDocument& document);
+    StoreResult takeRead(Read read);
+    void take(Records read);
+    StoreResult tellLoaded(StoreResult how);
     [[nodiscard]] StoreResult write(const DataFile::Change& change);
     [[nodiscard]] StoreResult edit(const DataFile::Change& change);
     /// Tells the recorder what it changes, and what the step is called.

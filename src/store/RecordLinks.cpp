@@ -14,7 +14,9 @@ std::vector<ReadingModel*> byDate(ReadingList& readings) {
     sorted.reserve(readings.size());
     for (ReadingModel& reading : readings)
         sorted.push_back(&reading);
-    std::ranges::stable_sort(sorted, {}, [](const ReadingModel* reading) { return reading->ReadingDate; });
+    const auto date = [](const ReadingModel* reading) { return reading->ReadingDate; };
+    if (!std::ranges::is_sorted(sorted, {}, date)) // as downloads leave them
+        std::ranges::stable_sort(sorted, {}, date);
     return sorted;
 }
 

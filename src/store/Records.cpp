@@ -8,7 +8,9 @@
 #include <QSet>
 
 #include <algorithm>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace zel {
@@ -66,12 +68,29 @@ void tellApart(const CommentList& comments) {
     }
 }
 
+Records::ReadingCounts countReadings(pugi::xml_node root) {
+    std::unordered_map<std::string, std::size_t> readings;
+    std::pair<const std::string, std::size_t>* last = nullptr;
+    std::string scratch;
+    for (const pugi::xml_node node : root.children()) {
+        if (!isElement(node, "MeasureRec")) continue;
+        const std::string_view ID = elementText(firstElement(node, "ID"), scratch);
+        if (!last || last->first != ID) last = &*readings.try_emplace(std::string(ID)).first;
+        ++last->second;
+    }
+    Records::ReadingCounts counts;
+    for (const auto& [ID, count] : readings)
+        counts.emplace(toQString(ID), count);
+    return counts;
+}
+
 /// One record by its element's name; elements that are none of these are left alone.
-void readRecord(Records& records, pugi::xml_node element, const LocalZone& zone) {
+void readRecord(Records& records, pugi::xml_node element, const LocalZone& zone,
+                const Records::ReadingCounts& counts) {
     if (element.type() != pugi::node_element) return;
     const std::string_view name{element.name()};
     if (name == "MeasureRec") {
-        records.addReading(ReadingModel::initWithXMLNode(element), zone);
+        records.addReading(ReadingModel::initWithXMLNode(element), zone, counts);
     } else if (name == "Patient") {
         records.gaPatient.push_back(PatientModel::initWithXMLNode(element));
     } else if (name == "Comment") {
@@ -113,15 +132,14 @@ Records Records::read(pugi::xml_node root, const LocalZone& zone) {
         records.gSettingModel = SettingModel::initWithXMLNode(setting);
         records.hasSetting = true;
     }
-    // Growing would take the memory of twice as many for a moment.
+    // Growing lists would take the memory of twice as many for a moment, and move each record several times.
     records.gaPatient.reserve(static_cast<std::size_t>(std::ranges::count_if(
         root.children(), [](pugi::xml_node node) { return isElement(node, "Patient"); })));
+    const ReadingCounts counts = countReadings(root);
     for (pugi::xml_node element = root.first_child(); element; element = element.next_sibling()) {
-        readRecord(records, element, zone);
+        readRecord(records, element, zone, counts);
     }
     sortByName(records.gaPatient);
-    for (auto& [ID, list] : records.mdReading)
-        list.shrink_to_fit();
     logCounts(records);
     linkAll(records);
     return records;
@@ -152,13 +170,17 @@ const ReadingList& Records::readingsOf(const QString& ID) const {
     return found == mdReading.end() ? none : found->second;
 }
 
-void Records::addReading(ReadingModel reading, const LocalZone& zone) {
+void Records::addReading(ReadingModel reading, const LocalZone& zone, const ReadingCounts& expected) {
     if (const auto number = reading.RecID.number()) // without making a text of it again
         countID(Counter::reading, *number);
     else
         countID(Counter::reading, reading.RecID.text());
     ReadingList* list = listFor(mdReading, reading.ID, {"reading", " "});
     if (!list) return;
+    if (list->empty()) {
+        if (const auto found = expected.find(reading.ID); found != expected.end())
+            list->reserve(found->second);
+    }
     // One text for all of a patient's readings.
     if (!list->empty()) reading.ID = list->back().ID;
     reading.postInit(list->empty() ? nullptr : &list->back(), gSettingModel, zone);

@@ -10,6 +10,7 @@
 #include <pugixml.hpp>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -40,7 +41,9 @@ struct Records {
 
     // One record into its index. A record without a patient's ID is logged and dropped. Readings are added
     // in the order in which they are shown: each is placed after the one before it.
-    void addReading(ReadingModel reading, const LocalZone& zone);
+    // \p expected: how many there will be of each patient; room is made for them at the first one.
+    using ReadingCounts = std::unordered_map<QString, std::size_t>;
+    void addReading(ReadingModel reading, const LocalZone& zone, const ReadingCounts& expected);
     void addComment(CommentModel comment);
     void addDataLog(DataTransferLogModel entry);
 

@@ -19,6 +19,31 @@ TEST_F(DataStoreTest, FirstStartCopiesTheTemplateForTheOwnerAlone) {
     EXPECT_EQ(readFile(program.filePath(u".target"_s)).value(), "pad");
 }
 
+TEST_F(DataStoreTest, LoadInTwoHalvesIsTheSameLoad) {
+    dataFileOfA("<MeasureRec><ID>A</ID><RecID>1</RecID></MeasureRec>");
+    int reloads = 0;
+    QObject::connect(&store, &DataStore::reloaded, &store, [&reloads] { ++reloads; });
+    auto reading = store.beginLoad();
+    EXPECT_TRUE(store.getPatientArray().empty());
+    EXPECT_EQ(reloads, 0);
+    EXPECT_TRUE(store.finishLoad(std::move(reading)));
+    EXPECT_EQ(reloads, 1);
+    EXPECT_EQ(store.getReadingForID(u"A"_s).size(), 1U);
+    EXPECT_TRUE(store.lastLoad() && store.validIDinXML(u"A"_s) && !store.isChangedElsewhere());
+
+    reading = store.beginLoad();
+    reading.wait();
+    dataFile("<Patient><ID>B</ID></Patient>"); // by another program, while the window is made
+    EXPECT_TRUE(store.finishLoad(std::move(reading)));
+    EXPECT_TRUE(store.isChangedElsewhere());
+
+    write(path, "<ZEL>");
+    reading = store.beginLoad();
+    EXPECT_EQ(store.finishLoad(std::move(reading)).error().code, StoreErrorCode::notParsed);
+    EXPECT_FALSE(store.lastLoad());
+    EXPECT_EQ(reloads, 3);
+}
+
 TEST_F(DataStoreTest, LinkToWhatIsOutOfReachIsLeftAndTold) {
     const QString share = home.filePath(u"share.xml"_s); // not there now
     ASSERT_TRUE(QDir{}.mkpath(QFileInfo{path}.path()) && QFile::link(share, path));

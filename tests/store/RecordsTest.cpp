@@ -227,7 +227,8 @@ TEST(Records, CommentsAndDownloadsAreLinkedByDay) {
     const auto document = XmlDocument::parse(linkedFile);
     ASSERT_TRUE(document);
     const Records records = Records::read(document->root(), LocalZone{});
-    ASSERT_EQ(records.mdReading.size(), 2U); // the one without ID is dropped
+    ASSERT_EQ(records.mdReading.size(), 2U);                // the one without ID is dropped
+    EXPECT_EQ(records.mdReading.at(u"A"_s).capacity(), 5U); // no memory for readings that there are not
     std::string seen;
     for (const ReadingModel& reading : records.mdReading.at(u"A"_s)) {
         seen += reading.RecID.text().toStdString() + ':'

@@ -113,6 +113,13 @@ void CommentViewController::showPosition() {
         form->showPosition(*index, comments.size());
     else
         form->showNoPosition();
+    change.want();
+}
+
+/// What it calculates goes over all readings.
+void CommentViewController::showChange() {
+    const CommentList& comments = store.getCommentForCurID();
+    const auto index = shown ? indexOf(shown->CommentID) : std::nullopt;
     if (index && !means) means = DayMeans(store.getReadingForCurID());
     form->showChange(index ? describe(calcBeforeAndSince(*means, comments, *comments[*index])) : QString());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/DayMeans.h"
+#include "app/widgets/SeenWork.h"
 #include "app/widgets/SidePanel.h"
 #include "store/Clock.h"
 #include "store/DataStore.h"
@@ -72,6 +73,7 @@ private:
     void go(bool forward);
     void show(const CommentModel& comment);
     void showPosition();
+    void showChange();
     void rescueText();
     void tellIfNotReadBack();
     [[nodiscard]] std::optional<std::size_t> indexOf(const QString& commentID) const;
@@ -84,6 +86,7 @@ private:
     bool isLoading = false;
     CommentForm* form;
     std::optional<DayMeans> means; ///< of the patient's readings, as soon as they are asked for
+    SeenWork change{*this, [this] { showChange(); }};
 };
 
 } // namespace zel

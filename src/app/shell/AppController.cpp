@@ -74,7 +74,6 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(undoer, &UndoController::retraced, this, &AppController::showStep);
     connect(undoer, &UndoController::said, &window, &MainWindow::showOutcome);
     courier = new BackupCourier(parts.store, parts.clock, this);
-    connect(&parts.store, &DataStore::reloaded, courier, &BackupCourier::bring);
     connect(courier, &BackupCourier::failed, this, [this](const QString& why) {
         parts.panel.interject(this, [this, why] { parts.panel.ShowMessage(why, qtTrId("Warning")); });
     });
@@ -124,6 +123,8 @@ AppController::~AppController() { parts.monitor.stop(); }
 void AppController::awakeFromNib(const StoreResult& loaded) {
     // A file that could not even be read gets its own message once the window is there.
     if (loaded) parts.store.checkXmlWritable(parts.panel);
+    // From now on: the load at start has changed nothing.
+    connect(&parts.store, &DataStore::reloaded, courier, &BackupCourier::bring);
     AdjustWindowFitToScreen(window, false);
     window.setPatientPanelsVisible(true);
     enable2Tabs(!parts.store.getPatientArray().empty());

@@ -24,19 +24,21 @@ public:
         : port(std::move(monitorPort)),
           languagePath(languageFile(personHome.isEmpty() ? paths.home : personHome)),
           memory(viewMemoryFile(paths.home, DataFile(paths, clock).getZELXMLPath())),
-          store(std::move(paths), clock), loaded(store.load()), monitor(*port, clock), chooser(&memory),
+          store(std::move(paths), clock), reading(store.beginLoad()), monitor(*port, clock), chooser(&memory),
           period(std::chrono::floor<std::chrono::milliseconds>(clock.now())),
           appController({store, status, monitor, panel, clock, chooser, period, printers, openWithDesktop,
                          languagePath, &memory, demonstration},
                         timing) {
         panel.setWindow(&appController.mainWndow());
+        loaded = store.finishLoad(std::move(reading));
     }
 
     std::unique_ptr<MonitorPort> port;
     QString languagePath;
     ViewMemory memory; ///< read once, and written at the end
     DataStore store;
-    StoreResult loaded; ///< how the data file was loaded at start
+    std::future<DataStore::Read> reading; ///< while the window is made
+    StoreResult loaded;                   ///< how the data file was loaded at start
     MonitorStatus status;
     MonitorWorker monitor;
     MessageBoxPanel panel;

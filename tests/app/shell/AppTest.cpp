@@ -19,10 +19,12 @@ void AppTest::launch(AppController::Timing timing) {
         opened += path;
         return hasViewer;
     };
+    auto reading = store.beginLoad();
     app = std::make_unique<AppController>(
         AppController::Parts{store, status, *worker, panel, clock, chooser, period, printers, open,
                              languageFile(home.path()), memory.get(), demonstration},
         timing);
+    loaded = store.finishLoad(std::move(reading));
     app->awakeFromNib(loaded);
     app->applicationDidFinishLaunching(loaded);
 }
