@@ -19,11 +19,11 @@ constexpr qsizetype mostKept = 4000;
 
 /// One run from left to right, in one script and one font, which Qt writes as one piece.
 bool isPlain(const QString& text) {
-    return !text.isEmpty() && text.size() <= longestKept
+    return text.size() <= longestKept
            && std::ranges::all_of(text, [](QChar c) { return u' ' <= c && c <= u'~'; });
 }
 
-/// \return none where the font has not all of the text
+/// \return none where there is nothing to write, or it takes several fonts
 QGlyphRun shaped(const QString& text, const QFont& font) {
     QTextLayout layout(text, font);
     layout.beginLayout();

@@ -76,13 +76,12 @@ TEST(DocumentMemory, aDocumentHasTheBytesThatItsPagesHaveAlone) {
 
 /// Each text in several types and colours, as texts of a table come: again and again, mixed.
 Picture manyTypes() {
-    const QStringList texts{u"120"_s,     u"111"_s,   u"0"_s,        u"2026/11/22"_s,  u"22.11.2026"_s,
-                            u"AVAT."_s,   u"fi ff"_s, u" 7"_s,       u"7 "_s,          u" "_s,
-                            u""_s,        u"a\tb"_s,  u"(1)-[2]"_s,  u"10:59 PM"_s,    u"a longer text"_s,
-                            u"4\u2193"_s, u"ü"_s,     u"\u738B 7"_s, u"\u05DB 12 a"_s, u"e\u0301"_s};
+    const QString texts =
+        u"120|111|0|2026/11/22|22.11.2026|AVAT.|fi ff| 7|7 | ||(1)-[2]|10:59 PM|a longer text|"
+        u"4\u2193|ü|e\u0301|\u738B 7|\u05DB 12 a|\u05DB\u05D4|a\u0431|\t7|7\n8|7\u2028|\u200B7"_s;
     Picture picture;
     double y = 800;
-    for (const QString& text : texts) {
+    for (const QString& text : texts.split(u'|')) {
         double x = 10.3;
         for (const TextAttribute& type :
              {TextAttribute{}, TextAttribute{.bold = true}, TextAttribute{.size = 7},
