@@ -1,9 +1,11 @@
 #include "chart/DocumentMemory.h"
 
 #include "SampleReport.h"
+#include "chart/Drawing.h"
 #include "chart/PicturePainter.h"
 #include "report/ReportDocument.h"
 #include "report/ReportPainter.h"
+#include "report/TextWidths.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -126,6 +128,17 @@ TEST(DocumentMemory, keepsOnlyWhatComesAgain) {
     QImage image(10, 10, QImage::Format_ARGB32_Premultiplied);
     QPainter onScreen(&image);
     EXPECT_EQ(memory.glyphs(onScreen, u"120"_s, {}), nullptr) << "which has hints of its own";
+}
+
+TEST(TextWidths, areThoseOfEachTypeHoweverOftenAskedFor) {
+    TextWidths widths;
+    for (int round = 0; round < 2; ++round)
+        for (const char* text : {"120", "Pulse"})
+            for (const TextAttribute& type :
+                 {TextAttribute{}, TextAttribute{.bold = true}, TextAttribute{.size = 7}})
+                EXPECT_EQ(widths.of(QLatin1StringView(text), type),
+                          textSize(QLatin1StringView(text), type).width)
+                    << text << type.size << type.bold << round;
 }
 
 } // namespace
