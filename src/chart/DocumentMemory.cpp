@@ -12,8 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// As long as a date, which the evening's reading has of the morning's; longer texts seldom come twice.
-constexpr qsizetype longestKept = 10;
+/// Values, times, a date, which the evening's reading has of the morning's, and what each page's head says;
+/// longer texts are comments and notes, which seldom come twice.
+constexpr qsizetype longestKept = 40;
 /// More than there are times and values; the dates of a lifetime must not fill the memory.
 constexpr qsizetype mostKept = 4000;
 

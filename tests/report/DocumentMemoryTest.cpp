@@ -79,7 +79,8 @@ TEST(DocumentMemory, aDocumentHasTheBytesThatItsPagesHaveAlone) {
 /// Each text in several types and colours, as texts of a table come: again and again, mixed.
 Picture manyTypes() {
     const QString texts =
-        u"120|111|0|2026/11/22|22.11.2026|AVAT.|fi ff| 7|7 | ||(1)-[2]|10:59 PM|a longer text|"
+        u"120|111|0|All that a head of a page says: (P-17)|2026/11/22|22.11.2026|AVAT.|fi ff| 7|7 | "
+        u"||(1)-[2]|10:59 PM|a longer text|"
         u"4\u2193|ü|e\u0301|\u738B 7|\u05DB 12 a|\u05DB\u05D4|a\u0431|\t7|7\n8|7\u2028|\u200B7"_s;
     Picture picture;
     double y = 800;
