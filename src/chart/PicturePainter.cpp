@@ -2,6 +2,7 @@
 
 #include "chart/CurvePieces.h"
 #include "chart/DensePicture.h"
+#include "chart/DocumentMemory.h"
 #include "chart/GridLines.h"
 #include "chart/MarkLayer.h"
 #include "chart/PictureSurface.h"
@@ -9,7 +10,6 @@
 #include "chart/TickLayers.h"
 
 #include <QFontMetricsF>
-#include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
@@ -25,7 +25,8 @@ namespace {
 /// Paints one item after the other.
 class ItemPainter {
 public:
-    ItemPainter(QPainter& onto, double height) : surface(onto, height), painter(onto) {}
+    ItemPainter(QPainter& onto, double height, DocumentMemory* document)
+        : surface(onto, height), painter(onto), memory(document) {}
 
     /// Paints the first item, or several alike. \return how many
     std::size_t next(std::span<const PictureItem> items) {
@@ -76,7 +77,12 @@ public:
         written = &type;
         painter.setPen(item.attribute.color);
         surface.moveTo(item.origin, true);
-        painter.drawText(QPointF(0, -type.descent), item.text);
+        const QPointF base(0, -type.descent);
+        const QGlyphRun* glyphs = memory ? memory->glyphs(painter, item.text, item.attribute) : nullptr;
+        if (glyphs)
+            painter.drawGlyphRun(base, *glyphs);
+        else
+            painter.drawText(base, item.text);
         surface.moveTo({}, false);
     }
 
@@ -120,7 +126,8 @@ public:
     void operator()(const Ticks& item) { paintTicks(surface, item); }
 
     void operator()(const ImageItem& item) {
-        QSvgRenderer image(u":/images/%1.svg"_s.arg(item.name));
+        DocumentMemory own;
+        QSvgRenderer& image = (memory ? *memory : own).image(item.name);
         const Smooth smooth(painter);
         image.render(&painter, surface.rect(item.rect));
     }
@@ -192,14 +199,15 @@ private:
 
     PictureSurface surface;
     QPainter& painter;
+    DocumentMemory* memory;        ///< or none
     std::list<Type> types;         ///< that the picture is written in
     const Type* written = nullptr; ///< the painter's now; none: unknown
 };
 
 } // namespace
 
-void paintPicture(QPainter& painter, const Picture& picture, double height) {
-    ItemPainter paint(painter, height);
+void paintPicture(QPainter& painter, const Picture& picture, double height, DocumentMemory* memory) {
+    ItemPainter paint(painter, height, memory);
     for (std::span<const PictureItem> rest(picture); !rest.empty();)
         rest = rest.subspan(paint.next(rest));
 }

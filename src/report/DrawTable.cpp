@@ -39,10 +39,11 @@ Field field(const Rect& row, double from, double to, double base, double indent 
     return {{row.x + from * wratio + indent, row.y + base}, (to - from) * wratio - indent - columnGap};
 }
 
-void title(Picture& picture, const Rect& row, double from, double to, const QString& text,
+void title(Picture& picture, const TableRow& row, double from, double to, const QString& text,
            const QString& unit, double indent = 0) {
     const Field name = field(row, from, to, titleBase, indent);
-    fieldFigure(picture, text.section(u'\n', 0, 0), name.at, name.width, cellFont);
+    fieldFigure(picture, text.section(u'\n', 0, 0), name.at, name.width, cellFont, XPos::left, smallestFigure,
+                row.widths);
     if (!unit.isEmpty()) textOut(picture, unit, {name.at.x, row.y + 1}, columnUnitFont);
 }
 
@@ -50,9 +51,9 @@ void title(Picture& picture, const Rect& row, double from, double to, const QStr
 TableRow tableRow(const Rect& place, TextWidths* widths) {
     TextAttribute font = cellFont;
     const double room = field(place, xDate, xTime, textBase).width;
-    while (font.size > smallestRow && textSize(u"0000/00/00"_s, font).width > room)
+    while (font.size > smallestRow && widthOf(u"0000/00/00"_s, font, widths) > room)
         --font.size;
-    return {place, font, textSize(u"000"_s, font).width, widths};
+    return {place, font, widthOf(u"000"_s, font, widths), widths};
 }
 
 void text(Picture& picture, const TableRow& row, double from, double to, const QString& words,
@@ -135,7 +136,7 @@ bool DrawTable::drawRect(Picture& picture, const Rect& rect, int page, bool forT
     return isCut;
 }
 
-void DrawTable::drawHeader(Picture& picture, const Rect& row) const {
+void DrawTable::drawHeader(Picture& picture, const TableRow& row) const {
     const QString mmHg = qtTrId("mmHg");
     if (report.getShowMam) title(picture, row, xMam, xPad, qtTrId("mam"), {});
     if (report.getShowPad) title(picture, row, xPad, xSys, padTitle(report), {});

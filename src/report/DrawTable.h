@@ -35,7 +35,7 @@ public:
 
 private:
     [[nodiscard]] int rowTotal() const { return static_cast<int>(report.rows.rows.size()); }
-    void drawHeader(Picture& picture, const Rect& row) const;
+    void drawHeader(Picture& picture, const TableRow& row) const;
     /// \p opensRun: names its comment, which the row above does not have. \return whether that is cut
     bool drawReading(Picture& picture, const TableRow& row, const ReadingRow& reading, bool opensRun) const;
     void drawMeasures(Picture& picture, const TableRow& row, const ReadingModel& reading) const;

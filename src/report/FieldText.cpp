@@ -61,9 +61,7 @@ void fieldText(Picture& picture, const QString& text, Point at, double width, co
 
 void fieldFigure(Picture& picture, const QString& text, Point at, double width, TextAttribute attribute,
                  XPos x, int smallest, TextWidths* widths) {
-    const auto measured = [&] {
-        return widths ? widths->of(text, attribute) : textSize(text, attribute).width;
-    };
+    const auto measured = [&] { return widthOf(text, attribute, widths); };
     double own = measured();
     while (own > width && attribute.size > smallest) {
         --attribute.size;

@@ -77,7 +77,9 @@ PageGeometry PrintView::geometry(std::optional<Section> printSelection) const {
     const QSizeF upright = paperSize.size(QPageSize::Point);
     const bool isPortrait = getOrientation(printSelection) == QPageLayout::Portrait;
     const QSizeF size = isPortrait ? upright : upright.transposed();
-    return pageGeometry({size.width(), size.height()}, patientTitleHeight());
+    // Measured once: a font is looked up for it, and each page asks for its geometry several times.
+    if (!titleHeight) titleHeight = patientTitleHeight();
+    return pageGeometry({size.width(), size.height()}, *titleHeight);
 }
 
 Picture PrintView::page(std::optional<Section> printSelection, int number) const {

@@ -62,6 +62,7 @@ private:
 
     ReportSource source;
     QPageSize paperSize;
+    mutable std::optional<double> titleHeight; ///< of the patient's lines
     // Worked out when the section is first asked for: texts may be long, and many.
     mutable std::optional<CommentPages> commentPages;
     mutable std::optional<PatientPages> patientPages;

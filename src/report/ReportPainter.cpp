@@ -1,5 +1,6 @@
 #include "report/ReportPainter.h"
 
+#include "chart/DocumentMemory.h"
 #include "chart/PicturePainter.h"
 #include "report/ReportDocument.h"
 
@@ -19,11 +20,11 @@ bool setLayout(QPagedPaintDevice& device, const PrintView& view, Section section
     return device.setPageLayout(layout);
 }
 
-void paintPage(QPainter& painter, const Picture& picture, double height) {
+void paintPage(QPainter& painter, const Picture& picture, double height, DocumentMemory& memory) {
     painter.save();
     painter.scale(painter.device()->logicalDpiX() / pointsPerInch,
                   painter.device()->logicalDpiY() / pointsPerInch);
-    paintPicture(painter, picture, height);
+    paintPicture(painter, picture, height, &memory);
     painter.restore();
 }
 
@@ -37,11 +38,12 @@ bool beginPage(QPagedPaintDevice& device, QPainter& painter, const PrintView& vi
 
 bool paintReport(QPagedPaintDevice& device, const PrintView& view, std::span<const Section> sections) {
     const ReportDocument document(view, sections);
+    DocumentMemory memory;
     QPainter painter;
     for (std::size_t index = 0; index < document.pages().size(); ++index) {
         const ReportDocument::Page& page = document.pages()[index];
         if (!beginPage(device, painter, view, page)) return false;
-        paintPage(painter, document.page(index), view.geometry(page.section).pageSize.height);
+        paintPage(painter, document.page(index), view.geometry(page.section).pageSize.height, memory);
     }
     return painter.isActive() && painter.end();
 }
