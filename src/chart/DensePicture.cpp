@@ -46,6 +46,27 @@ void addStroke(std::vector<Segment>& strokes, const Segment& stroke, const Rect&
     if (const auto near = within(stroke, sight.inset(-far))) strokes.push_back(*near);
 }
 
+/// Points of a joined line in one column.
+struct UprightRun {
+    double x = 0;
+    double low = 0;
+    double high = 0;
+
+    void add(double y) {
+        low = std::min(low, y);
+        high = std::max(high, y);
+    }
+    [[nodiscard]] bool isStroke() const { return low < high; }
+    [[nodiscard]] bool reaches(double y) const { return low <= y && y <= high; }
+};
+
+/// Whether a stroke from one pixel column to the next lies under the upright strokes of both: between its
+/// ends it leaves neither column, and in each column both of its ends' heights are painted.
+bool isCovered(const Segment& slant, const UprightRun& from, const UprightRun& to) {
+    return std::abs(to.x - from.x) == 1 && from.isStroke() && to.isStroke() && from.reaches(slant.to.y)
+           && to.reaches(slant.from.y);
+}
+
 /// Upright strokes through one column, as a count for each pixel from \p bottom on.
 class Column {
 public:
@@ -122,19 +143,21 @@ Rect wholePixels(const Rect& rect) {
 
 } // namespace
 
-std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight) {
+std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight, bool eachUnitIsAPixel) {
     std::vector<Segment> strokes;
+    UprightRun before;
     for (std::size_t first = 0; first < points.size();) {
-        auto [low, high] = std::pair{points[first].y, points[first].y};
+        UprightRun run{points[first].x, points[first].y, points[first].y};
         std::size_t next = first + 1;
-        for (; next < points.size() && points[next].x == points[first].x; ++next) {
-            low = std::min(low, points[next].y);
-            high = std::max(high, points[next].y);
+        for (; next < points.size() && points[next].x == run.x; ++next)
+            run.add(points[next].y);
+        if (first > 0) {
+            const Segment slant{points[first - 1], points[first]};
+            if (!eachUnitIsAPixel || !isCovered(slant, before, run)) addStroke(strokes, slant, sight);
         }
-        const double x = points[first].x;
-        if (first > 0) addStroke(strokes, {points[first - 1], points[first]}, sight);
-        if (next - first > 1) addStroke(strokes, {{x, low}, {x, high}}, sight);
+        if (next - first > 1) addStroke(strokes, {{run.x, run.low}, {run.x, run.high}}, sight);
         first = next;
+        before = run;
     }
     return strokes;
 }

@@ -37,7 +37,7 @@ void paintUprightLines(PictureSurface& surface, std::span<const PictureItem> lin
             .toRect();
     if (area.isEmpty()) return;
     // A few rows are drawn one below the other.
-    QImage rows(area.width(), std::min(area.height(), 32), QImage::Format_ARGB32_Premultiplied);
+    QImage rows(area.width(), std::min(area.height(), 16), QImage::Format_ARGB32_Premultiplied);
     rows.fill(Qt::transparent);
     const auto bytes = static_cast<std::size_t>(rows.bytesPerLine());
     auto* const pixels = reinterpret_cast<QRgb*>(rows.bits());

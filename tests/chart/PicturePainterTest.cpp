@@ -123,6 +123,11 @@ TEST(PicturePainter, DrawsMarksTicksAndLinesAsThePainterItselfWould) {
     EXPECT_EQ(painted({BeginClip{plot}, readings.marks, readings.ticks, line, EndClip{}}), expected);
 }
 
+TEST(PicturePainter, DrawsAllOfALevelLine) {
+    const PolyLine line{{{40, 50}, {41, 50}, {42, 50}, {42, 50}, {43, 50}, {43, 50}, {44, 50}}};
+    EXPECT_EQ(painted({line}), painted({FillRect{{40, 50, 5, 1}, Qt::black}}));
+}
+
 TEST(PicturePainter, LeavesWhatLiesBetweenTicksAsItIs) {
     const Ticks ticks{{{39, 140, 108}, {40, 108, 98}, {41, 88, 83}}, QColor(255, 255, 255, 153)};
     Picture alone;
