@@ -36,6 +36,29 @@ QPointF topLeft(const PictureSurface& surface, Point point) {
     return {surface.x(point.x - 2), surface.y(point.y + 3)};
 }
 
+/// Squares of one colour cover each other in any order, so that the painter gets them all at once.
+void paintSquares(PictureSurface& surface, std::span<const Point> points, const MarkShape<double>& shape) {
+    QList<QRectF> squares;
+    squares.reserve(std::ssize(points));
+    for (const Point point : points)
+        squares.emplace_back(topLeft(surface, point) + QPointF(shape.edge, shape.edge),
+                             QSizeF(shape.inner, shape.inner));
+    surface.painter.setPen(Qt::NoPen);
+    surface.painter.setBrush(shape.color);
+    surface.painter.drawRects(squares);
+}
+
+/// A border and what it holds as one small image: half of the calls.
+void paintBordered(PictureSurface& surface, std::span<const Point> points, const MarkShape<int>& shape) {
+    QImage mark(shape.outer, shape.outer, QImage::Format_RGB32);
+    mark.fill(shape.border);
+    for (int y = shape.edge; y < shape.edge + shape.inner; ++y)
+        for (int x = shape.edge; x < shape.edge + shape.inner; ++x)
+            mark.setPixel(x, y, shape.color.rgb());
+    for (const Point point : points)
+        surface.painter.drawImage(topLeft(surface, point), mark);
+}
+
 void paintEach(PictureSurface& surface, std::span<const Point> points, const MarkShape<double>& shape) {
     const QSizeF outer(shape.outer, shape.outer);
     const QSizeF inner(shape.inner, shape.inner);
@@ -217,9 +240,12 @@ void paintMarks(PictureSurface& surface, const PointMarks& marks) {
     const QRect part = coveredPart(surface, points);
     const double area = static_cast<double>(part.width()) * part.height();
     if (surface.hasPixels() && area < pixelsPerMark * static_cast<double>(points.size()))
-        paintTogether(surface, points, MarkShape<int>(surface, marks), part);
-    else
-        paintEach(surface, visibleMarks(points, surface.sight()), MarkShape<double>(surface, marks));
+        return paintTogether(surface, points, MarkShape<int>(surface, marks), part);
+    const std::vector<Point> visible = visibleMarks(points, surface.sight());
+    const MarkShape<double> shape(surface, marks);
+    if (!surface.hasPixels() || shape.inner <= 0) return paintEach(surface, visible, shape);
+    if (marks.bordered) return paintBordered(surface, visible, MarkShape<int>(surface, marks));
+    paintSquares(surface, visible, shape);
 }
 
 } // namespace zel
