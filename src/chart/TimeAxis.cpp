@@ -72,7 +72,8 @@ void drawTimeAxis(Picture& picture, const ChartScale& scale, const AxisGrid& gri
     picture.reserve(picture.size() + grid.lines.size() + 20); // and the readings
     picture.push_back(BeginClip{scale.chartRect});
     for (const AxisDay& day : grid.lines)
-        picture.push_back(StraightLine{{day.x, scale.chartRect.y}, {day.x, scale.chartRect.top()}, 1, color});
+        picture.emplace_back(
+            StraightLine{{day.x, scale.chartRect.y}, {day.x, scale.chartRect.top()}, 1, color});
     picture.push_back(EndClip{});
 }
 
