@@ -59,7 +59,7 @@ AxisGrid::AxisGrid(const ChartScale& scale, const LocalZone& zone) : days(dayDif
     const DayNumber first = zone.day(scale.time.begin);
     const DayNumber last = zone.day(scale.time.end);
     const int step = gridStep(days);
-    lines.reserve(static_cast<std::size_t>(std::max(0, last - first) / step + 1));
+    lines.reserve(static_cast<std::size_t>(std::max(0, last - first)) / static_cast<std::size_t>(step) + 1);
     for (DayNumber day = first; day <= last; day += step) {
         const Instant midnight = nearestMidnight(scale.time.begin + std::chrono::days{day - first}, zone);
         lines.push_back({year_month_day{sys_days{std::chrono::days{day}}}, scale.time.calcXPos(midnight)});
