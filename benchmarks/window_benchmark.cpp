@@ -10,16 +10,19 @@
 #include "store/AtomicFile.h"
 #include "store/Languages.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -27,23 +30,37 @@ namespace {
 
 using namespace zel;
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 constexpr double aFrame = 16; ///< milliseconds
+
+/// Each of which a step has to paint.
+using Shown = std::vector<QWidget*>;
 
 StorePaths pathsIn(const QString& home) {
     return {.home = home, .applicationFolder = home, .templateFolder = u":/templates"_s};
 }
 
-/// Counts what is painted, so that no step is measured that shows nothing.
+/// What is painted, so that no step is measured that does not show what it is for.
 class Paints final : public QObject {
 public:
     explicit Paints(bool small) : isSmall(small) { qApp->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Paint ? 1 : 0;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && watched->isWidgetType())
+            painted.emplace_back(static_cast<QWidget*>(watched));
         return false;
     }
-    int count = 0;
+    void beginAnew() { painted.clear(); }
+    /// The widget or a part of it.
+    [[nodiscard]] bool have(const QWidget& shown) const {
+        return std::ranges::any_of(painted, [&shown](const QPointer<QWidget>& widget) {
+            return widget && (widget == &shown || shown.isAncestorOf(widget));
+        });
+    }
     bool isSmall;
+
+private:
+    std::vector<QPointer<QWidget>> painted; ///< a step may delete some
 };
 
 /// The whole program over a made data file, without its own process.
@@ -78,6 +95,8 @@ public:
         if (!widget) qFatal("no widget %s", name);
         return *widget;
     }
+    QWidget& rowsOf(const char* table) { return *find<QAbstractScrollArea>(table).viewport(); }
+    Shown charts() { return {&find("BloodView"), &find("PulseView")}; }
     void showPeriod(int days) {
         const Instant end = program->period.getDataPeriod().end;
         program->period.setTimePeriod(end - std::chrono::days{days}, end);
@@ -122,42 +141,57 @@ void press(QWidget& to, int key, const QString& text) {
 /// computer does, but not what the step itself takes. The rounds begin alike.
 void measure(
     const std::string& what, Paints& paints, const std::function<void(int)>& step,
-    const std::function<void()>& prepare = [] {}, int most = 200) {
+    const std::function<Shown(int)>& shown, const std::function<void()>& prepare = [] {}, int most = 200) {
     constexpr int rounds = 3;
     const int steps = paints.isSmall ? 10 : most;
     std::vector<double> best(static_cast<std::size_t>(steps), 1e9);
-    const int before = paints.count;
     for (int round = 0; round < rounds; ++round) {
         for (int number = 0; number < steps; ++number) {
             prepare(); // is not measured
+            paints.beginAnew();
             const double taken = processorSeconds([&] {
                 step(number);
                 Window::settle();
             });
             best[static_cast<std::size_t>(number)] = std::min(best[static_cast<std::size_t>(number)], taken);
+            for (const QWidget* widget : shown(number))
+                if (!paints.have(*widget))
+                    qFatal("%s: step %d does not paint %s", what.c_str(), number,
+                           qUtf8Printable(widget->objectName()));
         }
     }
-    if (paints.count - before < steps * rounds) qFatal("%s: most steps show nothing", what.c_str());
     const double slowest = std::ranges::max(best);
     print({.what = what, .unit = "ms", .ours = 1000 * slowest, .against = {}, .target = aFrame});
+}
+
+/// Where every step shows the same.
+std::function<Shown(int)> always(const Shown& shown) {
+    return [shown](int) { return shown; };
 }
 
 void measureSearch(Window& window, Paints& paints) {
     auto& field = window.find("searchPatients");
     const QString typed = u"1999\b\b\b\bx\b"_s;
-    measure("A key in the search", paints, [&](int number) {
+    const auto type = [&](int number) {
         const QChar key = typed[number % typed.size()];
         if (key == u'\b') return press(field, Qt::Key_Backspace, {});
         press(field, key.toUpper().unicode(), key);
-    });
+    };
+    // The list, or what is said in its place.
+    measure("A key in the search", paints, type, always({&field, window.find("tblPatients").parentWidget()}));
 }
 
 void measurePages(Window& window, Paints& paints) {
     constexpr std::array tabs{"graphBtn", "tableBtn", "patientBtn"};
+    const std::array pages{window.charts(), Shown{&window.rowsOf("tblReadings")},
+                           Shown{&window.rowsOf("tblPatients")}};
+    const auto switchPage = [&](int number) {
+        click(window.find(tabs.at(static_cast<std::size_t>(number) % 3)));
+    };
     for (const bool all : {false, true}) {
         window.showPeriod(all ? window.daysOfData() : 90);
         measure(all ? "A page switch, all days in view" : "A page switch, 90 days in view", paints,
-                [&](int number) { click(window.find(tabs.at(static_cast<std::size_t>(number) % 3))); });
+                switchPage, [&](int number) { return pages.at(static_cast<std::size_t>(number) % 3); });
         click(window.find("patientBtn"));
     }
 }
@@ -170,26 +204,30 @@ void measureFirstVisits(Window& window, Paints& paints) {
             click(window.find("patientBtn"));
             window.chooseAnew();
         };
-        measure(std::string("A first visit of the ") + page + ", all days in view", paints, visit, choose,
-                20);
+        const bool isChart = page == "chart"sv;
+        measure(std::string("A first visit of the ") + page + ", all days in view", paints, visit,
+                always(isChart ? window.charts() : Shown{&window.rowsOf("tblReadings")}), choose, 20);
     }
     click(window.find("patientBtn"));
 }
 
-void measurePeriods(Window& window, Paints& paints, const QString& page, const std::string& where) {
+void measurePeriods(Window& window, Paints& paints, const QString& page, const std::string& where,
+                    const Shown& shown) {
     constexpr std::array choices{"viewAll", "viewLast30", "viewAll", "viewWeek", "viewLast90", "viewLast7"};
-    measure("A period change, " + where, paints, [&](int number) {
+    const auto choose = [&](int number) {
         click(window.find(choices.at(static_cast<std::size_t>(number) % choices.size()), page));
-    });
+    };
+    measure("A period change, " + where, paints, choose, always(shown));
 }
 
 void measureViews(Window& window, Paints& paints) {
     const QString page = u"GraphViewController"_s;
     constexpr std::array views{"toggleHistogram", "toggleCorrelation", "toggleTrend"};
     constexpr std::array names{"histogram", "correlation", "trend"};
+    constexpr std::array pictures{"HistogramView", "CorrelationView", "TrendView"};
     for (std::size_t view = 0; view < views.size(); ++view) {
         click(window.find(views.at(view), page));
-        measurePeriods(window, paints, page, names.at(view));
+        measurePeriods(window, paints, page, names.at(view), {&window.find(pictures.at(view))});
     }
     click(window.find("toggleGraph", page));
 }
@@ -197,30 +235,33 @@ void measureViews(Window& window, Paints& paints) {
 void measureHover(Window& window, Paints& paints) {
     window.showPeriod(window.daysOfData());
     auto& chart = window.find("BloodView");
-    measure("A hover, all days in view", paints, [&](int number) {
+    const auto hover = [&](int number) {
         mouse(chart, QEvent::MouseMove,
               {100 + number * 37 % (chart.width() - 150), chart.height() / 2 + number % 9}, Qt::NoButton);
-    });
+    };
+    measure("A hover, all days in view", paints, hover, always({&chart}));
 }
 
-/// Back and forth, so that each step goes elsewhere.
+/// Back and forth between the halves, so that each step goes elsewhere.
 int swing(int number, int range) {
-    return number % 2 == 0 ? number * range / 200 : range - number * range / 200;
+    return number % 2 == 0 ? number * range / 400 : range - number * range / 400;
 }
 
 void measureDrags(Window& window, Paints& paints) {
     window.showPeriod(window.daysOfData());
-    const auto drag = [&](const char* name, const std::string& what) {
+    const auto drag = [&](const char* name, const std::string& what, const Shown& shown) {
         auto& bar = window.find<QScrollBar>(name);
         bar.setSliderDown(true);
-        measure(what, paints, [&](int number) { bar.setSliderPosition(swing(number, bar.maximum())); });
+        measure(
+            what, paints, [&](int number) { bar.setSliderPosition(swing(number, bar.maximum())); },
+            always(shown));
         bar.setSliderDown(false);
     };
-    drag("bloodScroller", "A drag of the pressure scale, all days in view");
+    drag("bloodScroller", "A drag of the pressure scale, all days in view", {&window.find("BloodView")});
     window.showPeriod(window.daysOfData() / 2);
-    drag("timeScroller", "A drag along time, half of all days in view");
+    drag("timeScroller", "A drag along time, half of all days in view", window.charts());
     window.showPeriod(90);
-    drag("timeScroller", "A drag along time, 90 days in view");
+    drag("timeScroller", "A drag along time, 90 days in view", window.charts());
 }
 
 void measureComment(Window& window, Paints& paints) {
@@ -236,10 +277,10 @@ void measureComment(Window& window, Paints& paints) {
         mouse(chart, QEvent::MouseMove, at(days), Qt::NoButton);
         if (chart.cursor().shape() != Qt::SizeHorCursor) continue;
         mouse(chart, QEvent::MouseButtonPress, at(days), Qt::LeftButton);
-        measure("A drag of a comment's edge", paints, [&](int number) {
+        const auto drag = [&](int number) {
             mouse(chart, QEvent::MouseMove, at(22 + number * 7 % 17), Qt::LeftButton);
-        });
-        return;
+        };
+        return measure("A drag of a comment's edge", paints, drag, always({&chart}));
     }
     qFatal("no comment to drag");
 }
@@ -253,15 +294,15 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new OutlineStyle);
     const ProgramTexts texts(english());
     const bool small = isSmall(argc, argv);
-    Window window(small ? 20 : 2000, small ? 2000 : 100'000);
+    Window window(2000, small ? 20'000 : 100'000);
     Paints paints(small);
     measureSearch(window, paints);
     measurePages(window, paints);
     measureFirstVisits(window, paints);
     click(window.find("tableBtn"));
-    measurePeriods(window, paints, u"TableViewController"_s, "table");
+    measurePeriods(window, paints, u"TableViewController"_s, "table", {&window.rowsOf("tblReadings")});
     click(window.find("graphBtn"));
-    measurePeriods(window, paints, u"GraphViewController"_s, "charts");
+    measurePeriods(window, paints, u"GraphViewController"_s, "charts", window.charts());
     measureViews(window, paints);
     measureHover(window, paints);
     measureDrags(window, paints);

@@ -1,9 +1,11 @@
 #include "analysis/Trend.h"
 
+#include "analysis/ValueCounts.h"
+
 #include <algorithm>
-#include <array>
 #include <chrono>
-#include <span>
+#include <tuple>
+#include <utility>
 
 namespace zel {
 
@@ -47,57 +49,67 @@ DaySpan stepOf(TrendStep step, DayNumber day) {
     return step == TrendStep::month ? monthOf(day) : DaySpan{day, day};
 }
 
-/// \p values ascending. Between two of them in proportion to the distance.
-double quantile(const std::vector<std::uint32_t>& values, double share) {
-    const double place = share * static_cast<double>(values.size() - 1);
-    const auto below = static_cast<std::size_t>(place);
-    const std::size_t above = std::min(below + 1, values.size() - 1);
-    const double low = values[below];
-    return low + (values[above] - low) * (place - static_cast<double>(below));
-}
-
-/// By counting, where there are many of a person's pressures: in a fraction of the time.
-void sortValues(std::vector<std::uint32_t>& values) {
-    constexpr std::size_t many = 64;
-    std::array<std::uint32_t, 512> counts{};
-    if (values.size() < many || std::ranges::max(values) >= counts.size()) {
-        std::ranges::sort(values);
-        return;
-    }
-    for (const std::uint32_t value : values)
-        ++counts[value];
-    auto at = values.begin();
-    for (std::uint32_t value = 0; value < counts.size(); ++value)
-        at = std::fill_n(at, counts[value], value);
-}
-
-TrendBand bandOf(std::vector<std::uint32_t>& values) {
-    sortValues(values);
+TrendBand bandOf(ValueCounts& values) {
     const bool isFew = values.size() < fewestForPercentiles;
-    return {quantile(values, isFew ? 0 : 0.1), quantile(values, 0.5), quantile(values, isFew ? 1 : 0.9)};
+    return {values.quantile(isFew ? 0 : 0.1), values.quantile(0.5), values.quantile(isFew ? 1 : 0.9)};
 }
 
-using ReadingPointers = std::vector<const ReadingModel*>;
+/// Makes points of readings that come in the order of their steps, each with one look at it: of a long list,
+/// fetching the readings from memory takes most of the time.
+class PointMaker {
+public:
+    explicit PointMaker(TrendStep size) : step(size) {}
 
-ReadingPointers inOrderOfDays(const ReadingList& readings, const ReadingSelection& selection) {
-    ReadingPointers chosen;
-    chosen.reserve(readings.size());
+    /// \return false, and the reading is not counted, if it belongs before the step that is being made
+    [[nodiscard]] bool add(const ReadingModel& reading) {
+        if (count > 0 && reading.day < span.begin) return false;
+        if (count > 0 && reading.day > span.end) finishPoint();
+        if (count == 0) span = stepOf(step, reading.day);
+        ++count;
+        sys.add(reading.sys);
+        dia.add(reading.dia);
+        pulse.add(reading.pulse);
+        return true;
+    }
+    [[nodiscard]] std::vector<TrendPoint> finish() {
+        if (count > 0) finishPoint();
+        return std::move(points);
+    }
+
+private:
+    void finishPoint() {
+        points.push_back({span.begin, span.end, count, bandOf(sys), bandOf(dia), bandOf(pulse)});
+        count = 0;
+        for (ValueCounts* values : {&sys, &dia, &pulse})
+            values->clear();
+    }
+
+    TrendStep step;
+    DaySpan span{noDay, noDay}; ///< of the step that is being made
+    std::size_t count = 0;      ///< of its readings
+    ValueCounts sys, dia, pulse;
+    std::vector<TrendPoint> points;
+};
+
+std::vector<TrendPoint> sortedPoints(const ReadingList& readings, const ReadingSelection& selection,
+                                     TrendStep step) {
+    std::vector<const ReadingModel*> chosen;
     for (const ReadingModel& reading : readings)
         if (isInChart(reading, selection)) chosen.push_back(&reading);
-    const auto dayOf = [](const ReadingModel* reading) { return reading->day; };
-    if (!std::ranges::is_sorted(chosen, {}, dayOf)) std::ranges::sort(chosen, {}, dayOf);
-    return chosen;
+    std::ranges::sort(chosen, {}, &ReadingModel::day);
+    PointMaker maker(step);
+    for (const ReadingModel* reading : chosen)
+        std::ignore = maker.add(*reading);
+    return maker.finish();
 }
 
-using ReadingRange = std::span<const ReadingModel* const>;
-
-TrendBand bandOf(ReadingRange readings, std::uint32_t ReadingModel::*measure,
-                 std::vector<std::uint32_t>& values) {
-    values.clear();
-    values.reserve(readings.size());
-    for (const ReadingModel* reading : readings)
-        values.push_back(reading->*measure);
-    return bandOf(values);
+std::vector<TrendPoint> pointsOf(const ReadingList& readings, const ReadingSelection& selection,
+                                 TrendStep step) {
+    PointMaker maker(step);
+    for (const ReadingModel& reading : readings)
+        if (isInChart(reading, selection) && !maker.add(reading))
+            return sortedPoints(readings, selection, step); // seldom
+    return maker.finish();
 }
 
 } // namespace
@@ -113,20 +125,8 @@ TrendStep trendStepFor(std::int64_t periodDays) {
 Trend calcTrend(const ReadingList& readings, const ReadingSelection& selection) {
     const LocalZone zone;
     const DayNumber first = zone.day(selection.period.begin);
-    Trend trend{.step = trendStepFor(std::int64_t{zone.day(selection.period.end)} - first + 1), .points = {}};
-    const ReadingPointers chosen = inOrderOfDays(readings, selection);
-    std::vector<std::uint32_t> values;
-    for (auto at = chosen.begin(); at != chosen.end();) {
-        const DaySpan span = stepOf(trend.step, (*at)->day);
-        const auto next =
-            std::find_if(at, chosen.end(), [end = span.end](auto* reading) { return reading->day > end; });
-        const ReadingRange same(at, next);
-        trend.points.push_back({span.begin, span.end, same.size(), bandOf(same, &ReadingModel::sys, values),
-                                bandOf(same, &ReadingModel::dia, values),
-                                bandOf(same, &ReadingModel::pulse, values)});
-        at = next;
-    }
-    return trend;
+    const TrendStep step = trendStepFor(std::int64_t{zone.day(selection.period.end)} - first + 1);
+    return {step, pointsOf(readings, selection, step)};
 }
 
 TrendSeriesList calcTrendSeries(const ReadingList& readings, const ReadingSelection& selection, bool apart) {

@@ -4,6 +4,8 @@
 #include "store/Languages.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 namespace zel {
 
@@ -27,9 +29,21 @@ QString yearText(const AxisDay& day) {
     return QString::number(static_cast<int>(day.date.year())).rightJustified(4, u'0');
 }
 
-QString monthName(const AxisDay& day) {
-    return textLocale().standaloneMonthName(static_cast<int>(static_cast<unsigned>(day.date.month())));
-}
+/// Looked up once for each month of the year: a chart may show hundreds of months.
+class MonthNames {
+public:
+    MonthNames() {
+        const QLocale locale = textLocale();
+        for (std::size_t month = 0; month < names.size(); ++month)
+            names[month] = locale.standaloneMonthName(static_cast<int>(month) + 1);
+    }
+    [[nodiscard]] const QString& of(const AxisDay& day) const {
+        return names[static_cast<unsigned>(day.date.month()) - 1];
+    }
+
+private:
+    std::array<QString, 12> names;
+};
 
 void addMonths(std::vector<DateLabel>& labels, Days days, const LabelRoom& room, const TextWidth& width,
                double above, auto name) {
@@ -98,8 +112,8 @@ void addNumbers(std::vector<DateLabel>& labels, Days days, const LabelRoom& room
 std::vector<DateLabel> dayLabels(Days days, const LabelRoom& room, const TextWidth& width) {
     std::vector<DateLabel> labels;
     addNumbers(labels, days, room, width);
-    addMonths(labels, days, room, width, 0, [](const AxisDay& month) {
-        return qtTrId("monthOfYear").arg(monthName(month), yearText(month));
+    addMonths(labels, days, room, width, 0, [names = MonthNames()](const AxisDay& month) {
+        return qtTrId("monthOfYear").arg(names.of(month), yearText(month));
     });
     return labels;
 }
@@ -107,7 +121,8 @@ std::vector<DateLabel> dayLabels(Days days, const LabelRoom& room, const TextWid
 std::vector<DateLabel> monthLabels(Days days, const LabelRoom& room, const TextWidth& width) {
     std::vector<DateLabel> labels;
     addYears(labels, days, room, width);
-    addMonths(labels, days, room, width, dateHeight, monthName);
+    addMonths(labels, days, room, width, dateHeight,
+              [names = MonthNames()](const AxisDay& month) { return names.of(month); });
     return labels;
 }
 

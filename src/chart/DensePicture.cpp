@@ -43,7 +43,32 @@ std::optional<Segment> within(const Segment& stroke, const Rect& area) {
 
 void addStroke(std::vector<Segment>& strokes, const Segment& stroke, const Rect& sight) {
     if (outside(stroke, sight.inset(-reach))) return;
-    if (const auto near = within(stroke, sight.inset(-far))) strokes.push_back(*near);
+    const Rect nearby = sight.inset(-far);
+    if (nearby.contains(stroke.from) && nearby.contains(stroke.to)) // all but a few: nothing to divide
+        strokes.push_back(stroke);
+    else if (const auto near = within(stroke, nearby))
+        strokes.push_back(*near);
+}
+
+/// Points of a joined line in one column.
+struct UprightRun {
+    double x = 0;
+    double low = 0;
+    double high = 0;
+
+    void add(double y) {
+        low = std::min(low, y);
+        high = std::max(high, y);
+    }
+    [[nodiscard]] bool isStroke() const { return low < high; }
+    [[nodiscard]] bool reaches(double y) const { return low <= y && y <= high; }
+};
+
+/// Whether a stroke from one pixel column to the next lies under the upright strokes of both: between its
+/// ends it leaves neither column, and in each column both of its ends' heights are painted.
+bool isCovered(const Segment& slant, const UprightRun& from, const UprightRun& to) {
+    return std::abs(to.x - from.x) == 1 && from.isStroke() && to.isStroke() && from.reaches(slant.to.y)
+           && to.reaches(slant.from.y);
 }
 
 /// Upright strokes through one column, as a count for each pixel from \p bottom on.
@@ -61,10 +86,31 @@ public:
         --changes[to];
         first = std::min(first, from);
         last = std::max(last, to);
+        ++total;
     }
 
     /// Writes the strokes at \p x, at most \p enough over a pixel, and begins anew.
     void flush(double x, int enough, std::vector<Ticks::Tick>& strokes) {
+        if (total == 1 && enough > 0)
+            flushOnly(x, strokes);
+        else
+            flushStack(x, enough, strokes);
+        first = changes.size();
+        last = 0;
+        total = 0;
+    }
+
+private:
+    [[nodiscard]] double at(std::size_t y) const { return bottom + static_cast<double>(y); }
+
+    /// Nothing to stack: few readings have a column each.
+    void flushOnly(double x, std::vector<Ticks::Tick>& strokes) {
+        changes[first] = 0;
+        changes[last] = 0;
+        if (first < last) strokes.push_back({x, at(first), at(last)});
+    }
+
+    void flushStack(double x, int enough, std::vector<Ticks::Tick>& strokes) {
         int count = 0;
         starts.clear();
         for (std::size_t y = first; y <= last && y < changes.size(); ++y) {
@@ -72,22 +118,20 @@ public:
             count += changes[y];
             changes[y] = 0;
             const auto open = static_cast<std::size_t>(std::min(count, enough));
-            const double here = bottom + static_cast<double>(y);
             for (; starts.size() > open; starts.pop_back())
-                strokes.push_back({x, starts.back(), here});
-            starts.resize(open, here);
+                strokes.push_back({x, starts.back(), at(y)});
+            while (starts.size() < open)
+                starts.push_back(at(y));
         }
-        first = changes.size();
-        last = 0;
     }
 
-private:
     double bottom;
     double size;
     std::vector<int> changes; ///< how many strokes begin, less those that end, at each pixel
     std::vector<double> starts;
     std::size_t first = changes.size();
     std::size_t last = 0;
+    int total = 0; ///< strokes
 };
 
 /// One bit for each place of an area.
@@ -122,19 +166,22 @@ Rect wholePixels(const Rect& rect) {
 
 } // namespace
 
-std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight) {
+std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight, bool eachUnitIsAPixel) {
     std::vector<Segment> strokes;
+    strokes.reserve(points.size());
+    UprightRun before;
     for (std::size_t first = 0; first < points.size();) {
-        auto [low, high] = std::pair{points[first].y, points[first].y};
+        UprightRun run{points[first].x, points[first].y, points[first].y};
         std::size_t next = first + 1;
-        for (; next < points.size() && points[next].x == points[first].x; ++next) {
-            low = std::min(low, points[next].y);
-            high = std::max(high, points[next].y);
+        for (; next < points.size() && points[next].x == run.x; ++next)
+            run.add(points[next].y);
+        if (first > 0) {
+            const Segment slant{points[first - 1], points[first]};
+            if (!eachUnitIsAPixel || !isCovered(slant, before, run)) addStroke(strokes, slant, sight);
         }
-        const double x = points[first].x;
-        if (first > 0) addStroke(strokes, {points[first - 1], points[first]}, sight);
-        if (next - first > 1) addStroke(strokes, {{x, low}, {x, high}}, sight);
+        if (next - first > 1) addStroke(strokes, {{run.x, run.low}, {run.x, run.high}}, sight);
         first = next;
+        before = run;
     }
     return strokes;
 }

@@ -16,8 +16,10 @@ struct Segment {
 };
 
 /// The strokes of a joined line: all that stand in one column are one upright stroke. Strokes out of sight
-/// are left out, and far ends are brought near, so that any reading can be drawn.
-[[nodiscard]] std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight);
+/// are left out, and far ends are brought near, so that any reading can be drawn. Where \p eachUnitIsAPixel,
+/// so are those that lie under upright strokes: of thousands of readings, nearly all between two columns.
+[[nodiscard]] std::vector<Segment> joinedStrokes(std::span<const Point> points, const Rect& sight,
+                                                 bool eachUnitIsAPixel);
 
 /// The marks that show at least in part: not those outside, nor those under a later one at the same place.
 [[nodiscard]] std::vector<Point> visibleMarks(std::span<const Point> points, const Rect& sight);

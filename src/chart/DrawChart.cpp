@@ -175,8 +175,9 @@ ChartLayout drawChart(const ChartInput& input, const LocalZone& zone) {
         return layout;
     }
     logPeriod(layout);
-    drawTimeAxis(picture, scale, zone);
-    if (!style.noBaseArea) drawDateLabels(picture, scale, style.forPrint ? besideFrame : 0, zone);
+    const AxisGrid grid(scale, zone);
+    drawTimeAxis(picture, scale, grid);
+    if (!style.noBaseArea) drawDateLabels(picture, scale, style.forPrint ? besideFrame : 0, grid);
     picture.push_back(BeginClip{scale.chartRect});
     if (style.showBlood)
         drawBloodChart(picture, scale, input);

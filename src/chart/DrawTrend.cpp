@@ -104,7 +104,7 @@ Parts partsOf(const TrendInput& input) {
 /// Days in a short period; else months, or years where months would shade the plot.
 void drawDateLines(Picture& picture, const ChartScale& scale, const LocalZone& zone) {
     using namespace std::chrono;
-    if (isShortPeriod(dayDiff(scale.time, zone))) return drawTimeAxis(picture, scale, zone);
+    if (isShortPeriod(dayDiff(scale.time, zone))) return drawTimeAxis(picture, scale, AxisGrid(scale, zone));
     constexpr double crowded = 8;
     const DayNumber first = zone.day(scale.time.begin);
     const DayNumber last = zone.day(scale.time.end);
@@ -272,7 +272,7 @@ TrendLayout drawTrend(const TrendInput& input, const LocalZone& zone) {
     const bool isLinked = drawPlot(picture, input, parts.blood, pressures, zone);
     drawPlot(picture, input, parts.pulse, beats, zone);
     drawUnits(picture, parts);
-    drawDateLabels(picture, parts.pulse, trendNoteInset, zone);
+    drawDateLabels(picture, parts.pulse, trendNoteInset, AxisGrid(parts.pulse, zone));
     const Rect& plot = parts.blood.chartRect;
     drawCaption(
         picture, input, isLinked,

@@ -37,10 +37,10 @@ void paintUprightLines(PictureSurface& surface, std::span<const PictureItem> lin
             .toRect();
     if (area.isEmpty()) return;
     // A few rows are drawn one below the other.
-    QImage rows(area.width(), std::min(area.height(), 32), QImage::Format_ARGB32_Premultiplied);
-    rows.fill(Qt::transparent);
+    QImage rows(area.width(), std::min(area.height(), 8), QImage::Format_ARGB32_Premultiplied);
     const auto bytes = static_cast<std::size_t>(rows.bytesPerLine());
     auto* const pixels = reinterpret_cast<QRgb*>(rows.bits());
+    std::fill_n(pixels, rows.width(), 0); // the other rows are copies
     for (const PictureItem& item : lines) {
         const auto& line = std::get<StraightLine>(item);
         const double left = surface.x(std::floor(line.from.x)) - area.left();

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <vector>
 
@@ -35,6 +36,29 @@ QPointF topLeft(const PictureSurface& surface, Point point) {
     return {surface.x(point.x - 2), surface.y(point.y + 3)};
 }
 
+/// Squares of one colour cover each other in any order, so that the painter gets them all at once.
+void paintSquares(PictureSurface& surface, std::span<const Point> points, const MarkShape<double>& shape) {
+    QList<QRectF> squares;
+    squares.reserve(std::ssize(points));
+    for (const Point point : points)
+        squares.emplace_back(topLeft(surface, point) + QPointF(shape.edge, shape.edge),
+                             QSizeF(shape.inner, shape.inner));
+    surface.painter.setPen(Qt::NoPen);
+    surface.painter.setBrush(shape.color);
+    surface.painter.drawRects(squares);
+}
+
+/// A border and what it holds as one small image: half of the calls.
+void paintBordered(PictureSurface& surface, std::span<const Point> points, const MarkShape<int>& shape) {
+    QImage mark(shape.outer, shape.outer, QImage::Format_RGB32);
+    mark.fill(shape.border);
+    for (int y = shape.edge; y < shape.edge + shape.inner; ++y)
+        for (int x = shape.edge; x < shape.edge + shape.inner; ++x)
+            mark.setPixel(x, y, shape.color.rgb());
+    for (const Point point : points)
+        surface.painter.drawImage(topLeft(surface, point), mark);
+}
+
 void paintEach(PictureSurface& surface, std::span<const Point> points, const MarkShape<double>& shape) {
     const QSizeF outer(shape.outer, shape.outer);
     const QSizeF inner(shape.inner, shape.inner);
@@ -52,23 +76,55 @@ struct Pixels {
     int width;
 };
 
-/// Copies a few values; the usual numbers of them without a loop, which takes most of the time otherwise.
+template <std::size_t count, class Value>
+void copy(Value* to, const Value* values) {
+    std::memcpy(to, values, count * sizeof(Value));
+}
+
+/// Copies a few values; the usual numbers of them by an instruction or two, as a call takes most of the time
+/// otherwise.
 template <class Value>
 void stamp(Value* to, const Value* values, int count) {
     switch (count) {
-    case 5: std::copy_n(values, 5, to); break;
-    case 3: std::copy_n(values, 3, to); break;
+    case 5: copy<5>(to, values); break;
+    case 3: copy<3>(to, values); break;
     default: std::copy_n(values, std::max(count, 0), to);
     }
 }
 
+/// In which row of a part of the device the marks of each value begin. There are few values and many marks:
+/// each is worked out once.
+class MarkRows {
+public:
+    MarkRows(const PictureSurface& surface, const QRect& part, int shift)
+        : lowest(std::floor(surface.sight().y) - beyond),
+          rows(static_cast<std::size_t>(
+              std::clamp(std::ceil(surface.sight().height) + 2 * beyond, 0.0, 1e6))) {
+        for (std::size_t at = 0; at < rows.size(); ++at) {
+            const double y = surface.y(lowest + static_cast<double>(at) + 3); // the top of the outer square
+            rows[at] = static_cast<int>(std::clamp(y, -farOut, farOut)) + shift - part.top();
+        }
+    }
+    /// \p y a whole number. \return none for a mark that is out of sight
+    [[nodiscard]] const int* find(double y) const {
+        const double at = y - lowest;
+        return at >= 0 && at < static_cast<double>(rows.size()) ? &rows[static_cast<std::size_t>(at)]
+                                                                : nullptr;
+    }
+
+private:
+    static constexpr double beyond = 8; ///< marks reach into sight from there
+    double lowest;
+    std::vector<int> rows;
+};
+
 /// The marks of one column, as they lie on one another: what each pixel row of it shows.
 class MarkColumn {
 public:
-    MarkColumn(const QRect& covered, const MarkShape<int>& shape)
-        : top(covered.top()), shift(shape.bordered ? 0 : shape.edge), mark(size(shape), Row::border),
-          rows(static_cast<std::size_t>(covered.height())), borderRow(size(shape), shape.border.rgba()),
-          innerRow(borderRow) {
+    MarkColumn(const PictureSurface& surface, const QRect& covered, const MarkShape<int>& shape)
+        : shift(shape.bordered ? 0 : shape.edge), beginOf(surface, covered, shift),
+          mark(size(shape), Row::border), rows(static_cast<std::size_t>(covered.height())),
+          borderRow(size(shape), shape.border.rgba()), innerRow(borderRow) {
         const auto edge = static_cast<std::ptrdiff_t>(shape.edge - shift);
         std::fill_n(mark.begin() + edge, shape.inner, Row::inner);
         std::fill_n(innerRow.begin() + edge, shape.inner, shape.color.rgba());
@@ -76,20 +132,17 @@ public:
 
     /// Marks on one pixel column. What the loop needs stands in variables of its own: behind each stamp, the
     /// compiler would read the members again.
-    void add(std::span<const Point> points, const PictureSurface::Rows& rowsOfValues) {
-        const PictureSurface::Rows rowOf = rowsOfValues;
+    void add(std::span<const Point> points) {
         Row* const to = rows.data();
         const Row* const values = mark.data();
         const int size = static_cast<int>(mark.size()), end = static_cast<int>(rows.size());
-        const int offset = shift - top;
         int low = first, high = last;
         for (const Point point : points) {
-            const double y = rowOf(point.y + 3); // the top of the mark's outer square
-            if (!(std::abs(y) < farOut)) continue;
-            const int begin = static_cast<int>(y) + offset;
-            const int from = std::max(begin, 0), until = std::min(begin + size, end);
+            const int* const begin = beginOf.find(point.y);
+            if (!begin) continue;
+            const int from = std::max(*begin, 0), until = std::min(*begin + size, end);
             if (from >= until) continue;
-            stamp(to + from, values + (from - begin), until - from);
+            stamp(to + from, values + (from - *begin), until - from);
             low = std::min(low, from);
             high = std::max(high, until);
         }
@@ -120,8 +173,8 @@ private:
         return static_cast<std::size_t>(shape.bordered ? shape.outer : shape.inner);
     }
 
-    int top;
-    int shift;             ///< from the outer square to what is drawn
+    int shift; ///< from the outer square to what is drawn
+    MarkRows beginOf;
     std::vector<Row> mark; ///< the rows of one mark
     std::vector<Row> rows;
     std::vector<QRgb> borderRow;
@@ -136,27 +189,42 @@ void paintTogether(PictureSurface& surface, std::span<const Point> points, const
     QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     const Pixels pixels{reinterpret_cast<QRgb*>(image.bits()), image.bytesPerLine() / 4, image.width()};
-    MarkColumn column(part, shape);
-    const PictureSurface::Rows rowOf = surface.rows();
+    MarkColumn column(surface, part, shape);
     for (std::size_t begin = 0, end = 0; begin < points.size(); begin = end) {
         end = begin + 1; // also for what equals nothing
         while (end < points.size() && points[end].x == points[begin].x)
             ++end;
-        column.add(points.subspan(begin, end - begin), rowOf);
+        column.add(points.subspan(begin, end - begin));
         const double x = topLeft(surface, points[begin]).x();
         column.flush(pixels, static_cast<int>(std::clamp(x, -farOut, farOut)) - part.left());
     }
     surface.painter.drawImage(part.topLeft(), image);
 }
 
-/// The part of the device that the marks cover, as far as it can be seen.
-QRect coveredPart(const PictureSurface& surface, std::span<const Point> points) {
-    Point low = points.front();
-    Point high = low;
-    for (const Point point : points) {
+struct Bounds {
+    Point low, high;
+
+    void add(Point point) {
         low = {std::min(low.x, point.x), std::min(low.y, point.y)};
         high = {std::max(high.x, point.x), std::max(high.y, point.y)};
     }
+};
+
+/// Every other point by itself: a comparison that waits for the one before takes most of the time.
+Bounds boundsOf(std::span<const Point> points) {
+    Bounds even{points.front(), points.front()}, odd{points.back(), points.back()};
+    for (std::size_t at = 0; at + 1 < points.size(); at += 2) {
+        even.add(points[at]);
+        odd.add(points[at + 1]);
+    }
+    even.add(odd.low);
+    even.add(odd.high);
+    return even;
+}
+
+/// The part of the device that the marks cover, as far as it can be seen.
+QRect coveredPart(const PictureSurface& surface, std::span<const Point> points) {
+    const auto [low, high] = boundsOf(points);
     const Rect marks{low.x - 2, low.y - 2, high.x - low.x + 5, high.y - low.y + 5};
     const QRectF seen = surface.rect(surface.sight());
     return surface.rect(marks).adjusted(0, 0, 1, 1).intersected(seen).toAlignedRect();
@@ -172,9 +240,12 @@ void paintMarks(PictureSurface& surface, const PointMarks& marks) {
     const QRect part = coveredPart(surface, points);
     const double area = static_cast<double>(part.width()) * part.height();
     if (surface.hasPixels() && area < pixelsPerMark * static_cast<double>(points.size()))
-        paintTogether(surface, points, MarkShape<int>(surface, marks), part);
-    else
-        paintEach(surface, visibleMarks(points, surface.sight()), MarkShape<double>(surface, marks));
+        return paintTogether(surface, points, MarkShape<int>(surface, marks), part);
+    const std::vector<Point> visible = visibleMarks(points, surface.sight());
+    const MarkShape<double> shape(surface, marks);
+    if (!surface.hasPixels() || shape.inner <= 0) return paintEach(surface, visible, shape);
+    if (marks.bordered) return paintBordered(surface, visible, MarkShape<int>(surface, marks));
+    paintSquares(surface, visible, shape);
 }
 
 } // namespace zel

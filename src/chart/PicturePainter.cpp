@@ -93,8 +93,11 @@ public:
         const auto at = [&](Point point) {
             return QPointF(surface.x(point.x) + middle, surface.y(point.y + 1) + middle);
         };
+        const bool eachUnitIsAPixel = surface.hasPixels() && surface.scale() == 1;
+        const auto strokes = joinedStrokes(item.points, surface.sight(), eachUnitIsAPixel);
         QList<QLineF> lines;
-        for (const Segment& stroke : joinedStrokes(item.points, surface.sight()))
+        lines.reserve(std::ssize(strokes));
+        for (const Segment& stroke : strokes)
             lines.emplace_back(at(stroke.from), at(stroke.to));
         painter.setPen(QPen(item.color, width, Qt::SolidLine, Qt::SquareCap));
         painter.drawLines(lines);

@@ -31,21 +31,6 @@ public:
     [[nodiscard]] double y(double pictureY) const {
         return placed((height - pictureY) * perUnit + toDevice.dy());
     }
-    /// y() of a surface of pixels, for loops over many points: without what it is to the compiler that they
-    /// may change.
-    class Rows {
-    public:
-        [[nodiscard]] double operator()(double pictureY) const {
-            return nearest((height - pictureY) * perUnit + shift);
-        }
-
-    private:
-        friend class PictureSurface;
-        Rows(double pictureHeight, double scale, double down)
-            : height(pictureHeight), perUnit(scale), shift(down) {}
-        double height, perUnit, shift;
-    };
-    [[nodiscard]] Rows rows() const { return {height, perUnit, toDevice.dy()}; }
     [[nodiscard]] QRectF rect(const Rect& rect) const;
     /// From the picture's coordinates to the device, not rounded.
     [[nodiscard]] QTransform exact() const;

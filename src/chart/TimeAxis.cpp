@@ -1,8 +1,8 @@
 #include "chart/TimeAxis.h"
 
-#include "chart/DateLabels.h"
-#include "chart/Drawing.h"
+#include <QFontMetricsF>
 
+#include <algorithm>
 #include <chrono>
 #include <map>
 #include <utility>
@@ -25,25 +25,15 @@ Instant nearestMidnight(Instant date, const LocalZone& zone) {
     return sinceMidnight < day / 2 ? date - sinceMidnight : date + (day - sinceMidnight);
 }
 
-std::vector<AxisDay> gridDays(const ChartScale& scale, int step, const LocalZone& zone) {
-    using namespace std::chrono;
-    const DayNumber first = zone.day(scale.time.begin);
-    const DayNumber last = zone.day(scale.time.end);
-    std::vector<AxisDay> grid;
-    for (DayNumber day = first; day <= last; day += step) {
-        const Instant midnight = nearestMidnight(scale.time.begin + days{day - first}, zone);
-        grid.push_back({year_month_day{sys_days{days{day}}}, scale.time.calcXPos(midnight)});
-    }
-    return grid;
-}
-
 TextAttribute typeOf(bool bold) { return attribute(bold ? boldAttribute : plainAttribute); }
 
 /// Measures each text once: there are a dozen names in a hundred years.
 TextWidth measured() {
-    return [widths = std::map<std::pair<QString, bool>, double>()](const QString& text, bool bold) mutable {
+    return [widths = std::map<std::pair<QString, bool>, double>(),
+            plainType = QFontMetricsF(typeOf(false).font()),
+            boldType = QFontMetricsF(typeOf(true).font())](const QString& text, bool bold) mutable {
         const auto [width, isNew] = widths.try_emplace({text, bold});
-        if (isNew) width->second = textSize(text, typeOf(bold)).width;
+        if (isNew) width->second = (bold ? boldType : plainType).horizontalAdvance(text);
         return width->second;
     };
 }
@@ -64,25 +54,34 @@ int gridStep(int days) {
     return days < 3651 ? 7 : 30;
 }
 
-void drawTimeAxis(Picture& picture, const ChartScale& scale, const LocalZone& zone) {
-    const int days = dayDiff(scale.time, zone);
-    if (days <= 0) return;
-    const std::vector<AxisDay> grid = gridDays(scale, gridStep(days), zone);
+AxisGrid::AxisGrid(const ChartScale& scale, const LocalZone& zone) : days(dayDiff(scale.time, zone)) {
+    using namespace std::chrono;
+    const DayNumber first = zone.day(scale.time.begin);
+    const DayNumber last = zone.day(scale.time.end);
+    const int step = gridStep(days);
+    lines.reserve(static_cast<std::size_t>(std::max(0, last - first)) / static_cast<std::size_t>(step) + 1);
+    for (DayNumber day = first; day <= last; day += step) {
+        const Instant midnight = nearestMidnight(scale.time.begin + std::chrono::days{day - first}, zone);
+        lines.push_back({year_month_day{sys_days{std::chrono::days{day}}}, scale.time.calcXPos(midnight)});
+    }
+}
+
+void drawTimeAxis(Picture& picture, const ChartScale& scale, const AxisGrid& grid) {
+    if (grid.days <= 0) return;
     const QColor color = fixColor(gcGrayLinecolor);
-    picture.reserve(picture.size() + grid.size() + 20); // and the readings
+    picture.reserve(picture.size() + grid.lines.size() + 20); // and the readings
     picture.push_back(BeginClip{scale.chartRect});
-    for (const AxisDay& day : grid)
-        picture.push_back(StraightLine{{day.x, scale.chartRect.y}, {day.x, scale.chartRect.top()}, 1, color});
+    for (const AxisDay& day : grid.lines)
+        picture.emplace_back(
+            StraightLine{{day.x, scale.chartRect.y}, {day.x, scale.chartRect.top()}, 1, color});
     picture.push_back(EndClip{});
 }
 
-void drawDateLabels(Picture& picture, const ChartScale& scale, double leftGap, const LocalZone& zone) {
-    const int days = dayDiff(scale.time, zone);
-    const std::vector<AxisDay> grid = gridDays(scale, gridStep(days), zone);
+void drawDateLabels(Picture& picture, const ChartScale& scale, double leftGap, const AxisGrid& grid) {
     constexpr double hairline = 0.25; // of a frame
     const LabelRoom room{scale.whiteRect.x + leftGap, scale.whiteRect.right() - hairline};
-    const auto labels = isShortPeriod(days) ? dayLabels : monthLabels;
-    for (const DateLabel& label : labels(grid, room, measured()))
+    const auto labels = isShortPeriod(grid.days) ? dayLabels : monthLabels;
+    for (const DateLabel& label : labels(grid.lines, room, measured()))
         picture.emplace_back(
             TextLine{label.text, {label.x, scale.totalRect.y + label.above}, typeOf(label.bold)});
 }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace zel {
 namespace {
 
@@ -57,6 +59,21 @@ TEST(Trend, ManyReadingsOfAStepHaveTheSameBandInAnyOrder) {
         EXPECT_EQ(words(calcTrend(readings, during("2026-03-01", "2026-03-07"))),
                   "03-02/03-02 (101) 110 150 190");
     }
+}
+
+TEST(Trend, EachStepCountsItsOwnReadingsOnly) {
+    ReadingList readings;
+    for (const std::uint32_t value : {700U, 120U, 900U, 600U, 0U})
+        readings.push_back(readingAt("2026-03-02", value));
+    for (const std::uint32_t value : {130U, 90U, 511U, 512U, 150U, 110U})
+        readings.push_back(readingAt("2026-03-03", value));
+    readings.push_back(readingAt("2026-03-04", 800));
+    const std::string points = "03-02/03-02 (5) 48 600 820, 03-03/03-03 (6) 100 140 511.5, "
+                               "03-04/03-04 (1) 800 800 800";
+    const auto days = during("2026-03-01", "2026-03-07");
+    EXPECT_EQ(words(calcTrend(readings, days)), points);
+    std::ranges::reverse(readings);
+    EXPECT_EQ(words(calcTrend(readings, days)), points) << "the order of the list does not matter";
 }
 
 TEST(Trend, StepsAreDaysOrWeeksFromMondayOrMonths) {

@@ -123,12 +123,24 @@ TEST(PicturePainter, DrawsMarksTicksAndLinesAsThePainterItselfWould) {
     EXPECT_EQ(painted({BeginClip{plot}, readings.marks, readings.ticks, line, EndClip{}}), expected);
 }
 
-TEST(PicturePainter, LeavesWhatLiesBetweenTicksAsItIs) {
-    const Ticks ticks{{{39, 140, 108}, {40, 108, 98}, {41, 88, 83}}, QColor(255, 255, 255, 153)};
-    Picture alone;
-    for (const auto& [x, y1, y2] : ticks.ticks)
-        alone.emplace_back(FillRect{{x, y2, 1, y1 - y2}, ticks.color});
-    EXPECT_EQ(painted({ticks}), painted(alone));
+TEST(PicturePainter, DrawsAllOfALevelLine) {
+    const PolyLine line{{{40, 50}, {41, 50}, {42, 50}, {42, 50}, {43, 50}, {43, 50}, {44, 50}}};
+    EXPECT_EQ(painted({line}), painted({FillRect{{40, 50, 5, 1}, Qt::black}}));
+}
+
+TEST(PicturePainter, BlendsTicksAsFilledColumnsAndLeavesTheRestAsItIs) {
+    const std::vector<std::vector<Ticks::Tick>> cases{
+        {{39, 140, 108}, {40, 108, 98}, {41, 88, 83}},
+        // one in its column before and behind several
+        {{39, 140, 60}, {40, 120, 70}, {40, 100, 40}, {41, 90, 90}, {42, 130, 50}, {43, 145, 9}, {43, 60, 5}},
+    };
+    for (const auto& each : cases) {
+        const Ticks ticks{each, QColor(255, 255, 255, 153)};
+        Picture alone;
+        for (const auto& [x, y1, y2] : ticks.ticks)
+            alone.emplace_back(FillRect{{x, y2, 1, y1 - y2}, ticks.color});
+        EXPECT_EQ(painted({ticks}), painted(alone)) << each.size();
+    }
 }
 
 TEST(PicturePainter, HasItsOriginAtTheBottomLeft) {
