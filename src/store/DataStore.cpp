@@ -50,9 +50,7 @@ std::future<DataStore::Read> DataStore::beginLoad() {
     return std::async([this, isThere] { return isThere.and_then([this] { return readAll(file); }); });
 }
 
-StoreResult DataStore::finishLoad(std::future<Read> reading) {
-    return tellLoaded(takeRead(reading.get()));
-}
+StoreResult DataStore::finishLoad(std::future<Read> reading) { return tellLoaded(takeRead(reading.get())); }
 
 void DataStore::loadViewLimits() {
     const auto read = readViewLimits(getZELXMLPath());
