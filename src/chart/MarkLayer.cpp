@@ -113,7 +113,8 @@ public:
     }
 
 private:
-    static constexpr double beyond = 8; ///< marks reach into sight from there
+    static constexpr double beyond =
+        8; ///< a mark that begins so far above still reaches into sight, at a fifth of the size, too
     double lowest;
     std::vector<int> rows;
 };

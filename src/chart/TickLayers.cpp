@@ -64,7 +64,7 @@ private:
 /// The pixels that are blended over once more than those of the layer before, a band of rows at a time.
 class Layer {
 public:
-    static constexpr int bandHeight = 8;
+    static constexpr int bandHeight = 8; ///< of 32, most would be cleared for a few rows
 
     explicit Layer(int width)
         : row(static_cast<std::size_t>(width)), band(width, bandHeight, QImage::Format_ARGB32_Premultiplied) {

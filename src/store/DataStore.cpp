@@ -43,7 +43,6 @@ void DataStore::prepareLoad() {
 
 std::future<DataStore::Read> DataStore::beginLoad() {
     prepareLoad();
-    records = Records{};
     const StoreResult isThere = file.checkXMLFileExist();
     if (isThere) lastSeen = file.stamp();
     // Where no thread can be started, it is read when it is asked for.

@@ -39,8 +39,8 @@ public:
     StoreResult load();
     using Read = tl::expected<Records, StoreError>;
     /// The same in two halves, between which a window can be made: the file is read off this thread, and
-    /// until finishLoad(), which emits reloaded(), the store is empty. The result outlasts neither the store
-    /// nor another load.
+    /// until finishLoad(), which emits reloaded(), the store is as it was, empty at the start. The result
+    /// outlasts neither the store nor another load.
     [[nodiscard]] std::future<Read> beginLoad();
     StoreResult finishLoad(std::future<Read> reading);
     /// Reads the whole file. On an error all lists are empty, and a write reads the file first, and is

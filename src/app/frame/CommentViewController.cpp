@@ -38,7 +38,7 @@ CommentViewController::CommentViewController(DataStore& dataStore, MessagePanel&
 }
 
 void CommentViewController::go(bool forward) {
-    const auto at = shown ? indexOf(shown->CommentID) : std::nullopt;
+    const auto at = shownIndex();
     if (at && (forward || *at > 0)) selectComment(forward ? *at + 1 : *at - 1);
 }
 
@@ -72,6 +72,10 @@ bool CommentViewController::selectComment(std::size_t index) {
 bool CommentViewController::setCommentScroll(const QString& commentID) {
     const auto index = indexOf(commentID);
     return index && selectComment(*index);
+}
+
+std::optional<std::size_t> CommentViewController::shownIndex() const {
+    return shown ? indexOf(shown->CommentID) : std::nullopt;
 }
 
 std::optional<std::size_t> CommentViewController::indexOf(const QString& commentID) const {
@@ -108,7 +112,7 @@ void CommentViewController::updateDaetInfo(const CommentModel& comment) {
 
 void CommentViewController::showPosition() {
     const CommentList& comments = store.getCommentForCurID();
-    const auto index = shown ? indexOf(shown->CommentID) : std::nullopt;
+    const auto index = shownIndex();
     if (index)
         form->showPosition(*index, comments.size());
     else
@@ -116,10 +120,10 @@ void CommentViewController::showPosition() {
     change.want();
 }
 
-/// What it calculates goes over all readings.
+/// It goes over all readings, which nobody should wait for who does not see the panel.
 void CommentViewController::showChange() {
     const CommentList& comments = store.getCommentForCurID();
-    const auto index = shown ? indexOf(shown->CommentID) : std::nullopt;
+    const auto index = shownIndex();
     if (index && !means) means = DayMeans(store.getReadingForCurID());
     form->showChange(index ? describe(calcBeforeAndSince(*means, comments, *comments[*index])) : QString());
 }

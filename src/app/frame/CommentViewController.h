@@ -76,6 +76,7 @@ private:
     void showChange();
     void rescueText();
     void tellIfNotReadBack();
+    [[nodiscard]] std::optional<std::size_t> shownIndex() const;
     [[nodiscard]] std::optional<std::size_t> indexOf(const QString& commentID) const;
 
     DataStore& store;

@@ -64,7 +64,6 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::aboutWanted, this, &AppController::showAbout);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
-    connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
     connect(&questions, &StartQuestions::restored, this, &AppController::showRestored);
     connect(&questions, &StartQuestions::said, &window, &MainWindow::showOutcome);
     undoer =
@@ -123,7 +122,8 @@ AppController::~AppController() { parts.monitor.stop(); }
 void AppController::awakeFromNib(const StoreResult& loaded) {
     // A file that could not even be read gets its own message once the window is there.
     if (loaded) parts.store.checkXmlWritable(parts.panel);
-    // From now on: the load at start has changed nothing.
+    // Not at the load at start, which is no change of the user's.
+    connect(&parts.store, &DataStore::notBackedUp, this, &AppController::tellNotBackedUp);
     connect(&parts.store, &DataStore::reloaded, courier, &BackupCourier::bring);
     AdjustWindowFitToScreen(window, false);
     window.setPatientPanelsVisible(true);

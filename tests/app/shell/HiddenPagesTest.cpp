@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zel {
@@ -37,12 +38,13 @@ protected:
 
     /// Once texts of other lengths have got their room, which they ask for one after the other.
     QImage seen() {
-        QImage last, now;
-        do {
-            last = now;
+        QImage now;
+        for (int turn = 0; turn < 50; ++turn) {
             QCoreApplication::processEvents();
-            now = app->mainWndow().centralWidget()->grab().toImage();
-        } while (now != last);
+            const QImage next = app->mainWndow().centralWidget()->grab().toImage();
+            if (std::exchange(now, next) == next) return now;
+        }
+        ADD_FAILURE() << "the page does not come to rest";
         return now;
     }
     QImage visit() {
