@@ -120,6 +120,6 @@ void measureExport(int patients, int readings, int rounds) {
 int main(int argc, char** argv) {
     const QCoreApplication application{argc, argv};
     const bool small = isSmall(argc, argv);
-    measureImport(small ? 10 : 300, small ? 10 : 100, small ? 1 : 3);
+    measureImport(small ? 10 : 300, small ? 10 : 100, small ? 1 : 9);
     measureExport(small ? 10 : 200, small ? 1'000 : 100'000, small ? 1 : 5);
 }
