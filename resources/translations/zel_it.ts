@@ -1114,7 +1114,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliForceReplaces"><translation>--force lo sostituisce.</translation></message>
     <message id="CliFromAfterTo"><translation>Il giorno di --from è successivo a quello di --to.</translation></message>
     <message id="CliHelp"><translation>Uso: zel [--simulated-monitor[=FILE] | --demonstration] [--language TAG] [--reset-view]
-     zel COMANDO [OPZIONE]...
+     zel COMMAND [OPTION]...
 
 Gestisce le misurazioni dei misuratori automatici di pressione, paziente per paziente.
 Senza comando si apre una finestra. I comandi fanno le stesse cose senza finestra, sullo stesso file dei dati:
@@ -1140,11 +1140,11 @@ Opzioni:
   --demonstration              una finestra con un misuratore simulato e dati propri
   --language TAG               la lingua dei messaggi e dei rapporti, per esempio it
   --reset-view                 dimentica lo stato della finestra: posizione, pagina, paziente, colonne, cartella
-  -h, --help                   mostra questo testo; 'zel COMANDO --help' descrive un comando
+  -h, --help                   mostra questo testo; 'zel COMMAND --help' descrive un comando
   --version                    mostra la versione
 
 Stato di uscita: 0 eseguito, 1 non riuscito (il motivo è sullo standard error), 2 uso errato.</translation></message>
-    <message id="CliHelpAverage"><translation>Uso: zel average --patient ID [--rule esh|nice|aha] [--to GIORNO]
+    <message id="CliHelpAverage"><translation>Uso: zel average --patient ID [--rule esh|nice|aha] [--to DAY]
 
 Mostra la media delle misurazioni di un paziente in una settimana di misura, cioè i sette giorni che
 terminano con un dato giorno, secondo la regola di una linea guida: quali giorni e misurazioni contano,
@@ -1171,15 +1171,15 @@ fuso orario, è scritto sullo standard error.
 
 Opzioni:
   --patient ID                 di quale paziente
-  --rule REGOLA                esh (se non indicato altrimenti), nice o aha
-  --to GIORNO                  l'ultimo giorno della settimana (aaaa-MM-gg); altrimenti l'ultimo giorno con
+  --rule RULE                  esh (se non indicato altrimenti), nice o aha
+  --to DAY                     l'ultimo giorno della settimana (aaaa-MM-gg); altrimenti l'ultimo giorno con
                                misurazioni
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpBackup"><translation>Uso: zel backup list
      zel backup create
-     zel backup restore NOME
-     zel backup folder [CARTELLA | --none]
+     zel backup restore NAME
+     zel backup folder [DIR | --none]
 
 Prima della prima modifica di un giorno il file dei dati viene copiato nella cartella Backups accanto a esso.
 Si conservano le copie degli ultimi 14 giorni e una al mese per due anni, purché non occupino più di un decimo
@@ -1187,17 +1187,17 @@ dello spazio libero del disco.
 
 list      mostra le copie in formato CSV, prima la più recente, e che cosa contengono
 create    crea ora un'altra copia e stampa 'written: FILE'
-restore   mette una copia al posto del file dei dati e stampa 'restored: NOME'; i dati precedenti restano in
-          un'altra copia, di cui stampa il nome ('kept: NOME'), così che ripristinandola si torni indietro
+restore   mette una copia al posto del file dei dati e stampa 'restored: NAME'; i dati precedenti restano in
+          un'altra copia, di cui stampa il nome ('kept: NAME'), così che ripristinandola si torni indietro
 folder    stampa la seconda cartella in cui vanno le copie, una chiavetta o una condivisione di rete, come
-          'folder: CARTELLA', dopo averla impostata su CARTELLA; le sue copie sono elencate con il percorso
+          'folder: DIR', dopo averla impostata su DIR; le sue copie sono elencate con il percorso
           completo
 
 Opzioni:
   --none                       d'ora in poi nessuna seconda cartella; le copie che contiene restano
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpDownload"><translation>Uso: zel download --patient ID [--any-monitor] [OPZIONE]...
+    <message id="CliHelpDownload"><translation>Uso: zel download --patient ID [--any-monitor] [OPTION]...
 
 Scarica le misurazioni del misuratore, registra quelle non ancora registrate e mostra quante ne sono state
 scaricate e quante sono nuove. L'avanzamento è scritto sullo standard error. La memoria del misuratore viene
@@ -1206,25 +1206,25 @@ cancellata solo se lo prevedono le impostazioni, e solo quando le misurazioni so
 Opzioni:
   --patient ID                 il paziente per cui registrarle
   --any-monitor                scarica anche se il misuratore contiene un ID diverso da quello del paziente
-  --wait SECONDI               quanto attendere il misuratore (5 se non indicato)
+  --wait SECONDS               quanto attendere il misuratore (5 se non indicato)
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpExportCsv"><translation>Uso: zel export-csv CARTELLA --patient ID [--force]
+    <message id="CliHelpExportCsv"><translation>Uso: zel export-csv DIR --patient ID [--force]
 
 Scrive i dati e le misurazioni di un paziente in un file CSV, con l'ID del paziente come nome, nella cartella
-CARTELLA, e stampa 'written: FILE'. Date e misure hanno la forma prevista dalle impostazioni. Il file contiene
+DIR, e stampa 'written: FILE'. Date e misure hanno la forma prevista dalle impostazioni. Il file contiene
 tutte le misurazioni; dopo l'ultima virgola di una riga c'è 'manual' se la misurazione è stata inserita a
-mano, e 'excluded: MOTIVO' se è esclusa da tutti i calcoli.
+mano, e 'excluded: REASON' se è esclusa da tutti i calcoli.
 
 Opzioni:
   --patient ID                 di quale paziente
   --force                      sostituisce il file se esiste già
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpExportFhir"><translation>Uso: zel export-fhir CARTELLA [--patient ID] [--rule esh|nice|aha] [--force]
+    <message id="CliHelpExportFhir"><translation>Uso: zel export-fhir DIR [--patient ID] [--rule esh|nice|aha] [--force]
 
 Scrive ogni paziente, con le misurazioni e la media dell'ultima settimana di misura, in un proprio bundle HL7
-FHIR R4 nella cartella CARTELLA, per i programmi che gestiscono cartelle cliniche, e stampa per ciascuno una
+FHIR R4 nella cartella DIR, per i programmi che gestiscono cartelle cliniche, e stampa per ciascuno una
 riga 'written: FILE'. I file prendono il nome dagli ID dei pazienti. Contengono tutte le misurazioni; una
 misurazione esclusa ha lo stato 'entered-in-error' e il suo motivo. Commenti e indirizzi non ci sono. Un file
 che non si può scrivere è indicato sullo standard error, e gli altri vengono scritti comunque.
@@ -1235,10 +1235,10 @@ Opzioni:
   --force                      sostituisce i file già presenti, invece di lasciarli come sono
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpExportTable"><translation>Uso: zel export-table CARTELLA [--patient ID] [--force]
+    <message id="CliHelpExportTable"><translation>Uso: zel export-table DIR [--patient ID] [--force]
      zel export-table FILE.csv [--patient ID] [--force]
 
-Scrive le misurazioni come tabella per fogli di calcolo: nella cartella CARTELLA un file 'ID.table.csv' per
+Scrive le misurazioni come tabella per fogli di calcolo: nella cartella DIR un file 'ID.table.csv' per
 paziente, oppure in FILE.csv una sola tabella di tutti i pazienti. Stampa 'written: FILE' per ciascuna. La
 tabella è in UTF-8, con una riga di titoli e una riga per misurazione, in ordine cronologico, con il paziente, i
 valori, le anomalie rilevate, l'origine della misurazione, se e perché è esclusa e il commento del giorno.
@@ -1250,9 +1250,9 @@ Opzioni:
   --force                      sostituisce i file già presenti, invece di lasciarli come sono
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpExportXml"><translation>Uso: zel export-xml CARTELLA [--patient ID] [--force]
+    <message id="CliHelpExportXml"><translation>Uso: zel export-xml DIR [--patient ID] [--force]
 
-Scrive ogni paziente, con misurazioni e commenti, in un proprio file XML nella cartella CARTELLA e stampa per
+Scrive ogni paziente, con misurazioni e commenti, in un proprio file XML nella cartella DIR e stampa per
 ciascuno una riga 'written: FILE'. I file prendono il nome dall'ID del paziente; 'zel import' li importa di
 nuovo. Un file che non si può scrivere è indicato sullo standard error, e gli altri vengono scritti comunque.
 
@@ -1287,10 +1287,10 @@ Opzioni:
   --dates dmy|mdy|ymd          come sono scritte le sue date
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpMonitor"><translation>Uso: zel monitor [OPZIONE]...
-     zel monitor --set-clock [OPZIONE]...
-     zel monitor --send-id ID [OPZIONE]...
-     zel monitor --erase --yes [OPZIONE]...
+    <message id="CliHelpMonitor"><translation>Uso: zel monitor [OPTION]...
+     zel monitor --set-clock [OPTION]...
+     zel monitor --send-id ID [OPTION]...
+     zel monitor --erase --yes [OPTION]...
 
 Mostra modello, rilevazione delle aritmie (pad, afib o none), ID, orologio (oppure 'not set') e numero di
 misurazioni del misuratore collegato, una riga 'chiave: valore' per ciascuno. Contare le misurazioni può
@@ -1303,19 +1303,19 @@ Opzioni:
   --erase                      elimina tutte le misurazioni dalla memoria del misuratore e stampa quante ne
                                restano
   --yes                        conferma --erase
-  --wait SECONDI               quanto attendere il misuratore (5 se non indicato)
+  --wait SECONDS               quanto attendere il misuratore (5 se non indicato)
   --simulated-monitor[=FILE]   usa un misuratore simulato, descritto da FILE o integrato
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpPatients"><translation>Uso: zel patients
-     zel patients --add --id ID --family-name COGNOME --given-names NOMI
+     zel patients --add --id ID --family-name NAME --given-names NAMES
 
 Elenca i pazienti in formato CSV con l'intestazione id,family-name,given-names, oppure ne aggiunge uno.
 
 Opzioni:
   --add                        aggiunge un paziente; l'ID deve essere nuovo
   --id ID                      l'ID del paziente, come è nel misuratore
-  --family-name COGNOME        il cognome
-  --given-names NOMI           il nome o i nomi
+  --family-name NAME           il cognome
+  --given-names NAMES          il nome o i nomi
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpPrivacy"><translation>Uso: zel privacy [--mend]
@@ -1328,14 +1328,14 @@ Opzioni:
                                cartella e della cartella delle copie, e nient'altro
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpReadings"><translation>Uso: zel readings --patient ID [--from GIORNO | --last N] [--to GIORNO] [--am | --pm]
+    <message id="CliHelpReadings"><translation>Uso: zel readings --patient ID [--from DAY | --last N] [--to DAY] [--am | --pm]
                   [--undated] [--numbers]
-     zel readings --patient ID --exclude NUMERO --reason TESTO
-     zel readings --patient ID --include NUMERO
-     zel readings --patient ID --add --date GIORNO --time HH:MM --sys N --dia N --pulse N
-     zel readings --patient ID --change NUMERO [--date GIORNO] [--time HH:MM] [--sys N] [--dia N]
+     zel readings --patient ID --exclude RECORD --reason TEXT
+     zel readings --patient ID --include RECORD
+     zel readings --patient ID --add --date DAY --time HH:MM --sys N --dia N --pulse N
+     zel readings --patient ID --change RECORD [--date DAY] [--time HH:MM] [--sys N] [--dia N]
                   [--pulse N]
-     zel readings --patient ID --delete NUMERO
+     zel readings --patient ID --delete RECORD
 
 Mostra le misurazioni di un paziente in formato CSV, prima le meno recenti, con l'intestazione
 date,time,sys,dia,pulse,map,pp,mam,arrhythmia. Le pressioni sono in mmHg, il polso in battiti al minuto.
@@ -1348,33 +1348,33 @@ Con --exclude, --include, --add, --change o --delete modifica invece il file dei
 esclusa resta nel file e nell'elenco, con il suo motivo, e non conta in nessun calcolo; una frase sullo
 standard error dice quante delle misurazioni mostrate sono escluse. Una misurazione inserita a mano è
 contrassegnata come tale; le pressioni e il polso sono numeri interi da 30 a 300, la pressione diastolica è
-inferiore alla sistolica, la data e l'ora non sono nel futuro. --add stampa 'record: NUMERO'. Solo le
+inferiore alla sistolica, la data e l'ora non sono nel futuro. --add stampa 'record: RECORD'. Solo le
 misurazioni inserite a mano si possono modificare o eliminare.
 
 Opzioni:
   --patient ID                 di quale paziente
-  --from GIORNO                solo da questo giorno in poi (aaaa-MM-gg)
-  --to GIORNO                  solo fino alla fine di questo giorno (aaaa-MM-gg)
+  --from DAY                   solo da questo giorno in poi (aaaa-MM-gg)
+  --to DAY                     solo fino alla fine di questo giorno (aaaa-MM-gg)
   --last N                     invece di --from: N giorni, fino a quello di --to o all'ultimo con misurazioni
   --am                         solo le misurazioni prima delle 12
   --pm                         solo le misurazioni dalle 12 in poi
   --undated                    anche le misurazioni senza data
   --numbers                    con altre due colonne: record, il numero della misurazione nel file dei dati,
                                ed excluded, il motivo per cui è esclusa (vuota: conta)
-  --exclude NUMERO             esclude da tutti i calcoli la misurazione con questo numero
-  --reason TESTO               il motivo
-  --include NUMERO             la fa contare di nuovo
+  --exclude RECORD             esclude da tutti i calcoli la misurazione con questo numero
+  --reason TEXT                il motivo
+  --include RECORD             la fa contare di nuovo
   --add                        registra una misurazione inserita a mano
-  --change NUMERO              ne modifica una inserita a mano; ciò che non è indicato resta invariato
-  --delete NUMERO              ne elimina una inserita a mano
-  --date GIORNO                il giorno in cui è stata eseguita (aaaa-MM-gg)
+  --change RECORD              ne modifica una inserita a mano; ciò che non è indicato resta invariato
+  --delete RECORD              ne elimina una inserita a mano
+  --date DAY                   il giorno in cui è stata eseguita (aaaa-MM-gg)
   --time HH:MM                 l'ora, da 00:00 a 23:59
   --sys N                      pressione sistolica, mmHg
   --dia N                      pressione diastolica, mmHg
   --pulse N                    battiti al minuto
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpReport"><translation>Uso: zel report --patient ID --section CHIAVE[,CHIAVE...] --output FILE.pdf [OPZIONE]...
+    <message id="CliHelpReport"><translation>Uso: zel report --patient ID --section KEY[,KEY...] --output FILE.pdf [OPTION]...
 
 Scrive il rapporto di un paziente in PDF, sostituendo FILE.pdf se esiste, e stampa 'written: FILE.pdf'.
 I valori delle misurazioni pari o superiori ai limiti scelti nella finestra (135/85 se non scelti) sono
@@ -1395,7 +1395,7 @@ Sezioni:
 
 Opzioni:
   --patient ID                 di quale paziente
-  --section CHIAVE[,CHIAVE...] che cosa stampare, nell'ordine indicato
+  --section KEY[,KEY...]       che cosa stampare, nell'ordine indicato
   --from aaaa-MM-gg            il primo giorno del periodo (se non indicato, quello della prima misurazione)
   --to aaaa-MM-gg              l'ultimo giorno del periodo (se non indicato, quello dell'ultima misurazione)
   --last N                     invece di --from: N giorni, fino a quello di --to o all'ultimo con misurazioni
@@ -1412,7 +1412,7 @@ Opzioni:
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
     <message id="CliHelpSettings"><translation>Uso: zel settings
-     zel settings --set CHIAVE=VALORE [--set CHIAVE=VALORE]...
+     zel settings --set KEY=VALUE [--set KEY=VALUE]...
 
 Mostra le impostazioni, una riga 'chiave: valore' per ciascuna, oppure ne modifica alcune e mostra quelle. Se
 uno dei valori viene rifiutato, non ne viene modificata nessuna. Nei testi, \n indica un ritorno a capo e
@@ -1431,20 +1431,20 @@ uno dei valori viene rifiutato, non ne viene modificata nessuna. Nei testi, \n i
   PhysicianAddress             le righe del medico sui rapporti stampati
 
 Opzioni:
-  --set CHIAVE=VALORE          modifica un'impostazione; si può indicare più volte
+  --set KEY=VALUE              modifica un'impostazione; si può indicare più volte
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
   -h, --help                   mostra questo testo</translation></message>
-    <message id="CliHelpStatistics"><translation>Uso: zel statistics --patient ID [--from GIORNO | --last N] [--to GIORNO] [--undated]
+    <message id="CliHelpStatistics"><translation>Uso: zel statistics --patient ID [--from DAY | --last N] [--to DAY] [--undated]
 
 Mostra la media, il minimo e il massimo delle misurazioni di un paziente, una grandezza per riga:
-'sys: MEDIA MIN MAX', poi dia, pulse e map o pp secondo le impostazioni. Le pressioni sono in mmHg, il
+'sys: AVERAGE MIN MAX', poi dia, pulse e map o pp secondo le impostazioni. Le pressioni sono in mmHg, il
 polso in battiti al minuto. Se non ci sono misurazioni, ogni valore è n/a. Se alcune misurazioni non sono
 conteggiate, sullo standard error è scritto quante lo sono, quante no e per quale motivo.
 
 Opzioni:
   --patient ID                 di quale paziente
-  --from GIORNO                solo da questo giorno in poi (aaaa-MM-gg)
-  --to GIORNO                  solo fino alla fine di questo giorno (aaaa-MM-gg)
+  --from DAY                   solo da questo giorno in poi (aaaa-MM-gg)
+  --to DAY                     solo fino alla fine di questo giorno (aaaa-MM-gg)
   --last N                     invece di --from: N giorni, fino a quello di --to o all'ultimo con misurazioni
   --undated                    anche le misurazioni senza data
   --simulated-monitor[=FILE]   accettata da ogni comando, anche se questo non richiede un misuratore
