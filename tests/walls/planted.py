@@ -28,7 +28,7 @@ CLEAN = {
     "src/app/shell/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title") + qtTrId("Of");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n'
     'box->setText(u"\\u26A0 %1 mmHg, SYS, ZEL"_s.arg(qtTrId("Of"))); // setText("in a comment")\n'
     'menu.addAction(QIcon(u":/images/open"_s), qtTrId("Of"), [=] { find(u"editMenu"_s)->setText(words[u"key"_s]); });\n'
-    'box->setText(bar.findChild<QLabel*>(u"lblState"_s)->text()); label = new QLabel(u"/"_s, box); addAction(u"open"_s, qtTrId("Of"));\n',
+    'box->setText(bar.findChild<QLabel*>(u"line"_s)->text()); label = new QLabel(u"/"_s, box); addAction(u"open"_s, qtTrId("Of"));\n',
     "src/cli/CommandLine.h": '#include "store/File.h"\n',
     "tests/monitor/PortTest.cpp": '#include "monitor/Port.h"\n#include "support/Clock.h"\n#include <pugixml.hpp>\n',
     "tests/app/graph/PageTest.cpp": '#include "app/graph/Page.h"\n#include "support/ReadingPageTest.h"\n',
