@@ -30,6 +30,8 @@ CASES = [
     ("is drawn, and says nothing", Planted("filler", "Chart", size=LARGE)),
     ("takes the keyboard", Planted("filler", states=[State.FOCUSABLE], children=[caption("Colour")])),
     ("is written 'From'", Planted("text", "First day", labels=[caption("From")])),
+    ("has no label", Planted("text", "Family name")),
+    ("has no label", Planted("text", "Systolic", labels=[Planted("panel", "Limits")])),
     ("does not say what is chosen", Planted("combo box", "Smoker", labels=[caption("Smoker")])),
     ("has a caption, and no value", Planted("label", "State", labels=[caption("State")])),
     ("says its caption twice", Planted("label", "State", text="State")),
@@ -46,6 +48,8 @@ RIGHT = Planted("frame", "Window", [
     caption("State"), Planted("label", "State", text="connected", labels=[caption("State")]),
     caption("From:"), Planted("text", "From", text="", labels=[caption("From:")]),
     Planted("combo box", "Smoker", text="No", labels=[caption("Smoker")]),
+    Planted("text", "Search name or ID"),
+    Planted("text", "Practitioner, for reports", labels=[Planted("panel", "Practitioner")]),
 ])
 
 wrong = [f"not found: {words}" for words, node in CASES

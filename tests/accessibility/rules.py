@@ -9,6 +9,8 @@ DRAWN = {"image", "chart", "icon"}
 ICON = 100  # pixels; a picture without a name that is no larger only adorns
 SPECK = 8  # pixels; what is smaller holds nothing to be read
 INSIDE = {"scroll bar"}  # parts of a control, named by what they are a part of
+UNLABELLED = {"Search name or ID",  # stands in the field
+              "Text of the comment"}  # the panel's heading, which no relation reaches from its frame
 WHOLE = {"label", "table", "tree", "tree table", "list", "combo box", "spin button", "date editor", "text", "scroll bar"}
 
 
@@ -37,7 +39,11 @@ def drawn(node, _):
 def entry(node, _):
     if node.role not in ENTRIES:
         return
-    labels = [label.name.rstrip("\u00a0*").strip(" :") for label in node.labels if label.role == "label"]
+    given = [(label.role, label.name.rstrip("\u00a0*").strip(" :")) for label in node.labels]
+    labels = [name for role, name in given if role == "label"]
+    named = any(name and node.name.casefold().startswith(name.casefold()) for _, name in given)  # by a box's title, too
+    if not any(labels) and not named and node.name not in UNLABELLED:
+        yield "has no label"
     for label in labels:
         if not node.name.casefold().startswith(label.casefold()):
             yield f"is written '{label}', and called something else"

@@ -25,7 +25,10 @@ CLEAN = {
     "src/app/graph/CMakeLists.txt": "zel_room(app_graph DOORS zel_app_frame)\n",
     "src/app/printing/Print.h": "#include <QPrinter>\n",
     "src/app/shell/Window.h": '#include "app/graph/Page.h"\n#include "monitor/Port.h"\n#include <QDBusConnection>\n',
-    "src/app/shell/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title") + qtTrId("Of");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n',
+    "src/app/shell/Window.cpp": '// qtTrId(key)\nauto a = qtTrId("Title") + qtTrId("Of");\nauto b = "// qtTrId(\\"no\\")" + qtTrId("Word", 3);\n'
+    'box->setText(u"\\u26A0 %1 mmHg, SYS, ZEL"_s.arg(qtTrId("Of"))); // setText("in a comment")\n'
+    'menu.addAction(QIcon(u":/images/open"_s), qtTrId("Of"), [=] { find(u"editMenu"_s)->setText(words[u"key"_s]); });\n'
+    'box->setText(bar.findChild<QLabel*>(u"line"_s)->text()); label = new QLabel(u"/"_s, box); addAction(u"open"_s, qtTrId("Of"));\n',
     "src/cli/CommandLine.h": '#include "store/File.h"\n',
     "tests/monitor/PortTest.cpp": '#include "monitor/Port.h"\n#include "support/Clock.h"\n#include <pugixml.hpp>\n',
     "tests/app/graph/PageTest.cpp": '#include "app/graph/Page.h"\n#include "support/ReadingPageTest.h"\n',
@@ -85,6 +88,13 @@ ROOM_PLANTS = (
 TEXT_PLANTS = (
     ("src/store/File.h", 'auto t = qtTrId("NoWords");', "no words for the key NoWords"),
     ("src/store/File.h", "auto t = qtTrId(key);", "no literal"),
+    ("src/app/shell/Window.cpp", 'box->setText(u"No readings"_s);', 'Window.cpp:7: "No readings" is shown'),
+    ("src/app/shell/Window.cpp", 'box->setText(is ? qtTrId("Of") : u"%1 mmHg left"_s.arg(3));', "is shown"),
+    ("src/app/shell/Window.cpp", 'menu->addItem(u"Open"_s, data[u"key"_s]);', '"Open" is shown'),
+    ("src/app/shell/Window.cpp", 'auto* box = new QCheckBox("Über alles"_L1, this);', "is shown"),
+    ("src/app/shell/Window.cpp", 'QLabel empty{u"量測"_s};', "is shown"),
+    ("src/app/shell/Window.cpp", 'menu.addAction(qtTrId("Of"), [=] { box->setToolTip(R"(Save)"); });', "is shown"),
+    ("src/app/shell/Window.cpp", 'panel.AskMessage(\n    text(u"Save the changes?"_s), title);', "is shown"),
     ("translations/zel_en.ts", '<message id="Zebra"><translation>Z</translation></message>', "nothing asks for the key Zebra"),
     ("translations/zel_en.ts", '<message id="Word"><translation>W</translation></message>', "Word stands in the table twice"),
     ("translations/zel_en.ts", '<translation type="unfinished"/>', "unfinished"),

@@ -1,8 +1,10 @@
 """Every text that the code asks for by its key has words in the English table, every text of that table is asked for,
-and each other table zel_XX.ts has the same texts, whole."""
+and each other table zel_XX.ts has the same texts, whole. No window shows words that are in none."""
 import os
 import re
 import sys
+
+import shown
 
 # A call, or what may contain words that only look like one: text, characters, comments.
 TOKEN = re.compile(
@@ -116,6 +118,7 @@ def findings(source, folder):
     texts = {key: re.sub(r"<[^>]*>", "", body) for key, body in MESSAGE.findall(english)}
     used = set()
     yield from code_findings(source, texts, used)
+    yield from shown.findings(source)
     yield from table_findings(english, used - {None})
     for tag, table in tables.items():
         found = [*table_findings(table, None), *translation_findings(tag, table, english)]

@@ -72,7 +72,8 @@ MeasuringWeekPanel::MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod
 
 QLayout* MeasuringWeekPanel::makeChoices() {
     cboWeekRule->setObjectName(u"cboWeekRule"_s);
-    cboWeekRule->setAccessibleName(qtTrId("weekRule"));
+    // By the heading, which is its label.
+    cboWeekRule->setAccessibleName(qtTrId("infoLine").arg(accessibleName(), qtTrId("weekRule")));
     for (const QString& name : {qtTrId("weekRuleEsh"), qtTrId("weekRuleNice"), qtTrId("weekRuleAha")})
         cboWeekRule->addItem(name);
     cboWeekRule->setToolTip(qtTrId("weekRuleHint"));

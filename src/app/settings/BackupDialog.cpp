@@ -121,6 +121,7 @@ QWidget* BackupDialog::makeSecondFolder() {
     Style::followPlaceholder(*edtSecondFolder);
     edtSecondFolder->setPlaceholderText(qtTrId("backupNoSecondFolder"));
     edtSecondFolder->setReadOnly(true);
+    words->setBuddy(edtSecondFolder);
     row->addWidget(words);
     row->addWidget(edtSecondFolder, 1);
     row->addWidget(

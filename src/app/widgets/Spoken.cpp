@@ -1,5 +1,6 @@
 #include "app/widgets/Spoken.h"
 
+#include "app/widgets/Mnemonic.h"
 #include "app/widgets/SpokenGrid.h"
 #include "app/widgets/SpokenText.h"
 
@@ -12,6 +13,8 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QSplitter>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -34,8 +37,22 @@ public:
     [[nodiscard]] QString text(int begin, int end) const override { return SpokenText::text(begin, end); }
 };
 
+/// Of several fields behind one label, one is its buddy; the names of all begin with its words.
+QLabel* sharedLabel(const QWidget& field) {
+    if (!field.parentWidget()) return nullptr;
+    const auto siblings = field.parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto names = [&field](const QLabel* label) {
+        const QString words = withoutMnemonic(label->text()).remove(u':').trimmed();
+        return !label->isHidden() && !words.isEmpty() && field.accessibleName().startsWith(words);
+    };
+    const auto found = std::ranges::find_if(siblings, names);
+    return found == siblings.end() ? nullptr : *found;
+}
+
 /// What is chosen in the list is its text.
 class SpokenChoice final : public SpokenContent {
+    using Relations = QList<std::pair<QAccessibleInterface*, QAccessible::Relation>>;
+
 public:
     explicit SpokenChoice(QComboBox& box) : SpokenContent(&box, QAccessible::ComboBox), choice(box) {}
 
@@ -44,6 +61,14 @@ public:
         now.expandable = now.hasPopup = true;
         now.expanded = choice.view()->isVisible();
         return now;
+    }
+    [[nodiscard]] Relations relations(QAccessible::Relation wanted) const override {
+        Relations known = QAccessibleWidget::relations(wanted);
+        const auto isLabel = [](const auto& each) { return each.second.testFlag(QAccessible::Label); };
+        if (!wanted.testFlag(QAccessible::Label) || std::ranges::any_of(known, isLabel)) return known;
+        if (QLabel* label = sharedLabel(choice))
+            known.append({QAccessible::queryAccessibleInterface(label), QAccessible::Label});
+        return known;
     }
     [[nodiscard]] int childCount() const override { return 1; }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
