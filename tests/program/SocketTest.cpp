@@ -28,11 +28,12 @@ protected:
     }
 
     /// \return what was opened, and which of the window's controls were visited
-    QStringList run(const QStringList& arguments) {
+    QStringList run(const QStringList& arguments) { return run(here + u"/../../zel"_s, arguments); }
+    QStringList run(const QString& executable, const QStringList& arguments) {
         QProcess program;
         program.setProcessEnvironment(environment);
         endWithTest(program);
-        program.start(here + u"/../../zel"_s, arguments);
+        program.start(executable, arguments);
         EXPECT_TRUE(program.waitForFinished(longestRun)) << qPrintable(arguments.join(u' '));
         said = program.readAllStandardError();
         status = program.exitCode();
@@ -47,7 +48,8 @@ protected:
     [[nodiscard]] QStringList forbidden(const QStringList& opened) const {
         QStringList rest;
         std::ranges::copy_if(opened, std::back_inserter(rest), [this](const QString& line) {
-            return !line.startsWith("visit "_L1)
+            return !line.startsWith("visit "_L1) && !line.startsWith("dialog "_L1)
+                   && line != "syslog"_L1 // the C library's own, to this machine's
                    && !line.startsWith("connect unix "_L1 + bus.folderPath()) // the session bus
                    && line != "connect unix "_L1 + printSystem                // the print system
                    // The kernel's news of devices plugged in and out, which the HID library listens to:
@@ -56,6 +58,14 @@ protected:
                    && line != "socket family 16 protocol 15"_L1 && line != "bind family 16"_L1;
         });
         return rest;
+    }
+
+    /// A patient with a month of readings, so that the window has all of its pages.
+    void fillTheHome() {
+        run({u"patients"_s, u"--add"_s, u"--id=DEMO1"_s, u"--family-name=D"_s, u"--given-names=D"_s});
+        ASSERT_EQ(status, 0) << said.constData();
+        run({u"download"_s, u"--patient=DEMO1"_s, u"--simulated-monitor"_s});
+        ASSERT_EQ(status, 0) << said.constData();
     }
 
     QString here = QCoreApplication::applicationDirPath();
@@ -94,12 +104,38 @@ TEST_F(SocketTest, NoneIsOpenedByACommand) {
 }
 
 TEST_F(SocketTest, NoneIsOpenedByTheWindow) {
+    fillTheHome();
     environment.insert(u"ZEL_VISIT"_s, u"1"_s);
     const QStringList opened = run({});
     EXPECT_EQ(status, 0) << said.constData();
-    EXPECT_EQ(forbidden(opened).join(u'\n').toStdString(), "");
+    EXPECT_EQ(forbidden(opened).join(u'\n').toStdString(), "") << "and each control is within reach";
+    EXPECT_EQ(opened.filter(u"visit "_s).size(), 17);
     EXPECT_TRUE(opened.contains(u"visit closeApplicaiton"_s)) << "all has been gone through";
+    for (const char* dialog :
+         {"PrintController", "BackupDialog", "SettingController", "QFileDialog", "ImportFileDialog"})
+        EXPECT_TRUE(opened.contains(u"dialog "_s + QLatin1StringView(dialog))) << dialog << " was open";
+    EXPECT_TRUE(opened.contains(u"connect unix "_s + printSystem)) << "it was asked for its printers";
     EXPECT_FALSE(opened.filter(bus.folderPath()).isEmpty()) << "the witness sees what is opened";
+}
+
+TEST_F(SocketTest, OneThatWasPlantedIsFound) {
+    const std::pair<const char*, const char*> plants[] = {
+        {"s.socket(s.AF_INET)", "socket family 2 protocol 0"},
+        {"s.socket(s.AF_INET6, s.SOCK_DGRAM)", "socket family 10 protocol 0"},
+        {"s.getaddrinfo('127.0.0.1', 80)", "getaddrinfo 127.0.0.1"},
+        {"s.socket(s.AF_UNIX).connect('/nobody')", "connect unix /nobody"},
+        {"s.socket(s.AF_UNIX).connect('\\0nobody')", "connect unix @nobody"},
+        {"s.socket(s.AF_UNIX).bind('\\0nobody')", "bind unix @nobody"},
+        {"s.socket(s.AF_UNIX, s.SOCK_DGRAM).sendto(b'a', '/nobody')", "sendto unix /nobody"},
+        {"s.socket(s.AF_UNIX, s.SOCK_DGRAM).sendmsg([b'a'], [], 0, '/nobody')", "sendmsg unix /nobody"},
+    };
+    for (const auto& [plant, line] : plants)
+        EXPECT_EQ(
+            forbidden(run(u"python3"_s, {u"-Sc"_s, u"import socket as s; "_s + QLatin1StringView(plant)}))
+                .join(u'\n')
+                .toStdString(),
+            line)
+            << plant;
 }
 
 } // namespace zel

@@ -1,6 +1,7 @@
 // Preloaded into the program: writes down every socket that the program or a library of it opens, one a line,
 // into the file ZEL_SOCKETS, and with ZEL_VISIT goes through the window as a user does, and quits.
-// What the C library opens within itself is seen where it is asked for it: names of hosts, by getaddrinfo().
+// What the C library opens within itself is seen where it is asked for it: names of hosts, by getaddrinfo(),
+// and the system's log, by syslog().
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -8,6 +9,7 @@
 #include <QTimer>
 
 #include <array>
+#include <cstdarg>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -16,6 +18,7 @@
 #include <string>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <syslog.h>
 #include <unistd.h>
 
 namespace {
@@ -48,13 +51,15 @@ Function* real(const char* name) {
 
 // A name of the program's window is acted on when what is open over it has been closed, one with a + within
 // it.
-constexpr std::array visits{"graphBtn",    "toggleHistogram",  "toggleCorrelation", "toggleTrend",
-                            "tableBtn",    "patientBtn",       "showPrint",         "showSavePdf",
-                            "showBackups", "+btnCreateBackup", "showSetting",       "+exportButton",
-                            "showSetting", "+importButton",    "showAbout",         "closeApplicaiton"};
+constexpr std::array visits{"graphBtn",        "toggleHistogram", "toggleCorrelation", "toggleTrend",
+                            "tableBtn",        "patientBtn",      "showPrint",         "+printerSelection",
+                            "showSavePdf",     "showBackups",     "+btnCreateBackup",  "showSetting",
+                            "+exportButton",   "showSetting",     "+importButton",     "showAbout",
+                            "closeApplicaiton"};
 
 void closeDialogs() {
     while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        note("dialog " + dialog->objectName().toStdString());
         dialog->reject();
         if (QApplication::activeModalWidget() == dialog) return;
     }
@@ -65,6 +70,10 @@ Control* find(const QString& name) {
     for (const QWidget* window : QApplication::topLevelWidgets())
         if (auto* found = window->findChild<Control*>(name)) return found;
     return nullptr;
+}
+
+bool isWithinReach(const QAbstractButton* button, const QAction* action) {
+    return button ? button->isEnabled() && button->isVisible() : action->isEnabled();
 }
 
 /// The next visit first: what is opened here may wait for an answer.
@@ -83,7 +92,7 @@ void visit(std::size_t number) {
     auto* button = find<QAbstractButton>(QString::fromLatin1(name));
     auto* action = find<QAction>(QString::fromLatin1(name));
     if (!button && !action) return note(std::string("no control ") + name);
-    note(std::string("visit ") + name);
+    note((isWithinReach(button, action) ? "visit " : "out of reach ") + std::string(name));
     button ? button->click() : action->trigger();
 }
 
@@ -120,9 +129,38 @@ ssize_t sendto(int handle, const void* data, size_t size, int flags, const socka
         handle, data, size, flags, address, length);
 }
 
+ssize_t sendmsg(int handle, const msghdr* message, int flags) {
+    note("sendmsg", static_cast<const sockaddr*>(message->msg_name), message->msg_namelen);
+    return real<ssize_t(int, const msghdr*, int)>("sendmsg")(handle, message, flags);
+}
+
 int getaddrinfo(const char* host, const char* service, const addrinfo* hints, addrinfo** result) {
     note(std::string("getaddrinfo ") + (host ? host : ""));
     return real<int(const char*, const char*, const addrinfo*, addrinfo**)>("getaddrinfo")(host, service,
                                                                                            hints, result);
+}
+
+void openlog(const char* name, int options, int facility) {
+    note("syslog");
+    real<void(const char*, int, int)>("openlog")(name, options, facility);
+}
+
+void vsyslog(int priority, const char* format, va_list values) {
+    note("syslog");
+    real<void(int, const char*, va_list)>("vsyslog")(priority, format, values);
+}
+
+void syslog(int priority, const char* format, ...) {
+    va_list values;
+    va_start(values, format);
+    vsyslog(priority, format, values);
+    va_end(values);
+}
+
+void __syslog_chk(int priority, int, const char* format, ...) { // NOLINT: what a hardened build calls
+    va_list values;
+    va_start(values, format);
+    vsyslog(priority, format, values);
+    va_end(values);
 }
 }
