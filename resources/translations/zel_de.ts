@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>Die Datendatei %1 ist nicht lesbar. Sie bleibt unverändert, und es kann nichts gespeichert werden, bis sie wieder lesbar ist.</translation></message>
     <message id="StoreNotWritable"><translation>Die Datendatei %1 kann nicht geschrieben werden. Es wurde nichts geändert; bitte prüfen Sie die Zugriffsrechte der Datei und ihres Ordners.</translation></message>
     <message id="StoreQuotaReached"><translation>Auf diesem Datenträger dürfen Sie nichts mehr speichern (das Kontingent ist erreicht): %1 konnte nicht geschrieben werden. Der bisherige Inhalt ist unverändert. Bitte löschen Sie, was Sie nicht brauchen, oder bitten Sie um mehr Speicherplatz, und versuchen Sie es dann noch einmal.</translation></message>
+    <message id="StoreReadFailed"><translation>Die Datendatei %1 ist nicht lesbar: Der Datenträger meldet einen Fehler. Die Datei bleibt unverändert, und es kann nichts gespeichert werden, bis sie wieder lesbar ist. Bitte lassen Sie den Datenträger überprüfen.</translation></message>
     <message id="StoreReadingGone"><translation>Die Messung ist nicht mehr vorhanden. Es wurde nichts geändert.</translation></message>
     <message id="StoreReadingKnown"><translation>Zu dieser Minute gibt es schon eine Messung mit diesen Werten. Es wurde nichts geändert.</translation></message>
     <message id="StoreReadingRefused"><translation>Die Messung wurde nicht gespeichert.</translation></message>

@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>The data file %1 cannot be read. It is left as it is, and nothing can be saved until it is readable again.</translation></message>
     <message id="StoreNotWritable"><translation>The data file %1 cannot be written. Nothing was changed; please check the permissions of the file and of its folder.</translation></message>
     <message id="StoreQuotaReached"><translation>You may store no more on this disk (its quota is reached): %1 could not be written. What was there is as it was. Please delete what you do not need, or ask for more space, then try again.</translation></message>
+    <message id="StoreReadFailed"><translation>The data file %1 cannot be read: the disk reports an error. The file is left as it is, and nothing can be saved until it is readable again. Please have the disk checked.</translation></message>
     <message id="StoreReadingGone"><translation>The reading is no longer there. Nothing was changed.</translation></message>
     <message id="StoreReadingKnown"><translation>There is a reading of that minute with these values already. Nothing was changed.</translation></message>
     <message id="StoreReadingRefused"><translation>The reading was not stored.</translation></message>

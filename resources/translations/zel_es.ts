@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>No se puede leer el archivo de datos %1. Se deja como está, y no se puede guardar nada hasta que vuelva a ser legible.</translation></message>
     <message id="StoreNotWritable"><translation>No se puede escribir el archivo de datos %1. No se ha cambiado nada; compruebe los permisos del archivo y de su carpeta.</translation></message>
     <message id="StoreQuotaReached"><translation>No puede guardar más en este disco (se ha alcanzado su cuota): no se ha podido escribir %1. Lo que había sigue como estaba. Elimine lo que no necesite o solicite más espacio, y vuelva a intentarlo.</translation></message>
+    <message id="StoreReadFailed"><translation>No se puede leer el archivo de datos %1: el disco notifica un error. El archivo se deja como está, y no se puede guardar nada hasta que vuelva a ser legible. Haga que revisen el disco.</translation></message>
     <message id="StoreReadingGone"><translation>La medición ya no está. No se ha cambiado nada.</translation></message>
     <message id="StoreReadingKnown"><translation>Ya hay una medición de ese minuto con estos valores. No se ha cambiado nada.</translation></message>
     <message id="StoreReadingRefused"><translation>No se ha guardado la medición.</translation></message>

@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>Le fichier de données %1 est illisible. Il est laissé tel quel, et rien ne peut être enregistré tant qu’il n’est pas de nouveau lisible.</translation></message>
     <message id="StoreNotWritable"><translation>Le fichier de données %1 ne peut pas être écrit. Rien n’a été modifié ; veuillez vérifier les droits d’accès du fichier et de son dossier.</translation></message>
     <message id="StoreQuotaReached"><translation>L’espace qui vous est attribué sur ce disque est épuisé (quota atteint) : %1 n’a pas pu être écrit. L’ancien contenu est intact. Veuillez supprimer ce dont vous n’avez plus besoin ou demander plus d’espace, puis réessayer.</translation></message>
+    <message id="StoreReadFailed"><translation>Le fichier de données %1 est illisible : le disque signale une erreur. Le fichier est laissé tel quel, et rien ne peut être enregistré tant qu’il n’est pas de nouveau lisible. Veuillez faire vérifier le disque.</translation></message>
     <message id="StoreReadingGone"><translation>Cette mesure n’existe plus. Rien n’a été modifié.</translation></message>
     <message id="StoreReadingKnown"><translation>Il existe déjà une mesure de la même minute avec les mêmes valeurs. Rien n’a été modifié.</translation></message>
     <message id="StoreReadingRefused"><translation>La mesure n’a pas été enregistrée.</translation></message>

@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>Impossibile leggere il file dei dati %1. Resta com’è, e non si può salvare nulla finché non torna leggibile.</translation></message>
     <message id="StoreNotWritable"><translation>Impossibile scrivere il file dei dati %1. Non è stato modificato nulla; controllare i permessi del file e della sua cartella.</translation></message>
     <message id="StoreQuotaReached"><translation>Su questo disco non è consentito salvare altro (la quota è esaurita): impossibile scrivere %1. Il contenuto precedente è rimasto com’era. Eliminare ciò che non serve o richiedere più spazio, poi riprovare.</translation></message>
+    <message id="StoreReadFailed"><translation>Impossibile leggere il file dei dati %1: il disco segnala un errore. Il file resta com’è, e non si può salvare nulla finché non torna leggibile. Far controllare il disco.</translation></message>
     <message id="StoreReadingGone"><translation>La misurazione non esiste più. Non è stato modificato nulla.</translation></message>
     <message id="StoreReadingKnown"><translation>Esiste già una misurazione dello stesso minuto con questi valori. Non è stato modificato nulla.</translation></message>
     <message id="StoreReadingRefused"><translation>La misurazione non è stata registrata.</translation></message>

@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>Nie można odczytać pliku danych %1. Pozostaje on bez zmian i dopóki nie da się go odczytać, niczego nie można zapisać.</translation></message>
     <message id="StoreNotWritable"><translation>Nie można zapisać pliku danych %1. Niczego nie zmieniono; proszę sprawdzić uprawnienia do pliku i jego folderu.</translation></message>
     <message id="StoreQuotaReached"><translation>Na tym dysku nie można zapisać więcej danych (limit miejsca jest wyczerpany): nie udało się zapisać pliku %1. Dotychczasowa zawartość pozostała bez zmian. Proszę usunąć zbędne pliki albo poprosić o więcej miejsca i spróbować ponownie.</translation></message>
+    <message id="StoreReadFailed"><translation>Nie można odczytać pliku danych %1: dysk zgłasza błąd. Plik pozostaje bez zmian i dopóki nie da się go odczytać, niczego nie można zapisać. Proszę zlecić sprawdzenie dysku.</translation></message>
     <message id="StoreReadingGone"><translation>Tego pomiaru już nie ma. Niczego nie zmieniono.</translation></message>
     <message id="StoreReadingKnown"><translation>Istnieje już pomiar z tej samej minuty o tych samych wartościach. Niczego nie zmieniono.</translation></message>
     <message id="StoreReadingRefused"><translation>Pomiaru nie zapisano.</translation></message>

@@ -100,6 +100,7 @@
     <message id="StoreNotReadable"><translation>無法讀取資料檔 %1。檔案維持原狀，在恢復可讀之前無法儲存任何資料。</translation></message>
     <message id="StoreNotWritable"><translation>無法寫入資料檔 %1。未做任何變更；請檢查檔案及其資料夾的權限。</translation></message>
     <message id="StoreQuotaReached"><translation>您在這個磁碟上的配額已用完，無法寫入 %1。原有內容維持不變。請刪除不需要的檔案或申請更多空間，然後再試一次。</translation></message>
+    <message id="StoreReadFailed"><translation>無法讀取資料檔 %1：磁碟回報錯誤。檔案維持原狀，在恢復可讀之前無法儲存任何資料。請檢查磁碟。</translation></message>
     <message id="StoreReadingGone"><translation>這筆量測已不存在。未做任何變更。</translation></message>
     <message id="StoreReadingKnown"><translation>同一分鐘已有數值相同的量測。未做任何變更。</translation></message>
     <message id="StoreReadingRefused"><translation>未儲存這筆量測。</translation></message>

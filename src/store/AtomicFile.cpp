@@ -1,5 +1,6 @@
 #include "store/AtomicFile.h"
 
+#include "store/KeptAside.h"
 #include "store/Log.h"
 #include "store/NewFile.h"
 #include "store/Uninterrupted.h"
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -91,21 +93,29 @@ int flushPlace(NewFile& file, const QString& target) {
     return error == 0 && file.isOnFat() ? file.flush() : error;
 }
 
+/// Puts the new file where it belongs. \return the system's error number, 0 for success
+using Take = std::function<int(NewFile& file, const QString& place)>;
+
 /// \p path as the user is told of it
-StoreResult put(const QByteArray& content, const QString& path, const QString& target,
-                int (NewFile::*take)(const QString& place)) {
+StoreResult put(const QByteArray& content, const QString& path, const QString& target, const Take& take) {
     removeDeadFiles(temporaryPrefix(target));
     auto file = NewFile::create(temporaryPrefix(target));
     if (!file) return unwritten(file.error(), path);
     if (const int error = writeWhole(*file, target, content)) return unwritten(error, path);
     const Handle before = file->isOnFat() ? hold(target) : Handle{-1};
-    if (const int error = ((*file).*take)(target)) return unwritten(error, path);
+    if (const int error = take(*file, target)) return unwritten(error, path);
     if (const int error = flushPlace(*file, target)) {
         // Not its name: that of a report or an export tells whose it is.
         qCWarning(lcStore, "A folder could not be flushed: %s", std::strerror(error));
         return failed(StoreErrorCode::notFlushed, path, systemWords(error));
     }
     return {};
+}
+
+/// What disks and file systems say of content that is lost; the others of what is only out of reach.
+StoreErrorCode readError(int error) {
+    const bool isLost = error == EIO || error == EUCLEAN || error == EBADMSG || error == ENODATA;
+    return isLost ? StoreErrorCode::readFailed : StoreErrorCode::notReadable;
 }
 
 /// \p path as the user is told of it
@@ -147,6 +157,20 @@ StoreResult makeFile(const QString& path, const QByteArray& content) {
     return put(content, path, path, &NewFile::takeFreePlace);
 }
 
+StoreResult replaceAndKeep(const QString& path, const QByteArray& content, const QString& kept) {
+    bool isGivenBack = true;
+    const auto take = [&](NewFile& file, const QString& place) {
+        int error = keepAside(place, kept);
+        if (error != 0) return error;
+        error = flushFolder(QFileInfo{kept}.absolutePath(), file);
+        if (error == 0) error = file.takePlace(place);
+        if (error != 0) isGivenBack = giveBack(place, kept);
+        return error;
+    };
+    StoreResult replaced = put(content, path, realPath(path), take);
+    return isGivenBack ? replaced : failed(StoreErrorCode::notCreated, path, kept);
+}
+
 StoreResult flushNewFolder(const QString& folder) {
     const QString parent = QFileInfo{folder}.absolutePath();
     // Flushing any other folder writes FAT's table, before the name leads into it.
@@ -180,7 +204,7 @@ tl::expected<QByteArray, StoreError> readFile(const QString& path) {
             return ::read(handle.get(), content.data() + done,
                           static_cast<std::size_t>(content.size() - done));
         });
-        if (count < 0) return failed(StoreErrorCode::notReadable, path, systemWords(errno));
+        if (count < 0) return failed(readError(errno), path, systemWords(errno));
         content.resize(done + count);
     }
     return content;

@@ -18,6 +18,11 @@ namespace zel {
 /// As replaceFile(), but only where nothing stands, also no link: alreadyExists.
 [[nodiscard]] StoreResult makeFile(const QString& path, const QByteArray& content);
 
+/// As replaceFile(), but the file that was there is not gone: it has the name \p kept then, without being
+/// read. Nothing may stand there, and it has to be on the same disk. \return notCreated, with \p kept as its
+/// detail, if neither took the place: \p kept is all there is then
+[[nodiscard]] StoreResult replaceAndKeep(const QString& path, const QByteArray& content, const QString& kept);
+
 /// Has a folder that was just made outlast a power cut. One whose parents may not be read is left to the
 /// system.
 [[nodiscard]] StoreResult flushNewFolder(const QString& folder);
@@ -32,7 +37,7 @@ void removeDeadReplacements(const QString& path);
 inline constexpr qint64 largestFile = qint64{512} << 20;
 
 /// The whole file. Only a regular file is opened: a pipe or a device has no end to wait for.
-/// \return notReadable or tooLarge
+/// \return notReadable, readFailed or tooLarge
 [[nodiscard]] tl::expected<QByteArray, StoreError> readFile(const QString& path);
 
 /// What the system's error number of a failed write means to the user; writeFailed with the system's words if

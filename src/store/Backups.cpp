@@ -44,6 +44,10 @@ tl::unexpected<StoreError> refusal(StoreErrorCode code, const QString& path) {
 /// A folder that could not be flushed takes copies all the same, and that is told behind them.
 bool isThere(const StoreResult& made) { return made || made.error().code == StoreErrorCode::notFlushed; }
 
+bool failedWith(const tl::expected<QString, StoreError>& result, StoreErrorCode code) {
+    return !result && result.error().code == code;
+}
+
 /// A copy made in the same second has the place.
 QString freeName(const QString& folder, BackupKind kind, Instant now) {
     QString name = backupName(kind, now);
@@ -155,12 +159,22 @@ tl::expected<QString, StoreError> Backups::restore(const QString& name) const {
     if (const auto readable = content(name); !readable) return tl::unexpected{readable.error()};
     const auto bytes = readFile(path(name));
     if (!bytes) return tl::unexpected{bytes.error()};
+    const FileStamp found = file.stamp();
+    auto kept = replaceCopied(*bytes);
+    // A copy is better than what a disk may give no more, and it may at the second try.
+    if (failedWith(kept, StoreErrorCode::readFailed)) kept = replaceCopied(*bytes);
+    const bool isUncopied =
+        failedWith(kept, StoreErrorCode::readFailed) || failedWith(kept, StoreErrorCode::tooLarge);
+    return isUncopied ? replaceUnread(*bytes, found) : kept;
+}
+
+Backups::Kept Backups::replaceCopied(const QByteArray& content) const {
     QString kept;
     const auto keep = [&]() -> StoreResult {
         if (!QFileInfo::exists(file.getZELXMLPath())) return {};
         const auto present = DataFile::readDocument(file.getZELXMLPath());
-        if (!present && present.error().code == StoreErrorCode::notReadable)
-            return tl::unexpected{present.error()}; // nothing of it could be kept
+        if (!present && present.error().code != StoreErrorCode::notParsed)
+            return tl::unexpected{present.error()}; // nothing of it could be copied
         kept = freeName(folder(), present ? BackupKind::replaced : BackupKind::damaged, now());
         StoreResult copied = copyTo(kept);
         const bool mayBeLost = !copied && copied.error().code == StoreErrorCode::notFlushed;
@@ -168,7 +182,12 @@ tl::expected<QString, StoreError> Backups::restore(const QString& name) const {
             copied.error() = {StoreErrorCode::writeFailed, file.getZELXMLPath(), copied.error().detail};
         return copied;
     };
-    return file.replace(*bytes, keep).map([&kept] { return kept; });
+    return file.replace(content, keep).map([&kept] { return kept; });
+}
+
+Backups::Kept Backups::replaceUnread(const QByteArray& content, const FileStamp& found) const {
+    const QString kept = freeName(folder(), BackupKind::damaged, now());
+    return file.replaceUnread(content, path(kept), found).map([&kept] { return kept; });
 }
 
 } // namespace zel

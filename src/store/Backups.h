@@ -38,11 +38,15 @@ public:
     /// Copies the data file as it is. \return the copy's name
     [[nodiscard]] tl::expected<QString, StoreError> create() const;
     /// Puts the copy in the data file's place, and keeps what was there as another one. Does not reload.
+    /// What cannot be read, or is too large, gives its place and becomes that other one itself.
     /// \return the name of what was there; empty: there was nothing
     [[nodiscard]] tl::expected<QString, StoreError> restore(const QString& name) const;
 
 private:
     [[nodiscard]] QString path(const QString& name) const;
+    using Kept = tl::expected<QString, StoreError>; ///< the name that restore() returns
+    [[nodiscard]] Kept replaceCopied(const QByteArray& content) const;
+    [[nodiscard]] Kept replaceUnread(const QByteArray& content, const FileStamp& found) const;
     [[nodiscard]] StoreResult copyTo(const QString& name) const;
     [[nodiscard]] StoreResult makeFolder() const;
     [[nodiscard]] qint64 room() const;

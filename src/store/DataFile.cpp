@@ -223,6 +223,15 @@ StoreResult DataFile::replace(const QByteArray& content, const std::function<Sto
     return replaceFile(path, content);
 }
 
+StoreResult DataFile::replaceUnread(const QByteArray& content, const QString& kept,
+                                    const FileStamp& found) const {
+    const QString path = getZELXMLPath();
+    FileLock lock{linksFollowed(path)};
+    if (StoreResult turn = takeTurn(lock); !turn) return turn;
+    if (stamp() != found) return refused(StoreErrorCode::changedElsewhere, path);
+    return replaceAndKeep(path, content, kept);
+}
+
 FileStamp stampOf(const QString& path) {
     const QByteArray name = QFile::encodeName(linksFollowed(path));
     lookAnewBeside(name);

@@ -71,6 +71,10 @@ public:
     /// sees what is there first, and the file stays as it is if it fails.
     [[nodiscard]] StoreResult replace(const QByteArray& content,
                                       const std::function<StoreResult()>& keep) const;
+    /// As replace(), where what is there cannot be read to be kept: it is given the free name \p kept, on the
+    /// same disk. \return changedElsewhere if it is no longer as \p found
+    [[nodiscard]] StoreResult replaceUnread(const QByteArray& content, const QString& kept,
+                                            const FileStamp& found) const;
 
     /// Reads and checks any document of this kind, such as an older one or one to be imported.
     [[nodiscard]] static tl::expected<XmlDocument, StoreError> readDocument(const QString& path);

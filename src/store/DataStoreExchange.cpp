@@ -42,7 +42,8 @@ QString csvText(const PatientModel& patient, const ReadingList& readings, const 
 
 /// The data file itself is at fault, not a record in it.
 bool isReadingError(const StoreError& error) {
-    return error.code == StoreErrorCode::notReadable || error.code == StoreErrorCode::notParsed;
+    using enum StoreErrorCode;
+    return error.code == notReadable || error.code == readFailed || error.code == notParsed;
 }
 
 QStringList pathsOf(const std::vector<ImportSource>& files) {

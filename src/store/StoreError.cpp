@@ -9,6 +9,7 @@ namespace {
 QString sentence(StoreErrorCode code) {
     switch (code) {
     case StoreErrorCode::notReadable: return qtTrId("StoreNotReadable");
+    case StoreErrorCode::readFailed: return qtTrId("StoreReadFailed");
     case StoreErrorCode::notCreated: return qtTrId("StoreNotCreated");
     case StoreErrorCode::tooLarge: return qtTrId("StoreTooLarge");
     case StoreErrorCode::notParsed: return qtTrId("StoreNotParsed");

@@ -8,6 +8,7 @@ namespace zel {
 
 enum class StoreErrorCode {
     notReadable,      ///< the file is not there or may not be read
+    readFailed,       ///< the file is there and may be read, but its disk does not give it out
     notCreated,       ///< there is none yet, and it could not be made
     tooLarge,         ///< above largestFile
     notParsed,        ///< its content is no well-formed XML, or its root is not ZEL

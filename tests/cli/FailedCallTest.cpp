@@ -2,6 +2,7 @@
 // then what was before or what the job makes of it; a job that failed says so, and the monitor keeps what is
 // not stored.
 #include "cli/CliTest.h"
+#include "support/BrokenFile.h"
 #include "support/FailingCalls.h"
 #include "support/FromEnvironment.h"
 
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <optional>
 
 namespace zel {
 
@@ -29,6 +31,7 @@ protected:
         const char* what;
         QStringList arguments;
         bool isFirstStart = false;
+        bool isBroken = false; ///< the disk gives nothing of the data file
     };
 
     [[nodiscard]] QString home() const { return folder.filePath(u"home"_s); }
@@ -68,6 +71,12 @@ protected:
     }
 
     [[nodiscard]] std::string held() { return zel({u"monitor"_s}).out; }
+
+    [[nodiscard]] Outcome run(const Job& job) {
+        std::optional<BrokenFile> broken;
+        if (job.isBroken) broken.emplace(dataFile());
+        return zel(job.arguments);
+    }
 
     void tryEachCall(const Job& job);
     void checkAfterwards(const Outcome& outcome, const Files& before, const Files& after);
@@ -118,7 +127,7 @@ void FailedCallTest::tryEachCall(const Job& job) {
     const unsigned stride = fromEnvironment("ZEL_CALL_STRIDE", 1); // 1: each call
     {
         const FailingCalls none(home(), 0);
-        const Outcome whole = zel(job.arguments);
+        const Outcome whole = run(job);
         ASSERT_EQ(whole.status, 0) << job.what << ": " << whole.err;
         calls = FailingCalls::count();
     }
@@ -131,7 +140,7 @@ void FailedCallTest::tryEachCall(const Job& job) {
             QByteArray call;
             {
                 const FailingCalls failing(home(), nth, error);
-                outcome = zel(job.arguments);
+                outcome = run(job);
                 call = FailingCalls::failed();
             }
             SCOPED_TRACE(job.what + (": call " + std::to_string(nth) + ", " + call.toStdString() + ", error ")
@@ -173,6 +182,8 @@ TEST_F(FailedCallTest, LeavesTheFilesAsTheyWereOrAsTheyShouldBe) {
          {u"report"_s, u"--patient=M1"_s, u"--section=table"_s, u"--output="_s + home() + u"/out/r.pdf"_s}});
     tryEachCall({"backup", {u"backup"_s, u"create"_s}});
     tryEachCall({"restore", {u"backup"_s, u"restore"_s, u"ZEL-2026-11-20.xml"_s}});
+    tryEachCall(
+        {"restore on a broken disk", {u"backup"_s, u"restore"_s, u"ZEL-2026-11-20.xml"_s}, false, true});
     stored = withoutReadings;
     tryEachCall({"download", {u"download"_s, u"--patient=M1"_s}});
     stored = "<ZEL><SystemSetting/></ZEL>";

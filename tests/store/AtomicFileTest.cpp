@@ -5,6 +5,7 @@
 #include "store/FileLock.h"
 #include "store/NewFile.h"
 #include "store/SecondFolder.h"
+#include "support/BrokenFile.h"
 #include "support/FullDisk.h"
 #include "support/ManualClock.h"
 
@@ -74,9 +75,11 @@ extern "C" int fstatfs(int handle, struct statfs* system) noexcept {
     return result;
 }
 
-/// In the library's place: a file on a share, where signals interrupt.
+/// In the library's place: a file on a share, where signals interrupt, or on a broken disk.
 extern "C" ssize_t read(int handle, void* bytes, size_t length) {
-    return isInterrupted() ? -1 : static_cast<ssize_t>(syscall(SYS_read, handle, bytes, length));
+    return isInterrupted() || zel::BrokenFile::failsFor(handle)
+               ? -1
+               : static_cast<ssize_t>(syscall(SYS_read, handle, bytes, length));
 }
 
 /// In the library's place: a disk whose folders cannot be flushed.

@@ -1,5 +1,7 @@
 #include "support/FailingCalls.h"
 
+#include "support/BrokenFile.h"
+
 #include <QFile>
 
 #include <array>
@@ -130,7 +132,9 @@ ZEL_OPENAT(openat64)
 ZEL_MKOSTEMP(mkostemp)
 ZEL_MKOSTEMP(mkostemp64)
 
-ssize_t read(int handle, void* buffer, std::size_t size) { return transfer("read", handle, buffer, size); }
+ssize_t read(int handle, void* buffer, std::size_t size) {
+    return zel::BrokenFile::failsFor(handle) ? -1 : transfer("read", handle, buffer, size);
+}
 ssize_t write(int handle, const void* buffer, std::size_t size) {
     return transfer("write", handle, buffer, size);
 }

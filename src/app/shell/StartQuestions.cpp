@@ -14,6 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The others are of a file that is only out of reach, or of a thing in its place.
+bool isDamage(StoreErrorCode code) {
+    using enum StoreErrorCode;
+    return code == notParsed || code == readFailed || code == tooLarge;
+}
+
 /// Of the copies beside the data file; where there is none, one of the second folder joins them.
 std::optional<Backup> newestReadable(const DataStore& store, const Clock& clock) {
     const Backups& backups = store.backups();
@@ -33,8 +39,7 @@ std::optional<Backup> newestReadable(const DataStore& store, const Clock& clock)
 
 void StartQuestions::offerBackup(const StoreError& damage) {
     const Backups& backups = parts.store.backups();
-    const auto copy =
-        damage.code == StoreErrorCode::notParsed ? newestReadable(parts.store, parts.clock) : std::nullopt;
+    const auto copy = isDamage(damage.code) ? newestReadable(parts.store, parts.clock) : std::nullopt;
     const auto content = copy ? backups.content(copy->name) : tl::unexpected{damage};
     const QString why = describe(damage);
     if (!content) return parts.panel.ShowMessage(why, qtTrId("dataFileUnreadable"));
