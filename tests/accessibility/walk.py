@@ -1,5 +1,6 @@
 """walk.py PROGRAM: goes through the program's windows over the accessibility bus, and tells what a screen reader or
 voice control would stumble over."""
+import json
 import os
 import subprocess
 import sys
@@ -23,6 +24,7 @@ WINDOWS = {  # what a menu opens: its title, and the button that closes it again
     ("Help", "Manual"): ("Manual", None),  # beside which one works on
 }
 MENUS = {"File": "Print …", "Edit": "Undo", "View": "Days shown", "Monitor": "Downloads …", "Help": "Keys"}  # what is in each
+DUMB = {"model": "41", "id": "DEMO1", "faults": [{"command": '"', "kind": "noAnswer"}]}  # so that its download goes on
 
 
 class Walk:
@@ -41,6 +43,11 @@ class Walk:
             subprocess.run([self.path, *words], env=dict(os.environ, HOME=home, LC_ALL="C.UTF-8"), check=True,
                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
+    def first(self, program):
+        program.find("label", "No patients yet: three steps to the first readings")
+        program.find("push button", "New patient with this ID")
+        self.look("no patient", program.window(MAIN))
+
     def tab(self, program, name):
         program.press("page tab", name)
         program.find("page tab", name, where=lambda tab: tab.has(State.SELECTED))
@@ -48,6 +55,7 @@ class Walk:
 
     def pages(self, program):
         program.find("text", "Family name")
+        program.find("push button", "Close")  # in the bar that says whose monitor has come
         self.look("Patients", program.window(MAIN))
         self.tab(program, "Readings")
         self.tab(program, "Chart")
@@ -113,24 +121,46 @@ class Walk:
         program.gone("Import patients")
 
     def dialogs(self, program):
-        """What the pages' buttons open."""
-        for page, button, title, close in (("Readings", "New Reading…", "New reading", "Cancel"),
-                                           ("Patients", "Delete", "", "")):
-            program.press("page tab", page)
-            before = [window.name for window in program.windows]
-            program.press("push button", button)
-            window = wait(lambda: next((w for w in program.windows if w.name not in before), None), f"what {button} opens")
-            self.look(f"{page}, {button}", window)
-            close = close or next(b.name for b in window.all("push button") if b.name in ("No", "Cancel"))
-            name = window.name
-            program.press("push button", close, window)
-            program.gone(name)
+        """What the pages' buttons, or a menu, open."""
+        self.opened(program, "Readings", "New Reading…")
+        table = program.find("table", "List of readings")
+        desk.Atspi.Table.add_row_selection(table.given.get_table_iface(), 0)
+        self.opened(program, "Readings", "Edit", "Leave Out…")
+        self.opened(program, "Patients", "Delete")
+        name = program.find("text", "Given name(s)")
+        known = name.text
+        name.write("Anna")
+        self.opened(program, "Patients", "New", told="Save the changes?")
+        name.write(known)
+
+    def opened(self, program, page, *way, told=""):
+        program.press("page tab", page)
+        known = [window.name for window in program.windows]
+        program.choose(*way) if len(way) > 1 else program.press("push button", *way)
+        window = wait(lambda: next((w for w in program.windows if w.name not in known), None), f"what {way[-1]} opens")
+        self.look(f"{page}, {way[-1]}", window)
+        if not any(told in label.name for label in window.all("label")):
+            raise desk.Fault(f"{window} does not say '{told}'")
+        name = window.name
+        program.press("push button", next(b.name for b in window.all("push button") if b.name in ("No", "Cancel")), window)
+        program.gone(name)
+
+    def downloading(self, program):
+        """What stands while the monitor sends; cancelled, it tells so."""
+        program.press("push button", "Download")
+        window = program.window("Download readings")
+        self.look("Download", window)
+        program.press("push button", "Cancel", window)
+        program.gone(window.name)
 
     def run(self):
         with tempfile.TemporaryDirectory() as home:
-            for steps in ([lambda p: self.look("no patient", p.window(MAIN))],
-                          [self.pages, self.quiet_zoom, self.dialogs, self.menus]):
-                program = desk.Program(self.path, home, "--simulated-monitor")
+            plan = f"{home}/dumb.json"
+            with open(plan, "w", encoding="utf-8") as file:
+                json.dump(DUMB, file)
+            for steps, monitor in (([self.first], ""), ([self.pages, self.quiet_zoom, self.dialogs, self.menus], ""),
+                                   ([self.downloading], f"={plan}")):
+                program = desk.Program(self.path, home, f"--simulated-monitor{monitor}")
                 try:
                     for each in steps:
                         each(program)
@@ -141,7 +171,7 @@ class Walk:
                     self.found[str(fault)] = "on the way"
                 finally:
                     program.process.kill()
-                if len(steps) == 1:
+                if steps == [self.first]:
                     self.fill(home)
         for wrong, where in self.found.items():
             print(f"{where}: {wrong}")

@@ -2,6 +2,7 @@
 
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
+#include "app/widgets/SeenName.h"
 #include "app/widgets/Style.h"
 #include "store/Text.h"
 
@@ -53,7 +54,7 @@ void ProgressWindowController::build() {
     barProgress->setAccessibleName(qtTrId("downloadProgress"));
     barProgress->setRange(0, 100);
     btnCancel->setObjectName(u"btnCancel"_s);
-    btnCancel->setAccessibleName(qtTrId("downloadCancel"));
+    nameAsSeen(*btnCancel, btnCancel->text(), qtTrId("downloadCancel"));
     auto* advice = new QuietLabel(qtTrId("downloadAdvice"), this);
     advice->setWordWrap(true);
 
