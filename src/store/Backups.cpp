@@ -187,7 +187,7 @@ Backups::Kept Backups::replaceCopied(const QByteArray& content) const {
 
 Backups::Kept Backups::replaceUnread(const QByteArray& content, const FileStamp& found) const {
     const QString kept = freeName(folder(), BackupKind::damaged, now());
-    return file.replaceUnread(content, path(kept), found).map([&kept] { return kept; });
+    return file.replaceUnread(content, path(kept), found).map([&kept] { return QString{kept}; });
 }
 
 } // namespace zel

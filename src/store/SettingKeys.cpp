@@ -20,7 +20,7 @@ QString numberText(const S& setting) {
 }
 
 template <auto Member>
-QString plainText(const S& setting) {
+QString asWritten(const S& setting) {
     return setting.*Member;
 }
 
@@ -43,7 +43,7 @@ QString oneOf(const QStringList& entries) {
 
 template <auto Member, QStringList (*Entries)()>
 constexpr SettingKey list(const char* name) {
-    return {name, plainText<Member>,
+    return {name, asWritten<Member>,
             [](S& setting, const QString& text) {
                 if (!Entries().contains(text)) return false;
                 setting.*Member = text;
@@ -80,7 +80,7 @@ constexpr std::array keys{
     zeroOrOne<&S::userWhoStandard>("UserWhoStandard"),
     limit<&S::sysStandard, systolicLimits>("SysStandard"),
     limit<&S::diaStandard, diastolicLimits>("DiaStandard"),
-    SettingKey{"PhysicianAddress", plainText<&S::physicianAddress>,
+    SettingKey{"PhysicianAddress", asWritten<&S::physicianAddress>,
                [](S& setting, const QString& text) {
                    if (!isTyped(text)) return false;
                    setting.physicianAddress = text;

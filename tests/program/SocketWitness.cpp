@@ -145,19 +145,20 @@ void openlog(const char* name, int options, int facility) {
     real<void(const char*, int, int)>("openlog")(name, options, facility);
 }
 
-void vsyslog(int priority, const char* format, va_list values) {
+__attribute__((format(printf, 2, 0))) void vsyslog(int priority, const char* format, va_list values) {
     note("syslog");
     real<void(int, const char*, va_list)>("vsyslog")(priority, format, values);
 }
 
-void syslog(int priority, const char* format, ...) {
+__attribute__((format(printf, 2, 3))) void syslog(int priority, const char* format, ...) {
     va_list values;
     va_start(values, format);
     vsyslog(priority, format, values);
     va_end(values);
 }
 
-void __syslog_chk(int priority, int, const char* format, ...) { // NOLINT: what a hardened build calls
+// NOLINTNEXTLINE: what a hardened build calls
+__attribute__((format(printf, 3, 4))) void __syslog_chk(int priority, int, const char* format, ...) {
     va_list values;
     va_start(values, format);
     vsyslog(priority, format, values);

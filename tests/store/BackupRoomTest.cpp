@@ -38,7 +38,7 @@ using namespace Qt::StringLiterals;
 const QString todaysCopy = u"ZEL-2026-11-21.xml"_s;
 const QStringList olderCopies{u"ZEL-2026-11-20.xml"_s, u"ZEL-2026-11-19.xml"_s, u"ZEL-2026-11-18.xml"_s};
 const QString byHand = u"ZEL-2026-11-01-080000.xml"_s;
-constexpr int olderSize = 20;
+constexpr qint64 olderSize = 20;
 
 /// A data file, three daily copies of before and a big one that was made by hand.
 struct BackupRoomTest : testing::Test {
