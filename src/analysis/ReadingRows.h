@@ -10,8 +10,7 @@ namespace zel {
 
 /// A row of the reading list: a reading, or a placeholder for a day that a comment covers and that has none.
 struct ReadingRow {
-    const ReadingModel* reading =
-        nullptr; ///< null for a placeholder; of the readings that the rows were made of
+    const ReadingModel* reading = nullptr; ///< null for a placeholder; of those that the rows were made of
     const CommentModel* comment = nullptr; ///< the comment that covers the row, or null; likewise
     Instant ReadingDate{};                 ///< the placeholder's, too
     DayNumber day = noDay;

@@ -113,8 +113,8 @@ public:
     }
 
 private:
-    static constexpr double beyond =
-        8; ///< a mark that begins so far above still reaches into sight, at a fifth of the size, too
+    /// A mark that begins so far above still reaches into sight, at a fifth of the size, too.
+    static constexpr double beyond = 8;
     double lowest;
     std::vector<int> rows;
 };

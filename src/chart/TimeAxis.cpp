@@ -1,11 +1,9 @@
 #include "chart/TimeAxis.h"
 
-#include <QFontMetricsF>
+#include "chart/TextWidths.h"
 
 #include <algorithm>
 #include <chrono>
-#include <map>
-#include <utility>
 #include <vector>
 
 namespace zel {
@@ -29,12 +27,8 @@ TextAttribute typeOf(bool bold) { return attribute(bold ? boldAttribute : plainA
 
 /// Measures each text once: there are a dozen names in a hundred years.
 TextWidth measured() {
-    return [widths = std::map<std::pair<QString, bool>, double>(),
-            plainType = QFontMetricsF(typeOf(false).font()),
-            boldType = QFontMetricsF(typeOf(true).font())](const QString& text, bool bold) mutable {
-        const auto [width, isNew] = widths.try_emplace({text, bold});
-        if (isNew) width->second = (bold ? boldType : plainType).horizontalAdvance(text);
-        return width->second;
+    return [widths = TextWidths()](const QString& text, bool bold) mutable {
+        return widths.of(text, typeOf(bold));
     };
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "chart/Picture.h"
+#include "chart/TextWidths.h"
 #include "report/ReportSource.h"
-#include "report/TextWidths.h"
 
 namespace zel {
 

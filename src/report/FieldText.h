@@ -2,7 +2,7 @@
 // Texts of any length in fields of a given width. The time taken does not grow with what is left out.
 
 #include "chart/Drawing.h"
-#include "report/TextWidths.h"
+#include "chart/TextWidths.h"
 
 #include <limits>
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "chart/Picture.h"
+#include "chart/TextWidths.h"
 #include "report/DrawComment.h"
 #include "report/DrawPatient.h"
 #include "report/LeftOutList.h"
 #include "report/PageFrame.h"
 #include "report/ReportSource.h"
 #include "report/Section.h"
-#include "report/TextWidths.h"
 
 #include <QPageSize>
 #include <QSizeF>

@@ -123,10 +123,7 @@ StoreResult DataStore::takeChanges() {
     }
     lastSeen = now;
     take(std::move(*read));
-    loaded = {};
-    emit reloaded();
-    takeViewLimits();
-    return {};
+    return tellLoaded({});
 }
 
 void DataStore::take(Records read) {

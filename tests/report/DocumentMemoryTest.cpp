@@ -3,9 +3,9 @@
 #include "SampleReport.h"
 #include "chart/Drawing.h"
 #include "chart/PicturePainter.h"
+#include "chart/TextWidths.h"
 #include "report/ReportDocument.h"
 #include "report/ReportPainter.h"
-#include "report/TextWidths.h"
 
 #include <QBuffer>
 #include <QImage>

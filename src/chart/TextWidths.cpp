@@ -1,4 +1,4 @@
-#include "report/TextWidths.h"
+#include "chart/TextWidths.h"
 
 #include "chart/Drawing.h"
 
