@@ -440,6 +440,8 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="fileNotImportable"><translation>nicht importierbar</translation></message>
     <message id="fileNotReadable"><translation>nicht lesbar</translation></message>
     <message id="fileTooLargeToCount"><translation>über 64 MiB: nicht gezählt</translation></message>
+    <message id="firstCopy"><translation>Eine Sicherung früherer Daten ist vorhanden: %1 (%2). Falls die Datendatei verloren ging, kehren Sie zu ihr zurück.</translation></message>
+    <message id="firstCopyButton"><translation>Zu einer Sicherung zurückkehren …</translation></message>
     <message id="firstStepDownload"><translation>Drücken Sie „Auslesen“. Die Messungen erscheinen in Diagramm und Tabelle.</translation></message>
     <message id="firstStepMonitor"><translation>Schließen Sie das Messgerät mit seinem USB-Kabel an. Ist die ID dieses Patienten noch nicht darin gespeichert, drücken Sie „ID senden“.</translation></message>
     <message id="firstStepPatient"><translation>Legen Sie den Patienten an, dessen Blutdruck das Messgerät misst, geben Sie ihm eine ID und drücken Sie „Speichern“.</translation></message>
@@ -1098,6 +1100,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliColumnsHelp"><translation>Bei der Tabelle eines anderen Programms gibt --columns an, was ihre Spalten enthalten.</translation></message>
     <message id="CliCountUnread"><translation>Die Anzahl der Messungen im Messgerät konnte nicht gelesen werden. %1</translation></message>
     <message id="CliDatesForm"><translation>Zulässig für --dates: dmy, mdy oder ymd; nicht '%1'.</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>Diese Daten gehören zu einer Demonstration und nehmen keine Messungen eines echten Messgeräts auf. Geben Sie --simulated-monitor an.</translation></message>
     <message id="CliDownloadFailed"><translation>Die Messungen konnten nicht ausgelesen werden, und es wurde nichts gespeichert. %1 Sie sind weiterhin im Messgerät: Bitte versuchen Sie es noch einmal.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Die Messungen sind gespeichert, aber die Datendatei konnte anschließend nicht gelesen werden; das Messgerät wurde deshalb nicht geleert. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Die ausgelesenen Messungen konnten nicht gespeichert werden. %1 Sie sind weiterhin im Messgerät.</translation></message>

@@ -440,6 +440,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="fileNotImportable"><translation>cannot be imported</translation></message>
     <message id="fileNotReadable"><translation>not readable</translation></message>
     <message id="fileTooLargeToCount"><translation>above 64 MiB: not counted</translation></message>
+    <message id="firstCopy"><translation>A copy of earlier data is there: %1, with %2. If the data file was lost, go back to it.</translation></message>
+    <message id="firstCopyButton"><translation>Go back to a copy …</translation></message>
     <message id="firstStepDownload"><translation>Press Download. The readings appear in chart and table.</translation></message>
     <message id="firstStepMonitor"><translation>Connect the monitor with its USB cable. If it does not hold this patient’s ID yet, press “Send ID”.</translation></message>
     <message id="firstStepPatient"><translation>Enter the patient whose blood pressure the monitor measures, with an ID, and press Save.</translation></message>
@@ -1098,6 +1100,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliColumnsHelp"><translation>For another program’s table, --columns says what its columns are.</translation></message>
     <message id="CliCountUnread"><translation>The number of readings in the monitor could not be read. %1</translation></message>
     <message id="CliDatesForm"><translation>--dates takes dmy, mdy or ymd, not '%1'.</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>These data are a demonstration’s, and take no readings from a real monitor. Give --simulated-monitor.</translation></message>
     <message id="CliDownloadFailed"><translation>The readings could not be downloaded, and nothing was stored. %1 They are still in the monitor: please try again.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>The readings are stored, but the data file could not be read afterwards, so that the monitor was not erased. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>The downloaded readings could not be stored. %1 They are still in the monitor.</translation></message>

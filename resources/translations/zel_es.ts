@@ -440,6 +440,8 @@ mmHg</translation></message>
     <message id="fileNotImportable"><translation>no se puede importar</translation></message>
     <message id="fileNotReadable"><translation>no legible</translation></message>
     <message id="fileTooLargeToCount"><translation>más de 64 MiB: sin contar</translation></message>
+    <message id="firstCopy"><translation>Hay una copia de datos anteriores: %1, con %2. Si se perdió el archivo de datos, vuelva a ella.</translation></message>
+    <message id="firstCopyButton"><translation>Volver a una copia…</translation></message>
     <message id="firstStepDownload"><translation>Pulse «Descargar». Las mediciones aparecen en el gráfico y en la tabla.</translation></message>
     <message id="firstStepMonitor"><translation>Conecte el tensiómetro con su cable USB. Si aún no tiene el ID de este paciente, pulse «Enviar ID».</translation></message>
     <message id="firstStepPatient"><translation>Introduzca los datos y el ID del paciente cuya presión arterial mide el tensiómetro y pulse «Guardar».</translation></message>
@@ -1098,6 +1100,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliColumnsHelp"><translation>Para la tabla de otro programa, --columns indica qué contiene cada columna.</translation></message>
     <message id="CliCountUnread"><translation>No se ha podido leer el número de mediciones del tensiómetro. %1</translation></message>
     <message id="CliDatesForm"><translation>--dates admite dmy, mdy o ymd, no '%1'.</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>Estos datos son de una demostración y no admiten mediciones de un tensiómetro real. Indique --simulated-monitor.</translation></message>
     <message id="CliDownloadFailed"><translation>No se han podido descargar las mediciones y no se ha guardado nada. %1 Siguen en el tensiómetro: vuelva a intentarlo.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Las mediciones se han guardado, pero después no se ha podido leer el archivo de datos, así que no se ha vaciado la memoria del tensiómetro. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>No se han podido guardar las mediciones descargadas. %1 Siguen en el tensiómetro.</translation></message>

@@ -440,6 +440,8 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="fileNotImportable"><translation>non importable</translation></message>
     <message id="fileNotReadable"><translation>illisible</translation></message>
     <message id="fileTooLargeToCount"><translation>plus de 64 Mio : non compté</translation></message>
+    <message id="firstCopy"><translation>Une copie de données antérieures existe : %1, avec %2. Si le fichier de données a été perdu, revenez-y.</translation></message>
+    <message id="firstCopyButton"><translation>Revenir à une copie…</translation></message>
     <message id="firstStepDownload"><translation>Cliquez sur « Transférer ». Les mesures apparaissent dans le graphique et le tableau.</translation></message>
     <message id="firstStepMonitor"><translation>Branchez le tensiomètre avec son câble USB. S’il ne contient pas encore l’ID de ce patient, cliquez sur « Envoyer l’ID ».</translation></message>
     <message id="firstStepPatient"><translation>Ajoutez le patient dont le tensiomètre mesure la pression artérielle, attribuez-lui un ID et cliquez sur « Enregistrer ».</translation></message>
@@ -1098,6 +1100,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliColumnsHelp"><translation>Pour le tableau d’un autre programme, --columns indique ce que contiennent ses colonnes.</translation></message>
     <message id="CliCountUnread"><translation>Le nombre de mesures dans le tensiomètre n’a pas pu être lu. %1</translation></message>
     <message id="CliDatesForm"><translation>--dates accepte dmy, mdy ou ymd, et non '%1'.</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>Ces données sont celles d’une démonstration et ne reçoivent aucune mesure d’un vrai tensiomètre. Indiquez --simulated-monitor.</translation></message>
     <message id="CliDownloadFailed"><translation>Les mesures n’ont pas pu être transférées, et rien n’a été enregistré. %1 Elles sont toujours dans le tensiomètre : veuillez réessayer.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Les mesures sont enregistrées, mais le fichier de données n’a pas pu être relu ensuite ; le tensiomètre n’a donc pas été vidé. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Les mesures transférées n’ont pas pu être enregistrées. %1 Elles sont toujours dans le tensiomètre.</translation></message>

@@ -440,6 +440,8 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="fileNotImportable"><translation>non importabile</translation></message>
     <message id="fileNotReadable"><translation>non leggibile</translation></message>
     <message id="fileTooLargeToCount"><translation>oltre 64 MiB: non contato</translation></message>
+    <message id="firstCopy"><translation>C’è una copia di dati precedenti: %1, con %2. Se il file dei dati è andato perso, ripristinarla.</translation></message>
+    <message id="firstCopyButton"><translation>Ripristina una copia…</translation></message>
     <message id="firstStepDownload"><translation>Premere Scarica. Le misurazioni compaiono nel grafico e nella tabella.</translation></message>
     <message id="firstStepMonitor"><translation>Collegare il misuratore con il suo cavo USB. Se non contiene ancora l’ID di questo paziente, premere “Invia ID”.</translation></message>
     <message id="firstStepPatient"><translation>Aggiungere il paziente di cui il misuratore rileva la pressione, assegnargli un ID e premere Salva.</translation></message>
@@ -1098,6 +1100,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliColumnsHelp"><translation>Per la tabella di un altro programma, --columns indica che cosa contengono le sue colonne.</translation></message>
     <message id="CliCountUnread"><translation>Impossibile leggere il numero di misurazioni nel misuratore. %1</translation></message>
     <message id="CliDatesForm"><translation>--dates accetta dmy, mdy o ymd, non '%1'.</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>Questi dati appartengono a una dimostrazione e non accolgono misurazioni di un misuratore vero. Indicare --simulated-monitor.</translation></message>
     <message id="CliDownloadFailed"><translation>Impossibile scaricare le misurazioni; non è stato registrato nulla. %1 Le misurazioni sono ancora nel misuratore: riprovare.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Le misurazioni sono registrate, ma non è stato poi possibile rileggere il file dei dati, perciò la memoria del misuratore non è stata cancellata. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Impossibile registrare le misurazioni scaricate. %1 Sono ancora nel misuratore.</translation></message>

@@ -440,6 +440,8 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="fileNotImportable"><translation>nie można zaimportować</translation></message>
     <message id="fileNotReadable"><translation>nieczytelny</translation></message>
     <message id="fileTooLargeToCount"><translation>&gt; 64 MiB: nie policzono</translation></message>
+    <message id="firstCopy"><translation>Istnieje kopia wcześniejszych danych: %1 (%2). Jeśli plik danych zaginął, można do niej wrócić.</translation></message>
+    <message id="firstCopyButton"><translation>Wróć do kopii…</translation></message>
     <message id="firstStepDownload"><translation>Proszę nacisnąć „Pobierz”. Pomiary pojawią się na wykresie i w tabeli.</translation></message>
     <message id="firstStepMonitor"><translation>Proszę podłączyć ciśnieniomierz kablem USB. Jeśli nie ma on jeszcze ID tego pacjenta, proszę nacisnąć „Wyślij ID”.</translation></message>
     <message id="firstStepPatient"><translation>Proszę wpisać dane pacjenta, który korzysta z ciśnieniomierza, nadać mu ID i nacisnąć „Zapisz”.</translation></message>
@@ -1098,6 +1100,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliColumnsHelp"><translation>Dla tabeli z innego programu opcja --columns podaje, czym są jej kolumny.</translation></message>
     <message id="CliCountUnread"><translation>Nie udało się odczytać liczby pomiarów w ciśnieniomierzu. %1</translation></message>
     <message id="CliDatesForm"><translation>Opcja --dates przyjmuje dmy, mdy lub ymd, a nie „%1”.</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>To dane demonstracyjne, do których nie trafiają pomiary z prawdziwego ciśnieniomierza. Podaj --simulated-monitor.</translation></message>
     <message id="CliDownloadFailed"><translation>Nie udało się pobrać pomiarów i niczego nie zapisano. %1 Są one nadal w ciśnieniomierzu: proszę spróbować ponownie.</translation></message>
     <message id="CliDownloadNotReadBack"><translation>Pomiary zapisano, ale potem nie udało się odczytać pliku danych, dlatego nie wymazano pamięci ciśnieniomierza. %1</translation></message>
     <message id="CliDownloadUnsaved"><translation>Nie udało się zapisać pobranych pomiarów. %1 Są one nadal w ciśnieniomierzu.</translation></message>

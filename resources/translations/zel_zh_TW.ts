@@ -440,6 +440,8 @@ mmHg</translation></message>
     <message id="fileNotImportable"><translation>無法匯入</translation></message>
     <message id="fileNotReadable"><translation>無法讀取</translation></message>
     <message id="fileTooLargeToCount"><translation>超過 64 MiB，未計算</translation></message>
+    <message id="firstCopy"><translation>有一份先前資料的備份：%1，內容為 %2。若資料檔遺失，可還原到這份備份。</translation></message>
+    <message id="firstCopyButton"><translation>還原到備份…</translation></message>
     <message id="firstStepDownload"><translation>請按「下載」。量測會顯示在圖表與表格中。</translation></message>
     <message id="firstStepMonitor"><translation>請以 USB 線連接血壓計。如果血壓計尚未存有這位病患的 ID，請按「傳送 ID」。</translation></message>
     <message id="firstStepPatient"><translation>請輸入使用血壓計的病患資料與 ID，然後按「儲存」。</translation></message>
@@ -1098,6 +1100,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliColumnsHelp"><translation>若是其他程式的表格，請用 --columns 指定各欄的意義。</translation></message>
     <message id="CliCountUnread"><translation>無法讀取血壓計中的量測筆數。%1</translation></message>
     <message id="CliDatesForm"><translation>--dates 可為 dmy、mdy 或 ymd，不可為「%1」。</translation></message>
+    <message id="CliDemonstrationMonitor"><translation>這是示範資料，不接受真實血壓計的量測。請加上 --simulated-monitor。</translation></message>
     <message id="CliDownloadFailed"><translation>無法下載量測，未儲存任何資料。%1量測仍在血壓計中，請再試一次。</translation></message>
     <message id="CliDownloadNotReadBack"><translation>量測已儲存，但之後無法讀取資料檔，因此未清空血壓計。%1</translation></message>
     <message id="CliDownloadUnsaved"><translation>無法儲存下載的量測。%1量測仍在血壓計中。</translation></message>

@@ -71,6 +71,9 @@ CommandResult runDownload(const Request& request, Surroundings& around) {
     const OpenedStore store = openStoreForWriting(around);
     if (!store) return tl::unexpected(store.error());
     if (CommandResult known = checkPatient(**store, *ID); !known) return known;
+    // A person's readings would be among invented ones, and the monitor might be emptied behind them.
+    if ((*store)->isDemonstration() && !request.simulatedMonitor)
+        return failed(qtTrId("CliDemonstrationMonitor"));
     const auto connection = waitForMonitor(request, *wait, around);
     if (!connection) return tl::unexpected(connection.error());
     const auto monitorID = checkMonitorID(*connection->model, request, *ID);

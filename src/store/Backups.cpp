@@ -96,9 +96,9 @@ tl::expected<BackupContent, StoreError> Backups::content(const QString& name) co
     return contentOfCopy(path(name));
 }
 
-std::optional<Backup> Backups::newestReadable() const {
+std::optional<Backup> Backups::newest(std::size_t patients) const {
     for (const Backup& copy : list())
-        if (content(copy.name)) return copy;
+        if (const auto held = content(copy.name); held && held->patients >= patients) return copy;
     return std::nullopt;
 }
 

@@ -26,8 +26,8 @@ public:
     [[nodiscard]] std::vector<Backup> list() const;
     /// As for the data file itself; other errors when the copy cannot be read.
     [[nodiscard]] tl::expected<BackupContent, StoreError> content(const QString& name) const;
-    /// The newest one that can be read; none if there is none.
-    [[nodiscard]] std::optional<Backup> newestReadable() const;
+    /// The newest one that can be read and holds at least so many patients; none if there is none.
+    [[nodiscard]] std::optional<Backup> newest(std::size_t patients = 0) const;
 
     /// Removes what killed programs left in the folder.
     void removeDead() const;

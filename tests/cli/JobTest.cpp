@@ -2,6 +2,7 @@
 #include "support/DamageAfterWrite.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace zel {
 
@@ -154,6 +155,14 @@ TEST_F(JobTest, AnotherPatientsMonitorIsRefusedUnlessAskedFor) {
 
     plug(QByteArray(planM1).replace("\"M1\"", "\"\""));
     EXPECT_THAT(zel(download).err, HasSubstr("holds no ID"));
+}
+
+TEST_F(JobTest, RealMonitorsReadingsDoNotGoAmongInventedOnes) {
+    QFile mark(QFileInfo(dataFile()).path() + u"/Demonstration"_s);
+    ASSERT_TRUE(mark.open(QIODevice::WriteOnly));
+    plug(planM1);
+    expectRefused(zel(downloadM1 + QStringList{u"--any-monitor"_s}), "take no readings from a real monitor");
+    EXPECT_EQ(zelWith(planM1, downloadM1).status, 0) << "a simulated one is what they are for";
 }
 
 TEST_F(JobTest, MonitorIsEmptiedOnlyWhenTheSettingsSaySo) {

@@ -12,7 +12,8 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 FirstSteps::FirstSteps(const MonitorStatus& monitorStatus, bool offersDemonstration, QWidget* parent)
-    : QWidget(parent), status(monitorStatus), lblMonitor(new QuietLabel({}, this)) {
+    : QWidget(parent), status(monitorStatus), lblMonitor(new QuietLabel({}, this)),
+      copyNote(makeCopyNote()) {
     setObjectName(u"firstSteps"_s);
     setAccessibleName(qtTrId("firstSteps"));
     lblMonitor->setObjectName(u"lblFirstMonitor"_s);
@@ -32,6 +33,7 @@ FirstSteps::FirstSteps(const MonitorStatus& monitorStatus, bool offersDemonstrat
     column->setContentsMargins(0, Style::near, 0, Style::near);
     column->setSpacing(Style::edge);
     column->addStretch(1);
+    column->addWidget(copyNote);
     column->addWidget(heading);
     column->addLayout(grid);
     if (offersDemonstration) column->addWidget(makeDemonstration());
@@ -76,6 +78,28 @@ QWidget* FirstSteps::makeDemonstration() {
     column->addWidget(button, 0, Qt::AlignLeft);
     column->addWidget(note);
     return part;
+}
+
+QWidget* FirstSteps::makeCopyNote() {
+    auto* part = new QWidget(this);
+    lblCopy = new QLabel(part);
+    lblCopy->setObjectName(u"lblFirstCopy"_s);
+    lblCopy->setWordWrap(true);
+    lblCopy->setTextFormat(Qt::PlainText);
+    auto* button = makeButton(u"btnFirstBackups"_s, qtTrId("firstCopyButton"));
+    connect(button, &QPushButton::clicked, this, &FirstSteps::backupsWanted);
+    auto* column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, Style::apart);
+    column->setSpacing(Style::tight);
+    column->addWidget(lblCopy);
+    column->addWidget(button, 0, Qt::AlignLeft);
+    part->hide();
+    return part;
+}
+
+void FirstSteps::tellCopy(const QString& name, const QString& holds) {
+    copyNote->setVisible(!name.isEmpty());
+    lblCopy->setText(qtTrId("firstCopy").arg(name, holds));
 }
 
 void FirstSteps::showMonitor() {

@@ -37,6 +37,7 @@ PatientViewController::PatientViewController(const Parts& needed)
     connect(&parts.status, &MonitorStatus::changed, this, &PatientViewController::enableButtons);
     connect(firstSteps, &FirstSteps::newWanted, this, &PatientViewController::btnNewPatient);
     connect(firstSteps, &FirstSteps::demonstrationWanted, this, &PatientViewController::demonstrationWanted);
+    connect(firstSteps, &FirstSteps::backupsWanted, this, &PatientViewController::backupsWanted);
     connect(editor, &PatientEditor::changed, this, [this] { buttons->enableSave(isEdited()); });
     connect(sender, &PatientIDSender::sent, this, &PatientViewController::updateUIWanted);
     // A question is asked when the click or key that chose the patient is over, not in its midst.
@@ -119,6 +120,7 @@ void PatientViewController::reload() {
     noPatients->setTexts(why, store.lastLoad() ? why : describe(store.lastLoad().error()));
     roster->reload(newPatient.has_value());
     const auto& patients = store.getPatientArray();
+    if (store.lastLoad() && patients.empty()) tellCopy();
     const QString first = patients.empty() ? QString() : patients.front().ID;
     const QString instead = newPatient ? u"-"_s : first;
     if (store.validIDinXML(toldGone)) toldGone = QString();
@@ -129,6 +131,14 @@ void PatientViewController::reload() {
     if (isOther) leaveEditor();
     emit rosterChanged(!patients.empty());
     tellIfGone();
+}
+
+/// An empty data file may be one that was made anew since the other was lost.
+void PatientViewController::tellCopy() {
+    const auto copy = store.backups().newest(1);
+    const auto content = copy ? store.backups().content(copy->name) : BackupContent{};
+    if (!copy || !content) return firstSteps->tellCopy({}, {});
+    firstSteps->tellCopy(copy->name, describe(*content, std::as_const(store).getSetting().shownDateFormat()));
 }
 
 /// Without anything typed, so that another one takes the place.

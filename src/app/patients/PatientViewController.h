@@ -64,6 +64,7 @@ public:
 signals:
     void dataTransferWanted();
     void demonstrationWanted();
+    void backupsWanted();
     void updateUIWanted(); ///< the monitor's ID has been changed
     void rosterChanged(bool hasPatients);
     void said(const QString& text); ///< what has been done
@@ -91,6 +92,7 @@ private:
     [[nodiscard]] bool isNewOne(const QString& ID) const;
     [[nodiscard]] bool isGone(const QString& ID) const;
     void tellIfGone();
+    void tellCopy();
     [[nodiscard]] bool isShownGone() const;
     void leaveEditor();
     void forget();

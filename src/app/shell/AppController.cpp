@@ -88,6 +88,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::demonstrationWanted, this,
             &AppController::startDemonstration);
+    connect(patientPage, &PatientViewController::backupsWanted, this, &AppController::showBackups);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
     connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);

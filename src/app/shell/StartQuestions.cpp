@@ -23,7 +23,7 @@ bool isDamage(StoreErrorCode code) {
 /// Of the copies beside the data file; where there is none, one of the second folder joins them.
 std::optional<Backup> newestReadable(const DataStore& store, const Clock& clock) {
     const Backups& backups = store.backups();
-    if (auto near = backups.newestReadable()) return near;
+    if (auto near = backups.newest()) return near;
     const auto second = secondFolder(store.getZELXMLPath()).value_or(std::nullopt);
     if (!second) return std::nullopt;
     for (const Backup& copy : second->list()) {

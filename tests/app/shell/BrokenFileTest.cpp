@@ -4,6 +4,7 @@
 #include "AppTest.h"
 #include "store/AtomicFile.h"
 
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 
@@ -65,6 +66,34 @@ TEST_F(BrokenFileTest, aDataFileThatIsOnlyOutOfReachIsToldAndLeftAlone) {
         EXPECT_EQ(panel.messages.size(), 1);
         ASSERT_TRUE(isFolder ? QDir().rmdir(path) : QFile::remove(path));
     }
+}
+
+TEST_F(BrokenFileTest, whereTheDataFileIsGoneTheCopyWithPatientsIsAWordAway) {
+    const QByteArray whole = dataFile();
+    ASSERT_TRUE(QFile::remove(store.getZELXMLPath()));
+    loaded = store.load(); // makes an empty one
+    ASSERT_TRUE(store.backups().create()) << "a newer copy, of nobody";
+    start();
+    EXPECT_TRUE(panel.questions.isEmpty()) << "nobody is held up";
+    EXPECT_TRUE(text("lblFirstCopy").contains(qtTrId("BackupPatients", 1)));
+    click("btnFirstBackups");
+    auto& dialog = find<QDialog>("BackupDialog");
+    EXPECT_TRUE(dialog.isVisible());
+    dialog.close();
+    ASSERT_TRUE(store.restoreBackup(store.backups().newest(1)->name));
+    EXPECT_EQ(dataFile(), whole);
+    EXPECT_FALSE(page("firstSteps").isVisible());
+}
+
+TEST_F(BrokenFileTest, whereNoCopyHoldsAnybodyNoneIsSpokenOf) {
+    ASSERT_TRUE(QDir(store.backups().folder()).removeRecursively());
+    ASSERT_TRUE(store.deleteXMLPatient(u"P1"_s));
+    ASSERT_TRUE(QDir(store.backups().folder()).removeRecursively());
+    ASSERT_TRUE(store.backups().create());
+    loaded = store.loadXML();
+    start();
+    EXPECT_TRUE(page("firstSteps").isVisible());
+    EXPECT_FALSE(page("btnFirstBackups").isVisible());
 }
 
 } // namespace
