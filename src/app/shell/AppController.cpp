@@ -5,15 +5,10 @@
 #include "app/frame/PeriodFollower.h"
 #include "app/graph/GraphViewController.h"
 #include "app/patients/PatientViewController.h"
-#include "app/printing/PrintController.h"
 #include "app/settings/BackupCourier.h"
-#include "app/settings/BackupDialog.h"
-#include "app/settings/ExportController.h"
-#include "app/settings/SettingController.h"
 #include "app/shell/ContextMenus.h"
 #include "app/shell/Demonstration.h"
 #include "app/shell/FileDrop.h"
-#include "app/shell/HelpWindow.h"
 #include "app/shell/MenuDialogs.h"
 #include "app/shell/MonitorOffers.h"
 #include "app/shell/PageMenus.h"
@@ -21,23 +16,20 @@
 #include "app/shell/UndoController.h"
 #include "app/shell/UnsavedFile.h"
 #include "app/shell/ViewKeeper.h"
+#include "app/shell/WindowDialogs.h"
 #include "app/shell/WindowPlacement.h"
 #include "app/table/TableViewController.h"
 #include "app/widgets/Log.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QScreen>
 #include <QShortcut>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <tuple>
 #include <utility>
 
 namespace zel {
-
-using namespace Qt::StringLiterals;
 
 AppController::AppController(const Parts& needed, const Timing& times)
     : parts(needed), timing(times), window(needed.store, needed.status),
@@ -53,15 +45,10 @@ AppController::AppController(const Parts& needed, const Timing& times)
       unsaved({needed.store, needed.panel, pages, [this] { return isClosing; }}) {
     for (PageController* page : pages)
         window.addPage(*page);
+    courier = new BackupCourier(needed.store, needed.clock, this);
+    makeDialogs();
     makePageMenus();
     connect(&window, &MainWindow::tabWanted, this, &AppController::changeTab);
-    connect(&window, &MainWindow::settingWanted, this, &AppController::showSetting);
-    connect(&window, &MainWindow::backupsWanted, this, &AppController::showBackups);
-    connect(&window, &MainWindow::printWanted, this, &AppController::showPrint);
-    connect(&window, &MainWindow::pdfWanted, this, &AppController::showSavePdf);
-    connect(&window, &MainWindow::fhirWanted, this, &AppController::exportFhir);
-    connect(&window, &MainWindow::helpWanted, this, &AppController::showHelp);
-    connect(&window, &MainWindow::aboutWanted, this, &AppController::showAbout);
     connect(&window, &MainWindow::closeWanted, this, &AppController::closeApplicaiton);
     connect(&parts.store, &DataStore::currentIDChanged, this, [this] { window.showOutcome({}); });
     connect(&questions, &StartQuestions::restored, this, &AppController::showRestored);
@@ -72,7 +59,6 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(&window, &MainWindow::redoWanted, undoer, &UndoController::redo);
     connect(undoer, &UndoController::retraced, this, &AppController::showStep);
     connect(undoer, &UndoController::said, &window, &MainWindow::showOutcome);
-    courier = new BackupCourier(parts.store, parts.clock, this);
     connect(courier, &BackupCourier::failed, this, [this](const QString& why) {
         parts.panel.interject(this, [this, why] { parts.panel.ShowMessage(why, qtTrId("Warning")); });
     });
@@ -88,7 +74,7 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::dataTransferWanted, this, &AppController::dataTransfer);
     connect(patientPage, &PatientViewController::demonstrationWanted, this,
             &AppController::startDemonstration);
-    connect(patientPage, &PatientViewController::backupsWanted, this, &AppController::showBackups);
+    connect(patientPage, &PatientViewController::backupsWanted, dialogs, &WindowDialogs::showBackups);
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
     connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);
@@ -102,12 +88,22 @@ AppController::AppController(const Parts& needed, const Timing& times)
             &AppController::savePatient);
 }
 
+void AppController::makeDialogs() {
+    dialogs = new WindowDialogs({parts.store, parts.status, parts.monitor, parts.panel, parts.clock,
+                                 parts.chooser, parts.period, parts.printers, parts.openDocument,
+                                 parts.languageFile, *courier, *patientPage, *graphPage, *tablePage},
+                                window);
+    connect(dialogs, &WindowDialogs::settingsChanged, this, &AppController::UpdateUIBySetting);
+    connect(dialogs, &WindowDialogs::imported, this, &AppController::reload);
+    connect(dialogs, &WindowDialogs::restored, this, &AppController::showRestored);
+}
+
 void AppController::makePageMenus() {
     QMenuBar& bar = *window.menuBar();
     const auto* menus = new PageMenus(window, bar);
-    auto* dialogs = new MenuDialogs(parts.store, *menus, bar, &window);
-    connect(dialogs, &MenuDialogs::manualWanted, this, &AppController::showHelp);
-    new ContextMenus(window, {dialogs->downloads()});
+    auto* inMenus = new MenuDialogs(parts.store, *menus, bar, &window);
+    connect(inMenus, &MenuDialogs::manualWanted, dialogs, &WindowDialogs::showHelp);
+    new ContextMenus(window, {inMenus->downloads()});
 }
 
 void AppController::connectDataWatch() {
@@ -260,78 +256,11 @@ PageController& AppController::pageInView() const {
     return *pages.at(static_cast<std::size_t>(window.pageInView()));
 }
 
-void AppController::checkToSaveComment() { pageInView().checkToSaveComment(); }
+void AppController::showSetting() { dialogs->showSetting(); }
 
-void AppController::showSetting() {
-    checkToSaveComment();
-    if (!settings) {
-        settings =
-            new SettingController({parts.store, parts.status, parts.monitor, parts.panel, parts.chooser,
-                                   parts.languageFile, [this] { return pageInView().readyToPrint(); }},
-                                  &window);
-        connect(settings, &SettingController::finished, this, &AppController::UpdateUIBySetting);
-        connect(settings, &SettingController::imported, this, &AppController::reload);
-    }
-    settings->showSetting();
-}
+void AppController::showPrint() { dialogs->showPrint(); }
 
-/// What is typed is settled first: a copy's patients are others.
-void AppController::showBackups() {
-    if (!graphPage->leave() || !tablePage->leave() || !patientPage->settle()) return;
-    if (!backupDialog) {
-        backupDialog =
-            new BackupDialog({parts.store, parts.panel, parts.chooser, *courier, parts.clock}, &window);
-        connect(backupDialog, &BackupDialog::restored, this, &AppController::showRestored);
-    }
-    backupDialog->showBackups();
-}
-
-void AppController::showPrint() { showPrintPreview(PrintPurpose::printer); }
-
-void AppController::showSavePdf() { showPrintPreview(PrintPurpose::pdf); }
-
-void AppController::showPrintPreview(PrintPurpose purpose) {
-    if (!pageInView().readyToPrint()) return;
-    if (!printController) {
-        printController = new PrintController(
-            {parts.store, parts.period, parts.clock, parts.panel, parts.chooser, parts.printers}, &window);
-        connect(printController, &PrintController::said, &window, &MainWindow::showOutcome);
-    }
-    ScreenViews views{.drawViewState = graphPage->drawViewState(),
-                      .getShowMam = tablePage->getShowMam(),
-                      .getShowPad = tablePage->getShowPad(),
-                      .isMonitorAFib = parts.status.state().isAFib,
-                      .trendApart = graphPage->isTrendApart()};
-    graphPage->setupDrawChart(views.lowerChart, views.bloodChart);
-    printController->showPrintPreview(window.pageInView(), views, purpose);
-}
-
-void AppController::exportFhir() {
-    if (!exporter)
-        exporter = new ExportController(
-            {parts.store, parts.panel, parts.chooser, [this] { return pageInView().readyToPrint(); }},
-            &window);
-    exporter->exportFhir(parts.period.getWeekRule());
-}
-
-void AppController::showHelp() {
-    checkToSaveComment();
-    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    const QString path = unpackHelp(manualResource(u":/help%1.pdf"_s), cache);
-    qCInfo(lcApp, "showHelp %s", qUtf8Printable(path));
-    if (!path.isEmpty() && parts.openDocument(path)) return;
-    if (!helpWindow) helpWindow = new HelpWindow(&window);
-    helpWindow->show();
-    helpWindow->activateWindow();
-}
-
-void AppController::showAbout() {
-    const QStringList lines{qtTrId("programPurpose"),
-                            qtTrId("programVersion").arg(QLatin1String(ZEL_VERSION)),
-                            qtTrId("aboutData").arg(QDir::toNativeSeparators(parts.store.getZELXMLPath())),
-                            qtTrId("aboutLicence")};
-    parts.panel.ShowMessage(lines.join(u"\n\n"_s), qtTrId("programName"));
-}
+void AppController::showHelp() { dialogs->showHelp(); }
 
 void AppController::reload() {
     if (const StoreResult read = parts.store.loadXML(); !read)
@@ -341,7 +270,7 @@ void AppController::reload() {
 /// Unless the user did it: took a step back, or went back to a copy. A page with a comment typed tells it
 /// itself.
 void AppController::tellReplaced(const QString& name) {
-    if (undoer->isRetracing() || (backupDialog && backupDialog->isVisible()) || isEdited()) return;
+    if (undoer->isRetracing() || dialogs->isShowingBackups() || isEdited()) return;
     const QString told = qtTrId("patientReplaced").arg(name);
     parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }

@@ -21,23 +21,18 @@
 namespace zel {
 
 class BackupCourier;
-class BackupDialog;
-class ExportController;
 class GraphViewController;
-class HelpWindow;
 class MonitorOffers;
 class PatientViewController;
 class PeriodFollower;
-class PrintController;
 class ProgressWindowController;
-class SettingController;
 class SplashWindow;
 class TableViewController;
 class UndoController;
 class ViewKeeper;
 class ViewMemory;
+class WindowDialogs;
 struct StepName;
-enum class PrintPurpose;
 struct DownloadOutcome;
 
 /// The main window's controller: start-up, the switch between the pages, the download, quitting.
@@ -85,12 +80,8 @@ public:
     void dataTransfer();
     void displayAfterDataTransfer();
     void showSetting();
-    void showBackups();
     void showPrint();
-    void showSavePdf();
-    void exportFhir();
     void showHelp();
-    void showAbout();
     void savePatient();
     /// Another start of the program wants the window: with the dialog in front that is open.
     void bringToFront();
@@ -107,6 +98,7 @@ private:
     [[nodiscard]] bool showPatients();
     void startDemonstration();
     [[nodiscard]] PageController& pageInView() const;
+    void makeDialogs();
     void makePageMenus();
     void connectDataWatch();
     void end();
@@ -118,8 +110,6 @@ private:
     void showStep(const StepName& name);
     void UpdateUIBySetting();
     void reload();
-    void checkToSaveComment();
-    void showPrintPreview(PrintPurpose purpose);
     void transferFinished(const DownloadOutcome& outcome);
 
     Parts parts;
@@ -137,13 +127,9 @@ private:
     UndoController* undoer = nullptr;
     std::unique_ptr<ViewKeeper> viewKeeper; ///< if anything is remembered
     BackupCourier* courier = nullptr;
+    WindowDialogs* dialogs = nullptr;
     MonitorOffers* offers = nullptr;
     ProgressWindowController* progressWindow = nullptr; ///< made on first use and kept
-    SettingController* settings = nullptr;              ///< likewise
-    PrintController* printController = nullptr;         ///< likewise
-    HelpWindow* helpWindow = nullptr;                   ///< likewise
-    BackupDialog* backupDialog = nullptr;               ///< likewise
-    ExportController* exporter = nullptr;               ///< likewise
     SplashWindow* splash = nullptr;
     int iSelectedTab = 0;
     DayNumber toldNotBackedUp = noDay; ///< the last day on which it was
