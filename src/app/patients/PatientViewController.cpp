@@ -27,6 +27,7 @@ PatientViewController::PatientViewController(const Parts& needed)
     : parts(needed), store(needed.store), writer(needed.store, needed.panel),
       sender(new PatientIDSender({needed.status, needed.monitor, needed.store, needed.panel}, this)),
       roster(new PatientRoster(needed.store, this)), editor(new PatientEditor(needed.clock, this)),
+      opened(store, *editor, parts.clock),
       noPatients(new EmptyState(u"noPatients"_s, u":/icons/patientBtn.InactiveImg.svg"_s, this)),
       firstSteps(new FirstSteps(needed.status, needed.offersDemonstration, this)),
       rosterOrAdvice(new QStackedWidget(this)) {
@@ -94,40 +95,20 @@ void PatientViewController::UpdateUIBySetting() { showRecord(store.getCurrentID(
 
 void PatientViewController::setHWButtons(bool) { enableButtons(); }
 
-bool PatientViewController::isNewOne(const QString& ID) const { return newPatient && ID == "-"_L1; }
-
-/// Changed here, and no longer in the file: another program took it out, or the file cannot be read. What was
-/// typed stays, and saving adds the patient again.
-bool PatientViewController::isGone(const QString& ID) const {
-    const PatientForm& shown = editor->shownForm();
-    return !shown.isNew() && shown.patient().ID == ID && !store.validIDinXML(ID) && editor->isChanged();
-}
-
-bool PatientViewController::isThere(const QString& ID) const {
-    return isNewOne(ID) || store.validIDinXML(ID) || isGone(ID);
-}
-
-PatientForm PatientViewController::formOf(const QString& ID) const {
-    const PatientModel* patient = isGone(ID)     ? &editor->shownForm().patient()
-                                  : isNewOne(ID) ? nullptr
-                                                 : store.getPatientByID(ID);
-    return {patient ? *patient : PatientForm::newPatient(), store.getSetting(), !patient};
-}
-
 /// Keeps the selection by the patient's ID; a patient that is gone gives way to the first.
 void PatientViewController::reload() {
     const QString why = qtTrId("dataFileUnreadable");
     noPatients->setTexts(why, store.lastLoad() ? why : describe(store.lastLoad().error()));
-    roster->reload(newPatient.has_value());
+    roster->reload(opened.newOne().has_value());
     const auto& patients = store.getPatientArray();
     if (store.lastLoad() && patients.empty()) tellCopy();
     const QString first = patients.empty() ? QString() : patients.front().ID;
-    const QString instead = newPatient ? u"-"_s : first;
+    const QString instead = opened.newOne() ? u"-"_s : first;
     if (store.validIDinXML(toldGone)) toldGone = QString();
-    const bool isOther = isShownGone();
+    const bool isOther = opened.isShownGone();
     const PatientModel& gone = editor->shownForm().patient();
     if (isOther && toldGone != gone.ID) emit replaced(knownName(gone));
-    open(isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
+    open(opened.isThere(store.getCurrentID()) ? store.getCurrentID() : instead);
     if (isOther) leaveEditor();
     emit rosterChanged(!patients.empty());
     tellIfGone();
@@ -141,13 +122,6 @@ void PatientViewController::tellCopy() {
     firstSteps->tellCopy(copy->name, describe(*content, std::as_const(store).getSetting().shownDateFormat()));
 }
 
-/// Without anything typed, so that another one takes the place.
-bool PatientViewController::isShownGone() const {
-    const PatientForm& shown = editor->shownForm();
-    const QString ID = store.getCurrentID();
-    return store.lastLoad() && !shown.isNew() && shown.patient().ID == ID && !isThere(ID);
-}
-
 /// What is typed next is not meant for the patient who is shown instead.
 void PatientViewController::leaveEditor() {
     const QWidget* focused = window()->focusWidget();
@@ -156,14 +130,14 @@ void PatientViewController::leaveEditor() {
 
 void PatientViewController::tellIfGone() {
     const QString ID = store.getCurrentID();
-    if (!store.lastLoad() || !isGone(ID) || std::exchange(toldGone, ID) == ID) return;
+    if (!store.lastLoad() || !opened.isGone(ID) || std::exchange(toldGone, ID) == ID) return;
     const QString told = qtTrId("patientGone").arg(knownName(editor->shownForm().patient()));
     parts.panel.interject(this, [this, told] { parts.panel.ShowMessage(told, qtTrId("Warning")); });
 }
 
 void PatientViewController::open(const QString& ID) {
     store.setCurrentID(ID);
-    const bool isAnyone = isThere(ID);
+    const bool isAnyone = opened.isThere(ID);
     rosterOrAdvice->setCurrentWidget(isAnyone ? rosterOrAdvice->widget(0) : insteadOfRoster());
     roster->select(ID);
     showRecord(ID);
@@ -176,18 +150,19 @@ QWidget* PatientViewController::insteadOfRoster() const {
 
 /// What was typed over the same record stays over what the record is now.
 void PatientViewController::showRecord(const QString& ID) {
-    const PatientForm form = formOf(ID);
+    const PatientForm form = opened.formOf(ID);
     const PatientForm& before = editor->shownForm();
     const bool isSame = before.isNew() == form.isNew() && before.patient().ID == form.patient().ID;
     if (isSame)
         editor->showPatient(form, editor->typedOver(form));
     else
-        editor->showPatient(form, isNewOne(ID) ? newPatient->form.inUnitsOf(form.units(), newPatient->entry)
-                                               : form.entryOf());
+        editor->showPatient(form, opened.isNewOne(ID)
+                                      ? opened.newOne()->form.inUnitsOf(form.units(), opened.newOne()->entry)
+                                      : form.entryOf());
 }
 
 void PatientViewController::goTo(const QString& ID) {
-    if (!ID.isNull() && ID != store.getCurrentID() && leave() && isThere(ID)) return open(ID);
+    if (!ID.isNull() && ID != store.getCurrentID() && leave() && opened.isThere(ID)) return open(ID);
     roster->select(store.getCurrentID());
 }
 
@@ -199,26 +174,26 @@ void PatientViewController::showPatient(const QString& ID) {
 
 bool PatientViewController::leave() {
     const QString ID = store.getCurrentID();
-    if (!isThere(ID)) return true;
+    if (!opened.isThere(ID)) return true;
     if (editor->isChanged()) {
         const SaveAnswer answer = askToSave(qtTrId("confirmSendSave"));
         if (answer == SaveAnswer::save) return btnSavePatient();
         if (answer == SaveAnswer::cancel) return false;
     }
     // What was typed for a new patient can be gone on with.
-    if (isNewOne(ID))
-        newPatient = {editor->shownForm(), editor->entry()};
-    else if (isGone(ID))
+    if (opened.isNewOne(ID))
+        opened.keepNewOne();
+    else if (opened.isGone(ID))
         forget();
     else
-        editor->showPatient(formOf(ID));
+        editor->showPatient(opened.formOf(ID));
     return true;
 }
 
-bool PatientViewController::isEdited() const { return isThere(store.getCurrentID()) && editor->isChanged(); }
+bool PatientViewController::isEdited() const { return opened.isEdited(); }
 
 bool PatientViewController::readyToPrint() {
-    if (!isThere(store.getCurrentID()) || !editor->isChanged()) return true;
+    if (!isEdited()) return true;
     const SaveAnswer answer = askToSave(qtTrId("confirmPrintSave"));
     return answer == SaveAnswer::save ? btnSavePatient() : answer == SaveAnswer::discard;
 }
@@ -230,9 +205,9 @@ void PatientViewController::forget() {
 }
 
 bool PatientViewController::settle() {
-    const bool wasNewOne = isNewOne(store.getCurrentID());
+    const bool wasNewOne = opened.isNewOne(store.getCurrentID());
     if (!leave()) return false;
-    if (wasNewOne || !newPatient || !newPatient->form.isChanged(newPatient->entry, today())) return true;
+    if (wasNewOne || !opened.isNewOneKept()) return true;
     open(u"-"_s);
     return leave();
 }
@@ -240,34 +215,29 @@ bool PatientViewController::settle() {
 QJsonArray PatientViewController::saveQuietly() {
     QJsonArray unsaved;
     const auto save = [&](const PatientForm& form, const PatientEntry& entry) {
-        if (!writer.isSavedQuietly(form, entry, today())) unsaved.append(draftOf(form, entry));
+        if (!writer.isSavedQuietly(form, entry, opened.today())) unsaved.append(draftOf(form, entry));
     };
-    const bool isNewShown = isNewOne(store.getCurrentID());
+    const bool isNewShown = opened.isNewOne(store.getCurrentID());
     // The new one first: it stays open beside another when they are taken up.
-    if (newPatient && !isNewShown && newPatient->form.isChanged(newPatient->entry, today()))
-        save(newPatient->form, newPatient->entry);
-    if (isThere(store.getCurrentID()) && editor->isChanged()) save(editor->shownForm(), editor->entry());
+    if (!isNewShown && opened.isNewOneKept()) save(opened.newOne()->form, opened.newOne()->entry);
+    if (isEdited()) save(editor->shownForm(), editor->entry());
     return unsaved;
 }
 
 bool PatientViewController::takeUp(const QJsonObject& draft) {
     const QString ID = draft[u"ID"_s].toString();
-    if (editor->isChanged() && !isNewOne(store.getCurrentID())) return false; // one after the other
+    if (editor->isChanged() && !opened.isNewOne(store.getCurrentID())) return false; // one after the other
     if (!ID.isEmpty() && store.validIDinXML(ID)) {
         open(ID);
-        editor->showPatient(formOf(ID), typedIn(draft, formOf(ID).entryOf()));
+        editor->showPatient(opened.formOf(ID), typedIn(draft, opened.formOf(ID).entryOf()));
         return true;
     }
-    if (newPatient) return false;
+    if (opened.newOne()) return false;
     const PatientForm blank(PatientForm::newPatient(), store.getSetting(), true);
     PatientEntry entry = blank.entryOf();
     entry[PatientField::ID] = ID; // of a patient who is gone meanwhile
     showNew({blank, typedIn(draft, entry)});
     return true;
-}
-
-Instant PatientViewController::today() const {
-    return std::chrono::floor<std::chrono::milliseconds>(parts.clock.now());
 }
 
 SaveAnswer PatientViewController::askToSave(const QString& question) {
@@ -277,18 +247,12 @@ SaveAnswer PatientViewController::askToSave(const QString& question) {
 }
 
 void PatientViewController::btnNewPatient() {
-    if (newPatient) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    if (opened.newOne()) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
     openNewPatient({});
 }
 
-/// Something is typed for the new patient who is there already.
-bool PatientViewController::isNewOneBegun() const {
-    if (isNewOne(store.getCurrentID())) return editor->isChanged();
-    return newPatient && newPatient->form.isChanged(newPatient->entry, today());
-}
-
 void PatientViewController::addPatient(const QString& ID) {
-    if (isNewOneBegun()) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
+    if (opened.isNewOneBegun()) return parts.panel.ShowMessage(qtTrId("DupNewPatient"), qtTrId("Warning"));
     openNewPatient(ID);
 }
 
@@ -301,24 +265,25 @@ void PatientViewController::openNewPatient(const QString& ID) {
     editor->beginTyping();
 }
 
-void PatientViewController::showNew(Unsaved begun) {
-    newPatient = std::move(begun);
+void PatientViewController::showNew(OpenPatients::Unsaved begun) {
+    opened.begin(std::move(begun));
     roster->showAll();
     roster->reload(true);
     open(u"-"_s);
-    editor->showPatient(newPatient->form, newPatient->entry); // not the blank one of an empty roster
+    editor->showPatient(opened.newOne()->form,
+                        opened.newOne()->entry); // not the blank one of an empty roster
 }
 
 bool PatientViewController::btnSavePatient() {
-    if (!isThere(store.getCurrentID()) || !writer.isUnique(store.getCurrentID())) return false;
-    const auto found = writer.problems(editor->shownForm(), editor->entry(), today());
+    if (!opened.isThere(store.getCurrentID()) || !writer.isUnique(store.getCurrentID())) return false;
+    const auto found = writer.problems(editor->shownForm(), editor->entry(), opened.today());
     editor->mark(found);
     if (!found.empty()) {
         writer.refuse(found);
         return false;
     }
     const PatientModel record = editor->shownForm().record(editor->entry());
-    const bool isMissing = editor->shownForm().isNew() || isGone(record.ID);
+    const bool isMissing = editor->shownForm().isNew() || opened.isGone(record.ID);
     return (isMissing ? writer.add(record) : writer.write(record, editor->shownForm().patient()))
            && saved(record);
 }
@@ -327,40 +292,40 @@ bool PatientViewController::btnSavePatient() {
 bool PatientViewController::saved(const PatientModel& record) {
     const PatientForm before(editor->shownForm().patient(), store.getSetting(), false);
     const PatientEntry wanted = PatientForm(record, store.getSetting(), false).entryOf();
-    if (editor->shownForm().isNew()) newPatient.reset();
+    if (editor->shownForm().isNew()) opened.dropNewOne();
     editor->settle();
     const bool wasListed = roster->isListed(store.getCurrentID());
     writer.loadAnew(record.ID);
     if (wasListed) roster->showSelected(); // by another name it may stand elsewhere
     // What was not changed here, another program may have changed.
-    const PatientEntry kept = formOf(record.ID).entryOf();
+    const PatientEntry kept = opened.formOf(record.ID).entryOf();
     const PatientEntry meant = keepTyped(wanted, before.entryOf(), kept);
     if (!store.validIDinXML(record.ID) || kept == meant) {
         emit said(qtTrId("patientSaved").arg(knownName(record)));
         return true;
     }
-    editor->showPatient(formOf(record.ID), meant);
+    editor->showPatient(opened.formOf(record.ID), meant);
     parts.panel.ShowMessage(qtTrId("patientPartlySaved").arg(knownName(record)), qtTrId("Warning"));
     return false;
 }
 
 void PatientViewController::btnDeletePatient() {
     const QString ID = store.getCurrentID();
-    if (!isThere(ID) || !writer.isUnique(ID)) return;
+    if (!opened.isThere(ID) || !writer.isUnique(ID)) return;
     const QString next = roster->neighbourOf(ID);
-    if (isNewOne(ID)) {
-        if (!isNewOneBegun() || writer.dropNew(editor->shownForm().record(editor->entry())))
+    if (opened.isNewOne(ID)) {
+        if (!opened.isNewOneBegun() || writer.dropNew(editor->shownForm().record(editor->entry())))
             dropNewPatient(next);
         return;
     }
-    const PatientModel patient = formOf(ID).patient();
+    const PatientModel patient = opened.formOf(ID).patient();
     if (!writer.remove(patient)) return;
     writer.loadAnew(next);
     emit said(qtTrId("patientDeleted").arg(knownName(patient)));
 }
 
 void PatientViewController::dropNewPatient(const QString& next) {
-    newPatient.reset();
+    opened.dropNewOne();
     editor->settle();
     store.setCurrentID(next);
     reload();
@@ -383,7 +348,7 @@ bool PatientViewController::canSendID() const {
 }
 
 void PatientViewController::enableButtons() {
-    const bool isAnyone = isThere(store.getCurrentID());
+    const bool isAnyone = opened.isThere(store.getCurrentID());
     buttons->enable({.change = isAnyone, .sendID = canSendID(), .download = CanDataTransfer()});
     buttons->enableSave(isEdited());
 }

@@ -2,12 +2,10 @@
 
 #include "app/device/MonitorStatus.h"
 #include "app/device/MonitorWorker.h"
-#include "app/patients/PatientForm.h"
+#include "app/patients/OpenPatients.h"
 #include "app/patients/PatientWriter.h"
 #include "app/widgets/PageController.h"
 #include "store/DataStore.h"
-
-#include <optional>
 
 class QStackedWidget;
 
@@ -72,11 +70,6 @@ signals:
     replaced(const QString& name); ///< the patient shown is not in the file any more, another one will be
 
 private:
-    struct Unsaved {
-        PatientForm form;
-        PatientEntry entry;
-    };
-
     void build();
     PatientButtons* makeButtons();
     void reload();
@@ -85,19 +78,12 @@ private:
     void showRecord(const QString& ID);
     void goTo(const QString& ID);
     void enableButtons();
-    [[nodiscard]] bool isThere(const QString& ID) const;
-    [[nodiscard]] bool isNewOneBegun() const;
     void openNewPatient(const QString& ID);
-    void showNew(Unsaved begun);
-    [[nodiscard]] bool isNewOne(const QString& ID) const;
-    [[nodiscard]] bool isGone(const QString& ID) const;
+    void showNew(OpenPatients::Unsaved begun);
     void tellIfGone();
     void tellCopy();
-    [[nodiscard]] bool isShownGone() const;
     void leaveEditor();
     void forget();
-    [[nodiscard]] Instant today() const;
-    [[nodiscard]] PatientForm formOf(const QString& ID) const;
     [[nodiscard]] bool isMonitorFree() const;
     [[nodiscard]] bool canSendID() const;
     [[nodiscard]] SaveAnswer askToSave(const QString& question);
@@ -110,12 +96,12 @@ private:
     PatientIDSender* sender;
     PatientRoster* roster;
     PatientEditor* editor;
+    OpenPatients opened;
     EmptyState* noPatients; ///< that could be read
     FirstSteps* firstSteps;
     QStackedWidget* rosterOrAdvice;
     PatientButtons* buttons = nullptr;
-    QString toldGone;                  ///< the ID of who was said to be gone, until there again
-    std::optional<Unsaved> newPatient; ///< the one that is not saved yet, as it was left
+    QString toldGone; ///< the ID of who was said to be gone, until there again
 };
 
 } // namespace zel
