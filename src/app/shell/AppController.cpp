@@ -258,6 +258,8 @@ PageController& AppController::pageInView() const {
 
 void AppController::showSetting() { dialogs->showSetting(); }
 
+void AppController::showBackups() { dialogs->showBackups(); }
+
 void AppController::showPrint() { dialogs->showPrint(); }
 
 void AppController::showHelp() { dialogs->showHelp(); }

@@ -80,6 +80,7 @@ public:
     void dataTransfer();
     void displayAfterDataTransfer();
     void showSetting();
+    void showBackups();
     void showPrint();
     void showHelp();
     void savePatient();

@@ -103,7 +103,7 @@ protected:
         lookAtDialog(find<QDialog>("SettingController"));
         app->showPrint();
         lookAtDialog(find<QDialog>("PrintController"));
-        app->mainWndow().findChild<QAction*>(u"showBackups"_s)->trigger();
+        app->showBackups();
         lookAtDialog(find<QDialog>("BackupDialog"));
         for (const auto& [action, dialog] :
              {std::pair("showKeys", "KeysDialog"), {"showDownloads", "DownloadsDialog"}}) {
