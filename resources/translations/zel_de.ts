@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>nicht gezählt: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n außerhalb des Zeitraums</numerusform><numerusform>%n außerhalb des Zeitraums</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n undatiert</numerusform><numerusform>%n undatiert</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>%n ohne Druckwerte</numerusform><numerusform>%n ohne Druckwerte</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n ganz ohne Datum</numerusform><numerusform>%n ganz ohne Datum</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="weekEnd"><translation>Letzter Tag der Messwoche</translation></message>
     <message id="weekEvenings"><translation>Abends %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n späterer Tage ausgeschlossen</numerusform><numerusform>%n späterer Tage ausgeschlossen</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n vom ersten Tag nicht gezählt</numerusform><numerusform>%n vom ersten Tag nicht gezählt</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mittelwert %1/%2 mmHg, Puls %3</translation></message>
@@ -871,6 +873,7 @@ NICE: erster Tag zählt nicht, je 2 Messungen morgens und abends an mindestens 3
 AHA: 12 Messungen an mindestens 3 Tagen</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>bis</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>%n ohne Druckwerte nicht gezählt</numerusform><numerusform>%n ohne Druckwerte nicht gezählt</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>Bitte geben Sie eine Zahl von 0,2 bis 1000 kg ein, z. B. 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Bitte geben Sie eine Zahl von 0,5 bis 2200 lb ein, z. B. 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>Die Datei %1, in der steht, wie das Fenster zuletzt war, konnte nicht entfernt werden.</translation></message>
@@ -1048,6 +1051,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Geburtsdatum nicht angegeben</translation></message>
     <message id="summaryNoComments"><translation>Keine Kommentare in diesem Zeitraum</translation></message>
+    <message id="summaryNoDated"><translation>Keine datierten Messungen</translation></message>
     <message id="summaryNone"><translation>Keine Messungen in diesem Zeitraum</translation></message>
     <message id="summaryNoneCountsYet"><translation>Noch zählt keine Messung</translation></message>
     <message id="summaryNoReason"><translation>kein Grund angegeben</translation></message>
@@ -1075,6 +1079,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryWeek"><translation>Messwoche (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche von Hand ausgeschlossen</numerusform><numerusform>%n der Woche von Hand ausgeschlossen</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n der Woche eingegeben</numerusform><numerusform>%n der Woche eingegeben</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n der Woche ohne Druckwerte</numerusform><numerusform>%n der Woche ohne Druckwerte</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistik und Messungen</translation></message>
     <message id="table"><translation>Messungen</translation></message>
@@ -1111,6 +1116,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliEraseNeedsYes"><translation>--erase löscht alle Messungen endgültig aus dem Messgerät. Fügen Sie --yes hinzu, wenn das gewollt ist.</translation></message>
     <message id="CliEraseNoID"><translation>Der Speicher des Messgeräts wird gelöscht, indem es seine eigene ID noch einmal erhält; es enthält aber keine, die es speichern könnte. Bitte geben Sie ihm zuerst eine mit 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Es war nicht zu erkennen, ob der Speicher des Messgeräts jetzt leer ist. %1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>Auch %n Messung späterer Tage ist ausgeschlossen.</numerusform><numerusform>Auch %n Messungen späterer Tage sind ausgeschlossen.</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n Messung der Woche ist von Hand ausgeschlossen.</numerusform><numerusform>%n Messungen der Woche sind von Hand ausgeschlossen.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Es fehlt eine Datei zum Importieren.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n Messung vom ersten Messtag ist nicht gezählt.</numerusform><numerusform>%n Messungen vom ersten Messtag sind nicht gezählt.</numerusform></translation></message>
@@ -1497,7 +1503,9 @@ Optionen:
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung zählt ab jetzt nirgends mehr mit: Die Tabelle enthält dieselbe von einem Messgerät.</numerusform><numerusform>%n von Hand eingegebene Messungen zählen ab jetzt nirgends mehr mit: Die Tabelle enthält dieselben von einem Messgerät.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' wird hier nicht erwartet.</translation></message>
     <message id="CliUnknownCommand"><translation>Es gibt keinen Befehl '%1'.</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n Messung ohne Druckwerte ist nicht gezählt.</numerusform><numerusform>%n Messungen ohne Druckwerte sind nicht gezählt.</numerusform></translation></message>
     <message id="CliWaiting"><translation>Warten auf das Messgerät, noch höchstens %1 s. Strg+C bricht ab.</translation></message>
+    <message id="CliWeekToCome"><translation>Die Woche endet am %1, einem Tag, der noch kommt.</translation></message>
     <message id="CliYesAlone"><translation>--yes gehört zu --erase.</translation></message>
 </context>
 </TS>

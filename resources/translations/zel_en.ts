@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>%1 not counted</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n undated one</numerusform><numerusform>%n undated ones</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>%n without pressures</numerusform><numerusform>%n without pressures</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n without any date</numerusform><numerusform>%n without any date</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n of later days left out</numerusform><numerusform>%n of later days left out</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
@@ -871,6 +873,7 @@ NICE: first day left out, 2 readings each morning and evening of 3 more days or 
 AHA: 12 readings on 3 days or more</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>to</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>%n without pressures not counted</numerusform><numerusform>%n without pressures not counted</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>Please give a number of 0.2 to 1000 kg, such as 72.5.</translation></message>
     <message id="weightRefusedLb"><translation>Please give a number of 0.5 to 2200 lb, such as 160.5.</translation></message>
     <message id="windowNotForgotten"><translation>The file %1 keeps how the window was left. It could not be removed.</translation></message>
@@ -1048,6 +1051,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Date of birth not given</translation></message>
     <message id="summaryNoComments"><translation>No comments in this period</translation></message>
+    <message id="summaryNoDated"><translation>No dated readings</translation></message>
     <message id="summaryNone"><translation>No readings in this period</translation></message>
     <message id="summaryNoneCountsYet"><translation>No reading counts yet</translation></message>
     <message id="summaryNoReason"><translation>no reason given</translation></message>
@@ -1075,6 +1079,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n of the week typed in</numerusform><numerusform>%n of the week typed in</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n of the week without pressures</numerusform><numerusform>%n of the week without pressures</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n stored in another time zone; times are those of this computer</numerusform><numerusform>%n stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
     <message id="table"><translation>Readings</translation></message>
@@ -1111,6 +1116,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Whether the monitor's memory is empty now could not be seen. %1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>%n reading of later days is left out, too.</numerusform><numerusform>%n readings of later days are left out, too.</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n reading of the week is left out by the user.</numerusform><numerusform>%n readings of the week are left out by the user.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n reading of the first measuring day is not counted.</numerusform><numerusform>%n readings of the first measuring day are not counted.</numerusform></translation></message>
@@ -1481,7 +1487,9 @@ Options:
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n reading that was typed in counts nowhere from now on: the table has the same one from a monitor.</numerusform><numerusform>%n readings that were typed in count nowhere from now on: the table has the same ones from a monitor.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' is not expected here.</translation></message>
     <message id="CliUnknownCommand"><translation>There is no command '%1'.</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n reading without pressures is not counted.</numerusform><numerusform>%n readings without pressures are not counted.</numerusform></translation></message>
     <message id="CliWaiting"><translation>Waiting for the monitor, for at most another %1 s. Ctrl-C cancels.</translation></message>
+    <message id="CliWeekToCome"><translation>The week ends on %1, a day that is yet to come.</translation></message>
     <message id="CliYesAlone"><translation>--yes goes with --erase.</translation></message>
 </context>
 </TS>

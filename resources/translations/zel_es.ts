@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>no contadas: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n fuera del periodo</numerusform><numerusform>%n fuera del periodo</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n sin fecha</numerusform><numerusform>%n sin fecha</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>%n sin valores de presión</numerusform><numerusform>%n sin valores de presión</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n sin fecha alguna</numerusform><numerusform>%n sin fecha alguna</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="weekEnd"><translation>Último día de la semana de medición</translation></message>
     <message id="weekEvenings"><translation>Tarde %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n de días posteriores, excluida</numerusform><numerusform>%n de días posteriores, excluidas</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primer día, sin contar</numerusform><numerusform>%n del primer día, sin contar</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Media %1/%2 mmHg, pulso %3</translation></message>
@@ -871,6 +873,7 @@ NICE: sin contar el primer día, 2 mediciones cada mañana y 2 cada tarde de otr
 AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>hasta</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>%n sin valores de presión, sin contar</numerusform><numerusform>%n sin valores de presión, sin contar</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>Indique un número de 0,2 a 1000 kg, por ejemplo 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indique un número de 0,5 a 2200 lb, por ejemplo 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>El archivo %1 guarda cómo quedó la ventana. No se ha podido eliminar.</translation></message>
@@ -1048,6 +1051,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Fecha de nacimiento no indicada</translation></message>
     <message id="summaryNoComments"><translation>Sin comentarios en este periodo</translation></message>
+    <message id="summaryNoDated"><translation>Sin mediciones con fecha</translation></message>
     <message id="summaryNone"><translation>Sin mediciones en este periodo</translation></message>
     <message id="summaryNoneCountsYet"><translation>Aún no cuenta ninguna medición</translation></message>
     <message id="summaryNoReason"><translation>sin motivo indicado</translation></message>
@@ -1075,6 +1079,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryWeek"><translation>Semana de medición (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida por el usuario</numerusform><numerusform>%n de la semana excluidas por el usuario</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semana, introducida</numerusform><numerusform>%n de la semana, introducidas</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n de la semana sin valores de presión</numerusform><numerusform>%n de la semana sin valores de presión</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="SWStatistics"><translation>Estadística y mediciones</translation></message>
     <message id="table"><translation>Mediciones</translation></message>
@@ -1111,6 +1116,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase elimina todas las mediciones del tensiómetro de forma definitiva. Añada --yes si es lo que quiere.</translation></message>
     <message id="CliEraseNoID"><translation>La memoria del tensiómetro se vacía escribiéndole de nuevo su propio ID, pero no tiene ninguno que pueda guardar. Dele antes uno con 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>No se ha podido comprobar si la memoria del tensiómetro está vacía ahora. %1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>También está excluida %n medición de días posteriores.</numerusform><numerusform>También están excluidas %n mediciones de días posteriores.</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n medición de la semana está excluida por el usuario.</numerusform><numerusform>%n mediciones de la semana están excluidas por el usuario.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Falta indicar un archivo para importar.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n medición del primer día de medición no se cuenta.</numerusform><numerusform>%n mediciones del primer día de medición no se cuentan.</numerusform></translation></message>
@@ -1488,7 +1494,9 @@ Opciones:
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n medición introducida a mano deja de contar en los cálculos: la tabla contiene la misma, procedente de un tensiómetro.</numerusform><numerusform>%n mediciones introducidas a mano dejan de contar en los cálculos: la tabla contiene las mismas, procedentes de un tensiómetro.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' no se esperaba aquí.</translation></message>
     <message id="CliUnknownCommand"><translation>No hay ninguna orden '%1'.</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n medición sin valores de presión no se cuenta.</numerusform><numerusform>%n mediciones sin valores de presión no se cuentan.</numerusform></translation></message>
     <message id="CliWaiting"><translation>Esperando al tensiómetro, como máximo otros %1 s. Ctrl-C cancela.</translation></message>
+    <message id="CliWeekToCome"><translation>La semana termina el %1, un día que aún no ha llegado.</translation></message>
     <message id="CliYesAlone"><translation>--yes va con --erase.</translation></message>
 </context>
 </TS>

@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>non comptées : %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n hors période</numerusform><numerusform>%n hors période</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n sans date</numerusform><numerusform>%n sans date</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>%n sans valeurs de pression</numerusform><numerusform>%n sans valeurs de pression</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n sans aucune date</numerusform><numerusform>%n sans aucune date</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="weekEnd"><translation>Dernier jour de la semaine de mesure</translation></message>
     <message id="weekEvenings"><translation>Soir %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n de jours suivants exclue</numerusform><numerusform>%n de jours suivants exclues</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n du premier jour non comptée</numerusform><numerusform>%n du premier jour non comptées</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Moyenne %1/%2 mmHg, pouls %3</translation></message>
@@ -871,6 +873,7 @@ NICE : premier jour non compté, 2 mesures chaque matin et chaque soir d’au 
 AHA : 12 mesures sur au moins 3 jours</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>au</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>%n sans valeurs de pression non comptée</numerusform><numerusform>%n sans valeurs de pression non comptées</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>Veuillez indiquer un nombre compris entre 0,2 et 1000 kg, par exemple 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Veuillez indiquer un nombre compris entre 0,5 et 2200 lb, par exemple 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>Le fichier %1 conserve l’état de la fenêtre. Il n’a pas pu être supprimé.</translation></message>
@@ -1048,6 +1051,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Date de naissance non indiquée</translation></message>
     <message id="summaryNoComments"><translation>Aucun commentaire sur cette période</translation></message>
+    <message id="summaryNoDated"><translation>Aucune mesure datée</translation></message>
     <message id="summaryNone"><translation>Aucune mesure sur cette période</translation></message>
     <message id="summaryNoneCountsYet"><translation>Aucune mesure n’est encore comptée</translation></message>
     <message id="summaryNoReason"><translation>sans motif indiqué</translation></message>
@@ -1075,6 +1079,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryWeek"><translation>Semaine de mesure (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n saisie à la main</numerusform><numerusform>%n saisies à la main</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n sans valeurs de pression</numerusform><numerusform>%n sans valeurs de pression</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistiques et mesures</translation></message>
     <message id="table"><translation>Mesures</translation></message>
@@ -1111,6 +1116,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliEraseNeedsYes"><translation>--erase supprime définitivement toutes les mesures du tensiomètre. Ajoutez --yes si c’est bien ce que vous voulez.</translation></message>
     <message id="CliEraseNoID"><translation>La mémoire du tensiomètre s’efface en lui redonnant son propre ID, mais il n’en contient aucun qu’il puisse mémoriser. Veuillez d’abord lui en donner un avec 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Il n’a pas été possible de vérifier que la mémoire du tensiomètre est vide. %1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>%n mesure de jours suivants est exclue, elle aussi.</numerusform><numerusform>%n mesures de jours suivants sont exclues, elles aussi.</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n mesure de la semaine est exclue par l’utilisateur.</numerusform><numerusform>%n mesures de la semaine sont exclues par l’utilisateur.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Il manque un fichier à importer.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n mesure du premier jour de mesure n’est pas comptée.</numerusform><numerusform>%n mesures du premier jour de mesure ne sont pas comptées.</numerusform></translation></message>
@@ -1493,7 +1499,9 @@ Options :
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n mesure saisie à la main ne compte désormais nulle part : le tableau contient la même, venant d’un tensiomètre.</numerusform><numerusform>%n mesures saisies à la main ne comptent désormais nulle part : le tableau contient les mêmes, venant d’un tensiomètre.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' n’est pas attendu ici.</translation></message>
     <message id="CliUnknownCommand"><translation>La commande '%1' n’existe pas.</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n mesure sans valeurs de pression n’est pas comptée.</numerusform><numerusform>%n mesures sans valeurs de pression ne sont pas comptées.</numerusform></translation></message>
     <message id="CliWaiting"><translation>Attente du tensiomètre, encore %1 s au plus. Ctrl-C annule.</translation></message>
+    <message id="CliWeekToCome"><translation>La semaine se termine le %1, un jour encore à venir.</translation></message>
     <message id="CliYesAlone"><translation>--yes s’emploie avec --erase.</translation></message>
 </context>
 </TS>

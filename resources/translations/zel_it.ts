@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>non conteggiate: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n fuori dal periodo</numerusform><numerusform>%n fuori dal periodo</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n senza data</numerusform><numerusform>%n senza data</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>%n senza valori di pressione</numerusform><numerusform>%n senza valori di pressione</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n senza alcuna data</numerusform><numerusform>%n senza alcuna data</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="weekEnd"><translation>Ultimo giorno della settimana di misura</translation></message>
     <message id="weekEvenings"><translation>Sera %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n esclusa dall’utente</numerusform><numerusform>%n escluse dall’utente</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n di giorni successivi esclusa</numerusform><numerusform>%n di giorni successivi escluse</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primo giorno non conteggiata</numerusform><numerusform>%n del primo giorno non conteggiate</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Media %1/%2 mmHg, polso %3</translation></message>
@@ -871,6 +873,7 @@ NICE: primo giorno non conteggiato, 2 misurazioni ogni mattina e ogni sera in al
 AHA: 12 misurazioni in almeno 3 giorni</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>al</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>%n senza valori di pressione non conteggiata</numerusform><numerusform>%n senza valori di pressione non conteggiate</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>Indicare un numero da 0,2 a 1000 kg, per esempio 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Indicare un numero da 0,5 a 2200 lb, per esempio 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>Il file %1 conserva lo stato della finestra. Non è stato possibile rimuoverlo.</translation></message>
@@ -1048,6 +1051,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Data di nascita non indicata</translation></message>
     <message id="summaryNoComments"><translation>Nessun commento nel periodo</translation></message>
+    <message id="summaryNoDated"><translation>Nessuna misurazione con data</translation></message>
     <message id="summaryNone"><translation>Nessuna misurazione nel periodo</translation></message>
     <message id="summaryNoneCountsYet"><translation>Ancora nessuna misurazione utile</translation></message>
     <message id="summaryNoReason"><translation>nessun motivo indicato</translation></message>
@@ -1075,6 +1079,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryWeek"><translation>Settimana di misura (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n della settimana esclusa dall’utente</numerusform><numerusform>%n della settimana escluse dall’utente</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n della settimana inserita a mano</numerusform><numerusform>%n della settimana inserite a mano</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n della settimana senza valori di pressione</numerusform><numerusform>%n della settimana senza valori di pressione</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistiche e misurazioni</translation></message>
     <message id="table"><translation>Misurazioni</translation></message>
@@ -1111,6 +1116,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliEraseNeedsYes"><translation>--erase elimina definitivamente tutte le misurazioni dal misuratore. Per confermare, aggiungere --yes.</translation></message>
     <message id="CliEraseNoID"><translation>La memoria del misuratore si cancella riscrivendovi il suo stesso ID, ma il misuratore non contiene un ID utilizzabile. Prima assegnargliene uno con 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Non è stato possibile accertare se la memoria del misuratore sia ora vuota. %1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>Anche %n misurazione di giorni successivi è esclusa.</numerusform><numerusform>Anche %n misurazioni di giorni successivi sono escluse.</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n misurazione della settimana è esclusa dall'utente.</numerusform><numerusform>%n misurazioni della settimana sono escluse dall'utente.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Manca un file da importare.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n misurazione del primo giorno di misura non è conteggiata.</numerusform><numerusform>%n misurazioni del primo giorno di misura non sono conteggiate.</numerusform></translation></message>
@@ -1498,7 +1504,9 @@ Opzioni:
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n misurazione inserita a mano non conta più in nessun calcolo: la tabella contiene la stessa, proveniente da un misuratore.</numerusform><numerusform>%n misurazioni inserite a mano non contano più in nessun calcolo: la tabella contiene le stesse, provenienti da un misuratore.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>'%1' non è previsto qui.</translation></message>
     <message id="CliUnknownCommand"><translation>Il comando '%1' non esiste.</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n misurazione senza valori di pressione non è conteggiata.</numerusform><numerusform>%n misurazioni senza valori di pressione non sono conteggiate.</numerusform></translation></message>
     <message id="CliWaiting"><translation>In attesa del misuratore, ancora per %1 s al massimo. Ctrl-C annulla.</translation></message>
+    <message id="CliWeekToCome"><translation>La settimana termina il %1, un giorno che deve ancora venire.</translation></message>
     <message id="CliYesAlone"><translation>--yes va insieme a --erase.</translation></message>
 </context>
 </TS>

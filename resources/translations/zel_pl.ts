@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>nie liczą się: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n spoza okresu</numerusform><numerusform>%n spoza okresu</numerusform><numerusform>%n spoza okresu</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>%n bez daty</numerusform><numerusform>%n bez daty</numerusform><numerusform>%n bez daty</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>%n bez wartości ciśnienia</numerusform><numerusform>%n bez wartości ciśnienia</numerusform><numerusform>%n bez wartości ciśnienia</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>%n bez żadnej daty</numerusform><numerusform>%n bez żadnej daty</numerusform><numerusform>%n bez żadnej daty</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="weekEnd"><translation>Ostatni dzień tygodnia pomiarowego</translation></message>
     <message id="weekEvenings"><translation>Wieczór %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n z późniejszych dni pominięty</numerusform><numerusform>%n z późniejszych dni pominięte</numerusform><numerusform>%n z późniejszych dni pominiętych</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n z pierwszego dnia się nie liczy</numerusform><numerusform>%n z pierwszego dnia się nie liczą</numerusform><numerusform>%n z pierwszego dnia się nie liczy</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Średnia %1/%2 mmHg, tętno %3</translation></message>
@@ -871,6 +873,7 @@ NICE: bez pierwszego dnia, po 2 pomiary każdego ranka i wieczoru z co najmniej 
 AHA: 12 pomiarów z co najmniej 3 dni</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>do</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>%n bez wartości ciśnienia się nie liczy</numerusform><numerusform>%n bez wartości ciśnienia się nie liczą</numerusform><numerusform>%n bez wartości ciśnienia się nie liczy</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>Proszę podać liczbę od 0,2 do 1000 kg, na przykład 72,5.</translation></message>
     <message id="weightRefusedLb"><translation>Proszę podać liczbę od 0,5 do 2200 lb, na przykład 160,5.</translation></message>
     <message id="windowNotForgotten"><translation>Plik %1 przechowuje stan okna. Nie udało się go usunąć.</translation></message>
@@ -1048,6 +1051,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>Nie podano daty urodzenia</translation></message>
     <message id="summaryNoComments"><translation>Brak komentarzy w tym okresie</translation></message>
+    <message id="summaryNoDated"><translation>Brak pomiarów z datą</translation></message>
     <message id="summaryNone"><translation>Brak pomiarów w tym okresie</translation></message>
     <message id="summaryNoneCountsYet"><translation>Żaden pomiar jeszcze się nie liczy</translation></message>
     <message id="summaryNoReason"><translation>nie podano powodu</translation></message>
@@ -1075,6 +1079,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryWeek"><translation>Tydzień pomiarowy (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominięte przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominiętych przez użytkownika</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n wpisany ręcznie</numerusform><numerusform>%n wpisane ręcznie</numerusform><numerusform>%n wpisanych ręcznie</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n bez wartości ciśnienia</numerusform><numerusform>%n bez wartości ciśnienia</numerusform><numerusform>%n bez wartości ciśnienia</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statystyka i pomiary</translation></message>
     <message id="table"><translation>Pomiary</translation></message>
@@ -1111,6 +1116,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliEraseNeedsYes"><translation>--erase trwale usuwa wszystkie pomiary z ciśnieniomierza. Aby to potwierdzić, należy dodać --yes.</translation></message>
     <message id="CliEraseNoID"><translation>Pamięć ciśnieniomierza wymazuje się przez ponowne nadanie mu jego ID, ale nie ma on ID, które mógłby przechować. Proszę mu je najpierw nadać poleceniem „zel monitor --send-id ID”.</translation></message>
     <message id="CliEraseUnseen"><translation>Nie udało się sprawdzić, czy pamięć ciśnieniomierza jest teraz pusta. %1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>Pominięty jest też %n pomiar z późniejszych dni.</numerusform><numerusform>Pominięte są też %n pomiary z późniejszych dni.</numerusform><numerusform>Pominiętych jest też %n pomiarów z późniejszych dni.</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n pomiar z tego tygodnia został pominięty przez użytkownika.</numerusform><numerusform>%n pomiary z tego tygodnia zostały pominięte przez użytkownika.</numerusform><numerusform>%n pomiarów z tego tygodnia zostało pominiętych przez użytkownika.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Brakuje pliku do zaimportowania.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n pomiar z pierwszego dnia pomiarowego się nie liczy.</numerusform><numerusform>%n pomiary z pierwszego dnia pomiarowego się nie liczą.</numerusform><numerusform>%n pomiarów z pierwszego dnia pomiarowego się nie liczy.</numerusform></translation></message>
@@ -1484,7 +1490,9 @@ Opcje:
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie odtąd nigdzie się nie liczy: tabela zawiera ten sam pomiar z ciśnieniomierza.</numerusform><numerusform>%n pomiary wpisane ręcznie odtąd nigdzie się nie liczą: tabela zawiera te same pomiary z ciśnieniomierza.</numerusform><numerusform>%n pomiarów wpisanych ręcznie odtąd nigdzie się nie liczy: tabela zawiera te same pomiary z ciśnieniomierza.</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>Nieoczekiwane słowo „%1”.</translation></message>
     <message id="CliUnknownCommand"><translation>Nie ma polecenia „%1”.</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n pomiar bez wartości ciśnienia się nie liczy.</numerusform><numerusform>%n pomiary bez wartości ciśnienia się nie liczą.</numerusform><numerusform>%n pomiarów bez wartości ciśnienia się nie liczy.</numerusform></translation></message>
     <message id="CliWaiting"><translation>Oczekiwanie na ciśnieniomierz, jeszcze najwyżej %1 s. Ctrl-C anuluje.</translation></message>
+    <message id="CliWeekToCome"><translation>Tydzień kończy się %1, w dniu, który dopiero nadejdzie.</translation></message>
     <message id="CliYesAlone"><translation>--yes wymaga --erase.</translation></message>
 </context>
 </TS>

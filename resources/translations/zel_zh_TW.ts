@@ -191,6 +191,7 @@
     <message id="leftOut"><translation>未計入：%1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>期間外 %n 筆</numerusform></translation></message>
     <message id="leftUndated" numerus="yes"><translation><numerusform>無日期的量測 %n 筆</numerusform></translation></message>
+    <message id="leftUnmeasured" numerus="yes"><translation><numerusform>沒有血壓值 %n 筆</numerusform></translation></message>
     <message id="leftWithoutDate" numerus="yes"><translation><numerusform>完全沒有日期 %n 筆</numerusform></translation></message>
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
@@ -852,6 +853,7 @@ mmHg</translation></message>
     <message id="weekEnd"><translation>量測週的最後一天</translation></message>
     <message id="weekEvenings"><translation>晚上 %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="weekExcludedLater" numerus="yes"><translation><numerusform>較晚日期排除 %n 筆</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>第一天 %n 筆不計</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>平均 %1/%2 mmHg，脈搏 %3</translation></message>
@@ -871,6 +873,7 @@ NICE：第一天不計，其後 3 天以上，每天早上與晚上各 2 筆量�
 AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="weekRuleNice"><translation>NICE</translation></message>
     <message id="weekTo"><translation>至</translation></message>
+    <message id="weekUnmeasured" numerus="yes"><translation><numerusform>沒有血壓值 %n 筆不計</numerusform></translation></message>
     <message id="weightRefusedKg"><translation>請填寫 0.2 到 1000 kg 的數字，例如 72.5。</translation></message>
     <message id="weightRefusedLb"><translation>請填寫 0.5 到 2200 lb 的數字，例如 160.5。</translation></message>
     <message id="windowNotForgotten"><translation>檔案 %1 保存了視窗上次的狀態，但無法移除此檔案。</translation></message>
@@ -1048,6 +1051,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
     <message id="summaryNoBirth"><translation>未填寫出生日期</translation></message>
     <message id="summaryNoComments"><translation>此期間沒有註記</translation></message>
+    <message id="summaryNoDated"><translation>沒有附日期的量測</translation></message>
     <message id="summaryNone"><translation>此期間沒有量測</translation></message>
     <message id="summaryNoneCountsYet"><translation>尚無計入的量測</translation></message>
     <message id="summaryNoReason"><translation>未填寫原因</translation></message>
@@ -1075,6 +1079,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryWeek"><translation>量測週（%1）  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>該週由使用者排除 %n 筆</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>該週手動輸入 %n 筆</numerusform></translation></message>
+    <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>該週沒有血壓值 %n 筆</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="SWStatistics"><translation>統計與量測</translation></message>
     <message id="table"><translation>量測紀錄</translation></message>
@@ -1111,6 +1116,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase 會永久移除血壓計中的所有量測。如果確定，請加上 --yes。</translation></message>
     <message id="CliEraseNoID"><translation>清空血壓計記憶體的方法是重新寫入它自己的 ID，但它沒有可儲存的 ID。請先以 'zel monitor --send-id ID' 寫入 ID。</translation></message>
     <message id="CliEraseUnseen"><translation>無法確認血壓計的記憶體是否已清空。%1</translation></message>
+    <message id="CliExcludedLater" numerus="yes"><translation><numerusform>另有 %n 筆較晚日期的量測也已排除。</numerusform></translation></message>
     <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>該週有 %n 筆量測由使用者排除。</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>未指定要匯入的檔案。</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>第一個量測日的 %n 筆量測不計入。</numerusform></translation></message>
@@ -1464,7 +1470,9 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliTypedLeftOut" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測從此不再計入任何結果：表格中有來自血壓計的相同量測。</numerusform></translation></message>
     <message id="CliUnexpectedWord"><translation>此處不應出現「%1」。</translation></message>
     <message id="CliUnknownCommand"><translation>沒有指令「%1」。</translation></message>
+    <message id="CliUnmeasured" numerus="yes"><translation><numerusform>%n 筆沒有血壓值的量測不計入。</numerusform></translation></message>
     <message id="CliWaiting"><translation>正在等候血壓計，最多再等 %1 秒。按 Ctrl-C 可取消。</translation></message>
+    <message id="CliWeekToCome"><translation>該週結束於 %1，這一天尚未到來。</translation></message>
     <message id="CliYesAlone"><translation>--yes 須與 --erase 一起使用。</translation></message>
 </context>
 </TS>

@@ -31,20 +31,27 @@ bool isOfWeek(const ReadingModel& reading, const MeasuringWeek& week) {
 
 bool isDatedExcluded(const ReadingModel& reading) { return reading.isExcluded() && !reading.isUndated(); }
 
-int excludedOf(const ReadingList& readings, DayNumber begin, DayNumber end) {
-    return static_cast<int>(std::ranges::count_if(readings, [begin, end](const ReadingModel& reading) {
-        return isDatedExcluded(reading) && begin <= reading.day && reading.day <= end;
-    }));
-}
-
-/// Of a week whose end was not chosen: also those of later days, which would have been its last ones; where
-/// no reading counts, those of the week that they would make.
-int excludedOfLastDays(const ReadingList& readings, const MeasuringWeek& week) {
+/// Where no reading counts, those of the week that they would make.
+DayNumber firstOfExcludedWeek(const ReadingList& readings) {
     DayNumber last = noDay;
     for (const ReadingModel& reading : readings)
         if (isDatedExcluded(reading)) last = std::max(last, reading.day);
-    if (last == noDay) return 0;
-    return excludedOf(readings, week.end == noDay ? last - (daysOfWeek - 1) : week.begin, last);
+    return last == noDay ? noDay : last - (daysOfWeek - 1);
+}
+
+/// What is not counted, and why.
+void countLeftOut(MeasuringWeek& week, const ReadingList& readings, bool isEndTold) {
+    const bool isNone = week.end == noDay;
+    const DayNumber begin = isNone ? firstOfExcludedWeek(readings) : week.begin;
+    for (const ReadingModel& reading : readings) {
+        if (isAveraged(reading) || reading.isUndated() || reading.day < begin) continue;
+        const bool isLater = !isNone && reading.day > week.end;
+        if (isLater && isEndTold) continue;
+        if (!reading.isExcluded())
+            ++week.unmeasured;
+        else
+            ++(isLater ? week.excludedLater : week.excluded);
+    }
 }
 
 WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {
@@ -58,11 +65,13 @@ WeekDays daysOf(const ReadingList& readings, const MeasuringWeek& week) {
 }
 
 void addMeans(MeasuringWeek& week, const ReadingList& readings) {
-    for (const ReadingModel& reading : readings)
-        if (isUsed(reading, week)) {
-            week.all.add(reading);
-            (reading.isPMData ? week.evening : week.morning).add(reading);
-        }
+    for (const ReadingModel& reading : readings) {
+        if (!isOfWeek(reading, week)) continue;
+        if (reading.isOfOtherZone) ++week.ofOtherZone;
+        if (reading.day < week.firstUsed) continue;
+        week.all.add(reading);
+        (reading.isPMData ? week.evening : week.morning).add(reading);
+    }
 }
 
 void addMissing(MeasuringWeek& week, const ReadingsOfDay& day, int perHalfDay) {
@@ -122,11 +131,8 @@ MeasuringWeek calcMeasuringWeek(const ReadingList& readings, AverageRule rule, s
         week.begin = week.end - (daysOfWeek - 1);
         week.firstUsed = week.begin + static_cast<DayNumber>(countDays(week, daysOf(readings, week), facts));
         addMeans(week, readings);
-        week.ofOtherZone = static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
-            return reading.isOfOtherZone && isOfWeek(reading, week);
-        }));
     }
-    week.excluded = end ? excludedOf(readings, week.begin, week.end) : excludedOfLastDays(readings, week);
+    countLeftOut(week, readings, end.has_value());
     week.missingDays = std::max(0, facts.days - week.daysUsed - week.daysLeftOut);
     week.missingReadings = std::max(0, facts.readings - static_cast<int>(week.readingsUsed()));
     return week;

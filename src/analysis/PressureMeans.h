@@ -1,11 +1,11 @@
 #pragma once
 
 #include "analysis/ExactMean.h"
-#include "store/ReadingModel.h"
+#include "analysis/ReadingSelection.h"
 
 namespace zel {
 
-/// Of the same readings.
+/// Of the same readings, but that the pulse may be missing.
 struct PressureMeans {
     ExactMean sys; ///< mmHg
     ExactMean dia;
@@ -14,7 +14,7 @@ struct PressureMeans {
     void add(const ReadingModel& reading) {
         sys.add(reading.sys);
         dia.add(reading.dia);
-        pulse.add(reading.pulse);
+        if (isMeasured(reading.pulse)) pulse.add(reading.pulse);
     }
     /// Of the readings that were added since they were \p earlier.
     PressureMeans operator-(const PressureMeans& earlier) const {

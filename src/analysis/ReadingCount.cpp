@@ -15,6 +15,7 @@ int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection
     if (!selection.period.contains(*reading.ReadingDate)) return &ReadingCount::outsidePeriod;
     // The list has excluded ones, too.
     if (rule != isListed && reading.isExcluded()) return &ReadingCount::excluded;
+    if (MatchedDataType(selection.view, reading.isPMData)) return &ReadingCount::unmeasured;
     return reading.isPMData ? &ReadingCount::fromNoon : &ReadingCount::beforeNoon;
 }
 
@@ -22,7 +23,8 @@ int ReadingCount::*reasonFor(const ReadingModel& reading, const ReadingSelection
 
 ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& selection, CountRule rule) {
     ReadingSelection counted = selection;
-    if (rule == isInChart) counted.includeUndated = false; // why the chart leaves them out, wanted or not
+    if (rule == isInChart || rule == isInTrend)
+        counted.includeUndated = false; // why the chart leaves them out, wanted or not
     ReadingCount count;
     for (const ReadingModel& reading : readings) {
         const bool isTaken = rule(reading, counted);
@@ -38,6 +40,7 @@ QString describeLeftOut(const ReadingCount& count) {
     if (count.beforeNoon > 0) reasons += qtTrId("leftBeforeNoon", count.beforeNoon);
     if (count.fromNoon > 0) reasons += qtTrId("leftFromNoon", count.fromNoon);
     if (count.excluded > 0) reasons += qtTrId("leftExcluded", count.excluded);
+    if (count.unmeasured > 0) reasons += qtTrId("leftUnmeasured", count.unmeasured);
     if (count.undated > 0) reasons += qtTrId("leftUndated", count.undated);
     if (count.withoutDate > 0) reasons += qtTrId("leftWithoutDate", count.withoutDate);
     return reasons.isEmpty() ? QString() : qtTrId("leftOut").arg(reasons.join(qtTrId(", ")));

@@ -17,12 +17,14 @@ struct ReadingCount {
     int undated = 0;     ///< the monitor's clock was not set, and such readings are not wanted or not drawn
     int withoutDate = 0; ///< no date at all, which the view never counts
     int excluded = 0;    ///< left out by the user
+    int unmeasured = 0;  ///< without pressures, where means are taken
     int listedExcluded = 0; ///< of those counted: a list has them all the same
 
     bool operator==(const ReadingCount&) const = default;
 };
 
-/// Whether a view counts the reading: isListed, isInStatistic, isCounted or isInChart.
+/// Whether a view counts the reading: isListed, isInStatistic, isCounted, isInChart, isInSummary or
+/// isInTrend.
 using CountRule = bool (*)(const ReadingModel& reading, const ReadingSelection& selection);
 
 [[nodiscard]] ReadingCount countReadings(const ReadingList& readings, const ReadingSelection& selection,

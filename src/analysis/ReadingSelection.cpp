@@ -10,6 +10,4 @@ Period lastDays(Instant last, int days) {
     return {DateToDayBoundary(middle - std::chrono::days{days - 1}, true), DateToDayBoundary(last, false)};
 }
 
-bool isAveraged(const ReadingModel& reading) { return !reading.isUndated() && !reading.isExcluded(); }
-
 } // namespace zel

@@ -83,7 +83,31 @@ struct ReadingSelection {
     return isCounted(reading, selection) && !hasUndatedMarker(reading);
 }
 
-/// Whether averages of days and weeks count the reading: it has a day, and is not left out.
-[[nodiscard]] bool isAveraged(const ReadingModel& reading);
+/// Whether it can be a pressure (mmHg) or a pulse (beats per minute): 0 stands for none, and a damaged file
+/// holds any number.
+[[nodiscard]] inline bool isMeasured(std::uint32_t value) {
+    constexpr std::uint32_t mostMeasured = 999;
+    return 0 < value && value <= mostMeasured;
+}
+
+/// Whether there is something to take a mean of. Without a pulse, the pressures count all the same.
+[[nodiscard]] inline bool hasPressures(const ReadingModel& reading) {
+    return isMeasured(reading.sys) && isMeasured(reading.dia);
+}
+
+/// Whether averages of days and weeks count the reading: it has a day and pressures, and is not left out.
+[[nodiscard]] inline bool isAveraged(const ReadingModel& reading) {
+    return !reading.isUndated() && !reading.isExcluded() && hasPressures(reading);
+}
+
+/// Whether the summary counts the reading.
+[[nodiscard]] inline bool isInSummary(const ReadingModel& reading, const ReadingSelection& selection) {
+    return isInStatistic(reading, selection) && hasPressures(reading);
+}
+
+/// Whether the trend counts the reading.
+[[nodiscard]] inline bool isInTrend(const ReadingModel& reading, const ReadingSelection& selection) {
+    return isInChart(reading, selection) && hasPressures(reading);
+}
 
 } // namespace zel

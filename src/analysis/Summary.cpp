@@ -7,7 +7,7 @@ namespace zel {
 namespace {
 
 bool isOfSummary(const ReadingModel& reading, const Period& period) {
-    return isInStatistic(reading, summarySelection(period));
+    return isInSummary(reading, summarySelection(period));
 }
 
 void addFlag(SummaryFigures& figures, const ReadingModel& reading) {
@@ -51,6 +51,10 @@ int countHighReadings(const ReadingList& readings, const Period& period, const L
     return static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
         return (isSysHigh(reading, limits) || isDiaHigh(reading, limits)) && isOfSummary(reading, period);
     }));
+}
+
+bool isAnyDated(const ReadingList& readings) {
+    return !std::ranges::all_of(readings, &ReadingModel::isUndated);
 }
 
 std::optional<DayNumber> lastDayOf(const ReadingList& readings, const Period& period) {

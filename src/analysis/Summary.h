@@ -1,5 +1,6 @@
 #pragma once
-// What one page tells of a period: of all times of the day, without undated readings and those left out.
+// What one page tells of a period: of all times of the day, without undated readings, those without pressures
+// and those left out.
 
 #include "analysis/HighValues.h"
 #include "analysis/PressureMeans.h"
@@ -11,7 +12,7 @@
 
 namespace zel {
 
-/// Of the same readings.
+/// Of the same readings, but that the pulse may be missing.
 struct PressureSpread {
     Spread sys; ///< mmHg
     Spread dia;
@@ -20,7 +21,7 @@ struct PressureSpread {
     void add(const ReadingModel& reading) {
         sys.add(reading.sys);
         dia.add(reading.dia);
-        pulse.add(reading.pulse);
+        if (isMeasured(reading.pulse)) pulse.add(reading.pulse);
     }
     [[nodiscard]] std::uint64_t count() const { return sys.count(); }
 };
@@ -56,6 +57,9 @@ struct DayHalves {
     PressureMeans morning{};
     PressureMeans evening{};
 };
+
+/// Without one, there is no period to tell of.
+[[nodiscard]] bool isAnyDated(const ReadingList& readings);
 
 /// The period's last day with a reading that counts.
 [[nodiscard]] std::optional<DayNumber> lastDayOf(const ReadingList& readings, const Period& period);

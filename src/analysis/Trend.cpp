@@ -49,7 +49,9 @@ DaySpan stepOf(TrendStep step, DayNumber day) {
     return step == TrendStep::month ? monthOf(day) : DaySpan{day, day};
 }
 
+/// All 0 without a value, as a step may have no pulse.
 TrendBand bandOf(ValueCounts& values) {
+    if (values.size() == 0) return {};
     const bool isFew = values.size() < fewestForPercentiles;
     return {values.quantile(isFew ? 0 : 0.1), values.quantile(0.5), values.quantile(isFew ? 1 : 0.9)};
 }
@@ -68,7 +70,7 @@ public:
         ++count;
         sys.add(reading.sys);
         dia.add(reading.dia);
-        pulse.add(reading.pulse);
+        if (isMeasured(reading.pulse)) pulse.add(reading.pulse);
         return true;
     }
     [[nodiscard]] std::vector<TrendPoint> finish() {
@@ -95,7 +97,7 @@ std::vector<TrendPoint> sortedPoints(const ReadingList& readings, const ReadingS
                                      TrendStep step) {
     std::vector<const ReadingModel*> chosen;
     for (const ReadingModel& reading : readings)
-        if (isInChart(reading, selection)) chosen.push_back(&reading);
+        if (isInTrend(reading, selection)) chosen.push_back(&reading);
     std::ranges::sort(chosen, {}, &ReadingModel::day);
     PointMaker maker(step);
     for (const ReadingModel* reading : chosen)
@@ -107,7 +109,7 @@ std::vector<TrendPoint> pointsOf(const ReadingList& readings, const ReadingSelec
                                  TrendStep step) {
     PointMaker maker(step);
     for (const ReadingModel& reading : readings)
-        if (isInChart(reading, selection) && !maker.add(reading))
+        if (isInTrend(reading, selection) && !maker.add(reading))
             return sortedPoints(readings, selection, step); // seldom
     return maker.finish();
 }

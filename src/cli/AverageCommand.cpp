@@ -21,7 +21,7 @@ void addHalfDay(QStringList& lines, const char* name, const PressureMeans& means
 void addMeans(QStringList& lines, const MeasuringWeek& week) {
     lines += line("sys", week.all.sys.withTenths());
     lines += line("dia", week.all.dia.withTenths());
-    lines += line("pulse", week.all.pulse.withTenths());
+    if (week.all.pulse.count() > 0) lines += line("pulse", week.all.pulse.withTenths());
     addHalfDay(lines, "morning", week.morning);
     addHalfDay(lines, "evening", week.evening);
     const AverageRuleFacts& facts = factsOf(week.rule);
@@ -38,6 +38,22 @@ QStringList linesOf(const MeasuringWeek& week) {
     lines += line("readings", QString::number(week.readingsUsed()));
     if (week.readingsUsed() > 0) addMeans(lines, week);
     return lines;
+}
+
+/// What is to be known beside the figures.
+QStringList remarksOn(const MeasuringWeek& week) {
+    QStringList remarks;
+    if (week.readingsLeftOut > 0) remarks += qtTrId("CliFirstDayLeftOut", week.readingsLeftOut);
+    if (week.ofOtherZone > 0) remarks += qtTrId("CliOtherZone", week.ofOtherZone);
+    if (week.excluded > 0) remarks += qtTrId("CliExcludedLeftOut", week.excluded);
+    if (week.excludedLater > 0) remarks += qtTrId("CliExcludedLater", week.excludedLater);
+    if (week.unmeasured > 0) remarks += qtTrId("CliUnmeasured", week.unmeasured);
+    return remarks;
+}
+
+/// A clock that was wrong may have made the week that nobody named.
+bool isToCome(const MeasuringWeek& week, const Clock& clock) {
+    return week.end > LocalZone{}.day(std::chrono::floor<std::chrono::milliseconds>(clock.now()));
 }
 
 std::optional<DayNumber> dayOf(const Date& date) {
@@ -57,10 +73,10 @@ CommandResult runAverage(const Request& request, Surroundings& around) {
         (*store)->setCurrentID(*ID);
         const auto week = calcMeasuringWeek((*store)->getReadingForCurID(), *rule, dayOf(*to));
         printLine(around.out, linesOf(week).join(u'\n'));
-        if (week.readingsLeftOut > 0)
-            printLine(around.err, qtTrId("CliFirstDayLeftOut", week.readingsLeftOut));
-        if (week.ofOtherZone > 0) printLine(around.err, qtTrId("CliOtherZone", week.ofOtherZone));
-        if (week.excluded > 0) printLine(around.err, qtTrId("CliExcludedLeftOut", week.excluded));
+        if (!*to && isToCome(week, around.clock))
+            printLine(around.err, qtTrId("CliWeekToCome").arg(dayText(week.end, u"yyyy-MM-dd"_s)));
+        for (const QString& remark : remarksOn(week))
+            printLine(around.err, remark);
     });
 }
 

@@ -24,21 +24,29 @@ void addMissingCount(QStringList& missing, const QString& what, int count) {
     if (count > 0) missing += what + u' ' + QString::number(count);
 }
 
+void addCount(QStringList& notes, const QString& what, int count) {
+    if (count > 0) notes += what + u": "_s + QString::number(count);
+}
+
 /// In fixed words: what is exported is in no user's language.
 QStringList averageNotes(const MeasuringWeek& week) {
-    QStringList notes{u"Mean of %1 readings on %2 days, measuring week %3 to %4, rule %5; mean pulse %6/min"_s
-                          .arg(week.readingsUsed())
-                          .arg(week.daysUsed)
-                          .arg(dateOfDay(week.begin), dateOfDay(week.end), ruleName(week.rule),
-                               week.all.pulse.withTenths())};
+    QStringList notes{
+        u"Mean of %1 readings on %2 days, measuring week %3 to %4, rule %5"_s.arg(week.readingsUsed())
+            .arg(week.daysUsed)
+            .arg(dateOfDay(week.begin), dateOfDay(week.end), ruleName(week.rule))};
+    if (week.all.pulse.count() > 0) notes.back() += u"; mean pulse %1/min"_s.arg(week.all.pulse.withTenths());
     QStringList missing;
     addMissingCount(missing, u"days"_s, week.missingDays);
     addMissingCount(missing, u"readings"_s, week.missingReadings);
     addMissingCount(missing, u"morning readings"_s, week.missingMornings);
     addMissingCount(missing, u"evening readings"_s, week.missingEvenings);
     if (!missing.isEmpty()) notes += u"Incomplete by the rule; missing: "_s + missing.join(u", "_s);
-    if (week.ofOtherZone > 0)
-        notes += u"Readings of the week that were stored in another time zone: %1"_s.arg(week.ofOtherZone);
+    addCount(notes, u"Readings of the first measuring day, which do not count by the rule"_s,
+             week.readingsLeftOut);
+    addCount(notes, u"Readings of the week that are left out"_s, week.excluded);
+    addCount(notes, u"Readings of later days that are left out"_s, week.excludedLater);
+    addCount(notes, u"Readings without pressures, which do not count"_s, week.unmeasured);
+    addCount(notes, u"Readings of the week that were stored in another time zone"_s, week.ofOtherZone);
     return notes;
 }
 

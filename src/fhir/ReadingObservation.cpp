@@ -1,5 +1,6 @@
 #include "fhir/ReadingObservation.h"
 
+#include "analysis/ReadingSelection.h"
 #include "fhir/Observation.h"
 #include "store/RecordXml.h"
 
@@ -25,10 +26,6 @@ constexpr std::array measures{
     Measure{&ReadingModel::map, loinc("8478-0", "Mean blood pressure"), millimetresOfMercury},
     Measure{&ReadingModel::pulse, loinc("8867-4", "Heart rate"), beatsPerMinute},
 };
-
-constexpr std::uint32_t mostMeasured = 999; // a damaged file holds any number
-
-bool isMeasured(std::uint32_t value) { return 0 < value && value <= mostMeasured; }
 
 QJsonObject componentOf(const ReadingModel& reading, const Measure& measure) {
     const std::uint32_t value = reading.*measure.value;
@@ -72,7 +69,7 @@ QStringList notesOf(const ReadingModel& reading) {
     if (reading.erorr != 0) notes += u"error code of the monitor: "_s + toDecimal(reading.erorr);
     for (const Measure& measure : measures) {
         const std::uint32_t value = reading.*measure.value;
-        if (value > mostMeasured)
+        if (value != 0 && !isMeasured(value))
             notes += u"%1: the number on record, %2, is none that was measured"_s.arg(
                 QLatin1StringView{measure.code.display}, toDecimal(value));
     }

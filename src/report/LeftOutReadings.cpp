@@ -43,7 +43,7 @@ Spans daysBeside(const ReportSource& report, const LeftOutScope& scope) {
     const DayMeans means(report.readings);
     if (scope.isOfSummary) {
         const MeasuringWeek week = summaryWeek(report);
-        spans.emplace_back(week.begin, week.end);
+        if (week.end != noDay) spans.emplace_back(week.begin, week.end);
         for (const CommentModel* comment : commentsOfPeriod(report.comments, report.selection.period))
             addBeforeAndSince(spans, report, means, *comment);
     }

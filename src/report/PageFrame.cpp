@@ -62,8 +62,8 @@ QString shownPart(const ReportSource& report, Section section) {
 /// Which readings the section counts; none for one that is about something else.
 CountRule countRule(Section section) {
     switch (section) {
-    case Section::graph:
-    case Section::trend: return isInChart;
+    case Section::graph: return isInChart;
+    case Section::trend: return isInTrend;
     case Section::histogram:
     case Section::correlation: return isCounted;
     case Section::table: return isListed;

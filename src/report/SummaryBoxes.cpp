@@ -58,7 +58,7 @@ BesideLines weekHalves(const MeasuringWeek& week) {
     };
     add(qtTrId("summaryMornings"), week.morning);
     add(qtTrId("summaryEvenings"), week.evening);
-    lines.push_back({qtTrId("summaryPulse").arg(week.all.pulse.rounded())});
+    if (week.all.pulse.count() > 0) lines.push_back({qtTrId("summaryPulse").arg(week.all.pulse.rounded())});
     return lines;
 }
 
@@ -91,6 +91,7 @@ QString weekRemarks(const MeasuringWeek& week, const ReadingList& readings) {
     });
     QStringList remarks;
     if (week.excluded > 0) remarks += qtTrId("summaryWeekExcluded", week.excluded);
+    if (week.unmeasured > 0) remarks += qtTrId("summaryWeekUnmeasured", week.unmeasured);
     if (typed > 0) remarks += qtTrId("summaryWeekTyped", static_cast<int>(typed));
     return remarks.join(qtTrId("; "));
 }
@@ -122,6 +123,7 @@ QStringList flaggedTexts(const SummaryFigures& figures) {
 } // namespace
 
 MeasuringWeek summaryWeek(const ReportSource& report) {
+    if (!isAnyDated(report.readings)) return calcMeasuringWeek(report.readings, report.weekRule);
     const LocalZone zone;
     const Period& period = report.selection.period;
     const DayNumber first = zone.day(period.begin);
@@ -133,8 +135,10 @@ MeasuringWeek summaryWeek(const ReportSource& report) {
 
 void drawSummaryWeek(Picture& picture, const ReportSource& report, const Rect& rect) {
     const MeasuringWeek week = summaryWeek(report);
-    const QString days = summaryDay(week.begin, report) + u" \u2013 "_s + summaryDay(week.end, report);
-    Rect left = summaryBlock(picture, qtTrId("summaryWeek").arg(ruleName(week.rule), days), rect);
+    const QString days = week.end == noDay
+                             ? QString()
+                             : summaryDay(week.begin, report) + u" \u2013 "_s + summaryDay(week.end, report);
+    Rect left = summaryBlock(picture, qtTrId("summaryWeek").arg(ruleName(week.rule), days).trimmed(), rect);
     if (week.readingsUsed() > 0) {
         left = drawLarge(picture, pressureText(week.all, thresholdOf(week)), weekHalves(week), left);
         summaryLine(picture, thresholdText(week), left, summaryBold);

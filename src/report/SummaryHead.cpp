@@ -1,5 +1,6 @@
 #include "report/SummaryHead.h"
 
+#include "analysis/Summary.h"
 #include "report/FieldText.h"
 #include "report/SummaryType.h"
 
@@ -52,6 +53,7 @@ void drawPractitioner(Picture& picture, const ReportSource& report, const Rect& 
 }
 
 QString periodText(const ReportSource& report) {
+    if (!isAnyDated(report.readings)) return qtTrId("summaryNoDated");
     const LocalZone zone;
     const Period& period = report.selection.period;
     return qtTrId("summaryPeriod")

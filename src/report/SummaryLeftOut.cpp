@@ -56,10 +56,12 @@ void drawExcluded(Picture& picture, const ReportSource& report, Rect& left) {
 
 QString countsOf(const ReportSource& report) {
     const ReadingCount count =
-        countReadings(report.readings, summarySelection(report.selection.period), isInStatistic);
+        countReadings(report.readings, summarySelection(report.selection.period), isInSummary);
     const QString left = describeLeftOut(count);
     const auto comments = commentsOfPeriod(report.comments, report.selection.period).size();
-    QStringList parts{left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left};
+    QStringList parts{report.readings.empty() ? qtTrId("summaryNoDated")
+                      : left.isEmpty()        ? qtTrId("summaryNothingLeftOut")
+                                              : left};
     if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
         parts += qtTrId("summaryOtherComments", others);
     QString line = parts.join(qtTrId("; "));

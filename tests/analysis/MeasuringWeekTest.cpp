@@ -121,8 +121,10 @@ const WeekCase weekCases[] = {
      "135.0/74.7/62.0 (135/75/62) am 139.0/70.0 pm 131.0/79.3 reached", ""},
     {AverageRule::esh, "one reading short", "- | - | - | - | 100/60/50 | 131/81/71 x6 | 133/83/73 x5",
      "2+1 days, 11+1", "131.9/81.9/71.9 (132/82/72) am 131.9/81.9", "readings 1"},
-    {AverageRule::esh, "values at the ends", "- | - | - | - | 100/60/50 | 0/0/0 x6 | 4294967295/300/1 x6",
-     "2+1 days, 12+1", "2147483647.5/150.0/0.5 (2147483648/150/1) am 2147483647.5/150.0 reached", ""},
+    {AverageRule::esh, "values at the ends; what is no pressure counts nowhere",
+     "- | - | - | 0/0/0 4294967295/80/60 | 1/1/1 | 1/1/1 x6, 0/80/60 120/0/60 1000/80/60 | 999/999/0 x3 "
+     "999/999/1 x3",
+     "2+1 days, 12+1", "500.0/500.0/1.0 (500/500/1) am 500.0/500.0 reached", ""},
     {AverageRule::nice, "a full week",
      "200/120/99 | 136/86/70 x2, 132/84/66 x2 | 136/86/70 x2, 132/84/66 x2 | 136/86/70 x2, 132/84/66 x2 | "
      "136/86/70 x2, 132/84/66 x2 | 136/86/70 x2, 132/84/66 x2 | 136/86/70 x2, 132/84/66 x2",
@@ -239,9 +241,17 @@ TEST(MeasuringWeek, WhatIsLeftOutIsCountedApart) {
     const MeasuringWeek week = calcMeasuringWeek(readings, AverageRule::aha);
     EXPECT_EQ(week.end, lastOfWeek - 1) << "the last day with a reading that counts";
     EXPECT_EQ(week.readingsUsed(), 3U);
-    EXPECT_EQ(week.excluded, 3) << "a day more belongs to this week, and the last day is none of another";
-    EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha, lastOfWeek).excluded, 2);
-    EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha, lastOfWeek - 1).excluded, 2);
+    EXPECT_EQ(week.excluded, 2) << "a day more belongs to this week";
+    EXPECT_EQ(week.excludedLater, 1) << "it would be the last day of another one";
+    readings.push_back(readingAt("2026-03-11 10:00", 130, 0));
+    readings.push_back(readingAt("2027-03-11 10:00", 0, 0));
+    EXPECT_EQ(calcMeasuringWeek(readings, AverageRule::aha).unmeasured, 2);
+    for (const DayNumber end : {lastOfWeek - 1, lastOfWeek}) {
+        const MeasuringWeek told = calcMeasuringWeek(readings, AverageRule::aha, end);
+        EXPECT_EQ(told.excluded, 2);
+        EXPECT_EQ(told.excludedLater, 0) << "nobody asked for later days";
+        EXPECT_EQ(told.unmeasured, 1);
+    }
     for (ReadingModel& reading : readings)
         reading.exclusion = u""_s;
     const MeasuringWeek none = calcMeasuringWeek(readings, AverageRule::aha);

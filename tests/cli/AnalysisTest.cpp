@@ -178,6 +178,7 @@ TEST_F(AnalysisTest, ReadingIsLeftOutAndTakenInAgain) {
     EXPECT_EQ(run("statistics").err, "2 readings; 1 left out by the user, 1 undated one not counted\n");
     EXPECT_EQ(run("average --to 2026-11-03 --rule aha").err,
               "1 reading of the week is left out by the user.\n");
+    EXPECT_EQ(run("average --rule aha").err, "1 reading of later days is left out, too.\n");
     EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient=M1"_s}).status, 0);
     EXPECT_EQ(flatData().count("<Excluded>"), 1);
     EXPECT_EQ(run("readings --include 1000004").status, 0);

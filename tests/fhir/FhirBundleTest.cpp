@@ -171,11 +171,22 @@ TEST(FhirBundleTest, AverageIsThatOfTheWeekAndRefersToItsReadings) {
     EXPECT_EQ(text(average[u"effectivePeriod"_s][u"end"_s]), "2026-11-04T19:05:00+01:00");
     EXPECT_EQ(average[u"component"_s][0][u"valueQuantity"_s][u"value"_s].toDouble(), 130.1); // 1431/11
     EXPECT_EQ(text(average[u"note"_s][1][u"text"_s]), "Incomplete by the rule; missing: readings 1");
+    EXPECT_EQ(text(average[u"note"_s][2][u"text"_s]),
+              "Readings of the first measuring day, which do not count by the rule: 4");
+    EXPECT_EQ(text(average[u"note"_s][3][u"text"_s]), "Readings of the week that are left out: 1");
 
     readings[8].exclusion = QString();
     average = resources(patient(u"A1"_s), readings).back();
     EXPECT_EQ(text(average[u"status"_s]), "final");
-    EXPECT_EQ(average[u"note"_s].toArray().size(), 1);
+    EXPECT_EQ(average[u"note"_s].toArray().size(), 2);
+    readings.push_back(reading("2026-11-05 07:00", u"99"_s, 0));
+    average = resources(patient(u"A1"_s), readings).back();
+    EXPECT_EQ(average[u"derivedFrom"_s].toArray().size(), 12);
+    EXPECT_EQ(text(average[u"note"_s][2][u"text"_s]), "Readings without pressures, which do not count: 1");
+    readings.back().exclusion = u"of a wrong day"_s;
+    average = resources(patient(u"A1"_s), readings).back();
+    EXPECT_EQ(text(average[u"note"_s][2][u"text"_s]), "Readings of later days that are left out: 1");
+    readings.pop_back();
     average = resources(patient(u"A1"_s), readings, AverageRule::aha).back();
     EXPECT_EQ(average[u"derivedFrom"_s].toArray().size(), 16) << "the first day counts there";
     EXPECT_EQ(resources(patient(u"A1"_s), {readings[0]}).size(), 2U) << "nothing is left to average";

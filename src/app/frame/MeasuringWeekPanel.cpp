@@ -32,6 +32,8 @@ QString countsOf(const MeasuringWeek& week) {
     QString counted = qtTrId("weekDays", week.daysUsed).arg(readings);
     if (week.readingsLeftOut > 0) counted += qtTrId("; ") + qtTrId("weekFirstDay", week.readingsLeftOut);
     if (week.excluded > 0) counted += qtTrId("; ") + qtTrId("weekExcluded", week.excluded);
+    if (week.excludedLater > 0) counted += qtTrId("; ") + qtTrId("weekExcludedLater", week.excludedLater);
+    if (week.unmeasured > 0) counted += qtTrId("; ") + qtTrId("weekUnmeasured", week.unmeasured);
     return counted;
 }
 

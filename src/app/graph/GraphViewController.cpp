@@ -138,8 +138,8 @@ void GraphViewController::setView(int state) {
         choice->setEnabled(any);
     tools->setVisible(any && viewState == 0);
     trendApart->setVisible(any && viewState == 3);
-    frame->setRule(viewState == 0 || viewState == 3 ? isInChart
-                                                    : isCounted); // as the same page does on paper
+    constexpr std::array<CountRule, 4> rules{isInChart, isCounted, isCounted, isInTrend}; // as on paper
+    frame->setRule(rules.at(static_cast<std::size_t>(viewState)));
 }
 
 void GraphViewController::reload() { setView(viewState); }
