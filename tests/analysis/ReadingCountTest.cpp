@@ -102,12 +102,24 @@ TEST(ReadingCount, TheListTellsTheHalfOfTheDayAndOthersTellWhatIsExcluded) {
     }
 }
 
+TEST(ReadingCount, WhatHasNoPressuresIsToldWhereMeansAreTaken) {
+    ReadingSelection selection = during("2019-03-01", "2019-03-31");
+    ReadingList readings = readingsAt({"2019-03-02 08:00", "2019-03-03 20:00"});
+    readings.back().sys = 0;
+    EXPECT_EQ(countReadings(readings, selection, isInStatistic), (ReadingCount{.counted = 2}));
+    for (const CountRule rule : {isInSummary, isInTrend})
+        EXPECT_EQ(countReadings(readings, selection, rule), (ReadingCount{.counted = 1, .unmeasured = 1}));
+    selection.view = ViewSelection::amOnly;
+    EXPECT_EQ(countReadings(readings, selection, isInTrend), (ReadingCount{.counted = 1, .fromNoon = 1}));
+}
+
 TEST(ReadingCount, SaysEachReasonThatHoldsForOneReadingAndNoOther) {
     const RealTexts texts;
     const std::pair<ReadingCount, const char*> cases[] = {
         {{.counted = 1}, "1 reading"},
         {{.counted = 2, .listedExcluded = 1}, "2 readings, 1 of them left out by the user"},
         {{.outsidePeriod = 1}, "0 readings; 1 outside the period not counted"},
+        {{.counted = 1, .unmeasured = 2}, "1 reading; 2 without pressures not counted"},
         {{.beforeNoon = 1, .fromNoon = 1}, "0 readings; 1 before noon, 1 from noon on not counted"},
         {{.undated = 1, .withoutDate = 1, .excluded = 1},
          "0 readings; 1 left out by the user, 1 undated one, 1 without any date not counted"},

@@ -49,7 +49,7 @@ TEST(Spread, isThatOfASample) {
 }
 
 TEST(Summary, countsTheDatedReadingsOfThePeriodThatAreNotLeftOut) {
-    // 08:00, 11:59, 12:00, 20:00, and five that do not count.
+    // 08:00, 11:59, 12:00, 20:00, and six that do not count.
     ReadingList readings{readingAt("2019-03-01", 134, 84),
                          readingAt("2019-03-01 11:59", 136, 80),
                          readingAt("2019-03-01 12:00", 120, 86),
@@ -58,11 +58,12 @@ TEST(Summary, countsTheDatedReadingsOfThePeriodThatAreNotLeftOut) {
                          readingAt("2019-04-01"),
                          readingAt("2000-01-01"),
                          readingAt("2019-03-05"),
-                         readingAt("2019-03-06")};
+                         readingAt("2019-03-06"),
+                         readingAt("2019-03-07", 0, 70)};
     readings[7].exclusion = u""_s;
     readings[8].ReadingDate.reset();
     readings[8].day = noDay;
-    const std::uint32_t codes[] = {4, 5, 2, 0, 5, 5, 5, 5, 5};
+    const std::uint32_t codes[] = {4, 5, 2, 0, 5, 5, 5, 5, 5, 5};
     for (std::size_t i = 0; i < readings.size(); ++i) {
         readings[i].Arrhythmia = codes[i];
         readings[i].pulse = 60 + static_cast<std::uint32_t>(i);

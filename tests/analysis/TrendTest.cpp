@@ -121,10 +121,16 @@ TEST(Trend, MorningsAndEveningsAreSeriesOfTheirOwn) {
         << "without readings, too";
 }
 
-TEST(Trend, LeavesOutWhatTheUserHasExcluded) {
-    ReadingList readings = valuesOn("2026-03-02", {100, 140});
+TEST(Trend, LeavesOutWhatTheUserHasExcludedAndWhatHasNoPressures) {
+    ReadingList readings = valuesOn("2026-03-02", {100, 140, 0, 1, 1000});
     readings.front().exclusion = u"cuff slipped"_s;
-    EXPECT_EQ(words(calcTrend(readings, during("2026-03-01", "2026-03-31"))), "03-02/03-02 (1) 140 140 140");
+    readings[1].pulse = 0;
+    const Trend trend = calcTrend(readings, during("2026-03-01", "2026-03-31"));
+    EXPECT_EQ(words(trend), "03-02/03-02 (1) 140 140 140");
+    EXPECT_EQ(words(trend, &TrendPoint::pulse), "03-02/03-02 (1) 0 0 0") << "none was measured";
+    readings.push_back(readingAt("2026-03-02", 140, 80));
+    EXPECT_EQ(words(calcTrend(readings, during("2026-03-01", "2026-03-31")), &TrendPoint::pulse),
+              "03-02/03-02 (2) 60 60 60");
 }
 
 TEST(Trend, EachMeasureIsItsOwn) {

@@ -78,6 +78,13 @@ TEST_F(AnalysisTest, AverageIsThatOfTheRulesWeek) {
     EXPECT_EQ(none.out,
               "rule: esh\ncomplete: no\nmissing: 3 more days, 12 more readings\ndays: 0\nreadings: 0\n");
     EXPECT_EQ(none.err, "");
+    clock.set(std::chrono::sys_days{std::chrono::year{2026} / 11 / 2} + std::chrono::hours{8});
+    EXPECT_EQ(run("average --rule aha").err, "The week ends on 2026-11-03, a day that is yet to come.\n");
+    EXPECT_EQ(run("average --rule aha --to 2026-11-03").err, "") << "as it was asked for";
+    setData(data().replace("<Dia>60</Dia>", "<Dia>0</Dia>").replace("<Pulse>66</Pulse>", "<Pulse>0</Pulse>"));
+    const Outcome damaged = run("average --rule aha");
+    EXPECT_THAT(damaged.out, testing::HasSubstr("sys: 136.0\ndia: 84.0\npulse: 71.0\n"));
+    EXPECT_EQ(damaged.err, "1 reading without pressures is not counted.\n");
 }
 
 TEST_F(AnalysisTest, AverageOfReadingsOfAnotherTimeZoneSaysSo) {

@@ -88,7 +88,8 @@ std::vector<Spoiled> spoiledSamples() {
                                               DateToDayBoundary(noonOf("2030-01-31"), false)};
     samples.push_back({"off the scale", SampleReport(60, 1)});
     for (ReadingModel& reading : samples.back().sample.readings)
-        reading.sys = reading.dia = reading.pulse = UINT32_MAX;
+        reading.sys = reading.dia = reading.pulse =
+            &reading == &samples.back().sample.readings[0] ? UINT32_MAX : 999;
     samples.back().sample.highFrom = {135, 85};
     samples.push_back({"all in one minute", SampleReport(60, 1)});
     for (ReadingModel& reading : samples.back().sample.readings) {
@@ -183,6 +184,17 @@ TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
     expectWeek("Measuring week (AHA)  2018/12/28 \u2013 2019/01/03");
     sample.selection.period.begin = DateToDayBoundary(noonOf("2019-01-04"), true);
     expectWeek("Measuring week (AHA)  2019/01/02 \u2013 2019/01/08");
+}
+
+TEST(Summary, inventsNoDaysForAPatientWithoutADatedReading) {
+    SampleReport sample;
+    for (const char* kind : {"No dated readings", "1 undated one not counted"}) {
+        const QStringList words = wordsOf(sample.view());
+        EXPECT_TRUE(words.contains(u"Measuring week (ESH)"_s)) << kind;
+        EXPECT_THAT(words.filter(u"From "_s), testing::IsEmpty());
+        EXPECT_TRUE(words.contains(QString::fromUtf8(kind))) << words.join(u'|').toStdString();
+        addUndated(sample);
+    }
 }
 
 TEST(Summary, saysThatNoReadingOfTheWeekCountsYetWhereThereAreSome) {
