@@ -114,8 +114,8 @@ TEST_F(ReportTest, daysBesideTheReadingsAreNoReversedPeriod) {
          {Row{"M1", "--from=2026-12-01", "From 01/12/2026 to 01/12/2026", "25/11/2026 – 01/12/2026"},
           Row{"M1", "--to=2026-10-05", "From 05/10/2026 to 05/10/2026", "29/09/2026 – 05/10/2026"},
           Row{"M1", "--from=2026-11-03", "From 03/11/2026 to 03/11/2026", "28/10/2026 – 03/11/2026"},
-          Row{"NONE", "--from=2026-12-01", "From 01/12/2026 to 01/12/2026", "25/11/2026 – 01/12/2026"},
-          Row{"NONE", "--to=2025-10-05", "From 05/10/2025 to 05/10/2025", "29/09/2025 – 05/10/2025"}}) {
+          Row{"NONE", "--from=2026-12-01", "No dated readings", "No readings in this week"},
+          Row{"NONE", "--to=2025-10-05", "No dated readings", "No readings in this week"}}) {
         QStringList arguments{u"report"_s, u"--section=summary"_s, u"--output"_s, output};
         arguments += {u"--patient"_s, QLatin1String(row.ID), QLatin1String(row.option)};
         ASSERT_EQ(zel(arguments).status, 0);
