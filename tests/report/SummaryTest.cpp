@@ -1,8 +1,11 @@
 #include "SampleReport.h"
 #include "analysis/HighValues.h"
 #include "chart/Drawing.h"
+#include "chart/PicturePainter.h"
 #include "report/SummaryComments.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QRegularExpression>
 
 #include <gmock/gmock.h>
@@ -338,6 +341,22 @@ TEST(Summary, tellsOfHowManyDaysTheLastDaysAre) {
         sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
         EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(heading)));
     }
+}
+
+TEST(Summary, aloneHasNoColours) {
+    SampleReport sample(62, 2);
+    sample.highFrom = {135, 85};
+    sample.isDemonstration = true;
+    const PrintView view = sample.view();
+    const auto isGrey = [&](Section section) {
+        QImage image(600, 850, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintPicture(painter, view.page(section, 1), image.height());
+        return painter.end() && image.allGray();
+    };
+    EXPECT_TRUE(isGrey(Section::summary));
+    EXPECT_FALSE(isGrey(Section::table));
 }
 
 TEST(Summary, tellsWhoThePatientIs) {
