@@ -244,21 +244,51 @@ TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
     EXPECT_EQ(wordsOf(sample.view()).filter(u"the week after"_s).size(), 0);
 }
 
-TEST(Summary, aMeanBelowTheThresholdIsNotShownAsTheThreshold) {
+TEST(Summary, aMeanBelowALimitIsNotShownAsTheLimit) {
     struct Case {
         std::uint32_t last, dia;
-        const char* words;
+        LimitPair limits;
+        const char *threshold, *large, *half, *ofTable;
     };
-    for (const Case& one : {Case{134, 84, "Below the threshold of 135/85 (to a tenth: <135.0/84.0)"},
-                            Case{134, 85, "At or above the threshold of 135/85 (to a tenth: <135.0/85.0)"},
-                            Case{133, 84, "Below the threshold of 135/85 (to a tenth: 134.9/84.0)"},
-                            Case{135, 84, "At or above the threshold of 135/85 (to a tenth: 135.0/84.0)"}}) {
+    for (const Case& one : {Case{134,
+                                 84,
+                                 {135, 85},
+                                 "Below the threshold of 135/85 (to a tenth: <135.0/84.0)",
+                                 "<135/84",
+                                 "<135/84 (13)",
+                                 "<135.0"},
+                            Case{134,
+                                 85,
+                                 {0, 0},
+                                 "At or above the threshold of 135/85 (to a tenth: <135.0/85.0)",
+                                 "<135/85\u25B2",
+                                 "135/85 (13)",
+                                 "135.0"},
+                            Case{133,
+                                 84,
+                                 {135, 85},
+                                 "Below the threshold of 135/85 (to a tenth: 134.9/84.0)",
+                                 "<135/84",
+                                 "<135/84 (13)",
+                                 "134.9"},
+                            Case{135,
+                                 84,
+                                 {140, 90},
+                                 "At or above the threshold of 135/85 (to a tenth: 135.0/84.0)",
+                                 "135\u25B2/84",
+                                 "135/84 (13)",
+                                 "135.0"}}) {
         SampleReport sample;
+        sample.highFrom = one.limits;
+        sample.selection.period.begin = DateToDayBoundary(noonOf("2019-03-02"), true);
         add(sample, "2019-03-01 07:00", 199, 99); // the first day, which does not count
         for (int i = 0; i < 24; ++i)
             add(sample, i % 2 == 0 ? "2019-03-02 07:00" : "2019-03-02 19:00", 135, one.dia);
-        add(sample, "2019-03-03 07:00", one.last, one.dia);
-        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(one.words)));
+        add(sample, "2019-03-02 07:30", one.last, one.dia);
+        const QString large = QString::fromUtf8(one.large);
+        for (const QString& words : {QString::fromUtf8(one.threshold), large, u"Morning "_s + large,
+                                     QString::fromUtf8(one.half), QString::fromUtf8(one.ofTable)})
+            EXPECT_THAT(wordsOf(sample.view()), testing::Contains(words));
     }
 }
 
