@@ -1056,6 +1056,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryNothingLeftOut"><translation>Alle Messungen sind gezählt</translation></message>
     <message id="summaryNoWeek"><translation>Keine Messungen in dieser Woche</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 an %n Tag</numerusform><numerusform>%1 an %n Tagen</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n an anderen Tagen</numerusform><numerusform>%n an anderen Tagen</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n Kommentar zu anderen Tagen</numerusform><numerusform>%n Kommentare zu anderen Tagen</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n Messung nicht darauf untersucht</numerusform><numerusform>%n Messungen nicht darauf untersucht</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Von %1 bis %2</translation></message>

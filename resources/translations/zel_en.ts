@@ -1056,6 +1056,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n on other days</numerusform><numerusform>%n on other days</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comment of other days</numerusform><numerusform>%n comments of other days</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n reading was not examined for it</numerusform><numerusform>%n readings were not examined for it</numerusform></translation></message>
     <message id="summaryPeriod"><translation>From %1 to %2</translation></message>

@@ -1056,6 +1056,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryNothingLeftOut"><translation>Se cuentan todas las mediciones</translation></message>
     <message id="summaryNoWeek"><translation>Sin mediciones en esta semana</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 en %n día</numerusform><numerusform>%1 en %n días</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n en otros días</numerusform><numerusform>%n en otros días</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comentario de otros días</numerusform><numerusform>%n comentarios de otros días</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>En %n medición no se ha buscado</numerusform><numerusform>En %n mediciones no se ha buscado</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Del %1 al %2</translation></message>

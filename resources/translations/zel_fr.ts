@@ -1056,6 +1056,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryNothingLeftOut"><translation>Toutes les mesures sont comptées</translation></message>
     <message id="summaryNoWeek"><translation>Aucune mesure pendant cette semaine</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 sur %n jour</numerusform><numerusform>%1 sur %n jours</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n à d’autres jours</numerusform><numerusform>%n à d’autres jours</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n commentaire d’autres jours</numerusform><numerusform>%n commentaires d’autres jours</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n mesure sans recherche d’arythmie</numerusform><numerusform>%n mesures sans recherche d’arythmie</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Du %1 au %2</translation></message>

@@ -1056,6 +1056,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryNothingLeftOut"><translation>Nessuna: tutte conteggiate</translation></message>
     <message id="summaryNoWeek"><translation>Nessuna misurazione nella settimana</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 in %n giorno</numerusform><numerusform>%1 in %n giorni</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n in altri giorni</numerusform><numerusform>%n in altri giorni</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n commento di altri giorni</numerusform><numerusform>%n commenti di altri giorni</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n misurazione non esaminata per aritmia</numerusform><numerusform>%n misurazioni non esaminate per aritmia</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Dal %1 al %2</translation></message>

@@ -1056,6 +1056,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryNothingLeftOut"><translation>Liczą się wszystkie pomiary</translation></message>
     <message id="summaryNoWeek"><translation>Brak pomiarów w tym tygodniu</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 z %n dnia</numerusform><numerusform>%1 z %n dni</numerusform><numerusform>%1 z %n dni</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n w innych dniach</numerusform><numerusform>%n w innych dniach</numerusform><numerusform>%n w innych dniach</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n komentarz z innych dni</numerusform><numerusform>%n komentarze z innych dni</numerusform><numerusform>%n komentarzy z innych dni</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n pomiaru nie badano pod tym kątem</numerusform><numerusform>%n pomiarów nie badano pod tym kątem</numerusform><numerusform>%n pomiarów nie badano pod tym kątem</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Od %1 do %2</translation></message>

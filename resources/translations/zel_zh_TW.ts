@@ -1056,6 +1056,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryNothingLeftOut"><translation>所有量測皆計入</translation></message>
     <message id="summaryNoWeek"><translation>這一週沒有量測</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%n 天共 %1</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>其他日期有 %n 則</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>其他日期的註記 %n 則</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n 筆量測未經偵測</numerusform></translation></message>
     <message id="summaryPeriod"><translation>%1 至 %2</translation></message>

@@ -58,11 +58,7 @@ QString countsOf(const ReportSource& report) {
     const ReadingCount count =
         countReadings(report.readings, summarySelection(report.selection.period), isInStatistic);
     const QString left = describeLeftOut(count);
-    const auto comments = commentsOfPeriod(report.comments, report.selection.period).size();
-    QStringList parts{left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left};
-    if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
-        parts += qtTrId("summaryOtherComments", others);
-    QString line = parts.join(qtTrId("; "));
+    QString line = left.isEmpty() ? qtTrId("summaryNothingLeftOut") : left;
     line.front() =
         line.front().toUpper(); // within a sentence, some languages begin with a word where others count
     return line;

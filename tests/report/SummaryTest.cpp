@@ -168,6 +168,31 @@ TEST(Summary, tellsHowManyMoreThereAre) {
     }
 }
 
+TEST(Summary, commentsOfOtherDaysAreToldBesideThoseOfThePeriod) {
+    SampleReport sample(20);
+    sample.selection.period.begin = DateToDayBoundary(noonOf("2019-01-03"), true);
+    const auto told = [&] {
+        return wordsOf(sample.view())
+            .filter(
+                QRegularExpression(u"comments? |other days"_s, QRegularExpression::CaseInsensitiveOption));
+    };
+    const auto expectTold = [&](const char* words) {
+        EXPECT_THAT(told(), testing::Contains(QString::fromUtf8(words)));
+        EXPECT_EQ(told().filter(u"other days"_s).size(), sample.comments.empty() ? 0 : 1);
+    };
+    expectTold("No comments in this period");
+    sample.addComment("2019-01-01", "2019-01-02", 1, u"Started a tablet."_s);
+    expectTold("No comments in this period; 1 on other days");
+    sample.addComment("2019-01-03", "2019-01-04", 1, u"Dose halved."_s);
+    expectTold("1 comment of other days");
+    for (int i = 0; i < 30; ++i)
+        sample.addComment("2019-01-03", "2019-01-04", 1, u"Dose halved."_s);
+    EXPECT_THAT(told(), testing::Contains(testing::Truly([](const QString& words) {
+                    return words.startsWith("and "_L1)
+                           && words.endsWith("more comments; 1 comment of other days"_L1);
+                })));
+}
+
 TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
     SampleReport sample(20); // to 10 January
     sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-08"), false);
