@@ -58,7 +58,7 @@ QString fewReadings(const PressureMeans& before, const PressureMeans& since) {
 BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comments,
                                   const CommentModel& comment) {
     const DayNumber begin = comment.beginDay;
-    if (isNilDay(begin)) return {};
+    if (isUndatedDay(begin)) return {};
     return {spanOf(means, begin - daysBefore, begin - 1),
             spanOf(means, begin, lastDaySince(comments, begin))};
 }
