@@ -53,6 +53,12 @@ int countHighReadings(const ReadingList& readings, const Period& period, const L
     }));
 }
 
+int countOfOtherZone(const ReadingList& readings, const Period& period) {
+    return static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
+        return reading.isOfOtherZone && isOfSummary(reading, period);
+    }));
+}
+
 std::optional<DayNumber> lastDayOf(const ReadingList& readings, const Period& period) {
     std::optional<DayNumber> last;
     for (const ReadingModel& reading : readings)

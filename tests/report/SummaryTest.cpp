@@ -229,16 +229,19 @@ TEST(Summary, saysThatNoReadingOfTheWeekCountsYetWhereThereAreSome) {
     }
 }
 
-TEST(Summary, theWeekTellsWhatWasStoredInAnotherTimeZone) {
+TEST(Summary, tellsWhatWasStoredInAnotherTimeZone) {
     SampleReport sample(20);
-    sample.readings[0].isOfOtherZone = true; // on 1 January
     const QString told = u" stored in another time zone; times are those of this computer"_s;
-    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList()) << "none of the week";
+    sample.readings[0].isOfOtherZone = true; // on 1 January
+    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList(u"1 counted reading was"_s + told))
+        << "of the period, none of the week";
+    sample.readings[0].exclusion = u"does not count"_s;
+    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList());
     sample.readings[17].isOfOtherZone = sample.readings[18].isOfOtherZone = true;
     sample.readings[16].exclusion = u"loose cuff"_s;
     for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
         const QStringList words = wordsOf(sample.view(paper));
-        EXPECT_EQ(words.filter(told), QStringList(u"2"_s + told));
+        EXPECT_EQ(words.filter(told), (QStringList{u"2 counted readings were"_s + told, u"2"_s + told}));
         EXPECT_TRUE(words.contains(u"1 of the week left out by the user"_s));
     }
 }
