@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>keine Messung in den 14 Tagen vorher, %1 seither</translation></message>
     <message id="noneBeforeOrSince"><translation>keine Messung vorher oder seither</translation></message>
     <message id="noneSince"><translation>%1 vorher, keine Messung seither</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n Messung</numerusform><numerusform>%n Messungen</numerusform></translation></message>
     <message id="rowsCut"><translation>Die Kommentare umfassen mehr Tage ohne Messung, als die Liste zeigen kann: Es sind höchstens %1, einige fehlen deshalb.</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryNothingLeftOut"><translation>Alle Messungen sind gezählt</translation></message>
     <message id="summaryNoWeek"><translation>Keine Messungen in dieser Woche</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 an %n Tag</numerusform><numerusform>%1 an %n Tagen</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n an anderen Tagen</numerusform><numerusform>%n an anderen Tagen</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n Kommentar zu anderen Tagen</numerusform><numerusform>%n Kommentare zu anderen Tagen</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n Messung nicht darauf untersucht</numerusform><numerusform>%n Messungen nicht darauf untersucht</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>%n gezählte Messung wurde in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n gezählte Messungen wurden in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Von %1 bis %2</translation></message>
     <message id="summaryPulse"><translation>Puls %1</translation></message>
     <message id="summaryRate"><translation>Puls, 1/min</translation></message>

@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>no reading in the 14 days before, %1 since</translation></message>
     <message id="noneBeforeOrSince"><translation>no reading before or since</translation></message>
     <message id="noneSince"><translation>%1 before, no reading since</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n stored in another time zone; times are those of this computer</numerusform><numerusform>%n stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="rowsCut"><translation>The comments cover more days without a reading than the list can show: at most %1, so that some are missing.</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryNothingLeftOut"><translation>Every reading is counted</translation></message>
     <message id="summaryNoWeek"><translation>No readings in this week</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n on other days</numerusform><numerusform>%n on other days</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comment of other days</numerusform><numerusform>%n comments of other days</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n reading was not examined for it</numerusform><numerusform>%n readings were not examined for it</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>%n counted reading was stored in another time zone; times are those of this computer</numerusform><numerusform>%n counted readings were stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="summaryPeriod"><translation>From %1 to %2</translation></message>
     <message id="summaryPulse"><translation>Pulse %1</translation></message>
     <message id="summaryRate"><translation>Pulse, 1/min</translation></message>

@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>ninguna medición en los 14 días anteriores, %1 desde entonces</translation></message>
     <message id="noneBeforeOrSince"><translation>ninguna medición antes ni desde entonces</translation></message>
     <message id="noneSince"><translation>%1 antes, ninguna medición desde entonces</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n medición guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n mediciones guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n medición</numerusform><numerusform>%n mediciones</numerusform></translation></message>
     <message id="rowsCut"><translation>Los comentarios abarcan más días sin mediciones de los que la lista puede mostrar: como máximo %1, por lo que faltan algunos.</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryNothingLeftOut"><translation>Se cuentan todas las mediciones</translation></message>
     <message id="summaryNoWeek"><translation>Sin mediciones en esta semana</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 en %n día</numerusform><numerusform>%1 en %n días</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n en otros días</numerusform><numerusform>%n en otros días</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n comentario de otros días</numerusform><numerusform>%n comentarios de otros días</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>En %n medición no se ha buscado</numerusform><numerusform>En %n mediciones no se ha buscado</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>%n medición contada se guardó en otra zona horaria; horas de este equipo</numerusform><numerusform>%n mediciones contadas se guardaron en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Del %1 al %2</translation></message>
     <message id="summaryPulse"><translation>Pulso %1</translation></message>
     <message id="summaryRate"><translation>Pulso, lpm</translation></message>

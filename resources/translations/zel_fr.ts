@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>aucune mesure dans les 14 jours précédents, %1 depuis</translation></message>
     <message id="noneBeforeOrSince"><translation>aucune mesure avant ni depuis</translation></message>
     <message id="noneSince"><translation>%1 avant, aucune mesure depuis</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n mesure enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n mesures enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n mesure</numerusform><numerusform>%n mesures</numerusform></translation></message>
     <message id="rowsCut"><translation>Les commentaires couvrent plus de jours sans mesure que la liste ne peut en afficher : %1 au maximum ; certains manquent donc.</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryNothingLeftOut"><translation>Toutes les mesures sont comptées</translation></message>
     <message id="summaryNoWeek"><translation>Aucune mesure pendant cette semaine</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 sur %n jour</numerusform><numerusform>%1 sur %n jours</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n à d’autres jours</numerusform><numerusform>%n à d’autres jours</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n commentaire d’autres jours</numerusform><numerusform>%n commentaires d’autres jours</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n mesure sans recherche d’arythmie</numerusform><numerusform>%n mesures sans recherche d’arythmie</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>%n mesure comptée a été enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n mesures comptées ont été enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Du %1 au %2</translation></message>
     <message id="summaryPulse"><translation>Pouls %1</translation></message>
     <message id="summaryRate"><translation>Pouls, bpm</translation></message>

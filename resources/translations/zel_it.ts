@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>nessuna misurazione nei 14 giorni precedenti, %1 dopo</translation></message>
     <message id="noneBeforeOrSince"><translation>nessuna misurazione né prima né dopo</translation></message>
     <message id="noneSince"><translation>%1 prima, nessuna misurazione dopo</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n misurazione</numerusform><numerusform>%n misurazioni</numerusform></translation></message>
     <message id="rowsCut"><translation>I commenti coprono più giorni senza misurazioni di quanti l’elenco possa mostrare: al massimo %1, perciò alcuni mancano.</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryNothingLeftOut"><translation>Nessuna: tutte conteggiate</translation></message>
     <message id="summaryNoWeek"><translation>Nessuna misurazione nella settimana</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 in %n giorno</numerusform><numerusform>%1 in %n giorni</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n in altri giorni</numerusform><numerusform>%n in altri giorni</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n commento di altri giorni</numerusform><numerusform>%n commenti di altri giorni</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n misurazione non esaminata per aritmia</numerusform><numerusform>%n misurazioni non esaminate per aritmia</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>%n misurazione conteggiata è stata salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n misurazioni conteggiate sono state salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Dal %1 al %2</translation></message>
     <message id="summaryPulse"><translation>Polso %1</translation></message>
     <message id="summaryRate"><translation>Polso, bpm</translation></message>

@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>w poprzednich 14 dniach brak pomiarów, potem %1</translation></message>
     <message id="noneBeforeOrSince"><translation>brak pomiarów zarówno wcześniej, jak i potem</translation></message>
     <message id="noneSince"><translation>wcześniej %1, potem brak pomiarów</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n pomiar</numerusform><numerusform>%n pomiary</numerusform><numerusform>%n pomiarów</numerusform></translation></message>
     <message id="rowsCut"><translation>Komentarze obejmują więcej dni bez pomiarów, niż mieści lista (najwyżej %1), dlatego niektórych brakuje.</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryNothingLeftOut"><translation>Liczą się wszystkie pomiary</translation></message>
     <message id="summaryNoWeek"><translation>Brak pomiarów w tym tygodniu</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%1 z %n dnia</numerusform><numerusform>%1 z %n dni</numerusform><numerusform>%1 z %n dni</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>%n w innych dniach</numerusform><numerusform>%n w innych dniach</numerusform><numerusform>%n w innych dniach</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>%n komentarz z innych dni</numerusform><numerusform>%n komentarze z innych dni</numerusform><numerusform>%n komentarzy z innych dni</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n pomiaru nie badano pod tym kątem</numerusform><numerusform>%n pomiarów nie badano pod tym kątem</numerusform><numerusform>%n pomiarów nie badano pod tym kątem</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>%n liczący się pomiar zapisano w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n liczące się pomiary zapisano w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n liczących się pomiarów zapisano w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="summaryPeriod"><translation>Od %1 do %2</translation></message>
     <message id="summaryPulse"><translation>Tętno %1</translation></message>
     <message id="summaryRate"><translation>Tętno, 1/min</translation></message>

@@ -205,6 +205,7 @@
     <message id="noneBefore"><translation>之前 14 天沒有量測，之後 %1</translation></message>
     <message id="noneBeforeOrSince"><translation>前後都沒有量測</translation></message>
     <message id="noneSince"><translation>之前 %1，之後沒有量測</translation></message>
+    <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n 筆量測</numerusform></translation></message>
     <message id="rowsCut"><translation>註記涵蓋的無量測日數超出清單可顯示的範圍（最多 %1 天），因此有些日期未列出。</translation></message>
 </context>
@@ -1060,8 +1061,10 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryNothingLeftOut"><translation>所有量測皆計入</translation></message>
     <message id="summaryNoWeek"><translation>這一週沒有量測</translation></message>
     <message id="summaryOnDays" numerus="yes"><translation><numerusform>%n 天共 %1</numerusform></translation></message>
+    <message id="summaryOnOtherDays" numerus="yes"><translation><numerusform>其他日期有 %n 則</numerusform></translation></message>
     <message id="summaryOtherComments" numerus="yes"><translation><numerusform>其他日期的註記 %n 則</numerusform></translation></message>
     <message id="summaryOthers" numerus="yes"><translation><numerusform>%n 筆量測未經偵測</numerusform></translation></message>
+    <message id="summaryOtherZone" numerus="yes"><translation><numerusform>計入的量測中有 %n 筆儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="summaryPeriod"><translation>%1 至 %2</translation></message>
     <message id="summaryPulse"><translation>脈搏 %1</translation></message>
     <message id="summaryRate"><translation>脈搏（次/分）</translation></message>

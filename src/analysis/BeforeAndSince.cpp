@@ -22,7 +22,8 @@ DayNumber lastDaySince(const CommentList& comments, DayNumber begin) {
 }
 
 SpanMeans spanOf(const DayMeans& means, DayNumber first, DayNumber last) {
-    return {first, last, means.between(first, last), means.excludedBetween(first, last)};
+    return {first, last, means.between(first, last), means.excludedBetween(first, last),
+            means.ofOtherZoneBetween(first, last)};
 }
 
 QString shown(const PressureMeans& means) {
@@ -58,7 +59,7 @@ QString fewReadings(const PressureMeans& before, const PressureMeans& since) {
 BeforeAndSince calcBeforeAndSince(const DayMeans& means, const CommentList& comments,
                                   const CommentModel& comment) {
     const DayNumber begin = comment.beginDay;
-    if (isNilDay(begin)) return {};
+    if (isUndatedDay(begin)) return {};
     return {spanOf(means, begin - daysBefore, begin - 1),
             spanOf(means, begin, lastDaySince(comments, begin))};
 }
@@ -85,8 +86,11 @@ QString describeMeans(const BeforeAndSince& change) {
 QString describe(const BeforeAndSince& change) {
     if (change.since.begin == noDay) return {};
     const int excluded = change.before.excluded + change.since.excluded;
-    const QString means = describeMeans(change);
-    return excluded == 0 ? means : means + qtTrId("; ") + qtTrId("excludedOfDays", excluded);
+    const int ofOtherZone = change.before.ofOtherZone + change.since.ofOtherZone;
+    QStringList parts{describeMeans(change)};
+    if (excluded > 0) parts += qtTrId("excludedOfDays", excluded);
+    if (ofOtherZone > 0) parts += qtTrId("otherZoneOfDays", ofOtherZone);
+    return parts.join(qtTrId("; "));
 }
 
 } // namespace zel

@@ -12,7 +12,8 @@ struct SpanMeans {
     DayNumber begin = noDay;
     DayNumber end = noDay;
     PressureMeans means{};
-    int excluded = 0; ///< readings of these days that the user has left out
+    int excluded = 0;    ///< readings of these days that the user has left out
+    int ofOtherZone = 0; ///< of the means, stored in another time zone than the computer's
 };
 
 /// What was measured in the 14 days before a comment begins, and from its first day on until another comment
@@ -31,7 +32,8 @@ inline constexpr std::uint64_t enoughReadings = 6;
                                                 const CommentModel& comment);
 
 /// "142/88 (26) before, 133/82 (28) since: -9/-6", in mmHg with numbers of readings. The difference is that
-/// of the numbers shown. Says where there are fewer than enoughReadings; empty for a comment without a begin.
+/// of the numbers shown. Says where there are fewer than enoughReadings, how many are left out, and how many
+/// were stored in another time zone; empty for a comment without a begin.
 [[nodiscard]] QString describe(const BeforeAndSince& change);
 
 } // namespace zel

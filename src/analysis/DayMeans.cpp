@@ -6,14 +6,25 @@
 
 namespace zel {
 
+namespace {
+
+int countBetween(const std::vector<DayNumber>& days, DayNumber first, DayNumber last) {
+    if (first > last) return 0;
+    return static_cast<int>(std::ranges::upper_bound(days, last) - std::ranges::lower_bound(days, first));
+}
+
+} // namespace
+
 DayMeans::DayMeans(const ReadingList& readings) {
     std::vector<const ReadingModel*> dated;
     dated.reserve(readings.size());
     for (const ReadingModel& reading : readings) {
         if (isAveraged(reading)) dated.push_back(&reading);
+        if (isAveraged(reading) && reading.isOfOtherZone) otherZoneDays.push_back(reading.day);
         if (reading.isExcluded() && !reading.isUndated()) excludedDays.push_back(reading.day);
     }
     std::ranges::sort(excludedDays);
+    std::ranges::sort(otherZoneDays);
     const auto day = [](const ReadingModel* reading) { return reading->day; };
     // Most files have them in order, and sorting takes most of the time also then.
     if (!std::ranges::is_sorted(dated, {}, day)) std::ranges::stable_sort(dated, {}, day);
@@ -36,9 +47,11 @@ PressureMeans DayMeans::between(DayNumber first, DayNumber last) const {
 }
 
 int DayMeans::excludedBetween(DayNumber first, DayNumber last) const {
-    if (first > last) return 0;
-    return static_cast<int>(std::ranges::upper_bound(excludedDays, last)
-                            - std::ranges::lower_bound(excludedDays, first));
+    return countBetween(excludedDays, first, last);
+}
+
+int DayMeans::ofOtherZoneBetween(DayNumber first, DayNumber last) const {
+    return countBetween(otherZoneDays, first, last);
 }
 
 } // namespace zel

@@ -17,6 +17,9 @@ public:
     /// How many readings of these days the user has left out.
     [[nodiscard]] int excludedBetween(DayNumber first, DayNumber last) const;
 
+    /// How many of the readings that count were stored in another time zone than the computer's.
+    [[nodiscard]] int ofOtherZoneBetween(DayNumber first, DayNumber last) const;
+
 private:
     struct UpTo {
         DayNumber day = noDay;
@@ -24,8 +27,9 @@ private:
     };
     [[nodiscard]] PressureMeans before(DayNumber day) const;
 
-    std::vector<UpTo> days;              ///< ascending
-    std::vector<DayNumber> excludedDays; ///< ascending, one for each reading
+    std::vector<UpTo> days;               ///< ascending
+    std::vector<DayNumber> excludedDays;  ///< ascending, one for each reading
+    std::vector<DayNumber> otherZoneDays; ///< the same
 };
 
 } // namespace zel

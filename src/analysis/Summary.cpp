@@ -57,6 +57,12 @@ bool isAnyDated(const ReadingList& readings) {
     return !std::ranges::all_of(readings, &ReadingModel::isUndated);
 }
 
+int countOfOtherZone(const ReadingList& readings, const Period& period) {
+    return static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
+        return reading.isOfOtherZone && isOfSummary(reading, period);
+    }));
+}
+
 std::optional<DayNumber> lastDayOf(const ReadingList& readings, const Period& period) {
     std::optional<DayNumber> last;
     for (const ReadingModel& reading : readings)

@@ -51,6 +51,9 @@ struct SummaryFigures {
 [[nodiscard]] int countHighReadings(const ReadingList& readings, const Period& period,
                                     const LimitPair& limits);
 
+/// How many of those that the summary counts were stored in another time zone than the computer's.
+[[nodiscard]] int countOfOtherZone(const ReadingList& readings, const Period& period);
+
 /// A day's readings before noon and from noon on.
 struct DayHalves {
     DayNumber day = noDay;

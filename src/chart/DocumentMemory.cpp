@@ -1,7 +1,11 @@
 #include "chart/DocumentMemory.h"
 
+#include "chart/Greys.h"
+
+#include <QFile>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -35,6 +39,18 @@ QGlyphRun shaped(const QString& text, const QFont& font) {
     return runs.size() == 1 ? runs.front() : QGlyphRun();
 }
 
+/// A drawing with each of its colours as a grey.
+QByteArray greyDrawing(QByteArray drawing) {
+    static const QRegularExpression written(u"#[0-9a-f]{6}"_s, QRegularExpression::CaseInsensitiveOption);
+    auto colours = written.globalMatch(QString::fromLatin1(drawing));
+    while (colours.hasNext()) {
+        const QRegularExpressionMatch found = colours.next();
+        const QByteArray grey = greyOf(QColor(found.captured())).name().toLatin1();
+        drawing.replace(found.capturedStart(), grey.size(), grey);
+    }
+    return drawing;
+}
+
 } // namespace
 
 const QGlyphRun* DocumentMemory::glyphs(const QPainter& painter, const QString& text,
@@ -49,9 +65,12 @@ const QGlyphRun* DocumentMemory::glyphs(const QPainter& painter, const QString& 
     return found->isEmpty() ? nullptr : &*found;
 }
 
-QSvgRenderer& DocumentMemory::image(const QString& name) {
-    std::unique_ptr<QSvgRenderer>& kept = images[name];
-    if (!kept) kept = std::make_unique<QSvgRenderer>(u":/images/%1.svg"_s.arg(name));
+QSvgRenderer& DocumentMemory::image(const QString& name, bool isGrey) {
+    std::unique_ptr<QSvgRenderer>& kept = images[{name, isGrey}];
+    if (kept) return *kept;
+    QFile file(u":/images/%1.svg"_s.arg(name));
+    const QByteArray drawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    kept = std::make_unique<QSvgRenderer>(isGrey ? greyDrawing(drawing) : drawing);
     return *kept;
 }
 

@@ -25,13 +25,13 @@ public:
     /// one in ASCII, and on other paper than a PDF's. Holds until the next call.
     [[nodiscard]] const QGlyphRun* glyphs(const QPainter& painter, const QString& text,
                                           const TextAttribute& attribute);
-    /// An image of the resources.
-    [[nodiscard]] QSvgRenderer& image(const QString& name);
+    /// An image of the resources; in greys, those that are written as #rrggbb.
+    [[nodiscard]] QSvgRenderer& image(const QString& name, bool isGrey = false);
 
 private:
     using Glyphs = QHash<QString, QGlyphRun>;
-    std::map<std::pair<int, bool>, Glyphs> texts; ///< by size and weight
-    std::map<QString, std::unique_ptr<QSvgRenderer>> images;
+    std::map<std::pair<int, bool>, Glyphs> texts;                             ///< by size and weight
+    std::map<std::pair<QString, bool>, std::unique_ptr<QSvgRenderer>> images; ///< by name, and isGrey
 };
 
 } // namespace zel

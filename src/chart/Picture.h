@@ -92,6 +92,7 @@ struct Ticks {
 struct ImageItem {
     QString name; ///< without folder and suffix, such as "printlogo"
     Rect rect;
+    bool isGrey = false; ///< its colours are drawn as greys
 };
 
 /// What follows is painted inside this area only, until the matching EndClip.

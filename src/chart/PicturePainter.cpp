@@ -130,7 +130,7 @@ public:
 
     void operator()(const ImageItem& item) {
         DocumentMemory own;
-        QSvgRenderer& image = (memory ? *memory : own).image(item.name);
+        QSvgRenderer& image = (memory ? *memory : own).image(item.name, item.isGrey);
         const Smooth smooth(painter);
         image.render(&painter, surface.rect(item.rect));
     }

@@ -31,12 +31,10 @@ QString days(const CommentModel& comment, const SettingModel& settings) {
     return period + u"  ("_s + (qtTrId("reportDays", total)) + u')';
 }
 
-/// What was measured before and since; empty where nothing was, nor left out.
+/// What was measured before and since; empty for a comment without a begin.
 QString measured(const ReportSource& report, const DayMeans& means, const CommentModel& comment) {
-    const BeforeAndSince change = calcBeforeAndSince(means, report.comments, comment);
-    const bool isNone = change.before.means.count() + change.since.means.count() == 0;
-    const bool isAnyExcluded = change.before.excluded + change.since.excluded > 0;
-    return isNone && !isAnyExcluded ? QString() : qtTrId("reportMeasured").arg(describe(change));
+    const QString change = describe(calcBeforeAndSince(means, report.comments, comment));
+    return change.isEmpty() ? QString() : qtTrId("reportMeasured").arg(change);
 }
 
 /// How many of the earliest comments have no room in a report.

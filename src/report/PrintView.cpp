@@ -1,5 +1,6 @@
 #include "report/PrintView.h"
 
+#include "chart/Greys.h"
 #include "report/DrawComment.h"
 #include "report/DrawPatient.h"
 #include "report/DrawTable.h"
@@ -9,6 +10,8 @@
 #include "report/SummaryPage.h"
 #include "report/TableLegend.h"
 #include "report/TrendPage.h"
+
+#include <utility>
 
 namespace zel {
 
@@ -95,7 +98,7 @@ Picture PrintView::page(std::optional<Section> printSelection, int number, const
         drawTitle(picture, at, source, facts(Section::summary).text());
         drawSummaryPage(picture, at, source, place);
         drawPageNumber(picture, at, place);
-        return picture;
+        return inGreys(std::move(picture)); // for any printer and fax
     }
     if (printSelection) {
         const Head drawn = head(at, *printSelection, place);

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double belowComment = 3;
-constexpr int mostMeasuredLines = 3;
+constexpr int mostMeasuredLines = 5;
 /// Of a comment's text: fewer where not all comments fit.
 constexpr std::array textLines{8, 4, 2};
 
@@ -59,11 +59,10 @@ SummaryComment layOut(const CommentSource& source, const CommentModel& comment, 
             wrapped(change, source.width, summarySmall, mostMeasuredLines)};
 }
 
-/// Those that fit; where not all do, a line more has room.
+/// Those that fit; where not all do, there is room of \p forRest below them.
 std::vector<SummaryComment> fitting(const CommentSource& source,
                                     const std::vector<const CommentModel*>& comments, double height,
-                                    int mostLines) {
-    const double forRest = lineHeight(summaryBold);
+                                    int mostLines, double forRest) {
     std::vector<SummaryComment> items;
     std::size_t besideRest = 0;
     for (const CommentModel* comment : comments) {
@@ -86,22 +85,37 @@ void drawItem(Picture& picture, const SummaryComment& item, Rect& left) {
     left.height -= belowComment;
 }
 
+QString noCommentsText(int others) {
+    const QString words = qtTrId("summaryNoComments");
+    return others == 0 ? words : words + qtTrId("; ") + qtTrId("summaryOnOtherDays", others);
+}
+
+/// What the block does not show: comments of the period that had no room, and those of other days.
+QString restText(int more, int others) {
+    QStringList rest;
+    if (more > 0) rest += qtTrId("summaryMoreComments", more);
+    if (others > 0) rest += qtTrId("summaryOtherComments", others);
+    return rest.join(qtTrId("; "));
+}
+
 } // namespace
 
 void drawSummaryComments(Picture& picture, const ReportSource& report, const Rect& rect) {
     const auto comments = commentsOfPeriod(report.comments, report.selection.period);
+    const auto others = static_cast<int>(report.comments.size() - comments.size());
     Rect left = summaryBlock(picture, qtTrId("summaryComments"), rect);
-    if (comments.empty()) return summaryLine(picture, qtTrId("summaryNoComments"), left, summaryFont);
+    if (comments.empty()) return summaryLine(picture, noCommentsText(others), left, summaryFont);
     const CommentSource source{report, DayMeans(report.readings), left.width};
+    const double forRest = lineHeight(summaryBold), forOthers = others > 0 ? forRest : 0;
     std::vector<SummaryComment> items;
     for (const int lines : textLines) {
-        items = fitting(source, comments, left.height, lines);
+        items = fitting(source, comments, left.height - forOthers, lines, forRest - forOthers);
         if (items.size() == comments.size()) break;
     }
     for (const SummaryComment& item : items)
         drawItem(picture, item, left);
-    if (const int more = static_cast<int>(comments.size() - items.size()); more > 0)
-        summaryLine(picture, qtTrId("summaryMoreComments", more), left, summaryBold);
+    const QString rest = restText(static_cast<int>(comments.size() - items.size()), others);
+    if (!rest.isEmpty()) summaryLine(picture, rest, left, summaryBold);
 }
 
 } // namespace zel

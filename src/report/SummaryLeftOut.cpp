@@ -58,16 +58,20 @@ QString countsOf(const ReportSource& report) {
     const ReadingCount count =
         countReadings(report.readings, summarySelection(report.selection.period), isInSummary);
     const QString left = describeLeftOut(count);
-    const auto comments = commentsOfPeriod(report.comments, report.selection.period).size();
-    QStringList parts{report.readings.empty() ? qtTrId("summaryNoDated")
-                      : left.isEmpty()        ? qtTrId("summaryNothingLeftOut")
-                                              : left};
-    if (const auto others = static_cast<int>(report.comments.size() - comments); others > 0)
-        parts += qtTrId("summaryOtherComments", others);
-    QString line = parts.join(qtTrId("; "));
+    QString line = report.readings.empty() ? qtTrId("summaryNoDated")
+                   : left.isEmpty()        ? qtTrId("summaryNothingLeftOut")
+                                           : left;
     line.front() =
         line.front().toUpper(); // within a sentence, some languages begin with a word where others count
     return line;
+}
+
+/// What is not counted; and what is, but has its mornings and evenings by this computer's clock.
+QStringList countLines(const ReportSource& report) {
+    QStringList lines{countsOf(report)};
+    if (const int others = countOfOtherZone(report.readings, report.selection.period); others > 0)
+        lines += qtTrId("summaryOtherZone", others);
+    return lines;
 }
 
 /// By the limits that the trend above draws.
@@ -110,14 +114,16 @@ void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const Page
     const QString note = howToRead(report, place);
     const Rect above = aboveNote(note, rect);
     Rect left = summaryBlock(picture, qtTrId("summaryLeftOut"), above);
-    summaryLine(picture, countsOf(report), left, summaryFont);
+    for (const QString& line : countLines(report))
+        summaryLine(picture, line, left, summaryFont);
     drawExcluded(picture, report, left);
     fieldParagraph(picture, note, {rect.x, above.y}, rect.width, summarySmall, mostHowToRead);
 }
 
 bool namesAllLeftOut(const ReportSource& report, const PagePlace& place, const Rect& rect) {
     const auto named = namedReadings(report);
-    const double heading = summaryBlockHeight() + lineHeight(summaryFont);
+    const double heading =
+        summaryBlockHeight() + static_cast<double>(countLines(report).size()) * lineHeight(summaryFont);
     if (named.size() > linesIn(aboveNote(howToRead(report, place), rect).height - heading)) return false;
     const auto isNamedWhole = [&](const ReadingModel* reading) {
         return std::ranges::find(named, reading) != named.end() && reading->exclusion.size() <= mostOfReason

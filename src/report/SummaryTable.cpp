@@ -53,8 +53,9 @@ std::array<Figure, 4> figuresOf(const Spread& spread, std::uint32_t limit) {
         return Figure{QString::number(value), limit > 0 && value >= limit};
     };
     const QString deviation = spread.deviationWithTenths();
-    return {Figure{spread.mean().withTenths(), isHigh(spread.mean(), limit)}, marked(spread.minimum()),
-            marked(spread.maximum()), Figure{deviation.isEmpty() ? none : deviation}};
+    return {Figure{meanWithTenths(spread.mean(), limit), isHigh(spread.mean(), limit)},
+            marked(spread.minimum()), marked(spread.maximum()),
+            Figure{deviation.isEmpty() ? none : deviation}};
 }
 
 void drawSpread(Picture& picture, const Spread& spread, std::uint32_t limit, const MeasureColumns& columns,

@@ -88,6 +88,37 @@ TEST(ReportLanguage, nothingIsCutOrCovered) {
     }
 }
 
+/// Means just below the limits, readings left out and of another time zone, on all sides of comments, of
+/// which there are others.
+TEST(ReportLanguage, theSummaryHasRoomForAllThatItSays) {
+    SampleReport sample = reportInLanguage();
+    sample.addComment("2019-01-29", "2019-01-30", 1, u"Dose halved."_s);
+    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+    for (ReadingModel& reading : sample.readings) {
+        reading.sys = 135;
+        reading.dia = 85;
+        reading.isOfOtherZone = true;
+    }
+    for (const std::size_t half : {56U, 57U}) { // of one day
+        ReadingModel& below = sample.readings.emplace_back(sample.readings[half]);
+        below.sys = 134;
+        below.dia = 84;
+    }
+    for (const Language& language : languages()) {
+        const ProgramTexts texts(language);
+        for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            const PrintView view = sample.view(paper);
+            int means = 0;
+            for (const TextLine& line : textsOf(view.page(Section::summary, 1)))
+                means += (line.text.startsWith("<135/<85"_L1) || line.text == "<135.0"_L1) ? 1 : 0;
+            EXPECT_EQ(means, 1 + 3 + 2) << "large, in the table, and of a day";
+            const QStringList found = faults(view, Section::summary, 1);
+            EXPECT_EQ(found.size(), 1) << language.tag.data() << ": beside the note that explains ellipses\n"
+                                       << found.join(u'\n').toStdString();
+        }
+    }
+}
+
 /// Of one word in the language's own letters, so that what is drawn is the table's.
 TEST(ReportLanguage, monthsAndTheFormAreInTheLanguage) {
     const SampleReport sample = reportInLanguage();

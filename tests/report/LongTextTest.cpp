@@ -81,6 +81,9 @@ TEST(LongText, aHeadEndsBeforeTheTextAtItsRight) {
     EXPECT_NEAR(texts[1].origin.x + textSize(texts[1].text, texts[1].attribute).width, 210, 0.01);
 }
 
+/// Below a comment's text where there are no readings.
+QString notMeasured() { return u" Average in mmHg (readings): no reading before or since"_s; }
+
 TEST(LongText, commentsStandInFull) {
     SampleReport sample;
     sample.addComment("2019-01-05", "2019-01-06", 2, u"before"_s);
@@ -94,7 +97,7 @@ TEST(LongText, commentsStandInFull) {
         text.remove(u" goes on on the next page"_s)
             .remove(u" 2   2019/01/05 – 2019/01/06  (2 days), continued Blue"_s);
         EXPECT_TRUE(text.contains(sample.comments[1]->comment));
-        EXPECT_TRUE(text.contains(u"before"_s) && text.endsWith(u" after"_s));
+        EXPECT_TRUE(text.contains(u"before"_s) && text.endsWith(u" after"_s + notMeasured()));
     }
 }
 
@@ -161,7 +164,7 @@ TEST(LongText, isPrintedUpToSomeThirtyPages) {
     for (const Section section : {Section::comment, Section::PatientProfile}) {
         EXPECT_GT(view.getTotalPages(section), 10);
         EXPECT_LT(view.getTotalPages(section), 100);
-        EXPECT_TRUE(textOfBody(view, section).endsWith(u"1600000 more characters."_s));
+        EXPECT_TRUE(textOfBody(view, section).remove(notMeasured()).endsWith(u"1600000 more characters."_s));
     }
     EXPECT_EQ(printable(u"x"_s.repeated(100'000)).size(), 100'000);
     EXPECT_TRUE(printable(QString(99'999, u'x') + u"\U0001F600"_s).isValidUtf16())

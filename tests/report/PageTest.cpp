@@ -506,22 +506,29 @@ TEST(Page, whatCommentsCountIsNamedAlsoOutsideThePeriod) {
                     .contains(u"no reading before or since; 51 left out by the user"_s));
 }
 
-TEST(Page, commentsTellTheirDaysAndColours) {
+TEST(Page, commentsTellTheirDaysAndColoursAndWhatWasMeasured) {
     const struct {
         const char* end;
         QString head, colour;
+        bool hasBegin = true;
     } cases[] = {
         {"2019-01-05", u"1   2019/01/05 – 2019/01/05  (1 day)"_s, u"Dark grey"_s},
         {"2019-01-06", u"2   2019/01/05 – 2019/01/06  (2 days)"_s, u"Orange"_s},
         {"2019-02-04", u"3   2019/01/05 – 2019/02/04  (31 days)"_s, u"Blue"_s},
         {"2019-01-04", u"4   2019/01/05 – 2019/01/04"_s, u"Yellow"_s},
+        {"2019-01-06", u"5   n.a – 2019/01/06"_s, u"Orange"_s, false},
+        {"2019-01-06", u"6   2019/01/05 – 2019/01/06  (2 days)"_s, u"Orange"_s},
     };
     SampleReport sample;
     QStringList expected;
-    for (const auto& [end, head, colour] : cases) {
+    for (const auto& [end, head, colour, hasBegin] : cases) {
         const auto degree = static_cast<std::uint32_t>(sample.comments.size() + 1);
         sample.addComment("2019-01-05", end, degree, u"Felt dizzy."_s);
         expected += {head, colour, u"Felt dizzy."_s};
+        if (hasBegin)
+            expected += u"Average in mmHg (readings): no reading before or since"_s;
+        else
+            sample.comments.back()->beginDay = noDay;
     }
     QStringList texts;
     for (const TextLine& line : textsOf(sample.view().page(Section::comment, 1)))

@@ -1,8 +1,11 @@
 #include "SampleReport.h"
 #include "analysis/HighValues.h"
 #include "chart/Drawing.h"
+#include "chart/PicturePainter.h"
 #include "report/SummaryComments.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QRegularExpression>
 
 #include <gmock/gmock.h>
@@ -166,6 +169,31 @@ TEST(Summary, tellsHowManyMoreThereAre) {
     }
 }
 
+TEST(Summary, commentsOfOtherDaysAreToldBesideThoseOfThePeriod) {
+    SampleReport sample(20);
+    sample.selection.period.begin = DateToDayBoundary(noonOf("2019-01-03"), true);
+    const auto told = [&] {
+        return wordsOf(sample.view())
+            .filter(
+                QRegularExpression(u"comments? |other days"_s, QRegularExpression::CaseInsensitiveOption));
+    };
+    const auto expectTold = [&](const char* words) {
+        EXPECT_THAT(told(), testing::Contains(QString::fromUtf8(words)));
+        EXPECT_EQ(told().filter(u"other days"_s).size(), sample.comments.empty() ? 0 : 1);
+    };
+    expectTold("No comments in this period");
+    sample.addComment("2019-01-01", "2019-01-02", 1, u"Started a tablet."_s);
+    expectTold("No comments in this period; 1 on other days");
+    sample.addComment("2019-01-03", "2019-01-04", 1, u"Dose halved."_s);
+    expectTold("1 comment of other days");
+    for (int i = 0; i < 30; ++i)
+        sample.addComment("2019-01-03", "2019-01-04", 1, u"Dose halved."_s);
+    EXPECT_THAT(told(), testing::Contains(testing::Truly([](const QString& words) {
+                    return words.startsWith("and "_L1)
+                           && words.endsWith("more comments; 1 comment of other days"_L1);
+                })));
+}
+
 TEST(Summary, theWeekEndsAsChosenOrWithThePeriodsLastReading) {
     SampleReport sample(20); // to 10 January
     sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-08"), false);
@@ -213,16 +241,19 @@ TEST(Summary, saysThatNoReadingOfTheWeekCountsYetWhereThereAreSome) {
     }
 }
 
-TEST(Summary, theWeekTellsWhatWasStoredInAnotherTimeZone) {
+TEST(Summary, tellsWhatWasStoredInAnotherTimeZone) {
     SampleReport sample(20);
-    sample.readings[0].isOfOtherZone = true; // on 1 January
     const QString told = u" stored in another time zone; times are those of this computer"_s;
-    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList()) << "none of the week";
+    sample.readings[0].isOfOtherZone = true; // on 1 January
+    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList(u"1 counted reading was"_s + told))
+        << "of the period, none of the week";
+    sample.readings[0].exclusion = u"does not count"_s;
+    EXPECT_EQ(wordsOf(sample.view()).filter(told), QStringList());
     sample.readings[17].isOfOtherZone = sample.readings[18].isOfOtherZone = true;
     sample.readings[16].exclusion = u"loose cuff"_s;
     for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
         const QStringList words = wordsOf(sample.view(paper));
-        EXPECT_EQ(words.filter(told), QStringList(u"2"_s + told));
+        EXPECT_EQ(words.filter(told), (QStringList{u"2 counted readings were"_s + told, u"2"_s + told}));
         EXPECT_TRUE(words.contains(u"1 of the week left out by the user"_s));
     }
 }
@@ -253,21 +284,51 @@ TEST(Summary, theWeekNamesWhatTheUserLeftOutAlsoBeforeThePeriod) {
     EXPECT_EQ(wordsOf(sample.view()).filter(u"the week after"_s).size(), 0);
 }
 
-TEST(Summary, aMeanBelowTheThresholdIsNotShownAsTheThreshold) {
+TEST(Summary, aMeanBelowALimitIsNotShownAsTheLimit) {
     struct Case {
         std::uint32_t last, dia;
-        const char* words;
+        LimitPair limits;
+        const char *threshold, *large, *half, *ofTable;
     };
-    for (const Case& one : {Case{134, 84, "Below the threshold of 135/85 (to a tenth: <135.0/84.0)"},
-                            Case{134, 85, "At or above the threshold of 135/85 (to a tenth: <135.0/85.0)"},
-                            Case{133, 84, "Below the threshold of 135/85 (to a tenth: 134.9/84.0)"},
-                            Case{135, 84, "At or above the threshold of 135/85 (to a tenth: 135.0/84.0)"}}) {
+    for (const Case& one : {Case{134,
+                                 84,
+                                 {135, 85},
+                                 "Below the threshold of 135/85 (to a tenth: <135.0/84.0)",
+                                 "<135/84",
+                                 "<135/84 (13)",
+                                 "<135.0"},
+                            Case{134,
+                                 85,
+                                 {0, 0},
+                                 "At or above the threshold of 135/85 (to a tenth: <135.0/85.0)",
+                                 "<135/85\u25B2",
+                                 "135/85 (13)",
+                                 "135.0"},
+                            Case{133,
+                                 84,
+                                 {135, 85},
+                                 "Below the threshold of 135/85 (to a tenth: 134.9/84.0)",
+                                 "<135/84",
+                                 "<135/84 (13)",
+                                 "134.9"},
+                            Case{135,
+                                 84,
+                                 {140, 90},
+                                 "At or above the threshold of 135/85 (to a tenth: 135.0/84.0)",
+                                 "135\u25B2/84",
+                                 "135/84 (13)",
+                                 "135.0"}}) {
         SampleReport sample;
+        sample.highFrom = one.limits;
+        sample.selection.period.begin = DateToDayBoundary(noonOf("2019-03-02"), true);
         add(sample, "2019-03-01 07:00", 199, 99); // the first day, which does not count
         for (int i = 0; i < 24; ++i)
             add(sample, i % 2 == 0 ? "2019-03-02 07:00" : "2019-03-02 19:00", 135, one.dia);
-        add(sample, "2019-03-03 07:00", one.last, one.dia);
-        EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(one.words)));
+        add(sample, "2019-03-02 07:30", one.last, one.dia);
+        const QString large = QString::fromUtf8(one.large);
+        for (const QString& words : {QString::fromUtf8(one.threshold), large, u"Morning "_s + large,
+                                     QString::fromUtf8(one.half), QString::fromUtf8(one.ofTable)})
+            EXPECT_THAT(wordsOf(sample.view()), testing::Contains(words));
     }
 }
 
@@ -350,6 +411,22 @@ TEST(Summary, tellsOfHowManyDaysTheLastDaysAre) {
         sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
         EXPECT_THAT(wordsOf(sample.view()), testing::Contains(QString::fromUtf8(heading)));
     }
+}
+
+TEST(Summary, aloneHasNoColours) {
+    SampleReport sample(62, 2);
+    sample.highFrom = {135, 85};
+    sample.isDemonstration = true;
+    const PrintView view = sample.view();
+    const auto isGrey = [&](Section section) {
+        QImage image(600, 850, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintPicture(painter, view.page(section, 1), image.height());
+        return painter.end() && image.allGray();
+    };
+    EXPECT_TRUE(isGrey(Section::summary));
+    EXPECT_FALSE(isGrey(Section::table));
 }
 
 TEST(Summary, tellsWhoThePatientIs) {
