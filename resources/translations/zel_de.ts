@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n Messung</numerusform><numerusform>%n Messungen</numerusform></translation></message>
     <message id="rowsCut"><translation>Die Kommentare umfassen mehr Tage ohne Messung, als die Liste zeigen kann: Es sind höchstens %1, einige fehlen deshalb.</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>%n ohne Druckwerte nicht gezählt</numerusform><numerusform>%n ohne Druckwerte nicht gezählt</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

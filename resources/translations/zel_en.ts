@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n stored in another time zone; times are those of this computer</numerusform><numerusform>%n stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="rowsCut"><translation>The comments cover more days without a reading than the list can show: at most %1, so that some are missing.</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>%n without pressures not counted</numerusform><numerusform>%n without pressures not counted</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

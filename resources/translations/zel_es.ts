@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n medición guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n mediciones guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n medición</numerusform><numerusform>%n mediciones</numerusform></translation></message>
     <message id="rowsCut"><translation>Los comentarios abarcan más días sin mediciones de los que la lista puede mostrar: como máximo %1, por lo que faltan algunos.</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>%n sin valores de presión, sin contar</numerusform><numerusform>%n sin valores de presión, sin contar</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n mesure enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n mesures enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n mesure</numerusform><numerusform>%n mesures</numerusform></translation></message>
     <message id="rowsCut"><translation>Les commentaires couvrent plus de jours sans mesure que la liste ne peut en afficher : %1 au maximum ; certains manquent donc.</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>%n sans valeurs de pression non comptée</numerusform><numerusform>%n sans valeurs de pression non comptées</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

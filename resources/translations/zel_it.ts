@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n misurazione</numerusform><numerusform>%n misurazioni</numerusform></translation></message>
     <message id="rowsCut"><translation>I commenti coprono più giorni senza misurazioni di quanti l’elenco possa mostrare: al massimo %1, perciò alcuni mancano.</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>%n senza valori di pressione non conteggiata</numerusform><numerusform>%n senza valori di pressione non conteggiate</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

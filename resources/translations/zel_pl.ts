@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n pomiar</numerusform><numerusform>%n pomiary</numerusform><numerusform>%n pomiarów</numerusform></translation></message>
     <message id="rowsCut"><translation>Komentarze obejmują więcej dni bez pomiarów, niż mieści lista (najwyżej %1), dlatego niektórych brakuje.</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>%n bez wartości ciśnienia się nie liczy</numerusform><numerusform>%n bez wartości ciśnienia się nie liczą</numerusform><numerusform>%n bez wartości ciśnienia się nie liczy</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

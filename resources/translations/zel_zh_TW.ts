@@ -208,6 +208,7 @@
     <message id="otherZoneOfDays" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="readingCount" numerus="yes"><translation><numerusform>%n 筆量測</numerusform></translation></message>
     <message id="rowsCut"><translation>註記涵蓋的無量測日數超出清單可顯示的範圍（最多 %1 天），因此有些日期未列出。</translation></message>
+    <message id="unmeasuredOfDays" numerus="yes"><translation><numerusform>沒有血壓值 %n 筆不計</numerusform></translation></message>
 </context>
 <context>
     <name>app</name>

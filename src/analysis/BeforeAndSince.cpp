@@ -22,7 +22,11 @@ DayNumber lastDaySince(const CommentList& comments, DayNumber begin) {
 }
 
 SpanMeans spanOf(const DayMeans& means, DayNumber first, DayNumber last) {
-    return {first, last, means.between(first, last), means.excludedBetween(first, last),
+    return {first,
+            last,
+            means.between(first, last),
+            means.excludedBetween(first, last),
+            means.unmeasuredBetween(first, last),
             means.ofOtherZoneBetween(first, last)};
 }
 
@@ -86,9 +90,11 @@ QString describeMeans(const BeforeAndSince& change) {
 QString describe(const BeforeAndSince& change) {
     if (change.since.begin == noDay) return {};
     const int excluded = change.before.excluded + change.since.excluded;
+    const int unmeasured = change.before.unmeasured + change.since.unmeasured;
     const int ofOtherZone = change.before.ofOtherZone + change.since.ofOtherZone;
     QStringList parts{describeMeans(change)};
     if (excluded > 0) parts += qtTrId("excludedOfDays", excluded);
+    if (unmeasured > 0) parts += qtTrId("unmeasuredOfDays", unmeasured);
     if (ofOtherZone > 0) parts += qtTrId("otherZoneOfDays", ofOtherZone);
     return parts.join(qtTrId("; "));
 }

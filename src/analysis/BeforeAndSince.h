@@ -13,6 +13,7 @@ struct SpanMeans {
     DayNumber end = noDay;
     PressureMeans means{};
     int excluded = 0;    ///< readings of these days that the user has left out
+    int unmeasured = 0;  ///< those without pressures, which do not count
     int ofOtherZone = 0; ///< of the means, stored in another time zone than the computer's
 };
 

@@ -19,12 +19,16 @@ DayMeans::DayMeans(const ReadingList& readings) {
     std::vector<const ReadingModel*> dated;
     dated.reserve(readings.size());
     for (const ReadingModel& reading : readings) {
-        if (isAveraged(reading)) dated.push_back(&reading);
-        if (isAveraged(reading) && reading.isOfOtherZone) otherZoneDays.push_back(reading.day);
-        if (reading.isExcluded() && !reading.isUndated()) excludedDays.push_back(reading.day);
+        if (reading.isUndated()) continue;
+        if (isAveraged(reading)) {
+            dated.push_back(&reading);
+            if (reading.isOfOtherZone) otherZoneDays.push_back(reading.day);
+        } else {
+            (reading.isExcluded() ? excludedDays : unmeasuredDays).push_back(reading.day);
+        }
     }
-    std::ranges::sort(excludedDays);
-    std::ranges::sort(otherZoneDays);
+    for (std::vector<DayNumber>* each : {&excludedDays, &unmeasuredDays, &otherZoneDays})
+        std::ranges::sort(*each);
     const auto day = [](const ReadingModel* reading) { return reading->day; };
     // Most files have them in order, and sorting takes most of the time also then.
     if (!std::ranges::is_sorted(dated, {}, day)) std::ranges::stable_sort(dated, {}, day);
@@ -48,6 +52,10 @@ PressureMeans DayMeans::between(DayNumber first, DayNumber last) const {
 
 int DayMeans::excludedBetween(DayNumber first, DayNumber last) const {
     return countBetween(excludedDays, first, last);
+}
+
+int DayMeans::unmeasuredBetween(DayNumber first, DayNumber last) const {
+    return countBetween(unmeasuredDays, first, last);
 }
 
 int DayMeans::ofOtherZoneBetween(DayNumber first, DayNumber last) const {

@@ -16,7 +16,8 @@ public:
     [[nodiscard]] PressureMeans between(DayNumber first, DayNumber last) const;
     /// How many readings of these days the user has left out.
     [[nodiscard]] int excludedBetween(DayNumber first, DayNumber last) const;
-
+    /// How many of the others have no pressures.
+    [[nodiscard]] int unmeasuredBetween(DayNumber first, DayNumber last) const;
     /// How many of the readings that count were stored in another time zone than the computer's.
     [[nodiscard]] int ofOtherZoneBetween(DayNumber first, DayNumber last) const;
 
@@ -27,9 +28,10 @@ private:
     };
     [[nodiscard]] PressureMeans before(DayNumber day) const;
 
-    std::vector<UpTo> days;               ///< ascending
-    std::vector<DayNumber> excludedDays;  ///< ascending, one for each reading
-    std::vector<DayNumber> otherZoneDays; ///< the same
+    std::vector<UpTo> days;                ///< ascending
+    std::vector<DayNumber> excludedDays;   ///< ascending, one for each reading
+    std::vector<DayNumber> unmeasuredDays; ///< the same
+    std::vector<DayNumber> otherZoneDays;  ///< the same
 };
 
 } // namespace zel

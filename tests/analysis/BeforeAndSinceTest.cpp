@@ -54,13 +54,14 @@ TEST(BeforeAndSince, IsOf14DaysAndUpTo28UntilAnotherCommentBegins) {
         EXPECT_EQ(describe(change).endsWith(u"; "_s + told), before + since > 0)
             << qPrintable(describe(change));
     }
+    sample.readings.push_back(readingAt("2019-03-05", 0, 0));
     for (const std::size_t index : {1U, 4U, 5U, 6U, 8U}) // left out, two since, one before, one too early
         sample.readings[index].isOfOtherZone = true;
     const auto moved = calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[1]);
     EXPECT_EQ(std::pair(moved.before.ofOtherZone, moved.since.ofOtherZone), std::pair(1, 2));
-    EXPECT_TRUE(
-        describe(moved).endsWith(u"both sides; 1 left out by the user; 3 stored in another time zone; "
-                                 "times are those of this computer"_s))
+    EXPECT_TRUE(describe(moved).endsWith(u"both sides; 1 left out by the user; 1 without pressures not "
+                                         u"counted; 3 stored in another time zone; "
+                                         "times are those of this computer"_s))
         << qPrintable(describe(moved));
     for (const DayNumber undated : {noDay, LocalZone{}.day(at("2000-01-01"))}) {
         sample.comments[0]->beginDay = undated;
