@@ -915,7 +915,9 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="sys and dia too high"><translation>Beide zu hoch</translation></message>
     <message id="sys too high"><translation>Systolisch zu hoch</translation></message>
     <message id="trendBand"><translation>%1; Band: 10. bis 90. Perzentile, bei weniger als 5 Messungen alle</translation></message>
+    <message id="trendBandAll"><translation>%1; Band: alle Messungen</translation></message>
     <message id="trendBandShort"><translation>%1; Band: 10. bis 90. Perzentile</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n Kommentar liegt über einem anderen</numerusform><numerusform>%n Kommentare liegen über anderen</numerusform></translation></message>
     <message id="trendDay"><translation>Tagesmedian</translation></message>
     <message id="trendEvening"><translation>%1 abends</translation></message>
     <message id="trendLinked"><translation>%1; gepunktet: dazwischen keine Messungen</translation></message>
@@ -923,6 +925,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>Für %n weiteren Kommentar ist hier kein Platz</numerusform><numerusform>Für %n weitere Kommentare ist hier kein Platz</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 morgens</translation></message>
     <message id="trendWeek"><translation>Wochenmedian</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>%n weiterer Kommentar ohne seinen Text</numerusform><numerusform>%n weitere Kommentare ohne ihren Text</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportSysAbove"><translation>Nur systolisch darüber: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Der Rest dieses Textes ist nicht gedruckt: %1 weitere Zeichen.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Feine gerade Linie: Grenzwert %1.</numerusform><numerusform>Feine gerade Linien: Grenzwerte %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Dicke Linien: Mediane. Bänder: 10. bis 90. Perzentile, bei weniger als 5 Messungen niedrigster bis höchster Wert. Wo Messungen fehlen, ist die Linie unterbrochen; Punkte verbinden die Enden über höchstens 30 Tage.</translation></message>
+    <message id="reportTrendNote"><translation>Dicke Linien: Mediane. Wo Messungen fehlen, ist die Linie unterbrochen; Punkte verbinden die Enden über höchstens 30 Tage.</translation></message>
     <message id="reportWriteFailed"><translation>Das Schreiben der Datei %1 ist fehlgeschlagen; es gibt deshalb keine neue Datei. Bitte prüfen Sie, ob der Datenträger voll ist, und versuchen Sie es dann noch einmal.</translation></message>
     <message id="summary"><translation>Übersicht</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryTrendComments"><translation>Trend und darunter die Kommentare nach Nummer</translation></message>
     <message id="summaryTrendHidden"><translation>Außerhalb der Skala des Trends: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Feine gerade Linien im Trend: %1.</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Trend und darunter die Kommentare nach Nummer; %n ohne Platz für seine Nummer</numerusform><numerusform>Trend und darunter die Kommentare nach Nummer; %n ohne Platz für ihre Nummer</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Eingegeben: %1 von %n Messung</numerusform><numerusform>Eingegeben: %1 von %n Messungen</numerusform></translation></message>
     <message id="summaryWeek"><translation>Messwoche (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche von Hand ausgeschlossen</numerusform><numerusform>%n der Woche von Hand ausgeschlossen</numerusform></translation></message>

@@ -915,7 +915,9 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="sys and dia too high"><translation>Both too high</translation></message>
     <message id="sys too high"><translation>Systolic too high</translation></message>
     <message id="trendBand"><translation>%1; band: 10th to 90th percentile, or all of fewer than 5 readings</translation></message>
+    <message id="trendBandAll"><translation>%1; band: all readings</translation></message>
     <message id="trendBandShort"><translation>%1; band: 10th to 90th percentile</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n comment lies over another</numerusform><numerusform>%n comments lie over others</numerusform></translation></message>
     <message id="trendDay"><translation>Median of each day</translation></message>
     <message id="trendEvening"><translation>%1 evening</translation></message>
     <message id="trendLinked"><translation>%1; dotted: no readings between</translation></message>
@@ -923,6 +925,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n more comment has no room here</numerusform><numerusform>%n more comments have no room here</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 morning</translation></message>
     <message id="trendWeek"><translation>Median of each week</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>%n more comment without its text</numerusform><numerusform>%n more comments without their text</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportSysAbove"><translation>Only systolic above: %1</translation></message>
     <message id="reportTextTooLong"><translation>… The rest of this text is not printed: %1 more characters.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Fine straight line: the limit of %1.</numerusform><numerusform>Fine straight lines: the limits of %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Thick lines: medians. Bands: from the 10th to the 90th percentile, or from the lowest to the highest of fewer than 5 readings. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
+    <message id="reportTrendNote"><translation>Thick lines: medians. A line breaks where there is no reading; dots link its ends across 30 days at most.</translation></message>
     <message id="reportWriteFailed"><translation>Writing the file %1 failed, so there is no new file. Please check that the disk is not full, then try again.</translation></message>
     <message id="summary"><translation>Summary</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTrendComments"><translation>Trend, and below it the comments by number</translation></message>
     <message id="summaryTrendHidden"><translation>Outside the trend’s scale: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Fine straight lines in the trend: %1.</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Trend, and below it the comments by number; %n has no room for its number</numerusform><numerusform>Trend, and below it the comments by number; %n have no room for theirs</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Typed in: %1 of %n reading</numerusform><numerusform>Typed in: %1 of %n readings</numerusform></translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>

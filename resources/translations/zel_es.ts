@@ -915,7 +915,9 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="sys and dia too high"><translation>Ambas altas</translation></message>
     <message id="sys too high"><translation>Sistólica alta</translation></message>
     <message id="trendBand"><translation>%1; banda: percentiles 10 a 90, o todas si son menos de 5 mediciones</translation></message>
+    <message id="trendBandAll"><translation>%1; banda: todas las mediciones</translation></message>
     <message id="trendBandShort"><translation>%1; banda: percentiles 10 a 90</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n comentario está encima de otro</numerusform><numerusform>%n comentarios están encima de otros</numerusform></translation></message>
     <message id="trendDay"><translation>Mediana de cada día</translation></message>
     <message id="trendEvening"><translation>%1 tarde</translation></message>
     <message id="trendLinked"><translation>%1; punteado: sin mediciones</translation></message>
@@ -923,6 +925,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n comentario más no cabe aquí</numerusform><numerusform>%n comentarios más no caben aquí</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 mañana</translation></message>
     <message id="trendWeek"><translation>Mediana de cada semana</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>%n comentario más sin su texto</numerusform><numerusform>%n comentarios más sin su texto</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportSysAbove"><translation>Solo la sistólica por encima: %1</translation></message>
     <message id="reportTextTooLong"><translation>… El resto de este texto no se imprime: %1 caracteres más.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Línea recta fina: el límite de %1.</numerusform><numerusform>Líneas rectas finas: los límites de %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Líneas gruesas: medianas. Bandas: del percentil 10 al 90, o de la más baja a la más alta si son menos de 5 mediciones. La línea se interrumpe donde no hay mediciones; los puntos unen sus extremos a lo largo de 30 días como máximo.</translation></message>
+    <message id="reportTrendNote"><translation>Líneas gruesas: medianas. La línea se interrumpe donde no hay mediciones; los puntos unen sus extremos a lo largo de 30 días como máximo.</translation></message>
     <message id="reportWriteFailed"><translation>Ha fallado la escritura del archivo %1, así que no hay archivo nuevo. Compruebe que el disco no está lleno y vuelva a intentarlo.</translation></message>
     <message id="summary"><translation>Resumen</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryTrendComments"><translation>Tendencia y, debajo, los comentarios por número</translation></message>
     <message id="summaryTrendHidden"><translation>Fuera de la escala de la tendencia: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Líneas rectas finas en la tendencia: %1.</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Tendencia y, debajo, los comentarios por número; %n sin espacio para su número</numerusform><numerusform>Tendencia y, debajo, los comentarios por número; %n sin espacio para su número</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Introducida a mano: %1 de %n medición</numerusform><numerusform>Introducidas a mano: %1 de %n mediciones</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semana de medición (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida por el usuario</numerusform><numerusform>%n de la semana excluidas por el usuario</numerusform></translation></message>

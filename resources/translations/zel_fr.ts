@@ -915,7 +915,9 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="sys and dia too high"><translation>Les deux trop élevées</translation></message>
     <message id="sys too high"><translation>Systolique trop élevée</translation></message>
     <message id="trendBand"><translation>%1 ; bande : du 10e au 90e percentile, ou toutes les mesures s’il y en a moins de 5</translation></message>
+    <message id="trendBandAll"><translation>%1 ; bande : toutes les mesures</translation></message>
     <message id="trendBandShort"><translation>%1 ; bande : du 10e au 90e percentile</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n commentaire en recouvre un autre</numerusform><numerusform>%n commentaires en recouvrent d’autres</numerusform></translation></message>
     <message id="trendDay"><translation>Médiane de chaque jour</translation></message>
     <message id="trendEvening"><translation>%1 soir</translation></message>
     <message id="trendLinked"><translation>%1 ; pointillés : aucune mesure entre les deux</translation></message>
@@ -923,6 +925,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n autre commentaire ne tient pas ici</numerusform><numerusform>%n autres commentaires ne tiennent pas ici</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 matin</translation></message>
     <message id="trendWeek"><translation>Médiane de chaque semaine</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>%n autre commentaire sans son texte</numerusform><numerusform>%n autres commentaires sans leur texte</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="reportSysAbove"><translation>Systolique seule au-dessus : %1</translation></message>
     <message id="reportTextTooLong"><translation>… La suite de ce texte n’est pas imprimée (caractères restants : %1).</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Ligne droite fine : limite de %1.</numerusform><numerusform>Lignes droites fines : limites de %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Lignes épaisses : médianes. Bandes : du 10e au 90e percentile, ou de la plus basse à la plus haute s’il y a moins de 5 mesures. Une ligne s’interrompt là où il n’y a pas de mesure ; des points en relient les extrémités sur 30 jours au plus.</translation></message>
+    <message id="reportTrendNote"><translation>Lignes épaisses : médianes. Une ligne s’interrompt là où il n’y a pas de mesure ; des points en relient les extrémités sur 30 jours au plus.</translation></message>
     <message id="reportWriteFailed"><translation>L’écriture du fichier %1 a échoué ; il n’y a donc pas de nouveau fichier. Veuillez vérifier que le disque n’est pas plein, puis réessayer.</translation></message>
     <message id="summary"><translation>Synthèse</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryTrendComments"><translation>Tendance et, dessous, les commentaires par numéro</translation></message>
     <message id="summaryTrendHidden"><translation>Hors de l’échelle de la tendance : %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Lignes droites fines de la tendance : %1.</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Tendance et, dessous, les commentaires par numéro ; %n sans place pour son numéro</numerusform><numerusform>Tendance et, dessous, les commentaires par numéro ; %n sans place pour leur numéro</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Saisies à la main : %1 sur %n mesure</numerusform><numerusform>Saisies à la main : %1 sur %n mesures</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semaine de mesure (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>

@@ -915,7 +915,9 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="sys and dia too high"><translation>Entrambe alte</translation></message>
     <message id="sys too high"><translation>Sistolica alta</translation></message>
     <message id="trendBand"><translation>%1; banda: dal 10º al 90º percentile, o tutte le misurazioni se meno di 5</translation></message>
+    <message id="trendBandAll"><translation>%1; banda: tutte le misurazioni</translation></message>
     <message id="trendBandShort"><translation>%1; banda: dal 10º al 90º percentile</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n commento sta sopra un altro</numerusform><numerusform>%n commenti stanno sopra altri</numerusform></translation></message>
     <message id="trendDay"><translation>Mediana di ogni giorno</translation></message>
     <message id="trendEvening"><translation>%1 sera</translation></message>
     <message id="trendLinked"><translation>%1; a puntini: nessuna misurazione</translation></message>
@@ -923,6 +925,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>%n altro commento non trova posto qui</numerusform><numerusform>%n altri commenti non trovano posto qui</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 mattina</translation></message>
     <message id="trendWeek"><translation>Mediana di ogni settimana</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>%n altro commento senza il suo testo</numerusform><numerusform>%n altri commenti senza il loro testo</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportSysAbove"><translation>Solo la sistolica sopra: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Il resto di questo testo non è stampato: altri %1 caratteri.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Linea retta sottile: il limite di %1.</numerusform><numerusform>Linee rette sottili: i limiti di %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Linee spesse: mediane. Bande: dal 10º al 90º percentile, o dal minimo al massimo se le misurazioni sono meno di 5. Una linea si interrompe dove mancano misurazioni; una linea a puntini ne unisce gli estremi, al massimo per 30 giorni.</translation></message>
+    <message id="reportTrendNote"><translation>Linee spesse: mediane. Una linea si interrompe dove mancano misurazioni; una linea a puntini ne unisce gli estremi, al massimo per 30 giorni.</translation></message>
     <message id="reportWriteFailed"><translation>La scrittura del file %1 non è riuscita, perciò non c’è un nuovo file. Controllare che il disco non sia pieno e riprovare.</translation></message>
     <message id="summary"><translation>Riepilogo</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryTrendComments"><translation>Andamento e, sotto, i commenti per numero</translation></message>
     <message id="summaryTrendHidden"><translation>Fuori dalla scala dell’andamento: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Linee rette sottili nell’andamento: %1.</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Andamento e, sotto, i commenti per numero; %n senza posto per il suo numero</numerusform><numerusform>Andamento e, sotto, i commenti per numero; %n senza posto per il loro numero</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Inserite a mano: %1 su %n misurazione</numerusform><numerusform>Inserite a mano: %1 su %n misurazioni</numerusform></translation></message>
     <message id="summaryWeek"><translation>Settimana di misura (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n della settimana esclusa dall’utente</numerusform><numerusform>%n della settimana escluse dall’utente</numerusform></translation></message>

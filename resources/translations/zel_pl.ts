@@ -915,7 +915,9 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="sys and dia too high"><translation>Oba za wysokie</translation></message>
     <message id="sys too high"><translation>Skurczowe za wysokie</translation></message>
     <message id="trendBand"><translation>%1; pasmo: od 10. do 90. percentyla, przy mniej niż 5 pomiarach – wszystkie</translation></message>
+    <message id="trendBandAll"><translation>%1; pasmo: wszystkie pomiary</translation></message>
     <message id="trendBandShort"><translation>%1; pasmo: od 10. do 90. percentyla</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n komentarz leży na innym</numerusform><numerusform>%n komentarze leżą na innych</numerusform><numerusform>%n komentarzy leży na innych</numerusform></translation></message>
     <message id="trendDay"><translation>Mediana z każdego dnia</translation></message>
     <message id="trendEvening"><translation>%1 wieczorem</translation></message>
     <message id="trendLinked"><translation>%1; kropki: przerwa w pomiarach</translation></message>
@@ -923,6 +925,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>brak tu miejsca na jeszcze %n komentarz</numerusform><numerusform>brak tu miejsca na jeszcze %n komentarze</numerusform><numerusform>brak tu miejsca na jeszcze %n komentarzy</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 rano</translation></message>
     <message id="trendWeek"><translation>Mediana z każdego tygodnia</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>jeszcze %n komentarz bez tekstu</numerusform><numerusform>jeszcze %n komentarze bez tekstu</numerusform><numerusform>jeszcze %n komentarzy bez tekstu</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportSysAbove"><translation>Tylko skurczowe powyżej: %1</translation></message>
     <message id="reportTextTooLong"><translation>… Reszty tekstu nie wydrukowano; liczba dalszych znaków: %1.</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>Cienka prosta linia: granica %1.</numerusform><numerusform>Cienkie proste linie: granice %1.</numerusform><numerusform>Cienkie proste linie: granice %1.</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>Grube linie: mediany. Pasma: od 10. do 90. percentyla, a przy mniej niż 5 pomiarach – od najniższego do najwyższego. Linia urywa się tam, gdzie nie ma pomiarów; jeśli przerwa trwa najwyżej 30 dni, jej końce łączą kropki.</translation></message>
+    <message id="reportTrendNote"><translation>Grube linie: mediany. Linia urywa się tam, gdzie nie ma pomiarów; jeśli przerwa trwa najwyżej 30 dni, jej końce łączą kropki.</translation></message>
     <message id="reportWriteFailed"><translation>Zapis pliku %1 się nie powiódł, dlatego nie ma nowego pliku. Proszę sprawdzić, czy dysk nie jest pełny, i spróbować ponownie.</translation></message>
     <message id="summary"><translation>Podsumowanie</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryTrendComments"><translation>Trend, a pod nim komentarze według numerów</translation></message>
     <message id="summaryTrendHidden"><translation>Poza skalą trendu: %1.</translation></message>
     <message id="summaryTrendLimits"><translation>Cienkie proste linie na wykresie trendu: %1.</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Trend, a pod nim komentarze według numerów; %n bez miejsca na numer</numerusform><numerusform>Trend, a pod nim komentarze według numerów; %n bez miejsca na numer</numerusform><numerusform>Trend, a pod nim komentarze według numerów; %n bez miejsca na numer</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Wpisane ręcznie: %1 z %n pomiaru</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryWeek"><translation>Tydzień pomiarowy (%1)  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominięte przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominiętych przez użytkownika</numerusform></translation></message>

@@ -915,7 +915,9 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="sys and dia too high"><translation>兩者皆過高</translation></message>
     <message id="sys too high"><translation>收縮壓過高</translation></message>
     <message id="trendBand"><translation>%1；色帶：第 10 至第 90 百分位數，少於 5 筆時為全部量測</translation></message>
+    <message id="trendBandAll"><translation>%1；色帶：全部量測</translation></message>
     <message id="trendBandShort"><translation>%1；色帶：第 10 至第 90 百分位數</translation></message>
+    <message id="trendCoveredComments" numerus="yes"><translation><numerusform>%n 則註記與其他註記重疊</numerusform></translation></message>
     <message id="trendDay"><translation>每日中位數</translation></message>
     <message id="trendEvening"><translation>%1 晚上</translation></message>
     <message id="trendLinked"><translation>%1；點線：其間沒有量測</translation></message>
@@ -923,6 +925,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="trendMoreComments" numerus="yes"><translation><numerusform>另有 %n 則註記無法顯示於此</numerusform></translation></message>
     <message id="trendMorning"><translation>%1 早上</translation></message>
     <message id="trendWeek"><translation>每週中位數</translation></message>
+    <message id="trendWordlessComments" numerus="yes"><translation><numerusform>另有 %n 則註記未顯示文字</numerusform></translation></message>
 </context>
 <context>
     <name>report</name>
@@ -1017,7 +1020,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportSysAbove"><translation>僅收縮壓超過：%1</translation></message>
     <message id="reportTextTooLong"><translation>… 其餘文字未列印：還有 %1 個字元。</translation></message>
     <message id="reportTrendLimits" numerus="yes"><translation><numerusform>細直線：上限（%1）。</numerusform></translation></message>
-    <message id="reportTrendNote"><translation>粗線：中位數。色帶：第 10 至第 90 百分位數；量測少於 5 筆時為最低值至最高值。沒有量測處線條中斷；間隔最多 30 天時以點線連接兩端。</translation></message>
+    <message id="reportTrendNote"><translation>粗線：中位數。沒有量測處線條中斷；間隔最多 30 天時以點線連接兩端。</translation></message>
     <message id="reportWriteFailed"><translation>寫入檔案 %1 失敗，因此沒有新的檔案。請確認磁碟空間足夠，然後再試一次。</translation></message>
     <message id="summary"><translation>摘要</translation></message>
     <message id="summaryAha"><translation>AHA</translation></message>
@@ -1079,6 +1082,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryTrendComments"><translation>趨勢，下方為註記編號</translation></message>
     <message id="summaryTrendHidden"><translation>在趨勢刻度之外：%1。</translation></message>
     <message id="summaryTrendLimits"><translation>趨勢中的細直線：%1。</translation></message>
+    <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>趨勢，下方為註記編號；%n 則的編號無法顯示</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>手動輸入：%n 筆量測中的 %1 筆</numerusform></translation></message>
     <message id="summaryWeek"><translation>量測週（%1）  %2</translation></message>
     <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>該週由使用者排除 %n 筆</numerusform></translation></message>

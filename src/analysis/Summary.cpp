@@ -1,5 +1,7 @@
 #include "analysis/Summary.h"
 
+#include "analysis/CommentDays.h"
+
 #include <algorithm>
 
 namespace zel {
@@ -16,17 +18,6 @@ void addFlag(SummaryFigures& figures, const ReadingModel& reading) {
     ++kind.examined;
     constexpr std::uint32_t flaggedPad = 2, flaggedAFib = 5;
     if (reading.Arrhythmia == flaggedPad || reading.Arrhythmia == flaggedAFib) ++kind.flagged;
-}
-
-struct CommentDays {
-    DayNumber begin, end;
-};
-
-/// In order; a day that is not known is the other one.
-CommentDays daysOf(const CommentModel& comment) {
-    const DayNumber begin = isNilDay(comment.beginDay) ? comment.endDay : comment.beginDay;
-    const DayNumber end = isNilDay(comment.endDay) ? begin : comment.endDay;
-    return {std::min(begin, end), std::max(begin, end)};
 }
 
 } // namespace
@@ -90,13 +81,12 @@ std::vector<const CommentModel*> commentsOfPeriod(const CommentList& comments, c
     const LocalZone zone;
     const DayNumber first = zone.day(period.begin), last = zone.day(period.end);
     std::vector<const CommentModel*> found;
-    for (const auto& comment : comments) {
-        const auto [begin, end] = daysOf(*comment);
-        if (!isNilDay(begin) && begin <= last && first <= end) found.push_back(comment.get());
-    }
+    for (const auto& comment : comments)
+        if (const auto days = commentDays(*comment); days && days->begin <= last && first <= days->end)
+            found.push_back(comment.get());
     std::ranges::reverse(found);
     std::ranges::stable_sort(found, std::ranges::greater{},
-                             [](const CommentModel* comment) { return daysOf(*comment).begin; });
+                             [](const CommentModel* comment) { return commentDays(*comment)->begin; });
     return found;
 }
 

@@ -114,14 +114,23 @@ std::vector<TrendPoint> pointsOf(const ReadingList& readings, const ReadingSelec
     return maker.finish();
 }
 
+bool isHalfOfDay(ViewSelection view) {
+    return view == ViewSelection::amOnly || view == ViewSelection::pmOnly;
+}
+
+int countOfOtherZone(const ReadingList& readings, const ReadingSelection& selection) {
+    return static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
+        return reading.isOfOtherZone && isInChart(reading, selection);
+    }));
+}
+
 } // namespace
 
 TrendStep trendStepFor(std::int64_t periodDays) {
+    if (periodDays <= 0) return TrendStep::day; // a period that ends before it begins
     const auto longest = static_cast<double>(periodDays);
-    if (periodDays > mostPoints * daysPerWeek && isLongerNearer(longest, daysPerWeek, daysOfMonth))
-        return TrendStep::month;
-    return periodDays > mostPoints && isLongerNearer(longest, 1, daysPerWeek) ? TrendStep::week
-                                                                              : TrendStep::day;
+    if (isLongerNearer(longest, daysPerWeek, daysOfMonth)) return TrendStep::month;
+    return isLongerNearer(longest, 1, daysPerWeek) ? TrendStep::week : TrendStep::day;
 }
 
 Trend calcTrend(const ReadingList& readings, const ReadingSelection& selection) {
@@ -141,6 +150,7 @@ TrendSeriesList calcTrendSeries(const ReadingList& readings, const ReadingSelect
         part.view = half;
         Trend trend = calcTrend(readings, part);
         list.step = trend.step;
+        if (isHalfOfDay(half)) list.ofOtherZone += countOfOtherZone(readings, part);
         list.series.push_back({half, std::move(trend.points)});
     }
     return list;

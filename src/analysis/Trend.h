@@ -14,7 +14,8 @@ namespace zel {
 /// What a point of the trend stands for: a day, a week from Monday on, a month of the calendar.
 enum class TrendStep : std::int32_t { day, week, month };
 
-/// The step with which a period of so many days comes nearest to 30 to 120 points.
+/// The step with which a period of so many days comes nearest to 30 to 120 points: the day up to 158 days,
+/// the week up to 875, then the month.
 [[nodiscard]] TrendStep trendStepFor(std::int64_t days);
 
 /// Of one measure. Low and high are the 10th and the 90th percentile, between two readings in proportion;
@@ -53,6 +54,9 @@ struct TrendSeries {
 struct TrendSeriesList {
     TrendStep step = TrendStep::day;
     std::vector<TrendSeries> series; ///< one, or the mornings and then the evenings
+    /// Readings stored in another time zone than the computer's, by whose clock they are of their half of the
+    /// day; 0 where no halves are told apart.
+    int ofOtherZone = 0;
 };
 
 /// One series of what the selection shows, or \p apart one of each half of the day that it shows.

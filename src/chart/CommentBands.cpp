@@ -1,12 +1,16 @@
 #include "chart/CommentBands.h"
 
-#include "chart/CommentBoxes.h"
+#include "analysis/CommentDays.h"
+#include "analysis/Summary.h"
 #include "chart/Drawing.h"
+#include "chart/StyleTable.h"
+#include "chart/TrendCurves.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include <algorithm>
+#include <optional>
 
 namespace zel {
 
@@ -15,10 +19,11 @@ namespace {
 const TextAttribute bandFont{.size = 9};
 constexpr double longestLabel = 180; ///< beside a band
 constexpr double enoughLabel = 80;   ///< inside a band, where it is longer
-constexpr double leastBand = 2;      ///< a day of seven years would not be seen
+constexpr double leastBand = 3;      ///< a day of seven years would not be seen
 constexpr double labelIndent = 3;
-constexpr double betweenBands = 4;
-constexpr double bandGap = 2; ///< between two rows
+constexpr double betweenBands = 4, betweenBare = 1;
+constexpr double bandGap = 2;    ///< between two rows
+constexpr double bareHeight = 7; ///< of a row of bands without their text
 
 /// What is taken of a row, from left to right.
 struct Taken {
@@ -27,25 +32,9 @@ struct Taken {
 };
 using Row = std::vector<Taken>;
 
-bool isFree(const Row& row, const Taken& wanted) {
-    return std::ranges::none_of(row, [&](const Taken& one) {
-        return wanted.from < one.to + betweenBands && one.from < wanted.to + betweenBands;
-    });
-}
-
-/// The comments of the period with their days, the latest first.
-std::vector<std::pair<const CommentModel*, Period>> commentsOf(const CommentList& comments,
-                                                               const Period& period) {
-    std::vector<std::pair<const CommentModel*, Period>> found;
-    for (const auto& comment : comments) {
-        const auto dates = commentPeriod(*comment);
-        if (!dates) continue;
-        const Period days{DateToDayBoundary(dates->begin, true), DateToDayBoundary(dates->end, false)};
-        if (days.begin <= period.end && period.begin <= days.end) found.emplace_back(comment.get(), days);
-    }
-    std::ranges::stable_sort(found,
-                             [](const auto& a, const auto& b) { return a.second.begin > b.second.begin; });
-    return found;
+bool isFree(const Row& row, const Taken& wanted, double apart) {
+    return std::ranges::none_of(
+        row, [&](const Taken& one) { return wanted.from < one.to + apart && one.from < wanted.to + apart; });
 }
 
 QString labelOf(const CommentModel& comment, double width) {
@@ -62,10 +51,9 @@ double labelX(const Rect& band, double width, const TimeScale& scale) {
     return std::max(scale.left, band.x - labelIndent - width);
 }
 
-CommentBand bandOf(const CommentModel& comment, const Period& days, const Period& period,
-                   const TimeScale& scale) {
-    const double from = scale.calcXPos(std::max(days.begin, period.begin));
-    const double to = scale.calcXPos(std::min(days.end, period.end));
+CommentBand bandOf(const CommentModel& comment, const TimeScale& scale, const LocalZone& zone) {
+    const CommentDays days = commentDays(comment).value_or(CommentDays());
+    const auto [from, to] = trendSpan(scale, days.begin, days.end, zone);
     CommentBand band;
     band.band.x = std::min(from, scale.left + scale.width - leastBand);
     band.band.width = std::max(leastBand, to - band.band.x);
@@ -82,33 +70,90 @@ Taken extent(const CommentBand& band) {
     return {std::min(band.band.x, band.labelAt.x), std::max(band.band.right(), labelEnd)};
 }
 
-void moveToRow(CommentBand& band, double top, std::size_t row) {
-    band.band.height = commentBandHeight - bandGap;
-    band.band.y = top - commentBandHeight * static_cast<double>(row + 1) + bandGap;
-    band.labelAt.y = band.band.y + (band.band.height - textSize(band.label, bandFont).height) / 2;
+/// Takes the first row that has room for it. \return its number
+std::optional<std::size_t> takeRow(std::vector<Row>& rows, const Taken& wanted, double apart) {
+    const auto row = std::ranges::find_if(rows, [&](const Row& one) { return isFree(one, wanted, apart); });
+    if (row == rows.end()) return {};
+    row->push_back(wanted);
+    return static_cast<std::size_t>(row - rows.begin());
 }
 
-CommentBands layOutRows(const std::vector<std::pair<const CommentModel*, Period>>& comments,
-                        const Period& period, const TimeScale& scale, double top, std::size_t mostRows) {
-    std::vector<Row> rows;
-    CommentBands bands;
-    for (const auto& [comment, days] : comments) {
-        CommentBand band = bandOf(*comment, days, period, scale);
-        const Taken taken = extent(band);
-        auto row = std::ranges::find_if(rows, [&](const Row& one) { return isFree(one, taken); });
-        if (row == rows.end()) {
-            if (rows.size() == mostRows) {
-                ++bands.left;
-                continue;
-            }
-            row = rows.insert(rows.end(), Row{});
+double usedRows(const std::vector<Row>& rows) {
+    return static_cast<double>(std::ranges::count_if(rows, [](const Row& row) { return !row.empty(); }));
+}
+
+/// Rows of bands with their text, and below them lower ones for the others.
+class BandRows {
+public:
+    BandRows(std::size_t rows, std::size_t bareRows) : named(rows), bare(bareRows) {}
+
+    void add(CommentBand band) {
+        if (const auto row = takeRow(named, extent(band), betweenBands)) {
+            moveTo(band, commentBandHeight, commentBandHeight * static_cast<double>(*row + 1));
+        } else {
+            if (!band.label.isEmpty()) ++made.wordless;
+            band.label.clear();
+            addBare(band);
         }
-        row->push_back(taken);
-        moveToRow(band, top, static_cast<std::size_t>(row - rows.begin()));
-        bands.shown.push_back(std::move(band));
+        made.shown.push_back(std::move(band));
     }
-    bands.rows = static_cast<int>(rows.size());
-    return bands;
+    [[nodiscard]] CommentBands finish(double bottom) {
+        const bool isCounted = made.wordless > 0 || made.covered > 0;
+        made.height = commentBandHeight * (usedRows(named) + int{isCounted}) + bareHeight * usedRows(bare);
+        for (CommentBand& band : made.shown) {
+            band.band.y += bottom + made.height;
+            band.labelAt.y += bottom + made.height;
+        }
+        return std::move(made);
+    }
+
+private:
+    void addBare(CommentBand& band) {
+        const Taken wanted{band.band.x, band.band.right()};
+        auto row = takeRow(bare, wanted, betweenBare);
+        if (!row) {
+            ++made.covered;
+            if (bare.empty()) return; // another arrangement has rows for it
+            row = bare.size() - 1;
+            bare.back().push_back(wanted);
+        }
+        const auto above = commentBandHeight * static_cast<double>(named.size());
+        moveTo(band, bareHeight, above + bareHeight * static_cast<double>(*row + 1));
+    }
+    /// \p below: the top of all
+    static void moveTo(CommentBand& band, double rowHeight, double below) {
+        band.band.height = rowHeight - bandGap;
+        band.band.y = bandGap - below;
+        band.labelAt.y = band.band.y + (band.band.height - textSize(band.label, bandFont).height) / 2;
+    }
+
+    std::vector<Row> named, bare;
+    CommentBands made;
+};
+
+CommentBands layOutBandsIn(const std::vector<CommentBand>& bands, std::size_t rows, std::size_t bareRows,
+                           double bottom) {
+    BandRows made(rows, bareRows);
+    for (const CommentBand& band : bands)
+        made.add(band);
+    return made.finish(bottom);
+}
+
+/// As few bare rows as can tell all bands apart: each row of text has the room of two.
+CommentBands layOutRows(const std::vector<CommentBand>& bands, std::size_t mostRows, double bottom) {
+    CommentBands made = layOutBandsIn(bands, mostRows, 0, bottom);
+    const std::size_t mostBare = std::max<std::size_t>(mostRows, 2) - 1;
+    for (std::size_t rows = 1; rows <= mostBare && made.covered > 0; ++rows)
+        made = layOutBandsIn(bands, mostRows - rows, 2 * rows, bottom);
+    return made;
+}
+
+QString bandCounts(const CommentBands& bands) {
+    if (bands.left > 0) return qtTrId("trendMoreComments", bands.left);
+    QStringList counts;
+    if (bands.wordless > 0) counts += qtTrId("trendWordlessComments", bands.wordless);
+    if (bands.covered > 0) counts += qtTrId("trendCoveredComments", bands.covered);
+    return counts.join(qtTrId("; "));
 }
 
 void drawFrame(Picture& picture, const Rect& rect, const QColor& color) {
@@ -124,15 +169,21 @@ void drawFrame(Picture& picture, const Rect& rect, const QColor& color) {
 
 } // namespace
 
-double CommentBands::height() const { return commentBandHeight * (rows + int{left > 0}); }
-
-CommentBands layOutCommentBands(const CommentList& comments, const Period& period, const TimeScale& scale,
-                                double top, int mostRows) {
-    return layOutRows(commentsOf(comments, period), period, scale, top,
-                      static_cast<std::size_t>(std::max(0, mostRows)));
+CommentBands layOutCommentBands(const CommentList& comments, const TimeScale& scale, double bottom,
+                                int mostRows, const LocalZone& zone) {
+    const auto shown = commentsOfPeriod(comments, {scale.begin, scale.end});
+    CommentBands none;
+    none.left = static_cast<int>(shown.size());
+    none.height = none.left > 0 ? commentBandHeight : 0;
+    if (mostRows <= 0) return none;
+    std::vector<CommentBand> bands;
+    bands.reserve(shown.size());
+    for (const CommentModel* comment : shown)
+        bands.push_back(bandOf(*comment, scale, zone));
+    return layOutRows(bands, static_cast<std::size_t>(mostRows), bottom);
 }
 
-void drawCommentBands(Picture& picture, const CommentBands& bands, const TimeScale& scale, double top,
+void drawCommentBands(Picture& picture, const CommentBands& bands, const TimeScale& scale, double bottom,
                       bool black) {
     constexpr int pale = 70;
     for (const CommentBand& band : bands.shown) {
@@ -143,9 +194,8 @@ void drawCommentBands(Picture& picture, const CommentBands& bands, const TimeSca
         drawFrame(picture, band.band, color);
         if (!band.label.isEmpty()) picture.emplace_back(TextLine{band.label, band.labelAt, bandFont});
     }
-    if (bands.left == 0) return;
-    textOut(picture, qtTrId("trendMoreComments", bands.left),
-            {scale.left, top - commentBandHeight * (bands.rows + 1)}, bandFont);
+    if (const QString counts = bandCounts(bands); !counts.isEmpty())
+        textOut(picture, counts, {scale.left, bottom}, bandFont);
 }
 
 } // namespace zel

@@ -4,6 +4,7 @@
 #include "chart/DrawChart.h"
 #include "chart/Drawing.h"
 #include "chart/TimeAxis.h"
+#include "chart/TrendCaption.h"
 #include "chart/TrendCurves.h"
 #include "chart/TrendNames.h"
 #include "chart/TrendScale.h"
@@ -22,8 +23,8 @@ namespace {
 
 constexpr std::array pressures{TrendMeasure::sys, TrendMeasure::dia};
 constexpr std::array beats{TrendMeasure::pulse};
-constexpr int captionFont = 1, emptyFont = 4;
-constexpr double headHeight = 16; ///< of the line that names the step
+constexpr int emptyFont = 4;
+constexpr double aroundCaption = 2;
 constexpr double besideNames = 5;
 constexpr double plotGap = 7;      ///< between the two plots: half a number
 constexpr double pulseShare = 0.3; ///< as on the chart
@@ -36,18 +37,31 @@ struct Parts {
     ChartScale pulse; ///< with the dates below it
     Rect names;
     CommentBands comments;
+    TrendCaption caption;
 };
 
+double headHeight(const TrendCaption& caption) {
+    return trendCaptionLine * static_cast<double>(caption.lines.size()) + aroundCaption;
+}
+
+/// Low plots are worse than fewer words.
+TrendCaption captionOf(const TrendInput& input) {
+    constexpr double leastPlots = 60;
+    const double rest = input.totalRect.height - getBaseAreaHeight() - plotGap - leastPlots - aroundCaption;
+    const int lines = std::clamp(static_cast<int>(rest / trendCaptionLine), 1, 4);
+    return trendCaption(input.trend, input.totalRect.width - scaleWidth - trendNoteInset, lines);
+}
+
 /// So many that the plots keep what they need to be read.
-int commentRows(double height) {
+int commentRows(double height, double head) {
     constexpr double share = 0.2, leastPlots = 100;
-    const double rest = height - headHeight - getBaseAreaHeight() - plotGap - leastPlots - commentBandHeight;
+    const double rest = height - head - getBaseAreaHeight() - plotGap - leastPlots - commentBandHeight;
     return std::clamp(static_cast<int>(std::min(height * share, rest) / commentBandHeight), 0, 4);
 }
 
-/// Enough for two numbers in a low picture.
+/// Enough for two numbers, but never more than half of what the pressure has.
 double pulseHeight(double plots, bool isFitted) {
-    constexpr double least = 36, mostOfLow = 0.45;
+    constexpr double least = 36, mostOfLow = 1.0 / 3;
     const double share = isFitted ? fittedPulseShare : pulseShare;
     return std::floor(std::max(plots * share, std::min(least, plots * mostOfLow)));
 }
@@ -80,23 +94,24 @@ void fitScales(Parts& parts, const TrendInput& input) {
     parts.pulse.fitted = fittedRange(input.trend.series, beats, {}, parts.pulse.pulseRange());
 }
 
-Parts partsOf(const TrendInput& input) {
+Parts partsOf(const TrendInput& input, const LocalZone& zone) {
     const Rect& all = input.totalRect;
     const ChartScale anywhere(all, input.selection.period, true, startScaleBase);
     const double names = lineNamesSize(lineEnds(input, anywhere, anywhere)).width + 2 * besideNames;
     const double width = all.width - names;
     const TimeScale time = ChartScale({all.x, all.y, width, 0}, input.selection.period, true, 0).time;
-    CommentBands bands =
-        layOutCommentBands(input.comments, input.selection.period, time, 0, commentRows(all.height));
-    const double bottom = all.y + bands.height();
-    bands = layOutCommentBands(input.comments, input.selection.period, time, bottom, commentRows(all.height));
-    const double plots = all.height - bands.height() - headHeight - getBaseAreaHeight() - plotGap;
+    TrendCaption caption = captionOf(input);
+    const double head = headHeight(caption);
+    CommentBands bands = layOutCommentBands(input.comments, time, all.y, commentRows(all.height, head), zone);
+    const double bottom = all.y + bands.height;
+    const double plots = all.height - bands.height - head - getBaseAreaHeight() - plotGap;
     const double low = pulseHeight(plots, input.isFitted) + getBaseAreaHeight();
-    const double high = all.top() - headHeight - (bottom + low + plotGap);
+    const double high = all.top() - head - (bottom + low + plotGap);
     Parts parts{{{all.x, bottom + low + plotGap, width, high}, input.selection.period, true, startScaleBase},
                 {{all.x, bottom, width, low}, input.selection.period, false, startScaleBase},
                 {all.x + width + besideNames, bottom, names - 2 * besideNames, all.top() - bottom},
-                std::move(bands)};
+                std::move(bands),
+                std::move(caption)};
     if (input.isFitted) fitScales(parts, input);
     return parts;
 }
@@ -137,23 +152,20 @@ void addAll(Picture& picture, std::vector<Item>& items) {
         picture.emplace_back(std::move(item));
 }
 
-/// All bands lie below all lines. \return whether there are links across steps without a reading
-bool drawSeries(Picture& picture, const TrendInput& input, const ChartScale& scale,
-                std::span<const TrendMeasure> measures, const LocalZone& zone) {
+/// All bands lie below all lines.
+void drawSeries(Picture& picture, const TrendInput& input, const ChartScale& scale,
+                std::span<const TrendMeasure> measures, bool hasLinks, const LocalZone& zone) {
     std::vector<TrendCurves> curves;
     for (const TrendMeasure measure : measures)
         for (const TrendSeries& series : input.trend.series)
             curves.push_back(trendCurves(series, measure, scale, zone, amongOf(input)));
     for (TrendCurves& one : curves)
         addAll(picture, one.bands);
-    bool isLinked = false;
     for (TrendCurves& one : curves) {
-        isLinked = isLinked || !one.links.empty();
-        addAll(picture, one.links);
+        if (hasLinks) addAll(picture, one.links);
         addAll(picture, one.lines);
         addAll(picture, one.marks);
     }
-    return isLinked;
 }
 
 void drawPlotFrame(Picture& picture, const Rect& rect) {
@@ -167,8 +179,8 @@ void drawPlotFrame(Picture& picture, const Rect& rect) {
                                {}});
 }
 
-bool drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale,
-              std::span<const TrendMeasure> measures, const LocalZone& zone) {
+void drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale,
+              std::span<const TrendMeasure> measures, bool hasLinks, const LocalZone& zone) {
     const bool isPulse = measures.front() == TrendMeasure::pulse;
     picture.emplace_back(FillRect{scale.whiteRect, Qt::white});
     const ScaleRange range = isPulse ? scale.pulseRange() : scale.bloodRange();
@@ -179,32 +191,27 @@ bool drawPlot(Picture& picture, const TrendInput& input, const ChartScale& scale
         drawTrendLimit(picture, scale, input.sysStandard, input.forPrint);
         drawTrendLimit(picture, scale, input.diaStandard, input.forPrint);
     }
-    const bool isLinked = drawSeries(picture, input, scale, measures, zone);
+    drawSeries(picture, input, scale, measures, hasLinks, zone);
     picture.emplace_back(EndClip{});
     if (input.forPrint) drawPlotFrame(picture, scale.whiteRect);
     const Rect room{scale.chartRect.x, scale.chartRect.y, scale.chartRect.width - trendNoteInset,
                     scale.chartRect.height - 1};
     drawOffScale(picture, trendOffScale(input.trend.series, measures, range), room, OffScaleOf::points);
-    return isLinked;
 }
 
-/// What a point stands for and what the band is, in as many words as there is room for.
-void drawCaption(Picture& picture, const TrendInput& input, bool isLinked, const Rect& head) {
-    const QString step = trendStepText(input.trend.step);
-    const QString whole = qtTrId("trendBand").arg(step), brief = qtTrId("trendBandShort").arg(step);
-    QStringList forms{whole, brief, step};
-    if (isLinked)
-        forms = QStringList{qtTrId("trendLinked").arg(whole), qtTrId("trendLinked").arg(brief)} + forms;
-    const TextAttribute font = attribute(captionFont);
-    for (const QString& form : forms) {
-        if (textSize(form, font).width > head.width && form != step) continue;
-        return textOut(picture, form, {head.x, head.y + head.height / 2}, font, XPos::left, YPos::centre);
+/// The lowest line stands where a single one does.
+void drawCaption(Picture& picture, const TrendCaption& caption, const Rect& plot) {
+    double y = plot.top() + headHeight(caption) - (trendCaptionLine + aroundCaption) / 2;
+    for (const QString& line : caption.lines) {
+        textOut(picture, line, {plot.x + trendNoteInset, y}, trendCaptionFont(), XPos::left, YPos::centre);
+        y -= trendCaptionLine;
     }
 }
 
 /// Above the numbers of the pressure, and beside the lower strip of the dates.
 void drawUnits(Picture& picture, const Parts& parts) {
-    drawTrendUnit(picture, parts.blood, qtTrId("mmHg"), parts.blood.chartRect.top() + headHeight / 2);
+    drawTrendUnit(picture, parts.blood, qtTrId("mmHg"),
+                  parts.blood.chartRect.top() + (trendCaptionLine + aroundCaption) / 2);
     drawTrendUnit(picture, parts.pulse, qtTrId("P/min"), parts.pulse.totalRect.y + commentHeight / 2.0);
 }
 
@@ -266,21 +273,20 @@ TrendLayout drawTrend(const TrendInput& input, const LocalZone& zone) {
     const Rect& all = input.totalRect;
     TrendLayout layout{
         {FillRect{all, input.forPrint ? QColor(Qt::white) : fixColor(gcScaleBackgroundColor)}}, {}, {}};
-    const Parts parts = partsOf(input);
+    const Parts parts = partsOf(input, zone);
     if (!hasRoom(parts)) return layout;
     Picture& picture = layout.picture;
-    const bool isLinked = drawPlot(picture, input, parts.blood, pressures, zone);
-    drawPlot(picture, input, parts.pulse, beats, zone);
+    const bool hasLinks = parts.caption.explainsLinks;
+    drawPlot(picture, input, parts.blood, pressures, hasLinks, zone);
+    drawPlot(picture, input, parts.pulse, beats, hasLinks, zone);
     drawUnits(picture, parts);
     drawDateLabels(picture, parts.pulse, trendNoteInset, AxisGrid(parts.pulse, zone));
     const Rect& plot = parts.blood.chartRect;
-    drawCaption(
-        picture, input, isLinked,
-        {plot.x + trendNoteInset, plot.top(), all.right() - plot.x - trendNoteInset, all.top() - plot.top()});
+    drawCaption(picture, parts.caption, plot);
     for (TextLine& name : placeLineNames(lineEnds(input, parts.blood, parts.pulse), parts.names))
         picture.emplace_back(std::move(name));
     drawEmpty(picture, input, plot);
-    drawCommentBands(picture, parts.comments, parts.blood.time, parts.pulse.totalRect.y, input.forPrint);
+    drawCommentBands(picture, parts.comments, parts.blood.time, all.y, input.forPrint);
     layout.plot = {plot.x, parts.pulse.chartRect.y, plot.width, plot.top() - parts.pulse.chartRect.y};
     layout.columns = columnsOf(input, parts, zone);
     return layout;

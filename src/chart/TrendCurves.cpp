@@ -33,6 +33,12 @@ QColor colorOf(TrendMeasure measure, bool evening) {
     return evening ? QColor(95, 70, 120) : QColor(60, 60, 60);
 }
 
+bool isNext(const TrendPoint& from, const TrendPoint& to) { return to.begin == from.end + 1; }
+
+bool isLinked(const TrendPoint& from, const TrendPoint& to) {
+    return !isNext(from, to) && to.begin - from.end <= longestLink;
+}
+
 class CurveMaker {
 public:
     CurveMaker(TrendMeasure shown, const ChartScale& at, const LocalZone& local, ViewSelection half,
@@ -133,13 +139,17 @@ double trendY(const ChartScale& scale, TrendMeasure measure, double value) {
     return std::clamp(y, plot.y - far, plot.top() + far);
 }
 
-double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone) {
+TrendSpan trendSpan(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone) {
     const DayNumber first = zone.day(time.begin);
     const DayNumber last = zone.day(time.end);
-    const double days = last - first + 1;
-    const double from = std::max(begin, first) - first;
-    const double to = std::min(end, last) - first + 1;
-    return time.left + time.width * (from + to) / 2 / days;
+    const double perDay = time.width / (last - first + 1);
+    return {time.left + perDay * (std::max(begin, first) - first),
+            time.left + perDay * (std::min(end, last) - first + 1)};
+}
+
+double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone) {
+    const TrendSpan days = trendSpan(time, begin, end, zone);
+    return (days.from + days.to) / 2;
 }
 
 TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure, const ChartScale& scale,
@@ -149,14 +159,18 @@ TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure, const C
     const Points points(series.points);
     for (std::size_t begin = 0; begin < points.size();) {
         std::size_t end = begin + 1;
-        while (end < points.size() && points[end].begin == points[end - 1].end + 1)
+        while (end < points.size() && isNext(points[end - 1], points[end]))
             ++end;
         maker.addRun(made, points.subspan(begin, end - begin));
-        if (end < points.size() && points[end].begin - points[end - 1].end <= longestLink)
+        if (end < points.size() && isLinked(points[end - 1], points[end]))
             made.links.push_back(maker.link(points[end - 1], points[end]));
         begin = end;
     }
     return made;
+}
+
+bool hasLinks(const TrendSeries& series) {
+    return std::ranges::adjacent_find(series.points, isLinked) != series.points.end();
 }
 
 OffScale trendOffScale(std::span<const TrendSeries> series, std::span<const TrendMeasure> measures,

@@ -29,6 +29,13 @@ struct TrendAmong {
 
 [[nodiscard]] const TrendBand& bandOf(const TrendPoint& point, TrendMeasure measure);
 [[nodiscard]] double trendY(const ChartScale& scale, TrendMeasure measure, double value);
+/// Where days lie from left to right, as far as they are the period's.
+struct TrendSpan {
+    double from = 0; ///< begin of the first day
+    double to = 0;   ///< end of the last one
+};
+[[nodiscard]] TrendSpan trendSpan(const TimeScale& time, DayNumber begin, DayNumber end,
+                                  const LocalZone& zone);
 /// The middle of what the point stands for, as far as it lies in the period.
 [[nodiscard]] double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone);
 
@@ -44,6 +51,9 @@ struct TrendCurves {
 [[nodiscard]] TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure,
                                       const ChartScale& scale, const LocalZone& zone,
                                       const TrendAmong& among);
+
+/// Whether it has ends that are linked.
+[[nodiscard]] bool hasLinks(const TrendSeries& series);
 
 /// The points whose bands reach beyond a scale, each step once.
 [[nodiscard]] OffScale trendOffScale(std::span<const TrendSeries> series,

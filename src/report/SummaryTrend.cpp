@@ -1,38 +1,67 @@
 #include "report/SummaryTrend.h"
 
+#include "analysis/CommentDays.h"
 #include "analysis/Summary.h"
 #include "chart/DrawTrend.h"
 #include "chart/TimeScale.h"
+#include "chart/TrendCurves.h"
 #include "report/CommentLook.h"
 #include "report/FieldText.h"
 #include "report/GraphPage.h"
 #include "report/SummaryType.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace zel {
 
 namespace {
 
-constexpr double barHeight = 3, leastBar = 1.5, betweenBars = 0.75, belowBar = 1, betweenNumbers = 2;
+constexpr double barHeight = 3, betweenRows = 1.5, tickWidth = 1, leastBar = 1.5, belowBars = 1;
+constexpr double besideNumber = 1.5, betweenNumbers = 2, numberFrame = 0.4;
+constexpr std::size_t mostBarRows = 3;
+const QColor barColor(170, 170, 170);
 
-double stripHeight() { return barHeight + belowBar + lineHeight(summarySmall) + 1; }
+using BarRow = std::vector<CommentDays>;
+
+/// Of each comment: the first row in which its days are free; the last one where they are so in none.
+std::vector<std::size_t> barRowsOf(const std::vector<const CommentModel*>& comments) {
+    std::vector<BarRow> taken(mostBarRows);
+    std::vector<std::size_t> rows;
+    rows.reserve(comments.size());
+    for (const CommentModel* comment : comments) {
+        const CommentDays days = commentDays(*comment).value_or(CommentDays());
+        const auto isFree = [&](const BarRow& row) {
+            return std::ranges::none_of(row, [&](const CommentDays& other) {
+                return days.begin <= other.end && other.begin <= days.end;
+            });
+        };
+        const auto row = std::ranges::find_if(taken.begin(), taken.end() - 1, isFree);
+        row->push_back(days);
+        rows.push_back(static_cast<std::size_t>(row - taken.begin()));
+    }
+    return rows;
+}
+
+double barsHeight(const std::vector<std::size_t>& rows) {
+    return (barHeight + betweenRows) * static_cast<double>(std::ranges::max(rows) + 1);
+}
+
+double stripHeight(const std::vector<std::size_t>& rows) {
+    return barsHeight(rows) + belowBars + lineHeight(summarySmall) + 1;
+}
 
 /// What is taken of the line of numbers.
 struct TakenRoom {
     double from, to;
 };
 
-/// Where the comment's whole days lie, as far as the plot goes.
-TakenRoom daysOf(const CommentModel& comment, const TimeScale& time) {
-    const double right = time.left + time.width;
-    const Instant begin = *(isNilDate(comment.beginDate) ? comment.endDate : comment.beginDate);
-    const Instant end = *(isNilDate(comment.endDate) ? comment.beginDate : comment.endDate);
-    const auto x = [&](Instant date, bool isBegin) {
-        return std::clamp(time.calcXPos(DateToDayBoundary(date, isBegin)), time.left, right);
-    };
-    const double from = x(std::min(begin, end), true), to = x(std::max(begin, end), false);
-    return {std::min(from, right - leastBar), std::max(to, from + leastBar)};
+/// Of the comment's whole days, as far as the plot goes.
+Rect barOf(const CommentModel& comment, const TimeScale& time, double y) {
+    const CommentDays days = commentDays(comment).value_or(CommentDays());
+    const TrendSpan span = trendSpan(time, days.begin, days.end, LocalZone());
+    const double from = std::min(span.from, time.left + time.width - leastBar);
+    return {from, y, std::max(leastBar, span.to - from), barHeight};
 }
 
 /// \return whether the number has room beside those that are there
@@ -45,20 +74,61 @@ bool take(std::vector<TakenRoom>& taken, const TakenRoom& wanted) {
     return true;
 }
 
-void drawComments(Picture& picture, const ReportSource& report,
-                  const std::vector<const CommentModel*>& comments, const TimeScale& time, double top) {
+/// Begin and end of each are seen, also where others lie over it.
+void drawBars(Picture& picture, const std::vector<Rect>& bars) {
+    for (const Rect& bar : bars)
+        picture.emplace_back(FillRect{bar, barColor});
+    for (const Rect& bar : bars)
+        for (const double x : {bar.x, bar.right() - tickWidth})
+            picture.emplace_back(FillRect{{x, bar.y, tickWidth, bar.height}, Qt::black});
+}
+
+/// In a frame, unlike the days of the axis above.
+void drawNumber(Picture& picture, const QString& number, const Rect& frame) {
+    picture.emplace_back(Curve{{{frame.x, frame.y},
+                                {frame.right(), frame.y},
+                                {frame.right(), frame.top()},
+                                {frame.x, frame.top()},
+                                {frame.x, frame.y}},
+                               numberFrame,
+                               Qt::black,
+                               {}});
+    summaryText(picture, number, {frame.x + besideNumber, frame.y}, frame.width, summarySmall);
+}
+
+/// Below the bars. \return how many comments have no room for their number
+int drawNumbers(Picture& picture, const ReportSource& report,
+                const std::vector<const CommentModel*>& comments, const std::vector<Rect>& bars,
+                const TimeScale& time, double y) {
     std::vector<TakenRoom> taken;
-    for (const CommentModel* comment : comments) {
-        const auto [from, to] = daysOf(*comment, time);
-        const double length = std::max(leastBar, to - from - betweenBars);
-        picture.emplace_back(FillRect{{from, top - barHeight, length, barHeight}, Qt::black});
-        const QString number = commentNumber(report.comments, *comment);
-        const double width = textSize(number, summarySmall).width;
-        const double x = std::clamp(from, time.left, time.left + time.width - width);
-        if (!take(taken, {x, x + width})) continue;
-        const double y = top - barHeight - belowBar - lineHeight(summarySmall);
-        summaryText(picture, number, {x, y}, width + 1, summarySmall);
+    for (std::size_t i = 0; i < comments.size(); ++i) {
+        const QString number = commentNumber(report.comments, *comments[i]);
+        const double width = textSize(number, summarySmall).width + 2 * besideNumber;
+        const double x = std::clamp(bars[i].x, time.left, time.left + time.width - width);
+        if (take(taken, {x, x + width})) drawNumber(picture, number, {x, y, width, lineHeight(summarySmall)});
     }
+    return static_cast<int>(comments.size() - taken.size());
+}
+
+/// \return as drawNumbers()
+int drawComments(Picture& picture, const ReportSource& report,
+                 const std::vector<const CommentModel*>& comments, const std::vector<std::size_t>& rows,
+                 const TimeScale& time, double top) {
+    std::vector<Rect> bars;
+    bars.reserve(comments.size());
+    for (std::size_t i = 0; i < comments.size(); ++i) {
+        const double below = (barHeight + betweenRows) * static_cast<double>(rows[i]) + barHeight;
+        bars.push_back(barOf(*comments[i], time, top - below));
+    }
+    drawBars(picture, bars);
+    const double y = top - barsHeight(rows) - belowBars - lineHeight(summarySmall) + betweenRows;
+    return drawNumbers(picture, report, comments, bars, time, y);
+}
+
+QString headingOf(std::size_t comments, int withoutNumber) {
+    if (comments == 0) return qtTrId("summaryTrend");
+    return withoutNumber > 0 ? qtTrId("summaryTrendNumberless", withoutNumber)
+                             : qtTrId("summaryTrendComments");
 }
 
 } // namespace
@@ -66,11 +136,13 @@ void drawComments(Picture& picture, const ReportSource& report,
 void drawSummaryTrend(Picture& picture, const ReportSource& report, const Rect& rect) {
     const Period& period = report.selection.period;
     const auto comments = commentsOfPeriod(report.comments, period);
-    Rect left = summaryBlock(
-        picture, comments.empty() ? qtTrId("summaryTrend") : qtTrId("summaryTrendComments"), rect);
-    if (!lastDayOf(report.readings, period))
+    if (!lastDayOf(report.readings, period)) {
+        Rect left = summaryBlock(picture, headingOf(comments.size(), 0), rect);
         return summaryLine(picture, qtTrId("summaryNone"), left, summaryFont);
-    const double strip = comments.empty() ? 0 : stripHeight();
+    }
+    const Rect left{rect.x, rect.y, rect.width, rect.height - summaryBlockHeight()};
+    const auto rows = barRowsOf(comments);
+    const double strip = comments.empty() ? 0 : stripHeight(rows);
     const ReadingSelection selection = summarySelection(period);
     TrendLayout trend = drawTrend({.trend = calcTrendSeries(report.readings, selection, false),
                                    .comments = CommentList(),
@@ -83,7 +155,9 @@ void drawSummaryTrend(Picture& picture, const ReportSource& report, const Rect& 
                                   LocalZone());
     append(picture, std::move(trend.picture));
     const TimeScale time{period.begin, period.end, trend.plot.x, trend.plot.width};
-    drawComments(picture, report, comments, time, left.y + strip - 1);
+    const int withoutNumber =
+        comments.empty() ? 0 : drawComments(picture, report, comments, rows, time, left.y + strip - 1);
+    std::ignore = summaryBlock(picture, headingOf(comments.size(), withoutNumber), rect);
 }
 
 } // namespace zel

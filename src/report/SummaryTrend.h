@@ -6,7 +6,8 @@
 namespace zel {
 
 /// The trend of all times of the day, and below it when the comments of the period were, by the numbers under
-/// which they are listed: the newest ones where not all numbers have room.
+/// which they are listed. Where not all numbers have room, those of the newest stand there, and the heading
+/// counts the others.
 void drawSummaryTrend(Picture& picture, const ReportSource& report, const Rect& rect);
 
 } // namespace zel

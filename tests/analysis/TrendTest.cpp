@@ -1,6 +1,7 @@
 #include "analysis/Trend.h"
 
 #include "analysis/Sample.h"
+#include "support/InZone.h"
 
 #include <gtest/gtest.h>
 
@@ -95,22 +96,27 @@ TEST(Trend, StepsAreDaysOrWeeksFromMondayOrMonths) {
 }
 
 TEST(Trend, MorningsAndEveningsAreSeriesOfTheirOwn) {
-    const ReadingList readings =
-        readingsAt({"2026-03-02 08:00", "2026-03-02 11:59:59", "2026-03-02 12:00", "2026-03-03 20:00"});
+    ReadingList readings = readingsAt({"2026-03-02 08:00", "2026-03-02 11:59:59", "2026-03-02 12:00",
+                                       "2026-03-03 20:00", "2026-04-01 20:00"});
+    for (const std::size_t elsewhere : {1U, 2U, 3U, 4U}) // the last one beyond the period
+        readings[elsewhere].isOfOtherZone = true;
     using enum ViewSelection;
     const struct {
         ViewSelection view;
         bool apart;
         std::string series;
-    } cases[]{{custom, false, "all: 2"},       {custom, true, "am: 1, pm: 2"},
-              {viewAll, true, "am: 1, pm: 2"}, {amOnly, false, "am: 1"},
-              {amOnly, true, "am: 1"},         {pmOnly, true, "pm: 2"},
-              {ViewSelection::none, true, ""}, {ViewSelection::none, false, "all: 0"}};
-    for (const auto& [view, apart, series] : cases) {
+        int ofOtherZone;
+    } cases[]{{custom, false, "all: 2", 0},       {custom, true, "am: 1, pm: 2", 3},
+              {viewAll, true, "am: 1, pm: 2", 3}, {amOnly, false, "am: 1", 1},
+              {amOnly, true, "am: 1", 1},         {pmOnly, true, "pm: 2", 2},
+              {ViewSelection::none, true, "", 0}, {ViewSelection::none, false, "all: 0", 0}};
+    for (const auto& [view, apart, series, ofOtherZone] : cases) {
         ReadingSelection selection = during("2026-03-01", "2026-03-31");
         selection.view = view;
         QStringList found;
-        for (const TrendSeries& one : calcTrendSeries(readings, selection, apart).series)
+        const TrendSeriesList list = calcTrendSeries(readings, selection, apart);
+        EXPECT_EQ(list.ofOtherZone, ofOtherZone) << static_cast<int>(view) << apart;
+        for (const TrendSeries& one : list.series)
             found += u"%1: %2"_s.arg(one.half == amOnly   ? u"am"_s
                                      : one.half == pmOnly ? u"pm"_s
                                                           : u"all"_s)
@@ -119,6 +125,26 @@ TEST(Trend, MorningsAndEveningsAreSeriesOfTheirOwn) {
     }
     EXPECT_EQ(calcTrendSeries({}, during("2026-01-01", "2026-12-31"), true).step, TrendStep::week)
         << "without readings, too";
+}
+
+/// The night of 25 October 2026: 25 hours, of which the clocks show the third one twice.
+TEST(Trend, AReadingIsOfItsDayAndHalfAlsoWhereTheClocksChange) {
+    using namespace std::chrono;
+    const InZone zone("Europe/Berlin");
+    ReadingList readings;
+    for (const int utc : {-90, 30, 90, 1350, 1380}) { // in minutes: 00:30, 02:30 twice, 23:30, 00:00
+        ReadingModel& made = readings.emplace_back(readingAt("2026-10-25"));
+        made.ReadingDate = sys_days{2026y / October / 25} + minutes{utc};
+        made.postInit(nullptr, {}, LocalZone{});
+    }
+    const auto month = during("2026-10-01", "2026-10-31");
+    EXPECT_EQ(words(calcTrend(readings, month)), "10-25/10-25 (4) 120 120 120, 10-26/10-26 (1) 120 120 120");
+    const auto halves = calcTrendSeries(readings, month, true).series;
+    ASSERT_EQ(halves.size(), 2U);
+    EXPECT_EQ(words({.points = halves[0].points}),
+              "10-25/10-25 (3) 120 120 120, 10-26/10-26 (1) 120 120 120");
+    EXPECT_EQ(words({.points = halves[1].points}), "10-25/10-25 (1) 120 120 120");
+    EXPECT_EQ(calcTrend(readings, during("2026-10-25", "2026-10-25")).points.size(), 1U);
 }
 
 TEST(Trend, LeavesOutWhatTheUserHasExcludedAndWhatHasNoPressures) {

@@ -36,6 +36,8 @@ struct TrendOf {
         CommentModel& made = *comments.emplace_back(std::make_unique<CommentModel>());
         made.beginDate = at(from);
         made.endDate = at(to);
+        made.beginDay = LocalZone{}.day(made.beginDate);
+        made.endDay = LocalZone{}.day(made.endDate);
         made.comment = text;
     }
     [[nodiscard]] TrendLayout layout() const {
@@ -59,6 +61,13 @@ struct TrendOf {
     [[nodiscard]] std::vector<Curve> curves(double width) const {
         auto all = items<Curve>();
         std::erase_if(all, [&](const Curve& one) { return one.width != width; });
+        return all;
+    }
+    /// Of comments.
+    [[nodiscard]] std::vector<Rect> bands() const {
+        std::vector<Rect> all;
+        for (const FillRect& one : items<FillRect>())
+            if (one.color.alpha() < 255) all.push_back(one.rect);
         return all;
     }
     [[nodiscard]] auto medianLines() const { return curves(2); }
@@ -353,26 +362,74 @@ TEST(DrawTrend, CountsThePointsThatReachBeyondTheScale) {
     }
 }
 
-TEST(DrawTrend, CommentsThatHaveNoRoomAreCounted) {
-    TrendOf trend;
-    trend.comment("2018-01-01", "2018-12-31", u"before the period"_s);
-    trend.comment("2019-02-01", "2019-04-30", u"all along"_s);
-    trend.comment("2019-03-31", "2019-03-31", u"the last day"_s);
-    trend.comment("2019-03-10", "2019-03-12", {});
-    QStringList texts = trend.texts();
-    EXPECT_TRUE(texts.contains(u"all along"_s));
-    EXPECT_TRUE(texts.contains(u"the last day"_s));
-    EXPECT_TRUE(texts.filter(u"before"_s).isEmpty());
-    EXPECT_TRUE(texts.filter(u"no room"_s).isEmpty());
-    for (int i = 0; i < 20; ++i)
-        trend.comment("2019-03-15", "2019-03-16", u"on the same days %1"_s.arg(i));
-    texts = trend.texts();
-    const auto shown = texts.filter(u"on the same days"_s).size() + texts.filter(u"all along"_s).size();
-    EXPECT_GT(shown, 1);
-    ASSERT_EQ(texts.filter(u"no room"_s).size(), 1);
-    EXPECT_EQ(texts.filter(u"no room"_s).front(), u"%1 more comments have no room here"_s.arg(21 - shown));
-    EXPECT_EQ(crowded(trend.items<TextLine>(), trend.rect).join(u'\n').toStdString(), "");
-    EXPECT_LT(trend.layout().plot.y, 200) << "the plots keep most of the room";
+TEST(DrawTrend, EachCommentHasItsBandAndThoseWithoutTheirTextAreCounted) {
+    const struct {
+        int comments, apart, days, covered; ///< in days; how many cannot stand clear of the others
+        double width;
+    } cases[]{{3, 700, 2, 0, 700},     {12, 30, 2, 0, 700},    {60, 42, 3, 0, 700}, {60, 42, 3, 0, 470},
+              {12, 200, 9999, 5, 700}, {60, 42, 700, 36, 700}, {9, 0, 1, 2, 700}};
+    for (const auto& [comments, apart, days, covered, width] : cases) {
+        TrendOf trend{.selection = during("2019-05-01", "2026-04-30"), .rect = {10, 20, width, 400}};
+        trend.comment("2018-01-01", "2018-12-31", u"before the period"_s);
+        for (int i = 0; i < comments; ++i) {
+            trend.comment("2026-04-29", "2026-04-29",
+                          u"Dose changed: %1 mg each morning from now on"_s.arg(i));
+            trend.comments.back()->beginDay -= apart * i;
+            trend.comments.back()->endDay += days - 1 - apart * i;
+        }
+        const std::vector<Rect> bands = trend.bands();
+        EXPECT_EQ(std::ssize(bands), comments);
+        int over = 0;
+        for (std::size_t i = 0; i < bands.size(); ++i)
+            over += std::any_of(bands.begin(), bands.begin() + static_cast<std::ptrdiff_t>(i),
+                                [&](const Rect& other) { return overlap(bands[i], other); });
+        EXPECT_EQ(over, covered) << comments << " in " << width;
+        const Rect plot = trend.layout().plot;
+        for (const auto& comment : trend.comments)
+            EXPECT_EQ(std::ranges::any_of(bands,
+                                          [&](const Rect& band) {
+                                              const double day = plot.width / 2557;
+                                              const int begin =
+                                                  comment->beginDay - LocalZone{}.day(at("2019-05-01"));
+                                              return std::abs(band.x - plot.x - day * begin) <= 3;
+                                          }),
+                      !comment->comment.startsWith(u"before"_s))
+                << qPrintable(comment->comment);
+        const QStringList texts = trend.texts();
+        const auto named = texts.filter(u"Dose changed"_s).size();
+        EXPECT_TRUE(named > 0);
+        const QString counts = texts.filter(u"without"_s).join(u'|');
+        EXPECT_EQ(counts.section(u"; "_s, 0, 0),
+                  named == comments ? QString()
+                                    : u"%1 more comments without their text"_s.arg(comments - named));
+        EXPECT_EQ(counts.section(u"; "_s, 1),
+                  covered == 0 ? QString() : u"%1 comments lie over others"_s.arg(covered));
+        EXPECT_EQ(crowded(trend.items<TextLine>(), trend.rect).join(u'\n').toStdString(), "");
+        EXPECT_LT(plot.y, 200) << "the plots keep most of the room";
+    }
+    TrendOf low{.rect = {0, 0, 480, 130}};
+    low.comment("2019-03-10", "2019-03-12", {});
+    EXPECT_TRUE(low.texts().contains(u"1 more comment has no room here"_s));
+}
+
+TEST(DrawTrend, ADayOfACommentThatIsNotKnownIsTheOther) {
+    const DayNumber tenth = LocalZone{}.day(at("2019-03-10")), none = noDay;
+    for (const auto& [begin, end, days] : {std::tuple(tenth, tenth, 1),
+                                           {tenth, none, 1},
+                                           {none, tenth, 1},
+                                           {tenth + 2, tenth, 3},
+                                           {none, none, 0}}) {
+        TrendOf trend;
+        trend.comment("2019-03-10", "2019-03-10", u"a cold"_s);
+        trend.comments[0]->beginDay = begin;
+        trend.comments[0]->endDay = end;
+        const std::vector<Rect> bands = trend.bands();
+        ASSERT_EQ(bands.size(), days > 0 ? 1U : 0U);
+        if (days == 0) continue;
+        const Rect plot = trend.layout().plot;
+        EXPECT_NEAR(bands[0].x, plot.x + plot.width * 9 / 31, 0.01);
+        EXPECT_NEAR(bands[0].width, plot.width * days / 31, 0.01);
+    }
 }
 
 TEST(DrawTrend, HasNoPlotWhereThereIsNoRoom) {

@@ -6,6 +6,9 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+#include <vector>
+
 namespace zel {
 
 using namespace Qt::StringLiterals;
@@ -21,7 +24,7 @@ SampleReport reportInLanguage() {
     sample.patient.Height = 168;
     sample.settings.physicianAddress = u"Dr. Grey\nHigh Street 1"_s;
     sample.settings.timeFormat = u"12-hours"_s;
-    sample.settings.sysStandard = 140;
+    sample.settings.sysStandard = 230; // outside the trend's scale: a sentence more
     sample.settings.diaStandard = 90;
     sample.highFrom = {135, 85};
     sample.readings[60].exclusion = measuredReason.toString();
@@ -115,6 +118,42 @@ TEST(ReportLanguage, theSummaryHasRoomForAllThatItSays) {
             const QStringList found = faults(view, Section::summary, 1);
             EXPECT_EQ(found.size(), 1) << language.tag.data() << ": beside the note that explains ellipses\n"
                                        << found.join(u'\n').toStdString();
+        }
+    }
+}
+
+/// What stands above the trend of a page, without the blanks that it may be broken at.
+QString captionOf(const SampleReport& sample, Section section, QPageSize::PageSizeId paper) {
+    QString all;
+    for (const TextLine& line : textsOf(sample.view(paper).page(section, 1)))
+        all += line.text;
+    return all.remove(u' ');
+}
+
+TEST(ReportLanguage, theTrendsCaptionSaysWhatIsDrawn) {
+    const struct {
+        std::vector<std::size_t> readings; ///< day by day
+        const char* band;
+        bool hasGap;
+    } cases[]{{{1, 2, 4}, "trendBandAll", false}, {{1, 0, 4}, "trendBandAll", true},
+              {{5, 6}, "trendBandShort", false},  {{5, 0, 5}, "trendBandShort", true},
+              {{4, 5}, "trendBand", false},       {{5, 0, 4}, "trendBand", true}};
+    for (const Language& language : languages()) {
+        const ProgramTexts texts(language);
+        for (const auto& [readings, band, hasGap] : cases) {
+            SampleReport sample(62); // two readings a day
+            sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+            const ReadingList all = std::exchange(sample.readings, {});
+            for (std::size_t day = 0; day < readings.size(); ++day)
+                sample.readings.insert(sample.readings.end(), readings[day], all[2 * day]);
+            const QString words = qtTrId(band).arg(qtTrId("trendDay"));
+            const QString dots = qtTrId("trendLinked").arg(QString()).remove(u' ');
+            for (const Section section : {Section::trend, Section::summary})
+                for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+                    const QString caption = captionOf(sample, section, paper);
+                    EXPECT_TRUE(caption.contains(QString(words).remove(u' ') + (hasGap ? dots : u"SYS"_s)))
+                        << language.tag.data() << ' ' << band << qPrintable(caption);
+                }
         }
     }
 }

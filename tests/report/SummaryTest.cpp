@@ -378,28 +378,63 @@ TEST(Summary, explainsTheLimitsThatItsTrendHas) {
     }
 }
 
+/// Of January, with the bars of comments on the summary.
+struct TrendOfJanuary : SampleReport {
+    TrendOfJanuary() : SampleReport(62) {
+        selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
+    }
+    [[nodiscard]] std::vector<Rect> filled(const QColor& color) const {
+        std::vector<Rect> rects;
+        for (const PictureItem& item : view().page(Section::summary, 1))
+            if (const auto* fill = std::get_if<FillRect>(&item); fill && fill->color == color)
+                rects.push_back(fill->rect);
+        return rects;
+    }
+    [[nodiscard]] std::vector<Rect> bars() const { return filled(QColor(170, 170, 170)); }
+    [[nodiscard]] std::vector<double> widths() const {
+        std::vector<double> all;
+        for (const Rect& bar : bars())
+            all.push_back(bar.width);
+        return all;
+    }
+};
+
 TEST(Summary, theTrendHasAllDaysOfAComment) {
-    SampleReport sample(62); // of January
-    sample.selection.period.end = DateToDayBoundary(noonOf("2019-01-31"), false);
-    const auto bars = [&] {
-        std::vector<double> widths;
-        for (const PictureItem& item : sample.view().page(Section::summary, 1))
-            if (const auto* fill = std::get_if<FillRect>(&item); fill && fill->color == Qt::black)
-                widths.push_back(fill->rect.width);
-        return widths;
-    };
+    TrendOfJanuary sample;
     sample.addComment("2019-01-10", "2019-01-11", 1, u"Dose halved."_s);
-    const auto whole = bars();
+    const auto whole = sample.widths();
     ASSERT_EQ(whole.size(), 1U);
     CommentModel& comment = *sample.comments[0];
-    comment.endDate = DateToDayBoundary(noonOf("2019-01-11"), true); // as other programs store it
-    EXPECT_EQ(bars(), whole);
-    std::swap(comment.beginDate, comment.endDate);
-    EXPECT_EQ(bars(), whole);
-    comment.beginDate = comment.endDate;
-    comment.beginDay = comment.endDay;
-    ASSERT_EQ(bars().size(), 1U);
-    EXPECT_NEAR(whole[0], 2 * bars()[0], 1) << "two days are as long as two times one";
+    std::swap(comment.beginDay, comment.endDay);
+    EXPECT_EQ(sample.widths(), whole);
+    comment.beginDay = noDay;
+    ASSERT_EQ(sample.bars().size(), 1U);
+    EXPECT_NEAR(whole[0], 2 * sample.widths()[0], 0.01) << "two days are as long as two times one";
+}
+
+TEST(Summary, theTrendShowsBeginAndEndOfEachCommentAndCountsThoseWithoutNumber) {
+    TrendOfJanuary sample;
+    sample.addComment("2019-01-01", "2019-01-31", 1, u"Holiday."_s);
+    sample.addComment("2019-01-10", "2019-01-20", 1, u"A cold."_s);
+    sample.addComment("2019-01-12", "2019-01-14", 1, u"Fever."_s);
+    const std::vector<Rect> bars = sample.bars(), ticks = sample.filled(Qt::black);
+    ASSERT_EQ(bars.size(), 3U);
+    const auto has = [&](double x, double y) {
+        return std::ranges::any_of(ticks, [&](const Rect& tick) {
+            return std::abs(tick.x - x) < 0.01 && std::abs(tick.y - y) < 0.01;
+        });
+    };
+    for (const Rect& bar : bars) {
+        EXPECT_TRUE(has(bar.x, bar.y));
+        EXPECT_TRUE(has(bar.right() - 1, bar.y));
+        for (const Rect& other : bars)
+            EXPECT_TRUE(&other == &bar || std::abs(other.y - bar.y) > bar.height) << "one over the other";
+    }
+    EXPECT_THAT(wordsOf(sample.view()), testing::Contains(u"Trend, and below it the comments by number"_s));
+    for (int i = 0; i < 60; ++i)
+        sample.addComment("2019-01-15", "2019-01-15", 1, u"More."_s);
+    EXPECT_EQ(sample.bars().size(), 63U);
+    EXPECT_TRUE(wordsOf(sample.view()).join(u'\n').contains(u"by number; 59 have no room for theirs"_s));
 }
 
 TEST(Summary, tellsOfHowManyDaysTheLastDaysAre) {

@@ -165,6 +165,7 @@ QString TrendView::words() const {
     DayNumber latest = noDay;
     for (const TrendSeries& series : trend.series)
         if (!series.points.empty()) latest = std::max(latest, series.points.back().begin);
+    if (trend.ofOtherZone > 0) keys += u'\n' + qtTrId("weekOtherZone", trend.ofOtherZone);
     if (readings == 0) return keys;
     return keys + u'\n' + spokenInfo(trendInfo(trend, latest, period.getTimePeriod(), store.getSetting()));
 }

@@ -1,6 +1,7 @@
 #include "ChartPageTest.h"
 #include "app/graph/BPInfoView.h"
 #include "app/graph/TrendView.h"
+#include "support/InZone.h"
 
 #include <QCheckBox>
 #include <QTest>
@@ -167,6 +168,19 @@ TEST_F(TrendTest, morningsAndEveningsAreLinesOfTheirOwnAtChoice) {
     trend().setFocus();
     press(Qt::Key_Home);
     EXPECT_TRUE(said().contains(u"Readings: 2\nSystolic: 131 (111 to 151) mmHg"_s)) << qPrintable(said());
+}
+
+TEST_F(TrendTest, halvesOfTheDaySayWhoseClockTheyGoBy) {
+    openTrend(u"20260301"_s, u"20260303"_s);
+    const InZone tokyo("Asia/Tokyo");
+    ASSERT_TRUE(store.load());
+    const auto isTold = [&] {
+        return said().contains(
+            u"3 readings were stored in another time zone; times are those of this computer"_s);
+    };
+    EXPECT_FALSE(isTold()) << "a day is hardly another one";
+    find<QCheckBox>("trendApart").click();
+    EXPECT_TRUE(isTold()) << qPrintable(said());
 }
 
 } // namespace zel
