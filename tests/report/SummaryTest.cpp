@@ -2,6 +2,7 @@
 #include "analysis/HighValues.h"
 #include "chart/Drawing.h"
 #include "chart/PicturePainter.h"
+#include "report/FieldText.h"
 #include "report/SummaryComments.h"
 
 #include <QImage>
@@ -517,6 +518,10 @@ TEST(Summary, aCommentStandsWhereItsLinesHaveRoom) {
     const double needed = plenty - boxOf(texts[1]).top() + 2 * item;
     EXPECT_EQ(drawn(needed + 0.01).size(), texts.size());
     EXPECT_EQ(drawn(needed - 0.01).back().text, u"and 1 more comment"_s);
+    sample.addComment("2018-02-01", "2018-02-01", 1, u"Of another year."_s);
+    const double withLine = needed + lineHeight(texts[1].attribute);
+    EXPECT_EQ(drawn(withLine + 0.01).back().text, u"1 comment of other days"_s);
+    EXPECT_EQ(drawn(withLine - 0.01).back().text, u"and 1 more comment; 1 comment of other days"_s);
 }
 
 TEST(Summary, namesAsManyExcludedReadingsAsFit) {
