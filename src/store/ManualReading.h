@@ -48,8 +48,9 @@ enum class ManualProblem {
 /// Why a typed reading is left out when the monitor brings the same one: as it is stored, in every language.
 inline constexpr QStringView measuredReason{u"measured by the monitor, too"};
 
-/// The reason for leaving a reading out as it is stored, on one line; empty: it is none. What
-/// describeExclusion() shows for measuredReason is measuredReason again.
+/// The reason for leaving a reading out as it is stored, on one line, without characters that turn the
+/// direction of writing; empty: there is none that can be seen. What describeExclusion() shows for
+/// measuredReason is measuredReason again.
 [[nodiscard]] QString exclusionReason(const QString& typed);
 
 /// What is to be known of the reading beside its values: "typed in; left out: cuff was loose"; mostly empty.

@@ -114,8 +114,9 @@ TEST_F(ReadingChangeTest, WhatOthersChangedOrRemovedIsRefusedWhole) {
         EXPECT_EQ(content(), changed);
         EXPECT_EQ(store.changes().undoable(), nullptr);
     }
-    for (const char* blank : {"", " \n\t", "\x01\x7F"})
-        EXPECT_EQ(codeOf(store.excludeReadings(readings(), QString::fromLatin1(blank))), noReason);
+    for (const QString& blank : {u""_s, u" \n\t"_s, u"\x01\x7F"_s, u"\u200B"_s, u"\u202E \u2060\U000E0041"_s})
+        EXPECT_EQ(codeOf(store.excludeReadings(readings(), blank)), noReason);
+    EXPECT_EQ(exclusionReason(u"a\u202E b\u2067\u200Dc"_s), u"a b\u200Dc"_s);
 }
 
 TEST_F(ReadingChangeTest, TypedReadingIsStoredLikeOthersAndMarked) {
@@ -276,6 +277,17 @@ TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
     ASSERT_TRUE(store.includeReadings({readings().front()}));
     EXPECT_EQ(store.newDataTransfer({downloaded("2026-11-19 07:00")}).value_or(9), 0U);
     EXPECT_EQ(shown(), "120/80m 120/80 ") << "taken in since: the user's choice";
+}
+
+TEST_F(ReadingChangeTest, OneMeasuredReadingStandsForOneTypedOne) {
+    const InZone berlin{"Europe/Berlin"};
+    const RealTexts texts;
+    setData({});
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 15:00")));
+    const InZone tokyo{"Asia/Tokyo"}; // 15:00 there is the instant of 07:00
+    ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 15:00")}));
+    EXPECT_EQ(shown(), "120/80m 120/80!measured by the monitor, toom 120/80 ");
 }
 
 TEST_F(ReadingChangeTest, NothingComesBackBesideWhatADownloadBrought) {
