@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>Import von %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>Aufheben des Ausschlusses von %n Messung von %1</numerusform><numerusform>Aufheben des Ausschlusses von %n Messungen von %1</numerusform></translation></message>
     <message id="stepSettings"><translation>Änderung der Einstellungen</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung bleibt ausgeschlossen. %1</numerusform><numerusform>%n von Hand eingegebene Messungen bleiben ausgeschlossen. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung bleibt ausgeschlossen: Eine aus derselben Minute mit denselben Werten zählt schon mit.</numerusform><numerusform>%n von Hand eingegebene Messungen bleiben ausgeschlossen: Messungen aus denselben Minuten mit denselben Werten zählen schon mit.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Ein Patient mit der ID „%1“ ist schon in der Liste. Es wurde nichts geändert.</translation></message>
     <message id="StoreBusy"><translation>Ein anderes Programm arbeitet gerade mit der Datendatei %1, auf diesem Computer oder auf einem anderen, der sie mitbenutzt. Es wurde nichts geändert. Bitte versuchen Sie es gleich noch einmal, oder in einigen Minuten, falls der andere Computer die Netzwerkverbindung verloren hat.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Ein anderes Programm hat die Daten inzwischen geändert. Hier wurde nichts geändert; bitte sehen Sie sich den jetzigen Stand an.</translation></message>
@@ -387,6 +389,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="downloadStarting"><translation>Messgerät wird abgefragt …</translation></message>
     <message id="downloadsTitle"><translation>Auslesevorgänge</translation></message>
     <message id="downloadStopping"><translation>Wird abgebrochen …</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n von Hand eingegebene ist ab jetzt ausgeschlossen (auch vom Messgerät gemessen)</numerusform><numerusform>%n von Hand eingegebene sind ab jetzt ausgeschlossen (auch vom Messgerät gemessen)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Vom Messgerät kommt nichts an. Das Auslesen wartet noch höchstens %n Sekunde darauf. Sie können es abbrechen: Es geht nichts verloren.</numerusform><numerusform>Vom Messgerät kommt nichts an. Das Auslesen wartet noch höchstens %n Sekunden darauf. Sie können es abbrechen: Es geht nichts verloren.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Importieren lassen sich nur XML-Dateien auf diesem Computer. Nicht in der Liste: %1</translation></message>
     <message id="DupNewPatient"><translation>Es gibt schon einen neuen Patienten, der noch nicht gespeichert ist: den ersten der Liste. Bitte speichern oder löschen Sie ihn zuerst.</translation></message>
@@ -1208,6 +1211,8 @@ Liest die Messungen des Messgeräts aus, speichert die noch nicht gespeicherten 
 ausgelesen wurden und wie viele davon neu sind. Der Fortschritt steht auf der Standardfehlerausgabe. Der
 Speicher des Messgeräts wird nur gelöscht, wenn die Einstellungen es vorsehen, und erst, wenn die Messungen
 sicher gespeichert sind.
+Von Hand eingegebene Messungen, die auch das Messgerät gemessen hat, sind ab dann ausgeschlossen; gibt es
+solche, werden sie als 'left-out' gezählt.
 
 Optionen:
   --patient ID                 der Patient, für den sie gespeichert werden

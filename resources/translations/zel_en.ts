@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>import of %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>take in %n reading of %1</numerusform><numerusform>take in %n readings of %1</numerusform></translation></message>
     <message id="stepSettings"><translation>change of settings</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n reading that was typed in stays left out. %1</numerusform><numerusform>%n readings that were typed in stay left out. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n reading that was typed in stays left out: one of that minute with the same values counts already.</numerusform><numerusform>%n readings that were typed in stay left out: ones of the same minutes with the same values count already.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1, on this computer or on another one that shares it. Nothing was changed; please try again in a moment, or in some minutes if that computer has dropped off the network.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Another program changed it in the meantime. Nothing was changed here; please look at it as it is now.</translation></message>
@@ -387,6 +389,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
     <message id="downloadsTitle"><translation>Downloads</translation></message>
     <message id="downloadStopping"><translation>Stopping …</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n that was typed in is left out from now on (measured by the monitor, too)</numerusform><numerusform>%n that were typed in are left out from now on (measured by the monitor, too)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Nothing comes from the monitor. The download waits for it, for %n second at most. You can cancel it: nothing is lost.</numerusform><numerusform>Nothing comes from the monitor. The download waits for it, for %n seconds at most. You can cancel it: nothing is lost.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Only XML files on this computer can be imported. Not in the list: %1</translation></message>
     <message id="DupNewPatient"><translation>There is a new patient already that is not saved yet: the first one of the list. Please save or delete it first.</translation></message>
@@ -1202,6 +1205,8 @@ Options:
 Downloads the monitor's readings, stores those that are not stored yet, and prints how many were
 downloaded and how many of them are new. Progress goes to standard error. The monitor's memory is erased
 only if the settings say so, and only when the readings are safely stored.
+Readings that were typed in, and that the monitor measured, too, are left out from then on, and counted as
+'left-out' where there are any.
 
 Options:
   --patient ID                 the patient to store them for

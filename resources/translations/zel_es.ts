@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>importación de %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>nueva inclusión de %n medición de %1</numerusform><numerusform>nueva inclusión de %n mediciones de %1</numerusform></translation></message>
     <message id="stepSettings"><translation>cambio de configuración</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n medición introducida a mano sigue excluida. %1</numerusform><numerusform>%n mediciones introducidas a mano siguen excluidas. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n medición introducida a mano sigue excluida: ya cuenta una del mismo minuto con los mismos valores.</numerusform><numerusform>%n mediciones introducidas a mano siguen excluidas: ya cuentan otras de los mismos minutos con los mismos valores.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Ya hay en la lista un paciente con el ID «%1». No se ha cambiado nada.</translation></message>
     <message id="StoreBusy"><translation>Otro programa está trabajando con el archivo de datos %1, en este equipo o en otro que lo comparte. No se ha cambiado nada. Vuelva a intentarlo dentro de un momento, o de unos minutos si aquel equipo ha perdido la conexión a la red.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Entretanto lo ha cambiado otro programa. Aquí no se ha cambiado nada; revise cómo está ahora.</translation></message>
@@ -387,6 +389,7 @@ mmHg</translation></message>
     <message id="downloadStarting"><translation>Consultando el tensiómetro…</translation></message>
     <message id="downloadsTitle"><translation>Descargas</translation></message>
     <message id="downloadStopping"><translation>Deteniendo…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n introducida a mano queda excluida desde ahora (también medida por el tensiómetro)</numerusform><numerusform>%n introducidas a mano quedan excluidas desde ahora (también medidas por el tensiómetro)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>No llega nada del tensiómetro. Se seguirá esperando %n segundo como máximo. Puede cancelar la descarga: no se pierde nada.</numerusform><numerusform>No llega nada del tensiómetro. Se seguirá esperando %n segundos como máximo. Puede cancelar la descarga: no se pierde nada.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Solo se pueden importar archivos XML de este equipo. No están en la lista: %1</translation></message>
     <message id="DupNewPatient"><translation>Ya hay un paciente nuevo sin guardar: el primero de la lista. Guárdelo o elimínelo antes.</translation></message>
@@ -1203,6 +1206,8 @@ Opciones:
 Descarga las mediciones del tensiómetro, guarda las que aún no estaban guardadas y muestra cuántas se han
 descargado y cuántas de ellas son nuevas. El progreso aparece en la salida de error. La memoria del
 tensiómetro se vacía solo si la configuración lo indica, y solo cuando las mediciones están bien guardadas.
+Las mediciones introducidas a mano que también ha medido el tensiómetro quedan excluidas desde entonces; si
+las hay, se cuentan como 'left-out'.
 
 Opciones:
   --patient ID                 paciente para el que se guardan

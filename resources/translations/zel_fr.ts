@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>importation (%1)</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>réintégration de %n mesure (%1)</numerusform><numerusform>réintégration de %n mesures (%1)</numerusform></translation></message>
     <message id="stepSettings"><translation>modification des réglages</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n mesure saisie à la main reste exclue. %1</numerusform><numerusform>%n mesures saisies à la main restent exclues. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n mesure saisie à la main reste exclue : une mesure de la même minute avec les mêmes valeurs compte déjà.</numerusform><numerusform>%n mesures saisies à la main restent exclues : des mesures des mêmes minutes avec les mêmes valeurs comptent déjà.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Un patient ayant l’ID « %1 » figure déjà dans la liste. Rien n’a été modifié.</translation></message>
     <message id="StoreBusy"><translation>Un autre programme utilise le fichier de données %1, sur cet ordinateur ou sur un autre qui le partage. Rien n’a été modifié ; veuillez réessayer dans un instant, ou dans quelques minutes si cet autre ordinateur n’est plus relié au réseau.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Un autre programme a modifié ces données entre-temps. Rien n’a été modifié ici ; veuillez les consulter dans leur état actuel.</translation></message>
@@ -387,6 +389,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="downloadStarting"><translation>Interrogation du tensiomètre…</translation></message>
     <message id="downloadsTitle"><translation>Transferts</translation></message>
     <message id="downloadStopping"><translation>Arrêt en cours…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n saisie à la main est désormais exclue (également enregistrée par le tensiomètre)</numerusform><numerusform>%n saisies à la main sont désormais exclues (également enregistrées par le tensiomètre)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n seconde au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n secondes au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Seuls des fichiers XML présents sur cet ordinateur peuvent être importés. Ne figurent pas dans la liste : %1</translation></message>
     <message id="DupNewPatient"><translation>Il y a déjà un nouveau patient qui n’est pas encore enregistré : le premier de la liste. Veuillez d’abord l’enregistrer ou le supprimer.</translation></message>
@@ -1205,6 +1208,8 @@ Transfère les mesures du tensiomètre, enregistre celles qui ne le sont pas enc
 transférées et combien d’entre elles sont nouvelles. La progression est indiquée sur l’erreur standard. La
 mémoire du tensiomètre n’est effacée que si les réglages le demandent, et une fois les mesures bien
 enregistrées.
+Les mesures saisies à la main que le tensiomètre a également enregistrées sont dès lors exclues ; s’il y en
+a, elles sont comptées sous 'left-out'.
 
 Options :
   --patient ID                 le patient pour lequel les enregistrer

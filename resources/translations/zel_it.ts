@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>importazione di %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>inclusione di %n misurazione di %1</numerusform><numerusform>inclusione di %n misurazioni di %1</numerusform></translation></message>
     <message id="stepSettings"><translation>modifica delle impostazioni</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n misurazione inserita a mano resta esclusa. %1</numerusform><numerusform>%n misurazioni inserite a mano restano escluse. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n misurazione inserita a mano resta esclusa: ne conta già una dello stesso minuto con gli stessi valori.</numerusform><numerusform>%n misurazioni inserite a mano restano escluse: ne contano già altre degli stessi minuti con gli stessi valori.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Un paziente con l’ID “%1” è già nell’elenco. Non è stato modificato nulla.</translation></message>
     <message id="StoreBusy"><translation>Un altro programma sta usando il file dei dati %1, su questo computer o su un altro che lo condivide. Non è stato modificato nulla; riprovare tra un momento, o tra qualche minuto se quel computer si è scollegato dalla rete.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Nel frattempo un altro programma ha modificato questi dati. Qui non è stato modificato nulla; controllare come sono adesso.</translation></message>
@@ -387,6 +389,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="downloadStarting"><translation>Richiesta al misuratore…</translation></message>
     <message id="downloadsTitle"><translation>Scarichi dei dati</translation></message>
     <message id="downloadStopping"><translation>Interruzione…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n inserita a mano è esclusa da ora in poi (presente anche nel misuratore)</numerusform><numerusform>%n inserite a mano sono escluse da ora in poi (presenti anche nel misuratore)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondo. Lo scarico si può annullare: non va perso nulla.</numerusform><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondi. Lo scarico si può annullare: non va perso nulla.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Si possono importare solo file XML su questo computer. Non in elenco: %1</translation></message>
     <message id="DupNewPatient"><translation>C’è già un nuovo paziente non ancora salvato: il primo dell’elenco. Prima salvarlo o eliminarlo.</translation></message>
@@ -1206,6 +1209,8 @@ Opzioni:
 Scarica le misurazioni del misuratore, registra quelle non ancora registrate e mostra quante ne sono state
 scaricate e quante sono nuove. L'avanzamento è scritto sullo standard error. La memoria del misuratore viene
 cancellata solo se lo prevedono le impostazioni, e solo quando le misurazioni sono registrate e al sicuro.
+Le misurazioni inserite a mano, se presenti anche nel misuratore, sono da allora escluse e, se ce ne sono,
+contate come 'left-out'.
 
 Opzioni:
   --patient ID                 il paziente per cui registrarle

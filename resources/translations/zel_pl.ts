@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>import pliku %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>ponowne uwzględnienie %n pomiaru (%1)</numerusform><numerusform>ponowne uwzględnienie %n pomiarów (%1)</numerusform><numerusform>ponowne uwzględnienie %n pomiarów (%1)</numerusform></translation></message>
     <message id="stepSettings"><translation>zmiany ustawień</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie pozostaje pominięty. %1</numerusform><numerusform>%n pomiary wpisane ręcznie pozostają pominięte. %1</numerusform><numerusform>%n pomiarów wpisanych ręcznie pozostaje pominiętych. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie pozostaje pominięty: liczy się już pomiar z tej samej minuty o tych samych wartościach.</numerusform><numerusform>%n pomiary wpisane ręcznie pozostają pominięte: liczą się już pomiary z tych samych minut o tych samych wartościach.</numerusform><numerusform>%n pomiarów wpisanych ręcznie pozostaje pominiętych: liczą się już pomiary z tych samych minut o tych samych wartościach.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Pacjent o ID „%1” jest już na liście. Niczego nie zmieniono.</translation></message>
     <message id="StoreBusy"><translation>Inny program korzysta z pliku danych %1, na tym komputerze albo na innym, który ma do niego dostęp. Niczego nie zmieniono; proszę spróbować ponownie za chwilę albo, jeśli tamten komputer stracił połączenie z siecią, za kilka minut.</translation></message>
     <message id="StoreChangedElsewhere"><translation>W międzyczasie zmienił to inny program. Tutaj niczego nie zmieniono; proszę sprawdzić, jak to wygląda teraz.</translation></message>
@@ -387,6 +389,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="downloadStarting"><translation>Łączenie z ciśnieniomierzem…</translation></message>
     <message id="downloadsTitle"><translation>Pobrania</translation></message>
     <message id="downloadStopping"><translation>Zatrzymywanie…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n wpisany ręcznie jest odtąd pominięty (zapisany także przez ciśnieniomierz)</numerusform><numerusform>%n wpisane ręcznie są odtąd pominięte (zapisane także przez ciśnieniomierz)</numerusform><numerusform>%n wpisanych ręcznie jest odtąd pominiętych (zapisanych także przez ciśnieniomierz)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundę. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundy. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekund. Można je anulować: nic nie przepadnie.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Importować można tylko pliki XML z tego komputera. Nie dodano do listy: %1</translation></message>
     <message id="DupNewPatient"><translation>Jest już nowy pacjent, którego jeszcze nie zapisano: pierwszy na liście. Proszę go najpierw zapisać lub usunąć.</translation></message>
@@ -1203,6 +1206,8 @@ Opcje:
 Pobiera pomiary z ciśnieniomierza, zapisuje te, których jeszcze nie zapisano, i wyświetla, ile pobrano
 i ile z nich jest nowych. Postęp trafia na wyjście błędów. Pamięć ciśnieniomierza jest wymazywana tylko
 wtedy, gdy tak mówią ustawienia i gdy pomiary są już bezpiecznie zapisane.
+Wpisane ręcznie pomiary, które zapisał także ciśnieniomierz, są odtąd pomijane; jeśli takie są, podawana jest
+ich liczba jako 'left-out'.
 
 Opcje:
   --patient ID                 pacjent, dla którego mają zostać zapisane

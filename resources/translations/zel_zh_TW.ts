@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>匯入 %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>重新計入 %1 的 %n 筆量測</numerusform></translation></message>
     <message id="stepSettings"><translation>變更設定</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測維持排除。%1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測維持排除：同一分鐘且數值相同的量測已計入。</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>清單中已有 ID 為「%1」的病患。未做任何變更。</translation></message>
     <message id="StoreBusy"><translation>另一個程式正在使用資料檔 %1，可能在這台電腦上，或在共用此檔案的另一台電腦上。未做任何變更；請稍後再試，若那台電腦已斷線，請過幾分鐘再試。</translation></message>
     <message id="StoreChangedElsewhere"><translation>這期間另一個程式已變更這些資料。此處未做任何變更；請查看目前的內容。</translation></message>
@@ -387,6 +389,7 @@ mmHg</translation></message>
     <message id="downloadStarting"><translation>正在查詢血壓計…</translation></message>
     <message id="downloadsTitle"><translation>下載紀錄</translation></message>
     <message id="downloadStopping"><translation>正在停止…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測從此排除（血壓計也有這筆量測）</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>血壓計沒有傳來資料。下載最多再等候 %n 秒。您可以取消，不會遺失任何資料。</numerusform></translation></message>
     <message id="dropLeftOut"><translation>只能匯入這部電腦上的 XML 檔案。未列入清單：%1</translation></message>
     <message id="DupNewPatient"><translation>已有一位尚未儲存的新病患，位於清單最上方。請先儲存或刪除。</translation></message>
@@ -1198,6 +1201,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 
 下載血壓計的量測，儲存其中尚未儲存的部分，並輸出下載的筆數與新增的筆數。進度輸出至標準錯誤。
 只有在設定如此指定、而且量測已安全儲存時，才會清空血壓計的記憶體。
+手動輸入的量測，若血壓計也有，從此予以排除；有這類量測時，計入 'left-out'。
 
 選項：
   --patient ID                 量測所屬的病患

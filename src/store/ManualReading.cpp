@@ -88,6 +88,14 @@ QString describe(ManualProblem problem) {
     return {};
 }
 
+QString describe(const StillLeftOut& readings) {
+    QStringList lines;
+    if (readings.countTwice > 0) lines += qtTrId("stillLeftOutTwice", readings.countTwice);
+    for (const auto& [problem, count] : readings.refused)
+        lines += qtTrId("stillLeftOutRefused", count).arg(describe(problem));
+    return lines.join(u'\n');
+}
+
 QString exclusionReason(const QString& typed) {
     QString kept;
     std::ranges::copy_if(typed.simplified(), std::back_inserter(kept), isPlain);

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <map>
 #include <optional>
 
 namespace zel {
@@ -44,6 +45,16 @@ enum class ManualProblem {
 [[nodiscard]] std::optional<ManualProblem> manualProblem(const ManualReading& typed, Instant now);
 /// In plain words, from the translation table.
 [[nodiscard]] QString describe(ManualProblem problem);
+
+/// How many typed readings that were to be taken in again stay left out, and why.
+struct StillLeftOut {
+    int countTwice = 0;                   ///< one of that minute, with these values, counts
+    std::map<ManualProblem, int> refused; ///< what nobody can type in, by what is wrong with it
+
+    [[nodiscard]] bool isNone() const { return countTwice == 0 && refused.empty(); }
+};
+/// In plain words, a line for each reason; empty for none.
+[[nodiscard]] QString describe(const StillLeftOut& readings);
 
 /// Why a typed reading is left out when the monitor brings the same one: as it is stored, in every language.
 inline constexpr QStringView measuredReason{u"measured by the monitor, too"};

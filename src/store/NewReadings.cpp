@@ -34,13 +34,6 @@ std::optional<Likeness> shownLikeness(const ReadingModel& reading, const Date& t
                     {0, reading.pulse, reading.dia, reading.sys}};
 }
 
-/// What the clocks showed there, if that is known, and else here.
-Date wallClockOf(const ReadingModel& reading, const LocalZone& zone) {
-    if (!reading.ReadingDate || reading.utcOffset == ReadingModel::noOffset)
-        return zone.wallClock(reading.ReadingDate);
-    return *reading.ReadingDate + std::chrono::minutes{reading.utcOffset};
-}
-
 /// What the file shows, whatever zone it was written in.
 Date wallClockOf(pugi::xml_node element) {
     const QByteArray date = childText(element, "ReadingDate").toUtf8();
@@ -152,6 +145,12 @@ std::vector<TypedElement> typedElements(pugi::xml_node root, const QString& ID, 
 }
 
 } // namespace
+
+Date wallClockOf(const ReadingModel& reading, const LocalZone& zone) {
+    if (!reading.ReadingDate || reading.utcOffset == ReadingModel::noOffset)
+        return zone.wallClock(reading.ReadingDate);
+    return *reading.ReadingDate + std::chrono::minutes{reading.utcOffset};
+}
 
 ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList downloaded) {
     const LocalZone zone;
