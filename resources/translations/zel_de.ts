@@ -182,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 vorher, %2 seither: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n ausgeschlossen</numerusform><numerusform>%n ausgeschlossen</numerusform></translation></message>
     <message id="fewBefore"><translation>weniger als %1 Messungen vorher</translation></message>
     <message id="fewOnBothSides"><translation>vorher wie seither weniger als %1 Messungen</translation></message>
     <message id="fewSince"><translation>weniger als %1 Messungen seither</translation></message>
     <message id="highMark"><translation>%1 und fett: ab %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n vor 12 Uhr</numerusform><numerusform>%n vor 12 Uhr</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n ausgeschlossen</numerusform><numerusform>%n ausgeschlossen</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n ab 12 Uhr</numerusform><numerusform>%n ab 12 Uhr</numerusform></translation></message>
     <message id="leftOut"><translation>nicht gezählt: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n außerhalb des Zeitraums</numerusform><numerusform>%n außerhalb des Zeitraums</numerusform></translation></message>
@@ -197,7 +197,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, davon %n von Hand ausgeschlossen</numerusform><numerusform>, davon %n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, davon %n ausgeschlossen</numerusform><numerusform>, davon %n ausgeschlossen</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n Tag</numerusform><numerusform>%n Tage</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n Abend</numerusform><numerusform>%n Abende</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n Morgen</numerusform><numerusform>%n Morgen</numerusform></translation></message>
@@ -854,7 +854,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 an %n Tag</numerusform><numerusform>%1 an %n Tagen</numerusform></translation></message>
     <message id="weekEnd"><translation>Letzter Tag der Messwoche</translation></message>
     <message id="weekEvenings"><translation>Abends %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n ausgeschlossen</numerusform><numerusform>%n ausgeschlossen</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n vom ersten Tag nicht gezählt</numerusform><numerusform>%n vom ersten Tag nicht gezählt</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mittelwert %1/%2 mmHg, Puls %3</translation></message>
@@ -894,7 +894,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n Punkt reicht unter die Skala</numerusform><numerusform>%n Punkte reichen unter die Skala</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n Messung unter der Skala</numerusform><numerusform>%n Messungen unter der Skala</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 darunter</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n von Hand ausgeschlossen</numerusform><numerusform>○ %n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n ausgeschlossen</numerusform><numerusform>○ %n ausgeschlossen</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolisch zu hoch</translation></message>
     <message id="evening"><translation>Abends</translation></message>
@@ -992,7 +992,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportHistogramNote"><translation>Balkenlänge: Anteil der Messungen in Prozent, die in diesem Bereich von 10 mmHg oder 10 Schlägen pro Minute liegen.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Bis einschließlich %1: %2</numerusform><numerusform>Bis einschließlich %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, Puls %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossene Messung, mit Grund</numerusform><numerusform>%n von Hand ausgeschlossene Messungen, mit Gründen</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n ausgeschlossene Messung, mit Grund</numerusform><numerusform>%n ausgeschlossene Messungen, mit Gründen</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolisch</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolisch</translation></message>
@@ -1045,7 +1045,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryMean"><translation>Mittel</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>und %n weiterer Kommentar</numerusform><numerusform>und %n weitere Kommentare</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>und %n weitere von Hand ausgeschlossen</numerusform><numerusform>und %n weitere von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>und %n weitere ausgeschlossen</numerusform><numerusform>und %n weitere ausgeschlossen</numerusform></translation></message>
     <message id="summaryMorning"><translation>Morgens</translation></message>
     <message id="summaryMornings"><translation>Morgens %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1076,7 +1076,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryTrendLimits"><translation>Feine gerade Linien im Trend: %1.</translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Eingegeben: %1 von %n Messung</numerusform><numerusform>Eingegeben: %1 von %n Messungen</numerusform></translation></message>
     <message id="summaryWeek"><translation>Messwoche (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche von Hand ausgeschlossen</numerusform><numerusform>%n der Woche von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche ausgeschlossen</numerusform><numerusform>%n der Woche ausgeschlossen</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n der Woche eingegeben</numerusform><numerusform>%n der Woche eingegeben</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistik und Messungen</translation></message>
@@ -1114,7 +1114,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliEraseNeedsYes"><translation>--erase löscht alle Messungen endgültig aus dem Messgerät. Fügen Sie --yes hinzu, wenn das gewollt ist.</translation></message>
     <message id="CliEraseNoID"><translation>Der Speicher des Messgeräts wird gelöscht, indem es seine eigene ID noch einmal erhält; es enthält aber keine, die es speichern könnte. Bitte geben Sie ihm zuerst eine mit 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Es war nicht zu erkennen, ob der Speicher des Messgeräts jetzt leer ist. %1</translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n Messung der Woche ist von Hand ausgeschlossen.</numerusform><numerusform>%n Messungen der Woche sind von Hand ausgeschlossen.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n Messung der Woche ist ausgeschlossen.</numerusform><numerusform>%n Messungen der Woche sind ausgeschlossen.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Es fehlt eine Datei zum Importieren.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n Messung vom ersten Messtag ist nicht gezählt.</numerusform><numerusform>%n Messungen vom ersten Messtag sind nicht gezählt.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Es fehlt der Ordner für den Export.</translation></message>
@@ -1489,7 +1489,7 @@ Optionen:
     <message id="CliReadableByOthers"><translation>Andere Benutzer dieses Computers können %1 lesen. 'zel privacy --mend' verwehrt ihnen den Zugriff.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason gehört zu --exclude; --date, --time, --sys, --dia und --pulse gehören zu --add oder --change</translation></message>
     <message id="CliReadingNotUnique"><translation>mehrere Messungen haben die Nummer %1; welche gemeint ist, lässt sich nicht feststellen</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n dieser Messungen ist von Hand ausgeschlossen und zählt nirgends mit; --numbers zeigt, welche und warum</numerusform><numerusform>%n dieser Messungen sind von Hand ausgeschlossen und zählen nirgends mit; --numbers zeigt, welche und warum</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n dieser Messungen ist ausgeschlossen und zählt nirgends mit; --numbers zeigt, welche und warum</numerusform><numerusform>%n dieser Messungen sind ausgeschlossen und zählen nirgends mit; --numbers zeigt, welche und warum</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n Patient wurde ausgelassen: Ein anderer in der Liste hat dieselbe ID oder ebenfalls keine. Zur Unterscheidung braucht jeder Patient eine eigene ID.</numerusform><numerusform>%n Patienten wurden ausgelassen: Andere in der Liste haben dieselben IDs oder ebenfalls keine. Zur Unterscheidung braucht jeder Patient eine eigene ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set braucht KEY=VALUE, nicht '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>Die Datendatei hat keinen Platz für die Einstellung %1; deshalb wurde nichts geändert.</translation></message>

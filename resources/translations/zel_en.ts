@@ -182,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 before, %2 since: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
     <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
     <message id="highMark"><translation>%1 and bold: at or above %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
     <message id="leftOut"><translation>%1 not counted</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
@@ -197,7 +197,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out by the user</numerusform><numerusform>, %n of them left out by the user</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out</numerusform><numerusform>, %n of them left out</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
@@ -854,7 +854,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
@@ -894,7 +894,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n left out by the user</numerusform><numerusform>○ %n left out by the user</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n left out</numerusform><numerusform>○ %n left out</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolic too high</translation></message>
     <message id="evening"><translation>Evening</translation></message>
@@ -992,7 +992,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportHistogramNote"><translation>The length of a bar is the share of all readings, in percent, that lie within its 10 mmHg or 10 beats per minute.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>At or below %1: %2</numerusform><numerusform>At or below the limits of %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulse %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out by the user, and why</numerusform><numerusform>%n readings left out by the user, and why</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out, and why</numerusform><numerusform>%n readings left out, and why</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
@@ -1045,7 +1045,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryMean"><translation>Mean</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>and %n more comment</numerusform><numerusform>and %n more comments</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more left out by the user</numerusform><numerusform>and %n more left out by the user</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more left out</numerusform><numerusform>and %n more left out</numerusform></translation></message>
     <message id="summaryMorning"><translation>Morning</translation></message>
     <message id="summaryMornings"><translation>Morning %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1076,7 +1076,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTrendLimits"><translation>Fine straight lines in the trend: %1.</translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Typed in: %1 of %n reading</numerusform><numerusform>Typed in: %1 of %n readings</numerusform></translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out</numerusform><numerusform>%n of the week left out</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n of the week typed in</numerusform><numerusform>%n of the week typed in</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n stored in another time zone; times are those of this computer</numerusform><numerusform>%n stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statistics and readings</translation></message>
@@ -1114,7 +1114,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliEraseNeedsYes"><translation>--erase removes all readings from the monitor for good. Add --yes if you mean it.</translation></message>
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Whether the monitor's memory is empty now could not be seen. %1</translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n reading of the week is left out by the user.</numerusform><numerusform>%n readings of the week are left out by the user.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n reading of the week is left out.</numerusform><numerusform>%n readings of the week are left out.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n reading of the first measuring day is not counted.</numerusform><numerusform>%n readings of the first measuring day are not counted.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
@@ -1473,7 +1473,7 @@ Options:
     <message id="CliReadableByOthers"><translation>Other users of this computer can read %1. 'zel privacy --mend' keeps them out.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason goes with --exclude; --date, --time, --sys, --dia and --pulse go with --add or --change</translation></message>
     <message id="CliReadingNotUnique"><translation>several readings have the number %1; which one is meant cannot be told</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out by the user and counts nowhere; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out by the user and count nowhere; --numbers tells which, and why</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out and counts nowhere; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out and count nowhere; --numbers tells which, and why</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n patient was left out: another one in the list has the same ID, or none either. Patients need IDs of their own to be told apart.</numerusform><numerusform>%n patients were left out: others in the list have the same IDs, or none either. Patients need IDs of their own to be told apart.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>

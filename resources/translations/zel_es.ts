@@ -182,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 antes, %2 desde entonces: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n excluida</numerusform><numerusform>%n excluidas</numerusform></translation></message>
     <message id="fewBefore"><translation>menos de %1 mediciones antes</translation></message>
     <message id="fewOnBothSides"><translation>menos de %1 mediciones tanto antes como después</translation></message>
     <message id="fewSince"><translation>menos de %1 mediciones desde entonces</translation></message>
     <message id="highMark"><translation>%1 y negrita: igual o superior a %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n antes del mediodía</numerusform><numerusform>%n antes del mediodía</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluida</numerusform><numerusform>%n excluidas</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n a partir del mediodía</numerusform><numerusform>%n a partir del mediodía</numerusform></translation></message>
     <message id="leftOut"><translation>no contadas: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n fuera del periodo</numerusform><numerusform>%n fuera del periodo</numerusform></translation></message>
@@ -197,7 +197,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n de ellas excluida por el usuario</numerusform><numerusform>, %n de ellas excluidas por el usuario</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n de ellas excluida</numerusform><numerusform>, %n de ellas excluidas</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n día más</numerusform><numerusform>%n días más</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n tarde más</numerusform><numerusform>%n tardes más</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n mañana más</numerusform><numerusform>%n mañanas más</numerusform></translation></message>
@@ -854,7 +854,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 en %n día</numerusform><numerusform>%1 en %n días</numerusform></translation></message>
     <message id="weekEnd"><translation>Último día de la semana de medición</translation></message>
     <message id="weekEvenings"><translation>Tarde %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluida</numerusform><numerusform>%n excluidas</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primer día, sin contar</numerusform><numerusform>%n del primer día, sin contar</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Media %1/%2 mmHg, pulso %3</translation></message>
@@ -894,7 +894,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n punto sobrepasa la escala por abajo</numerusform><numerusform>%n puntos sobrepasan la escala por abajo</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n medición por debajo de la escala</numerusform><numerusform>%n mediciones por debajo de la escala</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 por abajo</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n excluida por el usuario</numerusform><numerusform>○ %n excluidas por el usuario</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n excluida</numerusform><numerusform>○ %n excluidas</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastólica alta</translation></message>
     <message id="evening"><translation>Tarde</translation></message>
@@ -992,7 +992,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportHistogramNote"><translation>La longitud de cada barra es la proporción, en porcentaje, de las mediciones que caen en su intervalo de 10 mmHg o de 10 latidos por minuto.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Igual o inferior a %1: %2</numerusform><numerusform>Igual o inferior a los límites de %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulso %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n medición excluida por el usuario, y su motivo</numerusform><numerusform>%n mediciones excluidas por el usuario, y sus motivos</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n medición excluida, y su motivo</numerusform><numerusform>%n mediciones excluidas, y sus motivos</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg de diastólica</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg de sistólica</translation></message>
@@ -1045,7 +1045,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryMean"><translation>Media</translation></message>
     <message id="summaryMin"><translation>Mín</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>y %n comentario más</numerusform><numerusform>y %n comentarios más</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>y %n más excluida por el usuario</numerusform><numerusform>y %n más excluidas por el usuario</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>y %n más excluida</numerusform><numerusform>y %n más excluidas</numerusform></translation></message>
     <message id="summaryMorning"><translation>Mañana</translation></message>
     <message id="summaryMornings"><translation>Mañana %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1076,7 +1076,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryTrendLimits"><translation>Líneas rectas finas en la tendencia: %1.</translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Introducida a mano: %1 de %n medición</numerusform><numerusform>Introducidas a mano: %1 de %n mediciones</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semana de medición (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida por el usuario</numerusform><numerusform>%n de la semana excluidas por el usuario</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida</numerusform><numerusform>%n de la semana excluidas</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semana, introducida</numerusform><numerusform>%n de la semana, introducidas</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
     <message id="SWStatistics"><translation>Estadística y mediciones</translation></message>
@@ -1114,7 +1114,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliEraseNeedsYes"><translation>--erase elimina todas las mediciones del tensiómetro de forma definitiva. Añada --yes si es lo que quiere.</translation></message>
     <message id="CliEraseNoID"><translation>La memoria del tensiómetro se vacía escribiéndole de nuevo su propio ID, pero no tiene ninguno que pueda guardar. Dele antes uno con 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>No se ha podido comprobar si la memoria del tensiómetro está vacía ahora. %1</translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n medición de la semana está excluida por el usuario.</numerusform><numerusform>%n mediciones de la semana están excluidas por el usuario.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n medición de la semana está excluida.</numerusform><numerusform>%n mediciones de la semana están excluidas.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Falta indicar un archivo para importar.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n medición del primer día de medición no se cuenta.</numerusform><numerusform>%n mediciones del primer día de medición no se cuentan.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
@@ -1480,7 +1480,7 @@ Opciones:
     <message id="CliReadableByOthers"><translation>Otros usuarios de este equipo pueden leer %1. 'zel privacy --mend' se lo impide.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason va con --exclude; --date, --time, --sys, --dia y --pulse van con --add o --change</translation></message>
     <message id="CliReadingNotUnique"><translation>varias mediciones tienen el número %1; no se puede saber a cuál se refiere</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de estas mediciones está excluida por el usuario y no cuenta en ningún cálculo; --numbers dice cuál y por qué</numerusform><numerusform>%n de estas mediciones están excluidas por el usuario y no cuentan en ningún cálculo; --numbers dice cuáles y por qué</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de estas mediciones está excluida y no cuenta en ningún cálculo; --numbers dice cuál y por qué</numerusform><numerusform>%n de estas mediciones están excluidas y no cuentan en ningún cálculo; --numbers dice cuáles y por qué</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>Se ha omitido %n paciente: otro de la lista tiene el mismo ID, o tampoco tiene ninguno. Para distinguirlos, cada paciente necesita un ID propio.</numerusform><numerusform>Se han omitido %n pacientes: otros de la lista tienen los mismos ID, o tampoco tienen ninguno. Para distinguirlos, cada paciente necesita un ID propio.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set necesita KEY=VALUE, no '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>En el archivo de datos no hay lugar para el valor de configuración %1, así que no se ha cambiado nada.</translation></message>

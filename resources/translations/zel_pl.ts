@@ -182,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>wcześniej %1, potem %2: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n pominięty</numerusform><numerusform>%n pominięte</numerusform><numerusform>%n pominiętych</numerusform></translation></message>
     <message id="fewBefore"><translation>wcześniej mniej niż %1 pomiarów</translation></message>
     <message id="fewOnBothSides"><translation>zarówno wcześniej, jak i potem mniej niż %1 pomiarów</translation></message>
     <message id="fewSince"><translation>potem mniej niż %1 pomiarów</translation></message>
     <message id="highMark"><translation>%1 i pogrubienie: co najmniej %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n przed południem</numerusform><numerusform>%n przed południem</numerusform><numerusform>%n przed południem</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n pominięty</numerusform><numerusform>%n pominięte</numerusform><numerusform>%n pominiętych</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n od południa</numerusform><numerusform>%n od południa</numerusform><numerusform>%n od południa</numerusform></translation></message>
     <message id="leftOut"><translation>nie liczą się: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n spoza okresu</numerusform><numerusform>%n spoza okresu</numerusform><numerusform>%n spoza okresu</numerusform></translation></message>
@@ -197,7 +197,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, w tym %n pominięty przez użytkownika</numerusform><numerusform>, w tym %n pominięte przez użytkownika</numerusform><numerusform>, w tym %n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, w tym %n pominięty</numerusform><numerusform>, w tym %n pominięte</numerusform><numerusform>, w tym %n pominiętych</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n dzień</numerusform><numerusform>%n dni</numerusform><numerusform>%n dni</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n wieczór</numerusform><numerusform>%n wieczory</numerusform><numerusform>%n wieczorów</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n poranek</numerusform><numerusform>%n poranki</numerusform><numerusform>%n poranków</numerusform></translation></message>
@@ -854,7 +854,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 z %n dnia</numerusform><numerusform>%1 z %n dni</numerusform><numerusform>%1 z %n dni</numerusform></translation></message>
     <message id="weekEnd"><translation>Ostatni dzień tygodnia pomiarowego</translation></message>
     <message id="weekEvenings"><translation>Wieczór %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n pominięty</numerusform><numerusform>%n pominięte</numerusform><numerusform>%n pominiętych</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n z pierwszego dnia się nie liczy</numerusform><numerusform>%n z pierwszego dnia się nie liczą</numerusform><numerusform>%n z pierwszego dnia się nie liczy</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Średnia %1/%2 mmHg, tętno %3</translation></message>
@@ -894,7 +894,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n punkt wychodzi poniżej skali</numerusform><numerusform>%n punkty wychodzą poniżej skali</numerusform><numerusform>%n punktów wychodzi poniżej skali</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n pomiar poniżej skali</numerusform><numerusform>%n pomiary poniżej skali</numerusform><numerusform>%n pomiarów poniżej skali</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 poniżej</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n pominięty przez użytkownika</numerusform><numerusform>○ %n pominięte przez użytkownika</numerusform><numerusform>○ %n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n pominięty</numerusform><numerusform>○ %n pominięte</numerusform><numerusform>○ %n pominiętych</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Rozkurczowe za wysokie</translation></message>
     <message id="evening"><translation>Wieczór</translation></message>
@@ -992,7 +992,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportHistogramNote"><translation>Długość słupka: jaki procent wszystkich pomiarów mieści się w jego przedziale (10 mmHg lub 10 uderzeń na minutę).</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Nie wyższe niż %1: %2</numerusform><numerusform>Nie wyższe niż granice %1: %2</numerusform><numerusform>Nie wyższe niż granice %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, tętno %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n pomiar pominięty przez użytkownika (z powodem)</numerusform><numerusform>%n pomiary pominięte przez użytkownika (z powodami)</numerusform><numerusform>%n pomiarów pominiętych przez użytkownika (z powodami)</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n pomiar pominięty (z powodem)</numerusform><numerusform>%n pomiary pominięte (z powodami)</numerusform><numerusform>%n pomiarów pominiętych (z powodami)</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg (rozkurczowe)</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg (skurczowe)</translation></message>
@@ -1045,7 +1045,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryMean"><translation>Średnia</translation></message>
     <message id="summaryMin"><translation>Min.</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>i jeszcze %n komentarz</numerusform><numerusform>i jeszcze %n komentarze</numerusform><numerusform>i jeszcze %n komentarzy</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>i jeszcze %n pominięty przez użytkownika</numerusform><numerusform>i jeszcze %n pominięte przez użytkownika</numerusform><numerusform>i jeszcze %n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>i jeszcze %n pominięty</numerusform><numerusform>i jeszcze %n pominięte</numerusform><numerusform>i jeszcze %n pominiętych</numerusform></translation></message>
     <message id="summaryMorning"><translation>Rano</translation></message>
     <message id="summaryMornings"><translation>Rano %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1076,7 +1076,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryTrendLimits"><translation>Cienkie proste linie na wykresie trendu: %1.</translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Wpisane ręcznie: %1 z %n pomiaru</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryWeek"><translation>Tydzień pomiarowy (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominięte przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty</numerusform><numerusform>%n z tego tygodnia pominięte</numerusform><numerusform>%n z tego tygodnia pominiętych</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n wpisany ręcznie</numerusform><numerusform>%n wpisane ręcznie</numerusform><numerusform>%n wpisanych ręcznie</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
     <message id="SWStatistics"><translation>Statystyka i pomiary</translation></message>
@@ -1114,7 +1114,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliEraseNeedsYes"><translation>--erase trwale usuwa wszystkie pomiary z ciśnieniomierza. Aby to potwierdzić, należy dodać --yes.</translation></message>
     <message id="CliEraseNoID"><translation>Pamięć ciśnieniomierza wymazuje się przez ponowne nadanie mu jego ID, ale nie ma on ID, które mógłby przechować. Proszę mu je najpierw nadać poleceniem „zel monitor --send-id ID”.</translation></message>
     <message id="CliEraseUnseen"><translation>Nie udało się sprawdzić, czy pamięć ciśnieniomierza jest teraz pusta. %1</translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n pomiar z tego tygodnia został pominięty przez użytkownika.</numerusform><numerusform>%n pomiary z tego tygodnia zostały pominięte przez użytkownika.</numerusform><numerusform>%n pomiarów z tego tygodnia zostało pominiętych przez użytkownika.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n pomiar z tego tygodnia został pominięty.</numerusform><numerusform>%n pomiary z tego tygodnia zostały pominięte.</numerusform><numerusform>%n pomiarów z tego tygodnia zostało pominiętych.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Brakuje pliku do zaimportowania.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n pomiar z pierwszego dnia pomiarowego się nie liczy.</numerusform><numerusform>%n pomiary z pierwszego dnia pomiarowego się nie liczą.</numerusform><numerusform>%n pomiarów z pierwszego dnia pomiarowego się nie liczy.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Brakuje folderu, do którego mają trafić pliki.</translation></message>
@@ -1476,7 +1476,7 @@ Opcje:
     <message id="CliReadableByOthers"><translation>Inni użytkownicy tego komputera mogą odczytać %1. Polecenie „zel privacy --mend” odbiera im dostęp.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason wymaga --exclude; --date, --time, --sys, --dia i --pulse wymagają --add lub --change</translation></message>
     <message id="CliReadingNotUnique"><translation>kilka pomiarów ma numer %1; nie wiadomo, o który chodzi</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte przez użytkownika i nigdzie się nie liczą; --numbers pokazuje, które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, które i dlaczego</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty i nigdzie się nie liczy; --numbers pokazuje, który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte i nigdzie się nie liczą; --numbers pokazuje, które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych i nigdzie się nie liczy; --numbers pokazuje, które i dlaczego</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>Pominięto %n pacjenta: inny na liście ma ten sam ID albo też go nie ma. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform><numerusform>Pominięto %n pacjentów: inni na liście mają te same ID albo też ich nie mają. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform><numerusform>Pominięto %n pacjentów: inni na liście mają te same ID albo też ich nie mają. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set wymaga postaci KEY=VALUE, podano „%1”.</translation></message>
     <message id="CliSettingNotKept"><translation>W pliku danych nie ma miejsca na ustawienie %1, dlatego niczego nie zmieniono.</translation></message>
