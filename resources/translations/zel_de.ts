@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>Import von %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>Aufheben des Ausschlusses von %n Messung von %1</numerusform><numerusform>Aufheben des Ausschlusses von %n Messungen von %1</numerusform></translation></message>
     <message id="stepSettings"><translation>Änderung der Einstellungen</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung bleibt ausgeschlossen. %1</numerusform><numerusform>%n von Hand eingegebene Messungen bleiben ausgeschlossen. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung bleibt ausgeschlossen: Eine aus derselben Minute mit denselben Werten zählt schon mit.</numerusform><numerusform>%n von Hand eingegebene Messungen bleiben ausgeschlossen: Messungen aus denselben Minuten mit denselben Werten zählen schon mit.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Ein Patient mit der ID „%1“ ist schon in der Liste. Es wurde nichts geändert.</translation></message>
     <message id="StoreBusy"><translation>Ein anderes Programm arbeitet gerade mit der Datendatei %1, auf diesem Computer oder auf einem anderen, der sie mitbenutzt. Es wurde nichts geändert. Bitte versuchen Sie es gleich noch einmal, oder in einigen Minuten, falls der andere Computer die Netzwerkverbindung verloren hat.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Ein anderes Programm hat die Daten inzwischen geändert. Hier wurde nichts geändert; bitte sehen Sie sich den jetzigen Stand an.</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 vorher, %2 seither: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n ausgeschlossen</numerusform><numerusform>%n ausgeschlossen</numerusform></translation></message>
     <message id="fewBefore"><translation>weniger als %1 Messungen vorher</translation></message>
     <message id="fewOnBothSides"><translation>vorher wie seither weniger als %1 Messungen</translation></message>
     <message id="fewSince"><translation>weniger als %1 Messungen seither</translation></message>
     <message id="highMark"><translation>%1 und fett: ab %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n vor 12 Uhr</numerusform><numerusform>%n vor 12 Uhr</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n ausgeschlossen</numerusform><numerusform>%n ausgeschlossen</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n ab 12 Uhr</numerusform><numerusform>%n ab 12 Uhr</numerusform></translation></message>
     <message id="leftOut"><translation>nicht gezählt: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n außerhalb des Zeitraums</numerusform><numerusform>%n außerhalb des Zeitraums</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, davon %n von Hand ausgeschlossen</numerusform><numerusform>, davon %n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, davon %n ausgeschlossen</numerusform><numerusform>, davon %n ausgeschlossen</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n Tag</numerusform><numerusform>%n Tage</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n Abend</numerusform><numerusform>%n Abende</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n Morgen</numerusform><numerusform>%n Morgen</numerusform></translation></message>
@@ -390,6 +392,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="downloadStarting"><translation>Messgerät wird abgefragt …</translation></message>
     <message id="downloadsTitle"><translation>Auslesevorgänge</translation></message>
     <message id="downloadStopping"><translation>Wird abgebrochen …</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n von Hand eingegebene ist ab jetzt ausgeschlossen (auch vom Messgerät gemessen)</numerusform><numerusform>%n von Hand eingegebene sind ab jetzt ausgeschlossen (auch vom Messgerät gemessen)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Vom Messgerät kommt nichts an. Das Auslesen wartet noch höchstens %n Sekunde darauf. Sie können es abbrechen: Es geht nichts verloren.</numerusform><numerusform>Vom Messgerät kommt nichts an. Das Auslesen wartet noch höchstens %n Sekunden darauf. Sie können es abbrechen: Es geht nichts verloren.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Importieren lassen sich nur XML-Dateien auf diesem Computer. Nicht in der Liste: %1</translation></message>
     <message id="DupNewPatient"><translation>Es gibt schon einen neuen Patienten, der noch nicht gespeichert ist: den ersten der Liste. Bitte speichern oder löschen Sie ihn zuerst.</translation></message>
@@ -854,7 +857,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 an %n Tag</numerusform><numerusform>%1 an %n Tagen</numerusform></translation></message>
     <message id="weekEnd"><translation>Letzter Tag der Messwoche</translation></message>
     <message id="weekEvenings"><translation>Abends %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossen</numerusform><numerusform>%n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n ausgeschlossen</numerusform><numerusform>%n ausgeschlossen</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n späterer Tage ausgeschlossen</numerusform><numerusform>%n späterer Tage ausgeschlossen</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n vom ersten Tag nicht gezählt</numerusform><numerusform>%n vom ersten Tag nicht gezählt</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n Punkt reicht unter die Skala</numerusform><numerusform>%n Punkte reichen unter die Skala</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n Messung unter der Skala</numerusform><numerusform>%n Messungen unter der Skala</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 darunter</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n von Hand ausgeschlossen</numerusform><numerusform>○ %n von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n ausgeschlossen</numerusform><numerusform>○ %n ausgeschlossen</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolisch zu hoch</translation></message>
     <message id="evening"><translation>Abends</translation></message>
@@ -997,7 +1000,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="reportHistogramNote"><translation>Balkenlänge: Anteil der Messungen in Prozent, die in diesem Bereich von 10 mmHg oder 10 Schlägen pro Minute liegen.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Bis einschließlich %1: %2</numerusform><numerusform>Bis einschließlich %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, Puls %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n von Hand ausgeschlossene Messung, mit Grund</numerusform><numerusform>%n von Hand ausgeschlossene Messungen, mit Gründen</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n ausgeschlossene Messung, mit Grund</numerusform><numerusform>%n ausgeschlossene Messungen, mit Gründen</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolisch</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolisch</translation></message>
@@ -1050,7 +1053,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryMean"><translation>Mittel</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>und %n weiterer Kommentar</numerusform><numerusform>und %n weitere Kommentare</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>und %n weitere von Hand ausgeschlossen</numerusform><numerusform>und %n weitere von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>und %n weitere ausgeschlossen</numerusform><numerusform>und %n weitere ausgeschlossen</numerusform></translation></message>
     <message id="summaryMorning"><translation>Morgens</translation></message>
     <message id="summaryMornings"><translation>Morgens %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Trend und darunter die Kommentare nach Nummer; %n ohne Platz für seine Nummer</numerusform><numerusform>Trend und darunter die Kommentare nach Nummer; %n ohne Platz für ihre Nummer</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Eingegeben: %1 von %n Messung</numerusform><numerusform>Eingegeben: %1 von %n Messungen</numerusform></translation></message>
     <message id="summaryWeek"><translation>Messwoche (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche von Hand ausgeschlossen</numerusform><numerusform>%n der Woche von Hand ausgeschlossen</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n der Woche ausgeschlossen</numerusform><numerusform>%n der Woche ausgeschlossen</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n der Woche eingegeben</numerusform><numerusform>%n der Woche eingegeben</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n der Woche ohne Druckwerte</numerusform><numerusform>%n der Woche ohne Druckwerte</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform><numerusform>%n in anderer Zeitzone gespeichert; Zeiten sind die dieses Computers</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ Ein weiteres Fenster daneben öffnen? Das schadet nicht: Was beide speichern, bl
     <message id="CliEraseNoID"><translation>Der Speicher des Messgeräts wird gelöscht, indem es seine eigene ID noch einmal erhält; es enthält aber keine, die es speichern könnte. Bitte geben Sie ihm zuerst eine mit 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Es war nicht zu erkennen, ob der Speicher des Messgeräts jetzt leer ist. %1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>Auch %n Messung späterer Tage ist ausgeschlossen.</numerusform><numerusform>Auch %n Messungen späterer Tage sind ausgeschlossen.</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n Messung der Woche ist von Hand ausgeschlossen.</numerusform><numerusform>%n Messungen der Woche sind von Hand ausgeschlossen.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n Messung der Woche ist ausgeschlossen.</numerusform><numerusform>%n Messungen der Woche sind ausgeschlossen.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Es fehlt eine Datei zum Importieren.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n Messung vom ersten Messtag ist nicht gezählt.</numerusform><numerusform>%n Messungen vom ersten Messtag sind nicht gezählt.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Es fehlt der Ordner für den Export.</translation></message>
@@ -1222,6 +1225,8 @@ Liest die Messungen des Messgeräts aus, speichert die noch nicht gespeicherten 
 ausgelesen wurden und wie viele davon neu sind. Der Fortschritt steht auf der Standardfehlerausgabe. Der
 Speicher des Messgeräts wird nur gelöscht, wenn die Einstellungen es vorsehen, und erst, wenn die Messungen
 sicher gespeichert sind.
+Von Hand eingegebene Messungen, die auch das Messgerät gemessen hat, sind ab dann ausgeschlossen; gibt es
+solche, werden sie als 'left-out' gezählt.
 
 Optionen:
   --patient ID                 der Patient, für den sie gespeichert werden
@@ -1498,7 +1503,7 @@ Optionen:
     <message id="CliReadableByOthers"><translation>Andere Benutzer dieses Computers können %1 lesen. 'zel privacy --mend' verwehrt ihnen den Zugriff.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason gehört zu --exclude; --date, --time, --sys, --dia und --pulse gehören zu --add oder --change</translation></message>
     <message id="CliReadingNotUnique"><translation>mehrere Messungen haben die Nummer %1; welche gemeint ist, lässt sich nicht feststellen</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n dieser Messungen ist von Hand ausgeschlossen und zählt nirgends mit; --numbers zeigt, welche und warum</numerusform><numerusform>%n dieser Messungen sind von Hand ausgeschlossen und zählen nirgends mit; --numbers zeigt, welche und warum</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n dieser Messungen ist ausgeschlossen und zählt nirgends mit; --numbers zeigt, welche und warum</numerusform><numerusform>%n dieser Messungen sind ausgeschlossen und zählen nirgends mit; --numbers zeigt, welche und warum</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n Patient wurde ausgelassen: Ein anderer in der Liste hat dieselbe ID oder ebenfalls keine. Zur Unterscheidung braucht jeder Patient eine eigene ID.</numerusform><numerusform>%n Patienten wurden ausgelassen: Andere in der Liste haben dieselben IDs oder ebenfalls keine. Zur Unterscheidung braucht jeder Patient eine eigene ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set braucht KEY=VALUE, nicht '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>Die Datendatei hat keinen Platz für die Einstellung %1; deshalb wurde nichts geändert.</translation></message>

@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>import of %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>take in %n reading of %1</numerusform><numerusform>take in %n readings of %1</numerusform></translation></message>
     <message id="stepSettings"><translation>change of settings</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n reading that was typed in stays left out. %1</numerusform><numerusform>%n readings that were typed in stay left out. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n reading that was typed in stays left out: one of that minute with the same values counts already.</numerusform><numerusform>%n readings that were typed in stay left out: ones of the same minutes with the same values count already.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>A patient with the ID “%1” is already in the list. Nothing was changed.</translation></message>
     <message id="StoreBusy"><translation>Another program is working on the data file %1, on this computer or on another one that shares it. Nothing was changed; please try again in a moment, or in some minutes if that computer has dropped off the network.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Another program changed it in the meantime. Nothing was changed here; please look at it as it is now.</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 before, %2 since: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="fewBefore"><translation>fewer than %1 readings before</translation></message>
     <message id="fewOnBothSides"><translation>fewer than %1 readings on both sides</translation></message>
     <message id="fewSince"><translation>fewer than %1 readings since</translation></message>
     <message id="highMark"><translation>%1 and bold: at or above %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n before noon</numerusform><numerusform>%n before noon</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n from noon on</numerusform><numerusform>%n from noon on</numerusform></translation></message>
     <message id="leftOut"><translation>%1 not counted</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n outside the period</numerusform><numerusform>%n outside the period</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out by the user</numerusform><numerusform>, %n of them left out by the user</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n of them left out</numerusform><numerusform>, %n of them left out</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n more day</numerusform><numerusform>%n more days</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n more evening</numerusform><numerusform>%n more evenings</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n more morning</numerusform><numerusform>%n more mornings</numerusform></translation></message>
@@ -390,6 +392,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="downloadStarting"><translation>Asking the monitor …</translation></message>
     <message id="downloadsTitle"><translation>Downloads</translation></message>
     <message id="downloadStopping"><translation>Stopping …</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n that was typed in is left out from now on (measured by the monitor, too)</numerusform><numerusform>%n that were typed in are left out from now on (measured by the monitor, too)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Nothing comes from the monitor. The download waits for it, for %n second at most. You can cancel it: nothing is lost.</numerusform><numerusform>Nothing comes from the monitor. The download waits for it, for %n seconds at most. You can cancel it: nothing is lost.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Only XML files on this computer can be imported. Not in the list: %1</translation></message>
     <message id="DupNewPatient"><translation>There is a new patient already that is not saved yet: the first one of the list. Please save or delete it first.</translation></message>
@@ -854,7 +857,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out by the user</numerusform><numerusform>%n left out by the user</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n of later days left out</numerusform><numerusform>%n of later days left out</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n point reaches below the scale</numerusform><numerusform>%n points reach below the scale</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n reading below the scale</numerusform><numerusform>%n readings below the scale</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 below</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n left out by the user</numerusform><numerusform>○ %n left out by the user</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n left out</numerusform><numerusform>○ %n left out</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolic too high</translation></message>
     <message id="evening"><translation>Evening</translation></message>
@@ -997,7 +1000,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="reportHistogramNote"><translation>The length of a bar is the share of all readings, in percent, that lie within its 10 mmHg or 10 beats per minute.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>At or below %1: %2</numerusform><numerusform>At or below the limits of %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulse %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out by the user, and why</numerusform><numerusform>%n readings left out by the user, and why</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n reading left out, and why</numerusform><numerusform>%n readings left out, and why</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg diastolic</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg systolic</translation></message>
@@ -1050,7 +1053,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryMean"><translation>Mean</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>and %n more comment</numerusform><numerusform>and %n more comments</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more left out by the user</numerusform><numerusform>and %n more left out by the user</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>and %n more left out</numerusform><numerusform>and %n more left out</numerusform></translation></message>
     <message id="summaryMorning"><translation>Morning</translation></message>
     <message id="summaryMornings"><translation>Morning %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Trend, and below it the comments by number; %n has no room for its number</numerusform><numerusform>Trend, and below it the comments by number; %n have no room for theirs</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Typed in: %1 of %n reading</numerusform><numerusform>Typed in: %1 of %n readings</numerusform></translation></message>
     <message id="summaryWeek"><translation>Measuring week (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out by the user</numerusform><numerusform>%n of the week left out by the user</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n of the week left out</numerusform><numerusform>%n of the week left out</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n of the week typed in</numerusform><numerusform>%n of the week typed in</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n of the week without pressures</numerusform><numerusform>%n of the week without pressures</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n stored in another time zone; times are those of this computer</numerusform><numerusform>%n stored in another time zone; times are those of this computer</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="CliEraseNoID"><translation>The monitor's memory is erased by giving it its own ID again, but it holds none that it could keep. Please give it one first with 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Whether the monitor's memory is empty now could not be seen. %1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>%n reading of later days is left out, too.</numerusform><numerusform>%n readings of later days are left out, too.</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n reading of the week is left out by the user.</numerusform><numerusform>%n readings of the week are left out by the user.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n reading of the week is left out.</numerusform><numerusform>%n readings of the week are left out.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>A file to import is missing.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n reading of the first measuring day is not counted.</numerusform><numerusform>%n readings of the first measuring day are not counted.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>The folder to export to is missing.</translation></message>
@@ -1216,6 +1219,8 @@ Options:
 Downloads the monitor's readings, stores those that are not stored yet, and prints how many were
 downloaded and how many of them are new. Progress goes to standard error. The monitor's memory is erased
 only if the settings say so, and only when the readings are safely stored.
+Readings that were typed in, and that the monitor measured, too, are left out from then on, and counted as
+'left-out' where there are any.
 
 Options:
   --patient ID                 the patient to store them for
@@ -1482,7 +1487,7 @@ Options:
     <message id="CliReadableByOthers"><translation>Other users of this computer can read %1. 'zel privacy --mend' keeps them out.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason goes with --exclude; --date, --time, --sys, --dia and --pulse go with --add or --change</translation></message>
     <message id="CliReadingNotUnique"><translation>several readings have the number %1; which one is meant cannot be told</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out by the user and counts nowhere; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out by the user and count nowhere; --numbers tells which, and why</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n of these readings is left out and counts nowhere; --numbers tells which, and why</numerusform><numerusform>%n of these readings are left out and count nowhere; --numbers tells which, and why</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n patient was left out: another one in the list has the same ID, or none either. Patients need IDs of their own to be told apart.</numerusform><numerusform>%n patients were left out: others in the list have the same IDs, or none either. Patients need IDs of their own to be told apart.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set needs KEY=VALUE, not '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>The data file has no place for the setting %1, so nothing was changed.</translation></message>

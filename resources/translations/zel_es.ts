@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>importación de %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>nueva inclusión de %n medición de %1</numerusform><numerusform>nueva inclusión de %n mediciones de %1</numerusform></translation></message>
     <message id="stepSettings"><translation>cambio de configuración</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n medición introducida a mano sigue excluida. %1</numerusform><numerusform>%n mediciones introducidas a mano siguen excluidas. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n medición introducida a mano sigue excluida: ya cuenta una del mismo minuto con los mismos valores.</numerusform><numerusform>%n mediciones introducidas a mano siguen excluidas: ya cuentan otras de los mismos minutos con los mismos valores.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Ya hay en la lista un paciente con el ID «%1». No se ha cambiado nada.</translation></message>
     <message id="StoreBusy"><translation>Otro programa está trabajando con el archivo de datos %1, en este equipo o en otro que lo comparte. No se ha cambiado nada. Vuelva a intentarlo dentro de un momento, o de unos minutos si aquel equipo ha perdido la conexión a la red.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Entretanto lo ha cambiado otro programa. Aquí no se ha cambiado nada; revise cómo está ahora.</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 antes, %2 desde entonces: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n excluida</numerusform><numerusform>%n excluidas</numerusform></translation></message>
     <message id="fewBefore"><translation>menos de %1 mediciones antes</translation></message>
     <message id="fewOnBothSides"><translation>menos de %1 mediciones tanto antes como después</translation></message>
     <message id="fewSince"><translation>menos de %1 mediciones desde entonces</translation></message>
     <message id="highMark"><translation>%1 y negrita: igual o superior a %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n antes del mediodía</numerusform><numerusform>%n antes del mediodía</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n excluida</numerusform><numerusform>%n excluidas</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n a partir del mediodía</numerusform><numerusform>%n a partir del mediodía</numerusform></translation></message>
     <message id="leftOut"><translation>no contadas: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n fuera del periodo</numerusform><numerusform>%n fuera del periodo</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n de ellas excluida por el usuario</numerusform><numerusform>, %n de ellas excluidas por el usuario</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, %n de ellas excluida</numerusform><numerusform>, %n de ellas excluidas</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n día más</numerusform><numerusform>%n días más</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n tarde más</numerusform><numerusform>%n tardes más</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n mañana más</numerusform><numerusform>%n mañanas más</numerusform></translation></message>
@@ -390,6 +392,7 @@ mmHg</translation></message>
     <message id="downloadStarting"><translation>Consultando el tensiómetro…</translation></message>
     <message id="downloadsTitle"><translation>Descargas</translation></message>
     <message id="downloadStopping"><translation>Deteniendo…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n introducida a mano queda excluida desde ahora (también medida por el tensiómetro)</numerusform><numerusform>%n introducidas a mano quedan excluidas desde ahora (también medidas por el tensiómetro)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>No llega nada del tensiómetro. Se seguirá esperando %n segundo como máximo. Puede cancelar la descarga: no se pierde nada.</numerusform><numerusform>No llega nada del tensiómetro. Se seguirá esperando %n segundos como máximo. Puede cancelar la descarga: no se pierde nada.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Solo se pueden importar archivos XML de este equipo. No están en la lista: %1</translation></message>
     <message id="DupNewPatient"><translation>Ya hay un paciente nuevo sin guardar: el primero de la lista. Guárdelo o elimínelo antes.</translation></message>
@@ -854,7 +857,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 en %n día</numerusform><numerusform>%1 en %n días</numerusform></translation></message>
     <message id="weekEnd"><translation>Último día de la semana de medición</translation></message>
     <message id="weekEvenings"><translation>Tarde %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluida por el usuario</numerusform><numerusform>%n excluidas por el usuario</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n excluida</numerusform><numerusform>%n excluidas</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n de días posteriores, excluida</numerusform><numerusform>%n de días posteriores, excluidas</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primer día, sin contar</numerusform><numerusform>%n del primer día, sin contar</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n punto sobrepasa la escala por abajo</numerusform><numerusform>%n puntos sobrepasan la escala por abajo</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n medición por debajo de la escala</numerusform><numerusform>%n mediciones por debajo de la escala</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 por abajo</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n excluida por el usuario</numerusform><numerusform>○ %n excluidas por el usuario</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n excluida</numerusform><numerusform>○ %n excluidas</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastólica alta</translation></message>
     <message id="evening"><translation>Tarde</translation></message>
@@ -997,7 +1000,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="reportHistogramNote"><translation>La longitud de cada barra es la proporción, en porcentaje, de las mediciones que caen en su intervalo de 10 mmHg o de 10 latidos por minuto.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Igual o inferior a %1: %2</numerusform><numerusform>Igual o inferior a los límites de %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pulso %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n medición excluida por el usuario, y su motivo</numerusform><numerusform>%n mediciones excluidas por el usuario, y sus motivos</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n medición excluida, y su motivo</numerusform><numerusform>%n mediciones excluidas, y sus motivos</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg de diastólica</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg de sistólica</translation></message>
@@ -1050,7 +1053,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryMean"><translation>Media</translation></message>
     <message id="summaryMin"><translation>Mín</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>y %n comentario más</numerusform><numerusform>y %n comentarios más</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>y %n más excluida por el usuario</numerusform><numerusform>y %n más excluidas por el usuario</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>y %n más excluida</numerusform><numerusform>y %n más excluidas</numerusform></translation></message>
     <message id="summaryMorning"><translation>Mañana</translation></message>
     <message id="summaryMornings"><translation>Mañana %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Tendencia y, debajo, los comentarios por número; %n sin espacio para su número</numerusform><numerusform>Tendencia y, debajo, los comentarios por número; %n sin espacio para su número</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Introducida a mano: %1 de %n medición</numerusform><numerusform>Introducidas a mano: %1 de %n mediciones</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semana de medición (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida por el usuario</numerusform><numerusform>%n de la semana excluidas por el usuario</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n de la semana excluida</numerusform><numerusform>%n de la semana excluidas</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n de la semana, introducida</numerusform><numerusform>%n de la semana, introducidas</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n de la semana sin valores de presión</numerusform><numerusform>%n de la semana sin valores de presión</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n guardada en otra zona horaria; horas de este equipo</numerusform><numerusform>%n guardadas en otra zona horaria; horas de este equipo</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ AHA: 12 mediciones en 3 días o más</translation></message>
     <message id="CliEraseNoID"><translation>La memoria del tensiómetro se vacía escribiéndole de nuevo su propio ID, pero no tiene ninguno que pueda guardar. Dele antes uno con 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>No se ha podido comprobar si la memoria del tensiómetro está vacía ahora. %1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>También está excluida %n medición de días posteriores.</numerusform><numerusform>También están excluidas %n mediciones de días posteriores.</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n medición de la semana está excluida por el usuario.</numerusform><numerusform>%n mediciones de la semana están excluidas por el usuario.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n medición de la semana está excluida.</numerusform><numerusform>%n mediciones de la semana están excluidas.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Falta indicar un archivo para importar.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n medición del primer día de medición no se cuenta.</numerusform><numerusform>%n mediciones del primer día de medición no se cuentan.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Falta indicar la carpeta a la que exportar.</translation></message>
@@ -1217,6 +1220,8 @@ Opciones:
 Descarga las mediciones del tensiómetro, guarda las que aún no estaban guardadas y muestra cuántas se han
 descargado y cuántas de ellas son nuevas. El progreso aparece en la salida de error. La memoria del
 tensiómetro se vacía solo si la configuración lo indica, y solo cuando las mediciones están bien guardadas.
+Las mediciones introducidas a mano que también ha medido el tensiómetro quedan excluidas desde entonces; si
+las hay, se cuentan como 'left-out'.
 
 Opciones:
   --patient ID                 paciente para el que se guardan
@@ -1489,7 +1494,7 @@ Opciones:
     <message id="CliReadableByOthers"><translation>Otros usuarios de este equipo pueden leer %1. 'zel privacy --mend' se lo impide.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason va con --exclude; --date, --time, --sys, --dia y --pulse van con --add o --change</translation></message>
     <message id="CliReadingNotUnique"><translation>varias mediciones tienen el número %1; no se puede saber a cuál se refiere</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de estas mediciones está excluida por el usuario y no cuenta en ningún cálculo; --numbers dice cuál y por qué</numerusform><numerusform>%n de estas mediciones están excluidas por el usuario y no cuentan en ningún cálculo; --numbers dice cuáles y por qué</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de estas mediciones está excluida y no cuenta en ningún cálculo; --numbers dice cuál y por qué</numerusform><numerusform>%n de estas mediciones están excluidas y no cuentan en ningún cálculo; --numbers dice cuáles y por qué</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>Se ha omitido %n paciente: otro de la lista tiene el mismo ID, o tampoco tiene ninguno. Para distinguirlos, cada paciente necesita un ID propio.</numerusform><numerusform>Se han omitido %n pacientes: otros de la lista tienen los mismos ID, o tampoco tienen ninguno. Para distinguirlos, cada paciente necesita un ID propio.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set necesita KEY=VALUE, no '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>En el archivo de datos no hay lugar para el valor de configuración %1, así que no se ha cambiado nada.</translation></message>

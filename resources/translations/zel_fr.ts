@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>importation (%1)</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>réintégration de %n mesure (%1)</numerusform><numerusform>réintégration de %n mesures (%1)</numerusform></translation></message>
     <message id="stepSettings"><translation>modification des réglages</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n mesure saisie à la main reste exclue. %1</numerusform><numerusform>%n mesures saisies à la main restent exclues. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n mesure saisie à la main reste exclue : une mesure de la même minute avec les mêmes valeurs compte déjà.</numerusform><numerusform>%n mesures saisies à la main restent exclues : des mesures des mêmes minutes avec les mêmes valeurs comptent déjà.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Un patient ayant l’ID « %1 » figure déjà dans la liste. Rien n’a été modifié.</translation></message>
     <message id="StoreBusy"><translation>Un autre programme utilise le fichier de données %1, sur cet ordinateur ou sur un autre qui le partage. Rien n’a été modifié ; veuillez réessayer dans un instant, ou dans quelques minutes si cet autre ordinateur n’est plus relié au réseau.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Un autre programme a modifié ces données entre-temps. Rien n’a été modifié ici ; veuillez les consulter dans leur état actuel.</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 avant, %2 depuis : %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n mesure exclue par l’utilisateur</numerusform><numerusform>%n mesures exclues par l’utilisateur</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n mesure exclue</numerusform><numerusform>%n mesures exclues</numerusform></translation></message>
     <message id="fewBefore"><translation>moins de %1 mesures avant</translation></message>
     <message id="fewOnBothSides"><translation>moins de %1 mesures de part et d’autre</translation></message>
     <message id="fewSince"><translation>moins de %1 mesures depuis</translation></message>
     <message id="highMark"><translation>%1 et gras : à partir de %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n avant midi</numerusform><numerusform>%n avant midi</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n exclue</numerusform><numerusform>%n exclues</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n à partir de midi</numerusform><numerusform>%n à partir de midi</numerusform></translation></message>
     <message id="leftOut"><translation>non comptées : %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n hors période</numerusform><numerusform>%n hors période</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, dont %n exclue par l’utilisateur</numerusform><numerusform>, dont %n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, dont %n exclue</numerusform><numerusform>, dont %n exclues</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n jour</numerusform><numerusform>%n jours</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n mesure du soir</numerusform><numerusform>%n mesures du soir</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n mesure du matin</numerusform><numerusform>%n mesures du matin</numerusform></translation></message>
@@ -390,6 +392,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="downloadStarting"><translation>Interrogation du tensiomètre…</translation></message>
     <message id="downloadsTitle"><translation>Transferts</translation></message>
     <message id="downloadStopping"><translation>Arrêt en cours…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n saisie à la main est désormais exclue (également enregistrée par le tensiomètre)</numerusform><numerusform>%n saisies à la main sont désormais exclues (également enregistrées par le tensiomètre)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n seconde au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform><numerusform>Le tensiomètre n’envoie rien. Le transfert attend encore, %n secondes au plus. Vous pouvez l’annuler : rien n’est perdu.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Seuls des fichiers XML présents sur cet ordinateur peuvent être importés. Ne figurent pas dans la liste : %1</translation></message>
     <message id="DupNewPatient"><translation>Il y a déjà un nouveau patient qui n’est pas encore enregistré : le premier de la liste. Veuillez d’abord l’enregistrer ou le supprimer.</translation></message>
@@ -854,7 +857,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 sur %n jour</numerusform><numerusform>%1 sur %n jours</numerusform></translation></message>
     <message id="weekEnd"><translation>Dernier jour de la semaine de mesure</translation></message>
     <message id="weekEvenings"><translation>Soir %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n exclue</numerusform><numerusform>%n exclues</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n de jours suivants exclue</numerusform><numerusform>%n de jours suivants exclues</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n du premier jour non comptée</numerusform><numerusform>%n du premier jour non comptées</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n point dépasse l’échelle par le bas</numerusform><numerusform>%n points dépassent l’échelle par le bas</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n mesure au-dessous de l’échelle</numerusform><numerusform>%n mesures au-dessous de l’échelle</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 au-dessous</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n exclue par l’utilisateur</numerusform><numerusform>○ %n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n exclue</numerusform><numerusform>○ %n exclues</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolique trop élevée</translation></message>
     <message id="evening"><translation>Soir</translation></message>
@@ -997,7 +1000,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="reportHistogramNote"><translation>La longueur d’une barre est la part, en pourcentage, des mesures comprises dans sa tranche de 10 mmHg ou de 10 battements par minute.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Ne dépassant pas %1 : %2</numerusform><numerusform>Ne dépassant pas les limites de %1 : %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, pouls %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n mesure exclue par l’utilisateur, avec motif</numerusform><numerusform>%n mesures exclues par l’utilisateur, avec motif</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n mesure exclue, avec motif</numerusform><numerusform>%n mesures exclues, avec motif</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg (diastolique)</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg (systolique)</translation></message>
@@ -1050,7 +1053,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryMean"><translation>Moy.</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>et %n autre commentaire</numerusform><numerusform>et %n autres commentaires</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>et %n autre exclue par l’utilisateur</numerusform><numerusform>et %n autres exclues par l’utilisateur</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>et %n autre exclue</numerusform><numerusform>et %n autres exclues</numerusform></translation></message>
     <message id="summaryMorning"><translation>Matin</translation></message>
     <message id="summaryMornings"><translation>Matin %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Tendance et, dessous, les commentaires par numéro ; %n sans place pour son numéro</numerusform><numerusform>Tendance et, dessous, les commentaires par numéro ; %n sans place pour leur numéro</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Saisies à la main : %1 sur %n mesure</numerusform><numerusform>Saisies à la main : %1 sur %n mesures</numerusform></translation></message>
     <message id="summaryWeek"><translation>Semaine de mesure (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n exclue par l’utilisateur</numerusform><numerusform>%n exclues par l’utilisateur</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n exclue</numerusform><numerusform>%n exclues</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n saisie à la main</numerusform><numerusform>%n saisies à la main</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n sans valeurs de pression</numerusform><numerusform>%n sans valeurs de pression</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n enregistrée dans un autre fuseau horaire ; heures de cet ordinateur</numerusform><numerusform>%n enregistrées dans un autre fuseau horaire ; heures de cet ordinateur</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ Ouvrir une autre fenêtre à côté ? C’est sans risque : ce que les deux 
     <message id="CliEraseNoID"><translation>La mémoire du tensiomètre s’efface en lui redonnant son propre ID, mais il n’en contient aucun qu’il puisse mémoriser. Veuillez d’abord lui en donner un avec 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Il n’a pas été possible de vérifier que la mémoire du tensiomètre est vide. %1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>%n mesure de jours suivants est exclue, elle aussi.</numerusform><numerusform>%n mesures de jours suivants sont exclues, elles aussi.</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n mesure de la semaine est exclue par l’utilisateur.</numerusform><numerusform>%n mesures de la semaine sont exclues par l’utilisateur.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n mesure de la semaine est exclue.</numerusform><numerusform>%n mesures de la semaine sont exclues.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Il manque un fichier à importer.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n mesure du premier jour de mesure n’est pas comptée.</numerusform><numerusform>%n mesures du premier jour de mesure ne sont pas comptées.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Il manque le dossier vers lequel exporter.</translation></message>
@@ -1219,6 +1222,8 @@ Transfère les mesures du tensiomètre, enregistre celles qui ne le sont pas enc
 transférées et combien d’entre elles sont nouvelles. La progression est indiquée sur l’erreur standard. La
 mémoire du tensiomètre n’est effacée que si les réglages le demandent, et une fois les mesures bien
 enregistrées.
+Les mesures saisies à la main que le tensiomètre a également enregistrées sont dès lors exclues ; s’il y en
+a, elles sont comptées sous 'left-out'.
 
 Options :
   --patient ID                 le patient pour lequel les enregistrer
@@ -1494,7 +1499,7 @@ Options :
     <message id="CliReadableByOthers"><translation>D’autres utilisateurs de cet ordinateur peuvent lire %1. 'zel privacy --mend' leur en retire l’accès.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason s’emploie avec --exclude ; --date, --time, --sys, --dia et --pulse s’emploient avec --add ou --change</translation></message>
     <message id="CliReadingNotUnique"><translation>plusieurs mesures portent le numéro %1 ; impossible de savoir laquelle est visée</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de ces mesures est exclue par l’utilisateur et ne compte nulle part ; --numbers indique laquelle, et pourquoi</numerusform><numerusform>%n de ces mesures sont exclues par l’utilisateur et ne comptent nulle part ; --numbers indique lesquelles, et pourquoi</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n de ces mesures est exclue et ne compte nulle part ; --numbers indique laquelle, et pourquoi</numerusform><numerusform>%n de ces mesures sont exclues et ne comptent nulle part ; --numbers indique lesquelles, et pourquoi</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n patient a été omis : un autre de la liste a le même ID, ou n’en a pas non plus. Chaque patient doit avoir son propre ID pour être distingué.</numerusform><numerusform>%n patients ont été omis : d’autres de la liste ont les mêmes ID, ou n’en ont pas non plus. Chaque patient doit avoir son propre ID pour être distingué.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set attend KEY=VALUE, et non '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>Le fichier de données ne prévoit pas d’emplacement pour le réglage %1 ; rien n’a donc été modifié.</translation></message>

@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>importazione di %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>inclusione di %n misurazione di %1</numerusform><numerusform>inclusione di %n misurazioni di %1</numerusform></translation></message>
     <message id="stepSettings"><translation>modifica delle impostazioni</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n misurazione inserita a mano resta esclusa. %1</numerusform><numerusform>%n misurazioni inserite a mano restano escluse. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n misurazione inserita a mano resta esclusa: ne conta già una dello stesso minuto con gli stessi valori.</numerusform><numerusform>%n misurazioni inserite a mano restano escluse: ne contano già altre degli stessi minuti con gli stessi valori.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Un paziente con l’ID “%1” è già nell’elenco. Non è stato modificato nulla.</translation></message>
     <message id="StoreBusy"><translation>Un altro programma sta usando il file dei dati %1, su questo computer o su un altro che lo condivide. Non è stato modificato nulla; riprovare tra un momento, o tra qualche minuto se quel computer si è scollegato dalla rete.</translation></message>
     <message id="StoreChangedElsewhere"><translation>Nel frattempo un altro programma ha modificato questi dati. Qui non è stato modificato nulla; controllare come sono adesso.</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>%1 prima, %2 dopo: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n esclusa dall’utente</numerusform><numerusform>%n escluse dall’utente</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n esclusa</numerusform><numerusform>%n escluse</numerusform></translation></message>
     <message id="fewBefore"><translation>meno di %1 misurazioni prima</translation></message>
     <message id="fewOnBothSides"><translation>meno di %1 misurazioni sia prima sia dopo</translation></message>
     <message id="fewSince"><translation>meno di %1 misurazioni dopo</translation></message>
     <message id="highMark"><translation>%1 e grassetto: pari o superiore a %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n prima delle 12</numerusform><numerusform>%n prima delle 12</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n esclusa dall’utente</numerusform><numerusform>%n escluse dall’utente</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n esclusa</numerusform><numerusform>%n escluse</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n dalle 12 in poi</numerusform><numerusform>%n dalle 12 in poi</numerusform></translation></message>
     <message id="leftOut"><translation>non conteggiate: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n fuori dal periodo</numerusform><numerusform>%n fuori dal periodo</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, di cui %n esclusa dall’utente</numerusform><numerusform>, di cui %n escluse dall’utente</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, di cui %n esclusa</numerusform><numerusform>, di cui %n escluse</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n giorno</numerusform><numerusform>%n giorni</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n sera</numerusform><numerusform>%n sere</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n mattina</numerusform><numerusform>%n mattine</numerusform></translation></message>
@@ -390,6 +392,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="downloadStarting"><translation>Richiesta al misuratore…</translation></message>
     <message id="downloadsTitle"><translation>Scarichi dei dati</translation></message>
     <message id="downloadStopping"><translation>Interruzione…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n inserita a mano è esclusa da ora in poi (presente anche nel misuratore)</numerusform><numerusform>%n inserite a mano sono escluse da ora in poi (presenti anche nel misuratore)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondo. Lo scarico si può annullare: non va perso nulla.</numerusform><numerusform>Dal misuratore non arriva nulla. Lo si attende al massimo per %n secondi. Lo scarico si può annullare: non va perso nulla.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Si possono importare solo file XML su questo computer. Non in elenco: %1</translation></message>
     <message id="DupNewPatient"><translation>C’è già un nuovo paziente non ancora salvato: il primo dell’elenco. Prima salvarlo o eliminarlo.</translation></message>
@@ -854,7 +857,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 in %n giorno</numerusform><numerusform>%1 in %n giorni</numerusform></translation></message>
     <message id="weekEnd"><translation>Ultimo giorno della settimana di misura</translation></message>
     <message id="weekEvenings"><translation>Sera %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n esclusa dall’utente</numerusform><numerusform>%n escluse dall’utente</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n esclusa</numerusform><numerusform>%n escluse</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n di giorni successivi esclusa</numerusform><numerusform>%n di giorni successivi escluse</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n del primo giorno non conteggiata</numerusform><numerusform>%n del primo giorno non conteggiate</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n punto scende sotto la scala</numerusform><numerusform>%n punti scendono sotto la scala</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n misurazione sotto la scala</numerusform><numerusform>%n misurazioni sotto la scala</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 sotto</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n esclusa dall’utente</numerusform><numerusform>○ %n escluse dall’utente</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n esclusa</numerusform><numerusform>○ %n escluse</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Diastolica alta</translation></message>
     <message id="evening"><translation>Sera</translation></message>
@@ -997,7 +1000,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="reportHistogramNote"><translation>La lunghezza di una barra è la percentuale di tutte le misurazioni che rientrano nel suo intervallo di 10 mmHg o di 10 battiti al minuto.</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Pari o inferiori a %1: %2</numerusform><numerusform>Pari o inferiori ai limiti di %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, polso %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n misurazione esclusa dall’utente, con il motivo</numerusform><numerusform>%n misurazioni escluse dall’utente, con il motivo</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n misurazione esclusa, con il motivo</numerusform><numerusform>%n misurazioni escluse, con il motivo</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg (diastolica)</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg (sistolica)</translation></message>
@@ -1050,7 +1053,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryMean"><translation>Media</translation></message>
     <message id="summaryMin"><translation>Min</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>e %n altro commento</numerusform><numerusform>e altri %n commenti</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>e %n altra esclusa dall’utente</numerusform><numerusform>e altre %n escluse dall’utente</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>e %n altra esclusa</numerusform><numerusform>e altre %n escluse</numerusform></translation></message>
     <message id="summaryMorning"><translation>Mattina</translation></message>
     <message id="summaryMornings"><translation>Mattina %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Andamento e, sotto, i commenti per numero; %n senza posto per il suo numero</numerusform><numerusform>Andamento e, sotto, i commenti per numero; %n senza posto per il loro numero</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Inserite a mano: %1 su %n misurazione</numerusform><numerusform>Inserite a mano: %1 su %n misurazioni</numerusform></translation></message>
     <message id="summaryWeek"><translation>Settimana di misura (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n della settimana esclusa dall’utente</numerusform><numerusform>%n della settimana escluse dall’utente</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n della settimana esclusa</numerusform><numerusform>%n della settimana escluse</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n della settimana inserita a mano</numerusform><numerusform>%n della settimana inserite a mano</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n della settimana senza valori di pressione</numerusform><numerusform>%n della settimana senza valori di pressione</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n salvata in un altro fuso orario; orari di questo computer</numerusform><numerusform>%n salvate in un altro fuso orario; orari di questo computer</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ Aprire un’altra finestra accanto? Non comporta rischi: ciò che entrambe salva
     <message id="CliEraseNoID"><translation>La memoria del misuratore si cancella riscrivendovi il suo stesso ID, ma il misuratore non contiene un ID utilizzabile. Prima assegnargliene uno con 'zel monitor --send-id ID'.</translation></message>
     <message id="CliEraseUnseen"><translation>Non è stato possibile accertare se la memoria del misuratore sia ora vuota. %1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>Anche %n misurazione di giorni successivi è esclusa.</numerusform><numerusform>Anche %n misurazioni di giorni successivi sono escluse.</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n misurazione della settimana è esclusa dall'utente.</numerusform><numerusform>%n misurazioni della settimana sono escluse dall'utente.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n misurazione della settimana è esclusa.</numerusform><numerusform>%n misurazioni della settimana sono escluse.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Manca un file da importare.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n misurazione del primo giorno di misura non è conteggiata.</numerusform><numerusform>%n misurazioni del primo giorno di misura non sono conteggiate.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Manca la cartella in cui esportare.</translation></message>
@@ -1220,6 +1223,8 @@ Opzioni:
 Scarica le misurazioni del misuratore, registra quelle non ancora registrate e mostra quante ne sono state
 scaricate e quante sono nuove. L'avanzamento è scritto sullo standard error. La memoria del misuratore viene
 cancellata solo se lo prevedono le impostazioni, e solo quando le misurazioni sono registrate e al sicuro.
+Le misurazioni inserite a mano, se presenti anche nel misuratore, sono da allora escluse e, se ce ne sono,
+contate come 'left-out'.
 
 Opzioni:
   --patient ID                 il paziente per cui registrarle
@@ -1499,7 +1504,7 @@ Opzioni:
     <message id="CliReadableByOthers"><translation>Altri utenti di questo computer possono leggere %1. 'zel privacy --mend' ne impedisce l'accesso.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason va insieme a --exclude; --date, --time, --sys, --dia e --pulse vanno insieme a --add o --change</translation></message>
     <message id="CliReadingNotUnique"><translation>più misurazioni hanno il numero %1; non si può stabilire quale si intende</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n di queste misurazioni è esclusa dall'utente e non conta in nessun calcolo; --numbers mostra quale, e perché</numerusform><numerusform>%n di queste misurazioni sono escluse dall'utente e non contano in nessun calcolo; --numbers mostra quali, e perché</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n di queste misurazioni è esclusa e non conta in nessun calcolo; --numbers mostra quale, e perché</numerusform><numerusform>%n di queste misurazioni sono escluse e non contano in nessun calcolo; --numbers mostra quali, e perché</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>%n paziente è stato omesso: un altro nell’elenco ha lo stesso ID, o ne è anch’esso privo. Per essere distinto, ogni paziente deve avere un proprio ID.</numerusform><numerusform>%n pazienti sono stati omessi: altri nell’elenco hanno gli stessi ID, o ne sono anch’essi privi. Per essere distinto, ogni paziente deve avere un proprio ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set richiede CHIAVE=VALORE, non '%1'.</translation></message>
     <message id="CliSettingNotKept"><translation>L'impostazione %1 non trova posto nel file dei dati, perciò non è stato modificato nulla.</translation></message>

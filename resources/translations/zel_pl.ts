@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>import pliku %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>ponowne uwzględnienie %n pomiaru (%1)</numerusform><numerusform>ponowne uwzględnienie %n pomiarów (%1)</numerusform><numerusform>ponowne uwzględnienie %n pomiarów (%1)</numerusform></translation></message>
     <message id="stepSettings"><translation>zmiany ustawień</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie pozostaje pominięty. %1</numerusform><numerusform>%n pomiary wpisane ręcznie pozostają pominięte. %1</numerusform><numerusform>%n pomiarów wpisanych ręcznie pozostaje pominiętych. %1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie pozostaje pominięty: liczy się już pomiar z tej samej minuty o tych samych wartościach.</numerusform><numerusform>%n pomiary wpisane ręcznie pozostają pominięte: liczą się już pomiary z tych samych minut o tych samych wartościach.</numerusform><numerusform>%n pomiarów wpisanych ręcznie pozostaje pominiętych: liczą się już pomiary z tych samych minut o tych samych wartościach.</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>Pacjent o ID „%1” jest już na liście. Niczego nie zmieniono.</translation></message>
     <message id="StoreBusy"><translation>Inny program korzysta z pliku danych %1, na tym komputerze albo na innym, który ma do niego dostęp. Niczego nie zmieniono; proszę spróbować ponownie za chwilę albo, jeśli tamten komputer stracił połączenie z siecią, za kilka minut.</translation></message>
     <message id="StoreChangedElsewhere"><translation>W międzyczasie zmienił to inny program. Tutaj niczego nie zmieniono; proszę sprawdzić, jak to wygląda teraz.</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>wcześniej %1, potem %2: %3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>%n pominięty</numerusform><numerusform>%n pominięte</numerusform><numerusform>%n pominiętych</numerusform></translation></message>
     <message id="fewBefore"><translation>wcześniej mniej niż %1 pomiarów</translation></message>
     <message id="fewOnBothSides"><translation>zarówno wcześniej, jak i potem mniej niż %1 pomiarów</translation></message>
     <message id="fewSince"><translation>potem mniej niż %1 pomiarów</translation></message>
     <message id="highMark"><translation>%1 i pogrubienie: co najmniej %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>%n przed południem</numerusform><numerusform>%n przed południem</numerusform><numerusform>%n przed południem</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>%n pominięty</numerusform><numerusform>%n pominięte</numerusform><numerusform>%n pominiętych</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>%n od południa</numerusform><numerusform>%n od południa</numerusform><numerusform>%n od południa</numerusform></translation></message>
     <message id="leftOut"><translation>nie liczą się: %1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>%n spoza okresu</numerusform><numerusform>%n spoza okresu</numerusform><numerusform>%n spoza okresu</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>, w tym %n pominięty przez użytkownika</numerusform><numerusform>, w tym %n pominięte przez użytkownika</numerusform><numerusform>, w tym %n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>, w tym %n pominięty</numerusform><numerusform>, w tym %n pominięte</numerusform><numerusform>, w tym %n pominiętych</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n dzień</numerusform><numerusform>%n dni</numerusform><numerusform>%n dni</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n wieczór</numerusform><numerusform>%n wieczory</numerusform><numerusform>%n wieczorów</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n poranek</numerusform><numerusform>%n poranki</numerusform><numerusform>%n poranków</numerusform></translation></message>
@@ -390,6 +392,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="downloadStarting"><translation>Łączenie z ciśnieniomierzem…</translation></message>
     <message id="downloadsTitle"><translation>Pobrania</translation></message>
     <message id="downloadStopping"><translation>Zatrzymywanie…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n wpisany ręcznie jest odtąd pominięty (zapisany także przez ciśnieniomierz)</numerusform><numerusform>%n wpisane ręcznie są odtąd pominięte (zapisane także przez ciśnieniomierz)</numerusform><numerusform>%n wpisanych ręcznie jest odtąd pominiętych (zapisanych także przez ciśnieniomierz)</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundę. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekundy. Można je anulować: nic nie przepadnie.</numerusform><numerusform>Ciśnieniomierz niczego nie przesyła. Pobieranie czeka na niego najwyżej %n sekund. Można je anulować: nic nie przepadnie.</numerusform></translation></message>
     <message id="dropLeftOut"><translation>Importować można tylko pliki XML z tego komputera. Nie dodano do listy: %1</translation></message>
     <message id="DupNewPatient"><translation>Jest już nowy pacjent, którego jeszcze nie zapisano: pierwszy na liście. Proszę go najpierw zapisać lub usunąć.</translation></message>
@@ -854,7 +857,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 z %n dnia</numerusform><numerusform>%1 z %n dni</numerusform><numerusform>%1 z %n dni</numerusform></translation></message>
     <message id="weekEnd"><translation>Ostatni dzień tygodnia pomiarowego</translation></message>
     <message id="weekEvenings"><translation>Wieczór %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n pominięty przez użytkownika</numerusform><numerusform>%n pominięte przez użytkownika</numerusform><numerusform>%n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>%n pominięty</numerusform><numerusform>%n pominięte</numerusform><numerusform>%n pominiętych</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n z późniejszych dni pominięty</numerusform><numerusform>%n z późniejszych dni pominięte</numerusform><numerusform>%n z późniejszych dni pominiętych</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n z pierwszego dnia się nie liczy</numerusform><numerusform>%n z pierwszego dnia się nie liczą</numerusform><numerusform>%n z pierwszego dnia się nie liczy</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n punkt wychodzi poniżej skali</numerusform><numerusform>%n punkty wychodzą poniżej skali</numerusform><numerusform>%n punktów wychodzi poniżej skali</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n pomiar poniżej skali</numerusform><numerusform>%n pomiary poniżej skali</numerusform><numerusform>%n pomiarów poniżej skali</numerusform></translation></message>
     <message id="belowScaleShort"><translation>%1 poniżej</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n pominięty przez użytkownika</numerusform><numerusform>○ %n pominięte przez użytkownika</numerusform><numerusform>○ %n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ %n pominięty</numerusform><numerusform>○ %n pominięte</numerusform><numerusform>○ %n pominiętych</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>Rozkurczowe za wysokie</translation></message>
     <message id="evening"><translation>Wieczór</translation></message>
@@ -997,7 +1000,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="reportHistogramNote"><translation>Długość słupka: jaki procent wszystkich pomiarów mieści się w jego przedziale (10 mmHg lub 10 uderzeń na minutę).</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>Nie wyższe niż %1: %2</numerusform><numerusform>Nie wyższe niż granice %1: %2</numerusform><numerusform>Nie wyższe niż granice %1: %2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg, tętno %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n pomiar pominięty przez użytkownika (z powodem)</numerusform><numerusform>%n pomiary pominięte przez użytkownika (z powodami)</numerusform><numerusform>%n pomiarów pominiętych przez użytkownika (z powodami)</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>%n pomiar pominięty (z powodem)</numerusform><numerusform>%n pomiary pominięte (z powodami)</numerusform><numerusform>%n pomiarów pominiętych (z powodami)</numerusform></translation></message>
     <message id="reportLimitDia"><translation>%1 mmHg (rozkurczowe)</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>%1 mmHg (skurczowe)</translation></message>
@@ -1050,7 +1053,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryMean"><translation>Średnia</translation></message>
     <message id="summaryMin"><translation>Min.</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>i jeszcze %n komentarz</numerusform><numerusform>i jeszcze %n komentarze</numerusform><numerusform>i jeszcze %n komentarzy</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>i jeszcze %n pominięty przez użytkownika</numerusform><numerusform>i jeszcze %n pominięte przez użytkownika</numerusform><numerusform>i jeszcze %n pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>i jeszcze %n pominięty</numerusform><numerusform>i jeszcze %n pominięte</numerusform><numerusform>i jeszcze %n pominiętych</numerusform></translation></message>
     <message id="summaryMorning"><translation>Rano</translation></message>
     <message id="summaryMornings"><translation>Rano %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>Trend, a pod nim komentarze według numerów; %n bez miejsca na numer</numerusform><numerusform>Trend, a pod nim komentarze według numerów; %n bez miejsca na numer</numerusform><numerusform>Trend, a pod nim komentarze według numerów; %n bez miejsca na numer</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>Wpisane ręcznie: %1 z %n pomiaru</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform><numerusform>Wpisane ręcznie: %1 z %n pomiarów</numerusform></translation></message>
     <message id="summaryWeek"><translation>Tydzień pomiarowy (%1)  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominięte przez użytkownika</numerusform><numerusform>%n z tego tygodnia pominiętych przez użytkownika</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>%n z tego tygodnia pominięty</numerusform><numerusform>%n z tego tygodnia pominięte</numerusform><numerusform>%n z tego tygodnia pominiętych</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>%n wpisany ręcznie</numerusform><numerusform>%n wpisane ręcznie</numerusform><numerusform>%n wpisanych ręcznie</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>%n bez wartości ciśnienia</numerusform><numerusform>%n bez wartości ciśnienia</numerusform><numerusform>%n bez wartości ciśnienia</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n zapisany w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisane w innej strefie czasowej; godziny tego komputera</numerusform><numerusform>%n zapisanych w innej strefie czasowej; godziny tego komputera</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ Otworzyć obok drugie okno? Niczemu to nie szkodzi: zachowane zostanie to, co za
     <message id="CliEraseNoID"><translation>Pamięć ciśnieniomierza wymazuje się przez ponowne nadanie mu jego ID, ale nie ma on ID, które mógłby przechować. Proszę mu je najpierw nadać poleceniem „zel monitor --send-id ID”.</translation></message>
     <message id="CliEraseUnseen"><translation>Nie udało się sprawdzić, czy pamięć ciśnieniomierza jest teraz pusta. %1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>Pominięty jest też %n pomiar z późniejszych dni.</numerusform><numerusform>Pominięte są też %n pomiary z późniejszych dni.</numerusform><numerusform>Pominiętych jest też %n pomiarów z późniejszych dni.</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n pomiar z tego tygodnia został pominięty przez użytkownika.</numerusform><numerusform>%n pomiary z tego tygodnia zostały pominięte przez użytkownika.</numerusform><numerusform>%n pomiarów z tego tygodnia zostało pominiętych przez użytkownika.</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>%n pomiar z tego tygodnia został pominięty.</numerusform><numerusform>%n pomiary z tego tygodnia zostały pominięte.</numerusform><numerusform>%n pomiarów z tego tygodnia zostało pominiętych.</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>Brakuje pliku do zaimportowania.</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>%n pomiar z pierwszego dnia pomiarowego się nie liczy.</numerusform><numerusform>%n pomiary z pierwszego dnia pomiarowego się nie liczą.</numerusform><numerusform>%n pomiarów z pierwszego dnia pomiarowego się nie liczy.</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>Brakuje folderu, do którego mają trafić pliki.</translation></message>
@@ -1217,6 +1220,8 @@ Opcje:
 Pobiera pomiary z ciśnieniomierza, zapisuje te, których jeszcze nie zapisano, i wyświetla, ile pobrano
 i ile z nich jest nowych. Postęp trafia na wyjście błędów. Pamięć ciśnieniomierza jest wymazywana tylko
 wtedy, gdy tak mówią ustawienia i gdy pomiary są już bezpiecznie zapisane.
+Wpisane ręcznie pomiary, które zapisał także ciśnieniomierz, są odtąd pomijane; jeśli takie są, podawana jest
+ich liczba jako 'left-out'.
 
 Opcje:
   --patient ID                 pacjent, dla którego mają zostać zapisane
@@ -1485,7 +1490,7 @@ Opcje:
     <message id="CliReadableByOthers"><translation>Inni użytkownicy tego komputera mogą odczytać %1. Polecenie „zel privacy --mend” odbiera im dostęp.</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason wymaga --exclude; --date, --time, --sys, --dia i --pulse wymagają --add lub --change</translation></message>
     <message id="CliReadingNotUnique"><translation>kilka pomiarów ma numer %1; nie wiadomo, o który chodzi</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte przez użytkownika i nigdzie się nie liczą; --numbers pokazuje, które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych przez użytkownika i nigdzie się nie liczy; --numbers pokazuje, które i dlaczego</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>%n z tych pomiarów został pominięty i nigdzie się nie liczy; --numbers pokazuje, który i dlaczego</numerusform><numerusform>%n z tych pomiarów zostały pominięte i nigdzie się nie liczą; --numbers pokazuje, które i dlaczego</numerusform><numerusform>%n z tych pomiarów zostało pominiętych i nigdzie się nie liczy; --numbers pokazuje, które i dlaczego</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>Pominięto %n pacjenta: inny na liście ma ten sam ID albo też go nie ma. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform><numerusform>Pominięto %n pacjentów: inni na liście mają te same ID albo też ich nie mają. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform><numerusform>Pominięto %n pacjentów: inni na liście mają te same ID albo też ich nie mają. Aby dało się ich odróżnić, każdy pacjent musi mieć własny ID.</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set wymaga postaci KEY=VALUE, podano „%1”.</translation></message>
     <message id="CliSettingNotKept"><translation>W pliku danych nie ma miejsca na ustawienie %1, dlatego niczego nie zmieniono.</translation></message>

@@ -80,6 +80,8 @@
     <message id="stepImport"><translation>匯入 %1</translation></message>
     <message id="stepIncludeReadings" numerus="yes"><translation><numerusform>重新計入 %1 的 %n 筆量測</numerusform></translation></message>
     <message id="stepSettings"><translation>變更設定</translation></message>
+    <message id="stillLeftOutRefused" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測維持排除。%1</numerusform></translation></message>
+    <message id="stillLeftOutTwice" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測維持排除：同一分鐘且數值相同的量測已計入。</numerusform></translation></message>
     <message id="StoreAlreadyKnown"><translation>清單中已有 ID 為「%1」的病患。未做任何變更。</translation></message>
     <message id="StoreBusy"><translation>另一個程式正在使用資料檔 %1，可能在這台電腦上，或在共用此檔案的另一台電腦上。未做任何變更；請稍後再試，若那台電腦已斷線，請過幾分鐘再試。</translation></message>
     <message id="StoreChangedElsewhere"><translation>這期間另一個程式已變更這些資料。此處未做任何變更；請查看目前的內容。</translation></message>
@@ -180,13 +182,13 @@
 <context>
     <name>analysis</name>
     <message id="beforeAndSince"><translation>之前 %1，之後 %2：%3</translation></message>
-    <message id="excludedOfDays" numerus="yes"><translation><numerusform>由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="excludedOfDays" numerus="yes"><translation><numerusform>已排除 %n 筆</numerusform></translation></message>
     <message id="fewBefore"><translation>之前的量測少於 %1 筆</translation></message>
     <message id="fewOnBothSides"><translation>前後的量測皆少於 %1 筆</translation></message>
     <message id="fewSince"><translation>之後的量測少於 %1 筆</translation></message>
     <message id="highMark"><translation>%1 與粗體：達到或高於 %2</translation></message>
     <message id="leftBeforeNoon" numerus="yes"><translation><numerusform>中午前 %n 筆</numerusform></translation></message>
-    <message id="leftExcluded" numerus="yes"><translation><numerusform>由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="leftExcluded" numerus="yes"><translation><numerusform>已排除 %n 筆</numerusform></translation></message>
     <message id="leftFromNoon" numerus="yes"><translation><numerusform>中午以後 %n 筆</numerusform></translation></message>
     <message id="leftOut"><translation>未計入：%1</translation></message>
     <message id="leftOutsidePeriod" numerus="yes"><translation><numerusform>期間外 %n 筆</numerusform></translation></message>
@@ -196,7 +198,7 @@
     <message id="limitDiaAlone"><translation>DIA %1 mmHg</translation></message>
     <message id="limitsBoth"><translation>%1/%2 mmHg</translation></message>
     <message id="limitSysAlone"><translation>SYS %1 mmHg</translation></message>
-    <message id="listedExcluded" numerus="yes"><translation><numerusform>，其中 %n 筆由使用者排除</numerusform></translation></message>
+    <message id="listedExcluded" numerus="yes"><translation><numerusform>，其中 %n 筆已排除</numerusform></translation></message>
     <message id="missingDays" numerus="yes"><translation><numerusform>%n 天</numerusform></translation></message>
     <message id="missingEvenings" numerus="yes"><translation><numerusform>%n 筆晚上量測</numerusform></translation></message>
     <message id="missingMornings" numerus="yes"><translation><numerusform>%n 筆早上量測</numerusform></translation></message>
@@ -390,6 +392,7 @@ mmHg</translation></message>
     <message id="downloadStarting"><translation>正在查詢血壓計…</translation></message>
     <message id="downloadsTitle"><translation>下載紀錄</translation></message>
     <message id="downloadStopping"><translation>正在停止…</translation></message>
+    <message id="downloadTypedLeftOut" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測從此排除（血壓計也有這筆量測）</numerusform></translation></message>
     <message id="downloadWaiting" numerus="yes"><translation><numerusform>血壓計沒有傳來資料。下載最多再等候 %n 秒。您可以取消，不會遺失任何資料。</numerusform></translation></message>
     <message id="dropLeftOut"><translation>只能匯入這部電腦上的 XML 檔案。未列入清單：%1</translation></message>
     <message id="DupNewPatient"><translation>已有一位尚未儲存的新病患，位於清單最上方。請先儲存或刪除。</translation></message>
@@ -854,7 +857,7 @@ mmHg</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%n 天共 %1</numerusform></translation></message>
     <message id="weekEnd"><translation>量測週的最後一天</translation></message>
     <message id="weekEvenings"><translation>晚上 %1</translation></message>
-    <message id="weekExcluded" numerus="yes"><translation><numerusform>由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="weekExcluded" numerus="yes"><translation><numerusform>已排除 %n 筆</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>較晚日期排除 %n 筆</numerusform></translation></message>
     <message id="weekFirstDay" numerus="yes"><translation><numerusform>第一天 %n 筆不計</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
@@ -896,7 +899,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="belowPoints" numerus="yes"><translation><numerusform>%n 個點超出刻度下緣</numerusform></translation></message>
     <message id="belowScale" numerus="yes"><translation><numerusform>%n 筆量測低於刻度</numerusform></translation></message>
     <message id="belowScaleShort"><translation>下緣外 %1</translation></message>
-    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ 由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="chartExcluded" numerus="yes"><translation><numerusform>○ 已排除 %n 筆</numerusform></translation></message>
     <message id="dia"><translation>DIA</translation></message>
     <message id="dia too high"><translation>舒張壓過高</translation></message>
     <message id="evening"><translation>晚上</translation></message>
@@ -997,7 +1000,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="reportHistogramNote"><translation>長條長度表示該區間（10 mmHg 或每分鐘 10 次）內的量測占全部的百分比。</translation></message>
     <message id="reportKeepLimits" numerus="yes"><translation><numerusform>未超過上限（%1）：%2</numerusform></translation></message>
     <message id="reportLeftOutReading"><translation>%1 %2   %3/%4 mmHg，脈搏 %5</translation></message>
-    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>由使用者排除的 %n 筆量測及其原因</numerusform></translation></message>
+    <message id="reportLeftOutTitle" numerus="yes"><translation><numerusform>已排除的 %n 筆量測及其原因</numerusform></translation></message>
     <message id="reportLimitDia"><translation>舒張壓 %1 mmHg</translation></message>
     <message id="reportLimits"><translation>%1/%2 mmHg</translation></message>
     <message id="reportLimitSys"><translation>收縮壓 %1 mmHg</translation></message>
@@ -1050,7 +1053,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryMean"><translation>平均</translation></message>
     <message id="summaryMin"><translation>最低</translation></message>
     <message id="summaryMoreComments" numerus="yes"><translation><numerusform>另有 %n 則註記</numerusform></translation></message>
-    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>另有 %n 筆由使用者排除</numerusform></translation></message>
+    <message id="summaryMoreExcluded" numerus="yes"><translation><numerusform>另有 %n 筆已排除</numerusform></translation></message>
     <message id="summaryMorning"><translation>早上</translation></message>
     <message id="summaryMornings"><translation>早上 %1</translation></message>
     <message id="summaryNice"><translation>NICE</translation></message>
@@ -1085,7 +1088,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="summaryTrendNumberless" numerus="yes"><translation><numerusform>趨勢，下方為註記編號；%n 則的編號無法顯示</numerusform></translation></message>
     <message id="summaryTyped" numerus="yes"><translation><numerusform>手動輸入：%n 筆量測中的 %1 筆</numerusform></translation></message>
     <message id="summaryWeek"><translation>量測週（%1）  %2</translation></message>
-    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>該週由使用者排除 %n 筆</numerusform></translation></message>
+    <message id="summaryWeekExcluded" numerus="yes"><translation><numerusform>該週已排除 %n 筆</numerusform></translation></message>
     <message id="summaryWeekTyped" numerus="yes"><translation><numerusform>該週手動輸入 %n 筆</numerusform></translation></message>
     <message id="summaryWeekUnmeasured" numerus="yes"><translation><numerusform>該週沒有血壓值 %n 筆</numerusform></translation></message>
     <message id="summaryWeekZone" numerus="yes"><translation><numerusform>%n 筆儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
@@ -1125,7 +1128,7 @@ AHA：3 天以上、共 12 筆量測以上</translation></message>
     <message id="CliEraseNoID"><translation>清空血壓計記憶體的方法是重新寫入它自己的 ID，但它沒有可儲存的 ID。請先以 'zel monitor --send-id ID' 寫入 ID。</translation></message>
     <message id="CliEraseUnseen"><translation>無法確認血壓計的記憶體是否已清空。%1</translation></message>
     <message id="CliExcludedLater" numerus="yes"><translation><numerusform>另有 %n 筆較晚日期的量測也已排除。</numerusform></translation></message>
-    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>該週有 %n 筆量測由使用者排除。</numerusform></translation></message>
+    <message id="CliExcludedLeftOut" numerus="yes"><translation><numerusform>該週有 %n 筆量測已排除。</numerusform></translation></message>
     <message id="CliFilesMissing"><translation>未指定要匯入的檔案。</translation></message>
     <message id="CliFirstDayLeftOut" numerus="yes"><translation><numerusform>第一個量測日的 %n 筆量測不計入。</numerusform></translation></message>
     <message id="CliFolderMissing"><translation>未指定匯出的目的資料夾。</translation></message>
@@ -1212,6 +1215,7 @@ folder    以 'folder: DIR' 輸出第二備份資料夾（隨身碟或網路共�
 
 下載血壓計的量測，儲存其中尚未儲存的部分，並輸出下載的筆數與新增的筆數。進度輸出至標準錯誤。
 只有在設定如此指定、而且量測已安全儲存時，才會清空血壓計的記憶體。
+手動輸入的量測，若血壓計也有，從此予以排除；有這類量測時，計入 'left-out'。
 
 選項：
   --patient ID                 量測所屬的病患
@@ -1465,7 +1469,7 @@ manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，�
     <message id="CliReadableByOthers"><translation>這台電腦的其他使用者可讀取 %1。'zel privacy --mend' 可禁止他們讀取。</translation></message>
     <message id="CliReadingJobMissing"><translation>--reason 須與 --exclude 一起使用；--date、--time、--sys、--dia 與 --pulse 須與 --add 或 --change 一起使用</translation></message>
     <message id="CliReadingNotUnique"><translation>有多筆量測的編號為 %1，無法判斷是哪一筆</translation></message>
-    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>這些量測中有 %n 筆由使用者排除，不計入任何結果；--numbers 可顯示是哪些量測及其原因</numerusform></translation></message>
+    <message id="CliReadingsExcluded" numerus="yes"><translation><numerusform>這些量測中有 %n 筆已排除，不計入任何結果；--numbers 可顯示是哪些量測及其原因</numerusform></translation></message>
     <message id="CliSameIDLeftOut" numerus="yes"><translation><numerusform>已略過 %n 位病患：清單中另有病患的 ID 相同，或同樣沒有 ID。每位病患都需要自己的 ID 才能區分。</numerusform></translation></message>
     <message id="CliSettingForm"><translation>--set 需要 KEY=VALUE，不能是「%1」。</translation></message>
     <message id="CliSettingNotKept"><translation>資料檔中沒有可存放設定 %1 的位置，因此未做任何變更。</translation></message>

@@ -50,13 +50,14 @@ CommandResult transfer(BPMModel& model, DataStore& store, const QString& monitor
     const auto isOthers = [&](const ReadingModel& reading) { return TrimStr(reading.ID) != monitorID; };
     if (isUnknown || std::ranges::any_of(*readings, isOthers)) return failed(qtTrId("CliMonitorChanged"));
     const std::size_t downloaded = readings->size();
-    const auto added = store.newDataTransfer(std::move(*readings));
-    if (!added) {
-        const QString told = isInPlace(added) ? qtTrId("downloadNotFlushed") : qtTrId("CliDownloadUnsaved");
-        return failed(told.arg(describe(added.error())));
+    const auto stored = store.newDataTransfer(std::move(*readings));
+    if (!stored) {
+        const QString told = isInPlace(stored) ? qtTrId("downloadNotFlushed") : qtTrId("CliDownloadUnsaved");
+        return failed(told.arg(describe(stored.error())));
     }
     printLine(around.out, u"downloaded: "_s + QString::number(downloaded));
-    printLine(around.out, u"new: "_s + QString::number(*added));
+    printLine(around.out, u"new: "_s + QString::number(stored->added));
+    if (stored->leftOut > 0) printLine(around.out, u"left-out: "_s + QString::number(stored->leftOut));
     if (const StoreResult& loaded = store.lastLoad(); !loaded)
         return failed(qtTrId("CliDownloadNotReadBack").arg(describe(loaded.error())));
     if (downloaded == 0 || store.getSetting().eraseRecAfterReading != 1) return {};

@@ -82,9 +82,11 @@ CommandResult excludeOne(const Request& request, DataStore& store, Surroundings&
 
 CommandResult includeOne(const Request& request, DataStore& store, Surroundings&) {
     return readingOf(request, u"include"_s, store).and_then([&](const ReadingModel& reading) {
-        return reading.isExcluded()
-                   ? doneOrFailed(store.includeReadings({reading}))
-                   : CommandResult(failed(qtTrId("CliNotExcluded").arg(reading.RecID.text())));
+        if (!reading.isExcluded())
+            return CommandResult(failed(qtTrId("CliNotExcluded").arg(reading.RecID.text())));
+        const auto still = store.includeReadings({reading});
+        if (still && !still->isNone()) return CommandResult(failed(describe(*still)));
+        return doneOrFailed(still.map([](const StillLeftOut&) {}));
     });
 }
 

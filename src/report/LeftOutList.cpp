@@ -16,11 +16,12 @@ Rect bodyOf(const Rect& rect) {
 }
 
 QString headOf(const ReadingModel& reading, const SettingModel& settings) {
-    return qtTrId("reportLeftOutReading")
-        .arg(reading.strDisplayDate(settings), reading.strDisplayTime(settings))
-        .arg(reading.sys)
-        .arg(reading.dia)
-        .arg(reading.pulse);
+    const QString head = qtTrId("reportLeftOutReading")
+                             .arg(reading.strDisplayDate(settings), reading.strDisplayTime(settings))
+                             .arg(reading.sys)
+                             .arg(reading.dia)
+                             .arg(reading.pulse);
+    return reading.isManual ? head + qtTrId(", ") + qtTrId("remarkManual") : head;
 }
 
 } // namespace

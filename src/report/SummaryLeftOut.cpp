@@ -20,12 +20,14 @@ constexpr int mostHowToRead = 4;
 constexpr qsizetype mostOfReason = 200; ///< more than a line has room for
 
 QString excludedText(const ReadingModel& reading, const ReportSource& report) {
-    const QString reason = describeReason(reading.exclusion.simplified()).left(mostOfReason);
+    QString reason = describeReason(reading.exclusion.simplified()).left(mostOfReason);
+    if (reason.isEmpty()) reason = qtTrId("summaryNoReason");
+    if (reading.isManual) reason = qtTrId("remarkManual") + qtTrId("; ") + reason;
     return qtTrId("summaryExcluded")
         .arg(reading.strDisplayDate(report.settings), reading.strDisplayTime(report.settings))
         .arg(reading.sys)
         .arg(reading.dia)
-        .arg(reason.isEmpty() ? qtTrId("summaryNoReason") : reason);
+        .arg(reason);
 }
 
 /// Those that the page counts somewhere, the newest first; undated ones it counts as such.

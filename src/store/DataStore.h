@@ -27,6 +27,13 @@ namespace zel {
 
 struct TableImport;
 
+/// What became of a download.
+struct TransferCounts {
+    std::size_t added = 0;   ///< readings that were not stored before
+    std::size_t leftOut = 0; ///< typed ones that are left out from now on, since these have been measured
+    bool operator==(const TransferCounts&) const = default;
+};
+
 /// The one XML file that holds everything, and the records read from it. Every change is written to the file
 /// first, by reading it, editing it and replacing it; the lists are then read again. Main thread only.
 class DataStore : public QObject {
@@ -102,12 +109,11 @@ public:
     /// Stores what a download brought for the patient, in the monitor's order, leaving out what is stored
     /// already, with one log entry if anything is new; reloads. A typed reading with minute, pressures and
     /// pulse of a new one is left out from now on.
-    /// \return how many readings were new; on an error nothing was stored: noSuchRecord if the patient is no
-    /// longer in the file
-    [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(const QString& ID,
-                                                                        ReadingList downloaded);
+    /// On an error nothing was stored: noSuchRecord if the patient is no longer in the file.
+    [[nodiscard]] tl::expected<TransferCounts, StoreError> newDataTransfer(const QString& ID,
+                                                                           ReadingList downloaded);
     /// For the current patient.
-    [[nodiscard]] tl::expected<std::size_t, StoreError> newDataTransfer(ReadingList downloaded) {
+    [[nodiscard]] tl::expected<TransferCounts, StoreError> newDataTransfer(ReadingList downloaded) {
         return newDataTransfer(QString{currentID}, std::move(downloaded));
     }
 
@@ -152,7 +158,9 @@ public:
     /// Leaves the readings out of all that counts; those that are left out already get this reason.
     /// \return noReason if exclusionReason() makes nothing of it
     [[nodiscard]] StoreResult excludeReadings(const ReadingList& asRead, const QString& reason);
-    [[nodiscard]] StoreResult includeReadings(const ReadingList& asRead); ///< has them count again
+    /// Has them count again, but for typed ones that cannot: nothing counts twice, and what nobody can type
+    /// in counts nowhere. \return those, how many and why
+    [[nodiscard]] tl::expected<StillLeftOut, StoreError> includeReadings(const ReadingList& asRead);
     /// Stores a reading that was typed in. \return its number; readingRefused as manualProblem() has it;
     /// readingKnown if the patient has one of that minute with these values; noSuchRecord without the patient
     [[nodiscard]] tl::expected<QString, StoreError> addReading(const QString& ID, const ManualReading& typed);

@@ -89,6 +89,31 @@ bool hasSameReading(pugi::xml_node root, const ReadingModel& wanted, pugi::xml_n
 
 bool isDownloaded(const ReadingModel& reading) { return !reading.isManual; }
 
+/// Which of the typed readings that are taken in again may count.
+class CountingAgain {
+public:
+    /// \p takenIn: all of them; those that were measured come before any typed one
+    CountingAgain(pugi::xml_node root, const ReadingList& takenIn, Instant present)
+        : counting{root}, now{present} {
+        for (const ReadingModel& reading : takenIn)
+            if (isDownloaded(reading)) counting.addCounting(reading);
+    }
+    /// It stays left out, and is added to \p still.
+    bool stays(const ReadingModel& reading, StillLeftOut& still) {
+        if (isDownloaded(reading) || !reading.isExcluded()) return false;
+        const auto problem = manualProblem(ManualReading::of(reading), now);
+        if (problem) ++still.refused[*problem];
+        const bool isTwin = !problem && counting.hasCounting(reading);
+        if (isTwin) ++still.countTwice;
+        if (!problem && !isTwin) counting.addCounting(reading);
+        return problem || isTwin;
+    }
+
+private:
+    ReadingsBefore counting;
+    Instant now;
+};
+
 } // namespace
 
 /// The change of readings that are found as they were read; \p change makes one of them.
@@ -103,11 +128,11 @@ StoreResult DataStore::changeReadings(StepKind kind, const ReadingList& asRead, 
             found = tl::unexpected{elements.error()};
             return Edit::unchanged;
         }
-        nameReadingStep(recorder, kind, root, asRead.front().ID, asRead.size());
         for (std::size_t i = 0; i < asRead.size() && found; ++i)
             found = change((*elements)[i], asRead[i], recorder);
-        const bool isAnother = found && !recorder.step().changes.empty();
-        return isAnother ? Edit::changed : Edit::unchanged;
+        const std::size_t made = recorder.step().changes.size();
+        nameReadingStep(recorder, kind, root, asRead.front().ID, made);
+        return found && made > 0 ? Edit::changed : Edit::unchanged;
     });
     return changed && !found ? found : changed;
 }
@@ -126,15 +151,23 @@ StoreResult DataStore::excludeReadings(const ReadingList& asRead, const QString&
         });
 }
 
-StoreResult DataStore::includeReadings(const ReadingList& asRead) {
-    return changeReadings(StepKind::includeReadings, asRead,
-                          [](pugi::xml_node element, const ReadingModel& before, StepRecorder& recorder) {
-                              ReadingModel included = before;
-                              included.exclusion = QString{};
-                              recorder.willChange(element);
-                              included.changeXMLNode(element, before);
-                              return StoreResult{};
-                          });
+tl::expected<StillLeftOut, StoreError> DataStore::includeReadings(const ReadingList& asRead) {
+    StillLeftOut still;
+    std::optional<CountingAgain> counting; // reads all, which readings of a monitor have no need of
+    const auto changed = changeReadings(
+        StepKind::includeReadings, asRead,
+        [&, asRead](pugi::xml_node element, const ReadingModel& before, StepRecorder& recorder) {
+            if (before.isManual && !counting)
+                counting.emplace(element.parent(), asRead,
+                                 std::chrono::floor<Instant::duration>(clock.now()));
+            if (counting && counting->stays(before, still)) return StoreResult{};
+            ReadingModel included = before;
+            included.exclusion = QString{};
+            recorder.willChange(element);
+            included.changeXMLNode(element, before);
+            return StoreResult{};
+        });
+    return changed.map([&still] { return still; });
 }
 
 tl::expected<QString, StoreError> DataStore::addReading(const QString& ID, const ManualReading& typed) {

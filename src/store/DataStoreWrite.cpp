@@ -257,9 +257,10 @@ DataStore::changeSetting(const SettingModel& shown, const SettingModel& wanted, 
     return editAsStep(write).map([&kept] { return kept; });
 }
 
-tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(const QString& ID, ReadingList downloaded) {
+tl::expected<TransferCounts, StoreError> DataStore::newDataTransfer(const QString& ID,
+                                                                    ReadingList downloaded) {
     if (IsEmptyID(ID)) return refused(ID);
-    std::size_t count = 0;
+    TransferCounts counts;
     bool isKnown = false;
     // Compared and numbered against the file as it is at the write: another program may have stored something
     // since it was read, or removed the patient.
@@ -268,20 +269,22 @@ tl::expected<std::size_t, StoreError> DataStore::newDataTransfer(const QString& 
         if (!isKnown) return Edit::unchanged;
         const Records current = Records::read(root, LocalZone{});
         ReadingList added = newReadings(root, ID, std::move(downloaded));
-        count = added.size();
+        counts.added = added.size();
         if (added.empty()) return Edit::unchanged;
-        leaveOutTyped(typedMeanwhileMeasured(root, ID, added));
+        const auto typed = typedMeanwhileMeasured(root, ID, added);
+        leaveOutTyped(typed);
+        counts.leftOut = typed.size();
         number(added, ID, current.getMaxID(Counter::reading));
-        saveXMLDataTransfer(root, newDataLog(current, ID, count), added);
+        saveXMLDataTransfer(root, newDataLog(current, ID, counts.added), added);
         return Edit::changed;
     });
     if (!stored) return tl::unexpected{stored.error()};
     if (!isKnown) return noSuch(ID);
-    if (count > 0) {
+    if (counts.added > 0) {
         qCInfo(lcStore, "add new reading......1");
         qCInfo(lcStore, "add new reading......2");
     }
-    return count;
+    return counts;
 }
 
 DataTransferLogModel DataStore::newDataLog(const Records& stored, const QString& ID,

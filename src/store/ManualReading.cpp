@@ -1,8 +1,10 @@
 #include "store/ManualReading.h"
 
+#include <QList>
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 
 namespace zel {
 
@@ -15,9 +17,22 @@ constexpr DayNumber firstManualDay{firstManualDate.time_since_epoch().count()};
 
 bool isInRange(std::uint32_t value) { return leastManualValue <= value && value <= mostManualValue; }
 
+/// Turns the direction of what stands behind it, also where another text is put there.
+bool turnsDirection(QChar c) {
+    return (c >= QChar{0x202A} && c <= QChar{0x202E}) || (c >= QChar{0x2066} && c <= QChar{0x2069});
+}
+
 /// What an element can hold on one line.
 bool isPlain(QChar c) {
-    return c.category() != QChar::Other_Control && c != QChar{0xFFFE} && c != QChar{0xFFFF};
+    return c.category() != QChar::Other_Control && c != QChar{0xFFFE} && c != QChar{0xFFFF}
+           && !turnsDirection(c);
+}
+
+bool canBeSeen(const QString& text) {
+    const QList<uint> characters = text.toUcs4();
+    return std::ranges::any_of(characters, [](char32_t c) {
+        return !QChar::isSpace(c) && QChar::category(c) != QChar::Other_Format;
+    });
 }
 
 } // namespace
@@ -73,10 +88,19 @@ QString describe(ManualProblem problem) {
     return {};
 }
 
+QString describe(const StillLeftOut& readings) {
+    QStringList lines;
+    if (readings.countTwice > 0) lines += qtTrId("stillLeftOutTwice", readings.countTwice);
+    for (const auto& [problem, count] : readings.refused)
+        lines += qtTrId("stillLeftOutRefused", count).arg(describe(problem));
+    return lines.join(u'\n');
+}
+
 QString exclusionReason(const QString& typed) {
     QString kept;
     std::ranges::copy_if(typed.simplified(), std::back_inserter(kept), isPlain);
     kept = kept.simplified();
+    if (!canBeSeen(kept)) return {};
     return kept == describeReason(measuredReason.toString()) ? measuredReason.toString() : kept;
 }
 

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <map>
 #include <optional>
 
 namespace zel {
@@ -45,11 +46,22 @@ enum class ManualProblem {
 /// In plain words, from the translation table.
 [[nodiscard]] QString describe(ManualProblem problem);
 
+/// How many typed readings that were to be taken in again stay left out, and why.
+struct StillLeftOut {
+    int countTwice = 0;                   ///< one of that minute, with these values, counts
+    std::map<ManualProblem, int> refused; ///< what nobody can type in, by what is wrong with it
+
+    [[nodiscard]] bool isNone() const { return countTwice == 0 && refused.empty(); }
+};
+/// In plain words, a line for each reason; empty for none.
+[[nodiscard]] QString describe(const StillLeftOut& readings);
+
 /// Why a typed reading is left out when the monitor brings the same one: as it is stored, in every language.
 inline constexpr QStringView measuredReason{u"measured by the monitor, too"};
 
-/// The reason for leaving a reading out as it is stored, on one line; empty: it is none. What
-/// describeExclusion() shows for measuredReason is measuredReason again.
+/// The reason for leaving a reading out as it is stored, on one line, without characters that turn the
+/// direction of writing; empty: there is none that can be seen. What describeExclusion() shows for
+/// measuredReason is measuredReason again.
 [[nodiscard]] QString exclusionReason(const QString& typed);
 
 /// What is to be known of the reading beside its values: "typed in; left out: cuff was loose"; mostly empty.

@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 namespace zel {
 
@@ -32,13 +32,6 @@ std::optional<Likeness> shownLikeness(const ReadingModel& reading, const Date& t
     if (!time || isUndatedDay(zone.day(reading.ReadingDate))) return std::nullopt;
     return Likeness{Date{Instant{std::chrono::floor<std::chrono::minutes>(*time)}},
                     {0, reading.pulse, reading.dia, reading.sys}};
-}
-
-/// What the clocks showed there, if that is known, and else here.
-Date wallClockOf(const ReadingModel& reading, const LocalZone& zone) {
-    if (!reading.ReadingDate || reading.utcOffset == ReadingModel::noOffset)
-        return zone.wallClock(reading.ReadingDate);
-    return *reading.ReadingDate + std::chrono::minutes{reading.utcOffset};
 }
 
 /// What the file shows, whatever zone it was written in.
@@ -75,20 +68,13 @@ private:
     std::unordered_set<std::uint64_t> keys;
 };
 
-/// The stored readings that no reading of the download has been found to be yet, but for those that none can
-/// be.
+/// Readings of which each stands for one other that is alike: those that no other one has been found for yet.
 class UnmatchedReadings {
 public:
-    UnmatchedReadings(pugi::xml_node root, const QString& ID, const SoughtValues& sought,
-                      const LocalZone& zone) {
-        for (const pugi::xml_node element : root.children()) {
-            if (!sought.mayHaveThoseOf(element) || !isReadingForID(element, ID)) continue;
-            const auto reading = ReadingModel::initWithXMLNode(element);
-            if (reading.isManual) continue; // stands for nothing measured
-            byWall[likeness(reading, wallClockOf(element), zone)].push_back(isMatched.size());
-            byInstant[likeness(reading, reading.ReadingDate, zone)].push_back(isMatched.size());
-            isMatched.push_back(false);
-        }
+    void add(const Likeness& wall, const Likeness& instant) {
+        byWall[wall].push_back(isMatched.size());
+        byInstant[instant].push_back(isMatched.size());
+        isMatched.push_back(false);
     }
     bool matchWall(const Likeness& wanted) { return match(byWall, wanted); }
     bool matchInstant(const Likeness& wanted) { return match(byInstant, wanted); }
@@ -112,11 +98,63 @@ private:
     std::vector<bool> isMatched;
 };
 
+/// The stored readings, but for those that none of the download can be.
+UnmatchedReadings storedReadings(pugi::xml_node root, const QString& ID, const SoughtValues& sought,
+                                 const LocalZone& zone) {
+    UnmatchedReadings stored;
+    for (const pugi::xml_node element : root.children()) {
+        if (!sought.mayHaveThoseOf(element) || !isReadingForID(element, ID)) continue;
+        const auto reading = ReadingModel::initWithXMLNode(element);
+        if (reading.isManual) continue; // stands for nothing measured
+        stored.add(likeness(reading, wallClockOf(element), zone),
+                   likeness(reading, reading.ReadingDate, zone));
+    }
+    return stored;
+}
+
+/// What is shown of the readings that have a date.
+UnmatchedReadings shownReadings(const ReadingList& measured, const LocalZone& zone) {
+    UnmatchedReadings shown;
+    for (const ReadingModel& reading : measured) {
+        const auto wall = shownLikeness(reading, wallClockOf(reading, zone), zone);
+        const auto instant = shownLikeness(reading, reading.ReadingDate, zone);
+        if (wall && instant) shown.add(*wall, *instant);
+    }
+    return shown;
+}
+
+/// A typed reading that counts, and what it shows.
+struct TypedElement {
+    pugi::xml_node element;
+    Likeness wall;
+    Likeness instant;
+};
+
+std::vector<TypedElement> typedElements(pugi::xml_node root, const QString& ID, const SoughtValues& sought,
+                                        const LocalZone& zone) {
+    std::vector<TypedElement> typed;
+    for (const pugi::xml_node element : root.children()) {
+        if (!sought.mayHaveThoseOf(element) || !isReadingForID(element, ID)) continue;
+        const auto reading = ReadingModel::initWithXMLNode(element);
+        if (!reading.isManual || reading.isExcluded()) continue;
+        const auto wall = shownLikeness(reading, wallClockOf(element), zone);
+        const auto instant = shownLikeness(reading, reading.ReadingDate, zone);
+        if (wall && instant) typed.push_back({element, *wall, *instant});
+    }
+    return typed;
+}
+
 } // namespace
+
+Date wallClockOf(const ReadingModel& reading, const LocalZone& zone) {
+    if (!reading.ReadingDate || reading.utcOffset == ReadingModel::noOffset)
+        return zone.wallClock(reading.ReadingDate);
+    return *reading.ReadingDate + std::chrono::minutes{reading.utcOffset};
+}
 
 ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList downloaded) {
     const LocalZone zone;
-    UnmatchedReadings stored{root, ID, SoughtValues{downloaded}, zone};
+    UnmatchedReadings stored = storedReadings(root, ID, SoughtValues{downloaded}, zone);
     // What the clock showed first: after a change of zone, one reading's instant may be another one's.
     std::erase_if(downloaded, [&](const ReadingModel& reading) {
         return stored.matchWall(likeness(reading, wallClockOf(reading, zone), zone));
@@ -130,24 +168,18 @@ ReadingList newReadings(pugi::xml_node root, const QString& ID, ReadingList down
 std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QString& ID,
                                                    const ReadingList& measured) {
     const LocalZone zone;
-    std::set<Likeness> byWall;
-    std::set<Likeness> byInstant;
-    for (const ReadingModel& reading : measured) {
-        if (const auto wall = shownLikeness(reading, wallClockOf(reading, zone), zone)) byWall.insert(*wall);
-        if (const auto instant = shownLikeness(reading, reading.ReadingDate, zone))
-            byInstant.insert(*instant);
-    }
-    const SoughtValues sought{measured};
+    UnmatchedReadings shown = shownReadings(measured, zone);
+    std::vector<TypedElement> typed = typedElements(root, ID, SoughtValues{measured}, zone);
     std::vector<pugi::xml_node> found;
-    for (const pugi::xml_node element : root.children()) {
-        if (!sought.mayHaveThoseOf(element) || !isReadingForID(element, ID)) continue;
-        const auto reading = ReadingModel::initWithXMLNode(element);
-        if (!reading.isManual || reading.isExcluded()) continue;
-        const auto instant = shownLikeness(reading, reading.ReadingDate, zone);
-        const auto wall = shownLikeness(reading, wallClockOf(element), zone);
-        if ((instant && byInstant.contains(*instant)) || (wall && byWall.contains(*wall)))
-            found.push_back(element);
-    }
+    const auto take = [&](const auto& isMatched) {
+        std::erase_if(typed, [&](const TypedElement& each) {
+            const bool isTaken = isMatched(each);
+            if (isTaken) found.push_back(each.element);
+            return isTaken;
+        });
+    };
+    take([&](const TypedElement& each) { return shown.matchWall(each.wall); }); // as above
+    take([&](const TypedElement& each) { return shown.matchInstant(each.instant); });
     return found;
 }
 

@@ -11,6 +11,10 @@
 
 namespace zel {
 
+/// What the clocks showed where the reading was stored, if that is known, and else what they showed here. As
+/// an instant would be in UTC; none without a date.
+[[nodiscard]] Date wallClockOf(const ReadingModel& reading, const LocalZone& zone);
+
 /// Those of \p downloaded that the patient with that ID does not have below \p root, in their order. A
 /// reading is stored if one with equal values is of the same instant or shows the same date and time in its
 /// text: the monitor's clock knows no time zone. One that was typed in stands for none. Each stored reading

@@ -1,6 +1,7 @@
 #include "store/ReadingsBefore.h"
 
 #include "store/DocumentElements.h"
+#include "store/NewReadings.h"
 #include "store/Records.h"
 
 namespace zel {
@@ -10,20 +11,28 @@ ReadingsBefore::ReadingsBefore(pugi::xml_node root) {
         if (!isElement(node, "MeasureRec")) continue;
         const auto reading = ReadingModel::initWithXMLNode(node);
         numbers.emplace(reading.ID, reading.RecID);
-        if (!reading.isExcluded() && reading.ReadingDate) counting.insert(likeness(reading));
+        if (!reading.isExcluded()) addCounting(reading);
     }
 }
 
+void ReadingsBefore::addCounting(const ReadingModel& reading) {
+    if (!reading.ReadingDate) return;
+    counting.insert(likeness(reading, *reading.ReadingDate));
+    if (!reading.isManual) measured.insert(likeness(reading, *wallClockOf(reading, zone)));
+}
+
 bool ReadingsBefore::hasCounting(const ReadingModel& reading) const {
-    return reading.ReadingDate && counting.contains(likeness(reading));
+    return reading.ReadingDate
+           && (counting.contains(likeness(reading, *reading.ReadingDate))
+               || measured.contains(likeness(reading, *wallClockOf(reading, zone))));
 }
 
 bool ReadingsBefore::hasNumber(const ReadingModel& reading) const {
     return numbers.contains({reading.ID, reading.RecID});
 }
 
-ReadingsBefore::Likeness ReadingsBefore::likeness(const ReadingModel& reading) {
-    const Instant minute{std::chrono::floor<std::chrono::minutes>(*reading.ReadingDate)};
+ReadingsBefore::Likeness ReadingsBefore::likeness(const ReadingModel& reading, Instant time) {
+    const Instant minute{std::chrono::floor<std::chrono::minutes>(time)};
     return {reading.ID, minute, reading.sys, reading.dia, reading.pulse};
 }
 

@@ -50,7 +50,7 @@ TEST(BeforeAndSince, IsOf14DaysAndUpTo28UntilAnotherCommentBegins) {
             calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[index]);
         EXPECT_EQ(std::pair(change.before.excluded, change.since.excluded), std::pair(before, since))
             << index;
-        const QString told = u"1 left out by the user"_s;
+        const QString told = u"1 left out"_s;
         EXPECT_EQ(describe(change).endsWith(u"; "_s + told), before + since > 0)
             << qPrintable(describe(change));
     }

@@ -117,12 +117,12 @@ TEST(ReadingCount, SaysEachReasonThatHoldsForOneReadingAndNoOther) {
     const RealTexts texts;
     const std::pair<ReadingCount, const char*> cases[] = {
         {{.counted = 1}, "1 reading"},
-        {{.counted = 2, .listedExcluded = 1}, "2 readings, 1 of them left out by the user"},
+        {{.counted = 2, .listedExcluded = 1}, "2 readings, 1 of them left out"},
         {{.outsidePeriod = 1}, "0 readings; 1 outside the period not counted"},
         {{.counted = 1, .unmeasured = 2}, "1 reading; 2 without pressures not counted"},
         {{.beforeNoon = 1, .fromNoon = 1}, "0 readings; 1 before noon, 1 from noon on not counted"},
         {{.undated = 1, .withoutDate = 1, .excluded = 1},
-         "0 readings; 1 left out by the user, 1 undated one, 1 without any date not counted"},
+         "0 readings; 1 left out, 1 undated one, 1 without any date not counted"},
     };
     for (const auto& [count, words] : cases)
         EXPECT_EQ(describe(count).toStdString(), words);

@@ -178,13 +178,11 @@ TEST_F(AnalysisTest, ReadingIsLeftOutAndTakenInAgain) {
     EXPECT_EQ(done.out + done.err, "");
     EXPECT_EQ(of("readings"), plain) << "it stays in the list";
     EXPECT_THAT(of("readings --numbers"), testing::HasSubstr(",1000004,\"cuff, loose\"\n"));
-    EXPECT_EQ(
-        run("readings").err,
-        "1 of these readings is left out by the user and counts nowhere; --numbers tells which, and why\n");
+    EXPECT_EQ(run("readings").err,
+              "1 of these readings is left out and counts nowhere; --numbers tells which, and why\n");
     EXPECT_EQ(of("statistics"), "sys: 136 120 152\ndia: 84 80 88\npulse: 69 66 71\npp: 52 40 64\n");
-    EXPECT_EQ(run("statistics").err, "2 readings; 1 left out by the user, 1 undated one not counted\n");
-    EXPECT_EQ(run("average --to 2026-11-03 --rule aha").err,
-              "1 reading of the week is left out by the user.\n");
+    EXPECT_EQ(run("statistics").err, "2 readings; 1 left out, 1 undated one not counted\n");
+    EXPECT_EQ(run("average --to 2026-11-03 --rule aha").err, "1 reading of the week is left out.\n");
     EXPECT_EQ(run("average --rule aha").err, "1 reading of later days is left out, too.\n");
     EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient=M1"_s}).status, 0);
     EXPECT_EQ(flatData().count("<Excluded>"), 1);
@@ -214,6 +212,20 @@ TEST_F(AnalysisTest, ReadingIsTypedInChangedAndDeleted) {
     EXPECT_EQ(run("readings --delete 1000005").status, 0);
     EXPECT_EQ(flatData(), before);
     EXPECT_EQ(zel({u"readings"_s, u"--patient=B"_s, u"--delete=1000005"_s}).status, 1);
+}
+
+TEST_F(AnalysisTest, ReadingThatTheMonitorMeasuredTooIsToldAndStaysLeftOut) {
+    ASSERT_EQ(run("readings --add --date 2026-11-04 --time 07:05 --sys 128 --dia 82 --pulse 64").status, 0);
+    const QByteArray measured =
+        R"({"model": "37", "id": "M1", "records": [{"time": "2026-11-04T07:05", "sys": 128, "dia": 82, "pulse": 64}]})";
+    const QStringList download{u"download"_s, u"--patient=M1"_s};
+    EXPECT_EQ(zelWith(measured, download).out, "downloaded: 1\nnew: 1\nleft-out: 1\n");
+    EXPECT_EQ(zelWith(measured, download).out, "downloaded: 1\nnew: 0\n");
+    const QByteArray before = flatData();
+    const Outcome refused = run("readings --include 1000005");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, testing::HasSubstr("the same values counts already"));
+    EXPECT_EQ(flatData(), before);
 }
 
 } // namespace

@@ -28,7 +28,7 @@ SampleReport reportInLanguage() {
     sample.settings.diaStandard = 90;
     sample.highFrom = {135, 85};
     sample.readings[60].exclusion = measuredReason.toString();
-    sample.readings[59].isManual = true;
+    sample.readings[59].isManual = sample.readings[60].isManual = true;
     ReadingModel undated;
     undated.ReadingDate = getNilReadingDate();
     undated.postInit(nullptr, sample.settings, sample.zone);

@@ -502,8 +502,8 @@ TEST(Page, whatCommentsCountIsNamedAlsoOutsideThePeriod) {
     EXPECT_EQ(named({summary}), QStringList(u"3 on summary"_s)) << "whose comments count them, too";
     for (ReadingModel& reading : sample.readings)
         reading.exclusion = u"all of them IN"_s;
-    EXPECT_TRUE(wholeText(sample.view().page(comment, 1))
-                    .contains(u"no reading before or since; 51 left out by the user"_s));
+    EXPECT_TRUE(
+        wholeText(sample.view().page(comment, 1)).contains(u"no reading before or since; 51 left out"_s));
 }
 
 TEST(Page, commentsTellTheirDaysAndColoursAndWhatWasMeasured) {

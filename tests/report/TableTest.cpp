@@ -223,12 +223,14 @@ TEST_F(TableTest, whatIsLeftOutIsStruckThroughAndListedWithItsReason) {
         longReason += u"the arm moved and "_s;
     sample.readings[0].exclusion = longReason + u"END"_s;
     sample.readings[1].exclusion = u""_s;
+    sample.readings[1].isManual = true;
     EXPECT_EQ(strikes(), 2);
     EXPECT_GT(sample.view().getTotalPages(Section::table), pagesBefore);
     for (const Section section : {Section::table, Section::SWStatistics}) {
         const QString all = allTexts(section).join(u' ');
         EXPECT_TRUE(all.contains(u"END"_s)) << "no reason is cut";
         EXPECT_TRUE(all.contains(qtTrId("reportLeftOutTitle", 2)));
+        EXPECT_EQ(all.count(u", typed in"_s), 1) << "in the list of the reasons";
         EXPECT_TRUE(all.contains(qtTrId("ExcludedWithoutReason")));
         EXPECT_TRUE(all.contains(qtTrId("reportStruckThrough")));
     }

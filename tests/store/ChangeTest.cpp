@@ -48,7 +48,7 @@ struct ChangeTest : testing::Test {
         return made;
     }
     std::size_t stored(const ReadingList& downloaded) {
-        return store.newDataTransfer(u"A"_s, downloaded).value_or(999);
+        return store.newDataTransfer(u"A"_s, downloaded).value_or(TransferCounts{999}).added;
     }
 };
 
@@ -200,7 +200,8 @@ TEST_F(ChangeTest, WriteThatCannotBeReadBackIsASuccess) {
     const QByteArray records = "<SystemSetting/><Patient><ID>A</ID></Patient>";
     store.setCurrentID(u"A"_s);
     const std::pair<const char*, std::function<bool()>> writes[] = {
-        {"a download", [&] { return store.newDataTransfer({reading({})}) == 1U; }},
+        {"a download",
+         [&] { return store.newDataTransfer({reading({})}).value_or(TransferCounts{}).added == 1U; }},
         {"a comment", [&] { return store.addCommentForCurID({}).has_value(); }},
     };
     for (const auto& [what, act] : writes) {

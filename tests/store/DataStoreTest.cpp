@@ -184,7 +184,7 @@ TEST_F(DataStoreTest, DownloadNumbersStoresAndLogsOnlyWhatIsNew) {
     for (int time = 1; time <= 2; ++time)
         store.setCurrentID(u"A"_s);
     EXPECT_EQ(chosen, 1);
-    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121), reading(120)}).value(),
+    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121), reading(120)}).value().added,
               3U); // equal ones of one download are kept
     EXPECT_EQ(order(), "SystemSetting: Patient:A Patient:new MeasureRec:A1000041 MeasureRec:A1000042 "
                        "MeasureRec:A1000043 MeasureRec:A1000044 "
@@ -199,11 +199,11 @@ TEST_F(DataStoreTest, DownloadNumbersStoresAndLogsOnlyWhatIsNew) {
     EXPECT_EQ(log.transferDate, std::chrono::floor<std::chrono::seconds>(clock.now()));
 
     const QByteArray before = content();
-    EXPECT_EQ(store.newDataTransfer({reading(121), reading(120)}).value(), 0U);
+    EXPECT_EQ(store.newDataTransfer({reading(121), reading(120)}).value().added, 0U);
     EXPECT_EQ(content(), before);
 
     store.setCurrentID(u"new"_s);
-    EXPECT_EQ(store.newDataTransfer({reading(121)}).value(), 1U);
+    EXPECT_EQ(store.newDataTransfer({reading(121)}).value().added, 1U);
     EXPECT_TRUE(QString::fromStdString(order()).endsWith(
         u"MeasureRec:B7 MeasureRec:new1000045 DataTransferLog:A100001 DataTransferLog:new100002"_s));
 }

@@ -45,19 +45,25 @@ struct Compared {
 
 bool isNil(const Compared& one) { return isNilDate(one.reading.ReadingDate); }
 
-/// \p downloaded against every one of \p stored, by one of their two times.
-void strikeOut(std::vector<Compared>& stored, std::vector<Compared>& downloaded, bool byWall) {
-    const auto isAlike = [byWall](const Compared& a, const Compared& b) {
-        const bool isSameTime = byWall ? a.wall == b.wall : a.reading.ReadingDate == b.reading.ReadingDate;
-        return a.reading.values() == b.reading.values() && isNil(a) == isNil(b) && (isNil(a) || isSameTime);
-    };
-    std::erase_if(downloaded, [&](const Compared& wanted) {
-        const auto found = std::find_if(stored.rbegin(), stored.rend(), [&](const Compared& each) {
-            return !each.isMatched && !each.reading.isManual && isAlike(each, wanted);
+/// Each of \p sought that is like one of \p standing, which stands for no other one then.
+template <class Alike>
+void strikeOut(std::vector<Compared>& standing, std::vector<Compared>& sought, const Alike& isAlike) {
+    std::erase_if(sought, [&](const Compared& wanted) {
+        const auto found = std::find_if(standing.rbegin(), standing.rend(), [&](const Compared& each) {
+            return !each.isMatched && isAlike(each, wanted);
         });
-        if (found != stored.rend()) found->isMatched = true;
-        return found != stored.rend();
+        if (found != standing.rend()) found->isMatched = true;
+        return found != standing.rend();
     });
+}
+
+/// By one of their two times.
+auto isStoredOf(bool byWall) {
+    return [byWall](const Compared& a, const Compared& b) {
+        const bool isSameTime = byWall ? a.wall == b.wall : a.reading.ReadingDate == b.reading.ReadingDate;
+        return !a.reading.isManual && a.reading.values() == b.reading.values() && isNil(a) == isNil(b)
+               && (isNil(a) || isSameTime);
+    };
 }
 
 std::vector<Compared> readingsOf(pugi::xml_node root, const char* ID) {
@@ -77,15 +83,16 @@ std::string words(const ReadingList& readings) {
     return all;
 }
 
-/// Minute and the three values that the display shows, by either time.
-bool isTwin(const Compared& typed, const Compared& measured) {
-    const auto key = [](const Date& time, const ReadingModel& r) {
-        return std::tuple{std::chrono::floor<minutes>(*time), r.sys, r.dia, r.pulse};
+/// Minute and the three values that the display shows, by one of their two times.
+auto isTwinOf(bool byWall) {
+    return [byWall](const Compared& a, const Compared& b) {
+        const auto key = [byWall](const Compared& each) {
+            const Date& time = byWall ? each.wall : each.reading.ReadingDate;
+            return std::tuple{std::chrono::floor<minutes>(*time), each.reading.sys, each.reading.dia,
+                              each.reading.pulse};
+        };
+        return !isNil(a) && !isNil(b) && key(a) == key(b);
     };
-    return !isNil(typed) && !isNil(measured)
-           && (key(typed.reading.ReadingDate, typed.reading)
-                   == key(measured.reading.ReadingDate, measured.reading)
-               || key(typed.wall, typed.reading) == key(measured.wall, measured.reading));
 }
 
 /// The result is that of comparing each with all.
@@ -108,7 +115,7 @@ TEST(NewReadings, AreThoseThatNoStoredOneStandsFor) {
             downloaded.push_back(each.reading);
         }
         for (const bool byWall : {true, false})
-            strikeOut(stored, expected, byWall);
+            strikeOut(stored, expected, isStoredOf(byWall));
         ReadingList left;
         for (const Compared& each : expected)
             left.push_back(each.reading);
@@ -116,13 +123,12 @@ TEST(NewReadings, AreThoseThatNoStoredOneStandsFor) {
         EXPECT_EQ(words(found), words(left)) << seed;
         newOnes += found.size();
 
-        std::size_t expectedTwins = 0;
-        for (const Compared& typed : stored)
-            expectedTwins += typed.reading.isManual && !typed.reading.isExcluded()
-                                     && std::ranges::any_of(
-                                         expected, [&](const Compared& each) { return isTwin(typed, each); })
-                                 ? 1U
-                                 : 0U;
+        std::erase_if(
+            stored, [](const Compared& each) { return !each.reading.isManual || each.reading.isExcluded(); });
+        const std::size_t typed = stored.size();
+        for (const bool byWall : {true, false})
+            strikeOut(expected, stored, isTwinOf(byWall));
+        const std::size_t expectedTwins = typed - stored.size();
         EXPECT_EQ(typedMeanwhileMeasured(document->root(), u"A"_s, found).size(), expectedTwins) << seed;
         twins += expectedTwins;
     }

@@ -114,8 +114,9 @@ TEST_F(ReadingChangeTest, WhatOthersChangedOrRemovedIsRefusedWhole) {
         EXPECT_EQ(content(), changed);
         EXPECT_EQ(store.changes().undoable(), nullptr);
     }
-    for (const char* blank : {"", " \n\t", "\x01\x7F"})
-        EXPECT_EQ(codeOf(store.excludeReadings(readings(), QString::fromLatin1(blank))), noReason);
+    for (const QString& blank : {u""_s, u" \n\t"_s, u"\x01\x7F"_s, u"\u200B"_s, u"\u202E \u2060\U000E0041"_s})
+        EXPECT_EQ(codeOf(store.excludeReadings(readings(), blank)), noReason);
+    EXPECT_EQ(exclusionReason(u"a\u202E b\u2067\u200Dc"_s), u"a b\u200Dc"_s);
 }
 
 TEST_F(ReadingChangeTest, TypedReadingIsStoredLikeOthersAndMarked) {
@@ -227,11 +228,11 @@ TEST_F(ReadingChangeTest, OnlyTypedReadingsAreChangedAndDeleted) {
 }
 
 TEST_F(ReadingChangeTest, DownloadLeavesMarksAloneAndBringsNothingTwice) {
-    ASSERT_EQ(store.newDataTransfer({downloaded("2026-11-18 07:00")}).value_or(9), 1U);
+    ASSERT_EQ(store.newDataTransfer({downloaded("2026-11-18 07:00")}).value_or(TransferCounts{9}).added, 1U);
     ASSERT_TRUE(store.excludeReadings({readings().back()}, u"x"_s));
     const QByteArray before = content();
     const auto brings = [this](const char* time) {
-        return store.newDataTransfer({downloaded(time)}).value_or(9);
+        return store.newDataTransfer({downloaded(time)}).value_or(TransferCounts{9}).added;
     };
     EXPECT_EQ(brings("2026-11-18 07:00"), 0U);
     const InZone away{"Asia/Tokyo"};
@@ -263,9 +264,9 @@ TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
         ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
         const InZone there{zoneName};
         ReadingModel measured = downloaded(time, arrhythmia);
-        EXPECT_EQ(store.newDataTransfer({measured}).value_or(9), 1U) << what;
+        EXPECT_EQ(store.newDataTransfer({measured}), (TransferCounts{1, expected == left ? 1U : 0U})) << what;
         EXPECT_EQ(shown(), expected) << what;
-        EXPECT_EQ(store.newDataTransfer({measured}).value_or(9), 0U) << what;
+        EXPECT_EQ(store.newDataTransfer({measured}), TransferCounts{}) << what;
         EXPECT_EQ(content().count("<Excluded>"), expected == left ? 1 : 0) << "not another patient's";
     }
     setData({});
@@ -273,9 +274,59 @@ TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
     ASSERT_TRUE(store.excludeReadings({readings().back()}, u"y"_s));
     ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 07:00")}));
     EXPECT_EQ(shown(), "120/80!ym 120/80 ") << "left out before: as it was";
-    ASSERT_TRUE(store.includeReadings({readings().front()}));
-    EXPECT_EQ(store.newDataTransfer({downloaded("2026-11-19 07:00")}).value_or(9), 0U);
-    EXPECT_EQ(shown(), "120/80m 120/80 ") << "taken in since: the user's choice";
+}
+
+TEST_F(ReadingChangeTest, WhatIsTakenInAgainCountsOnceAndCouldBeTypedIn) {
+    const RealTexts texts;
+    const auto refused = [this](const ReadingList& takenIn) {
+        const QByteArray before = content();
+        const QString why = describe(store.includeReadings(takenIn).value_or(StillLeftOut{}));
+        EXPECT_EQ(content() == before, !why.isEmpty());
+        return why;
+    };
+    const auto twice = u"1 reading that was typed in stays left out: one of that minute with the same values "
+                       "counts already."_s;
+    for (const char* place : {"UTC", "Asia/Tokyo"}) { // there by what the monitor's clock shows
+        setData({});
+        ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+        const InZone there{place};
+        ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 07:00")}));
+        EXPECT_EQ(refused({readings()[0]}), twice);
+        EXPECT_EQ(store.changes().undoable()->name.kind, StepKind::addReading);
+        ASSERT_TRUE(store.excludeReadings({readings()[1]}, u"cuff"_s));
+        EXPECT_EQ(refused({readings()[1]}), QString{}) << "one that was measured is taken in";
+        ASSERT_TRUE(store.excludeReadings({readings()[1]}, u"cuff"_s));
+        EXPECT_EQ(describe(*store.includeReadings(readings())), twice) << "both at once, the typed one first";
+        EXPECT_EQ(store.changes().undoable()->name.count, 1U);
+        ASSERT_TRUE(store.excludeReadings({readings()[1]}, u"cuff"_s));
+        EXPECT_EQ(refused({readings()[0]}), QString{}) << "nothing else of that minute counts";
+    }
+    const QByteArray typedIn =
+        "<MeasureRec><ID>A</ID><ReadingDate>2026-11-19T07:00:00+00:00</ReadingDate><Sys>120"
+        "</Sys><Dia>80</Dia><Pulse>65</Pulse><Excluded/><Source>manual</Source></MeasureRec>";
+    const QByteArray later = QByteArray{typedIn}.replace("2026", "2099");
+    const QByteArray tooHigh = QByteArray{typedIn}.replace("120", "500");
+    setData(typedIn + typedIn + later + tooHigh + tooHigh
+            + QByteArray{tooHigh}.remove(tooHigh.indexOf("<Source>"), 23));
+    EXPECT_EQ(
+        describe(*store.includeReadings(readings())),
+        twice
+            + u"\n1 reading that was typed in stays left out. The date and time are in the future.\n2 "
+              u"readings "
+              "that were typed in stay left out. The systolic pressure is to be a number from 30 to 300."_s);
+    EXPECT_EQ(content().count("<Excluded"), 4) << "the first counts, and what a monitor has measured";
+    EXPECT_EQ(store.changes().undoable()->name.count, 2U);
+}
+
+TEST_F(ReadingChangeTest, OneMeasuredReadingStandsForOneTypedOne) {
+    const InZone berlin{"Europe/Berlin"};
+    const RealTexts texts;
+    setData({});
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 15:00")));
+    const InZone tokyo{"Asia/Tokyo"}; // 15:00 there is the instant of 07:00
+    ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 15:00")}));
+    EXPECT_EQ(shown(), "120/80m 120/80!measured by the monitor, toom 120/80 ");
 }
 
 TEST_F(ReadingChangeTest, NothingComesBackBesideWhatADownloadBrought) {

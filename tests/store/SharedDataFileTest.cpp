@@ -16,8 +16,8 @@ TEST_F(DataStoreTest, DownloadSeesWhatAnotherProgramStored) {
     ASSERT_TRUE(other.load());
     other.setCurrentID(u"A"_s);
     store.setCurrentID(u"A"_s);
-    EXPECT_EQ(other.newDataTransfer({reading(120)}).value(), 1U);
-    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121)}).value(), 1U);
+    EXPECT_EQ(other.newDataTransfer({reading(120)}).value().added, 1U);
+    EXPECT_EQ(store.newDataTransfer({reading(120), reading(121)}).value().added, 1U);
     EXPECT_EQ(store.getReadingForCurID().at(0).RecID, u"1000001"_s);
     EXPECT_EQ(store.getReadingForCurID().at(1).RecID, u"1000002"_s);
 }
@@ -107,7 +107,7 @@ TEST_F(DataStoreTest, FailedWriteStoresNothingAndSaysSo) {
         EXPECT_EQ(store.newDataTransfer({reading(120)}).error().code, StoreErrorCode::sizeLimit);
     }
     EXPECT_EQ(content(), before);
-    EXPECT_EQ(store.newDataTransfer({reading(120)}).value(), 1U);
+    EXPECT_EQ(store.newDataTransfer({reading(120)}).value().added, 1U);
 }
 
 TEST_F(DataStoreTest, WaitsItsTurnWhileAnotherProgramHoldsTheFile) {

@@ -150,7 +150,7 @@ TEST_F(UndoTest, WhatOthersWroteSinceStays) {
         const std::string before = elements();
         act();
         store.setCurrentID(u"Z"_s);
-        ASSERT_EQ(store.newDataTransfer({reading(177)}).value_or(0), 1U);
+        ASSERT_EQ(store.newDataTransfer({reading(177)}).value_or(TransferCounts{0}).added, 1U);
         elsewhere("<FamilyName>Zorn</FamilyName>", "<FamilyName>Zander</FamilyName>");
         elsewhere("<Foreign", "<Another/><Foreign");
         if (content().contains("<FamilyName>Smith<")) elsewhere(">Smith<", ">Smythe<");
@@ -264,7 +264,7 @@ TEST_F(UndoTest, ADeletedPatientComesBackInItsPlaceAlsoWhereItsNeighbourHasGone)
 TEST_F(UndoTest, RedoOfADeletionLeavesNobodysReadings) {
     ASSERT_TRUE(store.deleteXMLPatient(u"A"_s));
     ASSERT_TRUE(store.undo());
-    ASSERT_EQ(store.newDataTransfer(u"A"_s, {reading(1)}).value_or(0), 1U);
+    ASSERT_EQ(store.newDataTransfer(u"A"_s, {reading(1)}).value_or(TransferCounts{0}).added, 1U);
     const QByteArray before = content();
     EXPECT_EQ(store.redo().error().code, stepHasRecords);
     EXPECT_EQ(content(), before);
@@ -298,7 +298,7 @@ TEST_F(UndoTest, OnlyWhatChangedTheFileIsAStepAndANewOneEndsRedo) {
     changeSetting(131);
     ASSERT_TRUE(store.undo());
     EXPECT_EQ(std::as_const(store).getSetting().sysStandard, 130U) << "read anew";
-    ASSERT_EQ(store.newDataTransfer({reading(177)}).value_or(0), 1U);
+    ASSERT_EQ(store.newDataTransfer({reading(177)}).value_or(TransferCounts{0}).added, 1U);
     EXPECT_NE(store.changes().redoable(), nullptr) << "a download disturbs no step";
     changePatient(u"Z"_s, u"typed"_s);
     EXPECT_EQ(store.changes().redoable(), nullptr);

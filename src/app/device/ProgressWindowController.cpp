@@ -23,7 +23,9 @@ QString describe(const DownloadOutcome& outcome) {
     if (outcome.downloaded == 0) return qtTrId("downloadEmpty");
     const QString fetched = qtTrId("downloadFetched", static_cast<int>(outcome.downloaded));
     if (outcome.added == 0) return qtTrId("downloadNothingNew").arg(fetched);
-    return qtTrId("downloadNew", static_cast<int>(outcome.added)).arg(fetched);
+    const QString added = qtTrId("downloadNew", static_cast<int>(outcome.added)).arg(fetched);
+    if (outcome.leftOut == 0) return added;
+    return added + qtTrId("; ") + qtTrId("downloadTypedLeftOut", static_cast<int>(outcome.leftOut));
 }
 
 ProgressWindowController::ProgressWindowController(const Parts& needed, QWidget* parent)
@@ -148,12 +150,13 @@ void ProgressWindowController::quietMonitor() {
 
 void ProgressWindowController::storeReadings(ReadingList readings) {
     DownloadOutcome outcome{.downloaded = readings.size()};
-    const auto added = parts.store.newDataTransfer(patientID, std::move(readings));
-    if (!added) {
-        const QString told = isInPlace(added) ? qtTrId("downloadNotFlushed") : qtTrId("downloadNotStored");
-        return finish({.failure = told.arg(describe(added.error()))});
+    const auto stored = parts.store.newDataTransfer(patientID, std::move(readings));
+    if (!stored) {
+        const QString told = isInPlace(stored) ? qtTrId("downloadNotFlushed") : qtTrId("downloadNotStored");
+        return finish({.failure = told.arg(describe(stored.error()))});
     }
-    outcome.added = *added;
+    outcome.added = stored->added;
+    outcome.leftOut = stored->leftOut;
     // Stored, but nobody can see it yet: the monitor keeps its readings.
     if (const StoreResult& loaded = parts.store.lastLoad(); !loaded) {
         outcome.failure = qtTrId("downloadNotReadBack").arg(describe(outcome), describe(loaded.error()));

@@ -15,7 +15,8 @@ namespace zel {
 /// How a download ended.
 struct DownloadOutcome {
     std::size_t downloaded = 0;
-    std::size_t added = 0; ///< of these, how many were not stored before
+    std::size_t added = 0;   ///< of these, how many were not stored before
+    std::size_t leftOut = 0; ///< typed readings that are left out from now on, since these were measured
     bool cancelled = false;
     QString failure{}; ///< what went wrong, in plain words; empty when nothing did
     bool operator==(const DownloadOutcome&) const = default;

@@ -111,7 +111,11 @@ void ReadingActions::leaveOut() {
 }
 
 /// The others that are chosen count already.
-void ReadingActions::takeIn() { isDone(parts.store.includeReadings(copies(isLeftOut))); }
+void ReadingActions::takeIn() {
+    const auto still = parts.store.includeReadings(copies(isLeftOut));
+    isDone(still.map([](const StillLeftOut&) {}));
+    if (still && !still->isNone()) parts.panel.ShowMessage(describe(*still), qtTrId("Warning"));
+}
 
 void ReadingActions::typeIn() {
     const QString ID = parts.store.getCurrentID();

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// "62, 1 of them left out by the user".
+/// "62, 1 of them left out".
 QString readingsText(const ReadingList& readings) {
     const auto excluded = std::ranges::count_if(readings, &ReadingModel::isExcluded);
     const QString total = QString::number(readings.size());

@@ -66,6 +66,18 @@ TEST_F(DownloadTest, ofTheSameReadingsAgainChangesNothing) {
     EXPECT_EQ(again, (DownloadOutcome{.downloaded = 12}));
 }
 
+TEST_F(DownloadTest, tellsOfATypedReadingThatItLeavesOut) {
+    startConnected();
+    const QByteArray before = dataFile();
+    EXPECT_EQ(download(), all);
+    const auto measured = ManualReading::of(store.getReadingForCurID().front());
+    replaceDataFile(before);
+    ASSERT_TRUE(store.addReading(u"P1"_s, measured));
+    const DownloadOutcome how = download();
+    EXPECT_EQ(how, (DownloadOutcome{.downloaded = 12, .added = 12, .leftOut = 1}));
+    EXPECT_TRUE(describe(how).endsWith(u", 12 new; "_s + qtTrId("downloadTypedLeftOut", 1)));
+}
+
 TEST_F(DownloadTest, ofAnEmptyMonitorSaysSo) {
     plan.records.clear();
     startConnected();

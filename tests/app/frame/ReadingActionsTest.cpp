@@ -209,6 +209,20 @@ TEST_F(ReadingActionsTest, readingIsTypedInChangedAndDeleted) {
     EXPECT_EQ(panel.messages, QStringList());
 }
 
+TEST_F(ReadingActionsTest, whatWouldCountTwiceStaysLeftOutAndIsTold) {
+    const ReadingList measured = store.getReadingForCurID();
+    replaceDataFile(dataFile().replace("<Sys>122<", "<Sys>125<"));
+    ASSERT_TRUE(store.addReading(u"P1"_s, ManualReading::of(measured[1])));
+    ASSERT_EQ(store.newDataTransfer(u"P1"_s, measured), (TransferCounts{1, 1}));
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID()[0]}, u"x"_s));
+    EXPECT_EQ(shown(), u"121! 125 123 122!m 122"_s);
+    choose({0, 1, 2, 3, 4});
+    comeBack();
+    pressKeyOf("takeInReadings");
+    EXPECT_EQ(shown(), u"121 125 123 122!m 122"_s);
+    EXPECT_EQ(panel.messages, QStringList{u"Warning: "_s + qtTrId("stillLeftOutTwice", 1)});
+}
+
 TEST_F(ReadingActionsTest, onlyWhatMakesSenseCanBeChosen) {
     ASSERT_TRUE(store.addReading(u"P1"_s, {std::chrono::floor<Instant::duration>(clock.now()), 120, 80, 60}));
     ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().front()}, u"x"_s));

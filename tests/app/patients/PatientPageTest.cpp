@@ -115,7 +115,7 @@ TEST_F(PatientPageTest, theNumberOfReadingsSaysHowManyAreLeftOut) {
     show(new DataPanel(store, nullptr));
     EXPECT_EQ(text("lblReadings"), u"2"_s);
     ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().front()}, u"loose cuff"_s));
-    EXPECT_EQ(text("lblReadings"), u"2, 1 of them left out by the user"_s);
+    EXPECT_EQ(text("lblReadings"), u"2, 1 of them left out"_s);
 }
 
 TEST_F(PatientPageTest, aNewPatientIsTypedInAndSaved) {

@@ -122,7 +122,7 @@ TEST_F(MenuTest, aPatientTypedInExportedAndDeletedComesBackEqual) {
         taken[i].sys = 121 + i;
         taken[i].ReadingDate = StrToDate(u"202603011234"_s, u"yyyyMMddHHmm"_s);
     }
-    ASSERT_EQ(store.newDataTransfer(taken).value_or(0), 3U);
+    ASSERT_EQ(store.newDataTransfer(taken).value_or(TransferCounts{0}).added, 3U);
     for (const auto& words : {u"<\"one\">"_s, u"two\nlines &c"_s}) {
         CommentModel comment;
         comment.beginDate = comment.endDate = taken[0].ReadingDate;

@@ -386,7 +386,7 @@ TEST_F(TableViewTest, whatIsLeftOutOrTypedInIsMarkedAndSaid) {
     EXPECT_EQ(cell(0, ReadingTableModel::date, Qt::AccessibleTextRole), u"01/03/2026, left out: cuff <b>"_s);
     EXPECT_EQ(cell(1, ReadingTableModel::sys, Qt::ToolTipRole), QString());
     EXPECT_EQ(cell(2, ReadingTableModel::comment), u"typed in"_s);
-    EXPECT_TRUE(text("lblDetail").contains(u"3 readings, 1 of them left out by the user"_s))
+    EXPECT_TRUE(text("lblDetail").contains(u"3 readings, 1 of them left out"_s))
         << qPrintable(text("lblDetail"));
     const int middle = table().visualRect(table().model()->index(0, 0)).height() / 2;
     for (int column = 0; column < ReadingTableModel::comment; ++column) {
