@@ -51,7 +51,7 @@ struct MeasuringWeek {
     int daysUsed = 0; ///< measuring days that count
     int daysLeftOut = 0;
     int readingsLeftOut = 0; ///< those of the days left out
-    int excluded = 0;        ///< readings of the week that the user left out; without a week, of its days
+    int excluded = 0;        ///< readings of the week that are left out; without a week, of its days
     int excludedLater = 0;   ///< where no end was told: those of later days, with which it would end
     int unmeasured = 0;      ///< readings of the week, or later where no end was told, without pressures
     int ofOtherZone = 0; ///< readings of the week that were stored in another time zone than the computer's

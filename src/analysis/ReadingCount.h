@@ -16,7 +16,7 @@ struct ReadingCount {
     int fromNoon = 0;    ///< where only those before noon are shown
     int undated = 0;     ///< the monitor's clock was not set, and such readings are not wanted or not drawn
     int withoutDate = 0; ///< no date at all, which the view never counts
-    int excluded = 0;    ///< left out by the user
+    int excluded = 0;    ///< left out
     int unmeasured = 0;  ///< without pressures, where means are taken
     int listedExcluded = 0; ///< of those counted: a list has them all the same
 

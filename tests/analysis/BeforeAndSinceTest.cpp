@@ -59,7 +59,7 @@ TEST(BeforeAndSince, IsOf14DaysAndUpTo28UntilAnotherCommentBegins) {
         sample.readings[index].isOfOtherZone = true;
     const auto moved = calcBeforeAndSince(DayMeans(sample.readings), sample.comments, *sample.comments[1]);
     EXPECT_EQ(std::pair(moved.before.ofOtherZone, moved.since.ofOtherZone), std::pair(1, 2));
-    EXPECT_TRUE(describe(moved).endsWith(u"both sides; 1 left out by the user; 1 without pressures not "
+    EXPECT_TRUE(describe(moved).endsWith(u"both sides; 1 left out; 1 without pressures not "
                                          u"counted; 3 stored in another time zone; "
                                          "times are those of this computer"_s))
         << qPrintable(describe(moved));
