@@ -847,7 +847,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="viewTabs"><translation>Ansichten</translation></message>
     <message id="viewWeek"><translation>Mess&amp;woche</translation></message>
     <message id="viewWeekHint"><translation>Die sieben Tage der Messwoche, für die der Mittelwert berechnet wird.</translation></message>
-    <message id="weekBelow"><translation>Unter %1</translation></message>
+    <message id="weekBelow"><translation>Unter %1 (genauer: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 an %n Tag</numerusform><numerusform>%1 an %n Tagen</numerusform></translation></message>
     <message id="weekEnd"><translation>Letzter Tag der Messwoche</translation></message>
     <message id="weekEvenings"><translation>Abends %1</translation></message>
@@ -861,7 +861,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n Messung wurde in einer anderen Zeitzone gespeichert; ihre Zeit ist die dieses Computers</numerusform><numerusform>%n Messungen wurden in einer anderen Zeitzone gespeichert; die Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="weekPanel"><translation>Messwoche</translation></message>
     <message id="weekPulse"><translation>Puls %1</translation></message>
-    <message id="weekReached"><translation>%1 oder darüber</translation></message>
+    <message id="weekReached"><translation>%1 oder darüber (genauer: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n Messung</numerusform><numerusform>%n Messungen</numerusform></translation></message>
     <message id="weekRule"><translation>Regel für den Mittelwert</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

@@ -847,7 +847,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewTabs"><translation>Views</translation></message>
     <message id="viewWeek"><translation>Measuring wee&amp;k</translation></message>
     <message id="viewWeekHint"><translation>The seven days that are averaged as the measuring week.</translation></message>
-    <message id="weekBelow"><translation>Below %1</translation></message>
+    <message id="weekBelow"><translation>Below %1 (to a tenth: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
@@ -861,7 +861,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n reading was stored in another time zone; its time is that of this computer</numerusform><numerusform>%n readings were stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="weekPanel"><translation>Measuring week</translation></message>
     <message id="weekPulse"><translation>pulse %1</translation></message>
-    <message id="weekReached"><translation>At or above %1</translation></message>
+    <message id="weekReached"><translation>At or above %1 (to a tenth: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="weekRule"><translation>Rule of the average</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

@@ -847,7 +847,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="viewTabs"><translation>Viste</translation></message>
     <message id="viewWeek"><translation>&amp;Settimana di misura</translation></message>
     <message id="viewWeekHint"><translation>I sette giorni di cui si calcola la media come settimana di misura.</translation></message>
-    <message id="weekBelow"><translation>Sotto la soglia %1</translation></message>
+    <message id="weekBelow"><translation>Sotto la soglia %1 (al decimo: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 in %n giorno</numerusform><numerusform>%1 in %n giorni</numerusform></translation></message>
     <message id="weekEnd"><translation>Ultimo giorno della settimana di misura</translation></message>
     <message id="weekEvenings"><translation>Sera %1</translation></message>
@@ -861,7 +861,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n misurazione è stata salvata in un altro fuso orario; l’orario è quello di questo computer</numerusform><numerusform>%n misurazioni sono state salvate in un altro fuso orario; gli orari sono quelli di questo computer</numerusform></translation></message>
     <message id="weekPanel"><translation>Settimana di misura</translation></message>
     <message id="weekPulse"><translation>polso %1</translation></message>
-    <message id="weekReached"><translation>Soglia %1 raggiunta</translation></message>
+    <message id="weekReached"><translation>Soglia %1 raggiunta (al decimo: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n misurazione</numerusform><numerusform>%n misurazioni</numerusform></translation></message>
     <message id="weekRule"><translation>Regola della media</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

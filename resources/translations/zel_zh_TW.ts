@@ -847,7 +847,7 @@ mmHg</translation></message>
     <message id="viewTabs"><translation>檢視</translation></message>
     <message id="viewWeek"><translation>量測週(&amp;K)</translation></message>
     <message id="viewWeekHint"><translation>用於計算量測週平均的七天。</translation></message>
-    <message id="weekBelow"><translation>低於 %1</translation></message>
+    <message id="weekBelow"><translation>低於 %1（至小數一位：%2）</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%n 天共 %1</numerusform></translation></message>
     <message id="weekEnd"><translation>量測週的最後一天</translation></message>
     <message id="weekEvenings"><translation>晚上 %1</translation></message>
@@ -861,7 +861,7 @@ mmHg</translation></message>
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n 筆量測儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="weekPanel"><translation>量測週</translation></message>
     <message id="weekPulse"><translation>脈搏 %1</translation></message>
-    <message id="weekReached"><translation>達到或高於 %1</translation></message>
+    <message id="weekReached"><translation>達到或高於 %1（至小數一位：%2）</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n 筆量測</numerusform></translation></message>
     <message id="weekRule"><translation>平均的計算準則</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

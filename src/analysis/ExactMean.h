@@ -27,6 +27,8 @@ public:
     /// The others need a value at least.
     [[nodiscard]] std::uint64_t rounded() const;
     [[nodiscard]] QString withTenths() const; ///< "134.5"
+    /// Likewise, but "<135.0" for a mean below \p limit that rounding alone would show as the limit.
+    [[nodiscard]] QString withTenthsBeside(std::uint32_t limit) const;
 
 private:
     std::uint64_t sum = 0;

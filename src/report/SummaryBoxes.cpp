@@ -62,18 +62,12 @@ BesideLines weekHalves(const MeasuringWeek& week) {
     return lines;
 }
 
-/// A mean below the limit is not shown as the limit only because it was rounded.
-QString tenthsText(const ExactMean& mean, std::uint32_t limit) {
-    const QString tenths = mean.withTenths();
-    return !mean.isAtLeast(limit) && tenths == u"%1.0"_s.arg(limit) ? u'<' + tenths : tenths;
-}
-
 /// By the means before they are rounded.
 QString thresholdText(const MeasuringWeek& week) {
     const auto [sys, dia] = thresholdOf(week);
     const QString words = week.reachesThreshold() ? qtTrId("summaryReached") : qtTrId("summaryBelow");
-    return words.arg(u"%1/%2"_s.arg(sys).arg(dia), tenthsText(week.all.sys, sys),
-                     tenthsText(week.all.dia, dia));
+    return words.arg(u"%1/%2"_s.arg(sys).arg(dia), week.all.sys.withTenthsBeside(sys),
+                     week.all.dia.withTenthsBeside(dia));
 }
 
 QString weekCounts(const MeasuringWeek& week) {
