@@ -807,6 +807,7 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="TimeSyncMsg"><translation>Uhr des Messgeräts stellen: %1</translation></message>
     <message id="trendApart"><translation>Morgens und abends getrennt</translation></message>
     <message id="trendApartHint"><translation>Messungen vor 12 Uhr und ab 12 Uhr als eigene Linien zeichnen.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Angezeigt wird nur eine Hälfte des Tages; da gibt es nichts zu trennen. Drücken Sie zuerst „Ganzer Tag“; dann können Sie diese Auswahl treffen.</translation></message>
     <message id="trendDays"><translation>%1 bis %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 bis %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, ab 12 Uhr</translation></message>

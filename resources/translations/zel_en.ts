@@ -807,6 +807,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
     <message id="trendApart"><translation>Mornings and evenings apart</translation></message>
     <message id="trendApartHint"><translation>Draw the readings before noon and those from noon on as lines of their own.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Only one half of the day is shown, so there is nothing to draw apart. Press Whole day first; then this can be chosen.</translation></message>
     <message id="trendDays"><translation>%1 to %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 to %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, from noon on</translation></message>

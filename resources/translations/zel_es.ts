@@ -807,6 +807,7 @@ mmHg</translation></message>
     <message id="TimeSyncMsg"><translation>Ajuste del reloj del tensiómetro: %1</translation></message>
     <message id="trendApart"><translation>Mañanas y tardes por separado</translation></message>
     <message id="trendApartHint"><translation>Dibujar con líneas propias las mediciones de antes del mediodía y las realizadas a partir del mediodía.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Solo se muestra una mitad del día, de modo que no hay nada que separar. Pulse antes «Día entero»; entonces se podrá elegir esto.</translation></message>
     <message id="trendDays"><translation>%1 a %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 a %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, desde el mediodía</translation></message>

@@ -807,6 +807,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="TimeSyncMsg"><translation>Réglage de l’horloge du tensiomètre : %1</translation></message>
     <message id="trendApart"><translation>Matins et soirs séparés</translation></message>
     <message id="trendApartHint"><translation>Tracer séparément les mesures avant midi et celles à partir de midi.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Seule une moitié de la journée est affichée : il n’y a rien à séparer. Choisissez d’abord « Journée entière » ; cette case pourra alors être cochée.</translation></message>
     <message id="trendDays"><translation>du %1 au %2</translation></message>
     <message id="trendFigures"><translation>%1 (de %2 à %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, à partir de midi</translation></message>

@@ -807,6 +807,7 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="TimeSyncMsg"><translation>Regolazione dell’orologio del misuratore: %1</translation></message>
     <message id="trendApart"><translation>Mattina e sera separate</translation></message>
     <message id="trendApartHint"><translation>Disegna le misurazioni prima delle 12 e quelle dalle 12 in poi come linee distinte.</translation></message>
+    <message id="trendApartNeedsDay"><translation>È mostrata solo una metà del giorno, quindi non c’è nulla da separare. Premere prima Giorno intero; poi questa casella si può attivare.</translation></message>
     <message id="trendDays"><translation>dal %1 al %2</translation></message>
     <message id="trendFigures"><translation>%1 (da %2 a %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, dalle 12 in poi</translation></message>

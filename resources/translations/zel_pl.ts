@@ -807,6 +807,7 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="TimeSyncMsg"><translation>Ustawianie zegara ciśnieniomierza: %1</translation></message>
     <message id="trendApart"><translation>Osobno poranki i wieczory</translation></message>
     <message id="trendApartHint"><translation>Rysuje pomiary przed południem i od południa jako osobne linie.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Widoczna jest tylko połowa dnia, więc nie ma czego rozdzielać. Proszę najpierw nacisnąć „Cały dzień”; wtedy można to zaznaczyć.</translation></message>
     <message id="trendDays"><translation>od %1 do %2</translation></message>
     <message id="trendFigures"><translation>%1 (od %2 do %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, od południa</translation></message>

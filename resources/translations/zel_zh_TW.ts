@@ -807,6 +807,7 @@ mmHg</translation></message>
     <message id="TimeSyncMsg"><translation>設定血壓計的時鐘：%1</translation></message>
     <message id="trendApart"><translation>早晚分開</translation></message>
     <message id="trendApartHint"><translation>將中午前與中午以後的量測畫成不同的線。</translation></message>
+    <message id="trendApartNeedsDay"><translation>目前只顯示半天，無可分開。請先按「全天」，才能選擇此項。</translation></message>
     <message id="trendDays"><translation>%1 至 %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 至 %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1，中午以後</translation></message>
