@@ -813,6 +813,7 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="TimeSyncMsg"><translation>Uhr des Messgeräts stellen: %1</translation></message>
     <message id="trendApart"><translation>Morgens und abends getrennt</translation></message>
     <message id="trendApartHint"><translation>Messungen vor 12 Uhr und ab 12 Uhr als eigene Linien zeichnen.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Angezeigt wird nur eine Hälfte des Tages; da gibt es nichts zu trennen. Drücken Sie zuerst „Ganzer Tag“; dann können Sie diese Auswahl treffen.</translation></message>
     <message id="trendDays"><translation>%1 bis %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 bis %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, ab 12 Uhr</translation></message>
@@ -853,7 +854,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="viewTabs"><translation>Ansichten</translation></message>
     <message id="viewWeek"><translation>Mess&amp;woche</translation></message>
     <message id="viewWeekHint"><translation>Die sieben Tage der Messwoche, für die der Mittelwert berechnet wird.</translation></message>
-    <message id="weekBelow"><translation>Unter %1</translation></message>
+    <message id="weekBelow"><translation>Unter %1 (genauer: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 an %n Tag</numerusform><numerusform>%1 an %n Tagen</numerusform></translation></message>
     <message id="weekEnd"><translation>Letzter Tag der Messwoche</translation></message>
     <message id="weekEvenings"><translation>Abends %1</translation></message>
@@ -868,7 +869,7 @@ Dieser Schritt entfällt deshalb von jetzt an; die anderen sind nicht betroffen.
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n Messung wurde in einer anderen Zeitzone gespeichert; ihre Zeit ist die dieses Computers</numerusform><numerusform>%n Messungen wurden in einer anderen Zeitzone gespeichert; die Zeiten sind die dieses Computers</numerusform></translation></message>
     <message id="weekPanel"><translation>Messwoche</translation></message>
     <message id="weekPulse"><translation>Puls %1</translation></message>
-    <message id="weekReached"><translation>%1 oder darüber</translation></message>
+    <message id="weekReached"><translation>%1 oder darüber (genauer: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n Messung</numerusform><numerusform>%n Messungen</numerusform></translation></message>
     <message id="weekRule"><translation>Regel für den Mittelwert</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

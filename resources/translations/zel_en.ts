@@ -813,6 +813,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
     <message id="trendApart"><translation>Mornings and evenings apart</translation></message>
     <message id="trendApartHint"><translation>Draw the readings before noon and those from noon on as lines of their own.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Only one half of the day is shown, so there is nothing to draw apart. Press Whole day first; then this can be chosen.</translation></message>
     <message id="trendDays"><translation>%1 to %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 to %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, from noon on</translation></message>
@@ -853,7 +854,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="viewTabs"><translation>Views</translation></message>
     <message id="viewWeek"><translation>Measuring wee&amp;k</translation></message>
     <message id="viewWeekHint"><translation>The seven days that are averaged as the measuring week.</translation></message>
-    <message id="weekBelow"><translation>Below %1</translation></message>
+    <message id="weekBelow"><translation>Below %1 (to a tenth: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 on %n day</numerusform><numerusform>%1 on %n days</numerusform></translation></message>
     <message id="weekEnd"><translation>Last day of the measuring week</translation></message>
     <message id="weekEvenings"><translation>PM %1</translation></message>
@@ -868,7 +869,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n reading was stored in another time zone; its time is that of this computer</numerusform><numerusform>%n readings were stored in another time zone; times are those of this computer</numerusform></translation></message>
     <message id="weekPanel"><translation>Measuring week</translation></message>
     <message id="weekPulse"><translation>pulse %1</translation></message>
-    <message id="weekReached"><translation>At or above %1</translation></message>
+    <message id="weekReached"><translation>At or above %1 (to a tenth: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n reading</numerusform><numerusform>%n readings</numerusform></translation></message>
     <message id="weekRule"><translation>Rule of the average</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

@@ -813,6 +813,7 @@ mmHg</translation></message>
     <message id="TimeSyncMsg"><translation>Ajuste del reloj del tensiómetro: %1</translation></message>
     <message id="trendApart"><translation>Mañanas y tardes por separado</translation></message>
     <message id="trendApartHint"><translation>Dibujar con líneas propias las mediciones de antes del mediodía y las realizadas a partir del mediodía.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Solo se muestra una mitad del día, de modo que no hay nada que separar. Pulse antes «Día entero»; entonces se podrá elegir esto.</translation></message>
     <message id="trendDays"><translation>%1 a %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 a %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, desde el mediodía</translation></message>
@@ -853,7 +854,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="viewTabs"><translation>Vistas</translation></message>
     <message id="viewWeek"><translation>Semana de medi&amp;ción</translation></message>
     <message id="viewWeekHint"><translation>Los siete días con los que se calcula la media de la semana de medición.</translation></message>
-    <message id="weekBelow"><translation>Inferior a %1</translation></message>
+    <message id="weekBelow"><translation>Inferior a %1 (con un decimal: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 en %n día</numerusform><numerusform>%1 en %n días</numerusform></translation></message>
     <message id="weekEnd"><translation>Último día de la semana de medición</translation></message>
     <message id="weekEvenings"><translation>Tarde %1</translation></message>
@@ -868,7 +869,7 @@ Por eso este cambio se omite a partir de ahora; los demás no se ven afectados.<
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n medición se guardó en otra zona horaria; su hora es la de este equipo</numerusform><numerusform>%n mediciones se guardaron en otra zona horaria; las horas son las de este equipo</numerusform></translation></message>
     <message id="weekPanel"><translation>Semana de medición</translation></message>
     <message id="weekPulse"><translation>pulso %1</translation></message>
-    <message id="weekReached"><translation>Igual o superior a %1</translation></message>
+    <message id="weekReached"><translation>Igual o superior a %1 (con un decimal: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n medición</numerusform><numerusform>%n mediciones</numerusform></translation></message>
     <message id="weekRule"><translation>Regla de la media</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

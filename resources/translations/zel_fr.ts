@@ -813,6 +813,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="TimeSyncMsg"><translation>Réglage de l’horloge du tensiomètre : %1</translation></message>
     <message id="trendApart"><translation>Matins et soirs séparés</translation></message>
     <message id="trendApartHint"><translation>Tracer séparément les mesures avant midi et celles à partir de midi.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Seule une moitié de la journée est affichée : il n’y a rien à séparer. Choisissez d’abord « Journée entière » ; cette case pourra alors être cochée.</translation></message>
     <message id="trendDays"><translation>du %1 au %2</translation></message>
     <message id="trendFigures"><translation>%1 (de %2 à %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, à partir de midi</translation></message>
@@ -853,7 +854,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="viewTabs"><translation>Vues</translation></message>
     <message id="viewWeek"><translation>&amp;Semaine de mesure</translation></message>
     <message id="viewWeekHint"><translation>Les sept jours dont la moyenne est celle de la semaine de mesure.</translation></message>
-    <message id="weekBelow"><translation>Sous le seuil de %1</translation></message>
+    <message id="weekBelow"><translation>Sous le seuil de %1 (au dixième : %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 sur %n jour</numerusform><numerusform>%1 sur %n jours</numerusform></translation></message>
     <message id="weekEnd"><translation>Dernier jour de la semaine de mesure</translation></message>
     <message id="weekEvenings"><translation>Soir %1</translation></message>
@@ -868,7 +869,7 @@ Cette action est donc désormais ignorée ; les autres ne sont pas concernées
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n mesure a été enregistrée dans un autre fuseau horaire ; son heure est celle de cet ordinateur</numerusform><numerusform>%n mesures ont été enregistrées dans un autre fuseau horaire ; les heures sont celles de cet ordinateur</numerusform></translation></message>
     <message id="weekPanel"><translation>Semaine de mesure</translation></message>
     <message id="weekPulse"><translation>pouls %1</translation></message>
-    <message id="weekReached"><translation>Seuil de %1 atteint</translation></message>
+    <message id="weekReached"><translation>Seuil de %1 atteint (au dixième : %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n mesure</numerusform><numerusform>%n mesures</numerusform></translation></message>
     <message id="weekRule"><translation>Règle de la moyenne</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

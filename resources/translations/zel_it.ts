@@ -813,6 +813,7 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="TimeSyncMsg"><translation>Regolazione dell’orologio del misuratore: %1</translation></message>
     <message id="trendApart"><translation>Mattina e sera separate</translation></message>
     <message id="trendApartHint"><translation>Disegna le misurazioni prima delle 12 e quelle dalle 12 in poi come linee distinte.</translation></message>
+    <message id="trendApartNeedsDay"><translation>È mostrata solo una metà del giorno, quindi non c’è nulla da separare. Premere prima Giorno intero; poi questa casella si può attivare.</translation></message>
     <message id="trendDays"><translation>dal %1 al %2</translation></message>
     <message id="trendFigures"><translation>%1 (da %2 a %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, dalle 12 in poi</translation></message>
@@ -853,7 +854,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="viewTabs"><translation>Viste</translation></message>
     <message id="viewWeek"><translation>&amp;Settimana di misura</translation></message>
     <message id="viewWeekHint"><translation>I sette giorni di cui si calcola la media come settimana di misura.</translation></message>
-    <message id="weekBelow"><translation>Sotto la soglia %1</translation></message>
+    <message id="weekBelow"><translation>Sotto la soglia %1 (al decimo: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 in %n giorno</numerusform><numerusform>%1 in %n giorni</numerusform></translation></message>
     <message id="weekEnd"><translation>Ultimo giorno della settimana di misura</translation></message>
     <message id="weekEvenings"><translation>Sera %1</translation></message>
@@ -868,7 +869,7 @@ Questa operazione viene quindi tralasciata d’ora in poi; le altre non ne risen
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n misurazione è stata salvata in un altro fuso orario; l’orario è quello di questo computer</numerusform><numerusform>%n misurazioni sono state salvate in un altro fuso orario; gli orari sono quelli di questo computer</numerusform></translation></message>
     <message id="weekPanel"><translation>Settimana di misura</translation></message>
     <message id="weekPulse"><translation>polso %1</translation></message>
-    <message id="weekReached"><translation>Soglia %1 raggiunta</translation></message>
+    <message id="weekReached"><translation>Soglia %1 raggiunta (al decimo: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n misurazione</numerusform><numerusform>%n misurazioni</numerusform></translation></message>
     <message id="weekRule"><translation>Regola della media</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

@@ -813,6 +813,7 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="TimeSyncMsg"><translation>Ustawianie zegara ciśnieniomierza: %1</translation></message>
     <message id="trendApart"><translation>Osobno poranki i wieczory</translation></message>
     <message id="trendApartHint"><translation>Rysuje pomiary przed południem i od południa jako osobne linie.</translation></message>
+    <message id="trendApartNeedsDay"><translation>Widoczna jest tylko połowa dnia, więc nie ma czego rozdzielać. Proszę najpierw nacisnąć „Cały dzień”; wtedy można to zaznaczyć.</translation></message>
     <message id="trendDays"><translation>od %1 do %2</translation></message>
     <message id="trendFigures"><translation>%1 (od %2 do %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1, od południa</translation></message>
@@ -853,7 +854,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="viewTabs"><translation>Widoki</translation></message>
     <message id="viewWeek"><translation>&amp;Tydzień pomiarowy</translation></message>
     <message id="viewWeekHint"><translation>Siedem dni, z których liczy się średnią tygodnia pomiarowego.</translation></message>
-    <message id="weekBelow"><translation>Poniżej %1</translation></message>
+    <message id="weekBelow"><translation>Poniżej %1 (dokładniej: %2)</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%1 z %n dnia</numerusform><numerusform>%1 z %n dni</numerusform><numerusform>%1 z %n dni</numerusform></translation></message>
     <message id="weekEnd"><translation>Ostatni dzień tygodnia pomiarowego</translation></message>
     <message id="weekEvenings"><translation>Wieczór %1</translation></message>
@@ -868,7 +869,7 @@ Dlatego tej czynności nie można już cofnąć ani ponowić; pozostałych to ni
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n pomiar zapisano w innej strefie czasowej; jego godzina jest według tego komputera</numerusform><numerusform>%n pomiary zapisano w innej strefie czasowej; godziny są według tego komputera</numerusform><numerusform>%n pomiarów zapisano w innej strefie czasowej; godziny są według tego komputera</numerusform></translation></message>
     <message id="weekPanel"><translation>Tydzień pomiarowy</translation></message>
     <message id="weekPulse"><translation>tętno %1</translation></message>
-    <message id="weekReached"><translation>Co najmniej %1</translation></message>
+    <message id="weekReached"><translation>Co najmniej %1 (dokładniej: %2)</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n pomiar</numerusform><numerusform>%n pomiary</numerusform><numerusform>%n pomiarów</numerusform></translation></message>
     <message id="weekRule"><translation>Reguła liczenia średniej</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

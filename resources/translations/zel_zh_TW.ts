@@ -813,6 +813,7 @@ mmHg</translation></message>
     <message id="TimeSyncMsg"><translation>設定血壓計的時鐘：%1</translation></message>
     <message id="trendApart"><translation>早晚分開</translation></message>
     <message id="trendApartHint"><translation>將中午前與中午以後的量測畫成不同的線。</translation></message>
+    <message id="trendApartNeedsDay"><translation>目前只顯示半天，無可分開。請先按「全天」，才能選擇此項。</translation></message>
     <message id="trendDays"><translation>%1 至 %2</translation></message>
     <message id="trendFigures"><translation>%1 (%2 至 %3)</translation></message>
     <message id="trendInfoEvening"><translation>%1，中午以後</translation></message>
@@ -853,7 +854,7 @@ mmHg</translation></message>
     <message id="viewTabs"><translation>檢視</translation></message>
     <message id="viewWeek"><translation>量測週(&amp;K)</translation></message>
     <message id="viewWeekHint"><translation>用於計算量測週平均的七天。</translation></message>
-    <message id="weekBelow"><translation>低於 %1</translation></message>
+    <message id="weekBelow"><translation>低於 %1（至小數一位：%2）</translation></message>
     <message id="weekDays" numerus="yes"><translation><numerusform>%n 天共 %1</numerusform></translation></message>
     <message id="weekEnd"><translation>量測週的最後一天</translation></message>
     <message id="weekEvenings"><translation>晚上 %1</translation></message>
@@ -868,7 +869,7 @@ mmHg</translation></message>
     <message id="weekOtherZone" numerus="yes"><translation><numerusform>%n 筆量測儲存於其他時區；時間以這台電腦為準</numerusform></translation></message>
     <message id="weekPanel"><translation>量測週</translation></message>
     <message id="weekPulse"><translation>脈搏 %1</translation></message>
-    <message id="weekReached"><translation>達到或高於 %1</translation></message>
+    <message id="weekReached"><translation>達到或高於 %1（至小數一位：%2）</translation></message>
     <message id="weekReadings" numerus="yes"><translation><numerusform>%n 筆量測</numerusform></translation></message>
     <message id="weekRule"><translation>平均的計算準則</translation></message>
     <message id="weekRuleAha"><translation>AHA</translation></message>

@@ -64,14 +64,31 @@ void DisplayPeriod::leaveChoice() {
     includeUndated = false;
 }
 
+/// A reading with a wrong date that the user left out must not have the days before it show nothing.
+Period DisplayPeriod::upToLast(const std::function<Period(Instant)>& daysUpTo) const {
+    const Period days = daysUpTo(data.end);
+    const Date counted = firstInstant(lastMeasured);
+    return !counted || days.contains(*counted) ? days : daysUpTo(*counted);
+}
+
+Period DisplayPeriod::lastDaysOfData(int days) const {
+    return upToLast([days](Instant last) { return lastDays(last, days); });
+}
+
+Period DisplayPeriod::usualDays() const {
+    return upToLast([this](Instant last) {
+        return wholeDays({getDefaultBeginDisplayDate(data.begin, last), last});
+    });
+}
+
 /// Those shown where they are picked.
 Period DisplayPeriod::daysOf(PeriodChoice wanted) const {
     if (wanted == PeriodChoice::picked) return display;
     if (!isAnyDated) return wholeDays(data);
     switch (wanted) {
-    case PeriodChoice::last7: return lastDays(data.end, 7);
-    case PeriodChoice::last30: return lastDays(data.end, 30);
-    case PeriodChoice::last90: return lastDays(data.end, 90);
+    case PeriodChoice::last7: return lastDaysOfData(7);
+    case PeriodChoice::last30: return lastDaysOfData(30);
+    case PeriodChoice::last90: return lastDaysOfData(90);
     case PeriodChoice::measuringWeek:
         return lastDays(firstInstant(weekEnd.value_or(lastMeasured)).value_or(data.end), daysOfMeasuringWeek);
     case PeriodChoice::all:
@@ -147,21 +164,21 @@ void DisplayPeriod::take(const ReadingList& readings) {
 
 void DisplayPeriod::setCurrentReadingTimePeriod(const ReadingList& readings) {
     take(readings);
-    setTimePeriod(getDefaultBeginDisplayDate(data.begin, data.end), data.end);
+    const Period usual = usualDays();
+    setTimePeriod(usual.begin, usual.end);
 }
 
 void DisplayPeriod::refreshDataPeriod(const ReadingList& readings) {
     const auto state = [this] { return std::tuple(data, isAnyDated, lastMeasured); };
     const auto before = state();
-    const Instant knownEnd = data.end;
-    const bool reachesEnd = isAnyDated && display.end == DateToDayBoundary(knownEnd, false);
+    const bool reachesLast = isAnyDated && display.end == wholeDays(data).end;
+    const bool reachesUsual = isAnyDated && display.end == usualDays().end;
     take(readings);
     if (state() == before) return;
     const bool wasNone = display == wholeDays({firstDayOfThisYear, firstDayOfThisYear});
-    if (choice == PeriodChoice::picked && wasNone)
-        display = wholeDays({getDefaultBeginDisplayDate(data.begin, data.end), data.end});
-    if (choice == PeriodChoice::picked && reachesEnd && data.end > knownEnd)
-        display.end = DateToDayBoundary(data.end, false);
+    if (choice == PeriodChoice::picked && wasNone) display = usualDays();
+    if (choice == PeriodChoice::picked && (reachesLast || reachesUsual))
+        display.end = std::max(display.end, (reachesLast ? wholeDays(data) : usualDays()).end);
     if (choice != PeriodChoice::picked) display = daysOf(choice);
     emit changed(); // who shows how far the data go has to know, too
 }

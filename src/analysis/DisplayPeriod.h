@@ -13,7 +13,7 @@ namespace zel {
 /// Which days are shown. All but picked follow the readings.
 enum class PeriodChoice : std::int32_t {
     picked, ///< with the date pickers, or moved on the chart, or the usual ones of a newly chosen patient
-    last7,  ///< days, up to the last one with a reading
+    last7,  ///< days, as lastDaysOfData() has them
     last30, ///< likewise
     last90, ///< likewise
     measuringWeek, ///< the one that is averaged
@@ -38,6 +38,9 @@ public:
     /// reading the first day of this year.
     [[nodiscard]] const Period& getDataPeriod() const { return data; }
 
+    /// So many days up to the last one with a reading, or up to the last one with a reading that counts where
+    /// those hold none that counts. One day at least.
+    [[nodiscard]] Period lastDaysOfData(int days) const;
     [[nodiscard]] PeriodChoice getChoice() const { return choice; }
     /// Shows the days of the choice; without a dated reading those of the data period. Picked leaves the
     /// days.
@@ -59,11 +62,13 @@ public:
     [[nodiscard]] bool isChangeUser() const { return changedUser; }
     /// True also ends the choices of days and of a half of the day.
     void setChangeUser(bool changed);
-    /// The patient's data period, and the default display period: the last three months of it.
+    /// The patient's data period, and the default display period: the last three months of it that hold a
+    /// reading that counts, or the last three where none counts.
     void setCurrentReadingTimePeriod(const ReadingList& readings);
     /// The same patient's readings were read anew: the data period follows them, and so does the display
     /// period where the days are not picked or none were there before. Picked days stay, but those that reach
-    /// to the last reading go on doing so: what was just typed in is not out of view.
+    /// to the last reading, or to the end of the default period, go on doing so: what was just typed in is
+    /// not out of view.
     void refreshDataPeriod(const ReadingList& readings);
     /// A newly chosen patient whose readings span fewer than 91 days opens with everything in view.
     void adjustViewAll();
@@ -93,6 +98,9 @@ private:
     /// Announces what \p assign changes, once and only if it is a change.
     void change(const std::function<void()>& assign);
     void leaveChoice();
+    /// \p daysUpTo gives whole days that end with that of an instant.
+    [[nodiscard]] Period upToLast(const std::function<Period(Instant)>& daysUpTo) const;
+    [[nodiscard]] Period usualDays() const;
     [[nodiscard]] Period daysOf(PeriodChoice wanted) const;
     void take(const ReadingList& readings);
 

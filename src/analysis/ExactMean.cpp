@@ -2,6 +2,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::uint64_t halfUp(std::uint64_t numerator, std::uint64_t denominator) {
@@ -17,6 +19,18 @@ std::uint64_t ExactMean::rounded() const { return halfUp(sum, counted); }
 QString ExactMean::withTenths() const {
     const std::uint64_t tenths = halfUp(10 * sum, counted);
     return QString::number(tenths / 10) + u'.' + QString::number(tenths % 10);
+}
+
+QString ExactMean::beside(std::uint32_t limit, const QString& shown, const QString& shownLimit) const {
+    return !isAtLeast(limit) && shown == shownLimit ? u'<' + shown : shown;
+}
+
+QString ExactMean::roundedBeside(std::uint32_t limit) const {
+    return beside(limit, QString::number(rounded()), QString::number(limit));
+}
+
+QString ExactMean::withTenthsBeside(std::uint32_t limit) const {
+    return beside(limit, withTenths(), QString::number(limit) + ".0"_L1);
 }
 
 } // namespace zel

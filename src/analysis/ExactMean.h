@@ -27,8 +27,14 @@ public:
     /// The others need a value at least.
     [[nodiscard]] std::uint64_t rounded() const;
     [[nodiscard]] QString withTenths() const; ///< "134.5"
+    // Likewise, but "<135" and "<135.0" for a mean below the limit that rounding alone would show as the
+    // limit, which has a meaning beside it; 0 for none.
+    [[nodiscard]] QString roundedBeside(std::uint32_t limit) const;
+    [[nodiscard]] QString withTenthsBeside(std::uint32_t limit) const;
 
 private:
+    [[nodiscard]] QString beside(std::uint32_t limit, const QString& shown, const QString& shownLimit) const;
+
     std::uint64_t sum = 0;
     std::uint64_t counted = 0;
 };

@@ -58,7 +58,7 @@ Period periodOf(const DayRange& days, const ReadingList& readings, const Clock& 
     DisplayPeriod period{std::chrono::floor<Instant::duration>(clock.now())};
     period.setCurrentReadingTimePeriod(readings);
     const Period data = period.getDataPeriod();
-    if (days.last) return lastDays(days.to.value_or(data.end), *days.last);
+    if (days.last) return days.to ? lastDays(*days.to, *days.last) : period.lastDaysOfData(*days.last);
     // An open end is a day that the data reach to, or the other end where they do not reach it.
     const Instant begin = days.from.value_or(std::min(data.begin, days.to.value_or(data.begin)));
     const Instant end = days.to.value_or(std::max(data.end, begin));

@@ -66,8 +66,8 @@ BesideLines weekHalves(const MeasuringWeek& week) {
 QString thresholdText(const MeasuringWeek& week) {
     const auto [sys, dia] = thresholdOf(week);
     const QString words = week.reachesThreshold() ? qtTrId("summaryReached") : qtTrId("summaryBelow");
-    return words.arg(u"%1/%2"_s.arg(sys).arg(dia), meanWithTenths(week.all.sys, sys),
-                     meanWithTenths(week.all.dia, dia));
+    return words.arg(u"%1/%2"_s.arg(sys).arg(dia), week.all.sys.withTenthsBeside(sys),
+                     week.all.dia.withTenthsBeside(dia));
 }
 
 QString weekCounts(const MeasuringWeek& week) {

@@ -53,7 +53,7 @@ std::array<Figure, 4> figuresOf(const Spread& spread, std::uint32_t limit) {
         return Figure{QString::number(value), limit > 0 && value >= limit};
     };
     const QString deviation = spread.deviationWithTenths();
-    return {Figure{meanWithTenths(spread.mean(), limit), isHigh(spread.mean(), limit)},
+    return {Figure{spread.mean().withTenthsBeside(limit), isHigh(spread.mean(), limit)},
             marked(spread.minimum()), marked(spread.maximum()),
             Figure{deviation.isEmpty() ? none : deviation}};
 }

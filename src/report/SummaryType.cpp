@@ -12,10 +12,6 @@ namespace {
 
 constexpr double aboveLine = 1, belowLine = 2;
 
-QString besideLimit(const QString& shown, const QString& limit, bool reachesLimit) {
-    return !reachesLimit && shown == limit ? u'<' + shown : shown;
-}
-
 } // namespace
 
 void summaryText(Picture& picture, const QString& text, Point at, double width,
@@ -51,18 +47,10 @@ bool isAnyHigh(const PressureMeans& means, const LimitPair& limits) {
     return isHigh(means.sys, limits.sys) || isHigh(means.dia, limits.dia);
 }
 
-QString meanText(const ExactMean& mean, std::uint32_t limit) {
-    return besideLimit(QString::number(mean.rounded()), QString::number(limit), mean.isAtLeast(limit));
-}
-
-QString meanWithTenths(const ExactMean& mean, std::uint32_t limit) {
-    return besideLimit(mean.withTenths(), u"%1.0"_s.arg(limit), mean.isAtLeast(limit));
-}
-
 QString pressureText(const PressureMeans& means, const LimitPair& limits) {
     if (means.count() == 0) return {};
     const auto text = [](const ExactMean& mean, std::uint32_t limit) {
-        const QString value = meanText(mean, limit);
+        const QString value = mean.roundedBeside(limit);
         return isHigh(mean, limit) ? value + highMark : value;
     };
     return text(means.sys, limits.sys) + u'/' + text(means.dia, limits.dia);

@@ -26,11 +26,7 @@ void summaryFigure(Picture& picture, const QString& text, Point at, double width
 
 [[nodiscard]] bool isHigh(const ExactMean& mean, std::uint32_t limit);
 [[nodiscard]] bool isAnyHigh(const PressureMeans& means, const LimitPair& limits);
-/// "134", or "134.2" with tenths. One that is below the limit and shown as the limit only because it was
-/// rounded is "<135", since it has no mark. Of a value at least; a limit of 0 is none.
-[[nodiscard]] QString meanText(const ExactMean& mean, std::uint32_t limit);
-[[nodiscard]] QString meanWithTenths(const ExactMean& mean, std::uint32_t limit);
-/// "138/90", each value as a meanText, with its mark where it is high; empty for none.
+/// "138/90", each value as ExactMean::roundedBeside() has it, with its mark where it is high; empty for none.
 [[nodiscard]] QString pressureText(const PressureMeans& means, const LimitPair& limits);
 /// In the format of the settings; "n.a." for none.
 [[nodiscard]] QString summaryDay(DayNumber day, const ReportSource& report);

@@ -54,11 +54,10 @@ StoreResult writeViewLimits(const QString& dataFile, const ViewLimits& limits) {
     const QString path = choicePath(dataFile);
     if (limitProblem(limits.own.sys, limits.own.dia))
         return tl::unexpected{StoreError{StoreErrorCode::invalidRecord, path, {}}};
-    const QJsonObject choice{
-        {u"highFrom"_s, choiceKeys.at(static_cast<std::size_t>(limits.choice))},
-        {u"ownSystolic"_s, static_cast<int>(limits.own.sys)},
-        {u"ownDiastolic"_s, static_cast<int>(limits.own.dia)},
-    };
+    QJsonObject choice = readChoiceFile(path).value_or(std::nullopt).value_or(QJsonObject());
+    choice[u"highFrom"_s] = choiceKeys.at(static_cast<std::size_t>(limits.choice));
+    choice[u"ownSystolic"_s] = static_cast<int>(limits.own.sys);
+    choice[u"ownDiastolic"_s] = static_cast<int>(limits.own.dia);
     return writeChoiceFile(path, choice);
 }
 

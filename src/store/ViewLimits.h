@@ -39,7 +39,7 @@ struct ViewLimits {
 /// The choice made for this data file, the usual one where none was made. It is a file beside the data file,
 /// which is read whole or not at all.
 [[nodiscard]] tl::expected<ViewLimits, StoreError> readViewLimits(const QString& dataFile);
-/// Own limits that limitProblem() refuses are not written: invalidRecord.
+/// What else the file holds stays. Own limits that limitProblem() refuses are not written: invalidRecord.
 [[nodiscard]] StoreResult writeViewLimits(const QString& dataFile, const ViewLimits& limits);
 /// That the choice could not be read, and what holds instead.
 [[nodiscard]] QString describeUnreadLimits(const StoreError& error);

@@ -166,11 +166,29 @@ TEST_F(DisplayPeriodTest, ReadingsThatCameMeanwhileMoveAViewOfAllOfNoneOrUpToThe
     EXPECT_EQ(shown(), "2026-01-01 00:00:00 2026-01-01 23:59:59");
 }
 
+TEST_F(DisplayPeriodTest, AReadingLeftOutStaysInViewButNoPatientOpensWithItAlone) {
+    ReadingList readings = readingsAt({"2019-03-01 10:00", "2027-01-05 18:00"});
+    select(readings);
+    EXPECT_EQ(shown(), "2026-10-05 00:00:00 2027-01-05 23:59:59");
+    readings.back().exclusion = QStringLiteral("wrong date");
+    period.refreshDataPeriod(readings);
+    EXPECT_EQ(shown(), "2026-10-05 00:00:00 2027-01-05 23:59:59");
+    select(readings);
+    EXPECT_EQ(shown(), "2019-03-01 00:00:00 2019-03-01 23:59:59");
+    EXPECT_EQ(period.getChoice(), PeriodChoice::picked);
+    readings.push_back(readingAt("2019-03-04 07:00"));
+    period.refreshDataPeriod(readings);
+    EXPECT_EQ(shown(), "2019-03-01 00:00:00 2019-03-04 23:59:59") << "what came is in view";
+}
+
 TEST_F(DisplayPeriodTest, DaysAreChosenFromTheLastReadingBack) {
     using enum PeriodChoice;
     ReadingList readings = readingsAt({"2000-01-01 08:00", "2019-03-01 23:59", "2019-04-02 00:00"});
     readings.back().exclusion = QStringLiteral("wrong cuff");
     readings.push_back(readingAt("2019-03-30 07:00"));
+    ReadingList wrong = readings; // and one with a wrong date, left out as well
+    wrong.push_back(readingAt("2020-07-01 09:00"));
+    wrong.back().exclusion = QStringLiteral("wrong date");
     const char* const year = "2026-01-01 00:00:00 2026-01-01 23:59:59"; // as without any choice
     struct Case {
         ReadingList readings;
@@ -186,6 +204,12 @@ TEST_F(DisplayPeriodTest, DaysAreChosenFromTheLastReadingBack) {
         {readings, {}, measuringWeek, "2019-03-24 00:00:00 2019-03-30 23:59:59"},    // the last that counts
         {readings, 17957, measuringWeek, "2019-02-24 00:00:00 2019-03-02 23:59:59"}, // a Saturday
         {readings, {}, picked, "2019-03-01 00:00:00 2019-04-02 23:59:59"},
+        {wrong, {}, last7, "2019-03-24 00:00:00 2019-03-30 23:59:59"},
+        {wrong, {}, last30, "2019-03-01 00:00:00 2019-03-30 23:59:59"},
+        {wrong, {}, last90, "2018-12-31 00:00:00 2019-03-30 23:59:59"},
+        {wrong, {}, picked, "2019-03-01 00:00:00 2019-03-30 23:59:59"}, // the usual ones
+        {wrong, {}, all, "2019-03-01 00:00:00 2020-07-01 23:59:59"},
+        {{wrong.back()}, {}, last7, "2020-06-25 00:00:00 2020-07-01 23:59:59"}, // none counts anywhere
         {readingsAt({"2019-03-01"}), {}, last30, "2019-01-31 00:00:00 2019-03-01 23:59:59"},
         {readingsAt({"2019-03-01"}), {}, measuringWeek, "2019-02-23 00:00:00 2019-03-01 23:59:59"},
         {readingsAt({"2000-01-01 08:00"}), {}, last7, year},
@@ -221,7 +245,7 @@ TEST_F(DisplayPeriodTest, ChosenDaysFollowReadingsAndWeekUntilOthersAreShown) {
         ReadingList excluded = later;
         excluded.back().exclusion = QStringLiteral("not at rest");
         period.refreshDataPeriod(excluded);
-        EXPECT_EQ(shown(), choice == last7 ? after : before) << "a week of readings that count";
+        EXPECT_EQ(shown(), before) << "the other week would hold none that counts";
         const Period days = period.getTimePeriod();
         period.setTimePeriod(days.begin, days.end);
         EXPECT_EQ(period.getChoice(), choice) << "the same days";

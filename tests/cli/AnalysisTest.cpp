@@ -182,6 +182,7 @@ TEST_F(AnalysisTest, ReadingIsLeftOutAndTakenInAgain) {
               "1 of these readings is left out and counts nowhere; --numbers tells which, and why\n");
     EXPECT_EQ(of("statistics"), "sys: 136 120 152\ndia: 84 80 88\npulse: 69 66 71\npp: 52 40 64\n");
     EXPECT_EQ(run("statistics").err, "2 readings; 1 left out, 1 undated one not counted\n");
+    EXPECT_EQ(of("statistics --last 1"), of("statistics")) << "the last day that counts";
     EXPECT_EQ(run("average --to 2026-11-03 --rule aha").err, "1 reading of the week is left out.\n");
     EXPECT_EQ(run("average --rule aha").err, "1 reading of later days is left out, too.\n");
     EXPECT_EQ(zelWith(planM1, {u"download"_s, u"--patient=M1"_s}).status, 0);

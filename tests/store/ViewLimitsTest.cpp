@@ -75,6 +75,10 @@ TEST_F(ViewLimitsTest, WhatAnotherProgramChoosesIsShownAndKept) {
     ASSERT_TRUE(writeViewLimits(path, {LimitChoice::home, {150, 95}}));
     ASSERT_TRUE(store.chooseViewLimits({LimitChoice::low, {140, 90}}));
     EXPECT_EQ(readViewLimits(path), (ViewLimits{LimitChoice::home, {140, 90}}));
+    write(R"({"highFrom": "low", "ownSystolic": 140, "ownDiastolic": 90, "zoom": [2]})");
+    ASSERT_TRUE(store.chooseViewLimits({LimitChoice::office, {140, 90}}));
+    EXPECT_EQ(readViewLimits(path), (ViewLimits{LimitChoice::office, {140, 90}}));
+    EXPECT_TRUE(readFile(choice).value().contains("zoom")) << "what this program does not know";
 
     ASSERT_TRUE(writeViewLimits(path, {LimitChoice::own, {150, 95}}));
     ASSERT_TRUE(store.takeChanges());

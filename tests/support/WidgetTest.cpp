@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QThread>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -64,6 +65,14 @@ void WidgetTest::type(const char* field, const QString& text) {
 void WidgetTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QWidget* focused = QApplication::focusWidget();
     QTest::keyClick(focused ? focused : &window(), key, modifiers);
+}
+
+void WidgetTest::rollOver(QWidget& widget) {
+    const QPoint inside(5, 5);
+    QWheelEvent step(inside, widget.mapToGlobal(inside), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                     false);
+    QSpontaneKeyEvent::setSpontaneous(&step); // or it would end here, whether it is taken or not
+    QApplication::instance()->notify(&widget, &step);
 }
 
 void WidgetTest::expectNamed(const QWidget& parent) {

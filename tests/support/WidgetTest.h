@@ -54,6 +54,8 @@ protected:
     void type(const char* field, const QString& text);
     /// To whatever has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// One step of the mouse wheel, downwards, with the pointer over it.
+    static void rollOver(QWidget& widget);
     /// Each widget inside that takes the focus has a name, which is what is written on it or before it.
     static void expectNamed(const QWidget& parent);
     QByteArray dataFile() const;

@@ -1,13 +1,15 @@
 #include "app/frame/MeasuringWeekPanel.h"
 
+#include "app/widgets/CalmComboBox.h"
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Style.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QSignalBlocker>
+
+#include <chrono>
+#include <functional>
 
 namespace zel {
 
@@ -19,11 +21,18 @@ QString pressure(const PressureMeans& means) {
     return u"%1/%2"_s.arg(means.sys.rounded()).arg(means.dia.rounded());
 }
 
-/// Empty where there is neither a morning's nor an evening's reading.
-QString halvesOf(const MeasuringWeek& week) {
+/// To a tenth, beside the rule's thresholds.
+QString tenths(const PressureMeans& means, AverageRule rule) {
+    const AverageRuleFacts& facts = factsOf(rule);
+    return means.sys.withTenthsBeside(facts.sysThreshold) + u'/'
+           + means.dia.withTenthsBeside(facts.diaThreshold);
+}
+
+/// Each as \p text has it; empty where there is neither a morning's nor an evening's reading.
+QString halvesOf(const MeasuringWeek& week, const std::function<QString(const PressureMeans&)>& text) {
     QStringList halves;
-    if (week.morning.count() > 0) halves += qtTrId("weekMornings").arg(pressure(week.morning));
-    if (week.evening.count() > 0) halves += qtTrId("weekEvenings").arg(pressure(week.evening));
+    if (week.morning.count() > 0) halves += qtTrId("weekMornings").arg(text(week.morning));
+    if (week.evening.count() > 0) halves += qtTrId("weekEvenings").arg(text(week.evening));
     return halves.join(qtTrId(", "));
 }
 
@@ -37,12 +46,12 @@ QString countsOf(const MeasuringWeek& week) {
     return counted;
 }
 
-/// Of the means before they are rounded, which what is shown does not tell.
+/// Of the means before they are rounded: 134.9/84.9 is below what stands above it as 135/85.
 QString comparison(const MeasuringWeek& week) {
     const AverageRuleFacts& facts = factsOf(week.rule);
     const QString threshold = u"%1/%2"_s.arg(facts.sysThreshold).arg(facts.diaThreshold);
-    return week.reachesThreshold() ? qtTrId("weekReached").arg(threshold)
-                                   : qtTrId("weekBelow").arg(threshold);
+    const QString words = week.reachesThreshold() ? qtTrId("weekReached") : qtTrId("weekBelow");
+    return words.arg(threshold, tenths(week.all, week.rule));
 }
 
 /// Its first instant.
@@ -51,9 +60,10 @@ Date instantOf(DayNumber day) { return StrToDate(dayText(day), u"yyyy/MM/dd"_s);
 } // namespace
 
 MeasuringWeekPanel::MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod& displayPeriod,
-                                       QWidget* parent)
+                                       const Clock& wallClock, QWidget* parent)
     : SidePanel(u"weekPanel"_s, qtTrId("weekPanel"), parent), store(dataStore), period(displayPeriod),
-      cboWeekRule(new QComboBox(this)), weekEnd(new DayEdit(u"weekEnd"_s, qtTrId("weekEnd"), this)) {
+      clock(wallClock), cboWeekRule(new CalmComboBox(this)),
+      weekEnd(new DayEdit(u"weekEnd"_s, qtTrId("weekEnd"), this)) {
     auto* content = static_cast<QVBoxLayout*>(layout());
     content->addSpacing(Style::tight);
     content->addLayout(makeChoices());
@@ -109,29 +119,40 @@ void MeasuringWeekPanel::showWeek() {
     const MeasuringWeek week =
         calcMeasuringWeek(store.getReadingForCurID(), period.getWeekRule(), period.getWeekEnd());
     cboWeekRule->setCurrentIndex(static_cast<int>(week.rule));
-    weekEnd->setFormat(store.getSetting().dateFormat);
-    weekEnd->setEnabled(week.end != noDay);
-    if (const Date end = week.end == noDay ? Date() : instantOf(week.end)) weekEnd->showDay(*end);
+    showEnd(week.end);
     showMeans(week);
     showCounts(week);
     for (QLabel* line :
          {lblWeekMean, lblWeekHalves, lblWeekThreshold, lblWeekMissing, lblWeekCount, lblWeekZone}) {
         line->setVisible(!line->text().isEmpty());
         line->setAccessibleName(line->text().isEmpty() ? accessibleName() : line->text());
+        line->setAccessibleDescription(line->toolTip());
     }
+}
+
+/// Where there is no week, today, and not the day of the patient before.
+void MeasuringWeekPanel::showEnd(DayNumber end) {
+    weekEnd->setFormat(store.getSetting().dateFormat);
+    weekEnd->setEnabled(end != noDay);
+    const Date last = end == noDay ? Date() : instantOf(end);
+    weekEnd->showDay(last.value_or(std::chrono::floor<Instant::duration>(clock.now())));
 }
 
 void MeasuringWeekPanel::showMeans(const MeasuringWeek& week) {
     const PressureMeans& all = week.all;
     const bool isNone = week.readingsUsed() == 0;
     lblWeekMean->setText(isNone ? qtTrId("weekNoMean") : qtTrId("weekMean").arg(pressure(all)));
-    lblWeekMean->setToolTip(
-        isNone
-            ? QString()
-            : qtTrId("weekMeanHint").arg(all.sys.withTenths(), all.dia.withTenths(), all.pulse.withTenths()));
-    lblWeekThreshold->setText(
-        isNone ? QString() : comparison(week) + qtTrId(", ") + qtTrId("weekPulse").arg(all.pulse.rounded()));
-    lblWeekHalves->setText(halvesOf(week));
+    const bool hasPulse = all.pulse.count() > 0;
+    lblWeekMean->setToolTip(isNone ? QString()
+                                   : qtTrId("weekMeanHint")
+                                         .arg(all.sys.withTenths(), all.dia.withTenths(),
+                                              hasPulse ? all.pulse.withTenths() : u"–"_s));
+    QString threshold = isNone ? QString() : comparison(week);
+    if (hasPulse) threshold += qtTrId(", ") + qtTrId("weekPulse").arg(all.pulse.rounded());
+    lblWeekThreshold->setText(threshold);
+    lblWeekHalves->setText(halvesOf(week, pressure));
+    lblWeekHalves->setToolTip(
+        halvesOf(week, [&week](const PressureMeans& half) { return tenths(half, week.rule); }));
 }
 
 void MeasuringWeekPanel::showCounts(const MeasuringWeek& week) {

@@ -3,6 +3,7 @@
 #include "analysis/DisplayPeriod.h"
 #include "app/widgets/SeenWork.h"
 #include "app/widgets/SidePanel.h"
+#include "store/Clock.h"
 #include "store/DataStore.h"
 
 class QComboBox;
@@ -15,13 +16,15 @@ class DayEdit;
 class MeasuringWeekPanel final : public SidePanel {
     Q_OBJECT
 public:
-    MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod& displayPeriod, QWidget* parent);
+    MeasuringWeekPanel(const DataStore& dataStore, DisplayPeriod& displayPeriod, const Clock& wallClock,
+                       QWidget* parent);
 
     void LoadData() { showing.want(); }
 
 private:
     void showWeek();
     QLayout* makeChoices();
+    void showEnd(DayNumber end);
     void showMeans(const MeasuringWeek& week);
     void showCounts(const MeasuringWeek& week);
     void pickEnd();
@@ -29,6 +32,7 @@ private:
 
     const DataStore& store;
     DisplayPeriod& period;
+    const Clock& clock;
     QComboBox* cboWeekRule;
     DayEdit* weekEnd;
     QLabel* lblWeekMean;

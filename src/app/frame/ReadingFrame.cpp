@@ -24,7 +24,7 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     : QWidget(parent), parts(needed), shown(view), heading(new PageHeading(this)),
       period(new PeriodBar(needed.store, needed.period, needed.panel, this)),
       statisticPanel(new StatisticViewController(needed.store, needed.period, this)),
-      weekPanel(new MeasuringWeekPanel(needed.store, needed.period, this)),
+      weekPanel(new MeasuringWeekPanel(needed.store, needed.period, needed.clock, this)),
       commentPanel(new CommentViewController(needed.store, needed.panel, needed.clock, this)),
       btnSide(new QToolButton(this)), side(makeSide()) {
     auto* body = new QHBoxLayout;

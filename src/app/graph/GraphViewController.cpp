@@ -110,11 +110,19 @@ QWidget* GraphViewController::makeSwitch() {
 QCheckBox* GraphViewController::makeTrendChoice() {
     auto* choice = new QCheckBox(qtTrId("trendApart"), content);
     choice->setObjectName(u"trendApart"_s);
-    choice->setToolTip(qtTrId("trendApartHint"));
-    nameAsSeen(*choice, choice->text());
     connect(choice, &QCheckBox::toggled, trend, &TrendView::setApart);
     return choice;
 }
+
+/// What is out of reach says why, and how to get there.
+void GraphViewController::offerTrendApart() {
+    const bool isWholeDay = parts.period.getHalfOfDay() == HalfOfDay::both;
+    trendApart->setEnabled(isWholeDay);
+    trendApart->setToolTip(isWholeDay ? qtTrId("trendApartHint") : qtTrId("trendApartNeedsDay"));
+    nameAsSeen(*trendApart, trendApart->text());
+}
+
+void GraphViewController::showTrendApart(bool isApart) { trendApart->setChecked(isApart); }
 
 bool GraphViewController::isTrendApart() const { return trend->isApart(); }
 
@@ -138,6 +146,7 @@ void GraphViewController::setView(int state) {
         choice->setEnabled(any);
     tools->setVisible(any && viewState == 0);
     trendApart->setVisible(any && viewState == 3);
+    offerTrendApart();
     constexpr std::array<CountRule, 4> rules{isInChart, isCounted, isCounted, isInTrend}; // as on paper
     frame->setRule(rules.at(static_cast<std::size_t>(viewState)));
 }

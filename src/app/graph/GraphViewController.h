@@ -53,6 +53,7 @@ public:
     [[nodiscard]] int drawViewState() const { return viewState; }
     /// The trend has mornings and evenings as lines of their own.
     [[nodiscard]] bool isTrendApart() const;
+    void showTrendApart(bool isApart);
     /// The styles of the charts on the screen, for a pair that is to look like them.
     void setupDrawChart(ChartStyle& pulse, ChartStyle& blood) const;
 
@@ -60,6 +61,7 @@ private:
     void build();
     QWidget* makeSwitch();
     QCheckBox* makeTrendChoice();
+    void offerTrendApart();
     void setView(int state);
     void reload();
     [[nodiscard]] std::vector<const ReadingModel*> chosenReading() const;

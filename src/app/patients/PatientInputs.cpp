@@ -1,14 +1,13 @@
 #include "app/patients/PatientInputs.h"
 
+#include "app/widgets/CalmComboBox.h"
 #include "app/widgets/Style.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QValidator>
-#include <QWheelEvent>
 
 #include <limits>
 
@@ -25,15 +24,6 @@ public:
 
 private:
     std::function<bool(const QString&)> accepts;
-};
-
-/// Scrolling the form past a list must not choose something else in it.
-class CalmComboBox final : public QComboBox {
-public:
-    using QComboBox::QComboBox;
-
-protected:
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
 } // namespace
@@ -64,7 +54,6 @@ QComboBox* makeChoiceInput(const QString& name, const QStringList& choices) {
     auto* input = new CalmComboBox;
     input->setObjectName(name);
     input->addItems(choices);
-    input->setFocusPolicy(Qt::StrongFocus);
     input->setMinimumContentsLength(3);
     return input;
 }

@@ -1,13 +1,13 @@
 #include "app/printing/PrintForm.h"
 
 #include "app/printing/PrintPreview.h"
+#include "app/widgets/CalmComboBox.h"
 #include "app/widgets/EmptyState.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Spoken.h"
 #include "app/widgets/Style.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -37,7 +37,7 @@ void say(QLabel& label, const QString& text) {
 } // namespace
 
 PrintForm::PrintForm(QWidget* parent)
-    : QWidget(parent), printOption(new QComboBox(this)),
+    : QWidget(parent), printOption(new CalmComboBox(this)),
       printAddAddress(new QCheckBox(qtTrId("printDetails"), this)), pageText(plainLabel(u"pageText"_s, this)),
       previewView(new PrintPreview(this)),
       noPage(new EmptyState(u"noPage"_s, u":/icons/tableBtn.InactiveImg.svg"_s, this)),

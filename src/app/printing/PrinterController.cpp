@@ -1,8 +1,8 @@
 #include "app/printing/PrinterController.h"
 
+#include "app/widgets/CalmComboBox.h"
 #include "app/widgets/Style.h"
 
-#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -13,7 +13,7 @@ namespace zel {
 
 using namespace Qt::StringLiterals;
 
-PrinterController::PrinterController(QWidget* parent) : QDialog(parent), printerList(new QComboBox(this)) {
+PrinterController::PrinterController(QWidget* parent) : QDialog(parent), printerList(new CalmComboBox(this)) {
     setObjectName(u"printerController"_s);
     setWindowTitle(qtTrId("choosePrinter"));
     setAccessibleName(windowTitle());

@@ -1,5 +1,6 @@
 #include "app/settings/SettingForm.h"
 
+#include "app/widgets/CalmComboBox.h"
 #include "app/widgets/Log.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/SeenName.h"
@@ -9,7 +10,6 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -90,11 +90,12 @@ QFormLayout* makeForm(QGroupBox* group) {
 } // namespace
 
 SettingForm::SettingForm(QWidget* parent)
-    : QWidget(parent), cboLanguage(named(new QComboBox, u"cboLanguage"_s, qtTrId("settingLanguage"))),
+    : QWidget(parent),
+      cboLanguage(named<QComboBox>(new CalmComboBox, u"cboLanguage"_s, qtTrId("settingLanguage"))),
       lblLanguage(new QuietLabel(qtTrId("settingLanguageWhen"))),
-      dateFormate(named(new QComboBox, u"dateFormate"_s, qtTrId("settingDate"))),
-      timeFormate(named(new QComboBox, u"timeFormate"_s, qtTrId("settingTime"))),
-      metricFormate(named(new QComboBox, u"metricFormate"_s, qtTrId("settingUnits"))),
+      dateFormate(named<QComboBox>(new CalmComboBox, u"dateFormate"_s, qtTrId("settingDate"))),
+      timeFormate(named<QComboBox>(new CalmComboBox, u"timeFormate"_s, qtTrId("settingTime"))),
+      metricFormate(named<QComboBox>(new CalmComboBox, u"metricFormate"_s, qtTrId("settingUnits"))),
       eraseMeasures(
           named(new QCheckBox(qtTrId("settingEraseButton")), u"eraseMeasures"_s, qtTrId("settingErase"))),
       displayPPorMAP(new QButtonGroup(this)),

@@ -21,7 +21,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto windowKey = "window"_L1, pageKey = "page"_L1, chartKey = "chart"_L1, patientKey = "patient"_L1,
-               periodKey = "period"_L1, tableKey = "table"_L1;
+               periodKey = "period"_L1, tableKey = "table"_L1, weekRuleKey = "weekRule"_L1,
+               trendApartKey = "trendApart"_L1;
 
 /// By the numbers of the choices; what stands first is usual, and not kept.
 constexpr std::array dayNames{""_L1, "last7"_L1, "last30"_L1, "last90"_L1, "measuringWeek"_L1, "all"_L1};
@@ -46,6 +47,13 @@ QJsonValue unlessEmpty(const QJsonObject& object) {
     return object.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(object);
 }
 
+constexpr AverageRule usualRule = AverageRule::esh;
+
+QJsonValue nameOfRule(AverageRule rule) {
+    return rule == usualRule ? QJsonValue(QJsonValue::Undefined)
+                             : QJsonValue(QLatin1StringView(factsOf(rule).key));
+}
+
 /// The days that somebody picked are not kept: they are those of one look at one patient's readings.
 QJsonObject choiceOf(const DisplayPeriod& period) {
     QJsonObject kept;
@@ -64,6 +72,9 @@ void ViewKeeper::restoreWindow() {
     const auto geometry = QByteArray::fromBase64(parts.memory.value(windowKey).toString().toLatin1());
     if (!geometry.isEmpty()) parts.window.restoreGeometry(geometry);
     parts.table.columns().restore(parts.memory.value(tableKey).toObject());
+    parts.chart.showTrendApart(parts.memory.value(trendApartKey).toBool());
+    parts.period.setWeekRule(
+        averageRuleNamed(parts.memory.value(weekRuleKey).toString()).value_or(usualRule));
 }
 
 QString ViewKeeper::restorePatient() {
@@ -107,6 +118,9 @@ void ViewKeeper::keep(const QString& page) {
     memory.set(windowKey, QString::fromLatin1(parts.window.saveGeometry().toBase64()));
     memory.set(pageKey, page);
     memory.set(chartKey, nameOf(chartNames, parts.chart.drawViewState()));
+    memory.set(trendApartKey,
+               parts.chart.isTrendApart() ? QJsonValue(true) : QJsonValue(QJsonValue::Undefined));
+    memory.set(weekRuleKey, nameOfRule(parts.period.getWeekRule()));
     memory.set(tableKey, unlessEmpty(parts.table.columns().state()));
     const QString ID = parts.store.getCurrentID();
     const bool isAnyone = parts.store.validIDinXML(ID);

@@ -13,8 +13,8 @@ class PatientViewController;
 class PeriodFollower;
 class TableViewController;
 
-/// Has window, patient, days, columns and the chart page's view found again as they were left. What is gone
-/// or cannot be understood is as at a first start, without a word.
+/// Has window, patient, days, the measuring week's rule, columns and the chart page's view found again as
+/// they were left. What is gone or cannot be understood is as at a first start, without a word.
 class ViewKeeper {
 public:
     struct Parts {
@@ -29,7 +29,8 @@ public:
     };
     explicit ViewKeeper(const Parts& needed) : parts(needed) {}
 
-    /// Where the window was, and how the table's columns were arranged.
+    /// What is the same for all patients: where the window was, how the table's columns were arranged, the
+    /// measuring week's rule, and whether the trend has mornings and evenings apart.
     void restoreWindow();
     /// The patient, with the days that were chosen. \return the name of the page that was in view
     [[nodiscard]] QString restorePatient();

@@ -1,12 +1,12 @@
 #include "app/table/LimitBar.h"
 
 #include "analysis/HighValues.h"
+#include "app/widgets/CalmComboBox.h"
 #include "app/widgets/FlowLayout.h"
 #include "app/widgets/SeenName.h"
 #include "app/widgets/Style.h"
 #include "store/PressureLimits.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,7 +17,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 LimitBar::LimitBar(DataStore& dataStore, MessagePanel& messagePanel, QWidget* parent)
-    : QWidget(parent), store(dataStore), panel(messagePanel), cboHighFrom(new QComboBox(this)),
+    : QWidget(parent), store(dataStore), panel(messagePanel), cboHighFrom(new CalmComboBox(this)),
       ownSys(makeField(u"ownSys"_s, qtTrId("ownSys"))), ownDia(makeField(u"ownDia"_s, qtTrId("ownDia"))) {
     setObjectName(u"limitBar"_s);
     setAccessibleName(qtTrId("highFrom"));

@@ -2,6 +2,8 @@
 #include "support/ReadingPageTest.h"
 
 #include <QComboBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 namespace zel {
@@ -25,6 +27,15 @@ protected:
         storeReadings(u"P1"_s, readings);
         open(new ReadingFrame({store, period, panel, clock}, *new QWidget, nullptr));
     }
+    void pickDay(const QString& digits) {
+        page("cboWeekRule").setFocus(); // or the year would be typed on
+        typeDay("weekEnd", digits);
+        QTest::keyClick(&find<QWidget>("weekEnd"), Qt::Key_Return);
+    }
+    QString hint(const char* line) {
+        EXPECT_EQ(page(line).accessibleDescription(), page(line).toolTip());
+        return page(line).toolTip();
+    }
     void chooseNextRule() {
         auto& box = find<QComboBox>("cboWeekRule");
         box.setFocus();
@@ -36,8 +47,10 @@ TEST_F(MeasuringWeekPanelTest, theAverageFollowsRuleAndDay) {
     openWeek();
     EXPECT_EQ(dayIn("weekEnd"), u"16/03/2026"_s) << "the last day with readings";
     EXPECT_EQ(text("lblWeekMean"), u"135/80 mmHg"_s);
-    EXPECT_EQ(text("lblWeekThreshold"), u"Below 135/85, pulse 65"_s) << "134.7";
+    EXPECT_EQ(text("lblWeekThreshold"), u"Below 135/85 (to a tenth: 134.7/80.0), pulse 65"_s);
+    EXPECT_EQ(hint("lblWeekMean"), u"Mean 134.7/80.0 mmHg, pulse 65.0"_s);
     EXPECT_EQ(text("lblWeekHalves"), u"AM 140/80, PM 129/80"_s);
+    EXPECT_EQ(hint("lblWeekHalves"), u"AM 140.0/80.0, PM 129.0/80.0"_s);
     EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 of the first day left out"_s);
     EXPECT_FALSE(find<QLabel>("lblWeekMissing").isVisible());
     EXPECT_FALSE(find<QLabel>("lblWeekZone").isVisible());
@@ -49,18 +62,50 @@ TEST_F(MeasuringWeekPanelTest, theAverageFollowsRuleAndDay) {
     chooseNextRule();
     EXPECT_EQ(text("lblWeekMissing"), u"Incomplete, needs 1 more evening"_s);
     chooseNextRule();
-    EXPECT_EQ(text("lblWeekThreshold"), u"At or above 130/80, pulse 65"_s);
+    EXPECT_EQ(text("lblWeekThreshold"), u"At or above 130/80 (to a tenth: 141.4/80.0), pulse 65"_s);
     EXPECT_EQ(text("lblWeekCount"), u"27 readings on 7 days"_s);
-    typeDay("weekEnd", u"11032026"_s);
-    QTest::keyClick(&find<QWidget>("weekEnd"), Qt::Key_Return);
+    pickDay(u"11032026"_s);
     EXPECT_EQ(text("lblWeekMissing"), u"Incomplete, needs 1 more day, 4 more readings"_s);
     store.setCurrentID(u"P2"_s);
     EXPECT_EQ(text("lblWeekMean"), u"No average"_s);
     EXPECT_FALSE(find<QWidget>("weekEnd").isEnabled());
+    EXPECT_EQ(dayIn("weekEnd"),
+              DateToStr(std::chrono::floor<Instant::duration>(clock.now()), u"dd/MM/yyyy"_s))
+        << "not the day of another patient";
     store.setCurrentID(u"P1"_s);
     EXPECT_EQ(dayIn("weekEnd"), u"16/03/2026"_s) << "of another patient than the day was picked for";
+}
+
+TEST_F(MeasuringWeekPanelTest, theLastDayIsFollowedAgainOnceItIsPicked) {
+    openWeek();
+    pickDay(u"15032026"_s);
     storeReadings(u"P1"_s, {reading(u"202603170700"_s, 140)});
+    EXPECT_EQ(dayIn("weekEnd"), u"15/03/2026"_s);
+    pickDay(u"17032026"_s);
+    storeReadings(u"P1"_s, {reading(u"202603180700"_s, 140)});
+    EXPECT_EQ(dayIn("weekEnd"), u"18/03/2026"_s);
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().back()}, u"wrong cuff"_s));
+    ASSERT_TRUE(store.loadXML());
     EXPECT_EQ(dayIn("weekEnd"), u"17/03/2026"_s);
+    EXPECT_TRUE(text("lblWeekCount").contains(u"1 left out by the user"_s))
+        << qPrintable(text("lblWeekCount"));
+}
+
+TEST_F(MeasuringWeekPanelTest, theWheelScrollsPastTheRule) {
+    openWeek();
+    host->resize(1300, 330);
+    QCoreApplication::processEvents();
+    auto& side = *find<QScrollArea>("readingSide").verticalScrollBar();
+    find<QScrollArea>("readingSide").ensureWidgetVisible(&page("cboWeekRule"));
+    for (const bool isFocused : {false, true}) {
+        side.setValue(side.value() - side.singleStep());
+        const int before = side.value();
+        (isFocused ? page("cboWeekRule") : page("weekEnd")).setFocus();
+        rollOver(page("cboWeekRule"));
+        EXPECT_EQ(period.getWeekRule(), AverageRule::esh);
+        EXPECT_GT(side.value(), before);
+        EXPECT_EQ(page("cboWeekRule").hasFocus(), isFocused);
+    }
 }
 
 } // namespace

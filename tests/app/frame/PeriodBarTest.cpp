@@ -12,7 +12,6 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
-#include <QWheelEvent>
 
 namespace zel {
 
@@ -279,10 +278,8 @@ TEST_F(PeriodBarTest, daysOutOfOrderAreRefusedAndPutBack) {
     QTest::keyClick(days, Qt::Key_Escape);
     QCoreApplication::processEvents();
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::viewAll) << "the same days are no choice";
-    QWheelEvent wheel({5, 5}, endDay.mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
     editor().setFocus();
-    QApplication::sendEvent(&endDay, &wheel);
+    rollOver(endDay);
     EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s) << "the wheel only passed";
 }
 

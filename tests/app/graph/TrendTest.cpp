@@ -168,6 +168,12 @@ TEST_F(TrendTest, morningsAndEveningsAreLinesOfTheirOwnAtChoice) {
     trend().setFocus();
     press(Qt::Key_Home);
     EXPECT_TRUE(said().contains(u"Readings: 2\nSystolic: 131 (111 to 151) mmHg"_s)) << qPrintable(said());
+    for (const HalfOfDay half : {HalfOfDay::morning, HalfOfDay::evening, HalfOfDay::both}) {
+        period.setHalfOfDay(half);
+        const bool isWhole = half == HalfOfDay::both;
+        EXPECT_EQ(choice.isEnabled(), isWhole) << "one half has nothing to draw apart";
+        EXPECT_EQ(choice.toolTip(), qtTrId(isWhole ? "trendApartHint" : "trendApartNeedsDay"));
+    }
 }
 
 TEST_F(TrendTest, halvesOfTheDaySayWhoseClockTheyGoBy) {

@@ -13,7 +13,6 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
-#include <QWheelEvent>
 
 namespace zel {
 
@@ -227,9 +226,7 @@ TEST_F(PatientPageTest, leavingAChangedPatientAsks) {
     EXPECT_TRUE(panel.questions.empty());
     type("PatientNotes", u"mine"_s);
     auto& sex = find<QComboBox>("Sex");
-    QWheelEvent wheel({5, 5}, sex.mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&sex, &wheel);
+    rollOver(sex);
     EXPECT_EQ(sex.currentIndex(), 0) << "the wheel only passed";
     panel.answers[qtTrId("SavePatient")] = false;
     clickRow(0);

@@ -85,6 +85,7 @@ TEST_F(PrintTest, theSectionsAreThoseOfTheTab) {
         for (const Section section : c.offered)
             offered += facts(section).text();
         EXPECT_EQ(texts, offered);
+        rollOver(find<QWidget>("printOption"));
         EXPECT_EQ(list.currentIndex(), 1) << "what is in view";
         click("cancelPrint");
         EXPECT_FALSE(printing->isVisible());

@@ -33,6 +33,7 @@ protected:
         app.reset();
         store.setCurrentID({});
         period.setChangeUser(true);
+        period.setWeekRule(AverageRule::esh);
         memory = std::make_unique<ViewMemory>(file());
         start();
     }
@@ -72,6 +73,7 @@ protected:
         find<QTableView>("tblReadings").sortByColumn(ReadingTableModel::sys, Qt::AscendingOrder);
         header().moveSection(2, 0);
         header().resizeSection(ReadingTableModel::pulse, 123);
+        period.setWeekRule(AverageRule::nice);
     }
 };
 
@@ -88,6 +90,7 @@ TEST_F(RememberTest, theWindowComesBackAsItWasLeft) {
     EXPECT_EQ(find<QTableView>("tblPatients").currentIndex().row(), 1);
     EXPECT_EQ(period.getChoice(), PeriodChoice::last7);
     EXPECT_EQ(period.getHalfOfDay(), HalfOfDay::morning);
+    EXPECT_EQ(period.getWeekRule(), AverageRule::nice);
     EXPECT_EQ(find<QTableView>("tblReadings").model()->rowCount(), 7);
     EXPECT_EQ(header().sortIndicatorSection(), ReadingTableModel::sys);
     EXPECT_EQ(header().visualIndex(2), 0);
@@ -106,10 +109,13 @@ TEST_F(RememberTest, theChartPagesViewAndAMaximizedWindowComeBack) {
     choosePatient(1);
     click("graphBtn");
     find<GraphViewController>("GraphViewController").showView(3);
+    click("trendApart");
     app->mainWndow().showMaximized();
     beginAnew();
     EXPECT_EQ(inView(), u"GraphViewController"_s);
     EXPECT_EQ(find<GraphViewController>("GraphViewController").drawViewState(), 3);
+    EXPECT_TRUE(find<GraphViewController>("GraphViewController").isTrendApart());
+    EXPECT_FALSE(written().contains("weekRule")) << "the usual one";
     EXPECT_TRUE(app->mainWndow().isMaximized());
     app->terminate();
     app.reset();
@@ -156,7 +162,8 @@ TEST_F(RememberTest, aDamagedFileAndAForgottenOneBeginAnewWithoutAWord) {
             ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
             damaged.write(
                 R"({"window": "AAAA", "page": 7, "patient": [], "period": {"days": "ever", "half": 1},
-                              "table": {"order": "x", "letters": 3}, "chart": {}, "folder": []})");
+                              "table": {"order": "x", "letters": 3}, "chart": {}, "folder": [],
+                              "weekRule": "who", "trendApart": "yes"})");
         }
         begin();
         EXPECT_TRUE(app->mainWndow().isMaximized());
@@ -164,6 +171,8 @@ TEST_F(RememberTest, aDamagedFileAndAForgottenOneBeginAnewWithoutAWord) {
         EXPECT_EQ(store.getCurrentID(), u"QXZ-1"_s);
         EXPECT_EQ(header().sortIndicatorSection(), ReadingTableModel::date);
         EXPECT_EQ(header().visualIndex(2), 2);
+        EXPECT_EQ(period.getWeekRule(), AverageRule::esh);
+        EXPECT_FALSE(find<GraphViewController>("GraphViewController").isTrendApart());
         EXPECT_TRUE(panel.messages.empty());
         end();
     }
@@ -180,6 +189,7 @@ TEST_F(RememberTest, whatWasTypedAndNotSavedIsOfferedWhereItIsSeen) {
     EXPECT_EQ(inView(), u"PatientViewController"_s);
     EXPECT_EQ(store.getCurrentID(), u"QXZ-1"_s);
     EXPECT_EQ(header().sortIndicatorSection(), ReadingTableModel::sys) << "the rest is as it was";
+    EXPECT_EQ(period.getWeekRule(), AverageRule::nice);
 }
 
 TEST_F(RememberTest, aWindowOfAScreenThatIsGoneIsSeen) {

@@ -227,6 +227,8 @@ TEST_F(TableViewTest, valuesFromTheLimitsOnAreMarkedAndSpokenAndTheLegendNamesTh
     int told = 0; // to who speaks the cells, and to the view
     QObject::connect(table().model(), &QAbstractItemModel::dataChanged, &table(), [&told] { ++told; });
     find<QComboBox>("cboHighFrom").setFocus(Qt::TabFocusReason);
+    rollOver(page("cboHighFrom"));
+    EXPECT_EQ(store.viewLimits(), ViewLimits{}) << "the wheel only passed";
     press(Qt::Key_Down);
     EXPECT_EQ(told, 1);
     EXPECT_EQ(marks(), "----");
