@@ -85,8 +85,9 @@ std::vector<const CommentModel*> commentsOfPeriod(const CommentList& comments, c
         if (const auto days = commentDays(*comment); days && days->begin <= last && first <= days->end)
             found.push_back(comment.get());
     std::ranges::reverse(found);
-    std::ranges::stable_sort(found, std::ranges::greater{},
-                             [](const CommentModel* comment) { return commentDays(*comment)->begin; });
+    std::ranges::stable_sort(found, std::ranges::greater{}, [](const CommentModel* comment) {
+        return commentDays(*comment).value_or(CommentDays()).begin;
+    });
     return found;
 }
 

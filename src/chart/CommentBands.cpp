@@ -78,6 +78,16 @@ std::optional<std::size_t> takeRow(std::vector<Row>& rows, const Taken& wanted, 
     return static_cast<std::size_t>(row - rows.begin());
 }
 
+/// Joined with what it lies over, so that a row never holds more than has room in it.
+void takeOver(Row& row, Taken wanted) {
+    std::erase_if(row, [&](const Taken& one) {
+        if (one.to <= wanted.from || wanted.to <= one.from) return false;
+        wanted = {std::min(one.from, wanted.from), std::max(one.to, wanted.to)};
+        return true;
+    });
+    row.push_back(wanted);
+}
+
 double usedRows(const std::vector<Row>& rows) {
     return static_cast<double>(std::ranges::count_if(rows, [](const Row& row) { return !row.empty(); }));
 }
@@ -115,7 +125,7 @@ private:
             ++made.covered;
             if (bare.empty()) return; // another arrangement has rows for it
             row = bare.size() - 1;
-            bare.back().push_back(wanted);
+            takeOver(bare.back(), wanted);
         }
         const auto above = commentBandHeight * static_cast<double>(named.size());
         moveTo(band, bareHeight, above + bareHeight * static_cast<double>(*row + 1));

@@ -120,7 +120,8 @@ TEST(DrawTrend, NamesStandClearOfEachOtherAtTheirLinesEnds) {
 }
 
 TEST(DrawTrend, NothingStandsOverAnythingElse) {
-    for (const Rect& rect : {Rect{10, 20, 1000, 500}, Rect{0, 0, 590, 290}, Rect{0, 0, 480, 130}}) {
+    for (const Rect& rect :
+         {Rect{10, 20, 1000, 500}, Rect{0, 0, 590, 290}, Rect{0, 0, 520, 180}, Rect{0, 0, 480, 130}}) {
         for (const bool isFitted : {false, true}) {
             TrendOf trend{.isFitted = isFitted, .rect = rect};
             trend.comment("2019-03-05", "2019-03-20", u"Ramipril 5 mg"_s);
@@ -128,6 +129,8 @@ TEST(DrawTrend, NothingStandsOverAnythingElse) {
                           u"a cold, with fever and a cough that lasted for weeks"_s);
             trend.comment("2019-03-30", "2019-03-31", u"headache"_s);
             EXPECT_EQ(crowded(trend.items<TextLine>(), rect).join(u'\n').toStdString(), "") << rect.width;
+            const double pressure = trend.items<BeginClip>().front().rect.height;
+            EXPECT_GE(pressure, 2 * (trend.layout().plot.height - pressure - 7)) << "that of the pulse";
         }
     }
 }
@@ -155,6 +158,9 @@ TEST(DrawTrend, LinesBreakWhereAStepHasNoReading) {
         EXPECT_GE(trend.items<Circle>().size(), 3 * loneMarks) << "a point without a line has a mark";
         EXPECT_EQ(trend.texts().join(u'|').contains(u"dotted"_s), links > 0);
         EXPECT_EQ(trend.texts().contains(u"No readings in this period"_s), readings.empty());
+        trend.rect = {0, 0, 150, 130};
+        EXPECT_EQ(trend.texts().join(u' ').contains(u"dotted"_s), !trend.links().empty())
+            << "no dots without their meaning";
     }
 }
 

@@ -251,6 +251,15 @@ TEST(TrendPage, textsStandApartAndTheLegendSaysWhatIsDrawn) {
     EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"No limits are set."_s));
     sample.readings[0].exclusion = u"cuff slipped"_s;
     EXPECT_TRUE(wordsOf(sample, Section::trend).contains(u"59 readings; "_s)) << "and one left out";
+    for (const auto view : {ViewSelection::custom, ViewSelection::pmOnly}) {
+        sample.selection.view = view;
+        for (const std::size_t at : {1U, 2U}) // one of each half of the day
+            sample.readings[at].isOfOtherZone = true;
+        EXPECT_EQ(
+            wordsOf(sample, Section::trend)
+                .contains(u"1 reading was stored in another time zone; its time is that of this computer"_s),
+            view == ViewSelection::pmOnly);
+    }
 }
 
 TEST(ChartPage, figuresOfAllTimesSayThatTheyAre) {
