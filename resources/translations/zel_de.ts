@@ -349,6 +349,8 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="dayHint"><translation>Geben Sie ein Datum ein und drücken Sie die Eingabetaste, oder öffnen Sie den Kalender mit dem Pfeil.</translation></message>
     <message id="dayOfDownload"><translation>%1, an diesem Tag ausgelesen</translation></message>
     <message id="daysButtons"><translation>Tage</translation></message>
+    <message id="dayUnread"><translation>„%1“ ist kein gültiges Datum: Bitte geben Sie es in der Form %2 ein, mit einem Jahr ab 1900.</translation></message>
+    <message id="dayUnreadLeft"><translation>„%1“ ist kein gültiges Datum: Bitte geben Sie es in der Form %2 ein, mit einem Jahr ab 1900. Das Datum wurde nicht geändert.</translation></message>
     <message id="dayWithoutReading"><translation>%1, keine Messung an diesem Tag</translation></message>
     <message id="dd mm yyyy"><translation>TT MM JJJJ</translation></message>
     <message id="DeleteComment"><translation>Kommentar löschen</translation></message>
@@ -616,6 +618,7 @@ Hier bleiben und den Text behalten, um es noch einmal zu versuchen? Bei „Nein�
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="openCalendar"><translation>Kalender öffnen</translation></message>
     <message id="ownDia"><translation>Eigener diastolischer Grenzwert in mmHg, 0 für keinen</translation></message>
     <message id="ownSys"><translation>Eigener systolischer Grenzwert in mmHg, 0 für keinen</translation></message>
     <message id="pad"><translation>PAD</translation></message>
@@ -701,6 +704,9 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="readingsListed"><translation>%1. In der Liste: %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, am %2</translation></message>
+    <message id="readingStored"><translation>Gespeichert: %1.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Gespeichert: %1. Die Messung liegt außerhalb der angezeigten Tageszeit.</translation></message>
+    <message id="readingStoredOutside"><translation>Gespeichert: %1. Die Messung liegt außerhalb der angezeigten Tage.</translation></message>
     <message id="readingTime"><translation>Uhrzeit</translation></message>
     <message id="readingTotal"><translation>Messungen dieses Patienten</translation></message>
     <message id="redoFailed"><translation>„%1“ wurde nicht wiederholt. %2</translation></message>
@@ -811,6 +817,7 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="timeScrollerHint"><translation>Zeitraum entlang der Messungen verschieben. Das Mausrad über dem Diagramm bewirkt dasselbe. Mit Strg zeigt es weniger Tage und diese größer, wenn Sie es von sich weg drehen, und mehr Tage, wenn Sie es zu sich hin drehen.</translation></message>
     <message id="TimeSync"><translation>Uhr des Messgeräts</translation></message>
     <message id="TimeSyncMsg"><translation>Uhr des Messgeräts stellen: %1</translation></message>
+    <message id="timeUnread"><translation>„%1“ lässt sich nicht als Uhrzeit lesen: Bitte geben Sie sie ein wie %2 oder %3.</translation></message>
     <message id="trendApart"><translation>Morgens und abends getrennt</translation></message>
     <message id="trendApartHint"><translation>Messungen vor 12 Uhr und ab 12 Uhr als eigene Linien zeichnen.</translation></message>
     <message id="trendApartNeedsDay"><translation>Angezeigt wird nur eine Hälfte des Tages; da gibt es nichts zu trennen. Drücken Sie zuerst „Ganzer Tag“; dann können Sie diese Auswahl treffen.</translation></message>

@@ -349,6 +349,8 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="dayHint"><translation>Type a date and press Enter, or open the calendar with the arrow.</translation></message>
     <message id="dayOfDownload"><translation>%1, day of a download</translation></message>
     <message id="daysButtons"><translation>Days</translation></message>
+    <message id="dayUnread"><translation>“%1” is no date: type it in the form %2, with a year from 1900.</translation></message>
+    <message id="dayUnreadLeft"><translation>“%1” is no date: type it in the form %2, with a year from 1900. The date was left as it was.</translation></message>
     <message id="dayWithoutReading"><translation>%1, no reading on this day</translation></message>
     <message id="dd mm yyyy"><translation>dd mm yyyy</translation></message>
     <message id="DeleteComment"><translation>Delete comment</translation></message>
@@ -616,6 +618,7 @@ Stay here and keep your text, to try again? With No, the text is given up.</tran
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="openCalendar"><translation>Open the calendar</translation></message>
     <message id="ownDia"><translation>Own diastolic limit in mmHg, 0 for none</translation></message>
     <message id="ownSys"><translation>Own systolic limit in mmHg, 0 for none</translation></message>
     <message id="pad"><translation>PAD</translation></message>
@@ -701,6 +704,9 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="readingsListed"><translation>%1. Listed: %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
+    <message id="readingStored"><translation>Stored: %1.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Stored: %1. It lies outside the time of day that is shown.</translation></message>
+    <message id="readingStoredOutside"><translation>Stored: %1. It lies outside the days shown.</translation></message>
     <message id="readingTime"><translation>Time</translation></message>
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
     <message id="redoFailed"><translation>“%1” was not done again. %2</translation></message>
@@ -811,6 +817,7 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="timeScrollerHint"><translation>Move the period through the readings. The mouse wheel over the chart does so too; with Ctrl, turned away from you, it shows fewer days, closer, and turned to you more of them.</translation></message>
     <message id="TimeSync"><translation>Monitor’s clock</translation></message>
     <message id="TimeSyncMsg"><translation>Setting the monitor’s clock: %1</translation></message>
+    <message id="timeUnread"><translation>“%1” cannot be read as a time: type it like %2 or %3.</translation></message>
     <message id="trendApart"><translation>Mornings and evenings apart</translation></message>
     <message id="trendApartHint"><translation>Draw the readings before noon and those from noon on as lines of their own.</translation></message>
     <message id="trendApartNeedsDay"><translation>Only one half of the day is shown, so there is nothing to draw apart. Press Whole day first; then this can be chosen.</translation></message>

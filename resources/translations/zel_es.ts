@@ -349,6 +349,8 @@ mmHg</translation></message>
     <message id="dayHint"><translation>Escriba una fecha y pulse Intro, o abra el calendario con la flecha.</translation></message>
     <message id="dayOfDownload"><translation>%1, día de una descarga</translation></message>
     <message id="daysButtons"><translation>Días</translation></message>
+    <message id="dayUnread"><translation>«%1» no es una fecha válida: escríbala en la forma %2, con un año a partir de 1900.</translation></message>
+    <message id="dayUnreadLeft"><translation>«%1» no es una fecha válida: escríbala en la forma %2, con un año a partir de 1900. La fecha se ha dejado como estaba.</translation></message>
     <message id="dayWithoutReading"><translation>%1, ninguna medición ese día</translation></message>
     <message id="dd mm yyyy"><translation>dd mm aaaa</translation></message>
     <message id="DeleteComment"><translation>Eliminar comentario</translation></message>
@@ -616,6 +618,7 @@ mmHg</translation></message>
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n. d.</translation></message>
     <message id="ok"><translation>&amp;Aceptar</translation></message>
+    <message id="openCalendar"><translation>Abrir el calendario</translation></message>
     <message id="ownDia"><translation>Límite diastólico propio en mmHg, 0 si no hay</translation></message>
     <message id="ownSys"><translation>Límite sistólico propio en mmHg, 0 si no hay</translation></message>
     <message id="pad"><translation>Arritmia</translation></message>
@@ -701,6 +704,9 @@ mmHg</translation></message>
     <message id="readingsListed"><translation>%1. En la lista: %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, el %2</translation></message>
+    <message id="readingStored"><translation>Guardada: %1.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Guardada: %1. Queda fuera del momento del día mostrado.</translation></message>
+    <message id="readingStoredOutside"><translation>Guardada: %1. Queda fuera de los días que se muestran.</translation></message>
     <message id="readingTime"><translation>Hora</translation></message>
     <message id="readingTotal"><translation>Mediciones de este paciente</translation></message>
     <message id="redoFailed"><translation>No se ha rehecho «%1». %2</translation></message>
@@ -811,6 +817,7 @@ mmHg</translation></message>
     <message id="timeScrollerHint"><translation>Desplazar el periodo por las mediciones. La rueda del ratón sobre el gráfico hace lo mismo; con Ctrl, girarla hacia delante muestra menos días, más de cerca, y hacia atrás, más días.</translation></message>
     <message id="TimeSync"><translation>Reloj del tensiómetro</translation></message>
     <message id="TimeSyncMsg"><translation>Ajuste del reloj del tensiómetro: %1</translation></message>
+    <message id="timeUnread"><translation>«%1» no se puede leer como hora: escríbala como %2 o %3.</translation></message>
     <message id="trendApart"><translation>Mañanas y tardes por separado</translation></message>
     <message id="trendApartHint"><translation>Dibujar con líneas propias las mediciones de antes del mediodía y las realizadas a partir del mediodía.</translation></message>
     <message id="trendApartNeedsDay"><translation>Solo se muestra una mitad del día, de modo que no hay nada que separar. Pulse antes «Día entero»; entonces se podrá elegir esto.</translation></message>

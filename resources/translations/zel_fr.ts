@@ -349,6 +349,8 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="dayHint"><translation>Saisissez une date et appuyez sur Entrée, ou ouvrez le calendrier avec la flèche.</translation></message>
     <message id="dayOfDownload"><translation>%1, jour d’un transfert</translation></message>
     <message id="daysButtons"><translation>Jours</translation></message>
+    <message id="dayUnread"><translation>« %1 » n’est pas une date valable : saisissez-la sous la forme %2, avec une année à partir de 1900.</translation></message>
+    <message id="dayUnreadLeft"><translation>« %1 » n’est pas une date valable : saisissez-la sous la forme %2, avec une année à partir de 1900. La date est restée inchangée.</translation></message>
     <message id="dayWithoutReading"><translation>%1, aucune mesure ce jour-là</translation></message>
     <message id="dd mm yyyy"><translation>jj mm aaaa</translation></message>
     <message id="DeleteComment"><translation>Supprimer le commentaire</translation></message>
@@ -616,6 +618,7 @@ Rester ici et garder votre texte pour réessayer ? Si vous répondez « Non�
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="openCalendar"><translation>Ouvrir le calendrier</translation></message>
     <message id="ownDia"><translation>Limite diastolique au choix en mmHg, 0 pour aucune</translation></message>
     <message id="ownSys"><translation>Limite systolique au choix en mmHg, 0 pour aucune</translation></message>
     <message id="pad"><translation>Aryth.</translation></message>
@@ -701,6 +704,9 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="readingsListed"><translation>%1. Affichées : %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, le %2</translation></message>
+    <message id="readingStored"><translation>Enregistrée : %1.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Enregistrée : %1. Elle est en dehors des heures affichées.</translation></message>
+    <message id="readingStoredOutside"><translation>Enregistrée : %1. Elle est en dehors des jours affichés.</translation></message>
     <message id="readingTime"><translation>Heure</translation></message>
     <message id="readingTotal"><translation>Mesures de ce patient</translation></message>
     <message id="redoFailed"><translation>L’action « %1 » n’a pas été rétablie. %2</translation></message>
@@ -811,6 +817,7 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="timeScrollerHint"><translation>Déplacer la période parmi les mesures. La molette de la souris au-dessus du graphique fait de même ; avec Ctrl, tournée vers l’avant, elle montre moins de jours, de plus près ; tournée vers vous, davantage de jours.</translation></message>
     <message id="TimeSync"><translation>Horloge du tensiomètre</translation></message>
     <message id="TimeSyncMsg"><translation>Réglage de l’horloge du tensiomètre : %1</translation></message>
+    <message id="timeUnread"><translation>« %1 » ne peut pas être lu comme une heure : saisissez-la comme %2 ou %3.</translation></message>
     <message id="trendApart"><translation>Matins et soirs séparés</translation></message>
     <message id="trendApartHint"><translation>Tracer séparément les mesures avant midi et celles à partir de midi.</translation></message>
     <message id="trendApartNeedsDay"><translation>Seule une moitié de la journée est affichée : il n’y a rien à séparer. Choisissez d’abord « Journée entière » ; cette case pourra alors être cochée.</translation></message>

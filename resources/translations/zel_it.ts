@@ -349,6 +349,8 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="dayHint"><translation>Digitare una data e premere Invio, oppure aprire il calendario con la freccia.</translation></message>
     <message id="dayOfDownload"><translation>%1, giorno di scarico dati</translation></message>
     <message id="daysButtons"><translation>Giorni</translation></message>
+    <message id="dayUnread"><translation>“%1” non è una data valida: digitarla nella forma %2, con un anno dal 1900 in poi.</translation></message>
+    <message id="dayUnreadLeft"><translation>“%1” non è una data valida: digitarla nella forma %2, con un anno dal 1900 in poi. La data è rimasta invariata.</translation></message>
     <message id="dayWithoutReading"><translation>%1, nessuna misurazione</translation></message>
     <message id="dd mm yyyy"><translation>gg mm aaaa</translation></message>
     <message id="DeleteComment"><translation>Elimina commento</translation></message>
@@ -616,6 +618,7 @@ Restare qui e conservare il testo, per riprovare? Con “No” il testo va perso
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>n.a.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="openCalendar"><translation>Apri il calendario</translation></message>
     <message id="ownDia"><translation>Limite diastolico personalizzato in mmHg, 0 per nessuno</translation></message>
     <message id="ownSys"><translation>Limite sistolico personalizzato in mmHg, 0 per nessuno</translation></message>
     <message id="pad"><translation>Aritmia</translation></message>
@@ -701,6 +704,9 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="readingsListed"><translation>%1. In elenco: %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, il %2</translation></message>
+    <message id="readingStored"><translation>Registrata: %1.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Registrata: %1. È al di fuori della parte del giorno mostrata.</translation></message>
+    <message id="readingStoredOutside"><translation>Registrata: %1. È al di fuori dei giorni mostrati.</translation></message>
     <message id="readingTime"><translation>Ora</translation></message>
     <message id="readingTotal"><translation>Misurazioni del paziente</translation></message>
     <message id="redoFailed"><translation>Non è stato possibile ripetere “%1”. %2</translation></message>
@@ -811,6 +817,7 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="timeScrollerHint"><translation>Sposta il periodo lungo le misurazioni. Lo fa anche la rotellina del mouse sul grafico; con Ctrl, girandola in avanti si vedono meno giorni, più da vicino, e girandola all’indietro più giorni.</translation></message>
     <message id="TimeSync"><translation>Orologio del misuratore</translation></message>
     <message id="TimeSyncMsg"><translation>Regolazione dell’orologio del misuratore: %1</translation></message>
+    <message id="timeUnread"><translation>“%1” non si può leggere come ora: digitarla come %2 o %3.</translation></message>
     <message id="trendApart"><translation>Mattina e sera separate</translation></message>
     <message id="trendApartHint"><translation>Disegna le misurazioni prima delle 12 e quelle dalle 12 in poi come linee distinte.</translation></message>
     <message id="trendApartNeedsDay"><translation>È mostrata solo una metà del giorno, quindi non c’è nulla da separare. Premere prima Giorno intero; poi questa casella si può attivare.</translation></message>

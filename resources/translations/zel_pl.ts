@@ -349,6 +349,8 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="dayHint"><translation>Proszę wpisać datę i nacisnąć Enter albo otworzyć kalendarz strzałką.</translation></message>
     <message id="dayOfDownload"><translation>%1, dzień pobrania</translation></message>
     <message id="daysButtons"><translation>Dni</translation></message>
+    <message id="dayUnread"><translation>„%1” nie jest datą: proszę ją wpisać w postaci %2, z rokiem od 1900.</translation></message>
+    <message id="dayUnreadLeft"><translation>„%1” nie jest datą: proszę ją wpisać w postaci %2, z rokiem od 1900. Data pozostała bez zmian.</translation></message>
     <message id="dayWithoutReading"><translation>%1, brak pomiarów tego dnia</translation></message>
     <message id="dd mm yyyy"><translation>DD MM RRRR</translation></message>
     <message id="DeleteComment"><translation>Usuwanie komentarza</translation></message>
@@ -616,6 +618,7 @@ Pozostać tutaj i zachować tekst, aby spróbować ponownie? „Nie” oznacza r
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>b.d.</translation></message>
     <message id="ok"><translation>&amp;OK</translation></message>
+    <message id="openCalendar"><translation>Otwórz kalendarz</translation></message>
     <message id="ownDia"><translation>Własna granica rozkurczowa w mmHg, 0 oznacza brak</translation></message>
     <message id="ownSys"><translation>Własna granica skurczowa w mmHg, 0 oznacza brak</translation></message>
     <message id="pad"><translation>Arytmia</translation></message>
@@ -701,6 +704,9 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="readingsListed"><translation>%1. Na liście: %2</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, dnia %2</translation></message>
+    <message id="readingStored"><translation>Zapisano: %1.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Zapisano: %1. Leży poza pokazywaną porą dnia.</translation></message>
+    <message id="readingStoredOutside"><translation>Zapisano: %1. Leży poza pokazywanymi dniami.</translation></message>
     <message id="readingTime"><translation>Godzina</translation></message>
     <message id="readingTotal"><translation>Pomiary tego pacjenta</translation></message>
     <message id="redoFailed"><translation>Nie ponowiono: „%1”. %2</translation></message>
@@ -811,6 +817,7 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="timeScrollerHint"><translation>Przesuwa okres wzdłuż pomiarów. To samo robi kółko myszy nad wykresem; z klawiszem Ctrl obrót kółka od siebie przybliża (mniej dni), a do siebie oddala (więcej dni).</translation></message>
     <message id="TimeSync"><translation>Zegar ciśnieniomierza</translation></message>
     <message id="TimeSyncMsg"><translation>Ustawianie zegara ciśnieniomierza: %1</translation></message>
+    <message id="timeUnread"><translation>„%1” nie da się odczytać jako godziny: proszę ją wpisać jak %2 albo %3.</translation></message>
     <message id="trendApart"><translation>Osobno poranki i wieczory</translation></message>
     <message id="trendApartHint"><translation>Rysuje pomiary przed południem i od południa jako osobne linie.</translation></message>
     <message id="trendApartNeedsDay"><translation>Widoczna jest tylko połowa dnia, więc nie ma czego rozdzielać. Proszę najpierw nacisnąć „Cały dzień”; wtedy można to zaznaczyć.</translation></message>

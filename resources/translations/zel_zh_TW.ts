@@ -349,6 +349,8 @@ mmHg</translation></message>
     <message id="dayHint"><translation>輸入日期後按 Enter，或按箭頭開啟月曆。</translation></message>
     <message id="dayOfDownload"><translation>%1，當天有下載</translation></message>
     <message id="daysButtons"><translation>天數</translation></message>
+    <message id="dayUnread"><translation>「%1」不是可用的日期：請依 %2 的格式輸入，年份須在 1900 年以後（含）。</translation></message>
+    <message id="dayUnreadLeft"><translation>「%1」不是可用的日期：請依 %2 的格式輸入，年份須在 1900 年以後（含）。日期維持不變。</translation></message>
     <message id="dayWithoutReading"><translation>%1，當天沒有量測</translation></message>
     <message id="dd mm yyyy"><translation>日 月 年</translation></message>
     <message id="DeleteComment"><translation>刪除註記</translation></message>
@@ -616,6 +618,7 @@ mmHg</translation></message>
     <message id="notKnown"><translation>–</translation></message>
     <message id="noValue"><translation>無資料</translation></message>
     <message id="ok"><translation>確定(&amp;O)</translation></message>
+    <message id="openCalendar"><translation>開啟月曆</translation></message>
     <message id="ownDia"><translation>自訂舒張壓上限（mmHg），0 為無上限</translation></message>
     <message id="ownSys"><translation>自訂收縮壓上限（mmHg），0 為無上限</translation></message>
     <message id="pad"><translation>心律不整</translation></message>
@@ -701,6 +704,9 @@ mmHg</translation></message>
     <message id="readingsListed"><translation>%1。列出：%2</translation></message>
     <message id="readingsNoted"><translation>%1。%2</translation></message>
     <message id="readingsOn"><translation>%1，%2</translation></message>
+    <message id="readingStored"><translation>已儲存：%1。</translation></message>
+    <message id="readingStoredOtherHalf"><translation>已儲存：%1。這筆量測不在目前顯示的時段內。</translation></message>
+    <message id="readingStoredOutside"><translation>已儲存：%1。這筆量測不在目前顯示的日期內。</translation></message>
     <message id="readingTime"><translation>時間</translation></message>
     <message id="readingTotal"><translation>這位病患的量測</translation></message>
     <message id="redoFailed"><translation>「%1」未能重做。%2</translation></message>
@@ -811,6 +817,7 @@ mmHg</translation></message>
     <message id="timeScrollerHint"><translation>在量測中移動期間。在圖表上轉動滑鼠滾輪也可以；按住 Ctrl 時，往前轉顯示較少天數（放大），往後轉顯示較多天數。</translation></message>
     <message id="TimeSync"><translation>血壓計時鐘</translation></message>
     <message id="TimeSyncMsg"><translation>設定血壓計的時鐘：%1</translation></message>
+    <message id="timeUnread"><translation>「%1」無法讀作時間：請依 %2 或 %3 的格式輸入。</translation></message>
     <message id="trendApart"><translation>早晚分開</translation></message>
     <message id="trendApartHint"><translation>將中午前與中午以後的量測畫成不同的線。</translation></message>
     <message id="trendApartNeedsDay"><translation>目前只顯示半天，無可分開。請先按「全天」，才能選擇此項。</translation></message>

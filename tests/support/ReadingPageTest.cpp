@@ -2,7 +2,7 @@
 
 #include "app/frame/PeriodFollower.h"
 
-#include <QDateEdit>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -64,13 +64,33 @@ void ReadingSteps::clickPart(const char* name) {
     QTest::mouseClick(&button, Qt::LeftButton, {}, {8, button.height() / 2});
 }
 
+void ReadingSteps::enter(QWidget& field, const QByteArray& how) {
+    const bool isByTab = how.endsWith("Tab");
+    if (isByTab) {
+        QWidget* neighbour = how == "Tab" ? field.previousInFocusChain() : field.nextInFocusChain();
+        const auto isReached = [](const QWidget& each) {
+            return (each.focusPolicy() & Qt::TabFocus) && each.isEnabled() && each.isVisible()
+                   && !each.focusProxy();
+        };
+        while (!isReached(*neighbour))
+            neighbour = how == "Tab" ? neighbour->previousInFocusChain() : neighbour->nextInFocusChain();
+        neighbour->setFocus();
+        QTest::keyClick(neighbour, how == "Tab" ? Qt::Key_Tab : Qt::Key_Backtab);
+    } else {
+        field.clearFocus();
+        QTest::mouseClick(&field, Qt::LeftButton, {}, {6, field.height() / 2});
+    }
+    if (how == "Ctrl+A") QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(field.hasFocus()) << how.constData();
+}
+
 void ReadingSteps::typeDay(const char* field, const QString& digits) {
-    auto& day = part<QDateEdit>(field);
+    auto& day = part<QLineEdit>(field);
     day.setFocus(Qt::TabFocusReason);
     QTest::keyClicks(&day, digits);
 }
 
-QString ReadingSteps::dayIn(const char* field) { return part<QDateEdit>(field).text(); }
+QString ReadingSteps::dayIn(const char* field) { return part<QLineEdit>(field).text(); }
 
 void ReadingSteps::typeComment(const QString& text) {
     editor().setFocus();

@@ -40,6 +40,8 @@ protected:
     QPlainTextEdit& editor();
     /// A button's mark, wherever it stands in the room that the button has.
     void clickPart(const char* name);
+    /// As a user does: by "click" at its start, "Tab", "Shift+Tab" or "Ctrl+A" after a click.
+    static void enter(QWidget& field, const QByteArray& how);
     void typeDay(const char* field, const QString& digits);
     QString dayIn(const char* field);
     /// At the end of the comment.

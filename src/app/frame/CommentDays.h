@@ -7,8 +7,8 @@ namespace zel {
 
 /// In a pattern of the settings; empty for no date.
 [[nodiscard]] QString commentDayText(const Date& date, const QString& pattern);
-/// The first instant of the day that was typed in the pattern's order: its numbers with anything between
-/// them, or its eight digits. None if that is no day from 1900 to 9999.
+/// The first instant of the day that was typed, as typedDay() has it. None if that is no day from 1900 to
+/// 9999.
 [[nodiscard]] Date typedCommentDay(const QString& text, const QString& pattern);
 /// More than two years after today: a slip of the finger in the year.
 [[nodiscard]] bool isFarAhead(Instant day, Instant today);

@@ -4,14 +4,14 @@
 #include "app/widgets/DayEdit.h"
 #include "app/widgets/PageHeading.h"
 #include "app/widgets/RequiredMark.h"
+#include "app/widgets/SelectOnClick.h"
 #include "app/widgets/Style.h"
-#include "store/Languages.h"
+#include "store/TypedTime.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTimeEdit>
 #include <QVBoxLayout>
 
 namespace zel {
@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString timePattern = u"HH:mm"_s;
+constexpr int longestTime = 16; ///< letters
 
 /// Nothing but digits is a number; anything else is out of every range.
 std::uint32_t numberIn(const QLineEdit& field) {
@@ -39,19 +40,19 @@ QLabel* titleOf(const QString& text, QWidget* field) {
 
 } // namespace
 
-ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clock& timeSource,
-                                         Store storeTyped, QWidget* parent)
-    : QDialog(parent), clock(timeSource), store(std::move(storeTyped)),
-      day(new DayEdit(u"readingDay"_s, qtTrId("readingDay"), this)), time(new QTimeEdit(this)),
+ManualReadingDialog::ManualReadingDialog(const SettingModel& setting, const Clock& timeSource,
+                                         const QString& patient, Store storeTyped, QWidget* parent)
+    : QDialog(parent), settings(setting), clock(timeSource), store(std::move(storeTyped)),
+      day(new DayEdit(u"readingDay"_s, qtTrId("readingDay"), this)), time(new QLineEdit(this)),
       problemLine(problemLabel(u"readingProblem"_s, this)) {
     setObjectName(u"ManualReadingDialog"_s);
     setWindowTitle(qtTrId("newReadingTitle"));
     day->setFormat(settings.dateFormat);
-    day->setMinimumDate({1900, 1, 1});
     time->setObjectName(u"readingTime"_s);
     time->setAccessibleName(qtTrId("readingTime"));
-    time->setLocale(textLocale()); // how it says morning and evening
-    time->setDisplayFormat(settings.is12Hours() ? u"hh:mm AP"_s : timePattern);
+    time->setMaxLength(longestTime);
+    time->setFixedWidth(day->sizeHint().width());
+    selectOnClick(*time);
     auto* form = new QFormLayout;
     form->addRow(titleOf(qtTrId("readingDay"), day), day);
     form->addRow(titleOf(qtTrId("readingTime"), time), time);
@@ -61,6 +62,7 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Style::edge, Style::edge, Style::edge, Style::edge);
     column->setSpacing(Style::apart);
+    column->addWidget(heading(patient));
     column->addWidget(requiredNote(this));
     column->addLayout(form);
     column->addWidget(problemLine);
@@ -69,6 +71,15 @@ ManualReadingDialog::ManualReadingDialog(const SettingModel& settings, const Clo
     setMinimumWidth(fontMetrics().averageCharWidth() * 56);
     showTime(std::chrono::floor<Instant::duration>(clock.now()));
     sys->setFocus();
+}
+
+QLabel* ManualReadingDialog::heading(const QString& patient) {
+    auto* line = new QLabel(patient, this);
+    line->setObjectName(u"readingPatient"_s);
+    line->setTextFormat(Qt::PlainText);
+    line->setWordWrap(true);
+    Style::setType(*line, Style::Type::text);
+    return line;
 }
 
 QLineEdit* ManualReadingDialog::addNumber(QFormLayout& form, const QString& name, const QString& title,
@@ -88,12 +99,11 @@ QLineEdit* ManualReadingDialog::addNumber(QFormLayout& form, const QString& name
 
 void ManualReadingDialog::showTime(Instant at) {
     day->showDay(at);
-    time->setTime(QTime::fromString(DateToStr(at, timePattern), timePattern));
+    time->setText(settings.timeText(LocalZone{}.dayMinute(at).minute));
 }
 
 void ManualReadingDialog::setReading(const ManualReading& known) {
     setWindowTitle(qtTrId("changeReadingTitle"));
-    day->clearMinimumDate(); // an earlier date is shown as it is, to be mended
     if (known.time) showTime(*known.time);
     for (const auto& [field, value] :
          {std::pair(sys, known.sys), std::pair(dia, known.dia), std::pair(pulse, known.pulse)})
@@ -101,14 +111,14 @@ void ManualReadingDialog::setReading(const ManualReading& known) {
     sys->selectAll();
 }
 
+QTime ManualReadingDialog::timeIn() const { return typedTimeOfDay(time->text(), settings.is12Hours()); }
+
 ManualReading ManualReadingDialog::typed() const {
-    day->interpretText();
-    time->interpretText();
-    return {typedTime(day->date().toString(u"yyyy-MM-dd"_s), time->time().toString(timePattern)),
-            numberIn(*sys), numberIn(*dia), numberIn(*pulse)};
+    return {typedTime(day->typed().toString(u"yyyy-MM-dd"_s), timeIn().toString(timePattern)), numberIn(*sys),
+            numberIn(*dia), numberIn(*pulse)};
 }
 
-QWidget* ManualReadingDialog::fieldOf(ManualProblem problem) const {
+QLineEdit* ManualReadingDialog::fieldOf(ManualProblem problem) const {
     switch (problem) {
     case ManualProblem::noDate:
     case ManualProblem::tooEarly:
@@ -121,13 +131,22 @@ QWidget* ManualReadingDialog::fieldOf(ManualProblem problem) const {
     return nullptr;
 }
 
+void ManualReadingDialog::refuse(QLineEdit& field, const QString& why) {
+    showProblem(*problemLine, why);
+    field.setFocus();
+    field.selectAll();
+}
+
 void ManualReadingDialog::accept() {
+    constexpr int morning = 8 * 60 + 5, evening = 20 * 60 + 5; // examples
+    if (!day->typed().isValid()) return refuse(*day, qtTrId("dayUnread").arg(day->text(), day->form()));
+    if (!timeIn().isValid())
+        return refuse(
+            *time,
+            qtTrId("timeUnread").arg(time->text(), settings.timeText(morning), settings.timeText(evening)));
     const ManualReading reading = typed();
     const auto problem = manualProblem(reading, std::chrono::floor<Instant::duration>(clock.now()));
-    if (problem) {
-        showProblem(*problemLine, describe(*problem));
-        return fieldOf(*problem)->setFocus();
-    }
+    if (problem) return refuse(*fieldOf(*problem), describe(*problem));
     const QString refusal = store(reading);
     if (refusal.isNull()) return QDialog::accept();
     showProblem(*problemLine, refusal);

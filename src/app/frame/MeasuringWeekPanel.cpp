@@ -92,6 +92,10 @@ QLayout* MeasuringWeekPanel::makeChoices() {
     connect(cboWeekRule, &QComboBox::activated, this,
             [this](int chosen) { period.setWeekRule(averageRules[static_cast<std::size_t>(chosen)].rule); });
     connect(weekEnd, &DayEdit::confirmed, this, &MeasuringWeekPanel::pickEnd);
+    connect(weekEnd, &DayEdit::refused, this, [this](const QString& why) {
+        showWeek();
+        emit dayRefused(why);
+    });
     auto* row = new QHBoxLayout;
     row->setSpacing(Style::near);
     auto* label = new QLabel(qtTrId("weekTo"), this);

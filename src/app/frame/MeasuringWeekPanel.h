@@ -21,6 +21,9 @@ public:
 
     void LoadData() { showing.want(); }
 
+signals:
+    void dayRefused(const QString& why); ///< what was typed is no day; the field shows the week's end again
+
 private:
     void showWeek();
     QLayout* makeChoices();

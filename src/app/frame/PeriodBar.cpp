@@ -65,6 +65,7 @@ QWidget* PeriodBar::makeDays() {
         nameAsSeen(*edit, title, edit->accessibleName());
         row->addWidget(label);
         row->addWidget(edit);
+        connect(edit, &DayEdit::refused, this, &PeriodBar::refuse);
     }
     // A typed or refused end has the begin's words; only one that was chosen in the calendar has its own.
     connect(beginDay, &DayEdit::confirmed, this, [this] { pick(qtTrId("BeginDate")); });
@@ -158,8 +159,12 @@ void PeriodBar::offerUndated() {
 
 void PeriodBar::pick(const QString& refusal) {
     if (period.pickTimePeriod(beginDay->day(), endDay->day())) return;
+    refuse(refusal);
+}
+
+void PeriodBar::refuse(const QString& why) {
     showPeriod(); // before the message, which takes the focus from the field
-    panel.ShowMessage(refusal, qtTrId("DateError"));
+    panel.ShowMessage(why, qtTrId("DateError"));
 }
 
 } // namespace zel

@@ -38,6 +38,7 @@ private:
     void showPeriod();
     void offerUndated();
     void pick(const QString& refusal);
+    void refuse(const QString& why);
 
     const DataStore& store;
     DisplayPeriod& period;

@@ -2,6 +2,7 @@
 
 #include "app/frame/ExclusionDialog.h"
 #include "app/frame/ManualReadingDialog.h"
+#include "app/widgets/PatientTexts.h"
 #include "store/ManualReading.h"
 #include "store/Text.h"
 
@@ -17,6 +18,13 @@ bool isCounting(const ReadingModel& reading) { return !reading.isExcluded(); }
 bool isLeftOut(const ReadingModel& reading) { return reading.isExcluded(); }
 bool isTypedIn(const ReadingModel& reading) { return reading.isManual; }
 
+bool isAsTyped(const ReadingModel& reading, const ManualReading& typed) {
+    const auto minute = [](const Date& date) { return std::chrono::floor<std::chrono::minutes>(*date); };
+    return reading.isManual && reading.ReadingDate && typed.time
+           && minute(reading.ReadingDate) == minute(typed.time) && reading.sys == typed.sys
+           && reading.dia == typed.dia && reading.pulse == typed.pulse;
+}
+
 } // namespace
 
 QString readingsInWords(const ReadingList& readings, const SettingModel& settings) {
@@ -27,6 +35,14 @@ QString readingsInWords(const ReadingList& readings, const SettingModel& setting
         .arg(one.sys)
         .arg(one.dia)
         .arg(one.pulse);
+}
+
+QString storedInWords(const ReadingModel& reading, const ReadingSelection& selection,
+                      const SettingModel& settings) {
+    const QString inWords = readingsInWords({reading}, settings);
+    if (isListed(reading, selection)) return qtTrId("readingStored").arg(inWords);
+    const bool isInDays = reading.ReadingDate && selection.period.contains(*reading.ReadingDate);
+    return (isInDays ? qtTrId("readingStoredOtherHalf") : qtTrId("readingStoredOutside")).arg(inWords);
 }
 
 ReadingActions::ReadingActions(const Parts& needed, std::function<Readings()> chosen, QWidget& view)
@@ -119,24 +135,37 @@ void ReadingActions::takeIn() {
 
 void ReadingActions::typeIn() {
     const QString ID = parts.store.getCurrentID();
+    ManualReading asked;
     ManualReadingDialog dialog(
-        parts.store.getSetting(), parts.clock,
-        [&](const ManualReading& typed) { return refusalOf(parts.store.addReading(ID, typed)); },
+        parts.store.getSetting(), parts.clock, narrowPatientHeading(parts.store),
+        [&](const ManualReading& typed) {
+            asked = typed;
+            return refusalOf(parts.store.addReading(ID, typed));
+        },
         shownIn.window());
-    dialog.exec();
+    if (dialog.exec() == QDialog::Accepted) tellStored(asked);
 }
 
 void ReadingActions::change() {
     const ReadingList readings = copies(isTypedIn);
     if (readings.size() != 1) return;
+    ManualReading asked;
     ManualReadingDialog dialog(
-        parts.store.getSetting(), parts.clock,
+        parts.store.getSetting(), parts.clock, narrowPatientHeading(parts.store),
         [&](const ManualReading& typed) {
+            asked = typed;
             return refusalOf(parts.store.changeReading(readings.front(), typed));
         },
         shownIn.window());
     dialog.setReading(ManualReading::of(readings.front()));
-    dialog.exec();
+    if (dialog.exec() == QDialog::Accepted) tellStored(asked);
+}
+
+void ReadingActions::tellStored(const ManualReading& typed) {
+    const ReadingList& readings = parts.store.getReadingForCurID();
+    const auto found = std::ranges::find_if(
+        readings, [&typed](const ReadingModel& reading) { return isAsTyped(reading, typed); });
+    if (found != readings.end()) emit readingStored(*found);
 }
 
 void ReadingActions::remove() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/ReadingSelection.h"
 #include "store/Clock.h"
 #include "store/DataStore.h"
 #include "store/MessagePanel.h"
@@ -31,6 +32,10 @@ public:
     [[nodiscard]] const QList<QAction*>& actions() const { return all; }
     [[nodiscard]] QAction* newReading() const { return typeInAction; }
 
+signals:
+    /// A reading that was typed in or changed, as it is in the store now.
+    void readingStored(const ReadingModel& reading);
+
 private:
     QAction* add(const QString& name, const QString& text, const QKeySequence& keys,
                  void (ReadingActions::*act)());
@@ -40,6 +45,7 @@ private:
     void typeIn();
     void change();
     void remove();
+    void tellStored(const ManualReading& typed);
     bool isDone(const StoreResult& result) const;
     template <class Result>
     [[nodiscard]] QString refusalOf(const Result& result) const;
@@ -54,6 +60,10 @@ private:
     QAction* changeAction;
     QAction* removeAction;
 };
+
+/// That the reading is stored, and whether a view of that selection shows it.
+[[nodiscard]] QString storedInWords(const ReadingModel& reading, const ReadingSelection& selection,
+                                    const SettingModel& settings);
 
 /// "20/11/2026 07:05, 150/90, pulse 70" for one; "3 readings" for several.
 [[nodiscard]] QString readingsInWords(const ReadingList& readings, const SettingModel& settings);

@@ -40,6 +40,8 @@ ReadingFrame::ReadingFrame(const Parts& needed, QWidget& view, QWidget* parent)
     connect(&needed.period, &DisplayPeriod::changed, this, &ReadingFrame::showHeading);
     connect(&needed.store, &DataStore::reloaded, this, &ReadingFrame::summarize);
     connect(&needed.store, &DataStore::currentIDChanged, this, &ReadingFrame::summarize);
+    connect(weekPanel, &MeasuringWeekPanel::dayRefused, this,
+            [this](const QString& why) { parts.panel.ShowMessage(why, qtTrId("DateError")); });
     connect(commentPanel, &CommentViewController::wanted, this, [this] { btnSide->setChecked(true); });
     connect(
         commentPanel, &CommentViewController::wanted, side,

@@ -62,6 +62,9 @@ void GraphViewController::build() {
     noReadings->addAction(readingActions->newReading());
     noReadings->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(charts, &DrawGraphicVC::chosenReadingChanged, readingActions, &ReadingActions::update);
+    connect(readingActions, &ReadingActions::readingStored, this, [this](const ReadingModel& reading) {
+        emit said(storedInWords(reading, parts.period.selection(), parts.store.getSetting()));
+    });
     auto* bar = new QHBoxLayout;
     bar->addWidget(makeSwitch());
     bar->addStretch(1);

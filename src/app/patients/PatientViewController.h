@@ -65,7 +65,6 @@ signals:
     void backupsWanted();
     void updateUIWanted(); ///< the monitor's ID has been changed
     void rosterChanged(bool hasPatients);
-    void said(const QString& text); ///< what has been done
     void
     replaced(const QString& name); ///< the patient shown is not in the file any more, another one will be
 

@@ -43,8 +43,10 @@ AppController::AppController(const Parts& needed, const Timing& times)
       pages{patientPage, graphPage, tablePage},
       questions({needed.store, needed.panel, needed.clock, needed.languageFile}),
       unsaved({needed.store, needed.panel, pages, [this] { return isClosing; }}) {
-    for (PageController* page : pages)
+    for (PageController* page : pages) {
         window.addPage(*page);
+        connect(page, &PageController::said, &window, &MainWindow::showOutcome);
+    }
     courier = new BackupCourier(needed.store, needed.clock, this);
     makeDialogs();
     makePageMenus();
@@ -78,7 +80,6 @@ AppController::AppController(const Parts& needed, const Timing& times)
     connect(patientPage, &PatientViewController::updateUIWanted, &watch, &MonitorWatch::updateUI);
     connect(patientPage, &PatientViewController::rosterChanged, this, &AppController::enable2Tabs);
     connect(patientPage, &PatientViewController::replaced, this, &AppController::tellReplaced);
-    connect(patientPage, &PatientViewController::said, &window, &MainWindow::showOutcome);
     offers = new MonitorOffers(window.monitorBar(),
                                {needed.store, needed.status, *patientPage, [this] { return showPatients(); }},
                                this);

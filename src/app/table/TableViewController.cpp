@@ -143,6 +143,18 @@ void TableViewController::addActions() {
         each->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(tblReadings->selectionModel(), &QItemSelectionModel::selectionChanged, readingActions,
             &ReadingActions::update);
+    connect(readingActions, &ReadingActions::readingStored, this, &TableViewController::showStored);
+}
+
+/// Its row, if it has one; where it has none, the words say why.
+void TableViewController::showStored(const ReadingModel& reading) {
+    emit said(storedInWords(reading, parts.period.selection(), parts.store.getSetting()));
+    for (int row = 0; row < readingModelArray->rowCount(); ++row) {
+        const ReadingModel* listed = readingModelArray->readingAt(row);
+        if (!listed || listed->RecID != reading.RecID || !listed->isSame(reading)) continue;
+        tblReadings->selectRow(row);
+        return tblReadings->scrollTo(tblReadings->currentIndex());
+    }
 }
 
 /// What is selected stays so where it can, of the same patient. Who looks at the latest readings goes on to

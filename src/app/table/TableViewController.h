@@ -60,6 +60,7 @@ private:
     void followSorting();
     void addBoxes();
     void addActions();
+    void showStored(const ReadingModel& reading);
     void reload() { listing.want(); }
     void listReadings();
     void chooseComment(const QModelIndex& index);

@@ -31,6 +31,9 @@ public:
     [[nodiscard]] virtual QJsonArray saveQuietly() { return {}; }
     /// Goes on with what saveQuietly() could not save when the program ended. \return false if it cannot now
     [[nodiscard]] virtual bool takeUp(const QJsonObject&) { return false; }
+
+signals:
+    void said(const QString& text); ///< what has been done
 };
 
 } // namespace zel

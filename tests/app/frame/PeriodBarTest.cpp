@@ -2,9 +2,8 @@
 #include "app/widgets/PageHeading.h"
 #include "support/ReadingPageTest.h"
 
-#include <QCalendarWidget>
 #include <QCheckBox>
-#include <QDateEdit>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -29,6 +28,12 @@ protected:
     void openYear() {
         storeYear();
         open(new ReadingFrame({store, period, panel, clock}, *new QWidget, nullptr));
+    }
+    /// Of the field's calendar, which is opened.
+    QWidget* calendarOf(const char* field) {
+        const QString name = QLatin1String(field) + u"Calendar"_s;
+        if (!part<QWidget>(field).findChild<QWidget*>(name)) click((QByteArray(field) + "Arrow").constData());
+        return part<QWidget>(field).findChild<QWidget*>(name)->findChild<QTableView*>();
     }
     /// Average, lowest and highest systolic pressure in the figures beside.
     QString systolic() {
@@ -261,23 +266,28 @@ TEST_F(PeriodBarTest, daysOutOfOrderAreRefusedAndPutBack) {
         EXPECT_EQ(dayIn(field), before);
         panel.messages.clear();
     }
-    auto& endDay = find<QDateEdit>("endDay");
-    QTest::mousePress(&endDay, Qt::LeftButton, {}, {endDay.width() - 8, endDay.height() / 2});
-    auto* days = endDay.calendarWidget()->findChild<QTableView*>();
-    ASSERT_TRUE(days->isVisible());
+    auto& endDay = find<QLineEdit>("endDay");
     for (int months = 0; months < 4; ++months)
-        QTest::keyClick(days, Qt::Key_PageUp);
+        QTest::keyClick(calendarOf("endDay"), Qt::Key_PageUp);
     EXPECT_TRUE(panel.messages.empty()) << "not while the calendar is looked at";
-    QTest::keyClick(days, Qt::Key_Return);
+    QTest::keyClick(calendarOf("endDay"), Qt::Key_Return);
     waitFor([this] { return !panel.messages.empty(); });
     EXPECT_EQ(panel.messages, QStringList(message(qtTrId("EndDate"))));
     EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s);
     EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::custom);
     clickPart("viewAll");
-    QTest::mousePress(&endDay, Qt::LeftButton, {}, {endDay.width() - 8, endDay.height() / 2});
-    QTest::keyClick(days, Qt::Key_Escape);
+    QTest::keyClick(calendarOf("endDay"), Qt::Key_PageUp);
+    QTest::keyClick(calendarOf("endDay"), Qt::Key_Escape);
     QCoreApplication::processEvents();
-    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::viewAll) << "the same days are no choice";
+    EXPECT_EQ(period.getSelectViewIndex(), ViewSelection::viewAll) << "given up";
+    endDay.setFocus(Qt::TabFocusReason);
+    press(Qt::Key_F4);
+    QTest::keyClick(calendarOf("endDay"), Qt::Key_Right);
+    QTest::keyClick(calendarOf("endDay"), Qt::Key_Return);
+    waitFor([this] { return dayIn("endDay") == u"21/03/2026"_s; });
+    QTest::keyClick(&endDay, Qt::Key_Down);
+    EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s);
+    EXPECT_TRUE(period.getTimePeriod().end == DateToDayBoundary(at(u"202603200000"_s), false));
     editor().setFocus();
     rollOver(endDay);
     EXPECT_EQ(dayIn("endDay"), u"20/03/2026"_s) << "the wheel only passed";

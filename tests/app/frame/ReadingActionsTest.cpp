@@ -2,11 +2,9 @@
 
 #include "support/ReadingPageTest.h"
 
-#include <QDateEdit>
 #include <QDialog>
 #include <QLineEdit>
 #include <QTest>
-#include <QTimeEdit>
 #include <QTimer>
 
 namespace zel {
@@ -46,6 +44,8 @@ protected:
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr) << name;
             isShown = true;
+            dialog->activateWindow();
+            waitFor([dialog] { return dialog->isActiveWindow(); });
             act(*dialog);
             dialog->reject();
         });
@@ -153,8 +153,9 @@ TEST_F(ReadingActionsTest, readingIsTypedInChangedAndDeleted) {
     choose({});
     inDialog("newReading", [](QDialog& dialog) {
         expectNamed(dialog);
-        EXPECT_EQ(dialog.findChild<QDateEdit*>(u"readingDay"_s)->text(), u"21/11/2026"_s);
-        EXPECT_EQ(dialog.findChild<QTimeEdit*>(u"readingTime"_s)->time(), QTime(9, 0));
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"readingDay"_s)->text(), u"21/11/2026"_s);
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"readingTime"_s)->text(), u"09:00 A"_s);
+        EXPECT_EQ(said(dialog, "readingPatient"), u"Kim Adams (ID P1)"_s);
         const auto save = [&] {
             QTest::keyClick(dialog.findChild<QWidget*>(u"readingSys"_s), Qt::Key_Return);
         };
@@ -173,10 +174,10 @@ TEST_F(ReadingActionsTest, readingIsTypedInChangedAndDeleted) {
         EXPECT_EQ(refused(), describe(ManualProblem::diaNotBelowSys));
         EXPECT_EQ(dialog.focusWidget(), dialog.findChild<QWidget*>(u"readingDia"_s));
         write(dialog, "readingDia", u"82"_s);
-        dialog.findChild<QTimeEdit*>(u"readingTime"_s)->setTime({9, 1});
+        write(dialog, "readingTime", u"9:01 a"_s);
         save();
         EXPECT_EQ(refused(), describe(ManualProblem::inFuture));
-        dialog.findChild<QTimeEdit*>(u"readingTime"_s)->setTime({8, 59});
+        write(dialog, "readingTime", u"8:59 a"_s);
         save();
         EXPECT_EQ(refused(), u"stored"_s);
     });
@@ -190,7 +191,7 @@ TEST_F(ReadingActionsTest, readingIsTypedInChangedAndDeleted) {
     });
     EXPECT_EQ(shown(), u"121 122 123 130m"_s);
     inDialog("newReading", [](QDialog& dialog) {
-        dialog.findChild<QTimeEdit*>(u"readingTime"_s)->setTime({8, 59});
+        write(dialog, "readingTime", u"8:59 a"_s);
         write(dialog, "readingSys", u"130"_s);
         write(dialog, "readingDia", u"82"_s);
         write(dialog, "readingPulse", u"60"_s);
@@ -221,6 +222,68 @@ TEST_F(ReadingActionsTest, whatWouldCountTwiceStaysLeftOutAndIsTold) {
     pressKeyOf("takeInReadings");
     EXPECT_EQ(shown(), u"121 125 123 122!m 122"_s);
     EXPECT_EQ(panel.messages, QStringList{u"Warning: "_s + qtTrId("stillLeftOutTwice", 1)});
+}
+
+TEST_F(ReadingActionsTest, dateAndTimeAreStoredAsTypedOrRefusedInWordsHoweverTheFieldsAreEntered) {
+    const QString half = u"12-hours"_s, full = u"24-hours"_s, october = u"202610050805"_s;
+    const auto noDay = [](const QString& text) { return qtTrId("dayUnread").arg(text, u"DD/MM/YYYY"_s); };
+    const auto noTime = [this](const QString& text) {
+        const SettingModel& settings = store.getSetting();
+        return qtTrId("timeUnread").arg(text, settings.timeText(8 * 60 + 5), settings.timeText(20 * 60 + 5));
+    };
+    const struct {
+        QString clock, day, time;
+        QString stored; ///< null: refused
+        std::function<QString()> why = [] { return QString(); };
+    } cases[]{
+        {half, u"05/10/2026"_s, u"08:05 A"_s, october},
+        {half, u"5/10/2026"_s, u"8:05 pm"_s, u"202610052005"_s},
+        {half, u"05102026"_s, u"0805a"_s, october},
+        {half, u"5/10/2026"_s, u"8:05"_s, {}, [&] { return noTime(u"8:05"_s); }},
+        {full, u"05/10/2026"_s, u"08:05"_s, october},
+        {full, u"5.10.2026"_s, u"8:05"_s, october},
+        {full, u"05/10/2026"_s, u"25:00"_s, {}, [&] { return noTime(u"25:00"_s); }},
+        {full, u"31/02/2026"_s, u"8:05"_s, {}, [&] { return noDay(u"31/02/2026"_s); }},
+        {full, u"5/10/26"_s, u"8:05"_s, {}, [&] { return noDay(u"5/10/26"_s); }},
+        {full, u"05/10/0206"_s, u"8:05"_s, {}, [] { return describe(ManualProblem::tooEarly); }},
+    };
+    int sys = 130;
+    for (const auto& each : cases) {
+        store.getSetting().timeFormat = each.clock;
+        ASSERT_TRUE(store.saveSetting());
+        for (const char* entered : {"click", "Tab", "Shift+Tab", "Ctrl+A"}) {
+            const auto act = [&](QDialog& dialog) {
+                write(dialog, "readingSys", QString::number(++sys));
+                write(dialog, "readingDia", u"80"_s);
+                write(dialog, "readingPulse", u"60"_s);
+                for (const auto& [name, text] :
+                     {std::pair(u"readingTime"_s, each.time), {u"readingDay"_s, each.day}}) {
+                    auto* field = dialog.findChild<QWidget*>(name);
+                    enter(*field, entered);
+                    QTest::keyClicks(field, text);
+                }
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+                EXPECT_EQ(said(dialog, "readingProblem"), each.why()) << entered;
+                EXPECT_EQ(dialog.isVisible(), each.stored.isNull());
+            };
+            inDialog("newReading", act);
+            const ReadingModel& last = store.getReadingForCurID().back();
+            EXPECT_EQ(last.sys == static_cast<std::uint32_t>(sys), !each.stored.isNull());
+            if (each.stored.isNull()) continue;
+            EXPECT_EQ(DateToStr(last.ReadingDate, u"yyyyMMddHHmm"_s), each.stored) << entered;
+        }
+    }
+}
+
+TEST_F(ReadingActionsTest, itIsSaidWhetherTheReadingIsShown) {
+    const ReadingModel morning = store.getReadingForCurID().back(); // on 10 March
+    for (const auto& [last, view, words] :
+         {std::tuple(u"202603102359"_s, ViewSelection::amOnly, "readingStored"),
+          std::tuple(u"202603102359"_s, ViewSelection::pmOnly, "readingStoredOtherHalf"),
+          std::tuple(u"202603092359"_s, ViewSelection::custom, "readingStoredOutside")})
+        EXPECT_EQ(
+            storedInWords(morning, {{at(u"202603010000"_s), at(last)}, view, false}, store.getSetting()),
+            qtTrId(words).arg(readingsInWords({morning}, store.getSetting())));
 }
 
 TEST_F(ReadingActionsTest, onlyWhatMakesSenseCanBeChosen) {

@@ -11,10 +11,12 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 namespace zel {
 
@@ -81,6 +83,34 @@ TEST_F(TableViewTest, theRowsAreThoseOfThePeriod) {
         press(Qt::Key_Return);
     }
     EXPECT_TRUE(page("noneInPeriod").isVisible());
+}
+
+TEST_F(TableViewTest, aReadingThatIsTypedInIsSelectedOrItIsSaidThatItLiesOutside) {
+    storeYear(); // shown from 20/12/2025 on
+    openTable();
+    QStringList said;
+    QObject::connect(&find<TableViewController>("TableViewController"), &TableViewController::said, &table(),
+                     [&said](const QString& text) { said += text; });
+    const auto typeIn = [this](const QString& day) {
+        QTimer::singleShot(0, qApp, [day] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            for (const auto& [name, text] : {std::pair(u"readingDay"_s, day),
+                                             {u"readingSys"_s, u"177"_s},
+                                             {u"readingDia"_s, u"80"_s},
+                                             {u"readingPulse"_s, u"60"_s}})
+                dialog->findChild<QLineEdit*>(name)->setText(text);
+            QTest::mouseClick(dialog->findChild<QWidget*>(u"btnSaveReading"_s), Qt::LeftButton);
+        });
+        action("newReading").trigger();
+    };
+    typeIn(u"02/03/2026"_s);
+    ASSERT_EQ(table().selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(cell(table().currentIndex().row(), ReadingTableModel::sys), u"177"_s);
+    typeIn(u"19/12/2025"_s);
+    EXPECT_EQ(said.size(), 2);
+    EXPECT_TRUE(said.last().startsWith(qtTrId("readingStoredOutside").section(u'%', 0, 0)));
+    EXPECT_TRUE(said.last().endsWith(qtTrId("readingStoredOutside").section(u"%1"_s, 1)));
+    EXPECT_NE(said.first(), said.last());
 }
 
 TEST_F(TableViewTest, theTableFollowsTheSettings) {
