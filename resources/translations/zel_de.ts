@@ -705,8 +705,8 @@ Soll ihnen der Zugriff verwehrt werden? Geändert werden nur die Zugriffsrechte 
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, am %2</translation></message>
     <message id="readingStored"><translation>Gespeichert: %1.</translation></message>
-    <message id="readingStoredOtherHalf"><translation>Gespeichert: %1. Die Messung liegt außerhalb der angezeigten Tageszeit.</translation></message>
-    <message id="readingStoredOutside"><translation>Gespeichert: %1. Die Messung liegt außerhalb der angezeigten Tage.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Gespeichert, außerhalb der angezeigten Tageszeit: %1.</translation></message>
+    <message id="readingStoredOutside"><translation>Gespeichert, außerhalb der angezeigten Tage: %1.</translation></message>
     <message id="readingTime"><translation>Uhrzeit</translation></message>
     <message id="readingTotal"><translation>Messungen dieses Patienten</translation></message>
     <message id="redoFailed"><translation>„%1“ wurde nicht wiederholt. %2</translation></message>

@@ -705,8 +705,8 @@ Shall they be kept out? Only the permissions of the data file, of its folder and
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, on %2</translation></message>
     <message id="readingStored"><translation>Stored: %1.</translation></message>
-    <message id="readingStoredOtherHalf"><translation>Stored: %1. It lies outside the time of day that is shown.</translation></message>
-    <message id="readingStoredOutside"><translation>Stored: %1. It lies outside the days shown.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Stored, outside the time of day shown: %1.</translation></message>
+    <message id="readingStoredOutside"><translation>Stored, outside the days shown: %1.</translation></message>
     <message id="readingTime"><translation>Time</translation></message>
     <message id="readingTotal"><translation>Readings of this patient</translation></message>
     <message id="redoFailed"><translation>“%1” was not done again. %2</translation></message>

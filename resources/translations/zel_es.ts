@@ -705,8 +705,8 @@ mmHg</translation></message>
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, el %2</translation></message>
     <message id="readingStored"><translation>Guardada: %1.</translation></message>
-    <message id="readingStoredOtherHalf"><translation>Guardada: %1. Queda fuera del momento del día mostrado.</translation></message>
-    <message id="readingStoredOutside"><translation>Guardada: %1. Queda fuera de los días que se muestran.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Guardada, fuera del momento del día mostrado: %1.</translation></message>
+    <message id="readingStoredOutside"><translation>Guardada, fuera de los días mostrados: %1.</translation></message>
     <message id="readingTime"><translation>Hora</translation></message>
     <message id="readingTotal"><translation>Mediciones de este paciente</translation></message>
     <message id="redoFailed"><translation>No se ha rehecho «%1». %2</translation></message>

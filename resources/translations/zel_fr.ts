@@ -705,8 +705,8 @@ Faut-il leur en retirer l’accès ? Seuls les droits d’accès du fichier de
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, le %2</translation></message>
     <message id="readingStored"><translation>Enregistrée : %1.</translation></message>
-    <message id="readingStoredOtherHalf"><translation>Enregistrée : %1. Elle est en dehors des heures affichées.</translation></message>
-    <message id="readingStoredOutside"><translation>Enregistrée : %1. Elle est en dehors des jours affichés.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Enregistrée, hors des heures affichées : %1.</translation></message>
+    <message id="readingStoredOutside"><translation>Enregistrée, hors des jours affichés : %1.</translation></message>
     <message id="readingTime"><translation>Heure</translation></message>
     <message id="readingTotal"><translation>Mesures de ce patient</translation></message>
     <message id="redoFailed"><translation>L’action « %1 » n’a pas été rétablie. %2</translation></message>

@@ -705,8 +705,8 @@ Impedirne l’accesso? Vengono modificati solo i permessi del file dei dati, del
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, il %2</translation></message>
     <message id="readingStored"><translation>Registrata: %1.</translation></message>
-    <message id="readingStoredOtherHalf"><translation>Registrata: %1. È al di fuori della parte del giorno mostrata.</translation></message>
-    <message id="readingStoredOutside"><translation>Registrata: %1. È al di fuori dei giorni mostrati.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Registrata, fuori dalla parte del giorno mostrata: %1.</translation></message>
+    <message id="readingStoredOutside"><translation>Registrata, fuori dai giorni mostrati: %1.</translation></message>
     <message id="readingTime"><translation>Ora</translation></message>
     <message id="readingTotal"><translation>Misurazioni del paziente</translation></message>
     <message id="redoFailed"><translation>Non è stato possibile ripetere “%1”. %2</translation></message>

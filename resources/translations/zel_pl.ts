@@ -705,8 +705,8 @@ Odebrać im dostęp? Zmienione zostaną tylko uprawnienia do pliku danych, jego 
     <message id="readingsNoted"><translation>%1. %2</translation></message>
     <message id="readingsOn"><translation>%1, dnia %2</translation></message>
     <message id="readingStored"><translation>Zapisano: %1.</translation></message>
-    <message id="readingStoredOtherHalf"><translation>Zapisano: %1. Leży poza pokazywaną porą dnia.</translation></message>
-    <message id="readingStoredOutside"><translation>Zapisano: %1. Leży poza pokazywanymi dniami.</translation></message>
+    <message id="readingStoredOtherHalf"><translation>Zapisano, poza pokazywaną porą dnia: %1.</translation></message>
+    <message id="readingStoredOutside"><translation>Zapisano, poza pokazywanymi dniami: %1.</translation></message>
     <message id="readingTime"><translation>Godzina</translation></message>
     <message id="readingTotal"><translation>Pomiary tego pacjenta</translation></message>
     <message id="redoFailed"><translation>Nie ponowiono: „%1”. %2</translation></message>

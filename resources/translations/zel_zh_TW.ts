@@ -705,8 +705,8 @@ mmHg</translation></message>
     <message id="readingsNoted"><translation>%1。%2</translation></message>
     <message id="readingsOn"><translation>%1，%2</translation></message>
     <message id="readingStored"><translation>已儲存：%1。</translation></message>
-    <message id="readingStoredOtherHalf"><translation>已儲存：%1。這筆量測不在目前顯示的時段內。</translation></message>
-    <message id="readingStoredOutside"><translation>已儲存：%1。這筆量測不在目前顯示的日期內。</translation></message>
+    <message id="readingStoredOtherHalf"><translation>已儲存，但不在顯示的時段內：%1。</translation></message>
+    <message id="readingStoredOutside"><translation>已儲存，但不在顯示的日期內：%1。</translation></message>
     <message id="readingTime"><translation>時間</translation></message>
     <message id="readingTotal"><translation>這位病患的量測</translation></message>
     <message id="redoFailed"><translation>「%1」未能重做。%2</translation></message>

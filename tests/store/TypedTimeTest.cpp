@@ -1,5 +1,8 @@
 #include "store/TypedTime.h"
 
+#include "store/SettingModel.h"
+#include "support/RealTexts.h"
+
 #include <gtest/gtest.h>
 
 namespace zel {
@@ -40,6 +43,21 @@ TEST(TypedTime, aTimeOfDayIsTakenAsItIsOrNotAtAll) {
     for (const auto& each : cases)
         EXPECT_EQ(typedTimeOfDay(each.text, each.is12Hours).toString(u"HH:mm"_s), each.time)
             << qPrintable(each.text);
+}
+
+TEST(TypedTime, aTimeAsItIsShownIsReadAgainInEveryLanguage) {
+    SettingModel settings;
+    for (const Language& language : languages()) {
+        const RealTexts texts(language);
+        for (const char* format : {"12-hours", "24-hours"}) {
+            settings.timeFormat = QLatin1String(format);
+            for (const int minute : {0, 5, 8 * 60 + 5, 12 * 60, 20 * 60 + 5}) {
+                const QString shown = settings.timeText(minute);
+                EXPECT_EQ(typedTimeOfDay(shown, settings.is12Hours()), QTime(minute / 60, minute % 60))
+                    << qPrintable(shown);
+            }
+        }
+    }
 }
 
 } // namespace zel

@@ -39,7 +39,7 @@ private:
     [[nodiscard]] QLineEdit* fieldOf(ManualProblem problem) const;
     void refuse(QLineEdit& field, const QString& why);
 
-    const SettingModel settings;
+    SettingModel settings;
     const Clock& clock;
     Store store;
     DayEdit* day;

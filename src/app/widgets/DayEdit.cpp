@@ -86,6 +86,7 @@ void DayEdit::write() {
     const QString written = given.toString(pattern);
     setModified(false);
     if (text() != written) setText(written);
+    if (hasFocus()) selectAll(); // what is typed next takes its place
 }
 
 void DayEdit::finish() {
@@ -94,10 +95,9 @@ void DayEdit::finish() {
     setModified(false); // it has been judged: showDay() may write over it
     if (!isUsual(day)) {
         emit refused(qtTrId("dayUnreadLeft").arg(text(), form()));
-    } else {
-        take(day, false);
+        return;
     }
-    if (hasFocus()) selectAll();
+    take(day, false);
 }
 
 void DayEdit::take(const QDate& day, bool inCalendar) {
