@@ -365,6 +365,12 @@ TEST_F(ReadingChangeTest, NothingComesBackBesideWhatADownloadBrought) {
         EXPECT_EQ(codeOf(store.redo()), refusal ? std::optional{noStep} : std::nullopt) << what;
         EXPECT_EQ(shown(), redone) << what;
     }
+    setData({});
+    add();
+    ASSERT_TRUE(store.excludeReadings({readings().front()}, u"x"_s));
+    const InZone tokyo{"Asia/Tokyo"};
+    ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 07:00")}));
+    EXPECT_EQ(codeOf(store.undo()), stepThere) << "by what the monitor's clock showed";
 }
 
 TEST_F(ReadingChangeTest, ExportAndImportKeepMarks) {
