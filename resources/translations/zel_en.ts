@@ -867,7 +867,7 @@ So this step is left out from now on; the others are not concerned.</translation
     <message id="weekEvenings"><translation>PM %1</translation></message>
     <message id="weekExcluded" numerus="yes"><translation><numerusform>%n left out</numerusform><numerusform>%n left out</numerusform></translation></message>
     <message id="weekExcludedLater" numerus="yes"><translation><numerusform>%n of later days left out</numerusform><numerusform>%n of later days left out</numerusform></translation></message>
-    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
+    <message id="weekFirstDay" numerus="yes"><translation><numerusform>%n of the first day not counted</numerusform><numerusform>%n of the first day not counted</numerusform></translation></message>
     <message id="weekMean"><translation>%1 mmHg</translation></message>
     <message id="weekMeanHint"><translation>Mean %1/%2 mmHg, pulse %3</translation></message>
     <message id="weekMissing"><translation>Incomplete, needs %1</translation></message>
@@ -1048,7 +1048,7 @@ Open another window beside it? That does no harm: what both save is kept.</trans
     <message id="summaryEvening"><translation>Evening</translation></message>
     <message id="summaryEvenings"><translation>Evening %1</translation></message>
     <message id="summaryExcluded"><translation>%1 %2  %3/%4: %5</translation></message>
-    <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n of the first day left out</numerusform><numerusform>%n of the first day left out</numerusform></translation></message>
+    <message id="summaryFirstDay" numerus="yes"><translation><numerusform>%n of the first day not counted</numerusform><numerusform>%n of the first day not counted</numerusform></translation></message>
     <message id="summaryFlagged" numerus="yes"><translation><numerusform>Arrhythmia flagged (%1): %2 of %n reading</numerusform><numerusform>Arrhythmia flagged (%1): %2 of %n readings</numerusform></translation></message>
     <message id="summaryHigh"><translation>At or above %1</translation></message>
     <message id="summaryHighOf" numerus="yes"><translation><numerusform>%1 of %n reading</numerusform><numerusform>%1 of %n readings</numerusform></translation></message>

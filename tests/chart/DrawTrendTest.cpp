@@ -357,7 +357,7 @@ TEST(DrawTrend, CountsThePointsThatReachBeyondTheScale) {
               {221, 90, 70, u"2 points reach above the scale"_s},
               {120, 39, 70, u"2 points reach below the scale"_s},
               {120, 80, 121, u"2 points reach above the scale"_s},
-              {4'294'967'295, 0, 70, u"2 points reach above the scale, 2 points reach below the scale"_s}};
+              {999, 1, 70, u"2 points reach above the scale, 2 points reach below the scale"_s}};
     for (const auto& [sys, dia, pulse, text] : cases) {
         TrendOf trend{.apart = true};
         for (const std::size_t at : {0U, 1U})

@@ -228,7 +228,7 @@ TEST(Summary, inventsNoDaysForAPatientWithoutADatedReading) {
 
 TEST(Summary, saysThatNoReadingOfTheWeekCountsYetWhereThereAreSome) {
     for (const auto& [reason, words] :
-         {std::pair(QString(), "0 readings on 0 days; 2 of the first day left out"),
+         {std::pair(QString(), "0 readings on 0 days; 2 of the first day not counted"),
           {u"loose cuff"_s, "2 of the week left out"}}) {
         SampleReport sample;
         add(sample, "2019-03-02 07:00", 150, 80).exclusion = reason;
@@ -565,7 +565,7 @@ TEST(Summary, hasTheFiguresOfThePeriod) {
         u"Evening 120/70"_s,
         u"Below the threshold of 135/85 (to a tenth: 127.7/81.0)"_s,
         u"Incomplete, needs 9 more readings"_s,
-        u"3 readings on 2 days; 2 of the first day left out"_s,
+        u"3 readings on 2 days; 2 of the first day not counted"_s,
         // 150/90, 140/80, 130/85 and 133/88
         u"At or above 140/85 mmHg"_s,
         u"80 %"_s,

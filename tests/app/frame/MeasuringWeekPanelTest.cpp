@@ -51,7 +51,7 @@ TEST_F(MeasuringWeekPanelTest, theAverageFollowsRuleAndDay) {
     EXPECT_EQ(hint("lblWeekMean"), u"Mean 134.7/80.0 mmHg, pulse 65.0"_s);
     EXPECT_EQ(text("lblWeekHalves"), u"AM 140/80, PM 129/80"_s);
     EXPECT_EQ(hint("lblWeekHalves"), u"AM 140.0/80.0, PM 129.0/80.0"_s);
-    EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 of the first day left out"_s);
+    EXPECT_EQ(text("lblWeekCount"), u"23 readings on 6 days; 4 of the first day not counted"_s);
     EXPECT_FALSE(find<QLabel>("lblWeekMissing").isVisible());
     EXPECT_FALSE(find<QLabel>("lblWeekZone").isVisible());
     replaceDataFile(dataFile().replace("2026-03-12T07:00:00+01:00", "2026-03-12T01:00:00-05:00"));
@@ -87,7 +87,7 @@ TEST_F(MeasuringWeekPanelTest, theLastDayIsFollowedAgainOnceItIsPicked) {
     ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID().back()}, u"wrong cuff"_s));
     ASSERT_TRUE(store.loadXML());
     EXPECT_EQ(dayIn("weekEnd"), u"17/03/2026"_s);
-    EXPECT_TRUE(text("lblWeekCount").contains(u"1 left out by the user"_s))
+    EXPECT_TRUE(text("lblWeekCount").contains(u"1 of later days left out"_s))
         << qPrintable(text("lblWeekCount"));
 }
 

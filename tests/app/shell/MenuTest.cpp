@@ -153,6 +153,7 @@ TEST_F(MenuTest, aPatientGoesOutAsABundleWithWhatIsTypedAndByTheRuleChosen) {
     start();
     ReadingList taken(1);
     taken[0].sys = 121;
+    taken[0].dia = 81;
     taken[0].ReadingDate = StrToDate(u"202603011234"_s, u"yyyyMMddHHmm"_s);
     ASSERT_TRUE(store.newDataTransfer(taken));
     period.setWeekRule(AverageRule::aha);
