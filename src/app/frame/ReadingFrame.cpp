@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QStyle>
 #include <QToolButton>
 
 #include <algorithm>
@@ -87,7 +88,9 @@ QWidget* ReadingFrame::makeSide() {
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidgetResizable(true);
     scroll->setWidget(panels);
-    scroll->setFixedWidth(fontMetrics().averageCharWidth() * 40);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroll);
+    scroll->setFixedWidth(
+        std::max(fontMetrics().averageCharWidth() * 40, panels->minimumSizeHint().width() + bar));
     scroll->viewport()->setAutoFillBackground(false);
     panels->setAutoFillBackground(false);
     return scroll;

@@ -87,6 +87,9 @@ protected:
             SCOPED_TRACE(button);
             click(button);
             look(app->mainWndow(), QString::fromLatin1(button));
+            for (const auto* side : app->mainWndow().findChildren<QScrollArea*>(u"readingSide"_s))
+                EXPECT_TRUE(!side->isVisible() || side->widget()->width() <= side->viewport()->width())
+                    << "the panels' right edges are seen";
         }
         click("patientBtn");
         click("btnNewPatient");
