@@ -12,7 +12,7 @@ struct SpanMeans {
     DayNumber begin = noDay;
     DayNumber end = noDay;
     PressureMeans means{};
-    int excluded = 0;    ///< readings of these days that the user has left out
+    int excluded = 0;    ///< readings of these days that are left out
     int unmeasured = 0;  ///< those without pressures, which do not count
     int ofOtherZone = 0; ///< of the means, stored in another time zone than the computer's
 };

@@ -14,7 +14,7 @@ public:
     explicit DayMeans(const ReadingList& readings);
     /// Both days included.
     [[nodiscard]] PressureMeans between(DayNumber first, DayNumber last) const;
-    /// How many readings of these days the user has left out.
+    /// How many readings of these days are left out.
     [[nodiscard]] int excludedBetween(DayNumber first, DayNumber last) const;
     /// How many of the others have no pressures.
     [[nodiscard]] int unmeasuredBetween(DayNumber first, DayNumber last) const;

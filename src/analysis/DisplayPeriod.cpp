@@ -64,7 +64,8 @@ void DisplayPeriod::leaveChoice() {
     includeUndated = false;
 }
 
-/// A reading with a wrong date that the user left out must not have the days before it show nothing.
+/// A reading that does not count, as one left out for its wrong date, must not have the days before it show
+/// nothing.
 Period DisplayPeriod::upToLast(const std::function<Period(Instant)>& daysUpTo) const {
     const Period days = daysUpTo(data.end);
     const Date counted = firstInstant(lastMeasured);

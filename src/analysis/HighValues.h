@@ -11,7 +11,7 @@ namespace zel {
 /// Stands behind a value that is high, which is bold, too: neither colour nor weight alone tells it.
 inline constexpr QChar highMark = u'\u25B2';
 
-/// At the limit or above it; never by a limit of 0, nor of a reading that the user left out.
+/// At the limit or above it; never by a limit of 0, nor of a reading that is left out.
 [[nodiscard]] bool isSysHigh(const ReadingModel& reading, const LimitPair& limits);
 [[nodiscard]] bool isDiaHigh(const ReadingModel& reading, const LimitPair& limits);
 

@@ -56,7 +56,7 @@ struct ReadingSelection {
     return !reading.ReadingDate || reading.day == DayNumber{marker.time_since_epoch().count()};
 }
 
-/// Whether the list of readings has the reading, also one that the user left out.
+/// Whether the list of readings has the reading, also one that is left out.
 [[nodiscard]] inline bool isListed(const ReadingModel& reading, const ReadingSelection& selection) {
     if (hasUndatedMarker(reading)) return selection.includeUndated;
     return selection.period.contains(*reading.ReadingDate)

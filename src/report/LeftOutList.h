@@ -10,7 +10,7 @@
 
 namespace zel {
 
-/// How the readings that the user left out lie on pages behind a section that counts, each with its whole
+/// How the readings that are left out lie on pages behind a section that counts, each with its whole
 /// reason.
 struct LeftOutPages {
     std::vector<const ReadingModel*> readings;

@@ -10,7 +10,7 @@
 
 namespace zel {
 
-/// Which of the readings that the user left out a document counts somewhere, and so has to name.
+/// Which of the readings that are left out a document counts somewhere, and so has to name.
 struct LeftOutScope {
     bool isOfPeriod = false;   ///< those of the reporting period
     bool isOfSummary = false;  ///< also of the measuring week, and before and since the period's comments

@@ -32,7 +32,7 @@ struct SectionFacts {
 [[nodiscard]] std::span<const SectionFacts> sections();
 [[nodiscard]] const SectionFacts& facts(Section section);
 [[nodiscard]] std::optional<Section> sectionByKey(const QString& key);
-/// Whether the section is followed by the readings that the user left out, with their reasons.
+/// Whether the section is followed by the readings that are left out, with their reasons.
 [[nodiscard]] bool namesLeftOut(Section section);
 /// Whether it only counts them, and so is followed by their reasons where no other section names them all.
 [[nodiscard]] bool onlyCountsLeftOut(Section section);

@@ -6,7 +6,7 @@
 
 namespace zel {
 
-/// How many readings the page does not count and why, those that the user left out with their reasons as far
+/// How many readings the page does not count and why, those that are left out with their reasons as far
 /// as they fit, and how to read the page: also where in the document the rest stands.
 void drawSummaryLeftOut(Picture& picture, const ReportSource& report, const PagePlace& place,
                         const Rect& rect);

@@ -96,9 +96,10 @@ tl::expected<BackupContent, StoreError> Backups::content(const QString& name) co
     return contentOfCopy(path(name));
 }
 
-std::optional<Backup> Backups::newest(std::size_t patients) const {
+std::optional<ReadBackup> Backups::newest(std::size_t patients) const {
     for (const Backup& copy : list())
-        if (const auto held = content(copy.name); held && held->patients >= patients) return copy;
+        if (const auto held = content(copy.name); held && held->patients >= patients)
+            return ReadBackup{copy, *held};
     return std::nullopt;
 }
 

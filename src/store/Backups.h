@@ -15,6 +15,12 @@ struct BackupContent {
 /// As "2 patients, 60 readings, the last of 02/11/2026". \p dateFormat: as SettingModel::shownDateFormat()
 [[nodiscard]] QString describe(const BackupContent& content, const QString& dateFormat);
 
+/// A copy that could be read.
+struct ReadBackup {
+    Backup copy;
+    BackupContent content;
+};
+
 /// Copies of the data file in the folder "Backups" beside it, for its owner alone.
 class Backups {
 public:
@@ -27,7 +33,7 @@ public:
     /// As for the data file itself; other errors when the copy cannot be read.
     [[nodiscard]] tl::expected<BackupContent, StoreError> content(const QString& name) const;
     /// The newest one that can be read and holds at least so many patients; none if there is none.
-    [[nodiscard]] std::optional<Backup> newest(std::size_t patients = 0) const;
+    [[nodiscard]] std::optional<ReadBackup> newest(std::size_t patients = 0) const;
 
     /// Removes what killed programs left in the folder.
     void removeDead() const;

@@ -65,7 +65,8 @@ struct ReadingModel {
     [[nodiscard]] Values values() const;
     /// Without a usable date: none, the monitor's marker, or year 1, which the file writes for none.
     [[nodiscard]] bool isUndated() const { return isUndatedDay(day); }
-    /// The user has left it out: it stays in the file and in the list, and counts nowhere.
+    /// It is left out, by the user or since the monitor measured it, too: it stays in the file and in the
+    /// list, and counts nowhere.
     [[nodiscard]] bool isExcluded() const { return !exclusion.isNull(); }
     [[nodiscard]] bool isPad() const;
     [[nodiscard]] bool isAFib() const;

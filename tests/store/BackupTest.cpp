@@ -198,7 +198,7 @@ TEST_F(BackupTest, ADamagedFileGivesWayToTheNewestCopyThatCanBeRead) {
     EXPECT_EQ(store.backups().restore(names().first()).error().code, StoreErrorCode::notParsed);
     const auto newest = store.backups().newest();
     ASSERT_TRUE(newest);
-    const auto kept = store.backups().restore(newest->name);
+    const auto kept = store.backups().restore(newest->copy.name);
     ASSERT_TRUE(kept);
     EXPECT_TRUE(kept->endsWith(u"-damaged.xml"_s));
     EXPECT_EQ(readFile(folder.filePath(*kept)).value(), "<ZEL><Patient>");

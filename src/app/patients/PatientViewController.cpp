@@ -116,10 +116,10 @@ void PatientViewController::reload() {
 
 /// An empty data file may be one that was made anew since the other was lost.
 void PatientViewController::tellCopy() {
-    const auto copy = store.backups().newest(1);
-    const auto content = copy ? store.backups().content(copy->name) : BackupContent{};
-    if (!copy || !content) return firstSteps->tellCopy({}, {});
-    firstSteps->tellCopy(copy->name, describe(*content, std::as_const(store).getSetting().shownDateFormat()));
+    const auto newest = store.backups().newest(1);
+    if (!newest) return firstSteps->tellCopy({}, {});
+    const QString dateFormat = std::as_const(store).getSetting().shownDateFormat();
+    firstSteps->tellCopy(newest->copy.name, describe(newest->content, dateFormat));
 }
 
 /// What is typed next is not meant for the patient who is shown instead.

@@ -92,7 +92,8 @@ AppController::AppController(const Parts& needed, const Timing& times)
 void AppController::makeDialogs() {
     dialogs = new WindowDialogs({parts.store, parts.status, parts.monitor, parts.panel, parts.clock,
                                  parts.chooser, parts.period, parts.printers, parts.openDocument,
-                                 parts.languageFile, *courier, *patientPage, *graphPage, *tablePage},
+                                 parts.languageFile, *courier, *patientPage, *graphPage, *tablePage,
+                                 [this]() -> PageController& { return pageInView(); }},
                                 window);
     connect(dialogs, &WindowDialogs::settingsChanged, this, &AppController::UpdateUIBySetting);
     connect(dialogs, &WindowDialogs::imported, this, &AppController::reload);

@@ -21,7 +21,7 @@ bool isDamage(StoreErrorCode code) {
 }
 
 /// Of the copies beside the data file; where there is none, one of the second folder joins them.
-std::optional<Backup> newestReadable(const DataStore& store, const Clock& clock) {
+std::optional<ReadBackup> newestReadable(const DataStore& store, const Clock& clock) {
     const Backups& backups = store.backups();
     if (auto near = backups.newest()) return near;
     const auto second = secondFolder(store.getZELXMLPath()).value_or(std::nullopt);
@@ -30,7 +30,7 @@ std::optional<Backup> newestReadable(const DataStore& store, const Clock& clock)
         if (!contentOfCopy(second->path(copy.name))) continue;
         const auto now = std::chrono::floor<std::chrono::milliseconds>(clock.now());
         const auto name = fetchCopy(backups.folder(), second->path(copy.name), now);
-        return name ? backupOfName(*name) : std::nullopt;
+        return name ? backups.newest() : std::nullopt;
     }
     return std::nullopt;
 }
@@ -38,14 +38,13 @@ std::optional<Backup> newestReadable(const DataStore& store, const Clock& clock)
 } // namespace
 
 void StartQuestions::offerBackup(const StoreError& damage) {
-    const Backups& backups = parts.store.backups();
-    const auto copy = isDamage(damage.code) ? newestReadable(parts.store, parts.clock) : std::nullopt;
-    const auto content = copy ? backups.content(copy->name) : tl::unexpected{damage};
+    const auto newest = isDamage(damage.code) ? newestReadable(parts.store, parts.clock) : std::nullopt;
     const QString why = describe(damage);
-    if (!content) return parts.panel.ShowMessage(why, qtTrId("dataFileUnreadable"));
-    const QString holds = describe(*content, std::as_const(parts.store).getSetting().shownDateFormat());
-    const QString question = why + u"\n\n"_s + qtTrId("backupOffered").arg(copy->name, holds);
-    if (parts.panel.AskToErase(question, qtTrId("dataFileUnreadable"))) goBackTo(*copy);
+    if (!newest) return parts.panel.ShowMessage(why, qtTrId("dataFileUnreadable"));
+    const QString holds =
+        describe(newest->content, std::as_const(parts.store).getSetting().shownDateFormat());
+    const QString question = why + u"\n\n"_s + qtTrId("backupOffered").arg(newest->copy.name, holds);
+    if (parts.panel.AskToErase(question, qtTrId("dataFileUnreadable"))) goBackTo(newest->copy);
 }
 
 void StartQuestions::goBackTo(const Backup& copy) {

@@ -13,7 +13,6 @@
 #include <QDir>
 #include <QStandardPaths>
 
-#include <array>
 #include <utility>
 
 namespace zel {
@@ -31,18 +30,12 @@ WindowDialogs::WindowDialogs(Parts needed, MainWindow& mainWindow)
     connect(&window, &MainWindow::aboutWanted, this, &WindowDialogs::showAbout);
 }
 
-PageController& WindowDialogs::pageInView() const {
-    const std::array<PageController*, MainWindow::tabTotal> pages{&parts.patientPage, &parts.graphPage,
-                                                                  &parts.tablePage};
-    return *pages.at(static_cast<std::size_t>(window.pageInView()));
-}
-
 void WindowDialogs::showSetting() {
-    pageInView().checkToSaveComment();
+    parts.pageInView().checkToSaveComment();
     if (!settings) {
         settings =
             new SettingController({parts.store, parts.status, parts.monitor, parts.panel, parts.chooser,
-                                   parts.languageFile, [this] { return pageInView().readyToPrint(); }},
+                                   parts.languageFile, [this] { return parts.pageInView().readyToPrint(); }},
                                   &window);
         connect(settings, &SettingController::finished, this, &WindowDialogs::settingsChanged);
         connect(settings, &SettingController::imported, this, &WindowDialogs::imported);
@@ -68,7 +61,7 @@ void WindowDialogs::showPrint() { showPrintPreview(PrintPurpose::printer); }
 void WindowDialogs::showSavePdf() { showPrintPreview(PrintPurpose::pdf); }
 
 void WindowDialogs::showPrintPreview(PrintPurpose purpose) {
-    if (!pageInView().readyToPrint()) return;
+    if (!parts.pageInView().readyToPrint()) return;
     if (!printController) {
         printController = new PrintController(
             {parts.store, parts.period, parts.clock, parts.panel, parts.chooser, parts.printers}, &window);
@@ -86,13 +79,13 @@ void WindowDialogs::showPrintPreview(PrintPurpose purpose) {
 void WindowDialogs::exportFhir() {
     if (!exporter)
         exporter = new ExportController(
-            {parts.store, parts.panel, parts.chooser, [this] { return pageInView().readyToPrint(); }},
+            {parts.store, parts.panel, parts.chooser, [this] { return parts.pageInView().readyToPrint(); }},
             &window);
     exporter->exportFhir(parts.period.getWeekRule());
 }
 
 void WindowDialogs::showHelp() {
-    pageInView().checkToSaveComment();
+    parts.pageInView().checkToSaveComment();
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     const QString path = unpackHelp(manualResource(u":/help%1.pdf"_s), cache);
     qCInfo(lcApp, "showHelp %s", qUtf8Printable(path));

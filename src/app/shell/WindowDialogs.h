@@ -9,6 +9,8 @@
 #include "app/widgets/FileChooser.h"
 #include "store/DataStore.h"
 
+#include <functional>
+
 namespace zel {
 
 class BackupCourier;
@@ -22,8 +24,8 @@ class SettingController;
 class TableViewController;
 enum class PrintPurpose;
 
-/// What the main window opens when it is asked to: settings, backups, print window, export, help. Each is made
-/// on first use and kept.
+/// What the main window opens when it is asked to: settings, backups, print window, export, help. Each is
+/// made on first use and kept.
 class WindowDialogs final : public QObject {
     Q_OBJECT
 public:
@@ -42,6 +44,7 @@ public:
         PatientViewController& patientPage;
         GraphViewController& graphPage;
         TableViewController& tablePage;
+        std::function<PageController&()> pageInView;
     };
     WindowDialogs(Parts needed, MainWindow& mainWindow);
 
@@ -61,7 +64,6 @@ signals:
     void restored(const QString& name, const QString& kept); ///< as BackupDialog has it
 
 private:
-    [[nodiscard]] PageController& pageInView() const;
     void showPrintPreview(PrintPurpose purpose);
 
     Parts parts;

@@ -80,7 +80,7 @@ TEST_F(BrokenFileTest, whereTheDataFileIsGoneTheCopyWithPatientsIsAWordAway) {
     auto& dialog = find<QDialog>("BackupDialog");
     EXPECT_TRUE(dialog.isVisible());
     dialog.close();
-    ASSERT_TRUE(store.restoreBackup(store.backups().newest(1)->name));
+    ASSERT_TRUE(store.restoreBackup(store.backups().newest(1)->copy.name));
     EXPECT_EQ(dataFile(), whole);
     EXPECT_FALSE(page("firstSteps").isVisible());
 }
