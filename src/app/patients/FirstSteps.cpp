@@ -12,8 +12,7 @@ namespace zel {
 using namespace Qt::StringLiterals;
 
 FirstSteps::FirstSteps(const MonitorStatus& monitorStatus, bool offersDemonstration, QWidget* parent)
-    : QWidget(parent), status(monitorStatus), lblMonitor(new QuietLabel({}, this)),
-      copyNote(makeCopyNote()) {
+    : QWidget(parent), status(monitorStatus), lblMonitor(new QuietLabel({}, this)), copyNote(makeCopyNote()) {
     setObjectName(u"firstSteps"_s);
     setAccessibleName(qtTrId("firstSteps"));
     lblMonitor->setObjectName(u"lblFirstMonitor"_s);
