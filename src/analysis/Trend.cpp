@@ -49,11 +49,16 @@ DaySpan stepOf(TrendStep step, DayNumber day) {
     return step == TrendStep::month ? monthOf(day) : DaySpan{day, day};
 }
 
-/// All 0 without a value, as a step may have no pulse.
+/// Of one value at least.
 TrendBand bandOf(ValueCounts& values) {
-    if (values.size() == 0) return {};
     const bool isFew = values.size() < fewestForPercentiles;
-    return {values.quantile(isFew ? 0 : 0.1), values.quantile(0.5), values.quantile(isFew ? 1 : 0.9)};
+    return {values.quantile(isFew ? 0 : 0.1), values.quantile(0.5), values.quantile(isFew ? 1 : 0.9),
+            values.size()};
+}
+
+std::optional<TrendBand> bandIfAny(ValueCounts& values) {
+    if (values.size() == 0) return {};
+    return bandOf(values);
 }
 
 /// Makes points of readings that come in the order of their steps, each with one look at it: of a long list,
@@ -80,7 +85,7 @@ public:
 
 private:
     void finishPoint() {
-        points.push_back({span.begin, span.end, count, bandOf(sys), bandOf(dia), bandOf(pulse)});
+        points.push_back({span.begin, span.end, count, bandOf(sys), bandOf(dia), bandIfAny(pulse)});
         count = 0;
         for (ValueCounts* values : {&sys, &dia, &pulse})
             values->clear();
@@ -118,9 +123,9 @@ bool isHalfOfDay(ViewSelection view) {
     return view == ViewSelection::amOnly || view == ViewSelection::pmOnly;
 }
 
-int countOfOtherZone(const ReadingList& readings, const ReadingSelection& selection) {
+int otherZoneInTrend(const ReadingList& readings, const ReadingSelection& selection) {
     return static_cast<int>(std::ranges::count_if(readings, [&](const ReadingModel& reading) {
-        return reading.isOfOtherZone && isInChart(reading, selection);
+        return reading.isOfOtherZone && isInTrend(reading, selection);
     }));
 }
 
@@ -150,7 +155,7 @@ TrendSeriesList calcTrendSeries(const ReadingList& readings, const ReadingSelect
         part.view = half;
         Trend trend = calcTrend(readings, part);
         list.step = trend.step;
-        if (isHalfOfDay(half)) list.ofOtherZone += countOfOtherZone(readings, part);
+        if (isHalfOfDay(half)) list.ofOtherZone += otherZoneInTrend(readings, part);
         list.series.push_back({half, std::move(trend.points)});
     }
     return list;

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace zel {
@@ -24,6 +25,7 @@ struct TrendBand {
     double low = 0;
     double median = 0;
     double high = 0;
+    std::size_t count = 0; ///< of the readings that have the measure
 };
 
 inline constexpr std::size_t fewestForPercentiles = 5;
@@ -34,7 +36,7 @@ struct TrendPoint {
     std::size_t count = 0;
     TrendBand sys; ///< mmHg
     TrendBand dia;
-    TrendBand pulse; ///< beats per minute
+    std::optional<TrendBand> pulse; ///< beats per minute; none where no reading has one
 };
 
 struct Trend {

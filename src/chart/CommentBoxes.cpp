@@ -15,7 +15,10 @@ Period wholeDays(Instant begin, Instant end) {
 } // namespace
 
 std::optional<Period> commentPeriod(const CommentModel& comment) {
-    if (isNilDate(comment.beginDate) || isNilDate(comment.endDate)) return {};
+    const bool hasBegin = !isNilDate(comment.beginDate), hasEnd = !isNilDate(comment.endDate);
+    if (!hasBegin && !hasEnd) return {};
+    if (!hasBegin) return Period{DateToDayBoundary(*comment.endDate, true), *comment.endDate};
+    if (!hasEnd) return Period{*comment.beginDate, DateToDayBoundary(*comment.beginDate, false)};
     const auto [begin, end] = std::minmax(*comment.beginDate, *comment.endDate);
     return Period{begin, end};
 }

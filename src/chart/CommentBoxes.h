@@ -18,7 +18,8 @@ struct CommentBox {
     bool isCutRight = false;
 };
 
-/// The comment's dates in order, or none where the user gave none.
+/// The comment's dates in order; none where it has none. A date that is missing is the other one, with its
+/// whole day, as in commentDays().
 [[nodiscard]] std::optional<Period> commentPeriod(const CommentModel& comment);
 
 /// Boxes for the comments that begin or end in the period, as far as they lie in it. A comment that covers

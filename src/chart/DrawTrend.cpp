@@ -78,8 +78,9 @@ std::vector<LineName> lineEnds(const TrendInput& input, const ChartScale& blood,
     for (const TrendMeasure measure : {TrendMeasure::sys, TrendMeasure::dia, TrendMeasure::pulse}) {
         const ChartScale& scale = measure == TrendMeasure::pulse ? pulse : blood;
         for (const TrendSeries& series : input.trend.series) {
-            if (series.points.empty()) continue;
-            const double y = trendY(scale, measure, bandOf(series.points.back(), measure).median);
+            const std::vector<MeasuredStep> steps = measuredSteps(series, measure);
+            if (steps.empty()) continue;
+            const double y = trendY(scale, measure, steps.back().band.median);
             names.push_back({trendName(measure, series.half),
                              std::clamp(y, scale.chartRect.y, scale.chartRect.top()),
                              trendLook(measure, series.half, amongOf(input)).color});
@@ -228,12 +229,12 @@ std::vector<TrendColumn> columnsOf(const TrendInput& input, const Parts& parts, 
     for (const TrendMeasure measure : {TrendMeasure::sys, TrendMeasure::dia, TrendMeasure::pulse}) {
         const ChartScale& scale = measure == TrendMeasure::pulse ? parts.pulse : parts.blood;
         for (const TrendSeries& series : input.trend.series)
-            for (const TrendPoint& point : series.points) {
-                TrendColumn& column = columns[point.begin];
-                column.begin = point.begin;
-                column.end = point.end;
-                column.x = trendX(scale.time, point.begin, point.end, zone);
-                const Point median{column.x, trendY(scale, measure, bandOf(point, measure).median)};
+            for (const auto& [begin, end, band] : measuredSteps(series, measure)) {
+                TrendColumn& column = columns[begin];
+                column.begin = begin;
+                column.end = end;
+                column.x = trendX(scale.time, begin, end, zone);
+                const Point median{column.x, trendY(scale, measure, band.median)};
                 if (scale.chartRect.contains(median)) column.medians.push_back(median);
             }
     }

@@ -24,8 +24,9 @@ struct BandKinds {
 BandKinds bandKinds(const TrendSeriesList& trend) {
     BandKinds kinds;
     for (const TrendSeries& series : trend.series)
-        for (const TrendPoint& point : series.points)
-            (point.count < fewestForPercentiles ? kinds.all : kinds.percentiles) = true;
+        for (const TrendMeasure measure : {TrendMeasure::sys, TrendMeasure::pulse}) // DIA has those of SYS
+            for (const MeasuredStep& step : measuredSteps(series, measure))
+                (step.band.count < fewestForPercentiles ? kinds.all : kinds.percentiles) = true;
     return kinds;
 }
 

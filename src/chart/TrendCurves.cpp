@@ -3,8 +3,10 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
+#include <optional>
 #include <span>
 
 namespace zel {
@@ -19,7 +21,7 @@ constexpr int bandAlpha = 55;
 const std::vector<double> dotted{1, 3};
 const QColor linkOnPaper(110, 110, 110);
 
-using Points = std::span<const TrendPoint>;
+using Steps = std::span<const MeasuredStep>;
 
 bool isEvening(ViewSelection half) { return half == ViewSelection::pmOnly; }
 
@@ -33,10 +35,15 @@ QColor colorOf(TrendMeasure measure, bool evening) {
     return evening ? QColor(95, 70, 120) : QColor(60, 60, 60);
 }
 
-bool isNext(const TrendPoint& from, const TrendPoint& to) { return to.begin == from.end + 1; }
+bool isNext(const MeasuredStep& from, const MeasuredStep& to) { return to.begin == from.end + 1; }
 
-bool isLinked(const TrendPoint& from, const TrendPoint& to) {
+bool isLinked(const MeasuredStep& from, const MeasuredStep& to) {
     return !isNext(from, to) && to.begin - from.end <= longestLink;
+}
+
+std::optional<TrendBand> bandIn(const TrendPoint& point, TrendMeasure measure) {
+    if (measure == TrendMeasure::pulse) return point.pulse;
+    return measure == TrendMeasure::sys ? point.sys : point.dia;
 }
 
 class CurveMaker {
@@ -47,54 +54,52 @@ public:
           linkColor(among.black ? linkOnPaper : style.color),
           halfDay(at.time.width / (local.day(at.time.end) - local.day(at.time.begin) + 1) / 2) {}
 
-    void addRun(TrendCurves& made, Points run) const {
+    void addRun(TrendCurves& made, Steps run) const {
         made.bands.push_back(band(run));
         if (run.size() > 1) made.lines.push_back({medians(run), lineWidth, style.color, style.dashes});
-        for (const TrendPoint& point : run)
+        for (const MeasuredStep& point : run)
             if (run.size() == 1 || halfStep(point) * 2 >= roomForMarks)
                 made.marks.push_back({median(point), markDiameter, true, style.color});
     }
 
-    [[nodiscard]] Curve link(const TrendPoint& from, const TrendPoint& to) const {
+    [[nodiscard]] Curve link(const MeasuredStep& from, const MeasuredStep& to) const {
         return {{median(from), median(to)}, 1, linkColor, dotted};
     }
 
 private:
-    [[nodiscard]] double x(const TrendPoint& point) const {
+    [[nodiscard]] double x(const MeasuredStep& point) const {
         return trendX(scale.time, point.begin, point.end, zone);
     }
     [[nodiscard]] double y(double value) const { return trendY(scale, measure, value); }
-    [[nodiscard]] Point median(const TrendPoint& point) const {
-        return {x(point), y(bandOf(point, measure).median)};
-    }
-    [[nodiscard]] double halfStep(const TrendPoint& point) const {
+    [[nodiscard]] Point median(const MeasuredStep& point) const { return {x(point), y(point.band.median)}; }
+    [[nodiscard]] double halfStep(const MeasuredStep& point) const {
         return halfDay * (point.end - point.begin + 1);
     }
 
-    [[nodiscard]] std::vector<Point> medians(Points run) const {
+    [[nodiscard]] std::vector<Point> medians(Steps run) const {
         std::vector<Point> points;
         points.reserve(run.size());
-        for (const TrendPoint& point : run)
+        for (const MeasuredStep& point : run)
             points.push_back(median(point));
         return points;
     }
 
     /// Along the lower edge and back along the upper one; of one point an upright bar.
-    [[nodiscard]] Area band(Points run) const {
+    [[nodiscard]] Area band(Steps run) const {
         QColor color = style.color;
         color.setAlpha(bandAlpha);
         Area area{{}, color};
         area.outline.reserve(2 * run.size() + 2);
         const double wider = run.size() == 1 ? std::clamp(halfStep(run.front()) / 2, 1.5, 6.0) : 0;
-        const auto add = [&](const TrendPoint& point, double value, double aside) {
+        const auto add = [&](const MeasuredStep& point, double value, double aside) {
             area.outline.push_back({x(point) + aside, y(value)});
         };
-        add(run.front(), bandOf(run.front(), measure).low, -wider);
-        for (const TrendPoint& point : run.subspan(run.size() == 1 ? 0 : 1))
-            add(point, bandOf(point, measure).low, wider);
+        add(run.front(), run.front().band.low, -wider);
+        for (const MeasuredStep& point : run.subspan(run.size() == 1 ? 0 : 1))
+            add(point, point.band.low, wider);
         for (std::size_t index = run.size(); index-- > 0;)
-            add(run[index], bandOf(run[index], measure).high, wider);
-        if (run.size() == 1) add(run.front(), bandOf(run.front(), measure).high, -wider);
+            add(run[index], run[index].band.high, wider);
+        if (run.size() == 1) add(run.front(), run.front().band.high, -wider);
         return area;
     }
 
@@ -127,9 +132,12 @@ QString trendName(TrendMeasure measure, ViewSelection half) {
     return isEvening(half) ? qtTrId("trendEvening").arg(name()) : name();
 }
 
-const TrendBand& bandOf(const TrendPoint& point, TrendMeasure measure) {
-    if (measure == TrendMeasure::sys) return point.sys;
-    return measure == TrendMeasure::dia ? point.dia : point.pulse;
+std::vector<MeasuredStep> measuredSteps(const TrendSeries& series, TrendMeasure measure) {
+    std::vector<MeasuredStep> steps;
+    steps.reserve(series.points.size());
+    for (const TrendPoint& point : series.points)
+        if (const auto band = bandIn(point, measure)) steps.push_back({point.begin, point.end, *band});
+    return steps;
 }
 
 double trendY(const ChartScale& scale, TrendMeasure measure, double value) {
@@ -156,31 +164,33 @@ TrendCurves trendCurves(const TrendSeries& series, TrendMeasure measure, const C
                         const LocalZone& zone, const TrendAmong& among) {
     const CurveMaker maker(measure, scale, zone, series.half, among);
     TrendCurves made;
-    const Points points(series.points);
-    for (std::size_t begin = 0; begin < points.size();) {
+    const std::vector<MeasuredStep> steps = measuredSteps(series, measure);
+    for (std::size_t begin = 0; begin < steps.size();) {
         std::size_t end = begin + 1;
-        while (end < points.size() && isNext(points[end - 1], points[end]))
+        while (end < steps.size() && isNext(steps[end - 1], steps[end]))
             ++end;
-        maker.addRun(made, points.subspan(begin, end - begin));
-        if (end < points.size() && isLinked(points[end - 1], points[end]))
-            made.links.push_back(maker.link(points[end - 1], points[end]));
+        maker.addRun(made, Steps(steps).subspan(begin, end - begin));
+        if (end < steps.size() && isLinked(steps[end - 1], steps[end]))
+            made.links.push_back(maker.link(steps[end - 1], steps[end]));
         begin = end;
     }
     return made;
 }
 
 bool hasLinks(const TrendSeries& series) {
-    return std::ranges::adjacent_find(series.points, isLinked) != series.points.end();
+    return std::ranges::any_of(std::array{TrendMeasure::sys, TrendMeasure::pulse}, [&](TrendMeasure measure) {
+        const std::vector<MeasuredStep> steps = measuredSteps(series, measure);
+        return std::ranges::adjacent_find(steps, isLinked) != steps.end();
+    });
 }
 
 OffScale trendOffScale(std::span<const TrendSeries> series, std::span<const TrendMeasure> measures,
                        const ScaleRange& range) {
     std::map<DayNumber, OffScale> steps;
     for (const TrendSeries& one : series)
-        for (const TrendPoint& point : one.points)
-            for (const TrendMeasure measure : measures) {
-                const TrendBand& band = bandOf(point, measure);
-                OffScale& step = steps[point.begin];
+        for (const TrendMeasure measure : measures)
+            for (const auto& [begin, end, band] : measuredSteps(one, measure)) {
+                OffScale& step = steps[begin];
                 if (band.high > static_cast<double>(range.most)) step.above = 1;
                 if (band.low < static_cast<double>(range.least)) step.below = 1;
             }

@@ -27,7 +27,14 @@ struct TrendAmong {
 /// "SYS", "SYS morning".
 [[nodiscard]] QString trendName(TrendMeasure measure, ViewSelection half);
 
-[[nodiscard]] const TrendBand& bandOf(const TrendPoint& point, TrendMeasure measure);
+/// A step as one measure has it.
+struct MeasuredStep {
+    DayNumber begin = noDay; ///< as TrendPoint has them
+    DayNumber end = noDay;
+    TrendBand band;
+};
+/// In time, without those that have readings, but none with the measure.
+[[nodiscard]] std::vector<MeasuredStep> measuredSteps(const TrendSeries& series, TrendMeasure measure);
 [[nodiscard]] double trendY(const ChartScale& scale, TrendMeasure measure, double value);
 /// Where days lie from left to right, as far as they are the period's.
 struct TrendSpan {
@@ -39,9 +46,9 @@ struct TrendSpan {
 /// The middle of what the point stands for, as far as it lies in the period.
 [[nodiscard]] double trendX(const TimeScale& time, DayNumber begin, DayNumber end, const LocalZone& zone);
 
-/// Lines that break where a step has no reading. Ends that are as near as the chart joins readings are linked
-/// by fine dots; farther apart, nothing stands between them: it would look like a course that nobody
-/// measured.
+/// Lines that break where a step has no reading with the measure. Ends that are as near as the chart joins
+/// readings are linked by fine dots; farther apart, nothing stands between them: it would look like a course
+/// that nobody measured.
 struct TrendCurves {
     std::vector<Area> bands;
     std::vector<Curve> lines; ///< of the medians; a point without neighbours has none
@@ -52,10 +59,10 @@ struct TrendCurves {
                                       const ChartScale& scale, const LocalZone& zone,
                                       const TrendAmong& among);
 
-/// Whether it has ends that are linked.
+/// Whether a line of it has ends that are linked.
 [[nodiscard]] bool hasLinks(const TrendSeries& series);
 
-/// The points whose bands reach beyond a scale, each step once.
+/// The steps with a band that reaches beyond a scale, each once.
 [[nodiscard]] OffScale trendOffScale(std::span<const TrendSeries> series,
                                      std::span<const TrendMeasure> measures, const ScaleRange& range);
 

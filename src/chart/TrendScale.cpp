@@ -45,10 +45,10 @@ ScaleRange fittedRange(std::span<const TrendSeries> series, std::span<const Tren
     const auto bottom = static_cast<double>(usual.least), top = static_cast<double>(usual.most);
     Extent extent;
     for (const TrendSeries& one : series)
-        for (const TrendPoint& point : one.points)
-            for (const TrendMeasure measure : measures) {
-                extent.add(std::clamp(bandOf(point, measure).low, bottom, top));
-                extent.add(std::clamp(bandOf(point, measure).high, bottom, top));
+        for (const TrendMeasure measure : measures)
+            for (const MeasuredStep& step : measuredSteps(one, measure)) {
+                extent.add(std::clamp(step.band.low, bottom, top));
+                extent.add(std::clamp(step.band.high, bottom, top));
             }
     if (extent.most < extent.least) return usual;
     for (const std::uint32_t limit : limits)

@@ -12,9 +12,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString text(const TrendBand& band) { return u"%1 %2 %3"_s.arg(band.low).arg(band.median).arg(band.high); }
+QString text(const std::optional<TrendBand>& band) {
+    return band ? u"%1 %2 %3"_s.arg(band->low).arg(band->median).arg(band->high) : u"none"_s;
+}
 
-std::string words(const Trend& trend, TrendBand TrendPoint::*measure = &TrendPoint::sys) {
+template <class Band = TrendBand>
+std::string words(const Trend& trend, Band TrendPoint::*measure = &TrendPoint::sys) {
     QStringList points;
     for (const TrendPoint& point : trend.points)
         points += dayText(point.begin, u"MM-dd"_s) + u'/' + dayText(point.end, u"MM-dd"_s)
@@ -97,9 +100,10 @@ TEST(Trend, StepsAreDaysOrWeeksFromMondayOrMonths) {
 
 TEST(Trend, MorningsAndEveningsAreSeriesOfTheirOwn) {
     ReadingList readings = readingsAt({"2026-03-02 08:00", "2026-03-02 11:59:59", "2026-03-02 12:00",
-                                       "2026-03-03 20:00", "2026-04-01 20:00"});
-    for (const std::size_t elsewhere : {1U, 2U, 3U, 4U}) // the last one beyond the period
+                                       "2026-03-03 20:00", "2026-04-01 20:00", "2026-03-04 20:00"});
+    for (const std::size_t elsewhere : {1U, 2U, 3U, 4U, 5U}) // the last but one beyond the period
         readings[elsewhere].isOfOtherZone = true;
+    readings.back().sys = 0; // not of the trend either
     using enum ViewSelection;
     const struct {
         ViewSelection view;
@@ -153,7 +157,7 @@ TEST(Trend, LeavesOutWhatTheUserHasExcludedAndWhatHasNoPressures) {
     readings[1].pulse = 0;
     const Trend trend = calcTrend(readings, during("2026-03-01", "2026-03-31"));
     EXPECT_EQ(words(trend), "03-02/03-02 (1) 140 140 140");
-    EXPECT_EQ(words(trend, &TrendPoint::pulse), "03-02/03-02 (1) 0 0 0") << "none was measured";
+    EXPECT_EQ(words(trend, &TrendPoint::pulse), "03-02/03-02 (1) none");
     readings.push_back(readingAt("2026-03-02", 140, 80));
     EXPECT_EQ(words(calcTrend(readings, during("2026-03-01", "2026-03-31")), &TrendPoint::pulse),
               "03-02/03-02 (2) 60 60 60");

@@ -164,6 +164,50 @@ TEST(DrawTrend, LinesBreakWhereAStepHasNoReading) {
     }
 }
 
+TEST(DrawTrend, APulseThatWasNotMeasuredIsNotDrawn) {
+    const struct {
+        std::vector<std::uint32_t> pulses; ///< of a day each
+        std::size_t lines, links, columnsWithPulse, names;
+    } cases[]{{{90, 92, 94, 96}, 1, 0, 4, 3},
+              {{90, 92, 0, 96}, 1, 1, 3, 3},
+              {{90, 92, 94, 0}, 1, 0, 3, 3},
+              {{90, 0, 1000, 96}, 0, 1, 2, 3},
+              {{0, 0, 0, 0}, 0, 0, 0, 2}};
+    for (const auto& [pulses, lines, links, columnsWithPulse, names] : cases) {
+        TrendOf trend{.readings = readingsAt({"2019-03-01", "2019-03-02", "2019-03-03", "2019-03-04"}),
+                      .forPrint = true,
+                      .isFitted = true};
+        for (std::size_t at = 0; at < pulses.size(); ++at)
+            trend.readings[at].pulse = pulses[at];
+        const std::string what = "pulse " + std::to_string(pulses[2]) + ", " + std::to_string(pulses[3]);
+        EXPECT_EQ(trend.medianLines().size(), 2 + lines) << what;
+        EXPECT_EQ(trend.links().size(), links) << what;
+        EXPECT_EQ(trend.texts().join(u'|').contains(u"dotted"_s), links > 0) << what;
+        EXPECT_EQ(trend.texts().filter(u"scale"_s), QStringList()) << what;
+        const QStringList texts = trend.texts();
+        EXPECT_EQ(texts.count(u"SYS"_s) + texts.count(u"DIA"_s) + texts.count(u"Pulse"_s), names) << what;
+        EXPECT_EQ(texts.contains(u"40"_s), pulses[0] == 0) << "the scale is that of the others: " << what;
+        const TrendLayout layout = trend.layout();
+        ASSERT_EQ(layout.columns.size(), 4U) << what;
+        EXPECT_EQ(std::ranges::count(layout.columns, 3U,
+                                     [](const TrendColumn& column) { return column.medians.size(); }),
+                  columnsWithPulse)
+            << what;
+    }
+}
+
+TEST(DrawTrend, NamesTheBandsThatThePulseHas) {
+    const auto caption = [](std::uint32_t pulse) {
+        TrendOf trend{.readings =
+                          readingsAt({"2019-03-01", "2019-03-01", "2019-03-01", "2019-03-01", "2019-03-01"})};
+        trend.readings[0].pulse = pulse;
+        return trend.texts().filter(u"band"_s).join(u' ').toStdString();
+    };
+    EXPECT_EQ(caption(60), "Median of each day; band: 10th to 90th percentile");
+    EXPECT_EQ(caption(0),
+              "Median of each day; band: 10th to 90th percentile, or all of fewer than 5 readings");
+}
+
 TEST(DrawTrend, ShowsMedianAndBandOfEachStep) {
     TrendOf trend{.readings = {}};
     for (const auto& [date, sys] : std::initializer_list<std::pair<const char*, std::uint32_t>>{

@@ -1,8 +1,8 @@
 #include "app/frame/CommentViewController.h"
 
 #include "analysis/BeforeAndSince.h"
-#include "app/frame/CommentDays.h"
 #include "app/frame/CommentForm.h"
+#include "app/frame/TypedCommentDay.h"
 #include "app/widgets/Log.h"
 #include "app/widgets/PatientTexts.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/frame/CommentViewController.h"
 #include "app/frame/PeriodMoves.h"
+#include "chart/CommentBoxes.h"
 
 #include <algorithm>
 #include <array>
@@ -94,14 +95,14 @@ void ChartComments::recolour(const QString& CommentID, int colourIndex) {
 
 void ChartComments::moveEdge(const QString& CommentID, bool right, int days) {
     const CommentModel* comment = find(CommentID);
-    if (!comment || isNilDate(comment->beginDate) || isNilDate(comment->endDate)) return;
-    const auto [first, last] = std::minmax(*comment->beginDate, *comment->endDate);
-    const Period now{DateToDayBoundary(first, true), DateToDayBoundary(last, false)};
+    const auto dates = comment ? commentPeriod(*comment) : std::nullopt;
+    if (!dates) return;
+    const Period now{DateToDayBoundary(dates->begin, true), DateToDayBoundary(dates->end, false)};
     const Period moved = right ? movedEnds(now, 0, days) : movedEnds(now, days, 0);
     if (moved.end < moved.begin) return;
     CommentModel changed = *comment;
-    changed.beginDate = right ? first : moved.begin; // the other one as it is, to the letter
-    changed.endDate = right ? moved.end : last;
+    changed.beginDate = right ? dates->begin : moved.begin; // the other one as it is, to the letter
+    changed.endDate = right ? moved.end : dates->end;
     save(changed);
 }
 

@@ -24,7 +24,7 @@ QString asToolTip(const QString& text) {
     return u"<p style='white-space: pre-wrap'>%1</p>"_s.arg(text.toHtmlEscaped());
 }
 
-Date unlessSameDay(Instant moved, Instant stored) {
+Instant unlessSameDay(Instant moved, Instant stored) {
     return DateToDayBoundary(moved, true) == DateToDayBoundary(stored, true) ? stored : moved;
 }
 
@@ -181,13 +181,15 @@ void PulseView::mouseReleaseEvent(QMouseEvent* event) {
 /// The edge that was not dragged keeps its date to the letter, unless it was passed and is the other end now.
 CommentModel PulseView::draggedComment(const CommentModel& comment, const GFXRoundRect& shape) const {
     const Period dates = draggedDates(shape.bounds(), shape.dragRightHandle(), scale().time);
-    const auto [first, last] = std::minmax(*comment.beginDate, *comment.endDate);
-    CommentModel changed = comment;
-    changed.beginDate = unlessSameDay(dates.begin, first);
-    changed.endDate = unlessSameDay(dates.end, last);
+    const Period now = commentPeriod(comment).value_or(dates);
+    Period moved{unlessSameDay(dates.begin, now.begin), unlessSameDay(dates.end, now.end)};
     const bool right = shape.dragRightHandle(), isInOrder = shape.bounds().width >= 0;
-    if (right && (isInOrder || shape.isCutLeft)) changed.beginDate = first;
-    if (!right && (isInOrder || shape.isCutRight)) changed.endDate = last;
+    if (right && (isInOrder || shape.isCutLeft)) moved.begin = now.begin;
+    if (!right && (isInOrder || shape.isCutRight)) moved.end = now.end;
+    CommentModel changed = comment;
+    if (moved == now) return changed; // nor is a date that is missing set
+    changed.beginDate = moved.begin;
+    changed.endDate = moved.end;
     return changed;
 }
 

@@ -5,6 +5,8 @@
 
 namespace zel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One decimal, half up; none for a whole number.
@@ -36,7 +38,8 @@ void addFigures(ReadingInfo& info, const TrendPoint& point, ViewSelection half) 
     info.emplace_back(titleOf(qtTrId("trendReadings"), half), QString::number(point.count));
     info.emplace_back(titleOf(qtTrId("infoSys"), half), qtTrId("valueMmHg").arg(bandText(point.sys)));
     info.emplace_back(titleOf(qtTrId("infoDia"), half), qtTrId("valueMmHg").arg(bandText(point.dia)));
-    info.emplace_back(titleOf(qtTrId("infoPulse"), half), qtTrId("valuePulse").arg(bandText(point.pulse)));
+    info.emplace_back(titleOf(qtTrId("infoPulse"), half),
+                      point.pulse ? qtTrId("valuePulse").arg(bandText(*point.pulse)) : u"–"_s);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-#include "app/frame/CommentDays.h"
 #include "app/frame/CommentViewController.h"
 #include "app/frame/ReadingFrame.h"
+#include "app/frame/TypedCommentDay.h"
 #include "support/DamageAfterWrite.h"
 #include "support/ReadingPageTest.h"
 
@@ -74,7 +74,7 @@ TEST_F(CommentPanelTest, saysWhatWasMeasuredBeforeAndSince) {
     EXPECT_EQ(text("lblBeforeAndSince"), u"no reading before or since"_s);
 }
 
-TEST(CommentDays, aDayIsReadInTheOrderOfTheSettings) {
+TEST(TypedCommentDay, aDayIsReadInTheOrderOfTheSettings) {
     const QString dayFirst = u"dd/MM/yyyy"_s, monthFirst = u"MM/dd/yyyy"_s, yearFirst = u"yyyy/MM/dd"_s;
     const struct {
         QString text, pattern;

@@ -206,6 +206,45 @@ TEST_F(ChartPageTest, theEdgeThatIsNotMovedKeepsItsTime) {
     }
 }
 
+TEST_F(ChartPageTest, aDayThatIsMissingIsTheOtherUntilAnEdgeIsMoved) {
+    addComment(u"1"_s, u"20260305"_s, u"20260305"_s, u"mine"_s);
+    openChart(u"20260301"_s, u"20260310"_s);
+    const CommentModel whole = *store.getCommentForCurID().front();
+    const QPoint left = strip(u"202603050000"_s), right = strip(u"202603060000"_s);
+    const struct {
+        const char* what;
+        std::function<void()> move;
+        QStringList days; ///< none: the file stays as it is
+    } steps[]{
+        {"the end a little", [&] { drag(pulse(), right, right - QPoint(2, 0)); }, {}},
+        {"the begin a little", [&] { drag(pulse(), left, left + QPoint(2, 0)); }, {}},
+        {"the end", [&] { drag(pulse(), right, strip(u"202603071200"_s)); }, {u"20260305-20260307 2 mine"_s}},
+        {"the begin",
+         [&] { drag(pulse(), left, strip(u"202603031200"_s)); },
+         {u"20260303-20260305 2 mine"_s}},
+        {"the end by a key",
+         [this] { press(Qt::Key_Right, Qt::ShiftModifier); },
+         {u"20260305-20260306 2 mine"_s}},
+        {"the begin by a key",
+         [this] { press(Qt::Key_Left, Qt::ShiftModifier | Qt::AltModifier); },
+         {u"20260304-20260305 2 mine"_s}}};
+    for (const bool begin : {true, false})
+        for (const auto& step : steps) {
+            CommentModel half = whole;
+            (begin ? half.beginDate : half.endDate) = getNilDate();
+            ASSERT_TRUE(store.saveCommentToXML(half));
+            pulse().setFocus();
+            press(Qt::Key_Down, Qt::ControlModifier);
+            ASSERT_FALSE(pulse().selectedBox().isNull()) << step.what;
+            const QByteArray file = dataFile();
+            step.move();
+            if (step.days.isEmpty())
+                EXPECT_EQ(dataFile(), file) << step.what;
+            else
+                EXPECT_EQ(inFile(), step.days) << step.what;
+        }
+}
+
 TEST_F(ChartPageTest, thePointerShowsWhichEdgeCanBePulled) {
     addComment(u"1"_s, u"20260220"_s, u"20260305"_s, u"cut"_s);
     openChart(u"20260301"_s, u"20260310"_s);

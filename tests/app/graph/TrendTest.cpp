@@ -93,6 +93,14 @@ TEST_F(TrendTest, keysGoFromPointToPointAndSayTheirFigures) {
     EXPECT_FALSE(isInfoVisible());
 }
 
+TEST_F(TrendTest, aPulseThatWasNotMeasuredIsADash) {
+    ReadingModel without = reading(u"202602010800"_s, 131);
+    without.pulse = 0;
+    storeReadings(u"P1"_s, {without});
+    openTrend(u"20260201"_s, u"20260201"_s);
+    EXPECT_TRUE(said().endsWith(u"Diastolic: 80 mmHg\nPulse: –"_s)) << qPrintable(said());
+}
+
 TEST_F(TrendTest, thePointerShowsTheFiguresOfTheStepThatItIsOver) {
     ReadingList more;
     for (const std::uint32_t sys : {150U, 155U, 160U, 165U})

@@ -1,4 +1,4 @@
-#include "app/frame/CommentDays.h"
+#include "app/frame/TypedCommentDay.h"
 
 #include "store/TypedTime.h"
 
