@@ -162,7 +162,8 @@ public:
     /// in counts nowhere. \return those, how many and why
     [[nodiscard]] tl::expected<StillLeftOut, StoreError> includeReadings(const ReadingList& asRead);
     /// Stores a reading that was typed in. \return its number; readingRefused as manualProblem() has it;
-    /// readingKnown if the patient has one of that minute with these values; noSuchRecord without the patient
+    /// readingKnown if the patient has one of that minute with these values, for one that was measured also
+    /// by the minute that the monitor's clock showed; noSuchRecord without the patient
     [[nodiscard]] tl::expected<QString, StoreError> addReading(const QString& ID, const ManualReading& typed);
     /// As addReading(); notManual for one that was downloaded.
     [[nodiscard]] StoreResult changeReading(const ReadingModel& asRead, const ManualReading& typed);

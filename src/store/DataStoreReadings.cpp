@@ -2,6 +2,7 @@
 
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
+#include "store/NewReadings.h"
 #include "store/ReadingsBefore.h"
 #include "store/RecordXml.h"
 #include "store/Text.h"
@@ -74,20 +75,26 @@ tl::expected<std::vector<pugi::xml_node>, StoreError> elementsOf(pugi::xml_node 
     return elements;
 }
 
-/// Of the same minute, with the same three values; \p besides is not looked at.
+bool isDownloaded(const ReadingModel& reading) { return !reading.isManual; }
+
+/// Of the same minute, with the same three values; for one that was measured that is also the minute that the
+/// monitor's clock showed. \p besides is not looked at.
 bool hasSameReading(pugi::xml_node root, const ReadingModel& wanted, pugi::xml_node besides) {
-    const auto key = [](const ReadingModel& reading) {
-        return std::tuple{std::chrono::floor<std::chrono::minutes>(*reading.ReadingDate), reading.sys,
-                          reading.dia, reading.pulse};
+    const LocalZone zone;
+    const auto key = [](const ReadingModel& reading, const Date& time) {
+        return std::tuple{std::chrono::floor<std::chrono::minutes>(*time), reading.sys, reading.dia,
+                          reading.pulse};
     };
+    const auto instant = key(wanted, wanted.ReadingDate);
+    const auto wall = key(wanted, wallClockOf(wanted, zone));
     return static_cast<bool>(root.find_child([&](pugi::xml_node node) {
         if (node == besides || !isReadingOf(node, wanted.ID)) return false;
         const auto other = ReadingModel::initWithXMLNode(node);
-        return other.ReadingDate && key(other) == key(wanted);
+        if (!other.ReadingDate) return false;
+        return key(other, other.ReadingDate) == instant
+               || (isDownloaded(other) && key(other, wallClockOf(other, zone)) == wall);
     }));
 }
-
-bool isDownloaded(const ReadingModel& reading) { return !reading.isManual; }
 
 /// Which of the typed readings that are taken in again may count.
 class CountingAgain {

@@ -46,7 +46,10 @@ ReadingModel ManualReading::writtenOver(ReadingModel reading) const {
     const bool isSameMinute =
         time && reading.ReadingDate
         && minuteOf(*zone.wallClock(time)) == minuteOf(*zone.wallClock(reading.ReadingDate));
-    if (!isSameMinute) reading.ReadingDate = time;
+    if (!isSameMinute) {
+        reading.ReadingDate = time;
+        reading.utcOffset = ReadingModel::noOffset; // it will be stored with the one of here
+    }
     reading.sys = sys;
     reading.dia = dia;
     reading.pulse = pulse;

@@ -21,6 +21,12 @@ void ReadingsBefore::addCounting(const ReadingModel& reading) {
     if (!reading.isManual) measured.insert(likeness(reading, *wallClockOf(reading, zone)));
 }
 
+void ReadingsBefore::removeCounting(const ReadingModel& reading) {
+    if (!reading.ReadingDate) return;
+    counting.extract(likeness(reading, *reading.ReadingDate)); // of equal ones only one
+    if (!reading.isManual) measured.extract(likeness(reading, *wallClockOf(reading, zone)));
+}
+
 bool ReadingsBefore::hasCounting(const ReadingModel& reading) const {
     return reading.ReadingDate
            && (counting.contains(likeness(reading, *reading.ReadingDate))

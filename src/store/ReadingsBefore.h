@@ -24,14 +24,16 @@ public:
     [[nodiscard]] bool hasNumber(const ReadingModel& reading) const;
     /// From now on this one counts, too.
     void addCounting(const ReadingModel& reading);
+    /// One that counted does not any more.
+    void removeCounting(const ReadingModel& reading);
 
 private:
     using Likeness = std::tuple<QString, Date, std::uint32_t, std::uint32_t, std::uint32_t>;
     static Likeness likeness(const ReadingModel& reading, Instant time);
 
     LocalZone zone;
-    std::set<Likeness> counting;
-    std::set<Likeness> measured; ///< of these, by what the monitor's clock showed
+    std::multiset<Likeness> counting;
+    std::multiset<Likeness> measured; ///< of these, by what the monitor's clock showed
     std::set<std::pair<QString, QString>> numbers;
 };
 

@@ -33,13 +33,19 @@ bool mayBringTyped(const ElementChange& change) {
     return change.after.startsWith("<MeasureRec") && change.after.contains("manual");
 }
 
+/// The same of one that counted, and is left out or taken away.
+bool mayEndCounting(const ElementChange& change) {
+    return change.before.startsWith("<MeasureRec")
+           && (change.after.isEmpty() || change.after.contains("<Excluded"));
+}
+
 class StepMerge {
 public:
     explicit StepMerge(pugi::xml_node documentRoot) : root{documentRoot}, index{documentRoot} {}
 
     [[nodiscard]] StoreResult make(ChangeStep& step) {
         if (isThereAgain(step)) return stepError(StoreErrorCode::stepThere);
-        if (std::ranges::any_of(step.changes, mayBringTyped)) atFirst.emplace(root);
+        if (std::ranges::any_of(step.changes, mayBringTyped)) readBefore(step);
         for (ElementChange& change : step.changes)
             if (StoreResult made = make(change); !made) return made;
         return belongsTogether();
@@ -54,6 +60,20 @@ private:
         const bool isSetting = isElement(after.node(), "SystemSetting");
         return isSetting ? static_cast<bool>(firstElement(root, "SystemSetting"))
                          : isElement(after.node(), "Comment") && index.same(after.node());
+    }
+
+    /// What the step itself leaves out or takes away stands in the way of nothing that it brings.
+    void readBefore(const ChangeStep& step) {
+        atFirst.emplace(root);
+        for (const ElementChange& change : step.changes) {
+            if (!mayEndCounting(change)) continue;
+            const Fragment before{change.before};
+            const RootIndex::Nodes& alike = index.alike(before.node());
+            if (alike.empty()) continue;
+            const pugi::xml_node same = index.same(before.node());
+            const auto ends = ReadingModel::initWithXMLNode(same ? same : alike.front());
+            if (!ends.isExcluded()) atFirst->removeCounting(ends);
+        }
     }
 
     [[nodiscard]] StoreResult make(ElementChange& change) {

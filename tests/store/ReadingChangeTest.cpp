@@ -203,6 +203,20 @@ TEST_F(ReadingChangeTest, NoReadingIsThereTwice) {
     ASSERT_TRUE(store.addReading(u"B"_s, typed("2026-11-20 07:30", 150, 90, 71))) << "another patient's";
 }
 
+TEST_F(ReadingChangeTest, WhatTheMonitorsClockShowedIsNotTypedInAgainElsewhere) {
+    setData({});
+    const InZone tokyo{"Asia/Tokyo"};
+    ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 08:00")}));
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 10:00")));
+    const InZone berlin{"Europe/Berlin"};
+    EXPECT_EQ(codeOf(store.addReading(u"A"_s, typed("2026-11-19 08:00"))), readingKnown);
+    EXPECT_EQ(codeOf(store.addReading(u"A"_s, typed("2026-11-19 00:00"))), readingKnown) << "by its instant";
+    EXPECT_EQ(codeOf(store.changeReading(readings().back(), typed("2026-11-19 08:00"))), readingKnown);
+    EXPECT_EQ(codeOf(store.addReading(u"A"_s, typed("2026-11-19 02:00"))), readingKnown);
+    EXPECT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 10:00"))) << "what was typed has an instant only";
+    EXPECT_EQ(shown(), "120/80 120/80m 120/80m ");
+}
+
 TEST_F(ReadingChangeTest, SavingNothingWritesNothing) {
     ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-20 07:30", 150, 90, 71)));
     const ReadingModel added = readings().back();

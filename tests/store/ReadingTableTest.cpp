@@ -225,6 +225,7 @@ TEST_F(ReadingTableTest, KnownPatientIsAddedToOnlyWhenNamedAndAsByADownload) {
         refusal(titles + QByteArray{fresh}.replace("Ann", "Bob"), intoA, Refusal::otherNames).toStdString(),
         HasSubstr("another person"));
 
+    const std::string before = readings(u"A"_s);
     const auto counts = import(titles + QByteArray{known}.replace("A,,", "A,Ann,")
                                    + QByteArray{typed}.replace("A,,", "A,Ann,") + fresh,
                                intoA);
@@ -237,6 +238,8 @@ TEST_F(ReadingTableTest, KnownPatientIsAddedToOnlyWhenNamedAndAsByADownload) {
               "1000002 20261119 060000 60 0 71 92 141 108 49 0 manual !measured by the monitor, too\n"
               "1000003 20261119 060000 60 0 71 92 141 108 49 0\n"
               "1000004 19991231 230000 undated 4 60 80 120 93 40 0\n");
+    EXPECT_TRUE(store.undo());
+    EXPECT_EQ(readings(u"A"_s), before) << "what was typed counts again";
 }
 
 TEST_F(ReadingTableTest, EveryLineThatCannotBeTakenIsTold) {
