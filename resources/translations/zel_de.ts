@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>Die Messung gehört zum Patienten „%1“, nicht zu „%2“.</translation></message>
     <message id="TablePulsePressure"><translation>Ein Pulsdruck von %1 passt nicht zu %2/%3: Ist jede Spalte richtig zugeordnet?</translation></message>
     <message id="TableQuotation"><translation>Ein Anführungszeichen ist am Ende seiner Zelle nicht geschlossen.</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n von Hand eingegebene Messung ist ab jetzt ausgeschlossen (auch vom Messgerät gemessen).</numerusform><numerusform>%n von Hand eingegebene Messungen sind ab jetzt ausgeschlossen (auch vom Messgerät gemessen).</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>%1 ist nicht lesbar; darin steht, ab welchen Grenzwerten Werte markiert werden. Bis neue Grenzwerte gewählt sind, werden Werte ab %2/%3 mmHg markiert.</translation></message>
     <message id="Warning"><translation>Warnung</translation></message>
     <message id="XmlAttributeTwice"><translation>Ein Element hat dasselbe Attribut zweimal.</translation></message>
@@ -1381,6 +1382,9 @@ auf der Standardfehlerausgabe sagt, wie viele der ausgegebenen Messungen das sin
 Messung ist als manual gekennzeichnet; Blutdruck und Puls sind ganze Zahlen von 30 bis 300, der
 diastolische Blutdruck liegt unter dem systolischen und die Zeit nicht in der Zukunft. --add gibt
 'record: RECORD' aus. Nur von Hand eingegebene Messungen lassen sich ändern oder löschen.
+Mit --include bleibt eine von Hand eingegebene ausgeschlossen, die doppelt zählen würde oder sich so nicht
+eingeben ließe. Zählt eine Messung des Messgeräts wieder mit, so ist dieselbe von Hand eingegebene ab dann
+ausgeschlossen und wird als 'left-out' gezählt.
 
 Optionen:
   --patient ID                 wessen Messungen

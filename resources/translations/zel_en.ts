@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>The reading is of the patient “%1”, not of “%2”.</translation></message>
     <message id="TablePulsePressure"><translation>A pulse pressure of %1 does not go with %2/%3: is each column what it is taken for?</translation></message>
     <message id="TableQuotation"><translation>A quotation mark is not closed at the end of its cell.</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n reading that was typed in is left out from now on (measured by the monitor, too).</numerusform><numerusform>%n readings that were typed in are left out from now on (measured by the monitor, too).</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>%1, which says from where on values are marked, cannot be read. Until limits are chosen anew, values are marked from %2/%3 mmHg on.</translation></message>
     <message id="Warning"><translation>Warning</translation></message>
     <message id="XmlAttributeTwice"><translation>An element has the same attribute twice.</translation></message>
@@ -1370,6 +1371,9 @@ out stays in the file and in the list, with its reason, and counts nowhere; a se
 how many of the readings printed are such. A reading that is typed in is marked as manual; the pressures and
 the pulse are whole numbers from 30 to 300, the diastolic pressure is below the systolic one, and the time is
 not in the future. --add prints 'record: RECORD'. Only readings that were typed in can be changed or deleted.
+With --include, one that was typed in and would count twice, or could not be typed in, stays left out. Where one
+that the monitor measured counts again, the same one typed in is left out from then on, and counted as
+'left-out'.
 
 Options:
   --patient ID                 whose readings

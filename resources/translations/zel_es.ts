@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>La medición es del paciente «%1», no de «%2».</translation></message>
     <message id="TablePulsePressure"><translation>Una presión de pulso de %1 no concuerda con %2/%3: ¿está bien asignada cada columna?</translation></message>
     <message id="TableQuotation"><translation>Unas comillas no se cierran al final de su celda.</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n medición introducida a mano queda excluida desde ahora (también medida por el tensiómetro).</numerusform><numerusform>%n mediciones introducidas a mano quedan excluidas desde ahora (también medidas por el tensiómetro).</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>No se puede leer %1, donde consta a partir de qué límites se marcan los valores. Mientras no se elijan otros, se marcan a partir de %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Aviso</translation></message>
     <message id="XmlAttributeTwice"><translation>Un elemento tiene dos veces el mismo atributo.</translation></message>
@@ -1375,6 +1376,9 @@ salida de error dice cuántas de las mediciones listadas lo están. Una medició
 marca 'introducida'; las presiones y el pulso son números enteros de 30 a 300, la presión diastólica es
 inferior a la sistólica y la hora no está en el futuro. --add muestra 'record: RECORD'. Solo se pueden cambiar
 o eliminar las mediciones introducidas a mano.
+Con --include, una introducida a mano que contaría dos veces, o que no se podría introducir así, sigue excluida.
+Cuando vuelve a contar una medida por el tensiómetro, la misma introducida a mano queda excluida desde entonces,
+y se cuenta como 'left-out'.
 
 Opciones:
   --patient ID                 de quién son las mediciones

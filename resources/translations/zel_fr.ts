@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>La mesure est celle du patient « %1 », et non de « %2 ».</translation></message>
     <message id="TablePulsePressure"><translation>Une pression pulsée de %1 ne va pas avec %2/%3 : les colonnes sont-elles bien attribuées ?</translation></message>
     <message id="TableQuotation"><translation>Un guillemet n’est pas fermé à la fin de sa cellule.</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n mesure saisie à la main est désormais exclue (également enregistrée par le tensiomètre).</numerusform><numerusform>%n mesures saisies à la main sont désormais exclues (également enregistrées par le tensiomètre).</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>%1, qui indique à partir de quelles valeurs marquer les mesures, est illisible. Tant que d’autres limites ne sont pas choisies, les valeurs sont marquées à partir de %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Attention</translation></message>
     <message id="XmlAttributeTwice"><translation>Un élément comporte deux fois le même attribut.</translation></message>
@@ -1379,6 +1380,9 @@ l’erreur standard dit combien des mesures affichées sont exclues. Une mesure 
 manual ; les pressions et le pouls sont des nombres entiers de 30 à 300, la pression diastolique est
 inférieure à la systolique, et l’heure n’est pas à venir. --add affiche 'record: RECORD'. Seules les
 mesures saisies à la main peuvent être modifiées ou supprimées.
+Avec --include, une mesure saisie à la main qui compterait deux fois, ou qui ne pourrait pas être saisie ainsi,
+reste exclue. Quand une mesure du tensiomètre compte de nouveau, la même saisie à la main est dès lors exclue,
+et comptée sous 'left-out'.
 
 Options :
   --patient ID                 les mesures de quel patient

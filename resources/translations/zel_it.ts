@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>La misurazione è del paziente “%1”, non di “%2”.</translation></message>
     <message id="TablePulsePressure"><translation>Una pressione differenziale di %1 non è compatibile con %2/%3: le colonne sono assegnate correttamente?</translation></message>
     <message id="TableQuotation"><translation>Alla fine della cella mancano le virgolette di chiusura.</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n misurazione inserita a mano è esclusa da ora in poi (presente anche nel misuratore).</numerusform><numerusform>%n misurazioni inserite a mano sono escluse da ora in poi (presenti anche nel misuratore).</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>Impossibile leggere %1, che indica a partire da quali limiti i valori vengono evidenziati. Finché non si scelgono nuovi limiti, i valori vengono evidenziati da %2/%3 mmHg in su.</translation></message>
     <message id="Warning"><translation>Avviso</translation></message>
     <message id="XmlAttributeTwice"><translation>Un elemento ha due volte lo stesso attributo.</translation></message>
@@ -1381,6 +1382,9 @@ standard error dice quante delle misurazioni mostrate sono escluse. Una misurazi
 contrassegnata come tale; le pressioni e il polso sono numeri interi da 30 a 300, la pressione diastolica è
 inferiore alla sistolica, la data e l'ora non sono nel futuro. --add stampa 'record: RECORD'. Solo le
 misurazioni inserite a mano si possono modificare o eliminare.
+Con --include, una inserita a mano che conterebbe due volte, o che non si potrebbe inserire così, resta esclusa.
+Quando torna a contare una del misuratore, la stessa inserita a mano è da allora esclusa, e contata come
+'left-out'.
 
 Opzioni:
   --patient ID                 di quale paziente

@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>Pomiar dotyczy pacjenta „%1”, a nie „%2”.</translation></message>
     <message id="TablePulsePressure"><translation>Ciśnienie tętna %1 nie pasuje do %2/%3: czy każda kolumna jest właściwie przypisana?</translation></message>
     <message id="TableQuotation"><translation>Cudzysłów nie jest zamknięty na końcu komórki.</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n pomiar wpisany ręcznie jest odtąd pominięty (zapisany także przez ciśnieniomierz).</numerusform><numerusform>%n pomiary wpisane ręcznie są odtąd pominięte (zapisane także przez ciśnieniomierz).</numerusform><numerusform>%n pomiarów wpisanych ręcznie jest odtąd pominiętych (zapisanych także przez ciśnieniomierz).</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>Nie można odczytać pliku %1, w którym zapisano, od jakich granic oznacza się wartości. Do czasu ponownego wyboru granic wartości są oznaczane od %2/%3 mmHg.</translation></message>
     <message id="Warning"><translation>Uwaga</translation></message>
     <message id="XmlAttributeTwice"><translation>Ten sam atrybut występuje w elemencie dwukrotnie.</translation></message>
@@ -1372,6 +1373,9 @@ w pliku i na liście, wraz z powodem, i nigdzie się nie liczy; zdanie na wyjśc
 z wyświetlonych pomiarów pominięto. Pomiar wpisany ręcznie jest oznaczony jako manual; ciśnienia i tętno to
 liczby całkowite od 30 do 300, ciśnienie rozkurczowe jest niższe od skurczowego, a data i godzina
 nie są w przyszłości. --add wyświetla 'record: RECORD'. Zmieniać i usuwać można tylko pomiary wpisane ręcznie.
+Z --include pomiar wpisany ręcznie, który liczyłby się dwa razy albo którego nie można by tak wpisać, pozostaje
+pominięty. Gdy pomiar z ciśnieniomierza znów się liczy, taki sam wpisany ręcznie jest odtąd pomijany i liczony
+jako 'left-out'.
 
 Opcje:
   --patient ID                 czyje pomiary

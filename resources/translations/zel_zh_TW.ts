@@ -128,6 +128,7 @@
     <message id="TableOtherPatient"><translation>此量測屬於病患「%1」，不屬於「%2」。</translation></message>
     <message id="TablePulsePressure"><translation>脈壓 %1 與 %2/%3 不符：各欄的對應是否正確？</translation></message>
     <message id="TableQuotation"><translation>引號未在儲存格結尾關閉。</translation></message>
+    <message id="takenInTypedLeftOut" numerus="yes"><translation><numerusform>%n 筆手動輸入的量測從此排除（血壓計也有這筆量測）。</numerusform></translation></message>
     <message id="ViewLimitsUnread"><translation>無法讀取 %1，其中記錄了標示數值的上限。在您重新選擇上限之前，達到 %2/%3 mmHg 的數值會加上標示。</translation></message>
     <message id="Warning"><translation>警告</translation></message>
     <message id="XmlAttributeTwice"><translation>有一個元素的同一屬性出現兩次。</translation></message>
@@ -1354,6 +1355,8 @@ date,time,sys,dia,pulse,map,pp,mam,arrhythmia。壓力單位為 mmHg，脈搏單
 檔案與清單中，但不計入任何結果；標準錯誤會說明輸出的量測中有幾筆已排除。手動輸入的量測會標記為
 manual；壓力與脈搏為 30 到 300 的整數，舒張壓低於收縮壓，而且時間不能在未來。--add 會輸出
 'record: RECORD'。只有手動輸入的量測可以變更或刪除。
+使用 --include 時，手動輸入的量測若會重複計入，或無法以手動輸入，則維持排除。重新計入血壓計的量測時，
+相同的手動輸入量測從此予以排除，並計入 'left-out'。
 
 選項：
   --patient ID                 病患的 ID

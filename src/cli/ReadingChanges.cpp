@@ -80,13 +80,15 @@ CommandResult excludeOne(const Request& request, DataStore& store, Surroundings&
     });
 }
 
-CommandResult includeOne(const Request& request, DataStore& store, Surroundings&) {
+CommandResult includeOne(const Request& request, DataStore& store, Surroundings& around) {
     return readingOf(request, u"include"_s, store).and_then([&](const ReadingModel& reading) {
         if (!reading.isExcluded())
             return CommandResult(failed(qtTrId("CliNotExcluded").arg(reading.RecID.text())));
-        const auto still = store.includeReadings({reading});
-        if (still && !still->isNone()) return CommandResult(failed(describe(*still)));
-        return doneOrFailed(still.map([](const StillLeftOut&) {}));
+        const auto taken = store.includeReadings({reading});
+        if (!taken) return CommandResult(failed(describe(taken.error())));
+        if (!taken->still.isNone()) return CommandResult(failed(describe(taken->still)));
+        if (taken->leftOut > 0) printLine(around.out, u"left-out: "_s + QString::number(taken->leftOut));
+        return CommandResult();
     });
 }
 

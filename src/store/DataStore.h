@@ -159,8 +159,9 @@ public:
     /// \return noReason if exclusionReason() makes nothing of it
     [[nodiscard]] StoreResult excludeReadings(const ReadingList& asRead, const QString& reason);
     /// Has them count again, but for typed ones that cannot: nothing counts twice, and what nobody can type
-    /// in counts nowhere. \return those, how many and why
-    [[nodiscard]] tl::expected<StillLeftOut, StoreError> includeReadings(const ReadingList& asRead);
+    /// in counts nowhere. For each that was measured, one typed in with its minute and values is left out.
+    /// \return those, how many and why
+    [[nodiscard]] tl::expected<TakenInAgain, StoreError> includeReadings(const ReadingList& asRead);
     /// Stores a reading that was typed in. \return its number; readingRefused as manualProblem() has it;
     /// readingKnown if the patient has one of that minute with these values, for one that was measured also
     /// by the minute that the monitor's clock showed; noSuchRecord without the patient
@@ -220,7 +221,9 @@ private:
     [[nodiscard]] StoreResult editAndReload(const DataFile::Change& change);
     [[nodiscard]] StoreResult editAsStepAndReload(const StepChange& change);
     template <class Change>
-    [[nodiscard]] StoreResult changeReadings(StepKind kind, const ReadingList& asRead, const Change& change);
+    [[nodiscard]] StoreResult
+    changeReadings(StepKind kind, const ReadingList& asRead, const Change& change,
+                   const std::function<void(pugi::xml_node root, StepRecorder& recorder)>& follow = {});
     [[nodiscard]] DataTransferLogModel newDataLog(const Records& stored, const QString& ID,
                                                   std::size_t count) const;
     void keepSelectedComment();

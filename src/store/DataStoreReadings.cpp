@@ -2,6 +2,7 @@
 
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
+#include "store/ManualReading.h"
 #include "store/NewReadings.h"
 #include "store/ReadingsBefore.h"
 #include "store/RecordXml.h"
@@ -10,6 +11,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <tuple>
 
 namespace zel {
@@ -96,6 +99,26 @@ bool hasSameReading(pugi::xml_node root, const ReadingModel& wanted, pugi::xml_n
     }));
 }
 
+/// Those that are to count again.
+ReadingList measuredAgain(const ReadingList& takenIn) {
+    ReadingList measured;
+    std::ranges::copy_if(takenIn, std::back_inserter(measured), [](const ReadingModel& reading) {
+        return isDownloaded(reading) && reading.isExcluded();
+    });
+    return measured;
+}
+
+/// As a download does. \p measured: one patient's \return how many
+int leaveOutTyped(pugi::xml_node root, const ReadingList& measured, StepRecorder& recorder) {
+    if (measured.empty()) return 0;
+    const auto typed = typedMeanwhileMeasured(root, measured.front().ID, measured);
+    for (const pugi::xml_node element : typed) {
+        recorder.willChange(element);
+        leaveOutAsMeasured(element);
+    }
+    return static_cast<int>(typed.size());
+}
+
 /// Which of the typed readings that are taken in again may count.
 class CountingAgain {
 public:
@@ -123,9 +146,11 @@ private:
 
 } // namespace
 
-/// The change of readings that are found as they were read; \p change makes one of them.
+/// The change of readings that are found as they were read; \p change makes one of them, \p follow what
+/// follows for others, which the step's name does not count.
 template <class Change>
-StoreResult DataStore::changeReadings(StepKind kind, const ReadingList& asRead, const Change& change) {
+StoreResult DataStore::changeReadings(StepKind kind, const ReadingList& asRead, const Change& change,
+                                      const std::function<void(pugi::xml_node, StepRecorder&)>& follow) {
     if (asRead.empty()) return {};
     StoreResult found;
     // By value: they may be of the records that are read anew after a failed load.
@@ -139,6 +164,7 @@ StoreResult DataStore::changeReadings(StepKind kind, const ReadingList& asRead, 
             found = change((*elements)[i], asRead[i], recorder);
         const std::size_t made = recorder.step().changes.size();
         nameReadingStep(recorder, kind, root, asRead.front().ID, made);
+        if (found && made > 0 && follow) follow(root, recorder);
         return found && made > 0 ? Edit::changed : Edit::unchanged;
     });
     return changed && !found ? found : changed;
@@ -158,8 +184,8 @@ StoreResult DataStore::excludeReadings(const ReadingList& asRead, const QString&
         });
 }
 
-tl::expected<StillLeftOut, StoreError> DataStore::includeReadings(const ReadingList& asRead) {
-    StillLeftOut still;
+tl::expected<TakenInAgain, StoreError> DataStore::includeReadings(const ReadingList& asRead) {
+    TakenInAgain taken;
     std::optional<CountingAgain> counting; // reads all, which readings of a monitor have no need of
     const auto changed = changeReadings(
         StepKind::includeReadings, asRead,
@@ -167,14 +193,17 @@ tl::expected<StillLeftOut, StoreError> DataStore::includeReadings(const ReadingL
             if (before.isManual && !counting)
                 counting.emplace(element.parent(), asRead,
                                  std::chrono::floor<Instant::duration>(clock.now()));
-            if (counting && counting->stays(before, still)) return StoreResult{};
+            if (counting && counting->stays(before, taken.still)) return StoreResult{};
             ReadingModel included = before;
             included.exclusion = QString{};
             recorder.willChange(element);
             included.changeXMLNode(element, before);
             return StoreResult{};
+        },
+        [&taken, measured = measuredAgain(asRead)](pugi::xml_node root, StepRecorder& recorder) {
+            taken.leftOut = leaveOutTyped(root, measured, recorder);
         });
-    return changed.map([&still] { return still; });
+    return changed.map([&taken] { return taken; });
 }
 
 tl::expected<QString, StoreError> DataStore::addReading(const QString& ID, const ManualReading& typed) {

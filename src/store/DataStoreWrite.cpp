@@ -1,7 +1,6 @@
 #include "store/DataStore.h"
 #include "store/DocumentElements.h"
 #include "store/Log.h"
-#include "store/ManualReading.h"
 #include "store/NewReadings.h"
 #include "store/RecordXml.h"
 #include "store/Text.h"
@@ -68,16 +67,6 @@ void number(ReadingList& readings, const QString& ID, QString next) {
         reading.ID = ID;
         reading.RecID = next;
         next = IncreaseID(next);
-    }
-}
-
-/// So that nothing that was measured counts twice.
-void leaveOutTyped(const std::vector<pugi::xml_node>& elements) {
-    for (const pugi::xml_node element : elements) {
-        const auto before = ReadingModel::initWithXMLNode(element);
-        ReadingModel excluded = before;
-        excluded.exclusion = measuredReason.toString();
-        excluded.changeXMLNode(element, before);
     }
 }
 
@@ -272,7 +261,7 @@ tl::expected<TransferCounts, StoreError> DataStore::newDataTransfer(const QStrin
         counts.added = added.size();
         if (added.empty()) return Edit::unchanged;
         const auto typed = typedMeanwhileMeasured(root, ID, added);
-        leaveOutTyped(typed);
+        std::ranges::for_each(typed, leaveOutAsMeasured); // so that nothing that was measured counts twice
         counts.leftOut = typed.size();
         number(added, ID, current.getMaxID(Counter::reading));
         saveXMLDataTransfer(root, newDataLog(current, ID, counts.added), added);

@@ -99,6 +99,13 @@ QString describe(const StillLeftOut& readings) {
     return lines.join(u'\n');
 }
 
+QString describe(const TakenInAgain& readings) {
+    QStringList lines;
+    if (!readings.still.isNone()) lines += describe(readings.still);
+    if (readings.leftOut > 0) lines += qtTrId("takenInTypedLeftOut", readings.leftOut);
+    return lines.join(u'\n');
+}
+
 QString exclusionReason(const QString& typed) {
     QString kept;
     std::ranges::copy_if(typed.simplified(), std::back_inserter(kept), isPlain);

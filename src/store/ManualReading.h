@@ -56,6 +56,14 @@ struct StillLeftOut {
 /// In plain words, a line for each reason; empty for none.
 [[nodiscard]] QString describe(const StillLeftOut& readings);
 
+/// What is to be told once readings were taken in again.
+struct TakenInAgain {
+    StillLeftOut still;
+    int leftOut = 0; ///< typed ones that are left out from now on, since the same measured ones count again
+};
+/// In plain words, as above.
+[[nodiscard]] QString describe(const TakenInAgain& readings);
+
 /// Why a typed reading is left out when the monitor brings the same one: as it is stored, in every language.
 inline constexpr QStringView measuredReason{u"measured by the monitor, too"};
 

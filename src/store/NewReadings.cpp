@@ -1,6 +1,7 @@
 #include "store/NewReadings.h"
 
 #include "store/DocumentElements.h"
+#include "store/ManualReading.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -181,6 +182,13 @@ std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QS
     take([&](const TypedElement& each) { return shown.matchWall(each.wall); }); // as above
     take([&](const TypedElement& each) { return shown.matchInstant(each.instant); });
     return found;
+}
+
+void leaveOutAsMeasured(pugi::xml_node element) {
+    const auto before = ReadingModel::initWithXMLNode(element);
+    ReadingModel excluded = before;
+    excluded.exclusion = measuredReason.toString();
+    excluded.changeXMLNode(element, before);
 }
 
 } // namespace zel

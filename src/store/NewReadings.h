@@ -25,5 +25,7 @@ namespace zel {
 /// \p measured: they were typed off the monitor, and would count twice.
 [[nodiscard]] std::vector<pugi::xml_node> typedMeanwhileMeasured(pugi::xml_node root, const QString& ID,
                                                                  const ReadingList& measured);
+/// Leaves the reading of the element out, with measuredReason.
+void leaveOutAsMeasured(pugi::xml_node element);
 
 } // namespace zel

@@ -1,5 +1,4 @@
 #include "store/DocumentElements.h"
-#include "store/ManualReading.h"
 #include "store/NewReadings.h"
 #include "store/ReadingTable.h"
 #include "store/Records.h"
@@ -83,11 +82,8 @@ private:
             if (matches.isNew(i) && !reading.isManual && !reading.isExcluded()) measured.push_back(reading);
         }
         for (const pugi::xml_node element : typedMeanwhileMeasured(root, patient.ID, measured)) {
-            const auto before = ReadingModel::initWithXMLNode(element);
-            ReadingModel excluded = before;
-            excluded.exclusion = measuredReason.toString();
             recorder.willChange(element);
-            excluded.changeXMLNode(element, before);
+            leaveOutAsMeasured(element);
             ++counts.leftOut;
         }
     }

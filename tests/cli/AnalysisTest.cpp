@@ -227,6 +227,10 @@ TEST_F(AnalysisTest, ReadingThatTheMonitorMeasuredTooIsToldAndStaysLeftOut) {
     EXPECT_EQ(refused.status, 1);
     EXPECT_THAT(refused.err, testing::HasSubstr("the same values counts already"));
     EXPECT_EQ(flatData(), before);
+    EXPECT_EQ(zel({u"readings"_s, u"--patient=M1"_s, u"--exclude=1000006"_s, u"--reason=x"_s}).status, 0);
+    EXPECT_EQ(of("readings --include 1000005"), "");
+    EXPECT_EQ(of("readings --include 1000006"), "left-out: 1\n") << "what was measured is taken in";
+    EXPECT_EQ(flatData(), before);
 }
 
 } // namespace

@@ -294,7 +294,7 @@ TEST_F(ReadingChangeTest, WhatIsTakenInAgainCountsOnceAndCouldBeTypedIn) {
     const RealTexts texts;
     const auto refused = [this](const ReadingList& takenIn) {
         const QByteArray before = content();
-        const QString why = describe(store.includeReadings(takenIn).value_or(StillLeftOut{}));
+        const QString why = describe(store.includeReadings(takenIn).value_or(TakenInAgain{}));
         EXPECT_EQ(content() == before, !why.isEmpty());
         return why;
     };
@@ -314,6 +314,18 @@ TEST_F(ReadingChangeTest, WhatIsTakenInAgainCountsOnceAndCouldBeTypedIn) {
         EXPECT_EQ(store.changes().undoable()->name.count, 1U);
         ASSERT_TRUE(store.excludeReadings({readings()[1]}, u"cuff"_s));
         EXPECT_EQ(refused({readings()[0]}), QString{}) << "nothing else of that minute counts";
+
+        const QByteArray before = content();
+        EXPECT_EQ(shown(), "120/80m 120/80!cuff ");
+        EXPECT_EQ(describe(*store.includeReadings({readings()[1]})),
+                  u"1 reading that was typed in is left out from now on (measured by the monitor, too)."_s);
+        EXPECT_EQ(store.changes().undoable()->name.count, 1U) << "one is taken in";
+        const std::string after = "120/80!measured by the monitor, toom 120/80 ";
+        EXPECT_EQ(shown(), after);
+        EXPECT_TRUE(store.undo()) << "what the step itself takes away is in no one's way";
+        EXPECT_EQ(content(), before);
+        EXPECT_TRUE(store.redo());
+        EXPECT_EQ(shown(), after);
     }
     const QByteArray typedIn =
         "<MeasureRec><ID>A</ID><ReadingDate>2026-11-19T07:00:00+00:00</ReadingDate><Sys>120"
@@ -340,7 +352,12 @@ TEST_F(ReadingChangeTest, OneMeasuredReadingStandsForOneTypedOne) {
     ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 15:00")));
     const InZone tokyo{"Asia/Tokyo"}; // 15:00 there is the instant of 07:00
     ASSERT_TRUE(store.newDataTransfer({downloaded("2026-11-19 15:00")}));
-    EXPECT_EQ(shown(), "120/80m 120/80!measured by the monitor, toom 120/80 ");
+    const std::string byWall = "120/80m 120/80!measured by the monitor, toom 120/80 ";
+    EXPECT_EQ(shown(), byWall);
+    ASSERT_TRUE(store.excludeReadings({readings()[2]}, u"x"_s));
+    ASSERT_TRUE(store.includeReadings({readings()[1]}));
+    EXPECT_EQ(store.includeReadings({readings()[2]}).value_or(TakenInAgain{}).leftOut, 1);
+    EXPECT_EQ(shown(), byWall) << "as by a download";
 }
 
 TEST_F(ReadingChangeTest, NothingComesBackBesideWhatADownloadBrought) {

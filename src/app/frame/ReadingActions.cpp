@@ -128,9 +128,10 @@ void ReadingActions::leaveOut() {
 
 /// The others that are chosen count already.
 void ReadingActions::takeIn() {
-    const auto still = parts.store.includeReadings(copies(isLeftOut));
-    isDone(still.map([](const StillLeftOut&) {}));
-    if (still && !still->isNone()) parts.panel.ShowMessage(describe(*still), qtTrId("Warning"));
+    const auto taken = parts.store.includeReadings(copies(isLeftOut));
+    isDone(taken.map([](const TakenInAgain&) {}));
+    const QString remark = taken ? describe(*taken) : QString();
+    if (!remark.isEmpty()) parts.panel.ShowMessage(remark, qtTrId("Warning"));
 }
 
 void ReadingActions::typeIn() {

@@ -222,6 +222,13 @@ TEST_F(ReadingActionsTest, whatWouldCountTwiceStaysLeftOutAndIsTold) {
     pressKeyOf("takeInReadings");
     EXPECT_EQ(shown(), u"121 125 123 122!m 122"_s);
     EXPECT_EQ(panel.messages, QStringList{u"Warning: "_s + qtTrId("stillLeftOutTwice", 1)});
+    ASSERT_TRUE(store.excludeReadings({store.getReadingForCurID()[4]}, u"x"_s));
+    ASSERT_TRUE(store.includeReadings({store.getReadingForCurID()[3]}));
+    EXPECT_EQ(shown(), u"121 125 123 122m 122!"_s);
+    comeBack();
+    pressKeyOf("takeInReadings");
+    EXPECT_EQ(shown(), u"121 125 123 122!m 122"_s);
+    EXPECT_EQ(panel.messages.back(), u"Warning: "_s + qtTrId("takenInTypedLeftOut", 1));
 }
 
 TEST_F(ReadingActionsTest, dateAndTimeAreStoredAsTypedOrRefusedInWordsHoweverTheFieldsAreEntered) {
