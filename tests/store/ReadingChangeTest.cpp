@@ -294,7 +294,7 @@ TEST_F(ReadingChangeTest, WhatIsTakenInAgainCountsOnceAndCouldBeTypedIn) {
     const RealTexts texts;
     const auto refused = [this](const ReadingList& takenIn) {
         const QByteArray before = content();
-        const QString why = describe(store.includeReadings(takenIn).value_or(TakenInAgain{}));
+        QString why = describe(store.includeReadings(takenIn).value_or(TakenInAgain{}));
         EXPECT_EQ(content() == before, !why.isEmpty());
         return why;
     };

@@ -23,7 +23,7 @@ QString describe(const DownloadOutcome& outcome) {
     if (outcome.downloaded == 0) return qtTrId("downloadEmpty");
     const QString fetched = qtTrId("downloadFetched", static_cast<int>(outcome.downloaded));
     if (outcome.added == 0) return qtTrId("downloadNothingNew").arg(fetched);
-    const QString added = qtTrId("downloadNew", static_cast<int>(outcome.added)).arg(fetched);
+    QString added = qtTrId("downloadNew", static_cast<int>(outcome.added)).arg(fetched);
     if (outcome.leftOut == 0) return added;
     return added + qtTrId("; ") + qtTrId("downloadTypedLeftOut", static_cast<int>(outcome.leftOut));
 }
