@@ -73,7 +73,7 @@ StoreResult saveSetting(DataStore& store) {
 
 StoreResult saveExclusion(DataStore& store) {
     const ReadingList one{store.getReadingForCurID().front()};
-    return one.front().isExcluded() ? store.includeReadings(one).map([](const StillLeftOut&) {})
+    return one.front().isExcluded() ? store.includeReadings(one).map([](const TakenInAgain&) {})
                                     : store.excludeReadings(one, QStringLiteral("too early"));
 }
 

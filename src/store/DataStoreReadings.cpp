@@ -238,7 +238,9 @@ StoreResult DataStore::changeReading(const ReadingModel& asRead, const ManualRea
     return changeReadings(
         StepKind::editReading, {asRead},
         [&typed](pugi::xml_node element, const ReadingModel& before, StepRecorder& recorder) -> StoreResult {
-            const ReadingModel changed = typed.writtenOver(before);
+            ReadingModel changed = typed.writtenOver(before);
+            // What the monitor measured, too, was another one.
+            if (before.exclusion == measuredReason && !changed.isSame(before)) changed.exclusion = QString{};
             if (hasSameReading(element.parent(), changed, element))
                 return readingError(StoreErrorCode::readingKnown, before.ID);
             recorder.willChange(element);

@@ -68,6 +68,7 @@ int hourOfDay(int typed, Half half, bool is12Hours) {
 
 QDate typedDay(const QString& text, const QString& pattern) {
     const QString order = letters(pattern);
+    if (order.startsWith(u'M') && text.contains(u'.')) return {};
     const QStringList parts = numbers(text.trimmed(), order);
     if (parts.size() != order.size()) return {};
     QHash<QChar, int> number;

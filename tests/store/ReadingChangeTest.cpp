@@ -290,6 +290,21 @@ TEST_F(ReadingChangeTest, WhatTheMonitorMeasuredIsStoredWhateverWasTyped) {
     EXPECT_EQ(shown(), "120/80!ym 120/80 ") << "left out before: as it was";
 }
 
+TEST_F(ReadingChangeTest, WhatIsChangedIsNotWhatTheMonitorMeasured) {
+    ASSERT_TRUE(store.addReading(u"A"_s, typed("2026-11-19 07:00")));
+    ASSERT_EQ(store.newDataTransfer({downloaded("2026-11-19 07:00")}), (TransferCounts{1, 1}));
+    for (const auto& [time, excluded] : {std::pair{"2026-11-19 07:00", 1}, {"2026-11-19 07:01", 0}}) {
+        const ReadingModel byHand = *std::ranges::find_if(readings(), &ReadingModel::isManual);
+        EXPECT_TRUE(store.changeReading(byHand, typed(time)));
+        EXPECT_EQ(content().count("<Excluded>"), excluded) << time;
+    }
+    const ReadingModel byHand = *std::ranges::find_if(readings(), &ReadingModel::isManual);
+    ASSERT_TRUE(store.excludeReadings({byHand}, u"stairs"_s));
+    ASSERT_TRUE(store.changeReading(*std::ranges::find_if(readings(), &ReadingModel::isManual),
+                                    typed("2026-11-19 07:02")));
+    EXPECT_EQ(content().count("<Excluded>"), 1) << "a reason of the user's own stays";
+}
+
 TEST_F(ReadingChangeTest, WhatIsTakenInAgainCountsOnceAndCouldBeTypedIn) {
     const RealTexts texts;
     const auto refused = [this](const ReadingList& takenIn) {

@@ -17,11 +17,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString pressure(const PressureMeans& means) {
-    return u"%1/%2"_s.arg(means.sys.rounded()).arg(means.dia.rounded());
+/// Beside the rule's thresholds, like the next.
+QString pressure(const PressureMeans& means, AverageRule rule) {
+    const AverageRuleFacts& facts = factsOf(rule);
+    return means.sys.roundedBeside(facts.sysThreshold) + u'/' + means.dia.roundedBeside(facts.diaThreshold);
 }
 
-/// To a tenth, beside the rule's thresholds.
+/// To a tenth.
 QString tenths(const PressureMeans& means, AverageRule rule) {
     const AverageRuleFacts& facts = factsOf(rule);
     return means.sys.withTenthsBeside(facts.sysThreshold) + u'/'
@@ -145,7 +147,7 @@ void MeasuringWeekPanel::showEnd(DayNumber end) {
 void MeasuringWeekPanel::showMeans(const MeasuringWeek& week) {
     const PressureMeans& all = week.all;
     const bool isNone = week.readingsUsed() == 0;
-    lblWeekMean->setText(isNone ? qtTrId("weekNoMean") : qtTrId("weekMean").arg(pressure(all)));
+    lblWeekMean->setText(isNone ? qtTrId("weekNoMean") : qtTrId("weekMean").arg(pressure(all, week.rule)));
     const bool hasPulse = all.pulse.count() > 0;
     lblWeekMean->setToolTip(isNone ? QString()
                                    : qtTrId("weekMeanHint")
@@ -154,7 +156,8 @@ void MeasuringWeekPanel::showMeans(const MeasuringWeek& week) {
     QString threshold = isNone ? QString() : comparison(week);
     if (hasPulse) threshold += qtTrId(", ") + qtTrId("weekPulse").arg(all.pulse.rounded());
     lblWeekThreshold->setText(threshold);
-    lblWeekHalves->setText(halvesOf(week, pressure));
+    lblWeekHalves->setText(
+        halvesOf(week, [&week](const PressureMeans& half) { return pressure(half, week.rule); }));
     lblWeekHalves->setToolTip(
         halvesOf(week, [&week](const PressureMeans& half) { return tenths(half, week.rule); }));
 }

@@ -33,6 +33,7 @@ TEST_F(TypedDayTest, aDayIsTakenAsItIsOrRefusedInWordsHoweverTheFieldIsEntered) 
               {monthFirst, u"05/10/2025"_s, u"05/10/2025"_s},
               {monthFirst, u"05102025"_s, u"05/10/2025"_s},
               {monthFirst, u"13/10/2025"_s, {}},
+              {monthFirst, u"5.10.2025"_s, {}}, // or 5 October?
               {yearFirst, u"20251005"_s, u"2025/10/05"_s},
               {yearFirst, u"05/10/2025"_s, {}}};
     auto& field = find<QLineEdit>("beginDay");
