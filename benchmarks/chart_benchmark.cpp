@@ -7,6 +7,7 @@
 #include "chart/DrawChart.h"
 #include "chart/DrawTrend.h"
 #include "chart/PicturePainter.h"
+#include "chart/TrendCurves.h"
 #include "report/PrintView.h"
 
 #include <QApplication>
@@ -157,7 +158,7 @@ public:
     explicit ComparedTrend(const MadeReadings& made)
         : trend(calcTrendSeries(made.readings, {.period = made.period}, false)) {
         plot.setViewport(QRect(0, 0, width, height));
-        for (const auto measure : {&TrendPoint::sys, &TrendPoint::dia, &TrendPoint::pulse}) {
+        for (const auto measure : {TrendMeasure::sys, TrendMeasure::dia, TrendMeasure::pulse}) {
             QCPGraph* low = addGraph(measure, &TrendBand::low, Qt::NoPen);
             QCPGraph* high = addGraph(measure, &TrendBand::high, Qt::NoPen);
             high->setBrush(QColor(0, 0, 255, 40));
@@ -169,12 +170,12 @@ public:
     void paint() { plot.replot(QCustomPlot::rpQueuedRefresh); }
 
 private:
-    QCPGraph* addGraph(TrendBand TrendPoint::*measure, double TrendBand::*line, const QPen& pen) {
+    QCPGraph* addGraph(TrendMeasure measure, double TrendBand::*line, const QPen& pen) {
         QVector<double> days;
         QVector<double> values;
-        for (const TrendPoint& point : trend.series.front().points) {
-            days.push_back(static_cast<double>(point.begin));
-            values.push_back(point.*measure.*line);
+        for (const MeasuredStep& step : measuredSteps(trend.series.front(), measure)) {
+            days.push_back(static_cast<double>(step.begin));
+            values.push_back(step.band.*line);
         }
         QCPGraph* graph = plot.addGraph();
         graph->setPen(pen);
